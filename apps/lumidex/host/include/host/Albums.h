@@ -1,0 +1,15 @@
+#pragma once
+
+#include <zenvora/lumidex/Album.h>
+#include <zenvora/lumidex/DataModel.h>
+
+#include <atomic>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// Runs `Util::GenerateHolidayAlbums` and waits for its answer in an event loop of its own. Needs an application object.
+/// `cancel` (may be null): when set while waiting, throws `HostError`.
+std::vector<Album> ProposeAlbums(std::vector<DataModel> photos, const std::atomic<bool>* cancel);
+
+}  // namespace Zenvora::Lumidex::Host

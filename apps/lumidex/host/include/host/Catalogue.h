@@ -1,0 +1,112 @@
+#pragma once
+
+#include <host/HostError.h>
+
+#include <zenvora/core/ioPath.h>
+#include <zenvora/lumidex/Album.h>
+#include <zenvora/lumidex/DataModel.h>
+
+#include <QDateTime>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// Where a photo's date came from. The numbers are stored.
+enum class DateSource : int { None = 0, Original = 1, Digitised = 2, FileTime = 3 };
+
+/// "original", "digitised", "file time" or "none".
+const char* DateSourceName(DateSource source);
+
+/// One photo as the catalogue knows it.
+struct PhotoRecord {
+  QString id;                      ///< Empty in a record that is not stored yet.
+  ioPath path;                     ///< Absolute.
+  std::uint64_t size = 0;          ///< Bytes.
+  std::int64_t modifiedNs = 0;     ///< Modification time, nanoseconds since 1970-01-01 UTC.
+  QDateTime taken;                 ///< Local time of the camera; invalid: unknown.
+  DateSource takenSource = DateSource::None;
+  QString camera;
+  bool lost = false;               ///< The file was missing at the last scan of its folder.
+};
+
+/// What a scan compares to see whether a file is unchanged.
+struct FileStamp {
+  std::uint64_t size = 0;
+  std::int64_t modifiedNs = 0;
+  bool lost = false;
+};
+
+/// What accepting an album changed.
+struct AcceptResult {
+  QString albumId;
+  bool created = false;
+  int photosAdded = 0;
+};
+
+/// An album that the user accepted.
+struct StoredAlbum {
+  QString id;
+  QString name;
+  QDate firstDay;
+  std::vector<QString> photoIds;
+};
+
+/// The embedded catalogue: one SQLite file (with its -wal and -shm while open) that holds what is known of the photos and
+/// the accepted albums. docs/formats/catalogue.md has its tables.
+///
+/// Every call is one transaction: a kill at any moment leaves the last finished call. Several processes may use one
+/// catalogue at a time; a call waits up to `kBusyTimeoutMs` for another's write, then fails.
+/// It never deletes a photo's row: a vanished file is marked lost.
+///
+/// All functions throw `HostError` naming the catalogue and the cause (read-only, no database, damaged, newer than this
+/// program, disk full, busy). They block on the disk.
+/// Thread-safety: an object belongs to the thread that opened it (Qt's SQL connections do).
+class Catalogue {
+ public:
+  enum class Mode {
+    ReadWrite,  ///< Made with its folders when missing, brought up to date when older.
+    ReadOnly,   ///< Must exist. Nothing is written; an older schema is refused with a hint to run a scan.
+  };
+  static constexpr int kSchemaVersion = 1;
+  static constexpr int kBusyTimeoutMs = 10'000;
+
+  Catalogue(const ioPath& file, Mode mode);
+  ~Catalogue();
+  Catalogue(const Catalogue&) = delete;
+  Catalogue& operator=(const Catalogue&) = delete;
+
+  /// lumidex/catalogue.sqlite in the user's data folder (XDG_DATA_HOME on Linux).
+  static ioPath DefaultFile();
+
+  const ioPath& File() const;
+
+  /// Stamps of all photos at or below `folder` (absolute, clean), by path.
+  std::unordered_map<ioPath, FileStamp> Stamps(const ioPath& folder) const;
+  /// Adds new photos and updates known ones (same path), keeping their ids; clears their lost mark. One transaction.
+  void Store(const std::vector<PhotoRecord>& batch);
+  /// Marks photos lost. One transaction. Returns how many were not marked before.
+  int MarkLost(const std::vector<ioPath>& paths);
+
+  std::size_t CountPhotos() const;
+  /// All photos that are not lost, by date taken, then path.
+  std::vector<PhotoRecord> Photos() const;
+  /// The same as library items (name: the file's name), in the same order.
+  std::vector<DataModel> PhotoModels() const;
+
+  /// Stores the album under its name. An album of that name that was accepted before keeps its id and gains the
+  /// missing members, at its end; nothing is ever taken out. One transaction.
+  AcceptResult AcceptAlbum(const Album& proposal);
+  /// Accepted albums by first day, then name.
+  std::vector<StoredAlbum> Albums() const;
+
+ private:
+  class Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace Zenvora::Lumidex::Host

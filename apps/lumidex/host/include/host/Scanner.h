@@ -1,0 +1,70 @@
+#pragma once
+
+#include <host/Catalogue.h>
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+struct ScanOptions {
+  /// Threads that read metadata; 0: one per core, at most 8.
+  int threads = 0;
+  /// Reads every file again, also unchanged ones.
+  bool full = false;
+  /// Only tells what would be done; the catalogue is not changed.
+  bool dryRun = false;
+  /// Set from any thread (a signal handler too) to stop soon; what is committed stays.
+  const std::atomic<bool>* cancel = nullptr;
+};
+
+/// Counts so far. `found` grows until `foundAll`.
+struct ScanProgress {
+  std::uint64_t found = 0;
+  bool foundAll = false;
+  std::uint64_t done = 0;
+};
+/// Called on the scanning thread, at most about ten times a second, and once at the end.
+using ScanProgressHandler = std::function<void(const ScanProgress&)>;
+
+/// A file or folder that the scan could not take in.
+struct ScanFinding {
+  enum class Kind {
+    NotAnImage,  ///< Named like a photo, but its content is none.
+    Unreadable,  ///< A file or folder that could not be read.
+    Loop,        ///< A symbolic link that leads back to a folder above it, or to one already visited. Not followed.
+  };
+  Kind kind;
+  ioPath path;
+  std::string cause;
+};
+
+struct ScanResult {
+  std::uint64_t found = 0;      ///< Files named like photos.
+  std::uint64_t added = 0;
+  std::uint64_t updated = 0;
+  std::uint64_t unchanged = 0;
+  std::uint64_t lost = 0;       ///< Known photos under the scanned folders whose files are gone, newly marked.
+  std::uint64_t dated[4] = {};  ///< Of the files read: how many by `DateSource`.
+  bool cancelled = false;
+  std::vector<ScanFinding> findings;
+};
+
+/// Walks the folders (a file is taken as itself), reads the metadata of new and changed photos in several threads, and
+/// commits them in batches, so that a kill loses at most the last batch. A folder that cannot be read is a finding, and
+/// no photo below it is marked lost; nor is any after a cancelled scan. Files reached twice (nested roots, links) count
+/// once. Hidden files and folders (leading dot) are passed over.
+/// Throws `HostError` when a root does not exist or the catalogue fails.
+ScanResult Scan(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,
+                const ScanProgressHandler& progress);
+
+/// True for file names that the scan takes for photos, by extension, case ignored.
+bool IsPhotoName(const ioPath& file);
+
+/// The metadata stage alone: reads one file into a record without id. `finding` is set when it is no photo.
+bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding);
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,25 @@
+# Warnings, hardening and sanitizers for everything that is built here.
+
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(lumidex_compiler INTERFACE)
+target_compile_features(lumidex_compiler INTERFACE cxx_std_17)
+target_compile_definitions(lumidex_compiler INTERFACE
+  QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS
+  BOOST_ALLOW_DEPRECATED_HEADERS)
+target_compile_options(lumidex_compiler INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror
+  # Log lines and throw sites name sources relative to the tree, whatever folder it was built in.
+  "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/LumidexUtil/="
+  "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
+if(NOT WIN32)
+  target_compile_options(lumidex_compiler INTERFACE -fstack-protector-strong)
+  target_link_options(lumidex_compiler INTERFACE -Wl,--no-undefined -Wl,-z,relro,-z,now)
+endif()
+
+if(LUMIDEX_SANITIZE)
+  add_compile_options(-fsanitize=${LUMIDEX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${LUMIDEX_SANITIZE})
+endif()

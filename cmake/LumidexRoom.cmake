@@ -1,0 +1,125 @@
+# Rooms: one function declares a room, what it uses and what it links, and refuses a use that points upward.
+
+include(GenerateExportHeader)
+
+# Who stands above whom. A room may use rooms of a lower floor; among the platform rooms of floor 2 it may also use one
+# that was declared before it, so that no circle can form. Parts of LumidexUtil share one floor and never use each other.
+set(LUMIDEX_FLOORS
+  core=0
+  lumidex=1
+  app=2 quillet=2 tavolin=2 strandel=2 qtutility=2
+  LumidexUtil=3
+  host=4
+  cli=5 gui=5)
+# The only rooms that may link Qt Widgets.
+set(LUMIDEX_WIDGET_ROOMS qtutility widgets Presenter LumidexUtil gui)
+
+function(lumidex_floor room result)
+  foreach(entry IN LISTS LUMIDEX_FLOORS)
+    if(entry MATCHES "^${room}=([0-9]+)$")
+      set(${result} "${CMAKE_MATCH_1}" PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+  message(FATAL_ERROR "Room '${room}' has no floor in LUMIDEX_FLOORS")
+endfunction()
+
+# lumidex_room(<name>
+#   KIND SHARED|STATIC|PART|PROGRAM    PART: an object library that is linked into the room named by PART_OF
+#   [PART_OF <room>] [OUTPUT <file name>]
+#   [SOURCES ...]                      paths relative to the room's folder
+#   [USES ...]                         rooms that the room's public headers name
+#   [USES_PRIVATELY ...]               rooms that only its sources name
+#   [LINKS ...] [LINKS_PRIVATELY ...]  libraries from outside, likewise
+#   [PARTS ...])                       the PART rooms linked into this one
+# The target is lumidex_<name>; its public headers live under include/, which is its include root. A SHARED room gets
+# the header <include root name>/Export.h with the macro ZENVORA_<NAME>_EXPORT.
+function(lumidex_room name)
+  cmake_parse_arguments(R "" "KIND;PART_OF;OUTPUT" "SOURCES;USES;USES_PRIVATELY;LINKS;LINKS_PRIVATELY;PARTS" ${ARGN})
+  if(R_UNPARSED_ARGUMENTS)
+    message(FATAL_ERROR "Room '${name}': unknown arguments ${R_UNPARSED_ARGUMENTS}")
+  endif()
+
+  set(place "${name}")
+  if(R_PART_OF)
+    set(place "${R_PART_OF}")
+  endif()
+  lumidex_floor(${place} floor)
+  foreach(used IN LISTS R_USES R_USES_PRIVATELY)
+    lumidex_floor(${used} used_floor)
+    if(used_floor GREATER floor)
+      message(FATAL_ERROR "Room '${name}' may not use '${used}': it stands above (floor ${used_floor} > ${floor})")
+    elseif(used_floor EQUAL floor AND NOT floor EQUAL 2)
+      message(FATAL_ERROR "Room '${name}' may not use '${used}': rooms of floor ${floor} do not know each other")
+    elseif(NOT TARGET lumidex_${used})
+      message(FATAL_ERROR "Room '${name}' may not use '${used}': it is not declared before it")
+    endif()
+  endforeach()
+  if(("Qt5::Widgets" IN_LIST R_LINKS OR "Qt5::Widgets" IN_LIST R_LINKS_PRIVATELY) AND
+     NOT name IN_LIST LUMIDEX_WIDGET_ROOMS)
+    message(FATAL_ERROR "Room '${name}' may not link Qt Widgets: it holds logic")
+  endif()
+
+  set(target lumidex_${name})
+  if(R_KIND STREQUAL "PART")
+    add_library(${target} OBJECT ${R_SOURCES})
+    # The export macro of the library that the part becomes part of.
+    target_compile_definitions(${target} PRIVATE lumidex_${R_PART_OF}_EXPORTS)
+    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}/../include"
+      "${CMAKE_CURRENT_BINARY_DIR}/../include")
+  elseif(R_KIND STREQUAL "PROGRAM")
+    add_executable(${target} ${R_SOURCES})
+    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  elseif(R_KIND MATCHES "^(SHARED|STATIC)$")
+    add_library(${target} ${R_KIND} ${R_SOURCES})
+    target_include_directories(${target}
+      PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>"
+      PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+  else()
+    message(FATAL_ERROR "Room '${name}': KIND must be SHARED, STATIC, PART or PROGRAM")
+  endif()
+  if(R_OUTPUT)
+    set_target_properties(${target} PROPERTIES OUTPUT_NAME "${R_OUTPUT}")
+  endif()
+
+  if(R_KIND STREQUAL "SHARED")
+    string(TOUPPER "${name}" upper)
+    if(name STREQUAL "LumidexUtil")
+      set(macro LUMIDEXUTIL_EXPORT)
+      set(header LumidexUtil/Export.h)
+    else()
+      set(macro ZENVORA_${upper}_EXPORT)
+      set(header zenvora/${name}/Export.h)
+    endif()
+    generate_export_header(${target} BASE_NAME "${upper}" EXPORT_MACRO_NAME ${macro}
+      EXPORT_FILE_NAME "${CMAKE_CURRENT_BINARY_DIR}/include/${header}")
+    target_include_directories(${target}
+      PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}/include>" "$<INSTALL_INTERFACE:${LUMIDEX_HEADERS_DIR}>")
+    set_target_properties(${target} PROPERTIES
+      VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} EXPORT_NAME ${name})
+    add_library(LumidexUtil::${name} ALIAS ${target})
+    install(TARGETS ${target} EXPORT LumidexUtilTargets
+      LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+      RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(DIRECTORY include/ "${CMAKE_CURRENT_BINARY_DIR}/include/" DESTINATION ${LUMIDEX_HEADERS_DIR}
+      FILES_MATCHING PATTERN "*.h")
+  endif()
+
+  set(visible PUBLIC)
+  if(R_KIND MATCHES "^(PART|PROGRAM)$")
+    set(visible PRIVATE)
+  endif()
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:lumidex_compiler>)
+  target_link_libraries(${target} ${visible} ${R_LINKS} PRIVATE ${R_LINKS_PRIVATELY})
+  foreach(used IN LISTS R_USES)
+    target_link_libraries(${target} ${visible} lumidex_${used})
+  endforeach()
+  foreach(used IN LISTS R_USES_PRIVATELY)
+    target_link_libraries(${target} PRIVATE lumidex_${used})
+  endforeach()
+  foreach(part IN LISTS R_PARTS)
+    target_sources(${target} PRIVATE $<TARGET_OBJECTS:lumidex_${part}>)
+  endforeach()
+  set_property(GLOBAL APPEND PROPERTY LUMIDEX_ROOMS ${name})
+endfunction()

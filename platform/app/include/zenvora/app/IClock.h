@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QDateTime>
+
+namespace Zenvora::App {
+
+/// What time it is, as far as rules depend on it.
+class IClock {
+ public:
+  virtual ~IClock() = default;
+
+  /// The current moment in local time.
+  virtual QDateTime Now() const = 0;
+};
+
+}  // namespace Zenvora::App

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace Zenvora::App {
+
+/// How the application presents itself.
+class ILookAndFeelManager {
+ public:
+  virtual ~ILookAndFeelManager() = default;
+
+  /// The name of the current interface language: language and country as `QLocale` takes them, such as en_US.
+  virtual std::string GetCurrentLocale() const = 0;
+};
+
+}  // namespace Zenvora::App

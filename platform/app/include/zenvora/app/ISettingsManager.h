@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+namespace Zenvora::App {
+
+/// The host's settings: texts by key, UTF-8 both. A key may hold "/" to group.
+/// Thread-safety: any thread. Reading may block on the disk the first time.
+class ISettingsManager {
+ public:
+  virtual ~ISettingsManager() = default;
+
+  /// The stored text, or `defaultValue` when the key has none or the store cannot be read.
+  virtual std::string GetString(const std::string& key, const std::string& defaultValue) const = 0;
+  /// Stores the text. When the store cannot be written the value lasts for this process only, and a warning is logged.
+  virtual void SetString(const std::string& key, const std::string& value) = 0;
+};
+
+/// Keys that more than one room reads.
+namespace SettingsKey {
+/// Interface language, such as de_DE; empty or absent: the system's.
+inline constexpr char kLanguage[] = "Interface/Language";
+/// Base URL (http, https or file) of downloadable resources; empty or absent: no network is touched.
+inline constexpr char kDownloadBaseUrl[] = "Download/BaseUrl";
+}  // namespace SettingsKey
+
+}  // namespace Zenvora::App

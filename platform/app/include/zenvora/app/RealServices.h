@@ -1,0 +1,45 @@
+#pragma once
+
+#include <zenvora/app/Export.h>
+#include <zenvora/app/IClock.h>
+#include <zenvora/app/IHostEnvironment.h>
+#include <zenvora/app/ILookAndFeelManager.h>
+#include <zenvora/app/ISettingsManager.h>
+#include <zenvora/core/ioPath.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Zenvora::App {
+
+/// Settings in an INI file (Qt's dialect), created with its folder on the first write. Values are written at once.
+ZENVORA_APP_EXPORT std::shared_ptr<ISettingsManager> MakeIniSettings(const ioPath& file);
+
+/// The INI file of the user: lumidex/lumidex.ini in the user's configuration folder (XDG_CONFIG_HOME on Linux, the
+/// local application data on Windows).
+ZENVORA_APP_EXPORT ioPath UserSettingsFile();
+
+/// The languages that the interface speaks, as locale names.
+ZENVORA_APP_EXPORT const std::vector<std::string>& InterfaceLanguages();
+
+/// The interface language that serves a wish such as "de", "de_AT", "de-DE.UTF-8": the language itself if spoken, else one
+/// of the same language, else en_US.
+ZENVORA_APP_EXPORT std::string NearestInterfaceLanguage(const std::string& wish);
+
+/// The interface language of a host: the setting `SettingsKey::kLanguage`, else the nearest to the system's.
+ZENVORA_APP_EXPORT std::shared_ptr<ILookAndFeelManager> MakeHostLookAndFeel();
+
+/// A fixed interface language, given exactly as it will be reported.
+ZENVORA_APP_EXPORT std::shared_ptr<ILookAndFeelManager> MakeFixedLookAndFeel(const std::string& locale);
+
+/// The interface language of a process without a host: the system's locale name as it is.
+ZENVORA_APP_EXPORT std::shared_ptr<ILookAndFeelManager> MakeSystemLookAndFeel();
+
+ZENVORA_APP_EXPORT std::shared_ptr<IClock> MakeSystemClock();
+
+/// The resource folder beside the program (../share/lumidex from its folder; on Windows also share/lumidex in it), no
+/// main window.
+ZENVORA_APP_EXPORT std::shared_ptr<IHostEnvironment> MakeProgramEnvironment();
+
+}  // namespace Zenvora::App
