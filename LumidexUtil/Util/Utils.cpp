@@ -1,1 +1,85 @@
-// x
+#include "MonthWording.h"
+#include "PluralForm.h"
+
+#include <LumidexUtil/Wording.h>
+
+#include <zenvora/app/Application.h>
+
+#include <QCoreApplication>
+#include <QDateTime>
+
+namespace Zenvora::Util {
+
+namespace {
+
+constexpr char kContext[] = "Zenvora::Lumidex::Utils";
+
+const std::string FORM_ONE = "One";
+const std::string FORM_NOMINATIVE = "Nominative";
+const std::string FORM_GENETIVE = "Genetive";
+const std::string FORM_PLURAL = "Plural";
+
+const std::string NOUN_DAY = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "day");
+const std::string NOUN_DAYS = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "days");
+const std::string TEXT_EXPIRED = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Expired");
+const std::string TEXT_NUMBER_AND_NOUN = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "%1 %2");
+
+// The keys that counting days makes up at run time, written out for the translation tools.
+[[maybe_unused]] const char* const DAY_KEYS[] = {
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "One day"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Nominative day"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Genetive day"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Plural day"),
+};
+
+QString Translate(const std::string& text) { return QCoreApplication::translate(kContext, text.c_str()); }
+
+QString TranslateWithFallback(const std::string& key, const std::string& fallback) {
+  QString translation = Translate(key);
+  if (!fallback.empty() && translation == QString::fromStdString(key)) {
+    return Translate(fallback);
+  }
+  return translation;
+}
+
+const std::string& FormWord(PluralForm form) {
+  switch (form) {
+    case PluralForm::One:
+      return FORM_ONE;
+    case PluralForm::Nominative:
+      return FORM_NOMINATIVE;
+    case PluralForm::Genetive:
+      return FORM_GENETIVE;
+    case PluralForm::Plural:
+      break;
+  }
+  return FORM_PLURAL;
+}
+
+}  // namespace
+
+QString GetCountString(const std::string& noun, const std::string& pluralFallback, int count) {
+  const PluralForm form = PluralFormOf(count);
+  // One thing has no plural to fall back to: the bare noun serves.
+  return TranslateWithFallback(FormWord(form) + " " + noun, form == PluralForm::One ? noun : pluralFallback);
+}
+
+QString GetLocalizedNumberOfDays(int days) {
+  if (days <= 0) {
+    return Translate(TEXT_EXPIRED);
+  }
+  return Translate(TEXT_NUMBER_AND_NOUN)
+      .arg(days, 0, 10, QLatin1Char(' '))
+      .arg(GetCountString(NOUN_DAY, NOUN_DAYS, days), 0, QLatin1Char(' '));
+}
+
+int DaysToCurrent(const QString& dateTime) {
+  const QDate date = QDateTime::fromString(dateTime, QStringLiteral("yyyy-MM-dd hh:mm:ss")).date();
+  return static_cast<int>(date.daysTo(App::GetCurrentDateTime().date()));
+}
+
+QString GetDateIntervalString(const QDate& from, const QDate& to) {
+  return WordDateInterval(QString::fromStdString(App::GetCurrentLocale()), from, to);
+}
+
+}  // namespace Zenvora::Util

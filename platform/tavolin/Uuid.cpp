@@ -4,6 +4,8 @@
 
 namespace Zenvora::Tavolin {
 
-QString GenerateUuid() { return QUuid::createUuid().toString(QUuid::WithoutBraces); }
+QString GenerateUuid() {
+  return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
 
 }  // namespace Zenvora::Tavolin

@@ -18,9 +18,9 @@ struct DownloadRequest {
   QByteArray etag;
   /// A longer body is a failure. Bytes.
   qint64 sizeLimit = 0;
-  /// Longest time without a byte, while connecting and while transferring alike.
+  /// Longest time without a byte, while connecting and while transferring alike; 0: any.
   std::chrono::milliseconds stallTimeout{0};
-  /// Longest time for the whole request.
+  /// Longest time for the whole request; 0: any.
   std::chrono::milliseconds totalTimeout{0};
   /// Redirects followed at the most; none leads from https to http.
   int redirectLimit = 0;
@@ -50,8 +50,8 @@ class IDownloads {
 
   virtual ~IDownloads() = default;
 
-  /// Starts the request and returns it. `done` runs at most once, on the calling thread, either inside this call or
-  /// from that thread's event loop. It may destroy the returned object.
+  /// Starts the request and returns it. `done` runs at most once, on the calling thread, either inside this
+  /// call or from that thread's event loop. It may destroy the returned object.
   virtual std::unique_ptr<Pending> Fetch(const DownloadRequest& request, Done done) = 0;
 };
 

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace Zenvora::Bench {
+
+/// Forgets the peak so far, where the system can (Linux).
+void ResetPeakMemory();
+
+/// The most memory the process has held since, in MiB; 0 where the system does not tell.
+double PeakMemoryMiB();
+
+/// What the process holds now, in MiB; 0 where the system does not tell.
+double CurrentMemoryMiB();
+
+}  // namespace Zenvora::Bench

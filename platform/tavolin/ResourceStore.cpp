@@ -1,0 +1,114 @@
+#include "ResourceStore.h"
+
+#include "DownloadLimits.h"
+#include "DownloadRules.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace Zenvora::Tavolin {
+
+namespace {
+
+QString WriteWhole(const QString& name, const QByteArray& content, const QDateTime& modified) {
+  QSaveFile file(name);
+  if (!file.open(QIODevice::WriteOnly)) {
+    return file.errorString();
+  }
+  file.write(content);
+  // A time of writing ends with the buffer's last byte on the disk.
+  if (file.flush() && modified.isValid()) {
+    file.setFileTime(modified, QFileDevice::FileModificationTime);
+  }
+  return file.commit() ? QString() : file.errorString();
+}
+
+}  // namespace
+
+ResourceStore::ResourceStore(const QString& section, const QString& name, const QString& format) {
+  const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+  if (cache.isEmpty()) {
+    return;
+  }
+  const QString folder = cache + QStringLiteral("/lumidex/") + section + QLatin1Char('/');
+  file_ = folder + name + QLatin1Char('.') + format;
+  // No resource begins with a dot, so none can have this name.
+  etagFile_ = folder + QLatin1Char('.') + name + QLatin1Char('.') + format + QStringLiteral(".etag");
+}
+
+ResourceStore::Lookup ResourceStore::Read() const {
+  const QFileInfo info(file_);
+  if (file_.isEmpty() || !info.exists()) {
+    return {};
+  }
+  // Opening a pipe would wait for its writer.
+  if (!info.isFile()) {
+    return {std::nullopt, QStringLiteral("it is no file")};
+  }
+  QFile file(file_);
+  if (!file.open(QIODevice::ReadOnly)) {
+    return {std::nullopt, file.errorString()};
+  }
+  const QByteArray body = file.read(kSizeLimit + 1);
+  if (file.error() != QFileDevice::NoError) {
+    return {std::nullopt, file.errorString()};
+  }
+  if (body.size() > kSizeLimit) {
+    return {std::nullopt, QStringLiteral("it is larger than %1 bytes").arg(kSizeLimit)};
+  }
+  // Asked of the open file: the name may mean another one by now.
+  return {Copy{body, file.fileTime(QFileDevice::FileModificationTime)}, {}};
+}
+
+QByteArray ResourceStore::ReadEtag(const QUrl& url, const QByteArray& body) const {
+  QFile file(etagFile_);
+  if (!QFileInfo(etagFile_).isFile() || !file.open(QIODevice::ReadOnly)) {
+    return {};
+  }
+  const QByteArray digest = Digest(url, body) + '\n';
+  const QByteArray content = file.read(digest.size() + kEtagLimit + 1);
+  const QByteArray etag = content.mid(digest.size());
+  return content.startsWith(digest) && IsEtag(etag) ? etag : QByteArray();
+}
+
+QString ResourceStore::Write(const QUrl& url, const QByteArray& body, const QByteArray& etag,
+                             const QDateTime& now) const {
+  if (file_.isEmpty()) {
+    return QStringLiteral("the user has no cache folder");
+  }
+  const QString folder = QFileInfo(file_).absolutePath();
+  if (!QDir().mkpath(folder)) {
+    return QStringLiteral("the folder %1 cannot be made").arg(folder);
+  }
+  const QString fault = WriteWhole(file_, body, now);
+  if (!fault.isEmpty()) {
+    return fault;
+  }
+  if (!IsEtag(etag) || !WriteWhole(etagFile_, Digest(url, body) + '\n' + etag, {}).isEmpty()) {
+    QFile::remove(etagFile_);
+  }
+  return {};
+}
+
+QString ResourceStore::Touch(const QDateTime& now) const {
+  QFile file(file_);
+  if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) ||
+      !file.setFileTime(now, QFileDevice::FileModificationTime)) {
+    return file.errorString();
+  }
+  return {};
+}
+
+QByteArray ResourceStore::Digest(const QUrl& url, const QByteArray& body) {
+  QCryptographicHash hash(QCryptographicHash::Sha256);
+  hash.addData(url.toEncoded());
+  hash.addData("\n", 1);
+  hash.addData(body);
+  return hash.result().toHex();
+}
+
+}  // namespace Zenvora::Tavolin
