@@ -11,9 +11,10 @@ target_compile_definitions(lumidex_compiler INTERFACE
   BOOST_ALLOW_DEPRECATED_HEADERS)
 target_compile_options(lumidex_compiler INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror
-  # Log lines and throw sites name sources relative to the tree, whatever folder it was built in.
-  "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/LumidexUtil/="
-  "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
+  # Log lines and throw sites name sources relative to the tree, whatever folder it was built in; those of the library
+  # relative to the library. The last map that fits wins.
+  "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
+  "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/LumidexUtil/=")
 if(NOT WIN32)
   target_compile_options(lumidex_compiler INTERFACE -fstack-protector-strong)
   target_link_options(lumidex_compiler INTERFACE -Wl,--no-undefined -Wl,-z,relro,-z,now)
