@@ -1,4 +1,5 @@
-# What another project needs to find LumidexUtil: a CMake package and a pkg-config file.
+# What another project needs to find LumidexUtil: a CMake package and a pkg-config file. Both keep working when the
+# installed tree is moved.
 
 include(CMakePackageConfigHelpers)
 
@@ -11,6 +12,18 @@ install(EXPORT LumidexUtilTargets NAMESPACE LumidexUtil:: DESTINATION ${LUMIDEX_
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/LumidexUtilConfig.cmake"
   "${CMAKE_CURRENT_BINARY_DIR}/LumidexUtilConfigVersion.cmake" DESTINATION ${LUMIDEX_PACKAGE_DIR})
 
+set(LUMIDEX_PC_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+  # Not below the prefix: nothing to count up from.
+  set(LUMIDEX_PC_PREFIX "${CMAKE_INSTALL_PREFIX}")
+else()
+  file(RELATIVE_PATH up "/${LUMIDEX_PC_DIR}" "/")
+  string(REGEX REPLACE "/$" "" up "${up}")
+  set(LUMIDEX_PC_PREFIX "\${pcfiledir}/${up}")
+endif()
+# An absolute folder replaces the prefix.
+cmake_path(APPEND LUMIDEX_PC_LIBDIR "\${prefix}" "${CMAKE_INSTALL_LIBDIR}")
+cmake_path(APPEND LUMIDEX_PC_INCLUDEDIR "\${prefix}" "${LUMIDEX_HEADERS_DIR}")
 configure_file(cmake/LumidexUtil.pc.in "${CMAKE_CURRENT_BINARY_DIR}/LumidexUtil.pc" @ONLY)
-install(FILES "${CMAKE_CURRENT_BINARY_DIR}/LumidexUtil.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/LumidexUtil.pc" DESTINATION ${LUMIDEX_PC_DIR})
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -7,11 +7,15 @@
 
 namespace Zenvora::App {
 
-Application::Application() { services_.Exchange(MakeHostLookAndFeel()); }
+Application::Application() {
+  services_.Exchange(MakeHostLookAndFeel());
+}
 
 Application::~Application() = default;
 
-Application* Application::Instance() { return dynamic_cast<Application*>(QCoreApplication::instance()); }
+Application* Application::Instance() {
+  return dynamic_cast<Application*>(QCoreApplication::instance());
+}
 
 std::shared_ptr<ISettingsManager> Application::GetSettingsManager() const {
   return services_.Get<ISettingsManager>();
@@ -21,12 +25,20 @@ std::shared_ptr<ILookAndFeelManager> Application::GetLookAndFeel() const {
   return services_.Get<ILookAndFeelManager>();
 }
 
-QWidget* Application::GetMainWindow() const { return services_.Get<IHostEnvironment>()->MainWindow(); }
+QWidget* Application::GetMainWindow() const {
+  return services_.Get<IHostEnvironment>()->MainWindow();
+}
 
-std::string GetCurrentLocale() { return Services::Current().Get<ILookAndFeelManager>()->GetCurrentLocale(); }
+std::string GetCurrentLocale() {
+  return Services::Current().Get<ILookAndFeelManager>()->GetCurrentLocale();
+}
 
-ioPath GetPathToResources() { return Services::Current().Get<IHostEnvironment>()->ResourceFolder(); }
+ioPath GetPathToResources() {
+  return Services::Current().Get<IHostEnvironment>()->ResourceFolder();
+}
 
-QDateTime GetCurrentDateTime() { return Services::Current().Get<IClock>()->Now(); }
+QDateTime GetCurrentDateTime() {
+  return Services::Current().Get<IClock>()->Now();
+}
 
 }  // namespace Zenvora::App

@@ -28,10 +28,25 @@ class SystemLookAndFeel : public ILookAndFeelManager {
 class HostLookAndFeel : public ILookAndFeelManager {
  public:
   std::string GetCurrentLocale() const override {
-    const std::string wish = Services::Current().Get<ISettingsManager>()->GetString(SettingsKey::kLanguage, "");
+    const std::string wish =
+        Services::Current().Get<ISettingsManager>()->GetString(SettingsKey::kLanguage, "");
     return NearestInterfaceLanguage(wish.empty() ? QLocale::system().name().toStdString() : wish);
   }
 };
+
+// "de-AT.UTF-8@euro" -> "de_at"
+std::string Plain(const std::string& locale) {
+  std::string name = locale.substr(0, locale.find_first_of(".@"));
+  std::transform(name.begin(), name.end(), name.begin(), [](char c) {
+    // Not tolower: its answer depends on the process's locale.
+    return c == '-' ? '_' : (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+  });
+  return name;
+}
+
+std::string LanguageOf(const std::string& plain) {
+  return plain.substr(0, plain.find('_'));
+}
 
 }  // namespace
 
@@ -42,26 +57,29 @@ const std::vector<std::string>& InterfaceLanguages() {
 }
 
 std::string NearestInterfaceLanguage(const std::string& wish) {
-  // "de-AT.UTF-8@euro" -> "de_AT"
-  std::string name = wish.substr(0, wish.find_first_of(".@"));
-  std::replace(name.begin(), name.end(), '-', '_');
-  const std::string language = name.substr(0, name.find('_'));
+  const std::string name = Plain(wish);
   const auto& spoken = InterfaceLanguages();
-  if (std::find(spoken.begin(), spoken.end(), name) != spoken.end()) {
-    return name;
+  const auto itself = std::find_if(spoken.begin(), spoken.end(),
+                                   [&](const std::string& candidate) { return Plain(candidate) == name; });
+  if (itself != spoken.end()) {
+    return *itself;
   }
   const auto sibling = std::find_if(spoken.begin(), spoken.end(), [&](const std::string& candidate) {
-    return candidate.substr(0, candidate.find('_')) == language;
+    return LanguageOf(Plain(candidate)) == LanguageOf(name);
   });
   return sibling == spoken.end() ? spoken.front() : *sibling;
 }
 
-std::shared_ptr<ILookAndFeelManager> MakeHostLookAndFeel() { return std::make_shared<HostLookAndFeel>(); }
+std::shared_ptr<ILookAndFeelManager> MakeHostLookAndFeel() {
+  return std::make_shared<HostLookAndFeel>();
+}
 
 std::shared_ptr<ILookAndFeelManager> MakeFixedLookAndFeel(const std::string& locale) {
   return std::make_shared<FixedLookAndFeel>(locale);
 }
 
-std::shared_ptr<ILookAndFeelManager> MakeSystemLookAndFeel() { return std::make_shared<SystemLookAndFeel>(); }
+std::shared_ptr<ILookAndFeelManager> MakeSystemLookAndFeel() {
+  return std::make_shared<SystemLookAndFeel>();
+}
 
 }  // namespace Zenvora::App

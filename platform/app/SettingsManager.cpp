@@ -1,3 +1,5 @@
+#include "IniText.h"
+
 #include <zenvora/app/RealServices.h>
 
 #include <glog/logging.h>
@@ -5,65 +7,106 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <mutex>
+#include <optional>
+#include <system_error>
 
 namespace Zenvora::App {
 
 namespace {
+
+// A fresh one for each use, on the using thread: one that stays belongs to the thread that made it and never
+// forgets a failure. Qt keeps the parsed file.
+class IniFile : public QSettings {
+ public:
+  explicit IniFile(const ioPath& file) : QSettings(file.qstring(), QSettings::IniFormat) {
+    setIniCodec("UTF-8");
+  }
+};
 
 class IniSettings : public ISettingsManager {
  public:
   explicit IniSettings(const ioPath& file) : file_(file) {}
 
   std::string GetString(const std::string& key, const std::string& defaultValue) const override {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    if (const auto kept = unsaved_.find(key); kept != unsaved_.end()) {
-      return kept->second;
+    if (const auto kept = Unsaved(key)) {
+      return *kept;
     }
-    const QVariant value = Open().value(QString::fromStdString(key));
+    if (!IsFile()) {
+      return defaultValue;
+    }
+    const QVariant value = IniFile(file_).value(QString::fromStdString(key));
     if (!value.isValid()) {
       return defaultValue;
     }
     // A text with a comma that a person wrote without quotes is read as a list.
-    const QString text = value.type() == QVariant::StringList ? value.toStringList().join(QStringLiteral(", "))
-                                                              : value.toString();
+    const QString text =
+        value.type() == QVariant::StringList ? value.toStringList().join(QLatin1Char(',')) : value.toString();
     return text.toStdString();
   }
 
   void SetString(const std::string& key, const std::string& value) override {
     const std::lock_guard<std::mutex> lock(mutex_);
-    QSettings& settings = Open();
-    settings.setValue(QString::fromStdString(key), QString::fromStdString(value));
-    settings.sync();
-    if (settings.status() == QSettings::NoError) {
-      unsaved_.erase(key);
-      return;
-    }
     unsaved_[key] = value;
-    LOG(WARNING) << "Cannot write settings to " << file_ << ": "
-                 << (settings.status() == QSettings::AccessError ? "no access" : "the file is not in INI form");
+    const std::string problem = Save();
+    if (problem.empty()) {
+      unsaved_.clear();
+    } else {
+      LOG(WARNING) << "Cannot write settings to " << file_ << ": " << problem;
+    }
   }
 
  private:
-  // Opened late: most processes that load the library never ask for a setting.
-  QSettings& Open() const {
-    if (!settings_) {
-      settings_ = std::make_unique<QSettings>(file_.qstring(), QSettings::IniFormat);
-      settings_->setIniCodec("UTF-8");
+  std::optional<std::string> Unsaved(const std::string& key) const {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    const auto found = unsaved_.find(key);
+    return found == unsaved_.end() ? std::nullopt : std::make_optional(found->second);
+  }
+
+  // Also what could not be written before. Returns what is in the way, empty for nothing.
+  std::string Save() const {
+    if (file_.exists() && !IsFile()) {
+      return "not a file";
     }
-    return *settings_;
+    if (const std::size_t line = FirstLineNotIni(Text()); line != 0) {
+      return "its line " + std::to_string(line) + " is not in INI form";
+    }
+    IniFile file(file_);
+    if (!file.isWritable()) {
+      return "no access";
+    }
+    for (const auto& [key, value] : unsaved_) {
+      file.setValue(QString::fromStdString(key), QString::fromStdString(value));
+    }
+    file.sync();
+    return file.status() == QSettings::NoError ? "" : "writing failed";
+  }
+
+  // Anything else might block whoever opens it.
+  bool IsFile() const {
+    std::error_code error;
+    return std::filesystem::is_regular_file(file_.native(), error) && !error;
+  }
+
+  std::string Text() const {
+    std::ifstream stream(file_.native(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
   }
 
   const ioPath file_;
   mutable std::mutex mutex_;
-  mutable std::unique_ptr<QSettings> settings_;
   std::map<std::string, std::string> unsaved_;
 };
 
 }  // namespace
 
-std::shared_ptr<ISettingsManager> MakeIniSettings(const ioPath& file) { return std::make_shared<IniSettings>(file); }
+std::shared_ptr<ISettingsManager> MakeIniSettings(const ioPath& file) {
+  return std::make_shared<IniSettings>(file);
+}
 
 ioPath UserSettingsFile() {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);

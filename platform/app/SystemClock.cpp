@@ -11,6 +11,8 @@ class SystemClock : public IClock {
 
 }  // namespace
 
-std::shared_ptr<IClock> MakeSystemClock() { return std::make_shared<SystemClock>(); }
+std::shared_ptr<IClock> MakeSystemClock() {
+  return std::make_shared<SystemClock>();
+}
 
 }  // namespace Zenvora::App

@@ -4,8 +4,12 @@ namespace Zenvora {
 
 IRefCountable::~IRefCountable() = default;
 
-void intrusive_ptr_add_ref(const IRefCountable* object) { object->AddRef(); }
+void intrusive_ptr_add_ref(const IRefCountable* object) {
+  object->AddRef();
+}
 
-void intrusive_ptr_release(const IRefCountable* object) { object->Release(); }
+void intrusive_ptr_release(const IRefCountable* object) {
+  object->Release();
+}
 
 }  // namespace Zenvora

@@ -7,7 +7,9 @@ unsigned int RefCountImpl::AddRefImpl() const noexcept {
   return count_.fetch_add(1, std::memory_order_relaxed) + 1;
 }
 
-unsigned int RefCountImpl::GetRefCountImpl() const noexcept { return count_.load(std::memory_order_relaxed); }
+unsigned int RefCountImpl::GetRefCountImpl() const noexcept {
+  return count_.load(std::memory_order_relaxed);
+}
 
 unsigned int RefCountImpl::ReleaseImpl() const noexcept {
   // Release: our writes before; acquire: whoever deletes must see everybody's.

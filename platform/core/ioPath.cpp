@@ -34,21 +34,34 @@ ioPath::ioPath(const QString& text) : ioPath(text.toStdString()) {}
 ioPath::ioPath(fs::path native) : path_(std::move(native)) {}
 
 ioPath& ioPath::operator/=(const ioPath& right) {
-  path_ /= right.path_;
+  // By way of a new path: the standard library's own joining goes wrong for a path and itself.
+  path_ = path_ / right.path_;
   return *this;
 }
 
-ioPath ioPath::operator/(const ioPath& right) const { return ioPath(path_ / right.path_); }
+ioPath ioPath::operator/(const ioPath& right) const {
+  return ioPath(path_ / right.path_);
+}
 
-ioPath ioPath::parent_path() const { return ioPath(path_.parent_path()); }
+ioPath ioPath::parent_path() const {
+  return ioPath(path_.parent_path());
+}
 
-ioPath ioPath::root_path() const { return ioPath(path_.root_path()); }
+ioPath ioPath::root_path() const {
+  return ioPath(path_.root_path());
+}
 
-ioPath ioPath::root_name() const { return ioPath(path_.root_name()); }
+ioPath ioPath::root_name() const {
+  return ioPath(path_.root_name());
+}
 
-ioPath ioPath::filename() const { return ioPath(path_.filename()); }
+ioPath ioPath::filename() const {
+  return ioPath(path_.filename());
+}
 
-ioPath ioPath::extension() const { return ioPath(path_.extension()); }
+ioPath ioPath::extension() const {
+  return ioPath(path_.extension());
+}
 
 ioPath& ioPath::replace_extension(const ioPath& extension) {
   path_.replace_extension(extension.path_);
@@ -94,13 +107,16 @@ bool ioPath::exists() const {
 
 std::string ioPath::utf8string() const {
 #ifdef _WIN32
-  return path_.u8string();
+  // u8string throws on a lone surrogate, which the file system lets into names.
+  return QString::fromStdWString(path_.native()).toStdString();
 #else
   return path_.native();
 #endif
 }
 
-QString ioPath::qstring() const { return QString::fromStdString(utf8string()); }
+QString ioPath::qstring() const {
+  return QString::fromStdString(utf8string());
+}
 
 std::wstring ioPath::wstring() const {
 #ifdef _WIN32
@@ -110,6 +126,8 @@ std::wstring ioPath::wstring() const {
 #endif
 }
 
-std::ostream& operator<<(std::ostream& stream, const ioPath& path) { return stream << path.utf8string(); }
+std::ostream& operator<<(std::ostream& stream, const ioPath& path) {
+  return stream << path.utf8string();
+}
 
 }  // namespace Zenvora

@@ -4,22 +4,63 @@
 #include <zenvora/core/ioPath.h>
 #include <zenvora/quillet/Config.h>
 
-#include <QFile>
+#include <QByteArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+#include <vector>
+
 namespace Zenvora::Quillet::Config {
+
+namespace fs = std::filesystem;
 
 namespace {
 
-QByteArray ReadWhole(QFile& file, const std::string& fileName) {
-  if (!file.open(QIODevice::ReadOnly)) {
-    ThrowJson(fileName, "", "cannot be read: " + file.errorString().toStdString());
+fs::file_status Look(const ioPath& path, std::error_code& error) {
+  // The system would take a name with a NUL for a shorter one.
+  if (path.native().native().find(fs::path::value_type{}) != fs::path::string_type::npos) {
+    error = std::make_error_code(std::errc::no_such_file_or_directory);
+    return fs::file_status(fs::file_type::not_found);
   }
-  // One byte more than allowed: a device or a growing file has no size to trust.
-  QByteArray text = file.read(static_cast<qint64>(BaseConfig::kSizeLimit) + 1);
-  if (file.error() != QFileDevice::NoError) {
-    ThrowJson(fileName, "", "cannot be read: " + file.errorString().toStdString());
+  return fs::status(path.native(), error);
+}
+
+/// Throws unless reading the file comes to an end: a pipe waits for its writer, a device may never finish.
+void RequireFile(const fs::file_status& status, const std::error_code& error, const std::string& fileName) {
+  if (fs::is_directory(status)) {
+    ThrowJson(fileName, "", "is a folder");
+  } else if (fs::is_other(status)) {
+    ThrowJson(fileName, "", "is not a regular file");
+  } else if (!fs::is_regular_file(status)) {
+    ThrowJson(fileName, "", "cannot be read: " + error.message());
+  }
+}
+
+[[noreturn]] void ThrowUnreadable(const std::string& fileName, int systemError) {
+  ThrowJson(fileName, "", "cannot be read: " + std::generic_category().message(systemError));
+}
+
+QByteArray ReadWhole(const ioPath& path, const std::string& fileName) {
+  // By its native name: a QString cannot hold every one.
+  errno = 0;
+  std::ifstream stream(path.native(), std::ios::binary);
+  if (!stream.is_open()) {
+    ThrowUnreadable(fileName, errno);
+  }
+  constexpr std::size_t kChunk = 64 * 1024;
+  std::vector<char> chunk(kChunk);
+  QByteArray text;
+  // Counted while reading: a file may grow, and some files have no size to trust.
+  while (stream && static_cast<std::size_t>(text.size()) <= BaseConfig::kSizeLimit) {
+    stream.read(chunk.data(), static_cast<std::streamsize>(chunk.size()));
+    text.append(chunk.data(), static_cast<int>(stream.gcount()));
+  }
+  if (stream.bad()) {
+    ThrowUnreadable(fileName, errno == 0 ? EIO : errno);
   }
   if (static_cast<std::size_t>(text.size()) > BaseConfig::kSizeLimit) {
     ThrowJson(fileName, "", "is longer than " + std::to_string(BaseConfig::kSizeLimit) + " bytes");
@@ -35,7 +76,8 @@ QJsonObject ParseRoot(const QByteArray& text, const std::string& fileName) {
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(text, &error);
   if (error.error != QJsonParseError::NoError) {
-    ThrowJson(fileName, PlaceOf(text, error.offset).toStdString(), "is not JSON: " + error.errorString().toStdString());
+    ThrowJson(fileName, PlaceOf(text, error.offset).toStdString(),
+              "is not JSON: " + error.errorString().toStdString());
   }
   if (!document.isObject()) {
     ThrowJson(fileName, "", "an object is expected at the top");
@@ -47,11 +89,14 @@ QJsonObject ParseRoot(const QByteArray& text, const std::string& fileName) {
 
 bool BaseConfig::Parse(IParserConfigBase& object, const std::string& rootName, const std::string& fileName,
                        bool optional) const {
-  QFile file(ioPath(fileName).qstring());
-  if (optional && !file.exists()) {
+  const ioPath path(fileName);
+  std::error_code error;
+  const fs::file_status status = Look(path, error);
+  if (optional && status.type() == fs::file_type::not_found) {
     return false;
   }
-  const QJsonObject document = ParseRoot(ReadWhole(file, fileName), fileName);
+  RequireFile(status, error, fileName);
+  const QJsonObject document = ParseRoot(ReadWhole(path, fileName), fileName);
   boost::intrusive_ptr<const ISerializer> root = new JsonSerializer(document, fileName, "");
   object.Deserialize(rootName.empty() ? root : root->GetChild(rootName));
   return true;

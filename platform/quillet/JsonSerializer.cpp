@@ -55,16 +55,21 @@ std::string Escape(const std::string& name) {
 
 void ThrowJson(const std::string& document, const std::string& place, const std::string& cause) {
   Core::JsonException failure;
-  failure << TagFilename(document) << TagParseError(document + (place.empty() ? "" : ", at " + place) + ": " + cause);
+  failure << TagFilename(document)
+          << TagParseError(document + (place.empty() ? "" : ", at " + place) + ": " + cause);
   BOOST_THROW_EXCEPTION(failure);
 }
 
 JsonSerializer::JsonSerializer(QJsonValue value, std::string document, std::string pointer)
     : value_(std::move(value)), document_(std::move(document)), pointer_(std::move(pointer)) {}
 
-unsigned int JsonSerializer::AddRef() const { return count_.AddRefImpl(); }
+unsigned int JsonSerializer::AddRef() const {
+  return count_.AddRefImpl();
+}
 
-unsigned int JsonSerializer::GetRefCount() const { return count_.GetRefCountImpl(); }
+unsigned int JsonSerializer::GetRefCount() const {
+  return count_.GetRefCountImpl();
+}
 
 unsigned int JsonSerializer::Release() const {
   const unsigned int left = count_.ReleaseImpl();
@@ -78,7 +83,9 @@ QJsonValue JsonSerializer::Member(const std::string& name) const {
   return value_.toObject().value(QString::fromStdString(name));
 }
 
-std::string JsonSerializer::PlaceOfMember(const std::string& name) const { return pointer_ + "/" + Escape(name); }
+std::string JsonSerializer::PlaceOfMember(const std::string& name) const {
+  return pointer_ + "/" + Escape(name);
+}
 
 boost::intrusive_ptr<const ISerializer> JsonSerializer::MemberOfKind(const std::string& name,
                                                                      QJsonValue::Type kind) const {
@@ -89,7 +96,9 @@ boost::intrusive_ptr<const ISerializer> JsonSerializer::MemberOfKind(const std::
   return new JsonSerializer(member, document_, PlaceOfMember(name));
 }
 
-bool JsonSerializer::HasChild(const std::string& name) const { return !Member(name).isUndefined(); }
+bool JsonSerializer::HasChild(const std::string& name) const {
+  return !Member(name).isUndefined();
+}
 
 boost::intrusive_ptr<const ISerializer> JsonSerializer::GetChild(const std::string& name) const {
   return MemberOfKind(name, QJsonValue::Object);
@@ -99,12 +108,17 @@ boost::intrusive_ptr<const ISerializer> JsonSerializer::GetArray(const std::stri
   return MemberOfKind(name, QJsonValue::Array);
 }
 
-std::size_t JsonSerializer::GetLength() const { return static_cast<std::size_t>(value_.toArray().size()); }
+std::size_t JsonSerializer::GetLength() const {
+  return static_cast<std::size_t>(value_.toArray().size());
+}
 
 boost::intrusive_ptr<const ISerializer> JsonSerializer::GetElement(std::size_t index) const {
   const std::string place = pointer_ + "/" + std::to_string(index);
+  if (!value_.isArray()) {
+    ThrowJson(document_, pointer_, Expected(QJsonValue::Array, value_.type()));
+  }
   if (index >= GetLength()) {
-    ThrowJson(document_, place, "the array has " + std::to_string(GetLength()) + " elements");
+    ThrowJson(document_, place, "the array's length is " + std::to_string(GetLength()));
   }
   const QJsonValue element = value_.toArray().at(static_cast<int>(index));
   if (!element.isObject() && !element.isArray()) {

@@ -9,7 +9,8 @@
 
 namespace Zenvora::Quillet {
 
-/// Throws `Core::JsonException` for `document` at `place` ("/events/3" or "line 1, column 2"; empty: the whole).
+/// Throws `Core::JsonException` for `document` at `place` ("/events/3" or "line 1, column 2"; empty: the
+/// whole).
 [[noreturn]] void ThrowJson(const std::string& document, const std::string& place, const std::string& cause);
 
 /// A node over Qt's JSON values. Qt shares them, so nodes are cheap.

@@ -20,7 +20,7 @@ inline constexpr std::chrono::seconds kStallTimeout{15};
 inline constexpr std::chrono::minutes kTotalTimeout{2};
 
 /// Some three hundred times the calendar shipped today, and still harmless to hold in memory twice.
-inline constexpr qint64 kSizeLimit = 4 * 1024 * 1024;
+inline constexpr qint64 kSizeLimit = qint64{4} * 1024 * 1024;
 
 /// A real server needs one or two (http to https, a moved host); more is a loop or a trap.
 inline constexpr int kRedirectLimit = 5;

@@ -4,6 +4,7 @@
 #include <zenvora/tavolin/NetworkDownloads.h>
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QNetworkAccessManager>
@@ -25,7 +26,7 @@ using App::DownloadRequest;
 constexpr int kOk = 200;
 constexpr int kNotModified = 304;
 // What Qt may hold of a body that was not read yet: the server waits while this is full.
-constexpr qint64 kReadBuffer = 64 * 1024;
+constexpr qint64 kReadBuffer = qint64{64} * 1024;
 
 DownloadReply Failure(const QString& error) {
   DownloadReply reply;
@@ -119,6 +120,8 @@ class Transfer : public App::IDownloads::Pending {
 
 Transfer::Transfer(const DownloadRequest& request, App::IDownloads::Done done)
     : request_(request), done_(std::move(done)) {
+  // A thread that Qt did not start gets its dispatcher with its first event loop; timers do not start before.
+  const QEventLoop dispatcher;
   stall_.setSingleShot(true);
   total_.setSingleShot(true);
   QObject::connect(&stall_, &QTimer::timeout, &here_, [this] {
@@ -153,10 +156,8 @@ void Transfer::DropReply() {
   if (reply_ == nullptr) {
     return;
   }
-  // Aborting reports at once; nobody listens any more.
   QObject::disconnect(reply_, nullptr, &here_, nullptr);
-  reply_->abort();
-  // This may be one of its own signals.
+  // Later: this may be one of its own signals. Until then its buffer fills up and no more.
   reply_->deleteLater();
   reply_ = nullptr;
 }
@@ -168,9 +169,9 @@ void Transfer::Settle(DownloadReply reply) {
   stall_.stop();
   total_.stop();
   DropReply();
-  QTimer::singleShot(0, &here_, [this, reply = std::move(reply)] {
+  QTimer::singleShot(0, &here_, [this, reply = std::move(reply)]() mutable {
     // Locals: the callback may destroy this object.
-    const DownloadReply given = reply;
+    const DownloadReply given = std::move(reply);
     const auto done = std::move(done_);
     done(given);
   });

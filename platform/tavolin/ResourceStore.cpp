@@ -19,7 +19,14 @@ QString WriteWhole(const QString& name, const QByteArray& content, const QDateTi
   if (!file.open(QIODevice::WriteOnly)) {
     return file.errorString();
   }
-  file.write(content);
+  // A disk that fills up takes a part and calls it success; only the next attempt says why.
+  for (int written = 0; written < content.size();) {
+    const qint64 count = file.write(content.constData() + written, content.size() - written);
+    if (count <= 0) {
+      return file.errorString();
+    }
+    written += static_cast<int>(count);
+  }
   // A time of writing ends with the buffer's last byte on the disk.
   if (file.flush() && modified.isValid()) {
     file.setFileTime(modified, QFileDevice::FileModificationTime);
@@ -84,7 +91,7 @@ QString ResourceStore::Write(const QUrl& url, const QByteArray& body, const QByt
   if (!QDir().mkpath(folder)) {
     return QStringLiteral("the folder %1 cannot be made").arg(folder);
   }
-  const QString fault = WriteWhole(file_, body, now);
+  QString fault = WriteWhole(file_, body, now);
   if (!fault.isEmpty()) {
     return fault;
   }

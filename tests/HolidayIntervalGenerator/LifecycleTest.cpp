@@ -56,6 +56,15 @@ TEST_F(Lifecycle, AsksForTheCalendarByItsNames) {
   EXPECT_EQ(network_->requests[0].url, QUrl("https://calendar.test/files/holidayEvents/HolidayEvents.json"));
 }
 
+TEST_F(Lifecycle, AsksNoServerWhileTheStoredCalendarIsFresh) {
+  const App::ServiceScope<App::IClock> clock(std::make_shared<FakeClock>(QDateTime::currentDateTime().addDays(6)));
+  network_->answerAtOnce = true;
+  network_->reply = Fetched(CalendarJson("en_US", {{"Stored", "02.03", "02.03"}}));
+  EXPECT_THAT(GenerateNames(PhotosOf(kMonday, 20)), ElementsAre("Stored\n02 March 2015"));
+  EXPECT_THAT(GenerateNames(PhotosOf(kMonday, 20)), ElementsAre("Stored\n02 March 2015"));
+  EXPECT_THAT(network_->requests, SizeIs(1));
+}
+
 TEST_F(Lifecycle, DeliversInsideTheCallWhenTheDownloadEndsThere) {
   network_->answerAtOnce = true;
   network_->reply = Fetched(CalendarJson("en_US", {{"Spring", "02.03", "02.03"}}));

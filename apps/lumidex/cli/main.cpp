@@ -1,1 +1,5 @@
-int main() { return 0; }
+#include "Program.h"
+
+int main(int argc, char** argv) {
+  return Zenvora::Lumidex::Cli::RunProgram(argc, argv);
+}

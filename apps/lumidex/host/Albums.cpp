@@ -1,1 +1,39 @@
-// to be written
+#include "WaitLoop.h"
+
+#include <LumidexUtil/HolidayAlbums.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <host/Albums.h>
+#include <host/HostError.h>
+#include <memory>
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+// Shared with the callback, which may outlive a wait that was given up.
+struct Answer {
+  WaitLoop loop;
+  std::vector<Album> albums;
+};
+
+}  // namespace
+
+std::vector<Album> ProposeAlbums(std::vector<DataModel> photos, const std::atomic<bool>* cancel) {
+  const auto answer = std::make_shared<Answer>();
+  Util::GenerateHolidayAlbums(std::move(photos), [answer](const std::vector<Album>& albums) {
+    answer->albums = albums;
+    answer->loop.Finish();
+  });
+  if (!answer->loop.Wait(cancel)) {
+    ThrowHostError("", "Proposing albums was interrupted.");
+  }
+  // The generator deletes itself from the event loop, which a command leaves for good here.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  return std::move(answer->albums);
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,1 +1,417 @@
-// to be written
+#include "CatalogueDatabase.h"
+#include "CatalogueSchema.h"
+
+#include <zenvora/strandel/PhotoFacts.h>
+#include <zenvora/tavolin/Uuid.h>
+
+#include <QStandardPaths>
+
+#include <filesystem>
+#include <host/Catalogue.h>
+#include <optional>
+#include <unordered_set>
+#include <utility>
+
+#ifndef _WIN32
+#include <cerrno>
+#include <unistd.h>
+#endif
+
+namespace Zenvora::Lumidex::Host {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Paths are stored as bytes: a file name on Linux need not be text.
+QByteArray PathBytes(const ioPath& path) {
+  return QByteArray::fromStdString(path.utf8string());
+}
+
+ioPath PathOf(const QVariant& bytes) {
+  return ioPath(bytes.toByteArray().toStdString());
+}
+
+/// NULL for a missing date. The text of a date sorts as the date does.
+QVariant TakenText(const QDateTime& taken) {
+  const QString day = taken.date().toString(Qt::ISODate);
+  if (!taken.isValid() || day.isEmpty()) {
+    return QVariant(QVariant::String);
+  }
+  return day + taken.time().toString(QStringLiteral("'T'HH:mm:ss.zzz"));
+}
+
+QDateTime TakenOf(const QString& text) {
+  constexpr int kDayLength = 10;
+  return Strandel::CameraTime(QDate::fromString(text.left(kDayLength), Qt::ISODate),
+                              QTime::fromString(text.mid(kDayLength + 1), QStringLiteral("HH:mm:ss.zzz")));
+}
+
+/// A null text would be NULL, which the tables do not take.
+QString NotNull(const QString& text) {
+  return text.isNull() ? QStringLiteral("") : text;
+}
+
+/// The bytes that the paths of everything below a folder begin with, and the first bytes behind all of those.
+std::pair<QByteArray, QByteArray> RangeBelow(const ioPath& folder) {
+#ifdef _WIN32
+  constexpr char kSeparator = '\\';
+#else
+  constexpr char kSeparator = '/';
+#endif
+  QByteArray first = PathBytes(folder);
+  if (!first.endsWith(kSeparator)) {
+    first += kSeparator;
+  }
+  QByteArray behind = first;
+  behind[behind.size() - 1] = kSeparator + 1;
+  return {first, behind};
+}
+
+/// Refuses names that SQLite would only stumble over, or wait for.
+void RequireUsablePlace(const ioPath& file, Catalogue::Mode mode) {
+  if (file.empty() || file.native().native().find(fs::path::value_type{}) != fs::path::string_type::npos) {
+    ThrowCatalogueError(file, "it has no usable name");
+  }
+  std::error_code error;
+  const fs::file_status status = fs::status(file.native(), error);
+  if (status.type() == fs::file_type::directory) {
+    ThrowCatalogueError(file, "it is a folder");
+  }
+  if (status.type() == fs::file_type::not_found) {
+    if (mode == Catalogue::Mode::ReadOnly) {
+      ThrowCatalogueError(file, "it does not exist; run a scan to make it");
+    }
+  } else if (status.type() == fs::file_type::none) {
+    ThrowCatalogueError(file, error.message());
+  } else if (status.type() != fs::file_type::regular) {
+    ThrowCatalogueError(file, "it is no regular file");
+  }
+}
+
+void MakeFolderOf(const ioPath& file) {
+  std::error_code error;
+  const ioPath folder = file.parent_path();
+  if (!folder.empty()) {
+    fs::create_directories(folder.native(), error);
+  }
+  if (error) {
+    ThrowCatalogueError(file, "its folder cannot be made (" + error.message() + ")");
+  }
+}
+
+void RequireWritable(const ioPath& file) {
+#ifndef _WIN32
+  const ioPath folder = file.parent_path().empty() ? ioPath(".") : file.parent_path();
+  for (const ioPath& place : {folder, file}) {
+    if (access(place.native().c_str(), W_OK) != 0 && errno != ENOENT) {
+      ThrowCatalogueError(file, place == file ? "it is write-protected" : "its folder is write-protected");
+    }
+  }
+#else
+  static_cast<void>(file);
+#endif
+}
+
+std::unique_ptr<CatalogueDatabase> OpenForWriting(const ioPath& file) {
+  MakeFolderOf(file);
+  RequireWritable(file);
+  if (file.file_size() > 0) {
+    RequireOwnFile(file);
+  }
+  auto database = std::make_unique<CatalogueDatabase>(file, CatalogueDatabase::Access::ReadWrite,
+                                                      Catalogue::kBusyTimeoutMs);
+  BringUpToDate(*database);
+  return database;
+}
+
+std::unique_ptr<CatalogueDatabase> OpenForReading(const ioPath& file) {
+  using Access = CatalogueDatabase::Access;
+  RequireOwnFile(file);
+  auto database = std::make_unique<CatalogueDatabase>(file, Access::QueryOnly, Catalogue::kBusyTimeoutMs);
+  int code = 0;
+  if (!database->TryExecute("SELECT count(*) FROM sqlite_master", code)) {
+    // Without the files beside it a catalogue can still be read where nobody can write it. A log with content
+    // would be missed then.
+    if (ioPath(file.utf8string() + "-wal").file_size() > 0) {
+      database->Execute("SELECT count(*) FROM sqlite_master");
+    }
+    database = std::make_unique<CatalogueDatabase>(file, Access::Frozen, Catalogue::kBusyTimeoutMs);
+  }
+  RequireCurrentVersion(*database);
+  return database;
+}
+
+std::unique_ptr<CatalogueDatabase> Open(const ioPath& file, Catalogue::Mode mode) {
+  RequireUsablePlace(file, mode);
+  return mode == Catalogue::Mode::ReadOnly ? OpenForReading(file) : OpenForWriting(file);
+}
+
+}  // namespace
+
+const char* DateSourceName(DateSource source) {
+  switch (source) {
+    case DateSource::None:
+      break;
+    case DateSource::Original:
+      return "original";
+    case DateSource::Digitised:
+      return "digitised";
+    case DateSource::FileTime:
+      return "file time";
+  }
+  return "none";
+}
+
+class Catalogue::Impl {
+ public:
+  Impl(const ioPath& file, Mode mode) : database_(Open(file, mode)) {}
+
+  const CatalogueDatabase& Database() const { return *database_; }
+
+  std::optional<qlonglong> FindNumber(const char* sql, const QString& text) const {
+    QSqlQuery query = database_->Prepare(sql);
+    query.addBindValue(text);
+    database_->Run(query);
+    return database_->Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
+  }
+
+  /// The album's number. `result` gets its id, and whether it is new.
+  qlonglong FindOrMakeAlbum(const Album& proposal, AcceptResult& result) const;
+  /// The photos' numbers, each once. Throws for ids that are not in the catalogue.
+  std::vector<qlonglong> NumbersOf(const Album& proposal) const;
+  int AddMembers(qlonglong album, const std::vector<qlonglong>& photos) const;
+
+ private:
+  void StoreAttributes(qlonglong album, const Album& proposal) const;
+
+  std::unique_ptr<CatalogueDatabase> database_;
+};
+
+qlonglong Catalogue::Impl::FindOrMakeAlbum(const Album& proposal, AcceptResult& result) const {
+  const QString name = NotNull(proposal.GetModel().GetName());
+  QSqlQuery known = database_->Prepare("SELECT number, id FROM albums WHERE name = ?");
+  known.addBindValue(name);
+  database_->Run(known);
+  if (database_->Next(known)) {
+    result.albumId = known.value(1).toString();
+    return known.value(0).toLongLong();
+  }
+  result.albumId = Tavolin::GenerateUuid();
+  result.created = true;
+  const QDate firstDay = proposal.GetModel().GetDateTime().date();
+  QSqlQuery added = database_->Prepare("INSERT INTO albums (id, name, first_day) VALUES (?, ?, ?)");
+  added.addBindValue(result.albumId);
+  added.addBindValue(name);
+  added.addBindValue(firstDay.isValid() ? QVariant(firstDay.toString(Qt::ISODate))
+                                        : QVariant(QVariant::String));
+  database_->Run(added);
+  const qlonglong album = added.lastInsertId().toLongLong();
+  StoreAttributes(album, proposal);
+  return album;
+}
+
+void Catalogue::Impl::StoreAttributes(qlonglong album, const Album& proposal) const {
+  QSqlQuery query = database_->Prepare(
+      "INSERT OR REPLACE INTO album_attributes (album, attribute, value) VALUES (?, ?, ?)");
+  for (const auto& [attribute, value] : proposal.GetAttributes()) {
+    query.addBindValue(album);
+    query.addBindValue(static_cast<int>(attribute));
+    query.addBindValue(NotNull(value));
+    database_->Run(query);
+  }
+}
+
+std::vector<qlonglong> Catalogue::Impl::NumbersOf(const Album& proposal) const {
+  QSqlQuery query = database_->Prepare("SELECT number FROM photos WHERE id = ?");
+  std::vector<qlonglong> numbers;
+  std::unordered_set<qlonglong> taken;
+  for (const QString& id : proposal.GetPhotoIds()) {
+    query.addBindValue(id);
+    database_->Run(query);
+    if (!database_->Next(query)) {
+      database_->Fail("it knows no photo with the id \"" + id.toStdString() + "\", which the album \"" +
+                      proposal.GetModel().GetName().toStdString() + "\" holds");
+    }
+    const qlonglong number = query.value(0).toLongLong();
+    if (taken.insert(number).second) {
+      numbers.push_back(number);
+    }
+  }
+  return numbers;
+}
+
+int Catalogue::Impl::AddMembers(qlonglong album, const std::vector<qlonglong>& photos) const {
+  QSqlQuery last = database_->Prepare("SELECT max(position) FROM album_photos WHERE album = ?");
+  last.addBindValue(album);
+  database_->Run(last);
+  database_->Next(last);
+  qlonglong position = last.value(0).isNull() ? 0 : last.value(0).toLongLong() + 1;
+  last.finish();
+
+  QSqlQuery query =
+      database_->Prepare("INSERT OR IGNORE INTO album_photos (album, position, photo) VALUES (?, ?, ?)");
+  int added = 0;
+  for (const qlonglong photo : photos) {
+    query.addBindValue(album);
+    query.addBindValue(position);
+    query.addBindValue(photo);
+    database_->Run(query);
+    if (query.numRowsAffected() > 0) {
+      ++added;
+      ++position;
+    }
+  }
+  return added;
+}
+
+Catalogue::Catalogue(const ioPath& file, Mode mode) : impl_(std::make_unique<Impl>(file, mode)) {}
+
+Catalogue::~Catalogue() = default;
+
+ioPath Catalogue::DefaultFile() {
+  return ioPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "lumidex" /
+         "catalogue.sqlite";
+}
+
+const ioPath& Catalogue::File() const {
+  return impl_->Database().File();
+}
+
+std::unordered_map<ioPath, FileStamp> Catalogue::Stamps(const ioPath& folder) const {
+  const CatalogueDatabase& database = impl_->Database();
+  QSqlQuery query = database.Prepare(
+      "SELECT path, size, modified_ns, lost FROM photos WHERE path = ? OR (path >= ? AND path < ?)");
+  const auto [first, behind] = RangeBelow(folder);
+  query.addBindValue(PathBytes(folder));
+  query.addBindValue(first);
+  query.addBindValue(behind);
+  database.Run(query);
+  std::unordered_map<ioPath, FileStamp> stamps;
+  while (database.Next(query)) {
+    stamps[PathOf(query.value(0))] = {query.value(1).toULongLong(), query.value(2).toLongLong(),
+                                      query.value(3).toBool()};
+  }
+  return stamps;
+}
+
+void Catalogue::Store(const std::vector<PhotoRecord>& batch) {
+  const CatalogueDatabase& database = impl_->Database();
+  if (batch.empty()) {
+    return;
+  }
+  WriteTransaction transaction(database);
+  {
+    QSqlQuery query = database.Prepare(
+        "INSERT INTO photos (id, path, size, modified_ns, taken, taken_source, camera) VALUES (?, ?, ?, ?, "
+        "?, ?, ?)"
+        " ON CONFLICT (path) DO UPDATE SET size = excluded.size, modified_ns = excluded.modified_ns,"
+        " taken = excluded.taken, taken_source = excluded.taken_source, camera = excluded.camera, lost = 0");
+    for (const PhotoRecord& photo : batch) {
+      query.addBindValue(Tavolin::GenerateUuid());
+      query.addBindValue(PathBytes(photo.path));
+      query.addBindValue(static_cast<qlonglong>(photo.size));
+      query.addBindValue(static_cast<qlonglong>(photo.modifiedNs));
+      query.addBindValue(TakenText(photo.taken));
+      query.addBindValue(static_cast<int>(photo.takenSource));
+      query.addBindValue(NotNull(photo.camera));
+      database.Run(query);
+    }
+  }
+  transaction.Commit();
+}
+
+int Catalogue::MarkLost(const std::vector<ioPath>& paths) {
+  const CatalogueDatabase& database = impl_->Database();
+  if (paths.empty()) {
+    return 0;
+  }
+  int marked = 0;
+  WriteTransaction transaction(database);
+  {
+    QSqlQuery query = database.Prepare("UPDATE photos SET lost = 1 WHERE path = ? AND lost = 0");
+    for (const ioPath& path : paths) {
+      query.addBindValue(PathBytes(path));
+      database.Run(query);
+      marked += query.numRowsAffected();
+    }
+  }
+  transaction.Commit();
+  return marked;
+}
+
+std::size_t Catalogue::CountPhotos() const {
+  return static_cast<std::size_t>(impl_->Database().Value("SELECT count(*) FROM photos").toULongLong());
+}
+
+std::vector<PhotoRecord> Catalogue::Photos() const {
+  const CatalogueDatabase& database = impl_->Database();
+  QSqlQuery query = database.Prepare(
+      "SELECT id, path, size, modified_ns, taken, taken_source, camera FROM photos WHERE lost = 0"
+      " ORDER BY taken IS NULL, taken, path");
+  database.Run(query);
+  std::vector<PhotoRecord> photos;
+  while (database.Next(query)) {
+    PhotoRecord photo;
+    photo.id = query.value(0).toString();
+    photo.path = PathOf(query.value(1));
+    photo.size = query.value(2).toULongLong();
+    photo.modifiedNs = query.value(3).toLongLong();
+    photo.taken = TakenOf(query.value(4).toString());
+    photo.takenSource = static_cast<DateSource>(query.value(5).toInt());
+    photo.camera = query.value(6).toString();
+    photos.push_back(std::move(photo));
+  }
+  return photos;
+}
+
+std::vector<DataModel> Catalogue::PhotoModels() const {
+  std::vector<DataModel> models;
+  for (const PhotoRecord& photo : Photos()) {
+    DataModel model(photo.path.filename().qstring(), photo.id, ItemType::Photo);
+    model.SetPath(photo.path);
+    model.SetSize(photo.size);
+    model.SetDateTime(photo.taken);
+    models.push_back(std::move(model));
+  }
+  return models;
+}
+
+AcceptResult Catalogue::AcceptAlbum(const Album& proposal) {
+  AcceptResult result;
+  WriteTransaction transaction(impl_->Database());
+  const std::vector<qlonglong> photos = impl_->NumbersOf(proposal);
+  const qlonglong album = impl_->FindOrMakeAlbum(proposal, result);
+  result.photosAdded = impl_->AddMembers(album, photos);
+  if (result.created || result.photosAdded > 0) {
+    transaction.Commit();
+  }
+  return result;
+}
+
+std::vector<StoredAlbum> Catalogue::Albums() const {
+  const CatalogueDatabase& database = impl_->Database();
+  // One statement, so that what another process adds meanwhile is seen whole or not at all.
+  QSqlQuery query = database.Prepare(
+      "SELECT a.number, a.id, a.name, a.first_day, p.id FROM albums a"
+      " LEFT JOIN album_photos m ON m.album = a.number LEFT JOIN photos p ON p.number = m.photo"
+      " ORDER BY a.first_day IS NULL, a.first_day, a.name, a.number, m.position");
+  database.Run(query);
+  std::vector<StoredAlbum> albums;
+  qlonglong current = -1;
+  while (database.Next(query)) {
+    if (albums.empty() || query.value(0).toLongLong() != current) {
+      current = query.value(0).toLongLong();
+      albums.push_back({query.value(1).toString(),
+                        query.value(2).toString(),
+                        QDate::fromString(query.value(3).toString(), Qt::ISODate),
+                        {}});
+    }
+    if (!query.value(4).isNull()) {
+      albums.back().photoIds.push_back(query.value(4).toString());
+    }
+  }
+  return albums;
+}
+
+}  // namespace Zenvora::Lumidex::Host

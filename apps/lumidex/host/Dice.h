@@ -17,7 +17,8 @@ constexpr std::uint32_t MixSeed(std::uint32_t a, std::uint32_t b) {
   return h ^ (h >> 15);
 }
 
-/// Random numbers that are the same with every compiler: the standard fixes the engine, but not its distributions.
+/// Random numbers that are the same with every compiler: the standard fixes the engine, but not its
+/// distributions.
 class Dice {
  public:
   explicit Dice(std::uint32_t seed) : engine_(seed) {}
@@ -27,11 +28,14 @@ class Dice {
   double Unit() { return (Number() >> 5) * (1.0 / 134217728.0); }
   double Between(double low, double high) { return low + (high - low) * Unit(); }
   /// Both bounds included.
-  int Whole(int low, int high) { return low + static_cast<int>(Number() % static_cast<std::uint32_t>(high - low + 1)); }
+  int Whole(int low, int high) {
+    return low + static_cast<int>(Number() % static_cast<std::uint32_t>(high - low + 1));
+  }
   bool Chance(double probability) { return Unit() < probability; }
   template <typename List>
   const auto& Pick(const List& list) {
-    return *(std::begin(list) + static_cast<std::ptrdiff_t>(Number() % static_cast<std::uint32_t>(std::size(list))));
+    return *(std::begin(list) +
+             static_cast<std::ptrdiff_t>(Number() % static_cast<std::uint32_t>(std::size(list))));
   }
 
  private:

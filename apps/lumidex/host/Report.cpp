@@ -1,1 +1,80 @@
-// to be written
+#include "OrderedThumbnails.h"
+#include "ReportPage.h"
+#include "WholeFile.h"
+
+#include <algorithm>
+#include <chrono>
+#include <host/Report.h>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+constexpr std::chrono::milliseconds kBetweenLooks{100};
+
+std::size_t ShownOf(const ReportAlbum& album, const ReportOptions& options) {
+  return options.photosPerAlbum > 0
+             ? std::min(album.photos.size(), static_cast<std::size_t>(options.photosPerAlbum))
+             : album.photos.size();
+}
+
+std::vector<const ioPath*> FilesToShow(const std::vector<ReportAlbum>& albums, const ReportOptions& options) {
+  std::vector<const ioPath*> files;
+  for (const ReportAlbum& album : albums) {
+    for (std::size_t i = 0; i < ShownOf(album, options); ++i) {
+      files.push_back(&album.photos[i].path);
+    }
+  }
+  return files;
+}
+
+/// Waits for the next picture, but not deaf to a wish to stop.
+ReportThumbnail NextOf(OrderedThumbnails& thumbnails, const ioPath& file, const std::atomic<bool>* cancel) {
+  for (;;) {
+    if (cancel != nullptr && cancel->load()) {
+      ThrowHostError(file.utf8string(), "cancelled");
+    }
+    if (auto thumbnail = thumbnails.TakeNext(kBetweenLooks)) {
+      return std::move(*thumbnail);
+    }
+  }
+}
+
+}  // namespace
+
+int WriteReport(const ioPath& file, const std::vector<ReportAlbum>& albums, const ReportOptions& given,
+                const std::function<void(int, int)>& progress) {
+  ReportOptions options = given;
+  options.thumbnailSize = std::clamp(given.thumbnailSize, kSmallestThumbnail, kLargestThumbnail);
+
+  WholeFile output(file);
+  const ReportPage page(albums, options);
+  output.Write(page.Begin());
+  const std::vector<const ioPath*> files = FilesToShow(albums, options);
+  OrderedThumbnails thumbnails(files, options.thumbnailSize);
+  int done = 0;
+  int missing = 0;
+  for (std::size_t a = 0; a < albums.size(); ++a) {
+    const ReportAlbum& album = albums[a];
+    output.Write(page.BeginAlbum(album, static_cast<int>(a) + 1));
+    const std::size_t shown = ShownOf(album, options);
+    for (std::size_t i = 0; i < shown; ++i) {
+      const ReportThumbnail thumbnail = NextOf(thumbnails, file, options.cancel);
+      missing += thumbnail.jpeg.isEmpty() ? 1 : 0;
+      output.Write(page.Photo(album.photos[i], thumbnail));
+      ++done;
+      if (progress) {
+        progress(done, static_cast<int>(files.size()));
+      }
+    }
+    output.Write(page.EndAlbum(static_cast<int>(album.photos.size() - shown)));
+  }
+  output.Write(page.End());
+  if (options.cancel != nullptr && options.cancel->load()) {
+    ThrowHostError(file.utf8string(), "cancelled");
+  }
+  output.Commit(true);
+  return missing;
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -14,9 +14,9 @@ using ScenePainter = void (*)(Stage&);
 
 // In the order of SceneKind.
 constexpr std::array<ScenePainter, kSceneKinds> kPainters = {
-    PaintMountains, PaintLake,   PaintAurora, PaintBeach,  PaintHills,         PaintBalloons,
-    PaintForest,    PaintFlowers, PaintSnowVillage, PaintCity,   PaintHouses,        PaintCoffee,
-    PaintPeople,    PaintChristmasTree, PaintFireworks, PaintPumpkins, PaintCake, PaintRoses,
+    PaintMountains, PaintLake,          PaintAurora,      PaintBeach,    PaintHills,  PaintBalloons,
+    PaintForest,    PaintFlowers,       PaintSnowVillage, PaintCity,     PaintHouses, PaintCoffee,
+    PaintPeople,    PaintChristmasTree, PaintFireworks,   PaintPumpkins, PaintCake,   PaintRoses,
 };
 
 QImage Shake(const QImage& still, const SceneLook& look) {
@@ -40,8 +40,10 @@ void Expose(QImage& image, const SceneLook& look) {
   std::array<int, 256> curve{};
   const double gain = std::exp2(look.exposure);
   for (std::size_t i = 0; i < curve.size(); ++i) {
-    const double value = std::pow(static_cast<double>(i) / 255, 1 / (0.75 + 0.25 * gain));
-    curve[i] = static_cast<int>(std::lround(255 * std::min(1.0, value * (0.6 + 0.4 * gain))));
+    const double value = std::min(1.0, std::pow(static_cast<double>(i) / 255 * (0.6 + 0.4 * gain), 0.9));
+    // A gentle S, as cameras develop their pictures.
+    const double lively = value * value * (3 - 2 * value);
+    curve[i] = static_cast<int>(std::lround(255 * (0.7 * value + 0.3 * lively)));
   }
   const int grain = look.hour < 6 || look.hour > 20 ? 9 : 5;
   std::uint32_t noise = look.grainSeed | 1U;
@@ -58,8 +60,10 @@ void Expose(QImage& image, const SceneLook& look) {
       noise ^= noise >> 17U;
       noise ^= noise << 5U;
       const int add = static_cast<int>(noise >> 16U) % (2 * grain + 1) - grain;
+      const int grey = qGray(line[x]);
       const auto channel = [&](int value) {
-        return std::clamp(curve[static_cast<std::size_t>(value)] * corner / 256 + add, 0, 255);
+        const int vivid = std::clamp(grey + (value - grey) * 9 / 8, 0, 255);
+        return std::clamp(curve[static_cast<std::size_t>(vivid)] * corner / 256 + add, 0, 255);
       };
       line[x] = qRgb(channel(qRed(line[x])), channel(qGreen(line[x])), channel(qBlue(line[x])));
     }
@@ -75,8 +79,14 @@ QImage DrawScene(const SceneLook& look) {
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     Dice dice(MixSeed(look.seed, static_cast<std::uint32_t>(look.kind)));
-    Stage stage{image, painter, static_cast<double>(look.size.width()), static_cast<double>(look.size.height()),
-                dice,  LightOf(look.hour), look.hour, look.month};
+    Stage stage{image,
+                painter,
+                static_cast<double>(look.size.width()),
+                static_cast<double>(look.size.height()),
+                dice,
+                LightOf(look.hour),
+                look.hour,
+                look.month};
     kPainters[static_cast<std::size_t>(look.kind)](stage);
   }
   QImage shot = Shake(image, look);

@@ -1,1 +1,290 @@
-// to be written
+#include "FileState.h"
+#include "FolderWalker.h"
+#include "MetadataReaders.h"
+
+#include <zenvora/strandel/PhotoFacts.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <filesystem>
+#include <host/Scanner.h>
+#include <string_view>
+#include <thread>
+#include <tuple>
+#include <unordered_map>
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+
+constexpr std::size_t kBatchSize = 500;
+constexpr auto kBatchAge = std::chrono::seconds(2);
+constexpr auto kProgressInterval = std::chrono::milliseconds(100);
+constexpr int kMaxAutomaticThreads = 8;
+constexpr int kMaxThreads = 64;
+
+int ThreadCount(const ScanOptions& options) {
+  const int cores = static_cast<int>(std::thread::hardware_concurrency());
+  const int wanted = options.threads > 0 ? options.threads : std::min(cores, kMaxAutomaticThreads);
+  return std::clamp(wanted, 1, kMaxThreads);
+}
+
+/// Canonical, so that a photo has one path however its folder is named.
+std::vector<ioPath> CanonicalRoots(const std::vector<ioPath>& roots) {
+  std::vector<ioPath> canonical;
+  for (const ioPath& root : roots) {
+    const std::string name = root.utf8string();
+    std::error_code error;
+    const ioPath path(std::filesystem::canonical(root.native(), error));
+    if (error) {
+      ThrowHostError(name, name + " cannot be scanned: " + error.message() + ".");
+    }
+    const FileState state = QueryFile(path);
+    if (state.kind != FileState::Kind::File && state.kind != FileState::Kind::Folder) {
+      ThrowHostError(name, name + " cannot be scanned: it is neither a folder nor a file.");
+    }
+    canonical.push_back(path);
+  }
+  return canonical;
+}
+
+/// One scan, from its first folder to its last commit, on the calling thread.
+class ScanRun {
+ public:
+  ScanRun(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,
+          const ScanProgressHandler& progress)
+      : catalogue_(catalogue),
+        options_(options),
+        progressHandler_(progress),
+        roots_(CanonicalRoots(roots)),
+        walker_(roots_),
+        readers_(ThreadCount(options)) {}
+
+  ScanResult Run();
+
+ private:
+  bool IsCancelled() const {
+    return options_.cancel != nullptr && options_.cancel->load(std::memory_order_relaxed);
+  }
+  void LoadStamps();
+  void WalkAll();
+  void Take(const FolderWalker::Found& found);
+  void CollectAll();
+  void Collect(bool wait);
+  void TakeResult(MetadataReaders::Result& result);
+  void CommitWhenDue();
+  void Commit();
+  void MarkLost();
+  void ReportProgress(bool always);
+  ScanResult Finish();
+
+  Catalogue& catalogue_;
+  const ScanOptions& options_;
+  const ScanProgressHandler& progressHandler_;
+  const std::vector<ioPath> roots_;
+
+  /// What the catalogue knows below the roots and the scan has not met yet.
+  std::unordered_map<ioPath, FileStamp> stamps_;
+  FolderWalker walker_;
+  std::vector<PhotoRecord> batch_;
+  SteadyClock::time_point batchBegun_;
+  SteadyClock::time_point reported_;
+  ScanProgress progress_;
+  ScanResult result_;
+  // Last: its threads end before anything else does.
+  MetadataReaders readers_;
+};
+
+ScanResult ScanRun::Run() {
+  LoadStamps();
+  WalkAll();
+  CollectAll();
+  Commit();
+  if (!IsCancelled()) {
+    MarkLost();
+  }
+  result_.cancelled = IsCancelled();
+  ReportProgress(true);
+  return Finish();
+}
+
+void ScanRun::LoadStamps() {
+  for (const ioPath& root : roots_) {
+    stamps_.merge(catalogue_.Stamps(root));
+  }
+}
+
+void ScanRun::WalkAll() {
+  FolderWalker::Found found;
+  while (!IsCancelled() && walker_.Next(found)) {
+    Take(found);
+    Collect(false);
+    while (readers_.IsFull() && !IsCancelled()) {
+      Collect(true);
+    }
+  }
+  progress_.foundAll = !IsCancelled();
+}
+
+void ScanRun::Take(const FolderWalker::Found& found) {
+  ++progress_.found;
+  const auto known = stamps_.find(found.path);
+  const bool isKnown = known != stamps_.end();
+  const bool isUnchanged = isKnown && !options_.full && !known->second.lost &&
+                           known->second.size == found.state.size &&
+                           known->second.modifiedNs == found.state.modifiedNs;
+  if (isKnown) {
+    stamps_.erase(known);
+  }
+  if (isUnchanged) {
+    ++result_.unchanged;
+    ++progress_.done;
+  } else {
+    readers_.Submit({found.path, isKnown});
+  }
+}
+
+void ScanRun::CollectAll() {
+  while (!readers_.IsIdle() && !IsCancelled()) {
+    Collect(true);
+  }
+}
+
+void ScanRun::Collect(bool wait) {
+  for (MetadataReaders::Result& result : readers_.Collect(wait)) {
+    TakeResult(result);
+  }
+  CommitWhenDue();
+  ReportProgress(false);
+}
+
+void ScanRun::TakeResult(MetadataReaders::Result& result) {
+  ++progress_.done;
+  if (!result.ok) {
+    result_.findings.push_back(std::move(result.finding));
+    return;
+  }
+  ++(result.known ? result_.updated : result_.added);
+  ++result_.dated[static_cast<std::size_t>(result.record.takenSource)];
+  if (options_.dryRun) {
+    return;
+  }
+  if (batch_.empty()) {
+    batchBegun_ = SteadyClock::now();
+  }
+  batch_.push_back(std::move(result.record));
+  if (batch_.size() >= kBatchSize) {
+    Commit();
+  }
+}
+
+void ScanRun::CommitWhenDue() {
+  if (!batch_.empty() && SteadyClock::now() - batchBegun_ >= kBatchAge) {
+    Commit();
+  }
+}
+
+void ScanRun::Commit() {
+  catalogue_.Store(batch_);
+  batch_.clear();
+}
+
+void ScanRun::MarkLost() {
+  std::vector<ioPath> lost;
+  for (const auto& [path, stamp] : stamps_) {
+    if (IsCancelled()) {
+      return;
+    }
+    if (stamp.lost || walker_.IsHidden(path)) {
+      continue;
+    }
+    // Asked again: what the walk passed over, such as a folder that is hidden by now, is not lost.
+    const FileState::Kind kind = QueryFile(path).kind;
+    if (kind != FileState::Kind::File && kind != FileState::Kind::Unknown) {
+      lost.push_back(path);
+    }
+  }
+  result_.lost = options_.dryRun ? lost.size() : static_cast<std::uint64_t>(catalogue_.MarkLost(lost));
+}
+
+void ScanRun::ReportProgress(bool always) {
+  const auto now = SteadyClock::now();
+  if (progressHandler_ && (always || now - reported_ >= kProgressInterval)) {
+    reported_ = now;
+    progressHandler_(progress_);
+  }
+}
+
+ScanResult ScanRun::Finish() {
+  result_.found = progress_.found;
+  const std::vector<ScanFinding>& walked = walker_.Findings();
+  result_.findings.insert(result_.findings.end(), walked.begin(), walked.end());
+  // The threads finish in any order; the list does not show it.
+  std::sort(result_.findings.begin(), result_.findings.end(), [](const ScanFinding& a, const ScanFinding& b) {
+    return std::tie(a.path, a.kind, a.cause) < std::tie(b.path, b.kind, b.cause);
+  });
+  return std::move(result_);
+}
+
+void TakeDate(const Strandel::PhotoFacts& facts, PhotoRecord& record) {
+  if (facts.original.isValid()) {
+    record.taken = facts.original;
+    record.takenSource = DateSource::Original;
+  } else if (facts.digitised.isValid()) {
+    record.taken = facts.digitised;
+    record.takenSource = DateSource::Digitised;
+  } else {
+    const auto since1970 = std::chrono::nanoseconds(record.modifiedNs);
+    record.taken =
+        QDateTime::fromMSecsSinceEpoch(std::chrono::floor<std::chrono::milliseconds>(since1970).count());
+    record.takenSource = DateSource::FileTime;
+  }
+}
+
+}  // namespace
+
+ScanResult Scan(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,
+                const ScanProgressHandler& progress) {
+  return ScanRun(catalogue, roots, options, progress).Run();
+}
+
+bool IsPhotoName(const ioPath& file) {
+  // What cameras and phones write, and what people keep; docs/decisions/metadata.md.
+  static constexpr std::array<std::string_view, 41> kExtensions = {
+      ".3fr",  ".arw",  ".avif", ".bmp", ".cr2",  ".cr3",  ".crw",  ".dcr", ".dng", ".erf", ".gif",
+      ".heic", ".heif", ".hif",  ".iiq", ".jfif", ".jpe",  ".jpeg", ".jpg", ".jxl", ".kdc", ".mef",
+      ".mos",  ".mrw",  ".nef",  ".nrw", ".orf",  ".pef",  ".png",  ".raf", ".raw", ".rw2", ".rwl",
+      ".sr2",  ".srf",  ".srw",  ".tif", ".tiff", ".webp", ".x3f",  ".fff"};
+  std::string extension = file.extension().utf8string();
+  for (char& letter : extension) {
+    if (letter >= 'A' && letter <= 'Z') {
+      letter = static_cast<char>(letter - 'A' + 'a');
+    }
+  }
+  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+}
+
+bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding) {
+  // Before the content: a file that is changed meanwhile differs from its record, and the next scan reads it
+  // again.
+  const FileState state = QueryFile(file);
+  const Strandel::PhotoFacts facts = Strandel::ReadPhotoFacts(file);
+  if (facts.status != Strandel::PhotoFacts::Status::Read) {
+    const bool opened = facts.status == Strandel::PhotoFacts::Status::NotAnImage;
+    finding = {opened ? ScanFinding::Kind::NotAnImage : ScanFinding::Kind::Unreadable, file, facts.cause};
+    return false;
+  }
+  record = PhotoRecord();
+  record.path = file;
+  record.size = state.size;
+  record.modifiedNs = state.modifiedNs;
+  record.camera = facts.cameraModel;
+  TakeDate(facts, record);
+  return true;
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -24,11 +24,16 @@ struct SkyKey {
 };
 
 constexpr SkyKey kSkyKeys[] = {
-    {0, 0xFF0A1028, 0xFF132046, 0xFF22315C, 0, 0},     {4.6, 0xFF10183A, 0xFF27305F, 0xFF4F4E74, 0.06, 0},
-    {6.2, 0xFF3D4F8E, 0xFFC88F96, 0xFFF9C58D, 0.5, 1}, {8, 0xFF5597D4, 0xFF9DC9EA, 0xFFEAF0EA, 0.9, 0.2},
-    {12, 0xFF2F79C4, 0xFF79B4E6, 0xFFCFE7F3, 1, 0},    {16, 0xFF3F86CB, 0xFF92C1E6, 0xFFEFE7D2, 0.97, 0.15},
-    {18.6, 0xFF4560A8, 0xFFDD9680, 0xFFFCC46C, 0.66, 1}, {20, 0xFF2C3470, 0xFFA2567E, 0xFFF0875A, 0.36, 1},
-    {21.2, 0xFF161D4A, 0xFF39386F, 0xFF875A7C, 0.12, 0.4}, {22.4, 0xFF0B122E, 0xFF17234C, 0xFF2A3763, 0.02, 0},
+    {0, 0xFF0A1028, 0xFF132046, 0xFF22315C, 0, 0},
+    {4.6, 0xFF10183A, 0xFF27305F, 0xFF4F4E74, 0.06, 0},
+    {6.2, 0xFF3D4F8E, 0xFFC88F96, 0xFFF9C58D, 0.5, 1},
+    {8, 0xFF5597D4, 0xFF9DC9EA, 0xFFEAF0EA, 0.9, 0.2},
+    {12, 0xFF2F79C4, 0xFF79B4E6, 0xFFCFE7F3, 1, 0},
+    {16, 0xFF3F86CB, 0xFF92C1E6, 0xFFEFE7D2, 0.97, 0.15},
+    {18.6, 0xFF4560A8, 0xFFDD9680, 0xFFFCC46C, 0.66, 1},
+    {20, 0xFF2C3470, 0xFFA2567E, 0xFFF0875A, 0.36, 1},
+    {21.2, 0xFF161D4A, 0xFF39386F, 0xFF875A7C, 0.12, 0.4},
+    {22.4, 0xFF0B122E, 0xFF17234C, 0xFF2A3763, 0.02, 0},
     {24, 0xFF0A1028, 0xFF132046, 0xFF22315C, 0, 0},
 };
 
@@ -54,7 +59,7 @@ QImage CloudLayer(Dice& dice, double cover, const QColor& lit, const QColor& sha
     // Clouds far away are flat and close together.
     const double deep = 1.6 / (1.12 - static_cast<double>(y) / kHeight);
     for (int x = 0; x < kWidth; ++x) {
-      const double u = (x - kWidth / 2) * 0.016 * deep + 40;
+      const double u = (x - kWidth * 0.5) * 0.016 * deep + 40;
       const double v = deep * 2.6;
       const double density = noise.Layers(u, v, 5);
       const double above = noise.Layers(u + 0.08, v + 0.16, 3);
@@ -71,7 +76,8 @@ QImage CloudLayer(Dice& dice, double cover, const QColor& lit, const QColor& sha
 }  // namespace
 
 double Noise::Corner(std::int32_t x, std::int32_t y) const {
-  std::uint32_t h = seed_ ^ static_cast<std::uint32_t>(x) * 0x8DA6B343U ^ static_cast<std::uint32_t>(y) * 0xD8163841U;
+  std::uint32_t h =
+      seed_ ^ static_cast<std::uint32_t>(x) * 0x8DA6B343U ^ static_cast<std::uint32_t>(y) * 0xD8163841U;
   h ^= h >> 13;
   h *= 0x5BD1E995U;
   h ^= h >> 15;
@@ -121,6 +127,10 @@ Light LightOf(double hour) {
   light.day = a.day + (b.day - a.day) * share;
   light.evening = a.evening + (b.evening - a.evening) * share;
   return light;
+}
+
+QPolygonF Shape(std::initializer_list<QPointF> corners) {
+  return {QVector<QPointF>(corners)};
 }
 
 QColor Mix(const QColor& a, const QColor& b, double share) {
@@ -208,11 +218,12 @@ QPointF PaintSky(Stage& stage, double horizon, double clouds) {
     p.setBrush(QColor(222, 218, 200, 120));
     for (int i = 0; i < 5; ++i) {
       const double crater = radius * stage.dice.Between(0.1, 0.26);
-      p.drawEllipse(disc + QPointF(stage.dice.Between(-0.5, 0.5), stage.dice.Between(-0.5, 0.5)) * radius, crater,
-                    crater);
+      p.drawEllipse(disc + QPointF(stage.dice.Between(-0.5, 0.5), stage.dice.Between(-0.5, 0.5)) * radius,
+                    crater, crater);
     }
   } else {
-    disc.setY(horizon * (light.evening > 0.45 ? stage.dice.Between(0.72, 0.9) : stage.dice.Between(0.12, 0.3)));
+    disc.setY(horizon *
+              (light.evening > 0.45 ? stage.dice.Between(0.72, 0.9) : stage.dice.Between(0.12, 0.3)));
     const QColor sun = Mix(QColor(255, 252, 235), QColor(255, 214, 140), light.evening);
     Glow(p, disc, stage.h * (0.42 + 0.25 * light.evening), WithAlpha(sun, 0.75));
     Glow(p, disc, stage.h * 0.12, sun);
@@ -233,7 +244,8 @@ QPointF PaintSky(Stage& stage, double horizon, double clouds) {
   return disc;
 }
 
-void PaintLand(Stage& stage, const std::function<double(double)>& height, const QColor& top, const QColor& bottom) {
+void PaintLand(Stage& stage, const std::function<double(double)>& height, const QColor& top,
+               const QColor& bottom) {
   QPainterPath land;
   double highest = stage.h;
   land.moveTo(-2, stage.h + 2);
@@ -268,7 +280,7 @@ void PaintMirror(Stage& stage, double top, double bottom, const QColor& water, d
     for (int x = 0; x < image.width(); ++x) {
       const double shift = (ripple.At(x * 0.012, y * (0.55 - 0.3 * depth)) - 0.5) * (4 + 26 * depth);
       const int at = std::clamp(static_cast<int>(x + shift), 0, image.width() - 1);
-      target[x] = Mix(water, QColor(source[at]), keep).rgba();
+      target[x] = MixPixels(water.rgb(), source[at], keep);
     }
   }
   // Light streaks lie flat on the water.
@@ -276,8 +288,8 @@ void PaintMirror(Stage& stage, double top, double bottom, const QColor& water, d
   for (int i = 0; i < 90; ++i) {
     const double depth = std::pow(stage.dice.Unit(), 1.6);
     const double y = first + depth * (last - first);
-    stage.painter.setBrush(
-        WithAlpha(Mix(stage.light.horizon, Qt::white, 0.3), stage.dice.Between(0.03, 0.13) * (0.4 + stage.light.day)));
+    stage.painter.setBrush(WithAlpha(Mix(stage.light.horizon, Qt::white, 0.3),
+                                     stage.dice.Between(0.03, 0.13) * (0.4 + stage.light.day)));
     stage.painter.drawEllipse(QPointF(stage.dice.Unit() * stage.w, y), 6 + 46 * depth, 0.4 + 1.3 * depth);
   }
 }
@@ -307,7 +319,8 @@ void PaintConifer(QPainter& painter, Dice& dice, double x, double base, double h
     for (int i = 0; i <= teeth * 2; ++i) {
       const double u = 1 - static_cast<double>(i) / teeth;
       const double droop = (i % 2 == 0 ? 0.035 : -0.015) * height * dice.Between(0.5, 1.2);
-      shape << QPointF(x + u * half * dice.Between(0.93, 1.07), from + droop - (1 - std::abs(u)) * height * 0.01);
+      shape << QPointF(x + u * half * dice.Between(0.93, 1.07),
+                       from + droop - (1 - std::abs(u)) * height * 0.01);
     }
     QLinearGradient gradient(x - half, to, x + half, from);
     gradient.setColorAt(0, Mix(colour, Qt::white, 0.1 + 0.5 * snow));
@@ -329,8 +342,8 @@ void PaintLeafTree(QPainter& painter, Dice& dice, double x, double base, double 
   painter.drawLine(QPointF(x, base), QPointF(x + dice.Between(-0.02, 0.02) * height, base - height * 0.5));
   painter.setPen(QPen(trunk, height * 0.022, Qt::SolidLine, Qt::RoundCap));
   for (const double side : {-1.0, 1.0}) {
-    painter.drawLine(QPointF(x, base - height * 0.32),
-                     QPointF(x + side * height * dice.Between(0.1, 0.18), base - height * dice.Between(0.5, 0.62)));
+    painter.drawLine(QPointF(x, base - height * 0.32), QPointF(x + side * height * dice.Between(0.1, 0.18),
+                                                               base - height * dice.Between(0.5, 0.62)));
   }
   painter.setPen(Qt::NoPen);
   constexpr int kDabs = 130;
@@ -339,14 +352,16 @@ void PaintLeafTree(QPainter& painter, Dice& dice, double x, double base, double 
     const double reach = std::sqrt(dice.Unit());
     const QPointF at(std::cos(angle) * reach * height * 0.33, std::sin(angle) * reach * height * 0.3);
     // Later dabs lie on top: the lit ones, upper left.
-    const double lit = std::clamp(0.5 - (at.x() + at.y()) / (height * 0.8) + (i - kDabs / 2) * 0.002, 0.0, 1.0);
+    const double lit =
+        std::clamp(0.5 - (at.x() + at.y()) / (height * 0.8) + (i - kDabs * 0.5) * 0.002, 0.0, 1.0);
     painter.setBrush(WithAlpha(Mix(leaves.darker(190), leaves.lighter(122), lit), 0.86));
     const double size = height * dice.Between(0.025, 0.062);
     painter.drawEllipse(QPointF(x, base - height * 0.64) + at, size, size * 0.85);
   }
 }
 
-void PaintBokeh(Stage& stage, int count, double top, double bottom, double firstHue, double lastHue, double strength) {
+void PaintBokeh(Stage& stage, int count, double top, double bottom, double firstHue, double lastHue,
+                double strength) {
   QPainter& p = stage.painter;
   p.save();
   p.setCompositionMode(QPainter::CompositionMode_Screen);

@@ -7,9 +7,11 @@
 #include <QImage>
 #include <QPainter>
 #include <QPointF>
+#include <QPolygonF>
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -49,7 +51,14 @@ struct Stage {
   int month;
 };
 
+QPolygonF Shape(std::initializer_list<QPointF> corners);
 QColor Mix(const QColor& a, const QColor& b, double share);
+/// The same for opaque pixels, `share` being 0..1.
+inline QRgb MixPixels(QRgb a, QRgb b, double share) {
+  const int s = static_cast<int>(share * 256);
+  return qRgb(qRed(a) + (qRed(b) - qRed(a)) * s / 256, qGreen(a) + (qGreen(b) - qGreen(a)) * s / 256,
+              qBlue(a) + (qBlue(b) - qBlue(a)) * s / 256);
+}
 QColor WithAlpha(const QColor& colour, double alpha);
 QColor Hsv(double degrees, double saturation, double value);
 /// A thing's colour in the scene's light.
@@ -64,7 +73,8 @@ void Ball(QPainter& painter, const QPointF& centre, double radius, const QColor&
 /// Sky with sun or moon, stars and clouds down to `horizon`. Returns where the sun or moon stands.
 QPointF PaintSky(Stage& stage, double horizon, double clouds);
 /// Paints everything below the outline `height(x)` (in pixels from the top), shaded downwards.
-void PaintLand(Stage& stage, const std::function<double(double)>& height, const QColor& top, const QColor& bottom);
+void PaintLand(Stage& stage, const std::function<double(double)>& height, const QColor& top,
+               const QColor& bottom);
 /// Water from `top` to `bottom` that mirrors what is above it.
 void PaintMirror(Stage& stage, double top, double bottom, const QColor& water, double strength);
 void PaintSnowfall(Stage& stage, int flakes);
@@ -73,7 +83,8 @@ void PaintConifer(QPainter& painter, Dice& dice, double x, double base, double h
 void PaintLeafTree(QPainter& painter, Dice& dice, double x, double base, double height, const QColor& leaves,
                    const QColor& trunk);
 /// Soft discs of light out of focus.
-void PaintBokeh(Stage& stage, int count, double top, double bottom, double firstHue, double lastHue, double strength);
+void PaintBokeh(Stage& stage, int count, double top, double bottom, double firstHue, double lastHue,
+                double strength);
 
 void PaintMountains(Stage& stage);
 void PaintLake(Stage& stage);

@@ -8,8 +8,9 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// Runs `Util::GenerateHolidayAlbums` and waits for its answer in an event loop of its own. Needs an application object.
-/// `cancel` (may be null): when set while waiting, throws `HostError`.
+/// Runs `Util::GenerateHolidayAlbums` and waits for its answer in an event loop of its own. Needs an
+/// application object. `cancel` (may be null): when set while waiting, throws `HostError`, as it does when
+/// the application quits meanwhile.
 std::vector<Album> ProposeAlbums(std::vector<DataModel> photos, const std::atomic<bool>* cancel);
 
 }  // namespace Zenvora::Lumidex::Host

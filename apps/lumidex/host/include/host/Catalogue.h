@@ -1,7 +1,5 @@
 #pragma once
 
-#include <host/HostError.h>
-
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/Album.h>
 #include <zenvora/lumidex/DataModel.h>
@@ -10,6 +8,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <host/HostError.h>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -24,14 +23,14 @@ const char* DateSourceName(DateSource source);
 
 /// One photo as the catalogue knows it.
 struct PhotoRecord {
-  QString id;                      ///< Empty in a record that is not stored yet.
-  ioPath path;                     ///< Absolute.
-  std::uint64_t size = 0;          ///< Bytes.
-  std::int64_t modifiedNs = 0;     ///< Modification time, nanoseconds since 1970-01-01 UTC.
-  QDateTime taken;                 ///< Local time of the camera; invalid: unknown.
+  QString id;                   ///< Empty in a record that is not stored yet.
+  ioPath path;                  ///< Absolute.
+  std::uint64_t size = 0;       ///< Bytes.
+  std::int64_t modifiedNs = 0;  ///< Modification time, nanoseconds since 1970-01-01 UTC.
+  QDateTime taken;              ///< Local time of the camera; invalid: unknown.
   DateSource takenSource = DateSource::None;
   QString camera;
-  bool lost = false;               ///< The file was missing at the last scan of its folder.
+  bool lost = false;  ///< The file was missing at the last scan of its folder.
 };
 
 /// What a scan compares to see whether a file is unchanged.
@@ -56,16 +55,16 @@ struct StoredAlbum {
   std::vector<QString> photoIds;
 };
 
-/// The embedded catalogue: one SQLite file (with its -wal and -shm while open) that holds what is known of the photos and
-/// the accepted albums. docs/formats/catalogue.md has its tables.
+/// The embedded catalogue: one SQLite file (with its -wal and -shm while open) that holds what is known of
+/// the photos and the accepted albums. docs/formats/catalogue.md has its tables.
 ///
-/// Every call is one transaction: a kill at any moment leaves the last finished call. Several processes may use one
-/// catalogue at a time; a call waits up to `kBusyTimeoutMs` for another's write, then fails.
-/// It never deletes a photo's row: a vanished file is marked lost.
+/// Every call is one transaction: a kill at any moment leaves the last finished call. Several processes may
+/// use one catalogue at a time; a call waits up to `kBusyTimeoutMs` for another's write, then fails. It never
+/// deletes a photo's row: a vanished file is marked lost.
 ///
-/// All functions throw `HostError` naming the catalogue and the cause (read-only, no database, damaged, newer than this
-/// program, disk full, busy). They block on the disk.
-/// Thread-safety: an object belongs to the thread that opened it (Qt's SQL connections do).
+/// All functions throw `HostError` naming the catalogue and the cause (read-only, no database, damaged, newer
+/// than this program, disk full, busy). They block on the disk. Thread-safety: an object belongs to the
+/// thread that opened it (Qt's SQL connections do).
 class Catalogue {
  public:
   enum class Mode {
@@ -87,19 +86,22 @@ class Catalogue {
 
   /// Stamps of all photos at or below `folder` (absolute, clean), by path.
   std::unordered_map<ioPath, FileStamp> Stamps(const ioPath& folder) const;
-  /// Adds new photos and updates known ones (same path), keeping their ids; clears their lost mark. One transaction.
+  /// Adds new photos under new ids and updates known ones (same path), keeping theirs; the records' own ids
+  /// are not read. Clears their lost mark. One transaction.
   void Store(const std::vector<PhotoRecord>& batch);
   /// Marks photos lost. One transaction. Returns how many were not marked before.
   int MarkLost(const std::vector<ioPath>& paths);
 
+  /// Photos in all, lost ones too.
   std::size_t CountPhotos() const;
   /// All photos that are not lost, by date taken, then path.
   std::vector<PhotoRecord> Photos() const;
   /// The same as library items (name: the file's name), in the same order.
   std::vector<DataModel> PhotoModels() const;
 
-  /// Stores the album under its name. An album of that name that was accepted before keeps its id and gains the
-  /// missing members, at its end; nothing is ever taken out. One transaction.
+  /// Stores the album under its name. An album of that name that was accepted before keeps its id and gains
+  /// the missing members, at its end; nothing is ever taken out. One transaction. Throws, having stored
+  /// nothing, when a member is not in the catalogue.
   AcceptResult AcceptAlbum(const Album& proposal);
   /// Accepted albums by first day, then name.
   std::vector<StoredAlbum> Albums() const;

@@ -1,36 +1,43 @@
 #pragma once
 
-#include <host/Catalogue.h>
-
 #include <QDate>
 #include <QString>
 
 #include <atomic>
 #include <functional>
+#include <host/Catalogue.h>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
 /// One album as the page shows it.
 struct ReportAlbum {
-  QString name;      ///< May hold line feeds: the first line is the heading.
-  QDate firstDay;    ///< The album's date.
+  QString name;    ///< May hold line feeds: the first line is the heading.
+  QDate firstDay;  ///< The album's date.
   bool accepted = false;
   std::vector<PhotoRecord> photos;  ///< In the order shown.
 };
 
+/// Sizes of thumbnails outside these bounds are taken for the nearer bound.
+constexpr int kSmallestThumbnail = 32;
+constexpr int kLargestThumbnail = 1024;
+
 struct ReportOptions {
   QString locale;           ///< Of month names and numbers, such as en_US.
-  QString title;
+  QString title;            ///< Empty: a title is chosen.
   int thumbnailSize = 240;  ///< Longer side in pixels.
-  int photosPerAlbum = 24;  ///< The rest is counted, not shown. 0: all.
+  int photosPerAlbum = 24;  ///< The rest is counted, not shown. 0 or less: all.
+  /// Set from any thread (a signal handler too) to give up.
   const std::atomic<bool>* cancel = nullptr;
 };
 
-/// Writes one self-contained HTML page (no script needed, no outside reference) with the albums' thumbnails. The file appears
-/// whole or not at all. Pictures that cannot be read get a placeholder; their number is returned.
-/// `progress` (may be empty): pictures done, pictures in all.
-/// Throws `HostError` when the page cannot be written.
+/// Writes one self-contained HTML page (no script, no outside reference) with the albums' thumbnails, in the
+/// given order. The file appears whole or not at all; an existing one is replaced only on success. Pictures
+/// that cannot be read get a placeholder; their number is returned. `progress` (may be empty), called on the
+/// calling thread: pictures done, pictures in all. Throws `HostError` when the page cannot be written, naming
+/// file and cause, and one that says "cancelled" when `options.cancel` was set before the page was complete.
+/// Loads pictures in several threads and blocks until all are done. Memory is bounded by the threads, not by
+/// the pictures. Words are translated: GUI thread.
 int WriteReport(const ioPath& file, const std::vector<ReportAlbum>& albums, const ReportOptions& options,
                 const std::function<void(int, int)>& progress);
 

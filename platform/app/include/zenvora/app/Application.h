@@ -17,9 +17,9 @@ namespace Zenvora::App {
 
 /// What a host's application object adds to Qt's: the services that libraries ask of it.
 ///
-/// A host makes one `ApplicationOf<QCoreApplication>` or `ApplicationOf<QApplication>`; libraries find it through
-/// `Instance`. A process without one (a test, a plug-in in a foreign program) is served by the real services of
-/// `Services::Current`.
+/// A host makes one `ApplicationOf<QCoreApplication>` or `ApplicationOf<QApplication>`; libraries find it
+/// through `Instance`. A process without one (a test, a plug-in in a foreign program) is served by the real
+/// services of `Services::Current`.
 class ZENVORA_APP_EXPORT Application {
  public:
   virtual ~Application();

@@ -5,14 +5,15 @@
 namespace Zenvora::App {
 
 /// The host's settings: texts by key, UTF-8 both. A key may hold "/" to group.
-/// Thread-safety: any thread. Reading may block on the disk the first time.
+/// Thread-safety: any thread. Reading and writing may block on the disk.
 class ISettingsManager {
  public:
   virtual ~ISettingsManager() = default;
 
   /// The stored text, or `defaultValue` when the key has none or the store cannot be read.
   virtual std::string GetString(const std::string& key, const std::string& defaultValue) const = 0;
-  /// Stores the text. When the store cannot be written the value lasts for this process only, and a warning is logged.
+  /// Stores the text. When the store cannot be written the value lasts for this process only, and a warning
+  /// is logged.
   virtual void SetString(const std::string& key, const std::string& value) = 0;
 };
 

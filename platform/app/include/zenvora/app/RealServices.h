@@ -13,21 +13,25 @@
 
 namespace Zenvora::App {
 
-/// Settings in an INI file (Qt's dialect), created with its folder on the first write. Values are written at once.
+/// Settings in an INI file (Qt's dialect, UTF-8), created with its folder on the first write. Values are
+/// written at once, and what other processes write is seen at the next reading. Of a damaged file the
+/// readable lines count, but it is never written to: that would drop the others for good. `file` must be
+/// valid UTF-8.
 ZENVORA_APP_EXPORT std::shared_ptr<ISettingsManager> MakeIniSettings(const ioPath& file);
 
-/// The INI file of the user: lumidex/lumidex.ini in the user's configuration folder (XDG_CONFIG_HOME on Linux, the
-/// local application data on Windows).
+/// The INI file of the user: lumidex/lumidex.ini in the user's configuration folder (XDG_CONFIG_HOME on
+/// Linux, the local application data on Windows).
 ZENVORA_APP_EXPORT ioPath UserSettingsFile();
 
 /// The languages that the interface speaks, as locale names.
 ZENVORA_APP_EXPORT const std::vector<std::string>& InterfaceLanguages();
 
-/// The interface language that serves a wish such as "de", "de_AT", "de-DE.UTF-8": the language itself if spoken, else one
-/// of the same language, else en_US.
+/// The interface language that serves a wish such as "de", "de_AT", "de-DE.UTF-8" (case does not matter): the
+/// language itself if spoken, else one of the same language, else en_US.
 ZENVORA_APP_EXPORT std::string NearestInterfaceLanguage(const std::string& wish);
 
-/// The interface language of a host: the setting `SettingsKey::kLanguage`, else the nearest to the system's.
+/// The interface language of a host: the one nearest to the setting `SettingsKey::kLanguage`, without it the
+/// one nearest to the system's.
 ZENVORA_APP_EXPORT std::shared_ptr<ILookAndFeelManager> MakeHostLookAndFeel();
 
 /// A fixed interface language, given exactly as it will be reported.
@@ -38,8 +42,8 @@ ZENVORA_APP_EXPORT std::shared_ptr<ILookAndFeelManager> MakeSystemLookAndFeel();
 
 ZENVORA_APP_EXPORT std::shared_ptr<IClock> MakeSystemClock();
 
-/// The resource folder beside the program (../share/lumidex from its folder; on Windows also share/lumidex in it), no
-/// main window.
+/// The resource folder of the program: share/lumidex in the program's folder if that is there, else in the
+/// folder above. No main window. Needs no application object.
 ZENVORA_APP_EXPORT std::shared_ptr<IHostEnvironment> MakeProgramEnvironment();
 
 }  // namespace Zenvora::App

@@ -15,13 +15,14 @@ class IHostEnvironment;
 class ILookAndFeelManager;
 class ISettingsManager;
 
-/// The registry of what belongs to the machine or to the host. Everything that the libraries ask of either goes through
-/// here, and nothing else does; this list is therefore all that a test can and must replace.
+/// The registry of what belongs to the machine or to the host. Everything that the libraries ask of either
+/// goes through here, and nothing else does; this list is therefore all that a test can and must replace.
 ///
-/// There is one registry at a time: the application object's, or, in a process without one, a registry of real
-/// services that belongs to the process. A new registry holds the real services.
+/// There is one registry at a time: the application object's, or, in a process without one, a registry of
+/// real services that belongs to the process. A new registry holds the real services.
 ///
-/// Thread-safety: reading and replacing are safe from any thread; a service read stays alive while it is held.
+/// Thread-safety: reading and replacing are safe from any thread; a service read stays alive while it is
+/// held.
 class ZENVORA_APP_EXPORT Services {
  public:
   Services();
@@ -54,8 +55,8 @@ class ZENVORA_APP_EXPORT Services {
       slots_;
 };
 
-/// Replaces one service for a scope and puts the former one back at its end. Scopes end in reverse order of their
-/// beginning, and the registry that was current at the beginning must outlive them.
+/// Replaces one service for a scope and puts the former one back at its end. Scopes end in reverse order of
+/// their beginning, and the registry that was current at the beginning must outlive them.
 template <class Service>
 class ServiceScope {
  public:

@@ -20,8 +20,12 @@ using TagParseError = boost::error_info<struct TagParseErrorName, std::string>;
 /// Base of everything that this code base throws.
 ///
 /// It has no data of its own: what it carries is attached under the tags above with `<<`. Throw it with
-/// `BOOST_THROW_EXCEPTION` (or `boost::throw_exception` with a location), so that the throw site is recorded and
-/// `boost::current_exception` can copy it to another thread.
+/// `BOOST_THROW_EXCEPTION` (or `boost::throw_exception` with a location), so that the throw site is recorded
+/// and `boost::current_exception` can copy it to another thread.
+///
+/// Thread-safety: copies share their tags without a lock, and so do all rethrowings of one
+/// `boost::exception_ptr`: those belong on one thread at a time. What `boost::current_exception` returns
+/// shares nothing with the exception in flight.
 class ZENVORA_CORE_EXPORT Exception : public virtual std::exception, public virtual boost::exception {
  public:
   Exception() = default;
@@ -31,8 +35,8 @@ class ZENVORA_CORE_EXPORT Exception : public virtual std::exception, public virt
   Exception& operator=(Exception&&) = default;
   ~Exception() noexcept override;
 
-  /// The `TagDescription` text, else the `TagParseError` text, else the class's name. Valid as long as the object is
-  /// neither changed nor destroyed.
+  /// The `TagDescription` text, else the `TagParseError` text, else the class's name. Valid as long as the
+  /// object is neither changed nor destroyed.
   const char* what() const noexcept override;
 };
 
@@ -49,8 +53,8 @@ class ZENVORA_CORE_EXPORT CoreException : public Exception {
   ~CoreException() noexcept override;
 };
 
-/// A document that cannot be read, is not JSON, or lacks what its reader needs. Carries `TagParseError` (place and
-/// cause) and, when it came from a file, `TagFilename`.
+/// A document that cannot be read, is not JSON, or lacks what its reader needs. Carries `TagParseError`
+/// (place and cause) and, when it came from a file, `TagFilename`.
 class ZENVORA_CORE_EXPORT JsonException : public CoreException {
  public:
   JsonException() = default;

@@ -8,11 +8,12 @@ namespace Zenvora {
 
 /// Base of every interface whose objects live as long as somebody refers to them.
 ///
-/// Hold such objects by `boost::intrusive_ptr`. The object deletes itself inside the last `Release`. It does not break
-/// circles of references: two objects that hold each other are never deleted.
+/// Hold such objects by `boost::intrusive_ptr`. The object deletes itself inside the last `Release`. It does
+/// not break circles of references: two objects that hold each other are never deleted.
 ///
 /// Thread-safety: counting is safe from any thread; everything else is up to the derived interface.
-/// The order of the virtual operations is part of the binary interface: destructor, AddRef, GetRefCount, Release.
+/// The order of the virtual operations is part of the binary interface: destructor, AddRef, GetRefCount,
+/// Release.
 class ZENVORA_CORE_EXPORT IRefCountable {
  protected:
   // Declared first: slots follow the order of declaration.

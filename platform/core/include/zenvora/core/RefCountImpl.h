@@ -9,11 +9,11 @@ namespace Zenvora {
 /// The counter that an implementation of `IRefCountable` keeps as a member and forwards to.
 ///
 /// Starts at 0: the first `boost::intrusive_ptr` counts the first reference. It only counts; whoever sees
-/// `ReleaseImpl` return 0 deletes the object. A copied object starts its own life, so copies start at 0 and an
-/// assignment keeps the target's count.
+/// `ReleaseImpl` return 0 deletes the object. A copied object starts its own life, so copies start at 0 and
+/// an assignment keeps the target's count.
 ///
-/// Thread-safety: all operations are atomic; what happened before a `ReleaseImpl` on any thread is visible to the
-/// thread that sees 0.
+/// Thread-safety: all operations are atomic; what happened before a `ReleaseImpl` on any thread is visible to
+/// the thread that sees 0.
 class ZENVORA_CORE_EXPORT RefCountImpl {
  public:
   RefCountImpl() = default;

@@ -12,27 +12,30 @@
 
 namespace Zenvora {
 
-/// The name of a file or folder. Text goes in and out as UTF-8; the system is called in its native form (bytes on Linux,
-/// UTF-16 on Windows).
+/// The name of a file or folder. Text goes in and out as UTF-8; the system is called in its native form
+/// (bytes on Linux, UTF-16 on Windows).
 ///
-/// On Linux a file name is any bytes: a name that is not valid UTF-8 survives unchanged through `utf8string` and back,
-/// but not through `QString`. Nothing is normalised: neither case, nor Unicode form, nor "..", nor symbolic links, so
-/// two names of one file compare unequal. Repeated separators compare equal to one.
+/// On Linux a file name is any bytes: a name that is not valid UTF-8 survives unchanged through `utf8string`
+/// and back, but not through `QString`. Nothing is normalised: neither case, nor Unicode form, nor "..", nor
+/// symbolic links, so two names of one file compare unequal. Repeated separators compare equal to one.
 ///
-/// Thread-safety: as a value: distinct objects from any thread. `rename`, `remove`, `file_size` and `exists` call the
-/// file system and block as long as it does. Names that hold a NUL character name nothing: these four fail on them.
+/// Thread-safety: as a value: distinct objects from any thread. `rename`, `remove`, `file_size` and `exists`
+/// call the file system and block as long as it does. Names that hold a NUL character name nothing: these
+/// four fail on them.
 class ZENVORA_CORE_EXPORT ioPath {
  public:
   ioPath() = default;
   /// From UTF-8 text (any bytes on Linux). On Windows bytes that are not UTF-8 become U+FFFD.
-  ioPath(const std::string& utf8);  // NOLINT(google-explicit-constructor): paths are written as texts everywhere
-  ioPath(const char* utf8);         // NOLINT(google-explicit-constructor)
+  ioPath(
+      const std::string& utf8);  // NOLINT(google-explicit-constructor): paths are written as texts everywhere
+  ioPath(const char* utf8);      // NOLINT(google-explicit-constructor)
   explicit ioPath(const QString& text);
   explicit ioPath(std::filesystem::path native);
 
   bool operator==(const ioPath& other) const { return path_ == other.path_; }
   bool operator!=(const ioPath& other) const { return path_ != other.path_; }
-  /// Element by element, so that a folder's files stand together. A strict weak order for maps; not for people.
+  /// Element by element, so that a folder's files stand together. A strict weak order for maps; not for
+  /// people.
   bool operator<(const ioPath& other) const { return path_ < other.path_; }
 
   /// Joins with one separator. An absolute right side replaces the left.
@@ -50,26 +53,29 @@ class ZENVORA_CORE_EXPORT ioPath {
   ioPath root_name() const;
   /// The last element, empty after a trailing separator.
   ioPath filename() const;
-  /// The file name's part from its last dot on, dot included; empty when there is none or when the only dot is the
-  /// name's first character (".jpg" is all name).
+  /// The file name's part from its last dot on, dot included; empty when there is none or when the only dot
+  /// is the name's first character (".jpg" is all name).
   ioPath extension() const;
   /// Replaces the extension (with or without its dot); an empty one removes it.
   ioPath& replace_extension(const ioPath& extension = ioPath());
 
-  /// One attempt to give the file or folder the name `to`; an existing file at `to` is replaced in one step. True on
-  /// success. False when the system refuses (missing source, other volume, no permission, a folder in the way):
-  /// nothing has changed then.
+  /// One attempt to give the file or folder the name `to`; an existing file at `to` is replaced in one step.
+  /// True on success. False when the system refuses (missing source, other volume, no permission, a folder in
+  /// the way of a file or the reverse): nothing has changed then. On Linux an empty folder gives way to a
+  /// folder.
   bool rename(const ioPath& to) const;
   /// Deletes the file or the empty folder. True when it was there and is gone now.
   bool remove() const;
-  /// Size in bytes, 0..2^64-1, following symbolic links; 0 also when there is no regular file or it cannot be asked.
+  /// Size in bytes, 0..2^64-1, following symbolic links; 0 also when there is no regular file or it cannot be
+  /// asked.
   std::uint64_t file_size() const;
   /// True when something of that name is there (a dangling symbolic link is not).
   bool exists() const;
 
   std::string utf8string() const;
   QString qstring() const;
-  /// The form that wide system calls take: UTF-16 on Windows, UTF-32 on Linux (bytes that are not UTF-8 become U+FFFD).
+  /// The form that wide system calls take: UTF-16 on Windows, UTF-32 on Linux (bytes that are not UTF-8
+  /// become U+FFFD).
   std::wstring wstring() const;
   const std::filesystem::path& native() const noexcept { return path_; }
 

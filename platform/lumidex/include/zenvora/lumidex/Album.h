@@ -15,7 +15,8 @@ class ZENVORA_LUMIDEX_EXPORT Album {
  public:
   using Attributes = std::vector<std::pair<DataAttributeId, QString>>;
 
-  /// `model`: the album's record (name, id, first day); `photoIds`: its members in order; `attributes`: as given.
+  /// `model`: the album's record (name, id, first day); `photoIds`: its members in order; `attributes`: as
+  /// given.
   Album(const DataModel& model, const std::vector<QString>& photoIds, const Attributes& attributes);
 
   const DataModel& GetModel() const { return model_; }

@@ -13,8 +13,8 @@ namespace Zenvora::Lumidex {
 
 /// The record of one library item: a photo, an album, a tag, a place or a person.
 ///
-/// A plain value: copying is cheap (Qt's texts are shared), distinct objects may be used from any thread. It knows
-/// nothing of the disk: path and size are what its owner last put there.
+/// A plain value: copying is cheap (Qt's texts are shared), distinct objects may be used from any thread. It
+/// knows nothing of the disk: path and size are what its owner last put there.
 class ZENVORA_LUMIDEX_EXPORT DataModel {
  public:
   DataModel() = default;
@@ -33,7 +33,8 @@ class ZENVORA_LUMIDEX_EXPORT DataModel {
   std::uint64_t GetSize() const { return size_; }
   void SetSize(std::uint64_t bytes) { size_ = bytes; }
 
-  /// Photos: when the picture was taken, local time of the camera. Albums: the first day at 00:00. Invalid: unknown.
+  /// Photos: when the picture was taken, local time of the camera. Albums: the first day at 00:00. Invalid:
+  /// unknown.
   const QDateTime& GetDateTime() const { return dateTime_; }
   void SetDateTime(const QDateTime& dateTime) { dateTime_ = dateTime; }
 

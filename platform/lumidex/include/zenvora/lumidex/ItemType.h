@@ -2,7 +2,8 @@
 
 namespace Zenvora::Lumidex {
 
-/// Kind of a library item. The numbers are stored in catalogues and passed between libraries: they never change.
+/// Kind of a library item. The numbers are stored in catalogues and passed between libraries: they never
+/// change.
 enum class ItemType : int {
   Photo = 0,
   Tag = 1,

@@ -1,0 +1,325 @@
+#include "AlbumNames.h"
+#include "AlbumsView.h"
+#include "Commands.h"
+#include "Failure.h"
+#include "Interrupt.h"
+#include "Options.h"
+#include "Progress.h"
+#include "TerminalText.h"
+
+#include <zenvora/app/Application.h>
+#include <zenvora/app/RealServices.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <host/Albums.h>
+#include <host/Catalogue.h>
+#include <host/Report.h>
+#include <host/Scanner.h>
+#include <memory>
+#include <system_error>
+#include <tuple>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+using Host::Catalogue;
+using Host::PhotoRecord;
+
+constexpr char kDescription[] =
+    "Show the albums that your photos would make, and accept those you like.\n"
+    "\n"
+    "Proposes an album for each holiday and for the weekends of each month that hold\n"
+    "20 photos or more, in the order of time. FIRST DAY is the first day of the\n"
+    "holiday or weekend, LAST DAY that of the latest photo. Accepting stores an\n"
+    "album in the catalogue; your files stay as they are.";
+
+constexpr char kFooter[] =
+    R"(NAME is an album's name and time as shown: "Christmas, December 2023". It must
+fit exactly one album; when one name does not, nothing is accepted. Accepting
+an album again adds the photos that are new since.
+
+Examples:
+  lumidex albums
+  lumidex albums --list                  with the files of each album
+  lumidex albums --locale ja_JP          with the holidays of Japan
+  lumidex albums --accept "Christmas, December 2023"
+  lumidex albums --accept all --report albums.html
+  lumidex albums --accepted              what was accepted so far
+
+Exit codes: 0 done; 1 the catalogue holds no photos; 3 pictures are missing in
+the report; 4 there is no catalogue, it cannot be read or written, NAME fits no
+album or several, or the report cannot be written; 130 interrupted.)";
+
+struct AlbumsArguments {
+  std::string locale;
+  bool list = false;
+  bool accepted = false;
+  std::vector<std::string> accept;
+  std::string report;
+};
+
+/// The photos of the catalogue, found by id.
+class PhotoIndex {
+ public:
+  explicit PhotoIndex(std::vector<PhotoRecord> photos) : photos_(std::move(photos)) {
+    for (const PhotoRecord& photo : photos_) {
+      byId_.emplace(photo.id.toStdString(), &photo);
+    }
+  }
+  PhotoIndex(const PhotoIndex&) = delete;
+  PhotoIndex& operator=(const PhotoIndex&) = delete;
+
+  const std::vector<PhotoRecord>& All() const { return photos_; }
+
+  std::vector<const PhotoRecord*> Find(const std::vector<QString>& ids) const {
+    std::vector<const PhotoRecord*> found;
+    for (const QString& id : ids) {
+      const auto photo = byId_.find(id.toStdString());
+      // A member that is lost now is not among the photos.
+      if (photo != byId_.end()) {
+        found.push_back(photo->second);
+      }
+    }
+    return found;
+  }
+
+ private:
+  const std::vector<PhotoRecord> photos_;
+  std::unordered_map<std::string, const PhotoRecord*> byId_;
+};
+
+// By first day, then name.
+void SortByTime(std::vector<Album>& proposals) {
+  std::sort(proposals.begin(), proposals.end(), [](const Album& left, const Album& right) {
+    const DataModel& a = left.GetModel();
+    const DataModel& b = right.GetModel();
+    return std::forward_as_tuple(a.GetDateTime(), a.GetName()) <
+           std::forward_as_tuple(b.GetDateTime(), b.GetName());
+  });
+}
+
+QDate LastDayOf(const std::vector<const PhotoRecord*>& photos) {
+  QDate last;
+  for (const PhotoRecord* const photo : photos) {
+    last = std::max(last, photo->taken.date());
+  }
+  return last;
+}
+
+std::size_t CountMissing(const std::vector<QString>& ids, const std::vector<QString>& stored) {
+  std::unordered_set<std::string> known;
+  for (const QString& id : stored) {
+    known.insert(id.toStdString());
+  }
+  return static_cast<std::size_t>(std::count_if(
+      ids.begin(), ids.end(), [&known](const QString& id) { return known.count(id.toStdString()) == 0; }));
+}
+
+void MarkAccepted(AlbumRow& row, const std::vector<QString>& ids,
+                  const std::vector<Host::StoredAlbum>& stored) {
+  const auto match = std::find_if(stored.begin(), stored.end(),
+                                  [&row](const auto& album) { return album.name == row.name; });
+  row.accepted = match != stored.end();
+  row.notAccepted = row.accepted ? CountMissing(ids, match->photoIds) : 0;
+}
+
+std::vector<AlbumRow> RowsOf(const std::vector<Album>& proposals,
+                             const std::vector<Host::StoredAlbum>& stored, const PhotoIndex& photos) {
+  std::vector<AlbumRow> rows;
+  for (const Album& proposal : proposals) {
+    AlbumRow row;
+    row.name = proposal.GetModel().GetName();
+    row.firstDay = proposal.GetModel().GetDateTime().date();
+    row.photos = photos.Find(proposal.GetPhotoIds());
+    row.lastDay = LastDayOf(row.photos);
+    MarkAccepted(row, proposal.GetPhotoIds(), stored);
+    rows.push_back(std::move(row));
+  }
+  return rows;
+}
+
+std::vector<AlbumRow> RowsOf(const std::vector<Host::StoredAlbum>& stored, const PhotoIndex& photos) {
+  std::vector<AlbumRow> rows;
+  for (const Host::StoredAlbum& album : stored) {
+    AlbumRow row;
+    row.name = album.name;
+    row.firstDay = album.firstDay;
+    row.photos = photos.Find(album.photoIds);
+    row.lastDay = LastDayOf(row.photos);
+    row.accepted = true;
+    rows.push_back(std::move(row));
+  }
+  return rows;
+}
+
+std::vector<const Album*> ChosenAlbums(const std::vector<std::string>& wishes,
+                                       const std::vector<Album>& proposals) {
+  std::vector<QString> names;
+  for (const Album& proposal : proposals) {
+    names.push_back(proposal.GetModel().GetName());
+  }
+  const AlbumChoice choice = ChooseAlbums(wishes, names);
+  if (!choice.refused.empty()) {
+    const std::string wish = '"' + choice.refused + '"';
+    throw Failure(choice.isAmbiguous ? "ambiguous-album" : "unknown-album",
+                  choice.isAmbiguous
+                      ? "Several albums are called " + wish + "; nothing was accepted. They are:"
+                  : names.empty() ? "No album is called " + wish + ": there are no proposals."
+                                  : "No album is called " + wish + "; nothing was accepted. There are:",
+                  choice.candidates);
+  }
+  std::vector<const Album*> chosen;
+  for (const std::size_t place : choice.chosen) {
+    chosen.push_back(&proposals[place]);
+  }
+  return chosen;
+}
+
+// The page replaces the file of its name: that must never be a picture, nor the catalogue itself.
+void RequireReportName(const ioPath& report, const ioPath& catalogue) {
+  if (Host::IsPhotoName(report)) {
+    throw UsageError("--report: " + report.utf8string() + " is named like a photo; a page ends in .html");
+  }
+  std::error_code ignored;
+  if (std::filesystem::equivalent(report.native(), catalogue.native(), ignored)) {
+    throw UsageError("--report: " + report.utf8string() + " is the catalogue");
+  }
+}
+
+int WriteReport(const AlbumsView& view, Session& session) {
+  std::vector<Host::ReportAlbum> albums;
+  for (const AlbumRow& row : view.rows) {
+    Host::ReportAlbum album;
+    album.name = row.name;
+    album.firstDay = row.firstDay;
+    album.accepted = row.accepted;
+    for (const PhotoRecord* const photo : row.photos) {
+      album.photos.push_back(*photo);
+    }
+    albums.push_back(std::move(album));
+  }
+  Host::ReportOptions options;
+  options.locale = QString::fromStdString(view.locale);
+  options.title = view.areStored ? QStringLiteral("Albums") : QStringLiteral("Proposed albums");
+  options.cancel = &session.interrupted;
+  Progress progress(session.console, "Drawing", "pictures");
+  return Host::WriteReport(*view.report, albums, options, [&progress](int done, int total) {
+    progress.Update(static_cast<std::uint64_t>(done), static_cast<std::uint64_t>(total));
+  });
+}
+
+Catalogue OpenCatalogue(const ioPath& file, bool forWriting) {
+  if (!file.exists()) {
+    throw Failure("no-catalogue",
+                  "There is no catalogue " + file.utf8string() + " yet. Run: lumidex scan DIR");
+  }
+  return {file, forWriting ? Catalogue::Mode::ReadWrite : Catalogue::Mode::ReadOnly};
+}
+
+ExitCode ShowEmpty(const AlbumsView& view, std::size_t known, Session& session) {
+  if (session.globals.json) {
+    session.output.Print(AlbumsDocument(view));
+  } else if (known == 0) {
+    session.output.Print("The catalogue holds no photos yet. Run: lumidex scan DIR\n");
+  } else {
+    session.output.Print("All " + Counted(known, "photo") +
+                         " of the catalogue were gone at the last scan. Is a disk missing?\n");
+  }
+  return ExitCode::Findings;
+}
+
+/// One run of the command.
+class AlbumsRun {
+ public:
+  AlbumsRun(const AlbumsArguments& arguments, Session& session)
+      : arguments_(arguments),
+        session_(session),
+        catalogue_(OpenCatalogue(session.CatalogueFile(), !arguments.accept.empty())),
+        photos_(catalogue_.Photos()) {}
+
+  ExitCode Run() {
+    view_.catalogue = catalogue_.File();
+    view_.locale = App::GetCurrentLocale();
+    view_.areStored = arguments_.accepted;
+    view_.withMembers = arguments_.list;
+    view_.photos = photos_.All().size();
+    view_.undated = static_cast<std::size_t>(
+        std::count_if(photos_.All().begin(), photos_.All().end(),
+                      [](const PhotoRecord& photo) { return !photo.taken.isValid(); }));
+    if (arguments_.accepted) {
+      view_.rows = RowsOf(catalogue_.Albums(), photos_);
+    } else if (photos_.All().empty()) {
+      return ShowEmpty(view_, catalogue_.CountPhotos(), session_);
+    } else {
+      Propose();
+    }
+    if (!arguments_.report.empty()) {
+      view_.report = AbsolutePath(arguments_.report);
+      view_.missingPictures = WriteReport(view_, session_);
+    }
+    session_.output.Print(session_.globals.json ? AlbumsDocument(view_) : AlbumsText(view_));
+    return view_.missingPictures > 0 ? ExitCode::Partly : ExitCode::Done;
+  }
+
+ private:
+  void Propose() {
+    std::vector<Album> proposals = Host::ProposeAlbums(catalogue_.PhotoModels(), &session_.interrupted);
+    SortByTime(proposals);
+    for (const Album* const chosen : ChosenAlbums(arguments_.accept, proposals)) {
+      ThrowIfInterrupted("Interrupted. Albums accepted so far stay accepted.");
+      view_.accepted.push_back({chosen->GetModel().GetName(), catalogue_.AcceptAlbum(*chosen)});
+    }
+    view_.rows = RowsOf(proposals, catalogue_.Albums(), photos_);
+  }
+
+  const AlbumsArguments& arguments_;
+  Session& session_;
+  Catalogue catalogue_;
+  const PhotoIndex photos_;
+  AlbumsView view_;
+};
+
+ExitCode RunAlbums(const AlbumsArguments& arguments, Session& session) {
+  const LocaleScope locale(arguments.locale, session);
+  if (!arguments.report.empty()) {
+    RequireReportName(AbsolutePath(arguments.report), session.CatalogueFile());
+  }
+  return AlbumsRun(arguments, session).Run();
+}
+
+}  // namespace
+
+void AddAlbumsCommand(CLI::App& program, Action& chosen) {
+  CLI::App* const command = program.add_subcommand("albums", kDescription);
+  const auto arguments = std::make_shared<AlbumsArguments>();
+  command->footer(kFooter);
+  command->add_flag("--list", arguments->list, "List the files of each album, too.")->disable_flag_override();
+  auto* const accept = command
+                           ->add_option("--accept", arguments->accept,
+                                        "Accept the album of that name, or all. Can be given several times.")
+                           ->option_text("NAME|all")
+                           ->allow_extra_args(false)
+                           ->check(NotEmpty());
+  command->add_flag("--accepted", arguments->accepted, "Show the accepted albums instead of the proposals.")
+      ->disable_flag_override()
+      ->excludes(accept);
+  command
+      ->add_option("--report", arguments->report,
+                   "Write the albums shown as an HTML page with their pictures.")
+      ->option_text("FILE")
+      ->check(NotEmpty());
+  command
+      ->add_option("--locale", arguments->locale,
+                   "Holidays and wording of that language for this run, such as de_DE.")
+      ->option_text("LOCALE")
+      ->check(NotEmpty());
+  command->callback([arguments, &chosen] {
+    chosen = [arguments](Session& session) { return RunAlbums(*arguments, session); };
+  });
+}
+
+}  // namespace Zenvora::Lumidex::Cli

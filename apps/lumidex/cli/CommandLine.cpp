@@ -1,0 +1,240 @@
+#include "CommandLine.h"
+
+#include "Commands.h"
+#include "HelpFormatter.h"
+#include "Options.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+constexpr char kDescription[] =
+    "Lumidex keeps track of your photos and proposes albums for holidays and\n"
+    "weekends. It reads your photos and never changes, moves or deletes one.";
+
+constexpr char kFooter[] =
+    R"(Examples:
+  lumidex scan ~/Pictures              take the photos into the catalogue
+  lumidex albums                       see which albums they would make
+  lumidex albums --accept "Christmas, December 2023"
+  lumidex albums --report albums.html  the same as a page with pictures
+  lumidex sample /tmp/demo             make photos to try things out on
+
+"lumidex help COMMAND" has the options and examples of a command.
+
+Exit codes:
+  0    done
+  1    done, and there is something to look at
+  2    the command line makes no sense
+  3    some of it could not be done
+  4    could not be done
+  130  interrupted; what was finished stays)";
+
+std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
+  auto program = std::make_unique<CLI::App>(kDescription, "lumidex");
+  program->footer(kFooter);
+  program->formatter_fn(
+      [](const CLI::App* command, const std::string&, CLI::AppFormatMode) { return HelpPage(*command); });
+  program->set_help_flag("-h,--help", "Print this page.");
+  program->set_version_flag("-V,--version", std::string("lumidex " LUMIDEX_VERSION), "Print the version.");
+  program
+      ->add_option("-c,--catalogue,--catalog", globals.catalogue,
+                   "The catalogue's file. Usual: lumidex/catalogue.sqlite in your data folder.")
+      ->option_text("FILE")
+      ->check(NotEmpty());
+  program->add_flag("--json", globals.json, "Print the result as one JSON document.")
+      ->disable_flag_override();
+  program->add_flag("-q,--quiet", globals.quiet, "Print no notes and no progress.")->disable_flag_override();
+  program->add_flag("-v,--verbose", globals.verbosity, "Print the log; twice: with more detail.")
+      ->disable_flag_override();
+  AddScanCommand(*program, chosen);
+  AddAlbumsCommand(*program, chosen);
+  AddCalendarCommand(*program, chosen);
+  AddSampleCommand(*program, chosen);
+  return program;
+}
+
+void Complete(CLI::App& command) {
+  // One command a run; it also keeps a folder called "albums" from being taken for a second one.
+  command.require_subcommand(0, 1);
+  command.allow_extras();
+  command.fallthrough();
+  for (CLI::App* const sub : command.get_subcommands({})) {
+    Complete(*sub);
+  }
+}
+
+/// `help COMMAND` is `COMMAND --help`. Names behind "--" are files, whatever they begin with.
+std::vector<std::string> Rewritten(std::vector<std::string> arguments) {
+  const auto mark = std::find(arguments.begin(), arguments.end(), "--");
+  if (mark != arguments.end()) {
+    for (auto name = mark + 1; name != arguments.end(); ++name) {
+      if (!name->empty() && name->front() == '-') {
+        *name = "./" + *name;
+      }
+    }
+    arguments.erase(mark);
+  }
+  if (!arguments.empty() && arguments.front() == "help") {
+    arguments.erase(arguments.begin());
+    arguments.emplace_back("--help");
+  }
+  return arguments;
+}
+
+std::size_t EditDistance(const std::string& left, const std::string& right) {
+  std::vector<std::size_t> row(right.size() + 1);
+  std::iota(row.begin(), row.end(), 0);
+  for (std::size_t i = 1; i <= left.size(); ++i) {
+    std::size_t diagonal = row[0];
+    row[0] = i;
+    for (std::size_t j = 1; j <= right.size(); ++j) {
+      const std::size_t change = diagonal + (left[i - 1] == right[j - 1] ? 0 : 1);
+      diagonal = row[j];
+      row[j] = std::min({row[j] + 1, row[j - 1] + 1, change});
+    }
+  }
+  return row.back();
+}
+
+std::string Suggestion(const std::string& wrong, const std::vector<std::string>& known) {
+  constexpr std::size_t kTypingErrors = 2;
+  std::string best;
+  std::size_t least = std::min(kTypingErrors, wrong.size() / 2) + 1;
+  for (const std::string& name : known) {
+    const std::size_t distance = EditDistance(wrong, name);
+    if (distance < least) {
+      least = distance;
+      best = name;
+    }
+  }
+  return best.empty() ? "" : "; did you mean \"" + best + "\"?";
+}
+
+std::vector<std::string> NamesOfOptions(const CLI::App& command) {
+  std::vector<std::string> names;
+  for (const CLI::Option* const option : command.get_options()) {
+    for (const std::string& name : option->get_lnames()) {
+      names.push_back("--" + name);
+    }
+  }
+  if (const CLI::App* const parent = command.get_parent()) {
+    const std::vector<std::string> more = NamesOfOptions(*parent);
+    names.insert(names.end(), more.begin(), more.end());
+  }
+  return names;
+}
+
+std::vector<std::string> NamesOfCommands(const CLI::App& command) {
+  std::vector<std::string> names;
+  for (const CLI::App* const sub : command.get_subcommands({})) {
+    names.push_back(sub->get_name());
+  }
+  return names;
+}
+
+std::string HelpHint(const CLI::App& command) {
+  const CLI::App* const parent = command.get_parent();
+  return parent ? HelpHint(*parent) + ' ' + command.get_name() : "lumidex help";
+}
+
+/// The innermost command that was given.
+const CLI::App& GivenCommand(const CLI::App& command) {
+  const std::vector<CLI::App*> given = command.get_subcommands();
+  return given.empty() ? command : GivenCommand(*given.front());
+}
+
+[[noreturn]] void ThrowUsage(const CLI::App& command, const std::string& text) {
+  throw UsageError(text + " (see: " + HelpHint(command) + ")");
+}
+
+void CheckLeftOvers(const CLI::App& program) {
+  const std::vector<std::string> left = program.remaining(true);
+  const CLI::App& command = GivenCommand(program);
+  if (!left.empty()) {
+    const std::string& first = left.front();
+    const bool isOption = first.size() > 1 && first.front() == '-';
+    const bool wantsCommand = !command.get_subcommands({}).empty();
+    if (isOption) {
+      ThrowUsage(command, "There is no option " + first +
+                              Suggestion(first.substr(0, first.find('=')), NamesOfOptions(command)));
+    }
+    if (wantsCommand) {
+      ThrowUsage(command,
+                 "There is no command \"" + first + '"' + Suggestion(first, NamesOfCommands(command)));
+    }
+    ThrowUsage(command, "The argument \"" + first + "\" is one too many");
+  }
+  if (!command.get_subcommands({}).empty()) {
+    ThrowUsage(command, "A command is missing: " + CLI::detail::join(NamesOfCommands(command), ", "));
+  }
+}
+
+std::string WithoutPeriod(std::string text) {
+  while (!text.empty() && (text.back() == '.' || text.back() == '\n')) {
+    text.pop_back();
+  }
+  return text;
+}
+
+/// The parser counts values; people think of options that lack one or stand there twice.
+std::string MismatchText(const std::string& text) {
+  const std::string option = text.substr(0, text.find_first_of(": "));
+  if (text.find("flag override") != std::string::npos) {
+    return option + " takes no value";
+  }
+  const bool isMissing = text.find("missing") != std::string::npos;
+  return option + (isMissing ? " needs a value" : " can be given once only");
+}
+
+}  // namespace
+
+ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
+  ParsedCommandLine parsed;
+  Globals globals;
+  Action chosen;
+  const auto program = MakeProgram(globals, chosen);
+  Complete(*program);
+
+  std::vector<std::string> reversed = Rewritten(arguments);
+  std::reverse(reversed.begin(), reversed.end());
+  try {
+    program->parse(reversed);
+    CheckLeftOvers(*program);
+  } catch (const CLI::CallForHelp&) {
+    parsed.text = HelpPage(GivenCommand(*program));
+    return parsed;
+  } catch (const CLI::CallForVersion& version) {
+    parsed.text = std::string(version.what()) + '\n';
+    return parsed;
+  } catch (const CLI::ArgumentMismatch& error) {
+    ThrowUsage(GivenCommand(*program), MismatchText(error.what()));
+  } catch (const CLI::ValidationError& error) {
+    std::string text = error.what();
+    const std::size_t colon = text.find(": ");
+    ThrowUsage(GivenCommand(*program), colon == std::string::npos ? text : text.erase(colon, 1));
+  } catch (const CLI::ParseError& error) {
+    ThrowUsage(GivenCommand(*program), WithoutPeriod(error.what()));
+  }
+  parsed.globals = globals;
+  parsed.action = chosen;
+  return parsed;
+}
+
+bool AsksForJson(const std::vector<std::string>& arguments) {
+  const auto end = std::find(arguments.begin(), arguments.end(), "--");
+  return std::find(arguments.begin(), end, "--json") != end;
+}
+
+std::string ShortHelp() {
+  Globals globals;
+  Action chosen;
+  const auto program = MakeProgram(globals, chosen);
+  program->footer("\"lumidex help\" has examples, \"lumidex help COMMAND\" the options of a command.");
+  return HelpPage(*program);
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,253 @@
+#include "Commands.h"
+#include "Failure.h"
+#include "Interrupt.h"
+#include "JsonWriter.h"
+#include "Options.h"
+#include "Progress.h"
+#include "TerminalText.h"
+#include "TextTable.h"
+
+#include <glog/logging.h>
+
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <host/Catalogue.h>
+#include <host/Scanner.h>
+#include <memory>
+#include <system_error>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+using Host::Catalogue;
+using Host::DateSource;
+using Host::ScanFinding;
+using Host::ScanResult;
+
+constexpr char kDescription[] =
+    "Take the photos below folders into the catalogue.\n"
+    "\n"
+    "Reads the dates of new and changed photos; a second run is quick. Photos\n"
+    "whose files are gone are marked lost, not forgotten. Your files are only\n"
+    "read. A run that is interrupted goes on where it stopped when repeated.";
+
+constexpr char kFooter[] =
+    R"(Photos are known by their names: .jpg, .heic, .png, .tif, .webp, the raw
+formats of cameras and others. Hidden files and folders are passed over.
+
+Examples:
+  lumidex scan ~/Pictures /media/card
+  lumidex scan --dry-run ~/Pictures     what would change, without changing it
+  lumidex scan --full ~/Pictures        read unchanged files again, too
+  lumidex scan --json ~/Pictures        for scripts
+
+Exit codes: 0 done; 1 no photos were found, or some files are no images or
+folders loop; 3 some files or folders cannot be read; 4 a folder is missing or
+the catalogue cannot be written; 130 interrupted.)";
+
+struct ScanArguments {
+  std::vector<std::string> folders;
+  bool full = false;
+  bool dryRun = false;
+  int threads = 0;
+};
+
+/// A catalogue to compare with. A dry run makes none: without one it compares with an empty one that is
+/// thrown away.
+class OpenCatalogue {
+ public:
+  OpenCatalogue(const ioPath& file, bool dryRun) {
+    if (!dryRun) {
+      catalogue_ = std::make_unique<Catalogue>(file, Catalogue::Mode::ReadWrite);
+    } else if (file.exists()) {
+      catalogue_ = std::make_unique<Catalogue>(file, Catalogue::Mode::ReadOnly);
+    } else {
+      scratch_ = std::make_unique<QTemporaryDir>();
+      catalogue_ = std::make_unique<Catalogue>(ioPath(scratch_->path()) / "catalogue.sqlite",
+                                               Catalogue::Mode::ReadWrite);
+    }
+  }
+
+  Catalogue& Get() { return *catalogue_; }
+
+ private:
+  std::unique_ptr<QTemporaryDir> scratch_;
+  std::unique_ptr<Catalogue> catalogue_;
+};
+
+const char* KindName(ScanFinding::Kind kind) {
+  switch (kind) {
+    case ScanFinding::Kind::NotAnImage:
+      return "not an image";
+    case ScanFinding::Kind::Unreadable:
+      return "unreadable";
+    case ScanFinding::Kind::Loop:
+      return "loop";
+  }
+  return "";
+}
+
+ExitCode Judge(const ScanResult& result) {
+  if (result.cancelled) {
+    return ExitCode::Interrupted;
+  }
+  ExitCode code = result.found == 0 ? ExitCode::Findings : ExitCode::Done;
+  for (const ScanFinding& finding : result.findings) {
+    code =
+        Graver(code, finding.kind == ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
+  }
+  return code;
+}
+
+constexpr std::array kDateSources = {DateSource::Original, DateSource::Digitised, DateSource::FileTime,
+                                     DateSource::None};
+
+std::string ResultDocument(const ScanArguments& arguments, const ioPath& catalogue,
+                           const ScanResult& result) {
+  JsonWriter json("lumidex.scan", 1);
+  json.Path("catalogue", catalogue);
+  json.Truth("dryRun", arguments.dryRun);
+  json.Truth("interrupted", result.cancelled);
+  json.BeginArray("folders");
+  for (const std::string& folder : arguments.folders) {
+    json.BeginObject();
+    json.Path("path", AbsolutePath(folder));
+    json.EndObject();
+  }
+  json.EndArray();
+  json.Number("found", static_cast<long long>(result.found));
+  json.Number("added", static_cast<long long>(result.added));
+  json.Number("updated", static_cast<long long>(result.updated));
+  json.Number("unchanged", static_cast<long long>(result.unchanged));
+  json.Number("lost", static_cast<long long>(result.lost));
+  json.BeginObject("dated");
+  for (const DateSource source : kDateSources) {
+    const std::string name = source == DateSource::FileTime ? "fileTime" : Host::DateSourceName(source);
+    json.Number(name, static_cast<long long>(result.dated[static_cast<int>(source)]));
+  }
+  json.EndObject();
+  json.BeginArray("findings");
+  for (const ScanFinding& finding : result.findings) {
+    json.BeginObject();
+    std::string kind = KindName(finding.kind);
+    std::replace(kind.begin(), kind.end(), ' ', '-');
+    json.Text("kind", kind);
+    json.Path("path", finding.path);
+    json.Text("cause", finding.cause);
+    json.EndObject();
+  }
+  json.EndArray();
+  return json.Finish();
+}
+
+std::string FindingsText(const ScanResult& result) {
+  if (result.findings.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}, {}});
+  for (const ScanFinding& finding : result.findings) {
+    table.AddRow({KindName(finding.kind), finding.path.utf8string(), finding.cause});
+  }
+  return "Not taken in:\n" + table.Text(2) + '\n';
+}
+
+std::string DatesText(const ScanResult& result) {
+  std::string text;
+  for (const DateSource source : kDateSources) {
+    const auto count = result.dated[static_cast<int>(source)];
+    if (count > 0) {
+      text += (text.empty() ? "" : ", ") + GroupDigits(count) + ' ' + Host::DateSourceName(source);
+    }
+  }
+  return text.empty() ? "" : "Dates read: " + text + '\n';
+}
+
+std::string ResultText(const ScanArguments& arguments, const ioPath& catalogue, const ScanResult& result) {
+  TextTable table({{"", TextTable::Align::Right}, {}});
+  table.AddRow({GroupDigits(result.found), result.found == 1 ? "file found" : "files found"});
+  table.AddRow({GroupDigits(result.added), "new"});
+  table.AddRow({GroupDigits(result.updated), arguments.full ? "read again" : "changed"});
+  table.AddRow({GroupDigits(result.unchanged), "unchanged"});
+  table.AddRow({GroupDigits(result.lost), "gone, now marked lost"});
+  std::string text = FindingsText(result) + table.Text(2) + DatesText(result);
+  if (arguments.dryRun) {
+    return text + "This was a dry run: nothing was stored.\n";
+  }
+  return text + "Catalogue: " + EscapeForTerminal(catalogue.utf8string()) + '\n';
+}
+
+// Asked before the catalogue is made: a slip of the pen leaves none behind.
+void RequireFolder(const ioPath& folder) {
+  std::error_code error;
+  if (!std::filesystem::exists(folder.native(), error)) {
+    const std::string name = folder.utf8string();
+    throw Failure("no-folder", "There is no folder " + name + (error ? " (" + error.message() + ")." : "."));
+  }
+}
+
+ExitCode RunScan(const ScanArguments& arguments, Session& session) {
+  std::vector<ioPath> roots;
+  for (const std::string& folder : arguments.folders) {
+    roots.push_back(AbsolutePath(folder));
+    RequireFolder(roots.back());
+  }
+  const ioPath file = session.CatalogueFile();
+  OpenCatalogue catalogue(file, arguments.dryRun);
+  VLOG(1) << "scanning into " << file;
+
+  Host::ScanOptions options;
+  options.threads = arguments.threads;
+  options.full = arguments.full;
+  options.dryRun = arguments.dryRun;
+  options.cancel = &session.interrupted;
+  ScanResult result;
+  {
+    Progress progress(session.console, "Scanning", "photos");
+    result = Host::Scan(catalogue.Get(), roots, options, [&progress](const Host::ScanProgress& now) {
+      progress.Update(now.done, now.found, now.foundAll);
+    });
+  }
+
+  session.output.Print(session.globals.json ? ResultDocument(arguments, file, result)
+                                            : ResultText(arguments, file, result));
+  if (result.cancelled) {
+    session.console.Note(arguments.dryRun
+                             ? "Interrupted."
+                             : "Interrupted. What was read so far is in the catalogue; the same command "
+                               "goes on from there.");
+  } else if (result.found == 0) {
+    session.console.Note("There are no photos in the given folders.");
+  }
+  return Judge(result);
+}
+
+}  // namespace
+
+void AddScanCommand(CLI::App& program, Action& chosen) {
+  CLI::App* const command = program.add_subcommand("scan", kDescription);
+  const auto arguments = std::make_shared<ScanArguments>();
+  command->footer(kFooter);
+  command->add_option("DIR", arguments->folders, "Folders (or single files) to take in, with all below them.")
+      ->required()
+      ->check(NotEmpty());
+  command->add_flag("--full", arguments->full, "Read every file again, also unchanged ones.")
+      ->disable_flag_override();
+  command
+      ->add_flag("--dry-run", arguments->dryRun,
+                 "Only tell what would be done; make and change no catalogue.")
+      ->disable_flag_override();
+  command
+      ->add_option("--threads", arguments->threads,
+                   "Files read at a time, 1 to 64. Usual: one for each core, at most 8.")
+      ->option_text("N")
+      ->check(WholeNumber(1, 64));
+  command->callback([arguments, &chosen] {
+    chosen = [arguments](Session& session) { return RunScan(*arguments, session); };
+  });
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,28 @@
+#include "Session.h"
+
+#include <filesystem>
+#include <host/Catalogue.h>
+
+namespace Zenvora::Lumidex::Cli {
+
+ioPath AbsolutePath(const std::string& argument) {
+  std::error_code ignored;
+  const std::filesystem::path absolute = std::filesystem::absolute(ioPath(argument).native(), ignored);
+  if (absolute.empty()) {
+    return ioPath(argument);
+  }
+  std::filesystem::path plain;
+  for (const std::filesystem::path& element : absolute) {
+    // No other clean-up: ".." behind a symbolic link is not what it looks like.
+    if (element != ".") {
+      plain /= element;
+    }
+  }
+  return ioPath(plain);
+}
+
+ioPath Session::CatalogueFile() const {
+  return globals.catalogue.empty() ? Host::Catalogue::DefaultFile() : AbsolutePath(globals.catalogue);
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Console.h"
+#include "ExitCode.h"
+#include "Output.h"
+
+#include <zenvora/core/Exception.h>
+#include <zenvora/core/ioPath.h>
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Cli {
+
+/// Options that every command takes.
+struct Globals {
+  std::string catalogue;  ///< Empty: the user's own.
+  bool json = false;
+  bool quiet = false;
+  int verbosity = 0;
+};
+
+/// What a command works with.
+struct Session {
+  const Globals& globals;
+  Output& output;
+  Console& console;
+  const std::atomic<bool>& interrupted;
+
+  /// The catalogue's file, absolute.
+  ioPath CatalogueFile() const;
+};
+
+/// A command with its arguments, ready to run.
+using Action = std::function<ExitCode(Session&)>;
+
+/// The command line makes no sense. `what()` is one sentence.
+class UsageError : public Exception {
+ public:
+  explicit UsageError(const std::string& text) { *this << TagDescription(text); }
+};
+
+/// A file or folder name from the command line, absolute; symbolic links and ".." stay.
+ioPath AbsolutePath(const std::string& argument);
+
+}  // namespace Zenvora::Lumidex::Cli

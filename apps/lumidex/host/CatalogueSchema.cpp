@@ -1,0 +1,161 @@
+#include "CatalogueSchema.h"
+
+#include <glog/logging.h>
+
+#include <chrono>
+#include <host/Catalogue.h>
+#include <iterator>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+using Statements = std::vector<const char*>;
+
+const Statements& Migration(int fromVersion) {
+  // Never changed once it has shipped: a new version is a new entry.
+  static const std::vector<Statements> migrations = {
+      {
+          "PRAGMA application_id = 1280132184",
+          "CREATE TABLE photos ("
+          " number INTEGER PRIMARY KEY,"
+          " id TEXT NOT NULL UNIQUE,"
+          " path BLOB NOT NULL UNIQUE,"
+          " size INTEGER NOT NULL,"
+          " modified_ns INTEGER NOT NULL,"
+          " taken TEXT,"
+          " taken_source INTEGER NOT NULL,"
+          " camera TEXT NOT NULL,"
+          " lost INTEGER NOT NULL DEFAULT 0 CHECK (lost IN (0, 1)))",
+          "CREATE TABLE albums ("
+          " number INTEGER PRIMARY KEY,"
+          " id TEXT NOT NULL UNIQUE,"
+          " name TEXT NOT NULL UNIQUE,"
+          " first_day TEXT)",
+          "CREATE TABLE album_photos ("
+          " album INTEGER NOT NULL REFERENCES albums (number),"
+          " position INTEGER NOT NULL,"
+          " photo INTEGER NOT NULL REFERENCES photos (number),"
+          " PRIMARY KEY (album, position),"
+          " UNIQUE (album, photo)) WITHOUT ROWID",
+          "CREATE INDEX album_photos_by_photo ON album_photos (photo)",
+          "CREATE TABLE album_attributes ("
+          " album INTEGER NOT NULL REFERENCES albums (number),"
+          " attribute INTEGER NOT NULL,"
+          " value TEXT NOT NULL,"
+          " PRIMARY KEY (album, attribute)) WITHOUT ROWID",
+      },
+  };
+  static_assert(kCatalogueApplicationId == 1280132184, "the first migration writes it");
+  CHECK_EQ(migrations.size(), static_cast<std::size_t>(Catalogue::kSchemaVersion));
+  return migrations.at(static_cast<std::size_t>(fromVersion));
+}
+
+/// What a database file says of itself.
+struct Identity {
+  int applicationId = 0;
+  int version = 0;
+  bool hasTables = false;
+
+  bool IsOurs() const { return applicationId == kCatalogueApplicationId; }
+  bool IsEmpty() const { return applicationId == 0 && version == 0 && !hasTables; }
+};
+
+Identity ReadIdentity(const CatalogueDatabase& database) {
+  // One statement sees one state, whoever is writing meanwhile.
+  QSqlQuery query = database.Prepare(
+      "SELECT (SELECT application_id FROM pragma_application_id), (SELECT user_version FROM "
+      "pragma_user_version),"
+      " (SELECT count(*) FROM sqlite_master)");
+  database.Run(query);
+  database.Next(query);
+  Identity identity;
+  identity.applicationId = query.value(0).toInt();
+  identity.version = query.value(1).toInt();
+  identity.hasTables = query.value(2).toInt() > 0;
+  return identity;
+}
+
+void RequireOwn(const CatalogueDatabase& database, const Identity& identity) {
+  if (!identity.IsOurs() && !identity.IsEmpty()) {
+    database.Fail("it is a database of another program, which is left alone");
+  }
+}
+
+void RequireNotNewer(const CatalogueDatabase& database, int version) {
+  if (version < 0 || version > Catalogue::kSchemaVersion) {
+    database.Fail("a newer version of the program made it (its format is " + std::to_string(version) +
+                  ", this program knows formats up to " + std::to_string(Catalogue::kSchemaVersion) + ")");
+  }
+}
+
+/// Throws for what is not ours to change.
+bool IsCurrent(const CatalogueDatabase& database, const Identity& identity) {
+  RequireOwn(database, identity);
+  RequireNotNewer(database, identity.version);
+  return identity.version == Catalogue::kSchemaVersion;
+}
+
+/// Readers and a writer at the same time need the write-ahead log. Whoever has the file open meanwhile can
+/// stand in the way; then the next opening tries again, and until then the catalogue works without.
+void TurnOnWriteAheadLog(const CatalogueDatabase& database) {
+  constexpr int kAttempts = 50;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    int code = 0;
+    if (database.Value("PRAGMA journal_mode").toString() == QLatin1String("wal") ||
+        (database.TryExecute("PRAGMA journal_mode = WAL", code) &&
+         database.Value("PRAGMA journal_mode").toString() == QLatin1String("wal"))) {
+      return;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  LOG(WARNING) << "The catalogue " << database.File() << " works without a write-ahead log for now";
+}
+
+}  // namespace
+
+void RequireOwnFile(const ioPath& file) {
+  constexpr int kCorrupt = 11;
+  constexpr int kAttempts = 100;
+  for (int attempt = 1;; ++attempt) {
+    const CatalogueDatabase database(file, CatalogueDatabase::Access::Frozen, 0);
+    int code = 0;
+    // Without locks a file that another process is just writing can look damaged.
+    if (!database.TryExecute("SELECT count(*) FROM sqlite_master", code) && code == kCorrupt &&
+        attempt < kAttempts) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+      continue;
+    }
+    return RequireOwn(database, ReadIdentity(database));
+  }
+}
+
+void BringUpToDate(const CatalogueDatabase& database) {
+  while (!IsCurrent(database, ReadIdentity(database))) {
+    WriteTransaction transaction(database);
+    // Another process may have been faster.
+    const Identity identity = ReadIdentity(database);
+    if (!IsCurrent(database, identity)) {
+      for (const char* statement : Migration(identity.version)) {
+        database.Execute(statement);
+      }
+      database.Execute(("PRAGMA user_version = " + std::to_string(identity.version + 1)).c_str());
+      transaction.Commit();
+    }
+  }
+  TurnOnWriteAheadLog(database);
+}
+
+void RequireCurrentVersion(const CatalogueDatabase& database) {
+  const Identity identity = ReadIdentity(database);
+  if (!IsCurrent(database, identity)) {
+    database.Fail(identity.IsEmpty()
+                      ? "it is empty; run a scan to fill it"
+                      : "an older version of the program made it; run a scan to bring it up to date");
+  }
+}
+
+}  // namespace Zenvora::Lumidex::Host

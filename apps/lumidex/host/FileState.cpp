@@ -1,0 +1,82 @@
+#include "FileState.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <cerrno>
+#include <sys/stat.h>
+#endif
+
+namespace Zenvora::Lumidex::Host {
+
+#ifdef _WIN32
+
+FileState QueryFile(const ioPath& file) {
+  FileState state;
+  HANDLE handle = CreateFileW(file.wstring().c_str(), FILE_READ_ATTRIBUTES,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                              FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  BY_HANDLE_FILE_INFORMATION facts;
+  if (handle == INVALID_HANDLE_VALUE || !GetFileInformationByHandle(handle, &facts)) {
+    const DWORD error = GetLastError();
+    state.error = std::error_code(static_cast<int>(error), std::system_category());
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) {
+      state.kind = FileState::Kind::Missing;
+    }
+    if (handle != INVALID_HANDLE_VALUE) {
+      CloseHandle(handle);
+    }
+    return state;
+  }
+  const bool onDisk = GetFileType(handle) == FILE_TYPE_DISK;
+  CloseHandle(handle);
+  const auto join = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; };
+  if ((facts.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    state.kind = FileState::Kind::Folder;
+  } else {
+    state.kind = onDisk ? FileState::Kind::File : FileState::Kind::Other;
+  }
+  state.size = join(facts.nFileSizeHigh, facts.nFileSizeLow);
+  // The system counts steps of 100 nanoseconds from 1601 on.
+  constexpr std::int64_t kStepsTo1970 = 116444736000000000;
+  state.modifiedNs = (static_cast<std::int64_t>(
+                          join(facts.ftLastWriteTime.dwHighDateTime, facts.ftLastWriteTime.dwLowDateTime)) -
+                      kStepsTo1970) *
+                     100;
+  state.identity = {facts.dwVolumeSerialNumber, join(facts.nFileIndexHigh, facts.nFileIndexLow)};
+  return state;
+}
+
+#else
+
+FileState QueryFile(const ioPath& file) {
+  FileState state;
+  struct stat facts = {};
+  if (stat(file.native().c_str(), &facts) != 0) {
+    state.error = std::error_code(errno, std::generic_category());
+    if (errno == ENOENT || errno == ENOTDIR) {
+      state.kind = FileState::Kind::Missing;
+    }
+    return state;
+  }
+  if (S_ISREG(facts.st_mode)) {
+    state.kind = FileState::Kind::File;
+  } else if (S_ISDIR(facts.st_mode)) {
+    state.kind = FileState::Kind::Folder;
+  } else {
+    state.kind = FileState::Kind::Other;
+  }
+  constexpr std::int64_t kNsPerSecond = 1'000'000'000;
+  state.size = static_cast<std::uint64_t>(facts.st_size);
+  // A file system's nonsense beyond the year 2262 stays some number.
+  if (__builtin_mul_overflow(facts.st_mtim.tv_sec, kNsPerSecond, &state.modifiedNs) ||
+      __builtin_add_overflow(state.modifiedNs, facts.st_mtim.tv_nsec, &state.modifiedNs)) {
+    state.modifiedNs = 0;
+  }
+  state.identity = {facts.st_dev, facts.st_ino};
+  return state;
+}
+
+#endif
+
+}  // namespace Zenvora::Lumidex::Host

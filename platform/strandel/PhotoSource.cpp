@@ -1,0 +1,153 @@
+#include "PhotoSource.h"
+
+#include <algorithm>
+#include <cstring>
+#include <system_error>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace Zenvora::Strandel {
+
+namespace {
+
+// Holds the whole EXIF segment of a JPEG file, so that most files take a single read.
+constexpr std::size_t kWindow = std::size_t{64} * 1024;
+
+std::string SystemWords(int error) {
+  return std::system_category().message(error);
+}
+
+}  // namespace
+
+#ifdef _WIN32
+
+PhotoSource::~PhotoSource() {
+  if (handle_ != nullptr) {
+    CloseHandle(handle_);
+  }
+}
+
+bool PhotoSource::Open(const ioPath& file, std::string& cause) {
+  HANDLE handle = CreateFileW(file.wstring().c_str(), GENERIC_READ,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                              FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) {
+    cause = SystemWords(static_cast<int>(GetLastError()));
+    return false;
+  }
+  handle_ = handle;
+  LARGE_INTEGER size;
+  if (GetFileType(handle_) != FILE_TYPE_DISK || !GetFileSizeEx(handle_, &size)) {
+    cause = "It is no regular file";
+    return false;
+  }
+  size_ = static_cast<std::uint64_t>(size.QuadPart);
+  return true;
+}
+
+std::size_t PhotoSource::ReadDirectly(std::uint64_t offset, void* to, std::size_t count) {
+  std::size_t done = 0;
+  while (done < count) {
+    OVERLAPPED place = {};
+    place.Offset = static_cast<DWORD>(offset + done);
+    place.OffsetHigh = static_cast<DWORD>((offset + done) >> 32);
+    DWORD got = 0;
+    const auto wanted = static_cast<DWORD>(std::min<std::size_t>(count - done, 1U << 30));
+    if (!ReadFile(handle_, static_cast<char*>(to) + done, wanted, &got, &place)) {
+      const DWORD error = GetLastError();
+      if (error != ERROR_HANDLE_EOF) {
+        failure_ = SystemWords(static_cast<int>(error));
+      }
+      break;
+    }
+    if (got == 0) {
+      break;
+    }
+    done += got;
+  }
+  return done;
+}
+
+#else
+
+PhotoSource::~PhotoSource() {
+  if (handle_ >= 0) {
+    close(handle_);
+  }
+}
+
+bool PhotoSource::Open(const ioPath& file, std::string& cause) {
+  const char* name = file.native().c_str();
+  struct stat facts = {};
+  // Asked before opening, since opening alone can wake a device; and after, in case another file took the
+  // name.
+  if (stat(name, &facts) != 0) {
+    cause = SystemWords(errno);
+    return false;
+  }
+  if (S_ISREG(facts.st_mode)) {
+    handle_ = open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (handle_ < 0 || fstat(handle_, &facts) != 0) {
+      cause = SystemWords(errno);
+      return false;
+    }
+  }
+  if (!S_ISREG(facts.st_mode)) {
+    cause = "It is no regular file";
+    return false;
+  }
+  size_ = static_cast<std::uint64_t>(facts.st_size);
+  return true;
+}
+
+std::size_t PhotoSource::ReadDirectly(std::uint64_t offset, void* to, std::size_t count) {
+  std::size_t done = 0;
+  while (done < count) {
+    const ssize_t got =
+        pread(handle_, static_cast<char*>(to) + done, count - done, static_cast<off_t>(offset + done));
+    if (got < 0 && errno == EINTR) {
+      continue;
+    }
+    if (got < 0) {
+      failure_ = SystemWords(errno);
+    }
+    if (got <= 0) {
+      break;
+    }
+    done += static_cast<std::size_t>(got);
+  }
+  return done;
+}
+
+#endif
+
+std::size_t PhotoSource::Read(std::uint64_t offset, void* to, std::size_t count) {
+  if (offset >= size_ || count == 0) {
+    return 0;
+  }
+  count = static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset));
+  const bool inside = offset >= windowOffset_ && offset + count <= windowOffset_ + window_.size();
+  if (!inside) {
+    if (count >= kWindow) {
+      return ReadDirectly(offset, to, count);
+    }
+    window_.resize(kWindow);
+    window_.resize(ReadDirectly(offset, window_.data(), kWindow));
+    windowOffset_ = offset;
+  }
+  const auto from = static_cast<std::size_t>(offset - windowOffset_);
+  const std::size_t given = std::min(count, window_.size() - std::min(from, window_.size()));
+  if (given > 0) {
+    std::memcpy(to, window_.data() + from, given);
+  }
+  return given;
+}
+
+}  // namespace Zenvora::Strandel

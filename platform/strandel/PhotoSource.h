@@ -1,0 +1,50 @@
+#pragma once
+
+#include <zenvora/core/ioPath.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Strandel {
+
+/// A regular file open for reading at any place, with one window of read-ahead.
+///
+/// It reads and never maps: a mapped file that is cut short meanwhile, or whose disk is pulled out, would
+/// kill the process. An object belongs to one thread.
+class PhotoSource {
+ public:
+  PhotoSource() = default;
+  ~PhotoSource();
+  PhotoSource(const PhotoSource&) = delete;
+  PhotoSource& operator=(const PhotoSource&) = delete;
+
+  /// False, with the cause, when the file is missing, may not be read or is no regular file (which is never
+  /// waited for).
+  bool Open(const ioPath& file, std::string& cause);
+  std::uint64_t Size() const { return size_; }
+
+  /// Reads up to `count` bytes from `offset`; fewer at the end of the file or after a failure.
+  std::size_t Read(std::uint64_t offset, void* to, std::size_t count);
+  /// True when all `count` bytes were there.
+  bool ReadAll(std::uint64_t offset, void* to, std::size_t count) { return Read(offset, to, count) == count; }
+
+  /// The system's words for a read that failed; empty: none did.
+  const std::string& Failure() const { return failure_; }
+
+ private:
+  std::size_t ReadDirectly(std::uint64_t offset, void* to, std::size_t count);
+
+#ifdef _WIN32
+  void* handle_ = nullptr;
+#else
+  int handle_ = -1;
+#endif
+  std::uint64_t size_ = 0;
+  std::vector<unsigned char> window_;
+  std::uint64_t windowOffset_ = 0;
+  std::string failure_;
+};
+
+}  // namespace Zenvora::Strandel

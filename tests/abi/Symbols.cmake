@@ -1,0 +1,56 @@
+# Compares what LIBRARY exports with LIST, or writes LIST when LUMIDEX_ABI_RENEW is set.
+#
+# Only what the library's own namespace names: which instantiations of library templates are exported as well depends on
+# the optimiser.
+
+# symbols(<variable> <option> ...): the names of nm's lines, in the order of the library's table.
+function(symbols variable)
+  execute_process(COMMAND "${NM}" -D -p --defined-only ${ARGN} "${LIBRARY}" OUTPUT_VARIABLE output
+    COMMAND_ERROR_IS_FATAL ANY)
+  # Brackets and semicolons would join and split list elements.
+  string(REPLACE "[" "<:" output "${output}")
+  string(REPLACE "]" ":>" output "${output}")
+  string(REPLACE ";" "," output "${output}")
+  string(REGEX REPLACE "\n$" "" output "${output}")
+  string(REPLACE "\n" ";" lines "${output}")
+  list(TRANSFORM lines REPLACE "^[0-9a-f]+ [A-Za-z] " "")
+  set(${variable} "${lines}" PARENT_SCOPE)
+endfunction()
+
+# Chosen by the linker's names: those of people may begin with a return type.
+symbols(mangled)
+symbols(readable -C)
+set(exported "")
+foreach(name symbol IN ZIP_LISTS mangled readable)
+  if(name MATCHES "^_Z(T[VIST]|GV|T[hv][n0-9_]+)?NK?7Zenvora")
+    list(APPEND exported "${symbol}")
+  endif()
+endforeach()
+list(REMOVE_DUPLICATES exported)
+list(SORT exported)
+if(NOT exported)
+  message(FATAL_ERROR "${LIBRARY} exports nothing of its own")
+endif()
+
+if(DEFINED ENV{LUMIDEX_ABI_RENEW})
+  list(JOIN exported "\n" text)
+  file(WRITE "${LIST}" "${text}\n")
+  list(LENGTH exported count)
+  message(STATUS "${count} symbols written to ${LIST}")
+  return()
+endif()
+
+file(STRINGS "${LIST}" listed)
+set(gone ${listed})
+list(REMOVE_ITEM gone ${exported})
+set(new ${exported})
+list(REMOVE_ITEM new ${listed})
+if(gone OR new)
+  list(TRANSFORM gone PREPEND "\n  - ")
+  list(TRANSFORM new PREPEND "\n  + ")
+  string(CONCAT difference ${gone} ${new})
+  message(FATAL_ERROR "\
+The exported symbols differ from ${LIST} (- listed and gone, + exported and not listed):${difference}
+If that is meant, renew the list (and raise the version for every -):
+  $ENV{LUMIDEX_ABI_TARGET}")
+endif()

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <zenvora/core/ioPath.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QStringList>
+
+#include <string>
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
+namespace Zenvora::Test {
+
+/// What a run of the command left behind.
+struct Ran {
+  int exitCode = -1;
+  bool crashed = false;
+  std::string out;
+  std::string err;
+
+  /// The standard output stream as the one JSON document that it must be; empty when it is none.
+  QJsonObject Json() const;
+};
+
+/// Runs the command in a home of its own.
+class CliTest : public ::testing::Test {
+ protected:
+  CliTest();
+
+  Ran Run(const QStringList& arguments) const;
+  /// `command`: for bash; $LUMIDEX is the command's path.
+  Ran RunShell(const std::string& command) const;
+  /// Waits for a started process; a hang fails the test.
+  static Ran Finish(QProcess& process);
+  void Start(QProcess& process, const QStringList& arguments) const;
+
+  /// Folder of the photos, and the catalogue that runs use without an option.
+  ioPath Photos() const { return tree.Path("photos"); }
+  ioPath DefaultCatalogue() const { return tree.Path("data/lumidex/catalogue.sqlite"); }
+  static QString Text(const ioPath& path) { return path.qstring(); }
+
+  /// `count` JPEG files in `folder` of the photos, taken one minute apart from `day` ("2023:12:24"), 10:00
+  /// on.
+  void MakePhotos(const std::string& folder, const std::string& day, int count) const;
+  /// 21 of Christmas 2023 and 22 of a weekend in May 2023, in the catalogue.
+  void ScanTwoAlbums() const;
+
+  TempTree tree;
+  QProcessEnvironment environment;
+};
+
+/// "ok" from SQLite's integrity check, else what it says.
+std::string IntegrityOf(const ioPath& catalogue);
+int CountPhotosIn(const ioPath& catalogue);
+
+}  // namespace Zenvora::Test

@@ -1,0 +1,159 @@
+// What the command says when it cannot do its work, and that nothing is harmed.
+
+#include "CliFixture.h"
+
+#include <QJsonArray>
+
+#include <filesystem>
+
+namespace Zenvora::Test {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+class FailingCommand : public CliTest {};
+
+TEST_F(FailingCommand, ExitsWith2ForCommandLinesWithoutSense) {
+  for (const QStringList& arguments :
+       std::vector<QStringList>{{},
+                                {"scann"},
+                                {"scan"},
+                                {"scan", ""},
+                                {"scan", "--frob", "."},
+                                {"scan", "--full=yes", "."},
+                                {"scan", "--threads", "."},
+                                {"scan", "--threads", "0", "."},
+                                {"scan", "--threads", "65", "."},
+                                {"scan", "--threads", "4x", "."},
+                                {"scan", "--threads", "1", "--threads", "2", "."},
+                                {"albums", "extra"},
+                                {"albums", "--accept"},
+                                {"albums", "--accept", ""},
+                                {"albums", "--report", ""},
+                                {"calendar"},
+                                {"calendar", "burn"},
+                                {"calendar", "check", "a", "b"},
+                                {"calendar", "update", "now"},
+                                {"sample"},
+                                {"sample", "a", "b"},
+                                {"sample", "a", "--photos", "49"},
+                                {"sample", "a", "--photos", "100001"},
+                                {"sample", "a", "--seed", "-1"},
+                                {"sample", "a", "--seed", "4294967296"},
+                                {"--catalogue"},
+                                {"--catalogue", "", "albums"},
+                                {"--json=2", "albums"},
+                                {"--quiet"},
+                                {"scan", ".", "albums", "--accept"}}) {
+    const Ran ran = Run(arguments);
+    const std::string line = arguments.join(QLatin1Char(' ')).toStdString();
+    EXPECT_EQ(ran.exitCode, 2) << line;
+    EXPECT_THAT(ran.out, IsEmpty()) << line;
+    EXPECT_FALSE(ran.err.empty()) << line;
+  }
+  EXPECT_FALSE(tree.Path("data").exists());
+}
+
+TEST_F(FailingCommand, SuggestsWhatMayHaveBeenMeant) {
+  EXPECT_THAT(Run({"scann"}).err, HasSubstr("did you mean \"scan\"?"));
+  EXPECT_THAT(Run({"calendar", "chek"}).err, HasSubstr("did you mean \"check\"?"));
+  EXPECT_THAT(Run({"scan", "--dryrun", "."}).err, HasSubstr("did you mean \"--dry-run\"?"));
+  EXPECT_THAT(Run({"albums", "--jsn"}).err, HasSubstr("did you mean \"--json\"?"));
+  EXPECT_THAT(Run({"frobnicate"}).err, Not(HasSubstr("did you mean")));
+}
+
+TEST_F(FailingCommand, WritesItsFailureAsADocumentToo) {
+  for (const QStringList& arguments :
+       {QStringList{"--json"}, QStringList{"scan", "--json"}, QStringList{"frob", "--json"},
+        QStringList{"scan", "--threads", "x", "--json"}}) {
+    const Ran ran = Run(arguments);
+    EXPECT_EQ(ran.exitCode, 2);
+    const QJsonObject error = ran.Json();
+    EXPECT_EQ(error["format"].toString(), QStringLiteral("lumidex.error"));
+    EXPECT_EQ(error["version"].toInt(), 1);
+    EXPECT_EQ(error["kind"].toString(), QStringLiteral("usage"));
+    EXPECT_FALSE(error["message"].toString().isEmpty());
+    EXPECT_TRUE(error["candidates"].isArray());
+    EXPECT_EQ(error["exitCode"].toInt(), 2);
+  }
+}
+
+TEST_F(FailingCommand, LeavesAFileThatIsNoCatalogueAsItIs) {
+  MakePhotos("a", "2023:12:24", 1);
+  for (const std::string& content : {std::string(8192, 'x'), std::string("short"), MakeJpeg(PhotoTags())}) {
+    const ioPath file = tree.Write("broken.sqlite", content);
+    for (const QStringList& command :
+         {QStringList{"scan", Text(Photos())}, QStringList{"scan", "--dry-run", Text(Photos())},
+          QStringList{"albums"}, QStringList{"albums", "--accept", "all"},
+          QStringList{"albums", "--accepted"}}) {
+      const Ran ran = Run(QStringList{"-c", Text(file)} + command);
+      EXPECT_EQ(ran.exitCode, 4) << command.join(QLatin1Char(' ')).toStdString();
+      EXPECT_THAT(ran.err, HasSubstr(file.utf8string()));
+      EXPECT_THAT(ran.out, IsEmpty());
+      EXPECT_EQ(ReadFile(file), content);
+    }
+  }
+}
+
+TEST_F(FailingCommand, ExitsWith4WhereNoCatalogueCanBeMade) {
+  MakePhotos("a", "2023:12:24", 1);
+  const ioPath file = tree.Write("file", "content");
+  const Ran ran = Run({"-c", Text(file / "catalogue.sqlite"), "scan", Text(Photos())});
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_THAT(ran.err, HasSubstr((file / "catalogue.sqlite").utf8string()));
+  EXPECT_EQ(ReadFile(file), "content");
+  EXPECT_EQ(Run({"-c", Text(tree.Path("photos")), "scan", Text(Photos())}).exitCode, 4);
+}
+
+#ifndef _WIN32
+TEST_F(FailingCommand, ReportsAFullDiskAndLosesNothing) {
+  MakePhotos("a", "2023:12:24", 1);
+  ASSERT_EQ(Run({"scan", Text(Photos())}).exitCode, 0);
+  MakePhotos("b", "2023:12:25", 400);
+  const auto kilobytes = DefaultCatalogue().file_size() / 1024 + 1;
+  const Ran full = RunShell("ulimit -f " + std::to_string(kilobytes) + "; exec \"$LUMIDEX\" scan photos");
+  EXPECT_FALSE(full.crashed);
+  EXPECT_EQ(full.exitCode, 4) << full.err;
+  EXPECT_THAT(full.out, IsEmpty());
+  EXPECT_THAT(full.err, StartsWith("lumidex: error: "));
+  EXPECT_THAT(full.err, HasSubstr(DefaultCatalogue().utf8string()));
+  EXPECT_EQ(IntegrityOf(DefaultCatalogue()), "ok");
+  EXPECT_GE(CountPhotosIn(DefaultCatalogue()), 1);
+  EXPECT_EQ(Run({"scan", Text(Photos())}).exitCode, 0);
+  EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 401);
+}
+
+TEST_F(FailingCommand, ExitsWith4WhenItsOutputCannotBeWritten) {
+  for (const char* const command : {"calendar show", "--help", "--version", "scan nowhere --json"}) {
+    const Ran ran = RunShell("exec \"$LUMIDEX\" " + std::string(command) + " > /dev/full");
+    EXPECT_EQ(ran.exitCode, 4) << command;
+    EXPECT_THAT(ran.err, HasSubstr("No space left on device")) << command;
+  }
+}
+#endif
+
+TEST_F(FailingCommand, SaysSoWhenTheSampleFolderIsNotEmpty) {
+  const std::string before = ReadFile(tree.Write("full/photo.jpg", "mine"));
+  const Ran ran = Run({"sample", "full"});
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_THAT(ran.err, HasSubstr(tree.Path("full").utf8string()));
+  EXPECT_EQ(ReadFile(tree.Path("full/photo.jpg")), before);
+}
+
+TEST_F(FailingCommand, KeepsWarningsOfABrokenCalendarToOneLine) {
+  ScanTwoAlbums();
+  const ioPath lonely = tree.MakeFolder("bin") / "lumidex";
+  std::filesystem::copy_file(LUMIDEX_PROGRAM, lonely.native());
+  tree.Write("share/lumidex/HolidayEvents.json", "{");
+  const Ran ran = RunShell("LD_LIBRARY_PATH='" LUMIDEX_LIBRARIES "' bin/lumidex albums");
+  EXPECT_EQ(ran.exitCode, 0);
+  EXPECT_THAT(ran.out, HasSubstr("Weekend"));
+  EXPECT_THAT(ran.err, StartsWith("lumidex: error: "));
+  EXPECT_THAT(ran.err, HasSubstr("HolidayEvents.json"));
+  EXPECT_EQ(std::count(ran.err.begin(), ran.err.end(), '\n'), 1) << ran.err;
+}
+
+}  // namespace
+}  // namespace Zenvora::Test

@@ -1,0 +1,8 @@
+room(core KIND SHARED HEADER zenvora/core/Core.h)
+room(lumidex KIND SHARED INCLUDES zenvora/core/Core.h USES core LINKS Qt5::Core)
+room(app KIND SHARED INCLUDES zenvora/core/Export.h USES_PRIVATELY core)
+room(tavolin KIND SHARED USES core USES_PRIVATELY app)
+room(LumidexUtil KIND SHARED OUTPUT Util USES core lumidex USES_PRIVATELY app tavolin)
+room(host KIND STATIC USES LumidexUtil)
+room(cli KIND PROGRAM OUTPUT program INCLUDES zenvora/core/Core.h USES_PRIVATELY host core)
+set(ACCEPTED ON)

@@ -1,0 +1,3 @@
+room(HolidayIntervalGenerator KIND PART PART_OF LumidexUtil)
+room(Util KIND PART PART_OF LumidexUtil USES HolidayIntervalGenerator)
+set(REFUSED "Room 'HolidayIntervalGenerator' has no floor")

@@ -1,0 +1,2 @@
+room(cellar KIND SHARED)
+set(REFUSED "Room 'cellar' has no floor")

@@ -1,0 +1,2 @@
+room(core KIND SHARED EXTRA)
+set(REFUSED "Room 'core': unknown arguments EXTRA")

@@ -1,0 +1,316 @@
+#include "CatalogueDatabase.h"
+#include "RawSql.h"
+#include "Records.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QSqlDatabase>
+
+#include <filesystem>
+#include <fstream>
+#include <host/Catalogue.h>
+#include <set>
+#include <string>
+#include <support/TempTree.h>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
+namespace Zenvora::Lumidex::Host {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Test::ErrorOf;
+using Test::IsSuperuser;
+using Test::Photo;
+using Test::Photos;
+using Test::ReadFile;
+using Test::RunSql;
+using Test::TempTree;
+using Mode = Catalogue::Mode;
+using testing::AllOf;
+using testing::HasSubstr;
+
+class CatalogueFile : public testing::Test {
+ protected:
+  TempTree tree_;
+  const ioPath file_ = tree_.Path("catalogue.sqlite");
+
+  std::string OpeningError(const ioPath& file, Mode mode) const {
+    return ErrorOf([&] { Catalogue(file, mode); });
+  }
+  void MakeFilled(int photos = 3) const { Catalogue(file_, Mode::ReadWrite).Store(Photos("/p/", photos)); }
+  std::set<std::string> Names() const {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(tree_.Path().native())) {
+      names.insert(entry.path().filename().string());
+    }
+    return names;
+  }
+};
+
+TEST_F(CatalogueFile, IsMadeWithItsFolders) {
+  const ioPath file = tree_.Path("new/folder/c.sqlite");
+  Catalogue(file, Mode::ReadWrite).Store({Photo("/p/a")});
+  EXPECT_EQ(Catalogue(file, Mode::ReadOnly).CountPhotos(), 1U);
+}
+
+TEST_F(CatalogueFile, HasAVersionAnOwnerAndALog) {
+  MakeFilled();
+  EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), Catalogue::kSchemaVersion);
+  EXPECT_EQ(RunSql(file_, {"PRAGMA application_id"}).toInt(), 0x4C4D4458);
+  EXPECT_EQ(RunSql(file_, {"PRAGMA journal_mode"}).toString(), QStringLiteral("wal"));
+  EXPECT_EQ(RunSql(file_, {"PRAGMA integrity_check"}).toString(), QStringLiteral("ok"));
+}
+
+TEST_F(CatalogueFile, IsOneFileWhenClosed) {
+  MakeFilled();
+  EXPECT_EQ(Names(), std::set<std::string>{"catalogue.sqlite"});
+}
+
+TEST_F(CatalogueFile, LeavesNoConnectionBehind) {
+  const QStringList before = QSqlDatabase::connectionNames();
+  {
+    const Catalogue first(file_, Mode::ReadWrite);
+    const Catalogue second(file_, Mode::ReadOnly);
+    EXPECT_GT(QSqlDatabase::connectionNames().size(), before.size());
+  }
+  EXPECT_NE(OpeningError(tree_.Write("text", "no database at all"), Mode::ReadWrite), "(no error)");
+  EXPECT_EQ(QSqlDatabase::connectionNames(), before);
+}
+
+#ifndef _WIN32
+TEST_F(CatalogueFile, MayHaveANameThatIsNoText) {
+  for (const char* name : {"\xFF\xFE.sqlite", "a?b#c%20 d.sqlite", "new\nline.sqlite"}) {
+    const ioPath file = tree_.Path(name);
+    Catalogue(file, Mode::ReadWrite).Store({Photo("/p/a")});
+    EXPECT_GT(file.file_size(), 0U);
+    EXPECT_EQ(Catalogue(file, Mode::ReadOnly).CountPhotos(), 1U);
+  }
+}
+
+TEST_F(CatalogueFile, IsNeverWaitedForWhenItIsAPipe) {
+  ASSERT_EQ(mkfifo(file_.native().c_str(), 0600), 0);
+  for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
+    EXPECT_THAT(OpeningError(file_, mode),
+                AllOf(HasSubstr(file_.utf8string()), HasSubstr("no regular file")));
+  }
+}
+#endif
+
+TEST_F(CatalogueFile, IsFilledWhenItIsEmpty) {
+  tree_.Write("catalogue.sqlite", "");
+  EXPECT_THAT(OpeningError(file_, Mode::ReadOnly), HasSubstr("run a scan"));
+  MakeFilled();
+  EXPECT_EQ(Catalogue(file_, Mode::ReadOnly).CountPhotos(), 3U);
+}
+
+TEST_F(CatalogueFile, MustExistForReading) {
+  EXPECT_THAT(OpeningError(file_, Mode::ReadOnly),
+              AllOf(HasSubstr(file_.utf8string()), HasSubstr("does not exist"), HasSubstr("scan")));
+  EXPECT_FALSE(file_.exists());
+}
+
+TEST_F(CatalogueFile, MustNotBeAFolder) {
+  for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
+    EXPECT_THAT(OpeningError(tree_.Path(), mode), HasSubstr("it is a folder"));
+  }
+}
+
+TEST_F(CatalogueFile, MustHaveAName) {
+  EXPECT_THAT(OpeningError(ioPath(), Mode::ReadWrite), HasSubstr("no usable name"));
+}
+
+TEST_F(CatalogueFile, CannotLieBelowAFile) {
+  const ioPath file = tree_.Write("file", "x") / "c.sqlite";
+  EXPECT_THAT(OpeningError(file, Mode::ReadWrite), AllOf(HasSubstr(file.utf8string()), HasSubstr("folder")));
+}
+
+TEST_F(CatalogueFile, MustBeADatabase) {
+  const std::string text(5000, 't');
+  for (const std::string& content : {text, std::string("short"), std::string(4096, '\0')}) {
+    const ioPath file = tree_.Write("text", content);
+    for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
+      EXPECT_THAT(OpeningError(file, mode), AllOf(HasSubstr(file.utf8string()), HasSubstr("no catalogue")));
+      EXPECT_EQ(ReadFile(file), content);
+    }
+  }
+}
+
+TEST_F(CatalogueFile, IsLeftAloneWhenItIsAnotherProgramsDatabase) {
+  for (const char* setUp :
+       {"PRAGMA application_id = 77", "PRAGMA journal_mode = WAL", "PRAGMA user_version = 1"}) {
+    const ioPath file = tree_.Path("other.sqlite");
+    file.remove();
+    RunSql(file, {setUp, "CREATE TABLE theirs (a)", "INSERT INTO theirs VALUES (1)"});
+    const std::string before = ReadFile(file);
+    const std::set<std::string> names = Names();
+    for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
+      EXPECT_THAT(OpeningError(file, mode),
+                  AllOf(HasSubstr(file.utf8string()), HasSubstr("another program")));
+      EXPECT_EQ(ReadFile(file), before);
+      EXPECT_EQ(Names(), names);
+    }
+  }
+}
+
+TEST_F(CatalogueFile, IsLeftAloneWhenANewerProgramMadeIt) {
+  MakeFilled();
+  RunSql(file_, {"PRAGMA user_version = 99"});
+  const std::string before = ReadFile(file_);
+  for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
+    EXPECT_THAT(OpeningError(file_, mode), AllOf(HasSubstr("newer version"), HasSubstr("99")));
+    EXPECT_EQ(ReadFile(file_), before);
+  }
+}
+
+TEST_F(CatalogueFile, IsNotBroughtUpToDateByReaders) {
+  MakeFilled();
+  RunSql(file_, {"PRAGMA user_version = 0"});
+  const std::string before = ReadFile(file_);
+  EXPECT_THAT(OpeningError(file_, Mode::ReadOnly),
+              AllOf(HasSubstr("older version"), HasSubstr("run a scan")));
+  EXPECT_EQ(ReadFile(file_), before);
+}
+
+TEST_F(CatalogueFile, SaysThatItIsDamaged) {
+  MakeFilled(2000);
+  std::string bytes = ReadFile(file_);
+  // All but the first page, which tells whose file it is.
+  std::fill(bytes.begin() + 4096, bytes.end(), '\x55');
+  const std::string damaged = bytes;
+  tree_.Write("catalogue.sqlite", damaged);
+  for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
+    const std::string error = ErrorOf([&] { Catalogue(file_, mode).Photos(); });
+    EXPECT_THAT(error, AllOf(HasSubstr(file_.utf8string()), HasSubstr("damaged")));
+  }
+  EXPECT_EQ(ReadFile(file_), damaged);
+}
+
+TEST_F(CatalogueFile, SaysThatItWasCutShort) {
+  MakeFilled(2000);
+  const std::string bytes = ReadFile(file_);
+  tree_.Write("catalogue.sqlite", bytes.substr(0, bytes.size() / 2));
+  EXPECT_THAT(ErrorOf([&] { Catalogue(file_, Mode::ReadWrite).Photos(); }),
+              AllOf(HasSubstr(file_.utf8string()), HasSubstr("damaged")));
+}
+
+TEST_F(CatalogueFile, IsReadWithoutLeavingATrace) {
+  MakeFilled();
+  const std::string before = ReadFile(file_);
+  {
+    Catalogue catalogue(file_, Mode::ReadOnly);
+    EXPECT_EQ(catalogue.Photos().size(), 3U);
+    EXPECT_NE(ErrorOf([&] { catalogue.Store({Photo("/p/new")}); }), "(no error)");
+    EXPECT_NE(ErrorOf([&] { catalogue.MarkLost({"/p/0"}); }), "(no error)");
+  }
+  EXPECT_EQ(ReadFile(file_), before);
+  EXPECT_EQ(Names(), std::set<std::string>{"catalogue.sqlite"});
+}
+
+TEST_F(CatalogueFile, IsReadWhereNoFilesCanBeMadeBesideIt) {
+  MakeFilled();
+  // Nobody, whatever the rights, can make a file of this name.
+  tree_.MakeFolder("catalogue.sqlite-wal");
+  EXPECT_EQ(Catalogue(file_, Mode::ReadOnly).Photos().size(), 3U);
+  EXPECT_THAT(ErrorOf([&] { Catalogue(file_, Mode::ReadWrite).Store({Photo("/p/new")}); }),
+              HasSubstr(file_.utf8string()));
+}
+
+TEST_F(CatalogueFile, IsReadWhileAnotherWrites) {
+  Catalogue writer(file_, Mode::ReadWrite);
+  writer.Store(Photos("/p/", 3));
+  const Catalogue reader(file_, Mode::ReadOnly);
+  EXPECT_EQ(reader.CountPhotos(), 3U);
+  writer.Store(Photos("/q/", 3));
+  EXPECT_EQ(reader.CountPhotos(), 6U);
+}
+
+TEST_F(CatalogueFile, MustBeWritableForWriting) {
+  if (IsSuperuser()) {
+    GTEST_SKIP() << "this user may write every file";
+  }
+  MakeFilled();
+  fs::permissions(file_.native(), fs::perms::owner_read);
+  EXPECT_THAT(OpeningError(file_, Mode::ReadWrite), HasSubstr("write-protected"));
+  EXPECT_EQ(Catalogue(file_, Mode::ReadOnly).CountPhotos(), 3U);
+  fs::permissions(tree_.Path().native(), fs::perms::owner_read | fs::perms::owner_exec);
+  EXPECT_EQ(Catalogue(file_, Mode::ReadOnly).CountPhotos(), 3U);
+  fs::permissions(tree_.Path().native(), fs::perms::owner_all);
+}
+
+#ifndef _WIN32
+TEST_F(CatalogueFile, KeepsWhatWasStoredWhenTheDiskIsFull) {
+  QProcess writer;
+  writer.start(QStringLiteral(CATALOGUE_WRITER),
+               {file_.qstring(), QStringLiteral("/p/"), QString::number(300 * 1024)});
+  ASSERT_TRUE(writer.waitForFinished(120'000));
+  EXPECT_EQ(writer.exitCode(), 3);
+  const QList<QByteArray> lines = writer.readAllStandardOutput().trimmed().split('\n');
+  ASSERT_GT(lines.size(), 1);
+  EXPECT_THAT(lines.back().toStdString(), AllOf(HasSubstr(file_.utf8string()), HasSubstr("disk")));
+
+  EXPECT_EQ(Catalogue(file_, Mode::ReadWrite).CountPhotos(), lines.at(lines.size() - 2).toULong());
+  EXPECT_EQ(RunSql(file_, {"PRAGMA integrity_check"}).toString(), QStringLiteral("ok"));
+}
+#endif
+
+TEST_F(CatalogueFile, KeepsWholeBatchesWhenItsWriterIsKilled) {
+  std::size_t least = 0;
+  for (int round = 0; round < 5; ++round) {
+    QProcess writer;
+    writer.start(QStringLiteral(CATALOGUE_WRITER), {file_.qstring(), QStringLiteral("/%1/").arg(round)});
+    QByteArray output;
+    while (output.count('\n') < 5 + 7 * round) {
+      ASSERT_TRUE(writer.waitForReadyRead(120'000));
+      output += writer.readAll();
+    }
+    writer.kill();
+    ASSERT_TRUE(writer.waitForFinished(120'000));
+    output += writer.readAll();
+    const QList<QByteArray> lines = output.split('\n');
+    least += lines.at(lines.size() - 2).toULong();
+
+    const std::size_t stored = Catalogue(file_, Mode::ReadOnly).CountPhotos();
+    EXPECT_GE(stored, least);
+    EXPECT_EQ(stored % 100, 0U);
+    EXPECT_EQ(RunSql(file_, {"PRAGMA integrity_check"}).toString(), QStringLiteral("ok"));
+    least = stored;
+  }
+}
+
+TEST_F(CatalogueFile, IsInTheUsersDataFolderByDefault) {
+  const std::string file = Catalogue::DefaultFile().utf8string();
+  EXPECT_EQ(file, qgetenv("XDG_DATA_HOME").toStdString() + "/lumidex/catalogue.sqlite");
+}
+
+struct CodeRow {
+  int code;
+  const char* expected;
+};
+
+class SqliteCodes : public testing::TestWithParam<CodeRow> {};
+
+TEST_P(SqliteCodes, HaveCausesForPeople) {
+  EXPECT_THAT(CauseOfSqliteCode(GetParam().code, "own words", 10'000), HasSubstr(GetParam().expected));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, SqliteCodes,
+                         testing::Values(CodeRow{5, "more than 10 seconds"}, CodeRow{6, "another program"},
+                                         CodeRow{5 | 2 << 8, "another program"},
+                                         CodeRow{8, "write-protected"}, CodeRow{10, "own words"},
+                                         CodeRow{11, "damaged"}, CodeRow{13, "disk is full"},
+                                         CodeRow{14, "cannot be opened"}, CodeRow{26, "no catalogue"},
+                                         CodeRow{1, "own words"}));
+
+TEST(SqliteUri, KeepsEveryByteOfAPath) {
+  EXPECT_EQ(SqliteUri("/a b/\xFF?#%.sqlite", "mode=ro").toStdString(),
+            "file:///a%20b/%FF%3F%23%25.sqlite?mode=ro");
+}
+
+}  // namespace
+}  // namespace Zenvora::Lumidex::Host
