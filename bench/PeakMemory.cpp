@@ -21,10 +21,12 @@ double StatusMiB(const std::string& key) {
 
 }  // namespace
 
-void ResetPeakMemory() { std::ofstream("/proc/self/clear_refs") << 5; }
+void ResetPeakMemory() {
+  std::ofstream("/proc/self/clear_refs") << 5;
+}
 
-double PeakMemoryMiB() { return StatusMiB("VmHWM"); }
-
-double CurrentMemoryMiB() { return StatusMiB("VmRSS"); }
+double PeakMemoryMiB() {
+  return StatusMiB("VmHWM");
+}
 
 }  // namespace Zenvora::Bench

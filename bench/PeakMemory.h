@@ -8,7 +8,4 @@ void ResetPeakMemory();
 /// The most memory the process has held since, in MiB; 0 where the system does not tell.
 double PeakMemoryMiB();
 
-/// What the process holds now, in MiB; 0 where the system does not tell.
-double CurrentMemoryMiB();
-
 }  // namespace Zenvora::Bench

@@ -1,4 +1,5 @@
-// Surroundings of the benchmarks: a host without network, with private folders and a calendar of fourteen events.
+// Surroundings of the benchmarks: a host without network, with private folders and a calendar of fourteen
+// events.
 
 #include "Surroundings.h"
 
@@ -35,8 +36,8 @@ void WriteCalendar(const ioPath& folder) {
   file << R"({"events": {"en_US": [)";
   const char* separator = "";
   for (const CalendarEvent& event : Calendar()) {
-    file << separator << R"({"event": ")" << event.name << R"(", "start": ")" << event.start << R"(", "end": ")"
-         << event.end << R"("})";
+    file << separator << R"({"event": ")" << event.name << R"(", "start": ")" << event.start
+         << R"(", "end": ")" << event.end << R"("})";
     separator = ", ";
   }
   file << "]}}";
@@ -44,11 +45,13 @@ void WriteCalendar(const ioPath& folder) {
 
 const std::vector<CalendarEvent>& Calendar() {
   static const std::vector<CalendarEvent> events = {
-      {"New Year", "31.12", "01.01"},      {"Winter Fair", "06.01", "07.01"}, {"Sweethearts", "14.02", "14.02"},
-      {"Women's Day", "08.03", "08.03"},   {"Spring Fair", "17.03", "18.03"}, {"April Fools", "01.04", "01.04"},
-      {"Labour Day", "01.05", "02.05"},    {"Children's Day", "01.06", "01.06"}, {"Midsummer", "23.06", "25.06"},
-      {"Independence", "04.07", "04.07"},  {"Harvest", "15.08", "16.08"},     {"Unity", "03.10", "03.10"},
-      {"Halloween", "30.10", "01.11"},     {"Christmas", "24.12", "26.12"}};
+      {"New Year", "31.12", "01.01"},    {"Winter Fair", "06.01", "07.01"},
+      {"Sweethearts", "14.02", "14.02"}, {"Women's Day", "08.03", "08.03"},
+      {"Spring Fair", "17.03", "18.03"}, {"April Fools", "01.04", "01.04"},
+      {"Labour Day", "01.05", "02.05"},  {"Children's Day", "01.06", "01.06"},
+      {"Midsummer", "23.06", "25.06"},   {"Independence", "04.07", "04.07"},
+      {"Harvest", "15.08", "16.08"},     {"Unity", "03.10", "03.10"},
+      {"Halloween", "30.10", "01.11"},   {"Christmas", "24.12", "26.12"}};
   return events;
 }
 

@@ -20,8 +20,9 @@ namespace {
 
 // Fewer pictures make a moment, not an album.
 constexpr std::size_t kLeastPhotos = 20;
-// The year in which the calendar's days are read. It is no leap year, so 29 February has no key date; an invalid date's
-// Julian day is the least number there is, so such a photo lies "before" every day. Kept on purpose.
+// The year in which the calendar's days are read. It is no leap year, so 29 February has no key date; an
+// invalid date's Julian day is the least number there is, so such a photo lies "before" every day. Kept on
+// purpose.
 constexpr int kReferenceYear = 1900;
 
 struct Interval {
@@ -34,7 +35,9 @@ struct Group {
   std::vector<QString> photoIds;
 };
 
-bool RunsOverNewYear(const HolidayEvent& event) { return event.start.toJulianDay() > event.end.toJulianDay(); }
+bool RunsOverNewYear(const HolidayEvent& event) {
+  return event.start.toJulianDay() > event.end.toJulianDay();
+}
 
 bool Holds(const HolidayEvent& event, const QDate& key) {
   const qint64 day = key.toJulianDay();
@@ -43,7 +46,9 @@ bool Holds(const HolidayEvent& event, const QDate& key) {
   return start <= end ? start <= day && day <= end : day >= start || day <= end;
 }
 
-QDate InYear(const QDate& date, int year) { return QDate(year, date.month(), date.day()); }
+QDate InYear(const QDate& date, int year) {
+  return QDate(year, date.month(), date.day());
+}
 
 Interval OccurrenceOf(const HolidayEvent& event, int year, const QDate& key) {
   if (!RunsOverNewYear(event)) {
@@ -64,11 +69,13 @@ std::optional<Interval> WeekendOf(const QDate& day) {
   }
 }
 
-/// The group table. Photos of one day share a group, intervals of one name too: both are remembered, so that a
-/// collection of any size scans the events once for each day of the year and words an interval once for each group.
+/// The group table. Photos of one day share a group, intervals of one name too: both are remembered, so that
+/// a collection of any size scans the events once for each day of the year and words an interval once for
+/// each group.
 class Grouping {
  public:
-  Grouping(const std::vector<HolidayEvent>& events, const AlbumTexts& texts) : events_(events), texts_(texts) {}
+  Grouping(const std::vector<HolidayEvent>& events, const AlbumTexts& texts)
+      : events_(events), texts_(texts) {}
 
   void Add(const DataModel& photo) {
     const QDate day = photo.GetDateTime().date();
@@ -127,7 +134,8 @@ class Grouping {
     const auto [known, isNew] = groupOfOccurrence_.try_emplace(key, nullptr);
     if (isNew) {
       // Both placeholders at once: a "%1" inside the title stays as it is.
-      const QString name = QStringLiteral("%1\n%2").arg(title, texts_.wordInterval(interval.first, interval.last));
+      const QString name =
+          QStringLiteral("%1\n%2").arg(title, texts_.wordInterval(interval.first, interval.last));
       known->second = &groups_.try_emplace(name, Group{interval, {}}).first->second;
     }
     return known->second;
@@ -161,8 +169,8 @@ class Grouping {
 
 }  // namespace
 
-std::vector<Album> MakeHolidayAlbums(const std::vector<HolidayEvent>& events, const std::vector<DataModel>& photos,
-                                     const AlbumTexts& texts) {
+std::vector<Album> MakeHolidayAlbums(const std::vector<HolidayEvent>& events,
+                                     const std::vector<DataModel>& photos, const AlbumTexts& texts) {
   Grouping grouping(events, texts);
   for (const DataModel& photo : photos) {
     grouping.Add(photo);

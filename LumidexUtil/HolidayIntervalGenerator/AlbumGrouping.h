@@ -24,8 +24,9 @@ struct AlbumTexts {
   std::function<QString()> makeId;
 };
 
-/// Groups photos by holiday occurrence and weekend and makes an album of each group that is large enough, in the order of
-/// the albums' names. Pure but for the two texts; `wordInterval` is called once for each occurrence met, not per photo.
+/// Groups photos by holiday occurrence and weekend and makes an album of each group that is large enough, in
+/// the order of the albums' names. Pure but for the two texts; `wordInterval` is called once for each
+/// occurrence met, not per photo.
 std::vector<Lumidex::Album> MakeHolidayAlbums(const std::vector<HolidayEvent>& events,
                                               const std::vector<Lumidex::DataModel>& photos,
                                               const AlbumTexts& texts);

@@ -33,12 +33,14 @@ const std::string KEY_EVENT = "event";
 const std::string KEY_START = "start";
 const std::string KEY_END = "end";
 
-// Readers of logs know the missing-node report by its file and line: the number stays when the source around it moves.
+// Readers of logs know the missing-node report by its file and line: the number stays when the source around
+// it moves.
 constexpr int kMissingNodeLine = 160;
 
 // No year in the text: Qt puts every date into 1900.
 QDate ReadDay(const ISerializer& event, const std::string& key) {
-  return QDateTime::fromString(QString::fromStdString(event.GetText(key, std::string())), QStringLiteral("dd.MM"))
+  return QDateTime::fromString(QString::fromStdString(event.GetText(key, std::string())),
+                               QStringLiteral("dd.MM"))
       .date();
 }
 
@@ -47,8 +49,9 @@ class Impl : public QObject, public Quillet::Config::IParserConfigBase, public T
  public:
   Impl(std::vector<DataModel>&& photos, std::function<void(const std::vector<Album>&)> done) {
     Init(QString::fromStdString(RESOURCE_NAME), QStringLiteral("json"), QStringLiteral("holidayEvents"));
-    SetDownloadHandler([this, done = std::move(done), photos = std::move(photos)](
-                           bool ok, const IDownloadableResourceInfo& info) { Finish(ok, info, photos, done); });
+    SetDownloadHandler(
+        [this, done = std::move(done), photos = std::move(photos)](
+            bool ok, const IDownloadableResourceInfo& info) { Finish(ok, info, photos, done); });
     StartDownload(false);
   }
 
@@ -108,7 +111,8 @@ class Impl : public QObject, public Quillet::Config::IParserConfigBase, public T
 
 }  // namespace
 
-void GenerateHolidayAlbums(std::vector<DataModel>&& photos, std::function<void(const std::vector<Album>&)> done) {
+void GenerateHolidayAlbums(std::vector<DataModel>&& photos,
+                           std::function<void(const std::vector<Album>&)> done) {
   // It owns itself: see Impl.
   new Impl(std::move(photos), std::move(done));
 }

@@ -5,7 +5,8 @@
 
 namespace Zenvora::Util {
 
-/// Names the interval by its months in the language `locale` (as `QLocale` takes it). See `GetDateIntervalString`.
+/// Names the interval by its months in the language `locale` (as `QLocale` takes it). See
+/// `GetDateIntervalString`.
 QString WordDateInterval(const QString& locale, const QDate& from, const QDate& to);
 
 }  // namespace Zenvora::Util

@@ -32,7 +32,9 @@ const std::string TEXT_NUMBER_AND_NOUN = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Ut
     QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Plural day"),
 };
 
-QString Translate(const std::string& text) { return QCoreApplication::translate(kContext, text.c_str()); }
+QString Translate(const std::string& text) {
+  return QCoreApplication::translate(kContext, text.c_str());
+}
 
 QString TranslateWithFallback(const std::string& key, const std::string& fallback) {
   QString translation = Translate(key);

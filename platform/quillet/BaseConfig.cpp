@@ -51,7 +51,7 @@ QByteArray ReadWhole(const ioPath& path, const std::string& fileName) {
   if (!stream.is_open()) {
     ThrowUnreadable(fileName, errno);
   }
-  constexpr std::size_t kChunk = 64 * 1024;
+  constexpr std::size_t kChunk = std::size_t{64} * 1024;
   std::vector<char> chunk(kChunk);
   QByteArray text;
   // Counted while reading: a file may grow, and some files have no size to trust.

@@ -61,7 +61,8 @@ class DownloadableResource::Impl {
   QString section;
   ResourceStore store;
   Status status = Status::Idle;
-  Handler handler;
+  // Shared, not copied, while it runs: it may hold a whole collection of photos.
+  std::shared_ptr<const Handler> handler;
   std::shared_ptr<Flight> flight;
 };
 
@@ -158,7 +159,7 @@ void DownloadableResource::Init(const QString& name, const QString& format, cons
 }
 
 void DownloadableResource::SetDownloadHandler(Handler handler) {
-  impl_->handler = std::move(handler);
+  impl_->handler = std::make_shared<const Handler>(std::move(handler));
 }
 
 void DownloadableResource::StartDownload(bool force) {
@@ -257,10 +258,10 @@ void DownloadableResource::SetStatus(Status status) {
   if (!ends) {
     return;
   }
-  // A copy: the handler may set another one.
-  const Handler handler = impl_->handler;
-  if (handler) {
-    handler(status == Status::Ready, *this);
+  // Held: the handler may set another one.
+  const auto handler = impl_->handler;
+  if (handler && *handler) {
+    (*handler)(status == Status::Ready, *this);
   }
 }
 

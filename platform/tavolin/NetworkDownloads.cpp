@@ -271,11 +271,6 @@ void Transfer::OnFinished() {
     Fail(QStringLiteral("the server gave no answer"));
     return;
   }
-  const auto announced = AnnouncedLength();
-  if (announced && *announced != body_.size()) {
-    Fail(QStringLiteral("the body ends after %1 of %2 bytes").arg(body_.size()).arg(*announced));
-    return;
-  }
   DownloadReply reply;
   reply.outcome = DownloadReply::Outcome::Fetched;
   reply.etag = reply_->rawHeader("ETag").trimmed();

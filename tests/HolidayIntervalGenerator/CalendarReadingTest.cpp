@@ -17,7 +17,9 @@ const QDate kMonday(2015, 3, 2);
 class CalendarReading : public HolidayTest {
  protected:
   // Twenty photos of a weekend, which are found whatever becomes of the calendar, and of a working day.
-  std::vector<std::string> Names() { return GenerateNames(Join({PhotosOf(kSaturday, 20), PhotosOf(kMonday, 20)})); }
+  std::vector<std::string> Names() {
+    return GenerateNames(Join({PhotosOf(kSaturday, 20), PhotosOf(kMonday, 20)}));
+  }
 };
 
 TEST_F(CalendarReading, ReadsTheShippedCalendarWhenNothingIsDownloaded) {
@@ -47,10 +49,11 @@ TEST_F(CalendarReading, LogsAMissingEventsMemberWithItsThrowSite) {
   EXPECT_THAT(Names(), ElementsAre("Weekend\nMarch 2015"));
   const auto errors = log.Lines(google::GLOG_ERROR);
   ASSERT_THAT(errors, SizeIs(1));
-  EXPECT_THAT(errors[0].text,
-              AllOf(HasSubstr("HolidayIntervalGenerator/HolidayIntervalGenerator.cpp(160): Throw in function"),
-                    HasSubstr("Deserialize("), HasSubstr("ISerializer"), HasSubstr("JsonException"),
-                    HasSubstr("Not all required nodes are found in config")));
+  EXPECT_THAT(
+      errors[0].text,
+      AllOf(HasSubstr("HolidayIntervalGenerator/HolidayIntervalGenerator.cpp(160): Throw in function"),
+            HasSubstr("Deserialize("), HasSubstr("ISerializer"), HasSubstr("JsonException"),
+            HasSubstr("Not all required nodes are found in config")));
 }
 
 TEST_F(CalendarReading, FindsWeekendsOnlyWithoutEventsOfTheLanguageAndLogsNothing) {
@@ -102,8 +105,10 @@ TEST_F(CalendarReading, TreatsAMissingNameAsNoEvent) {
 }
 
 TEST_F(CalendarReading, KeepsEventsWithMalformedDates) {
-  // None of these is a day of 1900, so none makes an event of 2 March; the sound one behind them is still read.
-  for (const char* text : {"", "2.3", "02-03", "02.03.2015", "32.01", "00.00", "29.02", "31.04", "second of March"}) {
+  // None of these is a day of 1900, so none makes an event of 2 March; the sound one behind them is still
+  // read.
+  for (const char* text :
+       {"", "2.3", "02-03", "02.03.2015", "32.01", "00.00", "29.02", "31.04", "second of March"}) {
     ShipEvents({{"Broken", text, text}, {"Spring", "02.03", "02.03"}});
     EXPECT_THAT(Names(), ElementsAre("Spring\n02 March 2015", "Weekend\nMarch 2015")) << text;
     EXPECT_THAT(log.Lines(google::GLOG_ERROR), IsEmpty()) << text;
@@ -150,7 +155,8 @@ TEST_F(CalendarReading, LogsWrongKindsOfNodes) {
 
 TEST_F(CalendarReading, ReadsNamesAsUtf8) {
   ShipEvents({{"\xD0\x9F\xD0\xB0\xD1\x81\xD1\x85\xD0\xB0 \xF0\x9F\x90\xA3", "02.03", "02.03"}});
-  EXPECT_THAT(Names(), ::testing::Contains("\xD0\x9F\xD0\xB0\xD1\x81\xD1\x85\xD0\xB0 \xF0\x9F\x90\xA3\n02 March 2015"));
+  EXPECT_THAT(Names(), ::testing::Contains(
+                           "\xD0\x9F\xD0\xB0\xD1\x81\xD1\x85\xD0\xB0 \xF0\x9F\x90\xA3\n02 March 2015"));
 }
 
 }  // namespace

@@ -66,7 +66,8 @@ TEST_F(Generation, FillsTheAlbumRecordAsAgreed) {
   EXPECT_EQ(model.GetType(), ItemType::Album);
   EXPECT_EQ(static_cast<int>(model.GetType()), 2);
   EXPECT_EQ(model.GetDateTime(), QDateTime(QDate(2015, 3, 2), QTime(0, 0)));
-  EXPECT_TRUE(QRegularExpression("^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$").match(model.GetId()).hasMatch())
+  EXPECT_TRUE(
+      QRegularExpression("^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$").match(model.GetId()).hasMatch())
       << model.GetId().toStdString();
   const Album::Attributes expected = {{static_cast<DataAttributeId>(0), QString()},
                                       {static_cast<DataAttributeId>(1), QString()}};
@@ -78,7 +79,8 @@ TEST_F(Generation, GivesEveryAlbumANewId) {
   ShipEvents({{"A", "02.03", "02.03"}, {"B", "03.03", "03.03"}});
   QSet<QString> ids;
   for (int run = 0; run < 2; ++run) {
-    for (const Album& album : Generate(Join({PhotosOf(QDate(2015, 3, 2), 20), PhotosOf(QDate(2015, 3, 3), 20)}))) {
+    for (const Album& album :
+         Generate(Join({PhotosOf(QDate(2015, 3, 2), 20), PhotosOf(QDate(2015, 3, 3), 20)}))) {
       ids.insert(album.GetModel().GetId());
     }
   }
@@ -101,7 +103,8 @@ TEST_F(Generation, MergesWeekendsOfOneMonth) {
 
 TEST_F(Generation, SplitsWeekendsOfDifferentMonths) {
   ShipEvents({});
-  EXPECT_THAT(GenerateNames(Join({PhotosOf(QDate(2015, 3, 28), 10), PhotosOf(QDate(2015, 4, 4), 10)})), IsEmpty());
+  EXPECT_THAT(GenerateNames(Join({PhotosOf(QDate(2015, 3, 28), 10), PhotosOf(QDate(2015, 4, 4), 10)})),
+              IsEmpty());
 }
 
 TEST_F(Generation, NamesAWeekendAcrossAMonthByBothMonths) {
@@ -125,7 +128,8 @@ TEST_F(Generation, NamesAWeekendAcrossAYearByBothYears) {
 TEST_F(Generation, DatesAGroupByThePhotoThatCameFirst) {
   ShipEvents({});
   // The later weekend comes first in the input, with its Sunday.
-  const std::vector<Album> albums = Generate(Join({PhotosOf(QDate(2015, 3, 22), 10), PhotosOf(kSaturday, 10)}));
+  const std::vector<Album> albums =
+      Generate(Join({PhotosOf(QDate(2015, 3, 22), 10), PhotosOf(kSaturday, 10)}));
   ASSERT_THAT(albums, SizeIs(1));
   EXPECT_EQ(albums[0].GetModel().GetDateTime(), QDateTime(QDate(2015, 3, 21), QTime(0, 0)));
 }
@@ -207,7 +211,8 @@ TEST_F(Generation, MergesOccurrencesOfOneNameInOneMonth) {
 
 TEST_F(Generation, LetsAnEventCalledWeekendShareTheWeekendGroup) {
   ShipEvents({{"Weekend", "02.03", "03.03"}});
-  const std::vector<Album> albums = Generate(Join({PhotosOf(kSaturday, 10), PhotosOf(QDate(2015, 3, 2), 10)}));
+  const std::vector<Album> albums =
+      Generate(Join({PhotosOf(kSaturday, 10), PhotosOf(QDate(2015, 3, 2), 10)}));
   ASSERT_THAT(albums, SizeIs(1));
   EXPECT_EQ(albums[0].GetModel().GetDateTime().date(), kSaturday);
 }
@@ -224,7 +229,8 @@ TEST_F(Generation, KeepsPercentSignsOfNames) {
 }
 
 TEST_F(Generation, OrdersAlbumsByUtf16Units) {
-  // U+1F384 begins with a unit below U+FB01 though its code point is above it; upper case stands before lower case.
+  // U+1F384 begins with a unit below U+FB01 though its code point is above it; upper case stands before lower
+  // case.
   ShipEvents({{"\xEF\xAC\x81n", "02.03", "02.03"},
               {"\xF0\x9F\x8E\x84", "03.03", "03.03"},
               {"a", "04.03", "04.03"},

@@ -44,14 +44,18 @@ void ForgetStoredCalendar() {
 
 }  // namespace
 
-HolidayTest::HolidayTest() { ForgetStoredCalendar(); }
+HolidayTest::HolidayTest() {
+  ForgetStoredCalendar();
+}
 
 HolidayTest::~HolidayTest() {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   ForgetStoredCalendar();
 }
 
-void HolidayTest::ShipCalendar(const std::string& json) { tree.Write("resources/HolidayEvents.json", json); }
+void HolidayTest::ShipCalendar(const std::string& json) {
+  tree.Write("resources/HolidayEvents.json", json);
+}
 
 void HolidayTest::ShipEvents(const std::vector<Event>& events) {
   ShipCalendar(CalendarJson(language->locale, events));

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <LumidexUtil/HolidayAlbums.h>
-
 #include <support/Doubles.h>
 #include <support/LogCapture.h>
 #include <support/TempTree.h>
@@ -49,7 +48,8 @@ class HolidayTest : public ::testing::Test {
  private:
   App::ServiceScope<App::ISettingsManager> settingsScope_{settings};
   App::ServiceScope<App::ILookAndFeelManager> languageScope_{language};
-  App::ServiceScope<App::IHostEnvironment> environmentScope_{std::make_shared<FakeEnvironment>(tree.Path("resources"))};
+  App::ServiceScope<App::IHostEnvironment> environmentScope_{
+      std::make_shared<FakeEnvironment>(tree.Path("resources"))};
   App::ServiceScope<App::IDownloads> networkScope_{std::make_shared<ForbiddenDownloads>()};
 };
 

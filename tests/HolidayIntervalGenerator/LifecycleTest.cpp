@@ -57,7 +57,8 @@ TEST_F(Lifecycle, AsksForTheCalendarByItsNames) {
 }
 
 TEST_F(Lifecycle, AsksNoServerWhileTheStoredCalendarIsFresh) {
-  const App::ServiceScope<App::IClock> clock(std::make_shared<FakeClock>(QDateTime::currentDateTime().addDays(6)));
+  const App::ServiceScope<App::IClock> clock(
+      std::make_shared<FakeClock>(QDateTime::currentDateTime().addDays(6)));
   network_->answerAtOnce = true;
   network_->reply = Fetched(CalendarJson("en_US", {{"Stored", "02.03", "02.03"}}));
   EXPECT_THAT(GenerateNames(PhotosOf(kMonday, 20)), ElementsAre("Stored\n02 March 2015"));

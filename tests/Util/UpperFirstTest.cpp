@@ -1,7 +1,6 @@
-#include <UpperFirst.h>
-
 #include <gtest/gtest.h>
 
+#include <UpperFirst.h>
 #include <string>
 #include <utility>
 #include <vector>

@@ -1,5 +1,4 @@
 #include <LumidexUtil/Wording.h>
-
 #include <support/Doubles.h>
 #include <support/TextCatalogue.h>
 
@@ -25,7 +24,10 @@ const QString kContext = QStringLiteral("Zenvora::Lumidex::Utils");
 
 /// A catalogue whose forms name themselves.
 QMap<QString, QString> FormNames() {
-  return {{"One day", "one"}, {"Nominative day", "nominative"}, {"Genetive day", "genetive"}, {"Plural day", "plural"}};
+  return {{"One day", "one"},
+          {"Nominative day", "nominative"},
+          {"Genetive day", "genetive"},
+          {"Plural day", "plural"}};
 }
 
 /// The rule said in another way than the code says it: by the written digits.
@@ -54,13 +56,38 @@ TEST(CountString, FollowsTheThreeFormRuleForEveryCount) {
 
 TEST(CountString, NamesTheBoundariesOfTheRule) {
   const TextCatalogue catalogue(kContext, FormNames());
-  const std::vector<std::pair<int, const char*>> rows = {
-      {0, "plural"},    {1, "one"},       {2, "genetive"},  {4, "genetive"},   {5, "plural"},     {10, "plural"},
-      {11, "plural"},   {12, "plural"},   {14, "plural"},   {19, "plural"},    {20, "plural"},    {21, "nominative"},
-      {22, "genetive"}, {24, "genetive"}, {25, "plural"},   {31, "nominative"}, {100, "plural"},  {101, "nominative"},
-      {102, "genetive"}, {111, "plural"}, {112, "plural"},  {119, "plural"},   {121, "nominative"}, {211, "plural"},
-      {-1, "plural"},   {-2, "plural"},   {-11, "plural"},  {-21, "plural"},   {-104, "plural"},
-      {2147483647, "plural"}, {-2147483647 - 1, "plural"}, {2147483641, "nominative"}};
+  const std::vector<std::pair<int, const char*>> rows = {{0, "plural"},
+                                                         {1, "one"},
+                                                         {2, "genetive"},
+                                                         {4, "genetive"},
+                                                         {5, "plural"},
+                                                         {10, "plural"},
+                                                         {11, "plural"},
+                                                         {12, "plural"},
+                                                         {14, "plural"},
+                                                         {19, "plural"},
+                                                         {20, "plural"},
+                                                         {21, "nominative"},
+                                                         {22, "genetive"},
+                                                         {24, "genetive"},
+                                                         {25, "plural"},
+                                                         {31, "nominative"},
+                                                         {100, "plural"},
+                                                         {101, "nominative"},
+                                                         {102, "genetive"},
+                                                         {111, "plural"},
+                                                         {112, "plural"},
+                                                         {119, "plural"},
+                                                         {121, "nominative"},
+                                                         {211, "plural"},
+                                                         {-1, "plural"},
+                                                         {-2, "plural"},
+                                                         {-11, "plural"},
+                                                         {-21, "plural"},
+                                                         {-104, "plural"},
+                                                         {2147483647, "plural"},
+                                                         {-2147483647 - 1, "plural"},
+                                                         {2147483641, "nominative"}};
   for (const auto& [count, form] : rows) {
     EXPECT_EQ(GetCountString("day", "days", count).toStdString(), form) << count;
   }
@@ -105,13 +132,20 @@ TEST(CountString, LooksOnlyIntoItsOwnContext) {
 }
 
 TEST(CountString, ReadsNounsAsUtf8) {
-  EXPECT_EQ(GetCountString("\xD0\xB4\xD0\xB5\xD0\xBD\xD1\x8C", "x", 1), QString::fromUtf8("\xD0\xB4\xD0\xB5\xD0\xBD\xD1\x8C"));
+  EXPECT_EQ(GetCountString("\xD0\xB4\xD0\xB5\xD0\xBD\xD1\x8C", "x", 1),
+            QString::fromUtf8("\xD0\xB4\xD0\xB5\xD0\xBD\xD1\x8C"));
 }
 
 TEST(NumberOfDays, CountsWithAnEmptyCatalogue) {
-  const std::vector<std::pair<int, const char*>> rows = {
-      {-2147483647 - 1, "Expired"}, {-5, "Expired"}, {0, "Expired"}, {1, "1 day"},
-      {2, "2 days"}, {11, "11 days"}, {21, "21 days"}, {1000000, "1000000 days"}, {2147483647, "2147483647 days"}};
+  const std::vector<std::pair<int, const char*>> rows = {{-2147483647 - 1, "Expired"},
+                                                         {-5, "Expired"},
+                                                         {0, "Expired"},
+                                                         {1, "1 day"},
+                                                         {2, "2 days"},
+                                                         {11, "11 days"},
+                                                         {21, "21 days"},
+                                                         {1000000, "1000000 days"},
+                                                         {2147483647, "2147483647 days"}};
   for (const auto& [days, text] : rows) {
     EXPECT_EQ(GetLocalizedNumberOfDays(days).toStdString(), text) << days;
   }
@@ -137,12 +171,8 @@ TEST(DaysToCurrent, CountsFromTheDateToToday) {
   const App::ServiceScope<App::IClock> scope(
       std::make_shared<FakeClock>(QDateTime(QDate(2015, 3, 10), QTime(0, 0, 1))));
   const std::vector<std::pair<const char*, int>> rows = {
-      {"2015-03-01 10:00:00", 9},
-      {"2015-03-10 23:59:59", 0},
-      {"2015-03-09 23:59:59", 1},
-      {"2015-03-11 00:00:00", -1},
-      {"2016-03-10 12:00:00", -366},
-      {"1900-01-01 00:00:00", 42071},
+      {"2015-03-01 10:00:00", 9},  {"2015-03-10 23:59:59", 0},    {"2015-03-09 23:59:59", 1},
+      {"2015-03-11 00:00:00", -1}, {"2016-03-10 12:00:00", -366}, {"1900-01-01 00:00:00", 42071},
   };
   for (const auto& [text, days] : rows) {
     EXPECT_EQ(DaysToCurrent(QString::fromLatin1(text)), days) << text;
@@ -153,8 +183,8 @@ TEST(DaysToCurrent, GivesZeroForTextsOfAnotherForm) {
   const App::ServiceScope<App::IClock> scope(
       std::make_shared<FakeClock>(QDateTime(QDate(2015, 3, 10), QTime(12, 0))));
   for (const char* text : {"", "2015-03-01 10:00", "2015-03-01", "2015-03-01T10:00:00", "01.03.2015 10:00:00",
-                           "2015-02-29 10:00:00", "2015-13-01 10:00:00", "2015-03-01 24:00:00", " 2015-03-01 10:00:00",
-                           "2015-03-01 10:00:00 ", "yesterday"}) {
+                           "2015-02-29 10:00:00", "2015-13-01 10:00:00", "2015-03-01 24:00:00",
+                           " 2015-03-01 10:00:00", "2015-03-01 10:00:00 ", "yesterday"}) {
     EXPECT_EQ(DaysToCurrent(QString::fromLatin1(text)), 0) << text;
   }
 }
@@ -168,7 +198,9 @@ TEST(DaysToCurrent, ReadsTheRealClockByDefault) {
 
 class DateInterval : public ::testing::Test {
  protected:
-  std::string Word(const QDate& from, const QDate& to) { return GetDateIntervalString(from, to).toStdString(); }
+  std::string Word(const QDate& from, const QDate& to) {
+    return GetDateIntervalString(from, to).toStdString();
+  }
 
   std::shared_ptr<FakeLookAndFeel> language = std::make_shared<FakeLookAndFeel>("en_US");
   App::ServiceScope<App::ILookAndFeelManager> scope_{language};
@@ -226,22 +258,24 @@ TEST_F(DateInterval, SpeaksAllNineLanguages) {
 }
 
 TEST_F(DateInterval, NamesEveryMonthOfTheNineLanguagesInItsTwoForms) {
-  for (const char* locale : {"en_US", "de_DE", "es_ES", "fr_FR", "it_IT", "ja_JP", "nl_NL", "pt_BR", "ru_RU"}) {
+  for (const char* locale :
+       {"en_US", "de_DE", "es_ES", "fr_FR", "it_IT", "ja_JP", "nl_NL", "pt_BR", "ru_RU"}) {
     language->locale = locale;
     const QLocale qt{QString::fromLatin1(locale)};
     for (int month = 1; month <= 12; ++month) {
       const QDate first(2015, month, 1);
       QString alone = qt.standaloneMonthName(month);
       alone[0] = alone[0].toUpper();
-      EXPECT_EQ(GetDateIntervalString(first, first), "01 " + qt.monthName(month) + " 2015") << locale << month;
+      EXPECT_EQ(GetDateIntervalString(first, first), "01 " + qt.monthName(month) + " 2015")
+          << locale << month;
       EXPECT_EQ(GetDateIntervalString(first, first.addDays(1)), alone + " 2015") << locale << month;
     }
   }
 }
 
 TEST_F(DateInterval, UpperCasesAFirstLetterOutsideAscii) {
-  const std::vector<std::pair<const char*, int>> rows = {
-      {"cs_CZ", 10}, {"hy_AM", 3}, {"uk_UA", 3}, {"ka_GE", 3}, {"ksf_CM", 3}, {"yav_CM", 3}};
+  const std::vector<std::pair<const char*, int>> rows = {{"cs_CZ", 10}, {"hy_AM", 3},  {"uk_UA", 3},
+                                                         {"ka_GE", 3},  {"ksf_CM", 3}, {"yav_CM", 3}};
   for (const auto& [locale, month] : rows) {
     language->locale = locale;
     const QString alone = QLocale(QString::fromLatin1(locale)).standaloneMonthName(month);

@@ -1,3 +1,5 @@
+#include <support/Doubles.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
 
@@ -7,7 +9,6 @@
 
 #include <memory>
 #include <string>
-#include <support/Doubles.h>
 
 namespace Zenvora::App {
 namespace {

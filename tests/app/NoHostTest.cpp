@@ -1,5 +1,7 @@
 // A process without an application object of ours, as a plug-in in a foreign program is.
 
+#include <support/TempTree.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/IClock.h>
 #include <zenvora/app/IHostEnvironment.h>
@@ -9,8 +11,6 @@
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
-
-#include <support/TempTree.h>
 
 namespace Zenvora::App {
 namespace {

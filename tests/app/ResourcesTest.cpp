@@ -1,3 +1,5 @@
+#include <support/TempTree.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
 
@@ -10,7 +12,6 @@
 #include <filesystem>
 #include <memory>
 #include <string>
-#include <support/TempTree.h>
 
 namespace Zenvora::App {
 namespace {

@@ -1,5 +1,8 @@
 // One contract for each service, kept by the real ones and by the doubles that stand in for them.
 
+#include <support/Doubles.h>
+#include <support/TempTree.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
 
@@ -11,8 +14,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <support/Doubles.h>
-#include <support/TempTree.h>
 
 namespace Zenvora::App {
 namespace {

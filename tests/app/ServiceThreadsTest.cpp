@@ -1,3 +1,6 @@
+#include <support/Doubles.h>
+#include <support/TempTree.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
 
@@ -6,8 +9,6 @@
 #include <atomic>
 #include <memory>
 #include <string>
-#include <support/Doubles.h>
-#include <support/TempTree.h>
 #include <thread>
 #include <vector>
 

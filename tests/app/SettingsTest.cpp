@@ -1,3 +1,6 @@
+#include <support/LogCapture.h>
+#include <support/TempTree.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
 
@@ -8,8 +11,6 @@
 #include <csignal>
 #include <filesystem>
 #include <string>
-#include <support/LogCapture.h>
-#include <support/TempTree.h>
 
 #ifndef _WIN32
 #include <sys/resource.h>

@@ -1,5 +1,7 @@
 #include "CliFixture.h"
 
+#include <host/Catalogue.h>
+
 #include <QJsonDocument>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -7,7 +9,6 @@
 
 #include <array>
 #include <cstdio>
-#include <host/Catalogue.h>
 
 namespace Zenvora::Test {
 

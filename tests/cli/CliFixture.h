@@ -1,5 +1,8 @@
 #pragma once
 
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <zenvora/core/ioPath.h>
 
 #include <gmock/gmock.h>
@@ -12,8 +15,6 @@
 #include <QStringList>
 
 #include <string>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 
 namespace Zenvora::Test {
 

@@ -1,3 +1,5 @@
+#include <support/TempTree.h>
+
 #include <zenvora/core/ioPath.h>
 
 #include <gtest/gtest.h>
@@ -5,7 +7,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
-#include <support/TempTree.h>
 #include <vector>
 
 #ifndef _WIN32
@@ -34,7 +35,7 @@ ioPath FolderElsewhere(const ioPath& place) {
 #else
   struct stat here {};
   struct stat there {};
-  const ioPath candidate("/dev/shm");
+  ioPath candidate("/dev/shm");
   if (::stat(place.native().c_str(), &here) != 0 || ::stat(candidate.native().c_str(), &there) != 0 ||
       here.st_dev == there.st_dev) {
     return {};

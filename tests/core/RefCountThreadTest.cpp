@@ -18,6 +18,7 @@ TEST(RefCountOnManyThreads, LosesNoCount) {
   std::atomic<int> deleted{0};
   boost::intrusive_ptr<Counted> object(new Counted(deleted));
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   for (int i = 0; i < kThreads; ++i) {
     threads.emplace_back([object] {
       for (int round = 0; round < kRounds; ++round) {

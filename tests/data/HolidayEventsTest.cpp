@@ -1,10 +1,11 @@
 // The calendar as it lies in the resource folder.
 
+#include <host/CalendarCheck.h>
+
 #include <zenvora/app/RealServices.h>
 
 #include <gtest/gtest.h>
 
-#include <host/CalendarCheck.h>
 #include <set>
 
 namespace Zenvora::Lumidex::Host {

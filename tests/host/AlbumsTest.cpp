@@ -1,14 +1,15 @@
+#include <host/Albums.h>
+#include <host/HostError.h>
+#include <support/Doubles.h>
+#include <support/TempTree.h>
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QTimer>
 
 #include <algorithm>
-#include <host/Albums.h>
-#include <host/HostError.h>
 #include <memory>
-#include <support/Doubles.h>
-#include <support/TempTree.h>
 
 namespace Zenvora::Lumidex::Host {
 namespace {
@@ -52,6 +53,7 @@ class ProposingAlbums : public ::testing::Test {
 
 std::vector<std::string> NamesOf(const std::vector<Album>& albums) {
   std::vector<std::string> names;
+  names.reserve(albums.size());
   for (const Album& album : albums) {
     names.push_back(album.GetModel().GetName().toStdString());
   }
@@ -70,7 +72,12 @@ TEST_F(ProposingAlbums, WaitsForAServerThatAnswersLater) {
   App::DownloadReply reply;
   reply.outcome = App::DownloadReply::Outcome::Failed;
   reply.error = QStringLiteral("nobody there");
-  QTimer::singleShot(1, [this, reply] { EXPECT_TRUE(network->Answer(reply)); });
+  QTimer server;
+  QObject::connect(&server, &QTimer::timeout, [this, &server, reply] {
+    server.stop();
+    EXPECT_TRUE(network->Answer(reply));
+  });
+  server.start(1);
   const std::vector<Album> albums = ProposeAlbums(PhotosOf(QDate(2021, 5, 1), 20), nullptr);
   EXPECT_EQ(NamesOf(albums), (std::vector<std::string>{"May Day\n01 May 2021"}));
 }
@@ -78,7 +85,9 @@ TEST_F(ProposingAlbums, WaitsForAServerThatAnswersLater) {
 TEST_F(ProposingAlbums, GivesUpWhenAsked) {
   HaveServer();
   std::atomic<bool> cancel{false};
-  QTimer::singleShot(1, [&cancel] { cancel = true; });
+  QTimer user;
+  QObject::connect(&user, &QTimer::timeout, [&cancel] { cancel = true; });
+  user.start(1);
   EXPECT_THROW(ProposeAlbums(PhotosOf(QDate(2021, 5, 1), 20), &cancel), HostError);
 }
 

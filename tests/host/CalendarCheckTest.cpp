@@ -1,3 +1,9 @@
+#include <host/CalendarCheck.h>
+#include <host/HostError.h>
+#include <support/Doubles.h>
+#include <support/LogCapture.h>
+#include <support/TempTree.h>
+
 #include <zenvora/app/RealServices.h>
 #include <zenvora/core/Exception.h>
 
@@ -8,12 +14,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
-#include <host/CalendarCheck.h>
-#include <host/HostError.h>
 #include <memory>
-#include <support/Doubles.h>
-#include <support/LogCapture.h>
-#include <support/TempTree.h>
 
 namespace Zenvora::Lumidex::Host {
 namespace {
@@ -330,7 +331,9 @@ TEST_F(CalendarInUse, GivesUpWaitingWhenAsked) {
   Serve(Outcome::Fetched, CalendarOf({}));
   network->answerAtOnce = false;
   std::atomic<bool> cancel{false};
-  QTimer::singleShot(1, [&cancel] { cancel = true; });
+  QTimer user;
+  QObject::connect(&user, &QTimer::timeout, [&cancel] { cancel = true; });
+  user.start(1);
   EXPECT_THROW(UpdateCalendar(&cancel), HostError);
   EXPECT_EQ(network->OpenRequests(), 0U);
 }

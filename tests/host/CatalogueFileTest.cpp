@@ -2,6 +2,9 @@
 #include "RawSql.h"
 #include "Records.h"
 
+#include <host/Catalogue.h>
+#include <support/TempTree.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,10 +13,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <host/Catalogue.h>
 #include <set>
 #include <string>
-#include <support/TempTree.h>
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -189,6 +190,25 @@ TEST_F(CatalogueFile, SaysThatItIsDamaged) {
     EXPECT_THAT(error, AllOf(HasSubstr(file_.utf8string()), HasSubstr("damaged")));
   }
   EXPECT_EQ(ReadFile(file_), damaged);
+}
+
+TEST_F(CatalogueFile, IsSoundWithItsLogWhenItWasLeftHalfWritten) {
+  const ioPath left = tree_.Path("left.sqlite");
+  {
+    Catalogue catalogue(file_, Mode::ReadWrite);
+    catalogue.Store(Photos("/p/", 300));
+    fs::copy_file(file_.native(), left.native());
+    fs::copy_file(file_.utf8string() + "-wal", left.utf8string() + "-wal");
+  }
+  // As a kill in the midst of moving the log's pages leaves it: the header tells of pages that are not there
+  // yet.
+  std::string bytes = ReadFile(left);
+  constexpr std::size_t kPageCount = 28;
+  bytes.replace(kPageCount, 4, std::string("\0\0\x01\0", 4));
+  tree_.Write("left.sqlite", bytes);
+  EXPECT_EQ(Catalogue(left, Mode::ReadOnly).CountPhotos(), 300U);
+  EXPECT_EQ(Catalogue(left, Mode::ReadWrite).CountPhotos(), 300U);
+  EXPECT_EQ(RunSql(left, {"PRAGMA integrity_check"}).toString(), QStringLiteral("ok"));
 }
 
 TEST_F(CatalogueFile, SaysThatItWasCutShort) {

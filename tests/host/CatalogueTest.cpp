@@ -1,17 +1,18 @@
 #include "RawSql.h"
 #include "Records.h"
 
+#include <host/Catalogue.h>
+#include <support/TempTree.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QUuid>
 
 #include <chrono>
-#include <host/Catalogue.h>
 #include <map>
 #include <set>
 #include <string>
-#include <support/TempTree.h>
 
 namespace Zenvora::Lumidex::Host {
 namespace {

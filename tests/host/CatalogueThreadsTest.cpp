@@ -1,6 +1,9 @@
 #include "RawSql.h"
 #include "Records.h"
 
+#include <host/Catalogue.h>
+#include <support/TempTree.h>
+
 #include <gtest/gtest.h>
 
 #include <QSqlDatabase>
@@ -9,10 +12,8 @@
 #include <atomic>
 #include <chrono>
 #include <functional>
-#include <host/Catalogue.h>
 #include <set>
 #include <string>
-#include <support/TempTree.h>
 #include <thread>
 #include <vector>
 

@@ -3,10 +3,11 @@
 // Each line of its output is the number of photos that a finished call stored in all; the last may be an
 // error's text.
 
+#include <host/Catalogue.h>
+
 #include <QCoreApplication>
 
 #include <csignal>
-#include <host/Catalogue.h>
 #include <iostream>
 #include <string>
 #include <vector>

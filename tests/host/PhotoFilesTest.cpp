@@ -1,6 +1,10 @@
 #include "EmbeddedPreviews.h"
 #include "PhotoPixels.h"
 
+#include <host/PhotoFiles.h>
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <exiv2/exiv2.hpp>
 #include <gtest/gtest.h>
 
@@ -10,10 +14,7 @@
 
 #include <chrono>
 #include <filesystem>
-#include <host/PhotoFiles.h>
 #include <string>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 
 #ifndef _WIN32
 #include <sys/stat.h>

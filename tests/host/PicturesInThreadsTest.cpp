@@ -2,13 +2,14 @@
 
 #include "OrderedThumbnails.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <host/Report.h>
 #include <host/Sample.h>
 #include <support/PhotoMaker.h>
 #include <support/TempTree.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
 #include <thread>
 
 namespace Zenvora::Lumidex::Host {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <host/Catalogue.h>
+
 #include <string>
 #include <vector>
 

@@ -1,6 +1,10 @@
 #include "ReportPage.h"
 #include "WriteLimit.h"
 
+#include <host/Report.h>
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <gtest/gtest.h>
 
 #include <QBuffer>
@@ -9,10 +13,7 @@
 #include <QXmlStreamReader>
 
 #include <filesystem>
-#include <host/Report.h>
 #include <string>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 #include <thread>
 
 #ifndef _WIN32

@@ -1,6 +1,10 @@
 #include "SamplePlan.h"
 #include "WriteLimit.h"
 
+#include <host/PhotoFiles.h>
+#include <host/Sample.h>
+#include <support/TempTree.h>
+
 #include <exiv2/exiv2.hpp>
 #include <gtest/gtest.h>
 
@@ -9,12 +13,9 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
-#include <host/PhotoFiles.h>
-#include <host/Sample.h>
 #include <map>
 #include <stdexcept>
 #include <string>
-#include <support/TempTree.h>
 #include <thread>
 
 namespace Zenvora::Lumidex::Host {

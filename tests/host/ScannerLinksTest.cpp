@@ -1,12 +1,13 @@
+#include <host/Scanner.h>
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <host/Scanner.h>
 #include <set>
 #include <string>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 #include <vector>
 
 #ifndef _WIN32

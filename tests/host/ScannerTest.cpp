@@ -1,16 +1,17 @@
 #include "Records.h"
 
+#include <host/Scanner.h>
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <filesystem>
-#include <host/Scanner.h>
 #include <map>
 #include <set>
 #include <string>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 
 #ifndef _WIN32
 #include <sys/resource.h>

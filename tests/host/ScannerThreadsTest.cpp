@@ -1,12 +1,13 @@
 #include "RawSql.h"
 
+#include <host/Scanner.h>
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <host/Scanner.h>
 #include <string>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 #include <thread>
 #include <vector>
 

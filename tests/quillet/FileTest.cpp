@@ -25,7 +25,7 @@ constexpr char kGood[] = R"({"k":"v"})";
 
 Failure FailureOfFile(const std::string& file, bool optional = false) {
   Keeper keeper;
-  const Failure failure = FailureOf([&] { BaseConfig().Parse(keeper, "", file, optional); });
+  Failure failure = FailureOf([&] { BaseConfig().Parse(keeper, "", file, optional); });
   EXPECT_EQ(keeper.calls, failure.thrown ? 0 : 1) << file;
   return failure;
 }

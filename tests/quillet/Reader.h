@@ -1,11 +1,12 @@
 #pragma once
 
+#include <support/TempTree.h>
+
 #include <zenvora/core/Exception.h>
 #include <zenvora/quillet/Config.h>
 
 #include <functional>
 #include <string>
-#include <support/TempTree.h>
 
 namespace Zenvora::Test {
 

@@ -1,5 +1,7 @@
 #include "TiffBytes.h"
 
+#include <support/TempTree.h>
+
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <gtest/gtest.h>
@@ -7,7 +9,6 @@
 #include <cstdint>
 #include <random>
 #include <string>
-#include <support/TempTree.h>
 
 namespace Zenvora::Strandel {
 namespace {

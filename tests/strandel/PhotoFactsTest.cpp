@@ -1,5 +1,9 @@
 #include "TiffBytes.h"
 
+#include <support/LogCapture.h>
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <gtest/gtest.h>
@@ -9,9 +13,6 @@
 #include <fstream>
 #include <random>
 #include <string>
-#include <support/LogCapture.h>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 
 #ifndef _WIN32
 #include <sys/socket.h>

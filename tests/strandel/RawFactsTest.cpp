@@ -1,12 +1,13 @@
 #include "TiffBytes.h"
 
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 
 namespace Zenvora::Strandel {
 namespace {

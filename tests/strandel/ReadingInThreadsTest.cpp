@@ -1,10 +1,11 @@
+#include <support/PhotoMaker.h>
+#include <support/TempTree.h>
+
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <support/PhotoMaker.h>
-#include <support/TempTree.h>
 #include <thread>
 #include <vector>
 
@@ -46,10 +47,12 @@ TEST(ReadPhotoFacts, WorksInManyThreadsAtOnce) {
     files.push_back(tree.Write("x" + std::to_string(i) + ".png", PngWithXmp(i)));
   }
 
-  const auto readAll = [&files] {
+  // Each thread begins elsewhere, so that they meet new namespaces at the same time.
+  const auto readAll = [&files](std::size_t begin) {
     int right = 0;
     for (int round = 0; round < 5; ++round) {
-      for (const ioPath& file : files) {
+      for (std::size_t i = 0; i < files.size(); ++i) {
+        const ioPath& file = files[(begin + i) % files.size()];
         right += ReadPhotoFacts(file).original == QDateTime(QDate(2021, 5, 1), QTime(10, 20, 30)) ? 1 : 0;
       }
     }
@@ -59,8 +62,8 @@ TEST(ReadPhotoFacts, WorksInManyThreadsAtOnce) {
   std::vector<int> right(kThreads);
   std::vector<std::thread> threads;
   threads.reserve(kThreads);
-  for (int& count : right) {
-    threads.emplace_back([&count, &readAll] { count = readAll(); });
+  for (std::size_t i = 0; i < right.size(); ++i) {
+    threads.emplace_back([i, &right, &readAll] { right[i] = readAll(4 * i); });
   }
   for (std::thread& thread : threads) {
     thread.join();

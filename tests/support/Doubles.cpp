@@ -23,15 +23,17 @@ class ScriptedDownloads::Request : public App::IDownloads::Pending {
   explicit Request(ScriptedDownloads& owner) : owner_(owner) {}
   ~Request() override {
     auto& open = owner_.open_;
-    open.erase(std::remove_if(open.begin(), open.end(), [this](const auto& entry) { return entry.first == this; }),
-               open.end());
+    open.erase(
+        std::remove_if(open.begin(), open.end(), [this](const auto& entry) { return entry.first == this; }),
+        open.end());
   }
 
  private:
   ScriptedDownloads& owner_;
 };
 
-std::unique_ptr<App::IDownloads::Pending> ScriptedDownloads::Fetch(const App::DownloadRequest& request, Done done) {
+std::unique_ptr<App::IDownloads::Pending> ScriptedDownloads::Fetch(const App::DownloadRequest& request,
+                                                                   Done done) {
   requests.push_back(request);
   auto pending = std::make_unique<Request>(*this);
   if (answerAtOnce) {
@@ -52,7 +54,8 @@ bool ScriptedDownloads::Answer(const App::DownloadReply& given) {
   return true;
 }
 
-std::unique_ptr<App::IDownloads::Pending> ForbiddenDownloads::Fetch(const App::DownloadRequest& request, Done) {
+std::unique_ptr<App::IDownloads::Pending> ForbiddenDownloads::Fetch(const App::DownloadRequest& request,
+                                                                    Done) {
   ADD_FAILURE() << "unexpected download of " << request.url.toString().toStdString();
   return std::make_unique<Pending>();
 }

@@ -1,3 +1,5 @@
+#include <support/HttpServer.h>
+
 #include <QEventLoop>
 #include <QHostAddress>
 #include <QTcpServer>
@@ -12,7 +14,6 @@
 #include <mutex>
 #include <optional>
 #include <stdexcept>
-#include <support/HttpServer.h>
 #include <thread>
 
 namespace Zenvora::Test {

@@ -5,9 +5,13 @@
 
 namespace Zenvora::Test {
 
-LogCapture::LogCapture() { google::AddLogSink(this); }
+LogCapture::LogCapture() {
+  google::AddLogSink(this);
+}
 
-LogCapture::~LogCapture() { google::RemoveLogSink(this); }
+LogCapture::~LogCapture() {
+  google::RemoveLogSink(this);
+}
 
 std::vector<LogCapture::Line> LogCapture::Lines() const {
   const std::lock_guard<std::mutex> lock(mutex_);
@@ -22,8 +26,9 @@ std::vector<LogCapture::Line> LogCapture::Lines(google::LogSeverity severity) co
   return chosen;
 }
 
-void LogCapture::send(google::LogSeverity severity, const char* fullFilename, const char* /*baseFilename*/, int line,
-                      const google::LogMessageTime& /*time*/, const char* message, std::size_t length) {
+void LogCapture::send(google::LogSeverity severity, const char* fullFilename, const char* /*baseFilename*/,
+                      int line, const google::LogMessageTime& /*time*/, const char* message,
+                      std::size_t length) {
   const std::lock_guard<std::mutex> lock(mutex_);
   lines_.push_back({severity, fullFilename, line, std::string(message, length)});
 }

@@ -1,3 +1,5 @@
+#include <support/PhotoMaker.h>
+
 #include <exiv2/exiv2.hpp>
 
 #include <cstdint>
@@ -5,7 +7,6 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
-#include <support/PhotoMaker.h>
 
 namespace Zenvora::Test {
 

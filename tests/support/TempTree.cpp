@@ -25,7 +25,8 @@ TempTree::TempTree() : root_(QFileInfo(folder_.path()).canonicalFilePath()) {
 TempTree::~TempTree() {
   // Qt does not delete names that are not UTF-8, nor below folders without permissions.
   std::error_code ignored;
-  for (auto it = fs::recursive_directory_iterator(root_.native(), fs::directory_options::skip_permission_denied, ignored);
+  for (auto it = fs::recursive_directory_iterator(root_.native(),
+                                                  fs::directory_options::skip_permission_denied, ignored);
        !ignored && it != fs::recursive_directory_iterator(); it.increment(ignored)) {
     if (it->is_directory(ignored) && !it->is_symlink(ignored)) {
       fs::permissions(it->path(), fs::perms::owner_all, fs::perm_options::add, ignored);
@@ -34,7 +35,9 @@ TempTree::~TempTree() {
   fs::remove_all(root_.native(), ignored);
 }
 
-ioPath TempTree::Path(const ioPath& relative) const { return relative.empty() ? root_ : root_ / relative; }
+ioPath TempTree::Path(const ioPath& relative) const {
+  return relative.empty() ? root_ : root_ / relative;
+}
 
 ioPath TempTree::Write(const ioPath& relative, const std::string& content) const {
   const ioPath file = Path(relative);

@@ -9,7 +9,9 @@ TextCatalogue::TextCatalogue(const QString& context, const QMap<QString, QString
   QCoreApplication::installTranslator(this);
 }
 
-TextCatalogue::~TextCatalogue() { QCoreApplication::removeTranslator(this); }
+TextCatalogue::~TextCatalogue() {
+  QCoreApplication::removeTranslator(this);
+}
 
 QString TextCatalogue::translate(const char* context, const char* source, const char* /*disambiguation*/,
                                  int /*n*/) const {

@@ -2,11 +2,12 @@
 
 #include "ResourceFixture.h"
 
+#include <support/HttpServer.h>
+
 #include <zenvora/tavolin/NetworkDownloads.h>
 
 #include <QCoreApplication>
 
-#include <support/HttpServer.h>
 #include <thread>
 
 namespace Zenvora::Tavolin {

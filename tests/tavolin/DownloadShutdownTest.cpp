@@ -1,5 +1,10 @@
 // Downloads and the end of the application. Each test has an application object of its own, or none.
 
+#include <support/Doubles.h>
+#include <support/HttpServer.h>
+#include <support/LogCapture.h>
+#include <support/TempTree.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/tavolin/DownloadableResource.h>
 #include <zenvora/tavolin/NetworkDownloads.h>
@@ -15,10 +20,6 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
-#include <support/Doubles.h>
-#include <support/HttpServer.h>
-#include <support/LogCapture.h>
-#include <support/TempTree.h>
 
 namespace Zenvora::Tavolin {
 
@@ -194,6 +195,31 @@ TEST_F(DownloadShutdown, SettlesADownloadThatAHandlerStartsAtTheEnd) {
   EndApplication();
   EXPECT_TRUE(settledInside);
   EXPECT_EQ(second.GetStatus(), Status::Failed);
+}
+
+// A program of others: its application object brings no services, the process's own stay in force to the end.
+TEST_F(DownloadShutdown, AsksNobodyOnceTheApplicationObjectGoes) {
+  const auto settings = std::make_shared<Zenvora::Test::FakeSettings>();
+  const auto network = std::make_shared<Zenvora::Test::ScriptedDownloads>();
+  settings->SetString(App::SettingsKey::kDownloadBaseUrl, "http://server.test");
+  const App::ServiceScope<App::ISettingsManager> settingsScope(settings);
+  const App::ServiceScope<App::IDownloads> networkScope(network);
+  Arguments arguments;
+  std::optional<QCoreApplication> foreign;
+  foreign.emplace(arguments.count, arguments.texts);
+  DownloadableResource first;
+  DownloadableResource second;
+  bool settledInside = false;
+  Prepare(first);
+  first.SetDownloadHandler([&](bool, const IDownloadableResourceInfo&) {
+    Start(second);
+    settledInside = calls == 1;
+  });
+  first.StartDownload(true);
+  EXPECT_EQ(network->requests.size(), 1U);
+  foreign.reset();
+  EXPECT_TRUE(settledInside);
+  EXPECT_EQ(network->requests.size(), 1U);
 }
 
 TEST_F(DownloadShutdown, SettlesADownloadThatAHandlerStartsWhenTheEventLoopQuits) {

@@ -2,6 +2,8 @@
 
 #include "ResourceFixture.h"
 
+#include <support/HttpServer.h>
+
 #include <zenvora/tavolin/Uuid.h>
 
 #include <QCoreApplication>
@@ -12,7 +14,6 @@
 #include <atomic>
 #include <mutex>
 #include <set>
-#include <support/HttpServer.h>
 #include <thread>
 
 namespace Zenvora::Tavolin {

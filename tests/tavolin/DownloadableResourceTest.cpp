@@ -810,6 +810,61 @@ TEST_F(ResourceTest, IgnoresAnAnswerThatComesTwiceOrTooLate) {
   EXPECT_EQ(StoredBody(), Calendar("first"));
 }
 
+TEST_F(ResourceTest, TakesOnlyTheFirstOfTwoAnswersInsideTheRequest) {
+  class Stuttering : public App::IDownloads {
+    std::unique_ptr<Pending> Fetch(const App::DownloadRequest&, Done done) override {
+      if (++requests == 1) {
+        done(Fetched(Calendar("first")));
+        done(Fetched(Calendar("second")));
+      }
+      return std::make_unique<Pending>();
+    }
+    int requests = 0;
+  };
+  const App::ServiceScope<App::IDownloads> scope(std::make_shared<Stuttering>());
+  int calls = 0;
+  CalendarResource resource;
+  resource.SetDownloadHandler([&](bool, const IDownloadableResourceInfo&) {
+    if (++calls == 1) {
+      resource.StartDownload(true);
+    }
+  });
+  resource.StartDownload(true);
+  // The second answer is none to the download that the handler started.
+  EXPECT_EQ(calls, 1);
+  EXPECT_EQ(resource.GetStatus(), Status::Downloading);
+  EXPECT_EQ(StoredBody(), Calendar("first"));
+}
+
+TEST_F(ResourceTest, EndsTheRequestBeforeItCallsTheHandler) {
+  class Watched : public App::IDownloads {
+   public:
+    class Request : public Pending {
+     public:
+      explicit Request(bool& open) : open_(open) { open_ = true; }
+      ~Request() override { open_ = false; }
+
+     private:
+      bool& open_;
+    };
+    std::unique_ptr<Pending> Fetch(const App::DownloadRequest&, Done done) override {
+      kept = std::move(done);
+      return std::make_unique<Request>(open);
+    }
+    Done kept;
+    bool open = false;
+  };
+  const auto service = std::make_shared<Watched>();
+  const App::ServiceScope<App::IDownloads> scope(service);
+  bool openInHandler = true;
+  CalendarResource resource;
+  resource.SetDownloadHandler([&](bool, const IDownloadableResourceInfo&) { openInHandler = service->open; });
+  resource.StartDownload(true);
+  EXPECT_TRUE(service->open);
+  service->kept(Failed(QStringLiteral("no")));
+  EXPECT_FALSE(openInHandler);
+}
+
 TEST_F(ResourceTest, KeepsItsServiceAliveWhileItAsks) {
   class Counted : public Zenvora::Test::ScriptedDownloads {};
   auto service = std::make_shared<Counted>();

@@ -3,6 +3,8 @@
 #include "DownloadLimits.h"
 #include "ResourceFixture.h"
 
+#include <support/HttpServer.h>
+
 #include <zenvora/tavolin/NetworkDownloads.h>
 
 #include <QCoreApplication>
@@ -13,7 +15,6 @@
 #include <QTcpSocket>
 
 #include <optional>
-#include <support/HttpServer.h>
 
 #ifndef _WIN32
 #include <arpa/inet.h>

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <support/Doubles.h>
+#include <support/LogCapture.h>
+#include <support/TempTree.h>
+
 #include <zenvora/tavolin/DownloadableResource.h>
 
 #include <gtest/gtest.h>
@@ -10,9 +14,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <support/Doubles.h>
-#include <support/LogCapture.h>
-#include <support/TempTree.h>
 #include <vector>
 
 namespace Zenvora::Tavolin {

@@ -10,23 +10,25 @@
 
 namespace Zenvora::Util {
 
-/// Proposes one album for each holiday occurrence and for the weekends of each month that hold at least 20 photos.
+/// Proposes one album for each holiday occurrence and for the weekends of each month that hold at least 20
+/// photos.
 ///
-/// `photos`: the whole collection, moved in. Only id and date-time are read; every item is taken for a photo. A photo
-/// belongs to the first event of the calendar that holds its day, else, on a Saturday or Sunday, to its weekend.
-/// `done`: called exactly once with the albums in the order of their names (UTF-16 units). An album's name is the
-/// event's name or "Weekend", a line feed and the interval text of `GetDateIntervalString`; its members are in the order
-/// of `photos`; its date-time is the first day, 00:00, of the interval of the photo that came first.
+/// `photos`: the whole collection, moved in. Only id and date-time are read; every item is taken for a photo.
+/// A photo belongs to the first event of the calendar that holds its day, else, on a Saturday or Sunday, to
+/// its weekend. `done`: called exactly once with the albums in the order of their names (UTF-16 units). An
+/// album's name is the event's name or "Weekend", a line feed and the interval text of
+/// `GetDateIntervalString`; its members are in the order of `photos`; its date-time is the first day, 00:00,
+/// of the interval of the photo that came first.
 ///
-/// The calendar is the resource "HolidayEvents" (docs/formats/calendar.md) in the interface language at the time of
-/// reading. Without a server's copy the one in the host's resource folder serves; without any, or with a broken one (which
-/// is logged as an error), only weekends are found.
+/// The calendar is the resource "HolidayEvents" (docs/formats/calendar.md) in the interface language at the
+/// time of reading. Without a server's copy the one in the host's resource folder serves; without any, or
+/// with a broken one (which is logged as an error), only weekends are found.
 ///
-/// Returns at once. `done` runs on the calling thread, inside this call or later from the thread's event loop, which is
-/// needed in either case to clean up. An empty `done` makes that call throw `std::bad_function_call` at completion.
-/// Time and memory grow linearly with the photos. Not suited to name weekends apart: all weekends of one month that lie in
-/// no event make one album.
-LUMIDEXUTIL_EXPORT void GenerateHolidayAlbums(
-    std::vector<Lumidex::DataModel>&& photos, std::function<void(const std::vector<Lumidex::Album>&)> done);
+/// Returns at once. `done` runs on the calling thread, inside this call or later from the thread's event
+/// loop, which is needed in either case to clean up. An empty `done` makes that call throw
+/// `std::bad_function_call` at completion. Time and memory grow linearly with the photos. Not suited to name
+/// weekends apart: all weekends of one month that lie in no event make one album.
+LUMIDEXUTIL_EXPORT void GenerateHolidayAlbums(std::vector<Lumidex::DataModel>&& photos,
+                                              std::function<void(const std::vector<Lumidex::Album>&)> done);
 
 }  // namespace Zenvora::Util

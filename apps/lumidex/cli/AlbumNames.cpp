@@ -17,6 +17,7 @@ QString Composed(const QString& text) {
 std::vector<std::string> OneLineNames(const std::vector<QString>& names,
                                       const std::vector<std::size_t>& places) {
   std::vector<std::string> texts;
+  texts.reserve(places.size());
   for (const std::size_t place : places) {
     texts.push_back(OneLineName(names[place]));
   }

@@ -7,15 +7,16 @@
 #include "Progress.h"
 #include "TerminalText.h"
 
+#include <host/Albums.h>
+#include <host/Catalogue.h>
+#include <host/Report.h>
+#include <host/Scanner.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <host/Albums.h>
-#include <host/Catalogue.h>
-#include <host/Report.h>
-#include <host/Scanner.h>
 #include <memory>
 #include <system_error>
 #include <tuple>
@@ -159,6 +160,7 @@ std::vector<AlbumRow> RowsOf(const std::vector<Host::StoredAlbum>& stored, const
 std::vector<const Album*> ChosenAlbums(const std::vector<std::string>& wishes,
                                        const std::vector<Album>& proposals) {
   std::vector<QString> names;
+  names.reserve(proposals.size());
   for (const Album& proposal : proposals) {
     names.push_back(proposal.GetModel().GetName());
   }

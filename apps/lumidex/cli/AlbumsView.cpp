@@ -53,18 +53,22 @@ std::string MembersText(const AlbumsView& view) {
   return text;
 }
 
+std::string AcceptedLine(const AcceptedRow& row) {
+  const std::string shown = EscapeForTerminal(OneLineName(row.name));
+  const std::string photos = Counted(static_cast<unsigned long long>(row.result.photosAdded), "photo");
+  if (row.result.created) {
+    return "Accepted " + shown + ": " + photos + ".\n";
+  }
+  if (row.result.photosAdded > 0) {
+    return "Added " + photos + " to " + shown + ", accepted before.\n";
+  }
+  return "Nothing to change in " + shown + ", accepted before.\n";
+}
+
 std::string AcceptedLines(const AlbumsView& view) {
   std::string text;
-  for (const auto& [name, result] : view.accepted) {
-    const std::string shown = EscapeForTerminal(OneLineName(name));
-    const std::string photos = Counted(static_cast<unsigned long long>(result.photosAdded), "photo");
-    if (result.created) {
-      text += "Accepted " + shown + ": " + photos + ".\n";
-    } else if (result.photosAdded > 0) {
-      text += "Added " + photos + " to " + shown + ", accepted before.\n";
-    } else {
-      text += "Nothing to change in " + shown + ", accepted before.\n";
-    }
+  for (const AcceptedRow& row : view.accepted) {
+    text += AcceptedLine(row);
   }
   return text;
 }

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <host/Catalogue.h>
+
 #include <QDate>
 #include <QString>
 
 #include <cstddef>
-#include <host/Catalogue.h>
 #include <optional>
 #include <string>
 #include <vector>

@@ -5,11 +5,12 @@
 #include "TerminalText.h"
 #include "TextTable.h"
 
+#include <host/CalendarCheck.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/ISettingsManager.h>
 #include <zenvora/app/RealServices.h>
 
-#include <host/CalendarCheck.h>
 #include <memory>
 
 namespace Zenvora::Lumidex::Cli {

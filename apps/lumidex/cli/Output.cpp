@@ -1,9 +1,10 @@
 #include "Output.h"
 
+#include <host/HostError.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <host/HostError.h>
 
 namespace Zenvora::Lumidex::Cli {
 

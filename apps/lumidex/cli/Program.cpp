@@ -7,6 +7,8 @@
 #include "JsonWriter.h"
 #include "LogLines.h"
 
+#include <host/HostError.h>
+
 #include <zenvora/app/Application.h>
 
 #include <QCoreApplication>
@@ -15,7 +17,6 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
-#include <host/HostError.h>
 #include <optional>
 
 #ifdef _WIN32

@@ -6,6 +6,7 @@
 #include "TerminalText.h"
 
 #include <host/Sample.h>
+
 #include <memory>
 
 namespace Zenvora::Lumidex::Cli {

@@ -7,6 +7,9 @@
 #include "TerminalText.h"
 #include "TextTable.h"
 
+#include <host/Catalogue.h>
+#include <host/Scanner.h>
+
 #include <glog/logging.h>
 
 #include <QTemporaryDir>
@@ -14,8 +17,6 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <host/Catalogue.h>
-#include <host/Scanner.h>
 #include <memory>
 #include <system_error>
 

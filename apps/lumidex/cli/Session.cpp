@@ -1,7 +1,8 @@
 #include "Session.h"
 
-#include <filesystem>
 #include <host/Catalogue.h>
+
+#include <filesystem>
 
 namespace Zenvora::Lumidex::Cli {
 

@@ -1,12 +1,12 @@
 #include "WaitLoop.h"
 
 #include <LumidexUtil/HolidayAlbums.h>
+#include <host/Albums.h>
+#include <host/HostError.h>
 
 #include <QCoreApplication>
 #include <QEvent>
 
-#include <host/Albums.h>
-#include <host/HostError.h>
 #include <memory>
 #include <utility>
 

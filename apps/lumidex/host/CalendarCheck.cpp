@@ -1,5 +1,8 @@
 #include "WaitLoop.h"
 
+#include <host/CalendarCheck.h>
+#include <host/HostError.h>
+
 #include <zenvora/app/Application.h>
 #include <zenvora/app/IDownloads.h>
 #include <zenvora/app/RealServices.h>
@@ -11,8 +14,6 @@
 #include <QFile>
 
 #include <array>
-#include <host/CalendarCheck.h>
-#include <host/HostError.h>
 #include <map>
 #include <optional>
 #include <set>

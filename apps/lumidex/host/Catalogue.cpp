@@ -1,13 +1,14 @@
 #include "CatalogueDatabase.h"
 #include "CatalogueSchema.h"
 
+#include <host/Catalogue.h>
+
 #include <zenvora/strandel/PhotoFacts.h>
 #include <zenvora/tavolin/Uuid.h>
 
 #include <QStandardPaths>
 
 #include <filesystem>
-#include <host/Catalogue.h>
 #include <optional>
 #include <unordered_set>
 #include <utility>

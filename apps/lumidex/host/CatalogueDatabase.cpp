@@ -1,10 +1,11 @@
 #include "CatalogueDatabase.h"
 
+#include <host/HostError.h>
+
 #include <QSqlError>
 
 #include <atomic>
 #include <filesystem>
-#include <host/HostError.h>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -16,7 +17,7 @@ enum SqliteCode : int {
   kLocked = 6,
   kReadOnly = 8,
   kInputOutput = 10,
-  kCorrupt = 11,
+  kCorrupt = CatalogueDatabase::kCorrupt,
   kFull = 13,
   kCannotOpen = 14,
   kNoDatabase = 26,
@@ -36,6 +37,8 @@ const char* UriQuery(CatalogueDatabase::Access access) {
     case CatalogueDatabase::Access::QueryOnly:
       // Not "ro": such a connection cannot tidy away the files that it makes beside the catalogue.
       return "mode=rw";
+    case CatalogueDatabase::Access::ReadOnly:
+      return "mode=ro";
     case CatalogueDatabase::Access::Frozen:
       return "mode=ro&immutable=1";
   }

@@ -17,8 +17,12 @@ class CatalogueDatabase {
   enum class Access {
     ReadWrite,  ///< Made when missing.
     QueryOnly,  ///< Writes nothing but what SQLite needs beside the file while it is open.
+    ReadOnly,   ///< Like it, but the file itself cannot be changed even by recovering it.
     Frozen,     ///< Takes no locks and makes no files: for looking, and for media that cannot be written.
   };
+
+  /// SQLite's code for a damaged file.
+  static constexpr int kCorrupt = 11;
 
   CatalogueDatabase(const ioPath& file, Access access, int busyTimeoutMs);
   ~CatalogueDatabase();

@@ -1,10 +1,11 @@
 #include "CatalogueSchema.h"
 
+#include <host/Catalogue.h>
+
 #include <glog/logging.h>
 
 #include <chrono>
-#include <host/Catalogue.h>
-#include <iterator>
+#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
@@ -118,19 +119,15 @@ void TurnOnWriteAheadLog(const CatalogueDatabase& database) {
 }  // namespace
 
 void RequireOwnFile(const ioPath& file) {
-  constexpr int kCorrupt = 11;
-  constexpr int kAttempts = 100;
-  for (int attempt = 1;; ++attempt) {
-    const CatalogueDatabase database(file, CatalogueDatabase::Access::Frozen, 0);
-    int code = 0;
-    // Without locks a file that another process is just writing can look damaged.
-    if (!database.TryExecute("SELECT count(*) FROM sqlite_master", code) && code == kCorrupt &&
-        attempt < kAttempts) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(10));
-      continue;
-    }
-    return RequireOwn(database, ReadIdentity(database));
+  using Access = CatalogueDatabase::Access;
+  auto database = std::make_unique<CatalogueDatabase>(file, Access::Frozen, 0);
+  int code = 0;
+  if (!database->TryExecute("SELECT count(*) FROM sqlite_master", code) &&
+      code == CatalogueDatabase::kCorrupt) {
+    // Without its log, or while another process is just writing, a sound file can look damaged.
+    database = std::make_unique<CatalogueDatabase>(file, Access::ReadOnly, Catalogue::kBusyTimeoutMs);
   }
+  RequireOwn(*database, ReadIdentity(*database));
 }
 
 void BringUpToDate(const CatalogueDatabase& database) {

@@ -2,8 +2,9 @@
 
 #include "FileState.h"
 
-#include <deque>
 #include <host/Scanner.h>
+
+#include <deque>
 #include <set>
 #include <string>
 #include <unordered_set>

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <host/Scanner.h>
+
 #include <condition_variable>
 #include <deque>
-#include <host/Scanner.h>
 #include <mutex>
 #include <thread>
 #include <vector>

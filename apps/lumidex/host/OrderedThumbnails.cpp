@@ -1,11 +1,12 @@
 #include "OrderedThumbnails.h"
 
+#include <host/PhotoFiles.h>
+
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
 
 #include <algorithm>
-#include <host/PhotoFiles.h>
 #include <new>
 #include <utility>
 

@@ -2,6 +2,8 @@
 #include "FileDevice.h"
 #include "PhotoPixels.h"
 
+#include <host/PhotoFiles.h>
+
 #include <QByteArray>
 #include <QImageReader>
 
@@ -9,7 +11,6 @@
 #include <cstdint>
 #include <exception>
 #include <filesystem>
-#include <host/PhotoFiles.h>
 #include <system_error>
 
 namespace Zenvora::Lumidex::Host {

@@ -2,9 +2,10 @@
 #include "ReportPage.h"
 #include "WholeFile.h"
 
+#include <host/Report.h>
+
 #include <algorithm>
 #include <chrono>
-#include <host/Report.h>
 
 namespace Zenvora::Lumidex::Host {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <host/Report.h>
+
 #include <QByteArray>
 #include <QLocale>
 #include <QSize>
 #include <QString>
-
-#include <host/Report.h>
 
 namespace Zenvora::Lumidex::Host {
 

@@ -3,6 +3,8 @@
 #include "SampleScenes.h"
 #include "WholeFile.h"
 
+#include <host/Sample.h>
+
 #include <QBuffer>
 #include <QImage>
 #include <QTransform>
@@ -11,7 +13,6 @@
 #include <condition_variable>
 #include <exception>
 #include <filesystem>
-#include <host/Sample.h>
 #include <mutex>
 #include <system_error>
 #include <thread>

@@ -2,13 +2,14 @@
 #include "FolderWalker.h"
 #include "MetadataReaders.h"
 
+#include <host/Scanner.h>
+
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <filesystem>
-#include <host/Scanner.h>
 #include <string_view>
 #include <thread>
 #include <tuple>

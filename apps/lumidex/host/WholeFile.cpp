@@ -1,9 +1,10 @@
 #include "WholeFile.h"
 
+#include <host/HostError.h>
+
 #include <atomic>
 #include <cerrno>
 #include <filesystem>
-#include <host/HostError.h>
 #include <system_error>
 #include <utility>
 

@@ -26,14 +26,15 @@ int main(int argc, char** argv) {
   }
   std::size_t albums = 0;
   std::size_t members = 0;
-  Zenvora::Util::GenerateHolidayAlbums(std::move(photos), [&](const std::vector<Zenvora::Lumidex::Album>& made) {
-    albums = made.size();
-    for (const auto& album : made) {
-      members += album.GetPhotoIds().size();
-    }
-    // From the event loop: whatever is left to clean up comes first.
-    QTimer::singleShot(0, &application, [] { QCoreApplication::exit(0); });
-  });
+  Zenvora::Util::GenerateHolidayAlbums(
+      std::move(photos), [&](const std::vector<Zenvora::Lumidex::Album>& made) {
+        albums = made.size();
+        for (const auto& album : made) {
+          members += album.GetPhotoIds().size();
+        }
+        // From the event loop: whatever is left to clean up comes first.
+        QTimer::singleShot(0, &application, [] { QCoreApplication::exit(0); });
+      });
   QCoreApplication::exec();
   std::cout << albums << " album with " << members << " photos\n";
   return 0;

@@ -8,7 +8,8 @@
 
 namespace Zenvora::Test {
 
-/// A folder of its own for one test, gone with everything in it at the end. Its path is absolute and canonical.
+/// A folder of its own for one test, gone with everything in it at the end. Its path is absolute and
+/// canonical.
 class TempTree {
  public:
   TempTree();

@@ -12,7 +12,8 @@ class TextCatalogue : public QTranslator {
   ~TextCatalogue() override;
 
   bool isEmpty() const override { return false; }
-  QString translate(const char* context, const char* source, const char* disambiguation, int n) const override;
+  QString translate(const char* context, const char* source, const char* disambiguation,
+                    int n) const override;
 
  private:
   const QString context_;

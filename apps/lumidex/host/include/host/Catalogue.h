@@ -1,5 +1,7 @@
 #pragma once
 
+#include <host/HostError.h>
+
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/Album.h>
 #include <zenvora/lumidex/DataModel.h>
@@ -8,7 +10,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <host/HostError.h>
 #include <memory>
 #include <unordered_map>
 #include <vector>

@@ -6,7 +6,8 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// Something that the host could not do. `what()` is one English sentence for a person, naming the file and the cause.
+/// Something that the host could not do. `what()` is one English sentence for a person, naming the file and
+/// the cause.
 class HostError : public Exception {};
 
 /// Throws a `HostError` with `TagFilename` and `TagDescription`.

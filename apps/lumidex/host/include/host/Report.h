@@ -1,11 +1,12 @@
 #pragma once
 
+#include <host/Catalogue.h>
+
 #include <QDate>
 #include <QString>
 
 #include <atomic>
 #include <functional>
-#include <host/Catalogue.h>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {

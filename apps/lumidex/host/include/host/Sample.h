@@ -1,11 +1,12 @@
 #pragma once
 
+#include <host/HostError.h>
+
 #include <zenvora/core/ioPath.h>
 
 #include <atomic>
 #include <cstdint>
 #include <functional>
-#include <host/HostError.h>
 
 namespace Zenvora::Lumidex::Host {
 

@@ -35,7 +35,7 @@ struct ScanFinding {
   enum class Kind {
     NotAnImage,  ///< Named like a photo, but its content is none.
     Unreadable,  ///< A file or folder that could not be read.
-    Loop,        ///< A symbolic link that leads back to a folder above it, or to one already visited. Not followed.
+    Loop,  ///< A symbolic link that leads back to a folder above it, or to one already visited. Not followed.
   };
   Kind kind;
   ioPath path;
@@ -43,21 +43,21 @@ struct ScanFinding {
 };
 
 struct ScanResult {
-  std::uint64_t found = 0;      ///< Files named like photos.
+  std::uint64_t found = 0;  ///< Files named like photos.
   std::uint64_t added = 0;
   std::uint64_t updated = 0;
   std::uint64_t unchanged = 0;
-  std::uint64_t lost = 0;       ///< Known photos under the scanned folders whose files are gone, newly marked.
+  std::uint64_t lost = 0;  ///< Known photos under the scanned folders whose files are gone, newly marked.
   std::uint64_t dated[4] = {};  ///< Of the files read: how many by `DateSource`.
   bool cancelled = false;
   std::vector<ScanFinding> findings;
 };
 
-/// Walks the folders (a file is taken as itself), reads the metadata of new and changed photos in several threads, and
-/// commits them in batches, so that a kill loses at most the last batch. A folder that cannot be read is a finding, and
-/// no photo below it is marked lost; nor is any after a cancelled scan. Files reached twice (nested roots, links) count
-/// once. Hidden files and folders (leading dot) are passed over.
-/// Throws `HostError` when a root does not exist or the catalogue fails.
+/// Walks the folders (a file is taken as itself), reads the metadata of new and changed photos in several
+/// threads, and commits them in batches, so that a kill loses at most the last batch. A folder that cannot be
+/// read is a finding, and no photo below it is marked lost; nor is any after a cancelled scan. Files reached
+/// twice (nested roots, links) count once. Hidden files and folders (leading dot) are passed over. Throws
+/// `HostError` when a root does not exist or the catalogue fails.
 ScanResult Scan(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,
                 const ScanProgressHandler& progress);
 

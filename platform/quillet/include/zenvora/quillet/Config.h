@@ -22,7 +22,7 @@ class ZENVORA_QUILLET_EXPORT IParserConfigBase : public ISerializable {
 class ZENVORA_QUILLET_EXPORT BaseConfig {
  public:
   /// A longer file is refused. Bytes.
-  static constexpr std::size_t kSizeLimit = 16 * 1024 * 1024;
+  static constexpr std::size_t kSizeLimit = std::size_t{16} * 1024 * 1024;
   /// A document nested deeper is refused; the root object is level 1.
   static constexpr std::size_t kDepthLimit = 64;
 
