@@ -3,8 +3,10 @@
 .DEFAULT_GOAL := help
 .PHONY: help setup run test test-dev test-asan test-tsan lint lint-format format bench clean
 
-# Where ccache is installed it serves every build.
+# Where ccache is installed it serves every build, wherever the tree lies.
 export CMAKE_CXX_COMPILER_LAUNCHER ?= $(shell command -v ccache)
+export CCACHE_BASEDIR := $(CURDIR)
+export CCACHE_NOHASHDIR := 1
 
 help:
 	@echo "make run [PHOTOS=folder]  install what is missing, build, find the albums of the photos (or of a sample)"
