@@ -29,13 +29,13 @@ test: setup test-tsan test-asan test-dev
 test-dev test-asan: test-%: setup
 	cmake --preset $*
 	cmake --build --preset $*
-	ctest --preset $* -j 2
+	ctest --preset $* -j 2 --no-tests=error
 
 # Only what is about threads: the rest cannot tell the thread sanitizer anything.
 test-tsan: setup
 	cmake --preset tsan
 	cmake --build --preset tsan --target concurrent_tests
-	ctest --preset tsan -j 2
+	ctest --preset tsan -j 2 --no-tests=error
 
 lint: setup lint-format
 	cmake --preset dev
