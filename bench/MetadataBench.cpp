@@ -72,19 +72,25 @@ void ReadAsScan(const ioPath& file) {
   benchmark::DoNotOptimize(Lumidex::Host::ReadPhoto(file, record, finding));
 }
 
-/// Both readers take turns file by file, so that whatever else the machine does hits both alike.
+/// The least share of bare Exiv2's speed that the stage must reach, in per cent.
+constexpr double kGoal = 70;
+
+/// Both readers take turns file by file and in going first, so that whatever else the machine does hits both
+/// alike.
 void MetadataStageBesideBareExiv2(benchmark::State& state) {
   const auto& files = TheFiles().All();
   Clock::duration bare{};
   Clock::duration stage{};
   for (auto _ : state) {
-    for (const ioPath& file : files) {
+    for (std::size_t i = 0; i < files.size(); ++i) {
+      const bool bareFirst = i % 2 == 0;
       const auto start = Clock::now();
-      Files::ReadBare(file);
+      bareFirst ? Files::ReadBare(files[i]) : ReadAsScan(files[i]);
       const auto middle = Clock::now();
-      ReadAsScan(file);
-      bare += middle - start;
-      stage += Clock::now() - middle;
+      bareFirst ? ReadAsScan(files[i]) : Files::ReadBare(files[i]);
+      const auto end = Clock::now();
+      bare += bareFirst ? middle - start : end - middle;
+      stage += bareFirst ? end - middle : middle - start;
     }
   }
   const auto perSecond = [&](Clock::duration time) {
@@ -92,7 +98,9 @@ void MetadataStageBesideBareExiv2(benchmark::State& state) {
   };
   state.counters["bare_files/s"] = perSecond(bare);
   state.counters["stage_files/s"] = perSecond(stage);
-  state.counters["stage_in_%_of_bare"] = 100.0 * perSecond(stage) / perSecond(bare);
+  const double share = 100.0 * perSecond(stage) / perSecond(bare);
+  state.counters["stage_in_%_of_bare"] = share;
+  state.counters["goal_met"] = share >= kGoal ? 1 : 0;
 }
 
 /// A whole first scan into a new catalogue, with as many threads as given.

@@ -4,6 +4,9 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
+file(RELATIVE_PATH way_to_sources "${CMAKE_BINARY_DIR}" "${PROJECT_SOURCE_DIR}")
+string(REGEX REPLACE "/$" "" way_to_sources "${way_to_sources}")
+
 add_library(lumidex_compiler INTERFACE)
 target_compile_features(lumidex_compiler INTERFACE cxx_std_17)
 target_compile_definitions(lumidex_compiler INTERFACE
@@ -12,7 +15,9 @@ target_compile_definitions(lumidex_compiler INTERFACE
 target_compile_options(lumidex_compiler INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror
   # Log lines and throw sites name sources relative to the tree, whatever folder it was built in; those of the library
-  # relative to the library. The last map that fits wins.
+  # relative to the library. The last map that fits wins. A compiler cache may name sources relative to the build folder.
+  "-fmacro-prefix-map=${way_to_sources}/="
+  "-fmacro-prefix-map=${way_to_sources}/LumidexUtil/="
   "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
   "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/LumidexUtil/=")
 if(NOT WIN32)

@@ -54,9 +54,11 @@ function(lumidex_room name)
     elseif(NOT TARGET lumidex_${used})
       message(FATAL_ERROR "Room '${name}' may not use '${used}': it is not declared before it")
     endif()
+    get_target_property(handed_on lumidex_${used} INTERFACE_LINK_LIBRARIES)
+    list(APPEND R_HANDED_ON ${handed_on})
   endforeach()
-  if(("Qt5::Widgets" IN_LIST R_LINKS OR "Qt5::Widgets" IN_LIST R_LINKS_PRIVATELY) AND
-     NOT name IN_LIST LUMIDEX_WIDGET_ROOMS)
+  set(linked ${R_LINKS} ${R_LINKS_PRIVATELY} ${R_HANDED_ON})
+  if("Qt5::Widgets" IN_LIST linked AND NOT name IN_LIST LUMIDEX_WIDGET_ROOMS)
     message(FATAL_ERROR "Room '${name}' may not link Qt Widgets: it holds logic")
   endif()
 

@@ -10,6 +10,11 @@ mapfile -t sources < <(git ls-files --cached --others --exclude-standard '*.cpp'
 if [ "$what" != tidy ]; then
   clang-format --dry-run -Werror "${sources[@]}"
   echo "clang-format: ${#sources[@]} files are in form"
+  # A path around the include roots would be a way around the rooms.
+  if grep -nE '#include [<"](.*/)?\.\./' "${sources[@]}"; then
+    echo "includes: name headers by their include root, not by ../" >&2
+    exit 1
+  fi
 fi
 
 if [ "$what" != format ]; then

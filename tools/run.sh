@@ -19,5 +19,11 @@ if [ -z "$photos" ]; then
   fi
 fi
 
-"$lumidex" --catalogue "$out/catalogue.sqlite" scan "$photos" || [ $? -eq 1 ] || [ $? -eq 3 ]
-"$lumidex" --catalogue "$out/catalogue.sqlite" albums --report "$out/report.html"
+# A catalogue of its own for each folder, so that collections do not mix.
+name=$(realpath "$photos" | cksum | cut -d ' ' -f 1)
+catalogue=$out/catalogue-$name.sqlite
+
+# 1 and 3: done, with something to look at, which the program has said.
+mostly_done() { "$@" || [ $? -eq 1 ] || [ $? -eq 3 ]; }
+mostly_done "$lumidex" --catalogue "$catalogue" scan "$photos"
+mostly_done "$lumidex" --catalogue "$catalogue" albums --report "$out/report.html"

@@ -19,11 +19,11 @@ using Lumidex::ItemType;
 namespace {
 
 // Fewer pictures make a moment, not an album.
-constexpr std::size_t kLeastPhotos = 20;
+constexpr std::size_t LEAST_PHOTOS = 20;
 // The year in which the calendar's days are read. It is no leap year, so 29 February has no key date; an
 // invalid date's Julian day is the least number there is, so such a photo lies "before" every day. Kept on
 // purpose.
-constexpr int kReferenceYear = 1900;
+constexpr int REFERENCE_YEAR = 1900;
 
 struct Interval {
   QDate first;
@@ -50,12 +50,15 @@ QDate InYear(const QDate& date, int year) {
   return QDate(year, date.month(), date.day());
 }
 
-Interval OccurrenceOf(const HolidayEvent& event, int year, const QDate& key) {
-  if (!RunsOverNewYear(event)) {
-    return {InYear(event.start, year), InYear(event.end, year)};
-  }
-  const int firstYear = key.toJulianDay() <= event.end.toJulianDay() ? year - 1 : year;
-  return {InYear(event.start, firstYear), InYear(event.end, firstYear + 1)};
+/// The year in which the occurrence that holds a photo of `year` begins.
+int FirstYearOf(const HolidayEvent& event, int year, const QDate& key) {
+  const bool isNewYearsPart = RunsOverNewYear(event) && key.toJulianDay() <= event.end.toJulianDay();
+  return isNewYearsPart ? year - 1 : year;
+}
+
+Interval OccurrenceFrom(const HolidayEvent& event, int firstYear) {
+  return {InYear(event.start, firstYear),
+          InYear(event.end, RunsOverNewYear(event) ? firstYear + 1 : firstYear)};
 }
 
 std::optional<Interval> WeekendOf(const QDate& day) {
@@ -91,7 +94,7 @@ class Grouping {
   std::vector<Album> MakeAlbums() const {
     std::vector<Album> albums;
     for (const auto& [name, group] : groups_) {
-      if (group.photoIds.size() < kLeastPhotos) {
+      if (group.photoIds.size() < LEAST_PHOTOS) {
         continue;
       }
       DataModel model(name, texts_.makeId(), ItemType::Album);
@@ -104,27 +107,24 @@ class Grouping {
   }
 
  private:
-  // Event index or kWeekend, then what tells its intervals apart by name.
+  // Event index or WEEKEND, then what tells its intervals apart by name.
   using OccurrenceKey = std::pair<std::ptrdiff_t, qint64>;
-  static constexpr std::ptrdiff_t kNoEvent = -1;
-  static constexpr std::ptrdiff_t kWeekend = -1;
+  static constexpr std::ptrdiff_t NO_EVENT = -1;
+  static constexpr std::ptrdiff_t WEEKEND = -1;
 
   Group* FindGroup(const QDate& day) {
-    const QDate key(kReferenceYear, day.month(), day.day());
+    const QDate key(REFERENCE_YEAR, day.month(), day.day());
     const std::ptrdiff_t event = FindEvent(key, day);
-    if (event != kNoEvent) {
+    if (event != NO_EVENT) {
       const HolidayEvent& holiday = events_[static_cast<std::size_t>(event)];
-      const Interval interval = OccurrenceOf(holiday, day.year(), key);
-      const int firstYear = RunsOverNewYear(holiday) && key.toJulianDay() <= holiday.end.toJulianDay()
-                                ? day.year() - 1
-                                : day.year();
-      return GroupFor({event, firstYear}, holiday.name, interval);
+      const int firstYear = FirstYearOf(holiday, day.year(), key);
+      return GroupFor({event, firstYear}, holiday.name, OccurrenceFrom(holiday, firstYear));
     }
     if (const auto weekend = WeekendOf(day)) {
       // Weekends of one month are named alike, unless one reaches into the next month.
       const QDate& first = weekend->first;
       const qint64 months = (static_cast<qint64>(first.year()) * 12 + first.month()) * 2;
-      return GroupFor({kWeekend, months + (weekend->last.month() == first.month() ? 0 : 1)},
+      return GroupFor({WEEKEND, months + (weekend->last.month() == first.month() ? 0 : 1)},
                       QStringLiteral("Weekend"), *weekend);
     }
     return nullptr;
@@ -141,14 +141,14 @@ class Grouping {
     return known->second;
   }
 
-  /// The first event in file order that holds the key; `kNoEvent` also when that one has no name.
+  /// The first event in file order that holds the key; `NO_EVENT` also when that one has no name.
   std::ptrdiff_t FindEvent(const QDate& key, const QDate& day) {
-    auto& known = eventOfDay_[static_cast<std::size_t>(day.month() * kDaysPerMonth + day.day())];
+    auto& known = eventOfDay_[static_cast<std::size_t>(day.month() * DAYS_PER_MONTH + day.day())];
     if (!known) {
-      known = kNoEvent;
+      known = NO_EVENT;
       for (std::size_t i = 0; i < events_.size(); ++i) {
         if (Holds(events_[i], key)) {
-          known = events_[i].name.isEmpty() ? kNoEvent : static_cast<std::ptrdiff_t>(i);
+          known = events_[i].name.isEmpty() ? NO_EVENT : static_cast<std::ptrdiff_t>(i);
           break;
         }
       }
@@ -156,12 +156,12 @@ class Grouping {
     return *known;
   }
 
-  static constexpr int kDaysPerMonth = 32;
+  static constexpr int DAYS_PER_MONTH = 32;
 
   const std::vector<HolidayEvent>& events_;
   const AlbumTexts& texts_;
   // By month (0: no date) and day.
-  std::array<std::optional<std::ptrdiff_t>, std::size_t{13} * kDaysPerMonth> eventOfDay_;
+  std::array<std::optional<std::ptrdiff_t>, std::size_t{13} * DAYS_PER_MONTH> eventOfDay_;
   std::map<QString, Group> groups_;
   std::map<OccurrenceKey, Group*> groupOfOccurrence_;
   std::unordered_map<qint64, Group*> groupOfDay_;

@@ -35,7 +35,7 @@ const std::string KEY_END = "end";
 
 // Readers of logs know the missing-node report by its file and line: the number stays when the source around
 // it moves.
-constexpr int kMissingNodeLine = 160;
+constexpr int MISSING_NODE_LINE = 160;
 
 // No year in the text: Qt puts every date into 1900.
 QDate ReadDay(const ISerializer& event, const std::string& key) {
@@ -62,7 +62,7 @@ class Impl : public QObject, public Quillet::Config::IParserConfigBase, public T
       Core::JsonException missing;
       missing << TagParseError("Not all required nodes are found in config");
       boost::throw_exception(missing,
-                             boost::source_location(__FILE__, kMissingNodeLine, BOOST_CURRENT_FUNCTION));
+                             boost::source_location(__FILE__, MISSING_NODE_LINE, BOOST_CURRENT_FUNCTION));
     }
     const std::string locale = App::GetCurrentLocale();
     const auto locales = root->GetChild(KEY_EVENTS);

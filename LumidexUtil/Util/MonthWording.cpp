@@ -8,6 +8,8 @@ namespace Zenvora::Util {
 
 namespace {
 
+const QString DATES_SEPARATOR = QStringLiteral(" - ");
+
 enum class Year { Without, With };
 enum class Day { Without, With };
 
@@ -29,15 +31,14 @@ QString WordDate(const QString& locale, const QDate& date, Year year, Day day) {
 }  // namespace
 
 QString WordDateInterval(const QString& locale, const QDate& from, const QDate& to) {
-  const QString separator = QStringLiteral(" - ");
   if (from.year() != to.year()) {
-    return WordDate(locale, from, Year::With, Day::Without) + separator +
+    return WordDate(locale, from, Year::With, Day::Without) + DATES_SEPARATOR +
            WordDate(locale, to, Year::With, Day::Without);
   }
   if (from.month() == to.month()) {
     return WordDate(locale, from, Year::With, from.day() == to.day() ? Day::With : Day::Without);
   }
-  return WordDate(locale, from, Year::Without, Day::Without) + separator +
+  return WordDate(locale, from, Year::Without, Day::Without) + DATES_SEPARATOR +
          WordDate(locale, to, Year::With, Day::Without);
 }
 

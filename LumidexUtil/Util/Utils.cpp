@@ -12,7 +12,7 @@ namespace Zenvora::Util {
 
 namespace {
 
-constexpr char kContext[] = "Zenvora::Lumidex::Utils";
+constexpr char CONTEXT[] = "Zenvora::Lumidex::Utils";
 
 const std::string FORM_ONE = "One";
 const std::string FORM_NOMINATIVE = "Nominative";
@@ -25,7 +25,7 @@ const std::string TEXT_EXPIRED = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "E
 const std::string TEXT_NUMBER_AND_NOUN = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "%1 %2");
 
 // The keys that counting days makes up at run time, written out for the translation tools.
-[[maybe_unused]] const char* const DAY_KEYS[] = {
+[[maybe_unused]] const std::string DAY_KEYS[] = {
     QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "One day"),
     QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Nominative day"),
     QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Genetive day"),
@@ -33,7 +33,7 @@ const std::string TEXT_NUMBER_AND_NOUN = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Ut
 };
 
 QString Translate(const std::string& text) {
-  return QCoreApplication::translate(kContext, text.c_str());
+  return QCoreApplication::translate(CONTEXT, text.c_str());
 }
 
 QString TranslateWithFallback(const std::string& key, const std::string& fallback) {

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
@@ -132,6 +133,21 @@ TEST_F(Lifecycle, ThrowsAtCompletionForAnEmptyCallback) {
 TEST_F(Lifecycle, ThrowsOutOfTheCallForAnEmptyCallbackWhenTheDownloadEndsThere) {
   network_->answerAtOnce = true;
   EXPECT_THROW(Util::GenerateHolidayAlbums({}, nullptr), std::bad_function_call);
+}
+
+/// A language that cannot be told, by something that is no failure of parsing.
+class BrokenLookAndFeel : public App::ILookAndFeelManager {
+ public:
+  std::string GetCurrentLocale() const override { throw std::runtime_error("no language"); }
+};
+
+TEST_F(Lifecycle, PassesOnWhatIsNoFailureOfParsing) {
+  const App::ServiceScope<App::ILookAndFeelManager> scope(std::make_shared<BrokenLookAndFeel>());
+  network_->answerAtOnce = true;
+  network_->reply = Fetched(CalendarJson("en_US", {}));
+  EXPECT_THROW(Util::GenerateHolidayAlbums(PhotosOf(kMonday, 1), Callback()), std::runtime_error);
+  EXPECT_EQ(calls_, 0);
+  EXPECT_THAT(log.Lines(google::GLOG_ERROR), SizeIs(0));
 }
 
 TEST_F(Lifecycle, LetsOneGenerationStartAnother) {

@@ -8,6 +8,7 @@
 namespace Zenvora::Test {
 namespace {
 
+// Here and not through the exported wording: no language of this Qt begins a month outside the basic plane.
 TEST(UpperFirst, ChangesTheFirstLetterOnly) {
   const std::vector<std::pair<const char*, const char*>> rows = {
       {"", ""},

@@ -1,7 +1,7 @@
 # Compares what LIBRARY exports with LIST, or writes LIST when LUMIDEX_ABI_RENEW is set.
 #
-# Only what the library's own namespace names: which instantiations of library templates are exported as well depends on
-# the optimiser.
+# Every symbol that the library defines itself, whatever its name, and the weak ones of its own namespace. Other weak ones are
+# instantiations of foreign templates: which of them are exported depends on the optimiser.
 
 # symbols(<variable> <option> ...): the names of nm's lines, in the order of the library's table.
 function(symbols variable)
@@ -13,7 +13,7 @@ function(symbols variable)
   string(REPLACE ";" "," output "${output}")
   string(REGEX REPLACE "\n$" "" output "${output}")
   string(REPLACE "\n" ";" lines "${output}")
-  list(TRANSFORM lines REPLACE "^[0-9a-f]+ [A-Za-z] " "")
+  list(TRANSFORM lines REPLACE "^[0-9a-f]+ " "")
   set(${variable} "${lines}" PARENT_SCOPE)
 endfunction()
 
@@ -22,7 +22,12 @@ symbols(mangled)
 symbols(readable -C)
 set(exported "")
 foreach(name symbol IN ZIP_LISTS mangled readable)
-  if(name MATCHES "^_Z(T[VIST]|GV|T[hv][n0-9_]+)?NK?7Zenvora")
+  if(name MATCHES "^[WVu] " AND NOT name MATCHES "^. _Z(T[VIST]|GV|T[hv][n0-9_]+)?NK?7Zenvora")
+    continue()
+  endif()
+  # The address sanitizer's own marks.
+  if(NOT name MATCHES "^. __(odr_)?asan")
+    string(REGEX REPLACE "^. " "" symbol "${symbol}")
     list(APPEND exported "${symbol}")
   endif()
 endforeach()

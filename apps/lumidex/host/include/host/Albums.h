@@ -10,7 +10,8 @@ namespace Zenvora::Lumidex::Host {
 
 /// Runs `Util::GenerateHolidayAlbums` and waits for its answer in an event loop of its own. Needs an
 /// application object. `cancel` (may be null): when set while waiting, throws `HostError`, as it does when
-/// the application quits meanwhile.
+/// the application quits meanwhile. Call it on the application's thread; that thread's other events are delivered
+/// while it waits.
 std::vector<Album> ProposeAlbums(std::vector<DataModel> photos, const std::atomic<bool>* cancel);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -4,7 +4,7 @@
 
 namespace Zenvora::App {
 
-/// What time it is, as far as rules depend on it.
+/// What time it is, as far as rules depend on it. May be asked on any thread; never fails.
 class IClock {
  public:
   virtual ~IClock() = default;

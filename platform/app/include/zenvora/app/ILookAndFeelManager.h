@@ -4,7 +4,7 @@
 
 namespace Zenvora::App {
 
-/// How the application presents itself.
+/// How the application presents itself. May be asked on any thread; never fails, but may read the settings.
 class ILookAndFeelManager {
  public:
   virtual ~ILookAndFeelManager() = default;
