@@ -25,16 +25,19 @@ namespace Zenvora::Util {
 /// with a broken one (which is logged as an error), only weekends are found.
 ///
 /// What may surprise, and is meant:
-/// - The calendar's first event that holds a day takes it, even if that event has no name: then the day counts as none
+/// - The calendar's first event that holds a day takes it, even if that event has no name: then the day
+/// counts as none
 ///   and later events of that day are hidden.
 /// - The word "Weekend" is not translated. All weekends of one month that lie in no event make one album.
-/// - Days are looked up in the year 1900. A photo of 29 February, or without a valid date, has no day there and joins only
+/// - Days are looked up in the year 1900. A photo of 29 February, or without a valid date, has no day there
+/// and joins only
 ///   the first event that runs over New Year; an undated one then dates its album to the year -1.
 /// - Where a clock change skips midnight the album's date-time is invalid while its date is right.
 ///
-/// Call it on the GUI thread, since the texts are worded in the interface language there. Returns at once. `done` runs on
-/// the same thread, inside this call or later from its event loop, which is needed in either case to clean up. An empty
-/// `done` makes that call throw `std::bad_function_call` at completion. Time and memory grow linearly with the photos.
+/// Call it on the GUI thread, since the texts are worded in the interface language there. Returns at once.
+/// `done` runs on the same thread, inside this call or later from its event loop, which is needed in either
+/// case to clean up. An empty `done` makes that call throw `std::bad_function_call` at completion. Time and
+/// memory grow linearly with the photos.
 LUMIDEXUTIL_EXPORT void GenerateHolidayAlbums(std::vector<Lumidex::DataModel>&& photos,
                                               std::function<void(const std::vector<Lumidex::Album>&)> done);
 

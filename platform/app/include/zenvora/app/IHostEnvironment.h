@@ -6,8 +6,8 @@ class QWidget;
 
 namespace Zenvora::App {
 
-/// What the host program itself provides. `ResourceFolder` may be asked on any thread, `MainWindow` on the GUI thread only.
-/// Neither fails or blocks.
+/// What the host program itself provides. `ResourceFolder` may be asked on any thread, `MainWindow` on the
+/// GUI thread only. Neither fails or blocks.
 class IHostEnvironment {
  public:
   virtual ~IHostEnvironment() = default;

@@ -26,6 +26,21 @@ ZENVORA_APP_EXPORT ioPath UserSettingsFile();
 /// The languages that the interface speaks, as locale names.
 ZENVORA_APP_EXPORT const std::vector<std::string>& InterfaceLanguages();
 
+/// How an interface language fits a wish.
+enum class LanguageMatch {
+  Exact,  ///< The language itself, however the wish spells it ("de-DE.UTF-8").
+  Near,   ///< The same language without a country, or of another one.
+  None,   ///< Another language.
+};
+
+struct InterfaceLanguage {
+  std::string locale;  ///< One of `InterfaceLanguages`.
+  LanguageMatch match = LanguageMatch::None;
+};
+
+/// The same as `NearestInterfaceLanguage`, and how well it fits.
+ZENVORA_APP_EXPORT InterfaceLanguage FindInterfaceLanguage(const std::string& wish);
+
 /// The interface language that serves a wish such as "de", "de_AT", "de-DE.UTF-8" (case does not matter): the
 /// language itself if spoken, else one of the same language, else en_US.
 ZENVORA_APP_EXPORT std::string NearestInterfaceLanguage(const std::string& wish);
