@@ -56,18 +56,25 @@ const std::vector<std::string>& InterfaceLanguages() {
   return languages;
 }
 
-std::string NearestInterfaceLanguage(const std::string& wish) {
+InterfaceLanguage FindInterfaceLanguage(const std::string& wish) {
   const std::string name = Plain(wish);
   const auto& spoken = InterfaceLanguages();
   const auto itself = std::find_if(spoken.begin(), spoken.end(),
                                    [&](const std::string& candidate) { return Plain(candidate) == name; });
   if (itself != spoken.end()) {
-    return *itself;
+    return {*itself, LanguageMatch::Exact};
   }
   const auto sibling = std::find_if(spoken.begin(), spoken.end(), [&](const std::string& candidate) {
     return LanguageOf(Plain(candidate)) == LanguageOf(name);
   });
-  return sibling == spoken.end() ? spoken.front() : *sibling;
+  if (sibling != spoken.end()) {
+    return {*sibling, LanguageMatch::Near};
+  }
+  return {spoken.front(), LanguageMatch::None};
+}
+
+std::string NearestInterfaceLanguage(const std::string& wish) {
+  return FindInterfaceLanguage(wish).locale;
 }
 
 std::shared_ptr<ILookAndFeelManager> MakeHostLookAndFeel() {

@@ -138,4 +138,12 @@ std::string JsonSerializer::GetText(const std::string& key, const std::string& d
   return member.toString().toStdString();
 }
 
+std::vector<std::string> JsonSerializer::GetNames() const {
+  std::vector<std::string> names;
+  for (const QString& name : value_.toObject().keys()) {
+    names.push_back(name.toStdString());
+  }
+  return names;
+}
+
 }  // namespace Zenvora::Quillet

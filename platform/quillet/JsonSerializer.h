@@ -6,6 +6,7 @@
 #include <QJsonValue>
 
 #include <string>
+#include <vector>
 
 namespace Zenvora::Quillet {
 
@@ -29,6 +30,7 @@ class JsonSerializer : public virtual ISerializer {
   std::size_t GetLength() const override;
   boost::intrusive_ptr<const ISerializer> GetElement(std::size_t index) const override;
   std::string GetText(const std::string& key, const std::string& defaultText) const override;
+  std::vector<std::string> GetNames() const override;
 
  private:
   ~JsonSerializer() override = default;

@@ -55,6 +55,26 @@ INSTANTIATE_TEST_SUITE_P(OfNoSpokenLanguage, LanguageWish,
                                          Wish{"xx_DE", "en_US"}, Wish{".UTF-8", "en_US"},
                                          Wish{" de", "en_US"}, Wish{"\xC3\xA9", "en_US"}));
 
+TEST(FindInterfaceLanguage, TellsHowWellItFits) {
+  struct Row {
+    const char* wish;
+    const char* locale;
+    LanguageMatch match;
+  };
+  for (const Row& row :
+       {Row{"de_DE", "de_DE", LanguageMatch::Exact}, Row{"de-DE", "de_DE", LanguageMatch::Exact},
+        Row{"DE_de", "de_DE", LanguageMatch::Exact}, Row{"ru_RU.UTF-8", "ru_RU", LanguageMatch::Exact},
+        Row{"de", "de_DE", LanguageMatch::Near}, Row{"DE", "de_DE", LanguageMatch::Near},
+        Row{"pt_PT", "pt_BR", LanguageMatch::Near}, Row{"en_GB", "en_US", LanguageMatch::Near},
+        Row{"fr_CA@euro", "fr_FR", LanguageMatch::Near}, Row{"xx", "en_US", LanguageMatch::None},
+        Row{"C", "en_US", LanguageMatch::None}, Row{"", "en_US", LanguageMatch::None},
+        Row{"_", "en_US", LanguageMatch::None}, Row{"english", "en_US", LanguageMatch::None}}) {
+    const InterfaceLanguage found = FindInterfaceLanguage(row.wish);
+    EXPECT_EQ(found.locale, row.locale) << row.wish;
+    EXPECT_EQ(found.match, row.match) << row.wish;
+  }
+}
+
 class HostLanguage : public testing::Test {
  protected:
   std::string With(const std::string& wish) {

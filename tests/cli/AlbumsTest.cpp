@@ -2,6 +2,8 @@
 
 #include <QJsonArray>
 
+#include <filesystem>
+
 namespace Zenvora::Test {
 namespace {
 
@@ -198,6 +200,139 @@ TEST_F(AlbumsCommand, NeverWritesAReportOverAPictureOrTheCatalogue) {
     EXPECT_EQ(ran.exitCode, 2);
     EXPECT_EQ(ReadFile(victim), before);
   }
+}
+
+#ifndef _WIN32
+TEST_F(AlbumsCommand, NeverWritesAReportThroughALinkToAPictureOrTheCatalogue) {
+  ScanTwoAlbums();
+  const ioPath picture = Photos() / "xmas" / "img0.jpg";
+  struct Row {
+    const char* link;
+    ioPath target;
+  };
+  for (const Row& row :
+       {Row{"picture.html", picture}, Row{"again.html", "picture.html"},
+        Row{"missing.html", Photos() / "none.JPG"}, Row{"catalogue.html", DefaultCatalogue()},
+        Row{"wal.html", DefaultCatalogue().utf8string() + "-wal"}}) {
+    std::filesystem::create_symlink(row.target.native(), tree.Path(row.link).native());
+  }
+  const std::string before = ReadFile(picture);
+  const std::string catalogue = ReadFile(DefaultCatalogue());
+  for (const char* const link :
+       {"picture.html", "again.html", "missing.html", "catalogue.html", "wal.html"}) {
+    const Ran ran = Run({"albums", "--report", link});
+    EXPECT_EQ(ran.exitCode, 2) << link;
+    EXPECT_THAT(ran.err, HasSubstr(link));
+    EXPECT_TRUE(std::filesystem::is_symlink(tree.Path(link).native())) << link;
+  }
+  EXPECT_EQ(ReadFile(picture), before);
+  EXPECT_EQ(ReadFile(DefaultCatalogue()), catalogue);
+  EXPECT_FALSE((Photos() / "none.JPG").exists());
+}
+#endif
+
+TEST_F(AlbumsCommand, NeverWritesAReportOverSqlitesFiles) {
+  ScanTwoAlbums();
+  for (const char* const ending : {"-wal", "-shm", "-journal"}) {
+    const ioPath file(DefaultCatalogue().utf8string() + ending);
+    const Ran ran = Run({"albums", "--report", Text(file)});
+    EXPECT_EQ(ran.exitCode, 2) << ending;
+    EXPECT_THAT(ran.err, HasSubstr("a file of the catalogue")) << ending;
+    EXPECT_FALSE(file.exists()) << ending;
+  }
+}
+
+TEST_F(AlbumsCommand, NeverWritesAReportOverAPhotoOfAnyName) {
+  MakePhotos("a", "2023:12:24", 1);
+  std::filesystem::rename((Photos() / "a" / "img0.jpg").native(), tree.Path("scan of 1923").native());
+  ASSERT_EQ(Run({"scan", "scan of 1923"}).exitCode, 0);
+  const std::string before = ReadFile(tree.Path("scan of 1923"));
+  const Ran ran = Run({"albums", "--report", "scan of 1923"});
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_THAT(ran.err, HasSubstr("is a photo of the catalogue"));
+  EXPECT_EQ(ReadFile(tree.Path("scan of 1923")), before);
+}
+
+TEST_F(AlbumsCommand, ReplacesPagesAndNothingElseByAReport) {
+  ScanTwoAlbums();
+  for (const char* const text : {"my notes", " ", "<html>", "<!DOCTYPE svg>", "\xFF\xD8\xFF"}) {
+    tree.Write("notes.txt", text);
+    const Ran ran = Run({"albums", "--json", "--accept", "all", "--report", "notes.txt"});
+    EXPECT_EQ(ran.exitCode, 4) << text;
+    EXPECT_EQ(ran.Json()["kind"].toString(), QStringLiteral("not-replaceable"));
+    EXPECT_THAT(ran.err, HasSubstr("notes.txt"));
+    EXPECT_EQ(ReadFile(tree.Path("notes.txt")), text);
+  }
+  for (const char* const text : {"", "<!DOCTYPE html>old", "<!doctype HTML>"}) {
+    tree.Write("page", text);
+    EXPECT_EQ(Run({"albums", "--report", "page"}).exitCode, 0) << text;
+    EXPECT_THAT(ReadFile(tree.Path("page")), HasSubstr("Christmas"));
+  }
+  EXPECT_EQ(Run({"albums", "--report", "page"}).exitCode, 0);
+  EXPECT_THAT(Run({"albums", "--accepted"}).out, HasSubstr("No album is accepted yet"));
+}
+
+TEST_F(AlbumsCommand, AcceptsNothingWhenTheReportCannotBeWritten) {
+  ScanTwoAlbums();
+  tree.Write("file", "");
+  for (const QStringList& form : {QStringList{}, QStringList{"--json"}}) {
+    const Ran ran = Run(QStringList{"albums", "--accept", "all", "--report", "file/page.html"} + form);
+    EXPECT_EQ(ran.exitCode, 4);
+    EXPECT_THAT(Run({"albums", "--accepted"}).out, HasSubstr("No album is accepted yet"));
+  }
+}
+
+TEST_F(AlbumsCommand, ShowsInTheReportWhatItAccepts) {
+  ScanTwoAlbums();
+  EXPECT_EQ(Run({"albums", "--report", "before.html"}).exitCode, 0);
+  const Ran ran = Run({"albums", "--accept", "all", "--report", "now.html"});
+  EXPECT_EQ(ran.exitCode, 0);
+  EXPECT_THAT(ran.out, HasSubstr("2 accepted."));
+  EXPECT_EQ(Run({"albums", "--report", "after.html"}).exitCode, 0);
+  EXPECT_NE(ReadFile(tree.Path("before.html")), ReadFile(tree.Path("now.html")));
+  EXPECT_EQ(ReadFile(tree.Path("after.html")), ReadFile(tree.Path("now.html")));
+}
+
+TEST_F(AlbumsCommand, OrdersDaysThatHaveNoMidnight) {
+  environment.insert(QStringLiteral("TZ"), QStringLiteral("America/Sao_Paulo"));
+  tree.Write("cache/lumidex/holidayEvents/HolidayEvents.json", R"({"events": {"en_US": [
+    {"event": "C before", "start": "14.10", "end": "14.10"},
+    {"event": "B skipped", "start": "15.10", "end": "15.10"},
+    {"event": "A after", "start": "16.10", "end": "16.10"}]}})");
+  MakePhotos("a", "2017:10:14", 20);
+  MakePhotos("b", "2017:10:15", 20);
+  MakePhotos("c", "2017:10:16", 20);
+  ASSERT_EQ(Run({"scan", Text(Photos())}).exitCode, 0);
+  const QJsonObject document = Run({"albums", "--json"}).Json();
+  ASSERT_EQ(document["albums"].toArray().size(), 3);
+  EXPECT_EQ(AlbumOf(document, 0)["title"].toString(), QStringLiteral("C before"));
+  EXPECT_EQ(AlbumOf(document, 1)["title"].toString(), QStringLiteral("B skipped"));
+  EXPECT_EQ(AlbumOf(document, 2)["title"].toString(), QStringLiteral("A after"));
+  EXPECT_EQ(AlbumOf(document, 1)["firstDay"].toString(), QStringLiteral("2017-10-15"));
+}
+
+TEST_F(AlbumsCommand, SaysWhenTheCalendarCannotBeRead) {
+  ScanTwoAlbums();
+  EXPECT_TRUE(Run({"albums", "--json"}).Json()["calendarFault"].isNull());
+  const ioPath stored = tree.Path("cache/lumidex/holidayEvents/HolidayEvents.json");
+  tree.Write("cache/lumidex/holidayEvents/HolidayEvents.json", R"({"events": {"en_US": [7]}})");
+  const Ran ran = Run({"albums", "-q"});
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_THAT(ran.out, HasSubstr("Weekend"));
+  EXPECT_THAT(ran.err, HasSubstr("The holiday calendar " + stored.utf8string() + " could not be read"));
+  EXPECT_THAT(ran.err, HasSubstr("lumidex calendar update"));
+  const Ran json = Run({"albums", "--json"});
+  EXPECT_EQ(json.exitCode, 1);
+  EXPECT_THAT(json.Json()["calendarFault"].toString().toStdString(), HasSubstr(stored.utf8string()));
+  EXPECT_EQ(Run({"albums", "--accepted"}).exitCode, 0);
+}
+
+TEST_F(AlbumsCommand, TakesNamesThatBeginLikeOptions) {
+  ScanTwoAlbums();
+  EXPECT_THAT(Run({"albums", "--accept", "--", "-foo"}).err, HasSubstr("\"-foo\""));
+  EXPECT_EQ(Run({"albums", "--report", "--", "-page.html"}).exitCode, 0);
+  EXPECT_TRUE(tree.Path("-page.html").exists());
+  EXPECT_THAT(Run({"albums", "--", "-foo"}).err, HasSubstr("The argument \"-foo\" is one too many"));
 }
 
 TEST_F(AlbumsCommand, ExitsWith4WhenTheReportCannotBeWritten) {

@@ -38,6 +38,35 @@ TEST_F(HelpPages, ComeOnDemandInEveryForm) {
   }
 }
 
+TEST_F(HelpPages, ComeWithOptionsOfTheProgram) {
+  const std::string page = Run({"help", "albums"}).out;
+  for (const QStringList& line : std::vector<QStringList>{{"-q", "help", "albums"},
+                                                          {"--json", "help", "albums"},
+                                                          {"-c", "help", "help", "albums"},
+                                                          {"-qc", "x", "help", "albums"},
+                                                          {"-cx", "help", "albums"},
+                                                          {"--catalogue=x", "help", "albums"},
+                                                          {"--catalogue", "x", "help", "albums"},
+                                                          {"help", "-q", "albums"},
+                                                          {"help", "help", "albums"}}) {
+    const Ran ran = Run(line);
+    EXPECT_EQ(ran.exitCode, 0) << line.join(QLatin1Char(' ')).toStdString();
+    EXPECT_EQ(ran.out, page) << line.join(QLatin1Char(' ')).toStdString();
+  }
+  EXPECT_EQ(Run({"help", "help"}).out, Run({"help"}).out);
+}
+
+TEST_F(HelpPages, AreNotThereForCommandsThatDoNotExist) {
+  for (const QStringList& line : std::vector<QStringList>{
+           {"help", "calendr"}, {"--help", "calendr"}, {"calendr", "--help"}, {"-q", "help", "calendr"}}) {
+    const Ran ran = Run(line);
+    EXPECT_EQ(ran.exitCode, 2) << line.join(QLatin1Char(' ')).toStdString();
+    EXPECT_THAT(ran.out, IsEmpty());
+    EXPECT_THAT(ran.err, HasSubstr("did you mean \"calendar\"?"));
+  }
+  EXPECT_THAT(Run({"help", "calendar", "chek"}).err, HasSubstr("did you mean \"check\"?"));
+}
+
 TEST_F(HelpPages, FitEveryTerminal) {
   for (const QStringList& command : Commands()) {
     std::istringstream page(Run(QStringList{"help"} + command).out);

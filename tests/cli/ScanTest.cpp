@@ -148,6 +148,21 @@ TEST_F(ScanCommand, ComparesWithTheCatalogueInADryRunAndLeavesItAlone) {
   EXPECT_EQ(ReadFile(DefaultCatalogue()), before);
 }
 
+#ifndef _WIN32
+TEST_F(ScanCommand, MakesNothingElsewhereWhenThereIsNoFolderForTemporaryFiles) {
+  MakePhotos("a", "2023:12:24", 1);
+  tree.Write("file", "");
+  for (const char* const name : {"nowhere", "file"}) {
+    environment.insert(QStringLiteral("TMPDIR"), Text(tree.Path(name)));
+    const Ran ran = Run({"scan", "--dry-run", Text(Photos())});
+    EXPECT_EQ(ran.exitCode, 4) << name;
+    EXPECT_THAT(ran.err, HasSubstr(tree.Path(name).utf8string()));
+    EXPECT_FALSE(tree.Path("catalogue.sqlite").exists());
+  }
+  EXPECT_FALSE(tree.Path("nowhere").exists());
+}
+#endif
+
 TEST_F(ScanCommand, MakesNoCatalogueForAFolderThatIsMissing) {
   const Ran ran = Run({"scan", "nowhere"});
   EXPECT_EQ(ran.exitCode, 4);
@@ -169,6 +184,13 @@ TEST_F(ScanCommand, TakesFoldersThatAreCalledLikeCommandsOrOptions) {
   EXPECT_EQ(Number(Run({"scan", "--json", "albums"}).Json(), "added"), 1);
   EXPECT_EQ(Number(Run({"scan", "--json", "--", "-x"}).Json(), "added"), 1);
   EXPECT_EQ(Number(Run({"scan", "--json", "albums", "--", "-x"}).Json(), "unchanged"), 2);
+}
+
+TEST_F(ScanCommand, TakesFoldersWithBracketsAsTheyAre) {
+  for (const char* const name : {"[a,b]", "[2020]", "[]"}) {
+    WriteJpeg(tree.Path(name) / "a.jpg");
+    EXPECT_EQ(Number(Run({"scan", "--json", name}).Json(), "added"), 1) << name;
+  }
 }
 
 TEST_F(ScanCommand, TakesGlobalOptionsOnEitherSide) {

@@ -113,13 +113,28 @@ TEST_F(CheckingACalendar, FindsEmptyAndRepeatedNames) {
 }
 
 TEST_F(CheckingACalendar, FindsMissingLocales) {
-  const ioPath file = tree.Write("calendar.json", R"({"events": {"de_DE": [], "xx_XX": "not looked at"}})");
+  const ioPath file = tree.Write("calendar.json", R"({"events": {"de_DE": []}})");
   std::vector<std::string> missing;
   for (const CalendarFinding& finding : CheckCalendar(file)) {
     EXPECT_EQ(finding.number, 0);
     missing.push_back(finding.locale);
   }
   EXPECT_THAT(missing, ElementsAre("en_US", "es_ES", "fr_FR", "it_IT", "ja_JP", "nl_NL", "pt_BR", "ru_RU"));
+}
+
+TEST_F(CheckingACalendar, FindsLocalesOfNoInterfaceLanguage) {
+  std::string text = CalendarOf({{"A", "01.01", "01.01"}});
+  text.insert(text.rfind("}}"),
+              R"(, "xx": 7, "en_us": [{"event": "", "start": "01.01", "end": "01.01"}], "pt_PT": [])");
+  std::vector<std::string> texts;
+  for (const CalendarFinding& finding : CheckCalendar(tree.Write("calendar.json", text))) {
+    texts.push_back(finding.locale + ' ' + std::to_string(finding.number) + ": " + finding.text);
+  }
+  EXPECT_THAT(texts,
+              ElementsAre("en_us 0: No interface language has this name; did you mean en_US?",
+                          HasSubstr("en_us 1: The event has no name"),
+                          "pt_PT 0: No interface language has this name; did you mean pt_BR?",
+                          "xx 0: No interface language has this name.", "xx 0: This is no list of events."));
 }
 
 TEST_F(CheckingACalendar, FindsEventsThatOthersHide) {

@@ -1,6 +1,7 @@
 #include "RawSql.h"
 #include "Records.h"
 
+#include <host/Albums.h>
 #include <host/Catalogue.h>
 #include <support/TempTree.h>
 
@@ -68,7 +69,7 @@ Album Proposal(const QString& name, const QDate& day, const std::vector<QString>
 TEST_F(CatalogueContent, IsEmptyAtFirst) {
   EXPECT_EQ(catalogue_.CountPhotos(), 0U);
   EXPECT_THAT(catalogue_.Photos(), IsEmpty());
-  EXPECT_THAT(catalogue_.PhotoModels(), IsEmpty());
+  EXPECT_THAT(MakeModels(catalogue_.Photos()), IsEmpty());
   EXPECT_THAT(catalogue_.Albums(), IsEmpty());
   EXPECT_TRUE(catalogue_.Stamps("/").empty());
   EXPECT_EQ(catalogue_.File(), file_);
@@ -158,7 +159,7 @@ TEST_F(CatalogueContent, OrdersPhotosByDateThenPath) {
 
 TEST_F(CatalogueContent, GivesPhotosAsLibraryItems) {
   catalogue_.Store({Photo("/p/b.jpg"), Photo("/p/a.jpg")});
-  const std::vector<DataModel> models = catalogue_.PhotoModels();
+  const std::vector<DataModel> models = MakeModels(catalogue_.Photos());
   ASSERT_EQ(models.size(), 2U);
   EXPECT_EQ(models[0].GetName(), QStringLiteral("a.jpg"));
   EXPECT_EQ(models[0].GetId(), catalogue_.Photos().at(0).id);

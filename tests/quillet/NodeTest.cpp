@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace Zenvora::Quillet {
 namespace {
@@ -40,6 +41,13 @@ TEST(Node, KnowsItsMembersOfEveryKind) {
     EXPECT_FALSE(root->HasChild(name)) << name;
   }
   EXPECT_FALSE(root->GetArray("list")->HasChild("0"));
+}
+
+TEST(Node, ListsItsMembersSorted) {
+  const Node root = RootOf(R"({"b": 1, "gr\u00fcn": null, "": {}, "a": [], "B": "", "a\u0000": 2})");
+  EXPECT_EQ(root->GetNames(), (std::vector<std::string>{"", "B", "a", "a\0"s, "b", "gr\xC3\xBCn"}));
+  EXPECT_EQ(RootOf("{}")->GetNames(), std::vector<std::string>());
+  EXPECT_EQ(RootOf(R"({"list": [{"a": 1}]})")->GetArray("list")->GetNames(), std::vector<std::string>());
 }
 
 TEST(Node, GivesTextsAndTheDefaultForMissingOnes) {

@@ -1,24 +1,25 @@
 #include "AlbumNames.h"
 #include "AlbumsView.h"
+#include "CalendarWatch.h"
 #include "Commands.h"
 #include "Failure.h"
 #include "Interrupt.h"
 #include "Options.h"
 #include "Progress.h"
+#include "ReportTarget.h"
 #include "TerminalText.h"
 
 #include <host/Albums.h>
 #include <host/Catalogue.h>
+#include <host/HostError.h>
 #include <host/Report.h>
-#include <host/Scanner.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <memory>
-#include <system_error>
+#include <string>
 #include <tuple>
 #include <unordered_map>
 #include <unordered_set>
@@ -51,9 +52,13 @@ Examples:
   lumidex albums --accept all --report albums.html
   lumidex albums --accepted              what was accepted so far
 
-Exit codes: 0 done; 1 the catalogue holds no photos; 3 pictures are missing in
-the report; 4 there is no catalogue, it cannot be read or written, NAME fits no
-album or several, or the report cannot be written; 130 interrupted.)";
+A report replaces an older page of its name, but never a photo, a file of the
+catalogue or anything else that is no page.
+
+Exit codes: 0 done; 1 the catalogue holds no photos, or the holiday calendar
+cannot be read; 3 pictures are missing in the report; 4 there is no catalogue,
+it cannot be read or written, NAME fits no album or several, or the report
+cannot be written; 130 interrupted.)";
 
 struct AlbumsArguments {
   std::string locale;
@@ -93,13 +98,14 @@ class PhotoIndex {
   std::unordered_map<std::string, const PhotoRecord*> byId_;
 };
 
-// By first day, then name.
+// By first day, then name. By days alone: where the clocks go forward at midnight a day has no 00:00.
 void SortByTime(std::vector<Album>& proposals) {
   std::sort(proposals.begin(), proposals.end(), [](const Album& left, const Album& right) {
     const DataModel& a = left.GetModel();
     const DataModel& b = right.GetModel();
-    return std::forward_as_tuple(a.GetDateTime(), a.GetName()) <
-           std::forward_as_tuple(b.GetDateTime(), b.GetName());
+    const QDate dayOfA = a.GetDateTime().date();
+    const QDate dayOfB = b.GetDateTime().date();
+    return std::forward_as_tuple(dayOfA, a.GetName()) < std::forward_as_tuple(dayOfB, b.GetName());
   });
 }
 
@@ -157,8 +163,8 @@ std::vector<AlbumRow> RowsOf(const std::vector<Host::StoredAlbum>& stored, const
   return rows;
 }
 
-std::vector<const Album*> ChosenAlbums(const std::vector<std::string>& wishes,
-                                       const std::vector<Album>& proposals) {
+std::vector<std::size_t> ChosenAlbums(const std::vector<std::string>& wishes,
+                                      const std::vector<Album>& proposals) {
   std::vector<QString> names;
   names.reserve(proposals.size());
   for (const Album& proposal : proposals) {
@@ -174,22 +180,7 @@ std::vector<const Album*> ChosenAlbums(const std::vector<std::string>& wishes,
                                   : "No album is called " + wish + "; nothing was accepted. There are:",
                   choice.candidates);
   }
-  std::vector<const Album*> chosen;
-  for (const std::size_t place : choice.chosen) {
-    chosen.push_back(&proposals[place]);
-  }
-  return chosen;
-}
-
-// The page replaces the file of its name: that must never be a picture, nor the catalogue itself.
-void RequireReportName(const ioPath& report, const ioPath& catalogue) {
-  if (Host::IsPhotoName(report)) {
-    throw UsageError("--report: " + report.utf8string() + " is named like a photo; a page ends in .html");
-  }
-  std::error_code ignored;
-  if (std::filesystem::equivalent(report.native(), catalogue.native(), ignored)) {
-    throw UsageError("--report: " + report.utf8string() + " is the catalogue");
-  }
+  return choice.chosen;
 }
 
 int WriteReport(const AlbumsView& view, Session& session) {
@@ -259,29 +250,77 @@ class AlbumsRun {
     } else {
       Propose();
     }
-    if (!arguments_.report.empty()) {
-      view_.report = AbsolutePath(arguments_.report);
-      view_.missingPictures = WriteReport(view_, session_);
-    }
+    Report();
+    Accept();
     session_.output.Print(session_.globals.json ? AlbumsDocument(view_) : AlbumsText(view_));
-    return view_.missingPictures > 0 ? ExitCode::Partly : ExitCode::Done;
+    return Judge();
   }
 
  private:
   void Propose() {
-    std::vector<Album> proposals = Host::ProposeAlbums(catalogue_.PhotoModels(), &session_.interrupted);
-    SortByTime(proposals);
-    for (const Album* const chosen : ChosenAlbums(arguments_.accept, proposals)) {
-      ThrowIfInterrupted("Interrupted. Albums accepted so far stay accepted.");
-      view_.accepted.push_back({chosen->GetModel().GetName(), catalogue_.AcceptAlbum(*chosen)});
+    const CalendarWatch watch;
+    proposals_ = Host::ProposeAlbums(Host::MakeModels(photos_.All()), &session_.interrupted);
+    view_.calendarFault = watch.Fault();
+    SortByTime(proposals_);
+    chosen_ = ChosenAlbums(arguments_.accept, proposals_);
+    view_.rows = RowsOf(proposals_, catalogue_.Albums(), photos_);
+    for (const std::size_t place : chosen_) {
+      view_.rows[place].accepted = true;
+      view_.rows[place].notAccepted = 0;
     }
-    view_.rows = RowsOf(proposals, catalogue_.Albums(), photos_);
+  }
+
+  // Before anything is accepted: where no page can be written nothing was done.
+  void Report() {
+    if (arguments_.report.empty()) {
+      return;
+    }
+    const ioPath report = AbsolutePath(arguments_.report);
+    RequireReplaceable(report, photos_.All());
+    view_.report = report;
+    view_.missingPictures = WriteReport(view_, session_);
+  }
+
+  void Accept() {
+    for (const std::size_t place : chosen_) {
+      ThrowIfInterrupted(("Interrupted." + DoneSoFar()).c_str());
+      const Album& album = proposals_[place];
+      try {
+        view_.accepted.push_back({album.GetModel().GetName(), catalogue_.AcceptAlbum(album)});
+      } catch (const Host::HostError& error) {
+        throw Failure("failed", error.what() + DoneSoFar());
+      }
+    }
+  }
+
+  // For a run that ends half way.
+  std::string DoneSoFar() const {
+    std::string names;
+    for (const AcceptedRow& row : view_.accepted) {
+      names += (names.empty() ? " Accepted before that: \"" : "\", \"") + OneLineName(row.name);
+    }
+    const std::string accepted = names.empty() ? " No album was accepted." : names + "\".";
+    return view_.report ? accepted + " The page " + view_.report->utf8string() +
+                              " is written; it shows all chosen albums as accepted."
+                        : accepted;
+  }
+
+  ExitCode Judge() const {
+    ExitCode code = ExitCode::Done;
+    if (view_.calendarFault) {
+      session_.console.Warning(*view_.calendarFault);
+      code = ExitCode::Findings;
+    }
+    return view_.missingPictures > 0 ? ExitCode::Partly : code;
   }
 
   const AlbumsArguments& arguments_;
   Session& session_;
   Catalogue catalogue_;
   const PhotoIndex photos_;
+  std::vector<Album> proposals_;
+  /// Places in `proposals_`, and so in the rows.
+  std::vector<std::size_t> chosen_;
   AlbumsView view_;
 };
 
@@ -305,7 +344,7 @@ void AddAlbumsCommand(CLI::App& program, Action& chosen) {
                                         "Accept the album of that name, or all. Can be given several times.")
                            ->option_text("NAME|all")
                            ->allow_extra_args(false)
-                           ->check(NotEmpty());
+                           ->transform(Text());
   command->add_flag("--accepted", arguments->accepted, "Show the accepted albums instead of the proposals.")
       ->disable_flag_override()
       ->excludes(accept);
@@ -313,12 +352,12 @@ void AddAlbumsCommand(CLI::App& program, Action& chosen) {
       ->add_option("--report", arguments->report,
                    "Write the albums shown as an HTML page with their pictures.")
       ->option_text("FILE")
-      ->check(NotEmpty());
+      ->transform(Text());
   command
       ->add_option("--locale", arguments->locale,
                    "Holidays and wording of that language for this run, such as de_DE.")
       ->option_text("LOCALE")
-      ->check(NotEmpty());
+      ->transform(Text());
   command->callback([arguments, &chosen] {
     chosen = [arguments](Session& session) { return RunAlbums(*arguments, session); };
   });

@@ -170,6 +170,11 @@ std::string AlbumsDocument(const AlbumsView& view) {
   } else {
     json.Null("report");
   }
+  if (view.calendarFault) {
+    json.Text("calendarFault", *view.calendarFault);
+  } else {
+    json.Null("calendarFault");
+  }
   return json.Finish();
 }
 

@@ -41,6 +41,8 @@ struct AlbumsView {
   std::vector<AcceptedRow> accepted;
   std::optional<ioPath> report;
   int missingPictures = 0;
+  /// Why holidays are missing, for a person.
+  std::optional<std::string> calendarFault;
 };
 
 /// docs/formats/json-output.md, lumidex.albums.

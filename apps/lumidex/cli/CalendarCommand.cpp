@@ -47,7 +47,7 @@ constexpr char kCheckDescription[] =
     "Check a calendar file for mistakes.\n"
     "\n"
     "Finds days that do not exist, events that are never found because others stand\n"
-    "before them, missing and repeated names, and missing languages.";
+    "before them, missing and repeated names, and missing and unknown languages.";
 
 constexpr char kCheckFooter[] =
     R"(Examples:
@@ -236,7 +236,7 @@ void AddShow(CLI::App& calendar, const Arguments& arguments, Action& chosen) {
       ->add_option("--locale", arguments->locale,
                    "The language, such as de_DE. Usual: that of the interface.")
       ->option_text("LOCALE")
-      ->check(NotEmpty());
+      ->transform(Text());
   command->add_option("--year", arguments->year, "The year of the dates, 1 to 9998. Usual: this year.")
       ->option_text("YEAR")
       ->check(WholeNumber(1, 9998));
@@ -249,7 +249,7 @@ void AddCheck(CLI::App& calendar, const Arguments& arguments, Action& chosen) {
   CLI::App* const command = calendar.add_subcommand("check", kCheckDescription);
   command->footer(kCheckFooter);
   command->add_option("FILE", arguments->file, "The calendar file. Usual: the calendar in use.")
-      ->check(NotEmpty());
+      ->transform(Text());
   command->callback([arguments, &chosen] {
     chosen = [arguments](Session& session) { return RunCheck(*arguments, session); };
   });

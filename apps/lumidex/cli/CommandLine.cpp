@@ -11,6 +11,8 @@ namespace Zenvora::Lumidex::Cli {
 
 namespace {
 
+using Words = std::vector<std::string>;
+
 constexpr char kDescription[] =
     "Lumidex keeps track of your photos and proposes albums for holidays and\n"
     "weekends. It reads your photos and never changes, moves or deletes one.";
@@ -44,7 +46,7 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
       ->add_option("-c,--catalogue,--catalog", globals.catalogue,
                    "The catalogue's file. Usual: lumidex/catalogue.sqlite in your data folder.")
       ->option_text("FILE")
-      ->check(NotEmpty());
+      ->transform(Text());
   program->add_flag("--json", globals.json, "Print the result as one JSON document.")
       ->disable_flag_override();
   program->add_flag("-q,--quiet", globals.quiet, "Print no notes and no progress.")->disable_flag_override();
@@ -67,22 +69,49 @@ void Complete(CLI::App& command) {
   }
 }
 
-/// `help COMMAND` is `COMMAND --help`. Names behind "--" are files, whatever they begin with.
-std::vector<std::string> Rewritten(std::vector<std::string> arguments) {
-  const auto mark = std::find(arguments.begin(), arguments.end(), "--");
-  if (mark != arguments.end()) {
-    for (auto name = mark + 1; name != arguments.end(); ++name) {
-      if (!name->empty() && name->front() == '-') {
-        *name = "./" + *name;
-      }
+/// True for an option of the program itself that takes the next word as its value.
+bool WantsValue(const std::string& word) {
+  if (word == "--catalogue" || word == "--catalog") {
+    return true;
+  }
+  // "-qc" wants one, "-cFILE" has it.
+  const bool isShort = word.size() > 1 && word[0] == '-' && word[1] != '-';
+  return isShort && word.find('c') == word.size() - 1;
+}
+
+/// The first word that is neither an option of the program nor the value of one.
+Words::iterator FindCommand(Words& words) {
+  auto word = words.begin();
+  while (word != words.end() && word->size() > 1 && word->front() == '-') {
+    if (WantsValue(*word) && word + 1 != words.end()) {
+      ++word;
     }
-    arguments.erase(mark);
+    ++word;
   }
-  if (!arguments.empty() && arguments.front() == "help") {
-    arguments.erase(arguments.begin());
-    arguments.emplace_back("--help");
+  return word;
+}
+
+/// `help COMMAND` is `COMMAND --help`. Words behind "--" are no options, whatever they begin with.
+Words Rewritten(Words words) {
+  const auto mark = std::find(words.begin(), words.end(), "--");
+  if (mark != words.end()) {
+    std::transform(mark + 1, words.end(), mark + 1, [](const std::string& word) {
+      return !word.empty() && word.front() == '-' ? MarkVerbatim(word) : word;
+    });
+    words.erase(mark);
   }
-  return arguments;
+  // The parser takes brackets for a list: "[a,b]" is one folder.
+  std::transform(words.begin(), words.end(), words.begin(), [](const std::string& word) {
+    return !word.empty() && word.front() == '[' ? MarkVerbatim(word) : word;
+  });
+  auto command = FindCommand(words);
+  if (command != words.end() && *command == "help") {
+    while (command != words.end() && *command == "help") {
+      command = words.erase(command);
+    }
+    words.emplace_back("--help");
+  }
+  return words;
 }
 
 std::size_t EditDistance(const std::string& left, const std::string& right) {
@@ -151,25 +180,41 @@ const CLI::App& GivenCommand(const CLI::App& command) {
   throw UsageError(text + " (see: " + HelpHint(command) + ")");
 }
 
+[[noreturn]] void ThrowNoCommand(const CLI::App& command, const std::string& word) {
+  ThrowUsage(command, "There is no command \"" + word + '"' + Suggestion(word, NamesOfCommands(command)));
+}
+
 void CheckLeftOvers(const CLI::App& program) {
   const std::vector<std::string> left = program.remaining(true);
   const CLI::App& command = GivenCommand(program);
+  const bool wantsCommand = !command.get_subcommands({}).empty();
   if (!left.empty()) {
-    const std::string& first = left.front();
-    const bool isOption = first.size() > 1 && first.front() == '-';
-    const bool wantsCommand = !command.get_subcommands({}).empty();
+    const std::string first = Unmarked(left.front());
+    const bool isOption = first.size() > 1 && first.front() == '-' && !IsVerbatim(left.front());
     if (isOption) {
       ThrowUsage(command, "There is no option " + first +
                               Suggestion(first.substr(0, first.find('=')), NamesOfOptions(command)));
     }
     if (wantsCommand) {
-      ThrowUsage(command,
-                 "There is no command \"" + first + '"' + Suggestion(first, NamesOfCommands(command)));
+      ThrowNoCommand(command, first);
     }
     ThrowUsage(command, "The argument \"" + first + "\" is one too many");
   }
-  if (!command.get_subcommands({}).empty()) {
+  if (wantsCommand) {
     ThrowUsage(command, "A command is missing: " + CLI::detail::join(NamesOfCommands(command), ", "));
+  }
+}
+
+/// Help comes for any line but one that names a command which does not exist.
+void CheckHelpTopic(const CLI::App& program) {
+  const CLI::App& command = GivenCommand(program);
+  if (command.get_subcommands({}).empty()) {
+    return;
+  }
+  for (const std::string& word : program.remaining(true)) {
+    if (IsVerbatim(word) || word.empty() || word.front() != '-') {
+      ThrowNoCommand(command, Unmarked(word));
+    }
   }
 }
 
@@ -199,12 +244,13 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   const auto program = MakeProgram(globals, chosen);
   Complete(*program);
 
-  std::vector<std::string> reversed = Rewritten(arguments);
+  Words reversed = Rewritten(arguments);
   std::reverse(reversed.begin(), reversed.end());
   try {
     program->parse(reversed);
     CheckLeftOvers(*program);
   } catch (const CLI::CallForHelp&) {
+    CheckHelpTopic(*program);
     parsed.text = HelpPage(GivenCommand(*program));
     return parsed;
   } catch (const CLI::CallForVersion& version) {

@@ -12,8 +12,16 @@
 
 namespace Zenvora::Lumidex::Cli {
 
-/// Refuses an empty text, which a script with an unset variable passes.
-CLI::Validator NotEmpty();
+/// A word that the parser must take as it is, whatever it begins with; `Text` takes the mark off again. Only
+/// for words from the command line, which never hold the mark.
+std::string MarkVerbatim(const std::string& word);
+bool IsVerbatim(const std::string& word);
+/// The word without its mark, if it has one.
+std::string Unmarked(const std::string& word);
+
+/// For every option and argument that is a text. Refuses an empty one, which a script with an unset variable
+/// passes. To be added with `transform`: it takes off the mark of `MarkVerbatim`.
+CLI::Validator Text();
 
 /// Refuses everything but decimal digits that make a number in the range.
 CLI::Validator WholeNumber(long long least, long long most);

@@ -86,7 +86,7 @@ void AddSampleCommand(CLI::App& program, Action& chosen) {
   command->footer(kFooter);
   command->add_option("DIR", arguments->folder, "The folder to make, with its parents.")
       ->required()
-      ->check(NotEmpty());
+      ->transform(Text());
   command->add_option("--seed", arguments->seed, "Which collection, 0 to 4294967295. Usual: 1.")
       ->option_text("N")
       ->check(WholeNumber(0, 4'294'967'295));

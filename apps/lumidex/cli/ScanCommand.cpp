@@ -12,6 +12,7 @@
 
 #include <glog/logging.h>
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -57,6 +58,22 @@ struct ScanArguments {
   int threads = 0;
 };
 
+std::unique_ptr<QTemporaryDir> MakeScratch() {
+  // Of a folder for temporary files that is missing Qt gives an empty name, and then uses the root folder.
+  const QString parent = QDir::tempPath();
+  if (parent.isEmpty()) {
+    throw Failure("failed", "A dry run needs the folder for temporary files, but there is none: " +
+                                qEnvironmentVariable("TMPDIR").toStdString());
+  }
+  auto scratch = std::make_unique<QTemporaryDir>();
+  // Its path would be empty, and the catalogue be made in the current folder.
+  if (!scratch->isValid()) {
+    throw Failure("failed", "A dry run needs a folder in " + parent.toStdString() +
+                                ", which cannot be made: " + scratch->errorString().toStdString());
+  }
+  return scratch;
+}
+
 /// A catalogue to compare with. A dry run makes none: without one it compares with an empty one that is
 /// thrown away.
 class OpenCatalogue {
@@ -67,7 +84,7 @@ class OpenCatalogue {
     } else if (file.exists()) {
       catalogue_ = std::make_unique<Catalogue>(file, Catalogue::Mode::ReadOnly);
     } else {
-      scratch_ = std::make_unique<QTemporaryDir>();
+      scratch_ = MakeScratch();
       catalogue_ = std::make_unique<Catalogue>(ioPath(scratch_->path()) / "catalogue.sqlite",
                                                Catalogue::Mode::ReadWrite);
     }
@@ -234,7 +251,7 @@ void AddScanCommand(CLI::App& program, Action& chosen) {
   command->footer(kFooter);
   command->add_option("DIR", arguments->folders, "Folders (or single files) to take in, with all below them.")
       ->required()
-      ->check(NotEmpty());
+      ->transform(Text());
   command->add_flag("--full", arguments->full, "Read every file again, also unchanged ones.")
       ->disable_flag_override();
   command

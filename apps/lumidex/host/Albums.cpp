@@ -22,6 +22,19 @@ struct Answer {
 
 }  // namespace
 
+std::vector<DataModel> MakeModels(const std::vector<PhotoRecord>& photos) {
+  std::vector<DataModel> models;
+  models.reserve(photos.size());
+  for (const PhotoRecord& photo : photos) {
+    DataModel model(photo.path.filename().qstring(), photo.id, ItemType::Photo);
+    model.SetPath(photo.path);
+    model.SetSize(photo.size);
+    model.SetDateTime(photo.taken);
+    models.push_back(std::move(model));
+  }
+  return models;
+}
+
 std::vector<Album> ProposeAlbums(std::vector<DataModel> photos, const std::atomic<bool>* cancel) {
   const auto answer = std::make_shared<Answer>();
   Util::GenerateHolidayAlbums(std::move(photos), [answer](const std::vector<Album>& albums) {

@@ -13,6 +13,7 @@
 #include <QDateTime>
 #include <QFile>
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <optional>
@@ -52,6 +53,8 @@ class Calendar : public Quillet::Config::IParserConfigBase {
   }
 
   bool Has(const std::string& locale) const { return locales_->HasChild(locale); }
+
+  std::vector<std::string> Locales() const { return locales_->GetNames(); }
 
   std::vector<WrittenEvent> Read(const std::string& locale) const {
     std::vector<WrittenEvent> events;
@@ -184,6 +187,27 @@ class LocaleCheck {
   std::map<QString, int> firstOfName_;
 };
 
+bool IsInterfaceLanguage(const std::string& locale) {
+  const auto& spoken = App::InterfaceLanguages();
+  return std::find(spoken.begin(), spoken.end(), locale) != spoken.end();
+}
+
+// Of a list that nobody asks for: a slip in its name, or the list of a language still to come.
+void CheckUnknownLocale(const Calendar& calendar, const std::string& locale,
+                        std::vector<CalendarFinding>& findings) {
+  const App::InterfaceLanguage nearest = App::FindInterfaceLanguage(locale);
+  findings.push_back(
+      {locale, 0,
+       "No interface language has this name" +
+           (nearest.match == App::LanguageMatch::None ? "." : "; did you mean " + nearest.locale + "?")});
+  try {
+    LocaleCheck(locale, calendar.Read(locale), findings).Run();
+  } catch (const Core::JsonException&) {
+    // Album proposals never read it, so the file serves all the same.
+    findings.push_back({locale, 0, "This is no list of events."});
+  }
+}
+
 ioPath ShippedCalendar() {
   return App::GetPathToResources() / (ResourceName().toStdString() + ".json");
 }
@@ -285,6 +309,11 @@ std::vector<CalendarFinding> CheckCalendar(const ioPath& file) {
       continue;
     }
     LocaleCheck(locale, calendar.Read(locale), findings).Run();
+  }
+  for (const std::string& locale : calendar.Locales()) {
+    if (!IsInterfaceLanguage(locale)) {
+      CheckUnknownLocale(calendar, locale, findings);
+    }
   }
   return findings;
 }

@@ -366,18 +366,6 @@ std::vector<PhotoRecord> Catalogue::Photos() const {
   return photos;
 }
 
-std::vector<DataModel> Catalogue::PhotoModels() const {
-  std::vector<DataModel> models;
-  for (const PhotoRecord& photo : Photos()) {
-    DataModel model(photo.path.filename().qstring(), photo.id, ItemType::Photo);
-    model.SetPath(photo.path);
-    model.SetSize(photo.size);
-    model.SetDateTime(photo.taken);
-    models.push_back(std::move(model));
-  }
-  return models;
-}
-
 AcceptResult Catalogue::AcceptAlbum(const Album& proposal) {
   AcceptResult result;
   WriteTransaction transaction(impl_->Database());

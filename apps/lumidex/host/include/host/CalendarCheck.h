@@ -32,10 +32,10 @@ struct CalendarFinding {
   std::string text;
 };
 
-/// All mistakes: missing locales, invalid days, 29 February, empty or repeated names, events wholly hidden
-/// behind earlier ones. Ordered by locale (as `App::InterfaceLanguages`), then number. Empty: the calendar is
-/// sound. Lists of other locales are not looked at. Throws `Core::JsonException` for a file that is no
-/// calendar.
+/// All mistakes: missing locales, locales that are no interface language, invalid days, 29 February, empty or
+/// repeated names, events wholly hidden behind earlier ones. Ordered by locale (as `App::InterfaceLanguages`,
+/// then the others by name), then number. Empty: the calendar is sound. Throws `Core::JsonException` for a
+/// file that is no calendar.
 std::vector<CalendarFinding> CheckCalendar(const ioPath& file);
 
 /// For each event: the numbers (from 1) of the earlier events that together cover all its days; empty where

@@ -4,7 +4,6 @@
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/Album.h>
-#include <zenvora/lumidex/DataModel.h>
 
 #include <QDateTime>
 #include <QString>
@@ -97,8 +96,6 @@ class Catalogue {
   std::size_t CountPhotos() const;
   /// All photos that are not lost, by date taken, then path.
   std::vector<PhotoRecord> Photos() const;
-  /// The same as library items (name: the file's name), in the same order.
-  std::vector<DataModel> PhotoModels() const;
 
   /// Stores the album under its name. An album of that name that was accepted before keeps its id and gains
   /// the missing members, at its end; nothing is ever taken out. One transaction. Throws, having stored

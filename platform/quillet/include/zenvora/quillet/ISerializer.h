@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace Zenvora::Quillet {
 
@@ -29,6 +30,8 @@ class ZENVORA_QUILLET_EXPORT ISerializer : public virtual IRefCountable {
   virtual boost::intrusive_ptr<const ISerializer> GetElement(std::size_t index) const = 0;
   /// The member text in UTF-8; `defaultText` when there is no such member; throws when it is no text.
   virtual std::string GetText(const std::string& key, const std::string& defaultText) const = 0;
+  /// The names of an object's members in UTF-8, sorted, each once; none for an array.
+  virtual std::vector<std::string> GetNames() const = 0;
 
  protected:
   ~ISerializer() override;
