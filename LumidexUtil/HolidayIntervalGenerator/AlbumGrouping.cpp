@@ -143,7 +143,8 @@ class Grouping {
 
   /// The first event in file order that holds the key; `NO_EVENT` also when that one has no name.
   std::ptrdiff_t FindEvent(const QDate& key, const QDate& day) {
-    auto& known = eventOfDay_[static_cast<std::size_t>(day.month() * DAYS_PER_MONTH + day.day())];
+    auto& known = eventOfDay_[static_cast<std::size_t>(day.month()) * DAYS_PER_MONTH +
+                              static_cast<std::size_t>(day.day())];
     if (!known) {
       known = NO_EVENT;
       for (std::size_t i = 0; i < events_.size(); ++i) {
@@ -156,12 +157,12 @@ class Grouping {
     return *known;
   }
 
-  static constexpr int DAYS_PER_MONTH = 32;
+  static constexpr std::size_t DAYS_PER_MONTH = 32;
 
   const std::vector<HolidayEvent>& events_;
   const AlbumTexts& texts_;
   // By month (0: no date) and day.
-  std::array<std::optional<std::ptrdiff_t>, std::size_t{13} * DAYS_PER_MONTH> eventOfDay_;
+  std::array<std::optional<std::ptrdiff_t>, 13 * DAYS_PER_MONTH> eventOfDay_;
   std::map<QString, Group> groups_;
   std::map<OccurrenceKey, Group*> groupOfOccurrence_;
   std::unordered_map<qint64, Group*> groupOfDay_;

@@ -23,7 +23,6 @@ namespace Zenvora::Util {
 using Lumidex::Album;
 using Lumidex::DataModel;
 using Quillet::ISerializer;
-using Tavolin::IDownloadableResourceInfo;
 
 namespace {
 
@@ -51,7 +50,7 @@ class Impl : public QObject, public Quillet::Config::IParserConfigBase, public T
     Init(QString::fromStdString(RESOURCE_NAME), QStringLiteral("json"), QStringLiteral("holidayEvents"));
     SetDownloadHandler(
         [this, done = std::move(done), photos = std::move(photos)](
-            bool ok, const IDownloadableResourceInfo& info) { Finish(ok, info, photos, done); });
+            bool ok, const Tavolin::IDownloadableResourceInfo& info) { Finish(ok, info, photos, done); });
     StartDownload(false);
   }
 
@@ -82,7 +81,7 @@ class Impl : public QObject, public Quillet::Config::IParserConfigBase, public T
   }
 
  private:
-  void Finish(bool ok, const IDownloadableResourceInfo& info, const std::vector<DataModel>& photos,
+  void Finish(bool ok, const Tavolin::IDownloadableResourceInfo& info, const std::vector<DataModel>& photos,
               const std::function<void(const std::vector<Album>&)>& done) {
     calendarPath_ = ok ? info.GetFilePath().toStdString() : ShippedCalendar();
     ReadCalendar();

@@ -26,7 +26,6 @@ namespace {
 
 using Quillet::ISerializer;
 
-constexpr int kReferenceYear = 1900;
 constexpr int kDaysInYear = 365;
 
 // The names under which album proposals know the calendar.
