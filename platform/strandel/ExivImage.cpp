@@ -64,7 +64,11 @@ ExivResult ReadExivImage(PhotoSource& source, ExifFields& fields, std::string& c
   const std::lock_guard<std::mutex> lock(XmpMutex());
   SetUpOnce();
   try {
+    // Exiv2 0.27 takes nothing else.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
     image = Exiv2::ImageFactory::open(Exiv2::BasicIo::AutoPtr(new PhotoIo(source)));
+#pragma GCC diagnostic pop
     if (image.get() == nullptr || !HoldsPicture(image->imageType())) {
       return ExivResult::UnknownFormat;
     }

@@ -15,8 +15,6 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-
 void PaintTower(Stage& stage, double x, double width, double top, double base, const QColor& wall,
                 bool near) {
   QPainter& p = stage.painter;
