@@ -41,7 +41,7 @@ LUMIDEX_TEST_VISIBLE std::string AskThroughOneMore() {
 
 LUMIDEX_TEST_VISIBLE void BehindIt() {}
 
-// NOLINTNEXTLINE(misc-no-recursion): a deep stack is the matter
+// A deep stack is the matter
 LUMIDEX_TEST_VISIBLE std::string AskFromDepth(int depth) {
   std::string text = depth == 0 ? GetCallStack() : AskFromDepth(depth - 1);
   text += "";

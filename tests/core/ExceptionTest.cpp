@@ -45,7 +45,7 @@ TEST(ExceptionTags, AreAbsentUntilPutAndReplacedWhenPutAgain) {
 
 TEST(ExceptionTags, SurviveCopyAndAssignment) {
   const auto failure = Described<Core::JsonException>("d");
-  // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the copy is the matter
+  // The copy is the matter
   const Core::JsonException copy(failure);
   EXPECT_STREQ(copy.what(), "d");
   Core::JsonException assigned;

@@ -27,7 +27,7 @@ TEST(RefCount, StartsAtZeroAndCountsBothWays) {
 TEST(RefCount, IsNotCopiedWithItsObject) {
   const RefCountImpl original;
   original.AddRefImpl();
-  const RefCountImpl copy(original);  // NOLINT(performance-unnecessary-copy-initialization)
+  const RefCountImpl copy(original);
   EXPECT_EQ(copy.GetRefCountImpl(), 0U);
 
   RefCountImpl assigned;
@@ -45,7 +45,7 @@ TEST(RefCountable, IsDeletedByItsLastRelease) {
   EXPECT_EQ(object->Release(), 1U);
   EXPECT_EQ(deleted, 0);
   // The analyser cannot follow the counter and takes the first release for the last.
-  EXPECT_EQ(object->Release(), 0U);  // NOLINT(clang-analyzer-cplusplus.NewDelete)
+  EXPECT_EQ(object->Release(), 0U);
   EXPECT_EQ(deleted, 1);
 }
 
@@ -55,7 +55,7 @@ TEST(RefCountable, LivesAsLongAsAPointer) {
     const Pointer first(new Counted(deleted));
     EXPECT_EQ(first->GetRefCount(), 1U);
     {
-      const Pointer second(first);  // NOLINT(performance-unnecessary-copy-initialization): it counts
+      const Pointer second(first);
       EXPECT_EQ(first->GetRefCount(), 2U);
       const boost::intrusive_ptr<const IRefCountable> base(first);
       EXPECT_EQ(base->GetRefCount(), 3U);

@@ -22,8 +22,7 @@ TEST(RefCountOnManyThreads, LosesNoCount) {
   for (int i = 0; i < kThreads; ++i) {
     threads.emplace_back([object] {
       for (int round = 0; round < kRounds; ++round) {
-        const boost::intrusive_ptr<const Counted> copy(
-            object);  // NOLINT(performance-unnecessary-copy-initialization)
+        const boost::intrusive_ptr<const Counted> copy(object);
         EXPECT_GE(copy->GetRefCount(), 2U);
       }
     });

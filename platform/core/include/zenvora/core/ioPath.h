@@ -26,9 +26,8 @@ class ZENVORA_CORE_EXPORT ioPath {
  public:
   ioPath() = default;
   /// From UTF-8 text (any bytes on Linux). On Windows bytes that are not UTF-8 become U+FFFD.
-  ioPath(
-      const std::string& utf8);  // NOLINT(google-explicit-constructor): paths are written as texts everywhere
-  ioPath(const char* utf8);      // NOLINT(google-explicit-constructor)
+  ioPath(const std::string& utf8);  // Implicit: paths are written as texts everywhere
+  ioPath(const char* utf8);
   explicit ioPath(const QString& text);
   explicit ioPath(std::filesystem::path native);
 
