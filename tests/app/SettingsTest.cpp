@@ -1,5 +1,6 @@
 #include <support/LogCapture.h>
 #include <support/TempTree.h>
+#include <support/WriteLimit.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
@@ -8,12 +9,10 @@
 
 #include <QByteArray>
 
-#include <csignal>
 #include <filesystem>
 #include <string>
 
 #ifndef _WIN32
-#include <sys/resource.h>
 #include <sys/stat.h>
 #endif
 
@@ -24,6 +23,9 @@ namespace fs = std::filesystem;
 using Zenvora::Test::LogCapture;
 using Zenvora::Test::ReadFile;
 using Zenvora::Test::TempTree;
+#ifndef _WIN32
+using Zenvora::Test::WriteLimit;
+#endif
 
 std::size_t Warnings(const LogCapture& log) {
   return log.Lines(google::GLOG_WARNING).size();
@@ -161,34 +163,13 @@ TEST(Settings, DoNotWaitForAPipe) {
   EXPECT_EQ(settings->GetString("key", "default"), "value");
 }
 
-/// While it lives no file of this process grows beyond a few bytes, as on a full disk.
-class FullDisk {
- public:
-  FullDisk() : former_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &limit_);
-    rlimit tight = limit_;
-    tight.rlim_cur = 8;
-    setrlimit(RLIMIT_FSIZE, &tight);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &limit_);
-    std::signal(SIGXFSZ, former_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  void (*former_)(int);
-  rlimit limit_{};
-};
-
 TEST(Settings, SurviveAFullDisk) {
   const TempTree tree;
   const ioPath file = tree.Write("settings.ini", "key=old\n");
   const auto settings = MakeIniSettings(file);
   const LogCapture log;
   {
-    const FullDisk full;
+    const WriteLimit full(8);
     settings->SetString("key", "new and longer");
   }
   EXPECT_EQ(Warnings(log), 1U);
@@ -248,22 +229,6 @@ TEST(Settings, OfADamagedFileAreSavedOnceItIsMended) {
   EXPECT_EQ(Warnings(log), 0U);
   EXPECT_EQ(ReadFile(file), "[General]\nkey=value\nthird=more\n\n[Group]\nother=here\n");
 }
-
-#ifndef _WIN32
-TEST(UserSettings, LieInTheConfigurationFolder) {
-  const QByteArray former = qgetenv("XDG_CONFIG_HOME");
-  EXPECT_EQ(UserSettingsFile(), ioPath(former.toStdString()) / "lumidex" / "lumidex.ini");
-
-  const TempTree tree;
-  qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(tree.Path("config").utf8string()));
-  EXPECT_EQ(UserSettingsFile(), tree.Path("config/lumidex/lumidex.ini"));
-
-  qunsetenv("XDG_CONFIG_HOME");
-  EXPECT_EQ(UserSettingsFile(),
-            ioPath(qgetenv("HOME").toStdString()) / ".config" / "lumidex" / "lumidex.ini");
-  qputenv("XDG_CONFIG_HOME", former);
-}
-#endif
 
 TEST(UserSettings, AreThoseOfANewRegistry) {
   const Services registry;

@@ -123,7 +123,7 @@ TEST_F(CatalogueFile, MustNotBeAFolder) {
 }
 
 TEST_F(CatalogueFile, MustHaveAName) {
-  EXPECT_THAT(OpeningError(ioPath(), Mode::ReadWrite), HasSubstr("no usable name"));
+  EXPECT_THAT(OpeningError(ioPath(), Mode::ReadWrite), HasSubstr("its name is empty"));
 }
 
 TEST_F(CatalogueFile, CannotLieBelowAFile) {

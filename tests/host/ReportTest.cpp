@@ -1,9 +1,9 @@
 #include "ReportPage.h"
-#include "WriteLimit.h"
 
 #include <host/Report.h>
 #include <support/PhotoMaker.h>
 #include <support/TempTree.h>
+#include <support/WriteLimit.h>
 
 #include <gtest/gtest.h>
 

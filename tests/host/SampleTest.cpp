@@ -1,9 +1,9 @@
 #include "SamplePlan.h"
-#include "WriteLimit.h"
 
 #include <host/PhotoFiles.h>
 #include <host/Sample.h>
 #include <support/TempTree.h>
+#include <support/WriteLimit.h>
 
 #include <exiv2/exiv2.hpp>
 #include <gtest/gtest.h>

@@ -85,6 +85,7 @@ class NetworkDownloadsTest : public ::testing::Test {
 
   void ExpectFailure(const App::DownloadReply& reply, const std::string& cause) {
     EXPECT_EQ(reply.outcome, Outcome::Failed) << "expected: " << cause;
+    EXPECT_FALSE(reply.error.isEmpty());
     EXPECT_NE(reply.error.toStdString().find(cause), std::string::npos)
         << cause << ": " << reply.error.toStdString();
     EXPECT_TRUE(reply.body.isEmpty());
@@ -311,26 +312,20 @@ TEST_F(NetworkDownloadsTest, FailsWhenNobodyListens) {
     ASSERT_TRUE(gone.listen(QHostAddress::LocalHost));
     request.url.setPort(gone.serverPort());
   }
-  const auto reply = Fetch(request);
-  ExpectFailure(reply, "");
-  EXPECT_FALSE(reply.error.isEmpty());
+  ExpectFailure(Fetch(request), "");
 }
 
 TEST_F(NetworkDownloadsTest, FailsWhenTheServerHangsUp) {
   HttpAnswer silent;
   silent.silent = true;
-  const auto reply = Fetch("/a", silent);
-  ExpectFailure(reply, "");
-  EXPECT_FALSE(reply.error.isEmpty());
+  ExpectFailure(Fetch("/a", silent), "");
 }
 
 TEST_F(NetworkDownloadsTest, FailsWhenTheBodyIsCutShort) {
   for (const qint64 sent : {0, 1, 99}) {
     HttpAnswer answer = WithBody(QByteArray(100, 'x'));
     answer.cutAfter = sent;
-    const auto reply = Fetch("/a", answer);
-    ExpectFailure(reply, "");
-    EXPECT_FALSE(reply.error.isEmpty());
+    ExpectFailure(Fetch("/a", answer), "");
   }
 }
 
@@ -344,9 +339,7 @@ TEST_F(NetworkDownloadsTest, FailsWhenTheAnswerIsNotHttp) {
   });
   auto request = Request("/a");
   request.url.setPort(other.serverPort());
-  const auto reply = Fetch(request);
-  ExpectFailure(reply, "");
-  EXPECT_FALSE(reply.error.isEmpty());
+  ExpectFailure(Fetch(request), "");
 }
 
 // ---- Time limits. The servers here never go on: how long it takes decides nothing.

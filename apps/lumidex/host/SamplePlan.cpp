@@ -172,37 +172,36 @@ std::vector<Occasion> Backbone() {
   };
 }
 
+struct Holiday {
+  int month;
+  int day;
+  int days;
+  const Motifs& motifs;
+};
+
+const std::vector<Holiday>& Holidays() {
+  static const std::vector<Holiday> holidays = {
+      {12, 24, 2, kChristmas}, {12, 31, 2, kNewYear}, {10, 31, 1, kHalloween}, {7, 4, 1, kSummerParty},
+      {2, 14, 1, kValentine},  {3, 8, 1, kFlowerDay}, {5, 1, 1, kSpring},      {12, 5, 2, kChristmas},
+      {6, 23, 2, kSummer},     {11, 1, 2, kAutumn},
+  };
+  return holidays;
+}
+
 /// One more occasion in `year`, of any kind.
 Occasion AnyOccasion(Dice& dice, int year) {
   const std::size_t camera =
       static_cast<std::size_t>(dice.Whole(0, static_cast<int>(SampleCameras().size()) - 1));
   const int kind = dice.Whole(0, 9);
-  const auto holiday = [&](int month, int day, int days, const Motifs& motifs) {
-    return Occasion{{year, month, day}, days, dice.Whole(4, 34), motifs, camera, {}, nullptr};
-  };
   if (kind < 2) {
-    switch (dice.Whole(0, 9)) {
-      case 0:
-        return holiday(12, 24, 2, kChristmas);
-      case 1:
-        return holiday(12, 31, 2, kNewYear);
-      case 2:
-        return holiday(10, 31, 1, kHalloween);
-      case 3:
-        return holiday(7, 4, 1, kSummerParty);
-      case 4:
-        return holiday(2, 14, 1, kValentine);
-      case 5:
-        return holiday(3, 8, 1, kFlowerDay);
-      case 6:
-        return holiday(5, 1, 1, kSpring);
-      case 7:
-        return holiday(12, 5, 2, kChristmas);
-      case 8:
-        return holiday(6, 23, 2, kSummer);
-      default:
-        return holiday(11, 1, 2, kAutumn);
-    }
+    const Holiday& holiday = dice.Pick(Holidays());
+    return {{year, holiday.month, holiday.day},
+            holiday.days,
+            dice.Whole(4, 34),
+            holiday.motifs,
+            camera,
+            {},
+            nullptr};
   }
   const int month = dice.Whole(1, 12);
   QDate day(year, month, dice.Whole(1, LastDayOf(year, month)));
