@@ -20,7 +20,13 @@ target_compile_options(lumidex_compiler INTERFACE
   "-fmacro-prefix-map=${way_to_sources}/LumidexUtil/="
   "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
   "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/LumidexUtil/=")
-if(NOT WIN32)
+if(WIN32)
+  # Wide calls only; nothing of the system's header that takes names from the language.
+  target_compile_definitions(lumidex_compiler INTERFACE
+    UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00
+    # The system's header has a macro ERROR.
+    GLOG_NO_ABBREVIATED_SEVERITIES)
+else()
   target_compile_options(lumidex_compiler INTERFACE -fstack-protector-strong)
   target_link_options(lumidex_compiler INTERFACE -Wl,--no-undefined -Wl,-z,relro,-z,now)
 endif()

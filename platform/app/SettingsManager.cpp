@@ -1,11 +1,11 @@
 #include "IniText.h"
 
 #include <zenvora/app/RealServices.h>
+#include <zenvora/app/UserFolders.h>
 
 #include <glog/logging.h>
 
 #include <QSettings>
-#include <QStandardPaths>
 
 #include <filesystem>
 #include <fstream>
@@ -89,11 +89,11 @@ class IniSettings : public ISettingsManager {
   // Anything else might block whoever opens it.
   bool IsFile() const {
     std::error_code error;
-    return std::filesystem::is_regular_file(file_.native(), error) && !error;
+    return std::filesystem::is_regular_file(file_.for_system(), error) && !error;
   }
 
   std::string Text() const {
-    std::ifstream stream(file_.native(), std::ios::binary);
+    std::ifstream stream(file_.for_system(), std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
   }
 
@@ -109,8 +109,7 @@ std::shared_ptr<ISettingsManager> MakeIniSettings(const ioPath& file) {
 }
 
 ioPath UserSettingsFile() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-  return ioPath(folder) / "lumidex" / "lumidex.ini";
+  return FolderOfUser(UserFolder::Settings) / "lumidex" / "lumidex.ini";
 }
 
 }  // namespace Zenvora::App

@@ -1,6 +1,7 @@
 #include "JsonNesting.h"
 #include "JsonSerializer.h"
 
+#include <zenvora/core/ErrorText.h>
 #include <zenvora/core/ioPath.h>
 #include <zenvora/quillet/Config.h>
 
@@ -26,7 +27,7 @@ fs::file_status Look(const ioPath& path, std::error_code& error) {
     error = std::make_error_code(std::errc::no_such_file_or_directory);
     return fs::file_status(fs::file_type::not_found);
   }
-  return fs::status(path.native(), error);
+  return fs::status(path.for_system(), error);
 }
 
 /// Throws unless reading the file comes to an end: a pipe waits for its writer, a device may never finish.
@@ -36,7 +37,7 @@ void RequireFile(const fs::file_status& status, const std::error_code& error, co
   } else if (fs::is_other(status)) {
     ThrowJson(fileName, "", "is not a regular file");
   } else if (!fs::is_regular_file(status)) {
-    ThrowJson(fileName, "", "cannot be read: " + error.message());
+    ThrowJson(fileName, "", "cannot be read: " + ErrorText(error));
   }
 }
 
@@ -47,7 +48,7 @@ void RequireFile(const fs::file_status& status, const std::error_code& error, co
 QByteArray ReadWhole(const ioPath& path, const std::string& fileName) {
   // By its native name: a QString cannot hold every one.
   errno = 0;
-  std::ifstream stream(path.native(), std::ios::binary);
+  std::ifstream stream(path.for_system(), std::ios::binary);
   if (!stream.is_open()) {
     ThrowUnreadable(fileName, errno);
   }

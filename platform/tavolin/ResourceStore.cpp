@@ -3,12 +3,13 @@
 #include "DownloadLimits.h"
 #include "DownloadRules.h"
 
+#include <zenvora/app/UserFolders.h>
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 namespace Zenvora::Tavolin {
 
@@ -37,11 +38,11 @@ QString WriteWhole(const QString& name, const QByteArray& content, const QDateTi
 }  // namespace
 
 ResourceStore::ResourceStore(const QString& section, const QString& name, const QString& format) {
-  const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-  if (cache.isEmpty()) {
+  const ioPath cache = App::FolderOfUser(App::UserFolder::Cache);
+  if (cache.empty()) {
     return;
   }
-  const QString folder = cache + QStringLiteral("/lumidex/") + section + QLatin1Char('/');
+  const QString folder = cache.qstring() + QStringLiteral("/lumidex/") + section + QLatin1Char('/');
   file_ = folder + name + QLatin1Char('.') + format;
   // No resource begins with a dot, so none can have this name.
   etagFile_ = folder + QLatin1Char('.') + name + QLatin1Char('.') + format + QStringLiteral(".etag");

@@ -69,6 +69,74 @@ TEST(PathName, WritesItsTextUnquoted) {
   EXPECT_EQ(stream.str(), "/a b/\"c\"");
 }
 
+TEST(PathName, HasAFaultWhenItNamesNothing) {
+  EXPECT_EQ(ioPath().name_fault(), "is empty");
+  EXPECT_EQ(ioPath("nul\0inside"s).name_fault(), "holds a NUL character");
+  EXPECT_EQ(ioPath("/a b/gr\xC3\xBC\xC3\x9F.jpg").name_fault(), "");
+#ifdef _WIN32
+  EXPECT_EQ(ioPath("C:a.jpg").name_fault(), "is relative to the current folder of a drive");
+  EXPECT_EQ(ioPath("C:\\a\\NUL.txt").name_fault(), "names a device of Windows");
+#else
+  EXPECT_EQ(ioPath("/NUL.txt").name_fault(), "");
+  EXPECT_EQ(ioPath("/a\xFF\n: *?").name_fault(), "");
+#endif
+}
+
+TEST(PathName, IsHandedToTheSystemAsItIsUnlessItIsLongOnWindows) {
+  for (const std::string& text : {""s, "a"s, "p/../a.jpg"s, "C:\\a.jpg"s, "\\\\server\\share\\a"s}) {
+    EXPECT_EQ(ioPath(text).for_system(), ioPath(text).native());
+  }
+  const std::string element(50, 'x');
+  ioPath path("C:/p/..");
+  for (int i = 0; i < 8; ++i) {
+    path /= element;
+  }
+#ifdef _WIN32
+  const std::string expected = ioPath(path.for_system()).utf8string();
+  EXPECT_EQ(expected.substr(0, 8), "\\\\?\\C:\\x"s) << expected;
+  EXPECT_EQ(expected.find('/'), std::string::npos);
+#else
+  EXPECT_EQ(path.for_system(), path.native());
+#endif
+}
+
+#ifdef _WIN32
+struct WindowsParts {
+  std::string path, parent, rootName, root, filename;
+};
+
+class WindowsPathParts : public testing::TestWithParam<WindowsParts> {};
+
+TEST_P(WindowsPathParts, AreTakenFromTheText) {
+  const WindowsParts& expected = GetParam();
+  const ioPath path(expected.path);
+  EXPECT_EQ(path.parent_path().utf8string(), expected.parent);
+  EXPECT_EQ(path.root_name().utf8string(), expected.rootName);
+  EXPECT_EQ(path.root_path().utf8string(), expected.root);
+  EXPECT_EQ(path.filename().utf8string(), expected.filename);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, WindowsPathParts,
+    testing::Values(
+        WindowsParts{"C:\\p\\a.jpg", "C:\\p", "C:", "C:\\", "a.jpg"},
+        WindowsParts{"C:/p/a.jpg", "C:/p", "C:", "C:/", "a.jpg"},
+        WindowsParts{"C:\\a.jpg", "C:\\", "C:", "C:\\", "a.jpg"},
+        WindowsParts{"C:\\", "C:\\", "C:", "C:\\", ""}, WindowsParts{"C:", "C:", "C:", "C:", ""},
+        WindowsParts{"p\\a.jpg", "p", "", "", "a.jpg"},
+        WindowsParts{"\\\\srv\\sh\\p\\a.jpg", "\\\\srv\\sh\\p", "\\\\srv\\sh", "\\\\srv\\sh\\", "a.jpg"},
+        WindowsParts{"\\\\srv\\sh\\a.jpg", "\\\\srv\\sh\\", "\\\\srv\\sh", "\\\\srv\\sh\\", "a.jpg"},
+        WindowsParts{"//srv/sh/p/a.jpg", "//srv/sh/p", "//srv/sh", "//srv/sh/", "a.jpg"},
+        WindowsParts{"\\\\srv\\sh\\", "\\\\srv\\sh\\", "\\\\srv\\sh", "\\\\srv\\sh\\", ""},
+        WindowsParts{"\\\\srv\\sh", "\\\\srv\\sh", "\\\\srv\\sh", "\\\\srv\\sh\\", ""},
+        WindowsParts{"\\\\?\\C:\\a.jpg", "\\\\?\\C:\\", "\\\\?\\C:", "\\\\?\\C:\\", "a.jpg"}));
+
+TEST(PathName, OfAShareReplacesWhatItIsJoinedTo) {
+  EXPECT_EQ((ioPath("C:\\a") / ioPath("\\\\srv\\sh\\b")).utf8string(), "\\\\srv\\sh\\b");
+  EXPECT_EQ((ioPath("\\\\srv\\sh") / ioPath("b")).utf8string(), "\\\\srv\\sh\\b");
+}
+#endif
+
 struct Parts {
   std::string path, parent, root, filename, extension;
 };

@@ -3,8 +3,9 @@
 #ifdef _WIN32
 #include <QString>
 
-#include <shellapi.h>
 #include <windows.h>
+// Behind the header that it needs.
+#include <shellapi.h>
 #endif
 
 namespace Zenvora::Lumidex::Cli {

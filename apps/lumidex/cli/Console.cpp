@@ -7,7 +7,6 @@
 #include <cstdlib>
 
 #ifdef _WIN32
-#include <io.h>
 #include <windows.h>
 #else
 #include <sys/ioctl.h>
@@ -22,7 +21,9 @@ constexpr int kUsualColumns = 80;
 
 bool StderrIsTerminal() {
 #ifdef _WIN32
-  return _isatty(_fileno(stderr)) != 0;
+  // Not `_isatty`, which takes the null device for a terminal.
+  DWORD mode = 0;
+  return GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
 #else
   const char* const kind = std::getenv("TERM");
   return isatty(STDERR_FILENO) == 1 && !(kind && std::string(kind) == "dumb");

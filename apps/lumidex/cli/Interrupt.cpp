@@ -15,9 +15,16 @@ static_assert(std::atomic<bool>::is_always_lock_free, "the flag is set in a sign
 
 #ifdef _WIN32
 
-BOOL WINAPI OnConsoleEvent(DWORD /*event*/) {
+BOOL WINAPI OnConsoleEvent(DWORD event) {
   // Not handled the second time: the system then ends the process.
-  return interrupted.exchange(true) ? FALSE : TRUE;
+  if (interrupted.exchange(true)) {
+    return FALSE;
+  }
+  if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT) {
+    // The window closes or the user leaves: the process ends with this call, if not before by itself.
+    Sleep(INFINITE);
+  }
+  return TRUE;
 }
 
 #else

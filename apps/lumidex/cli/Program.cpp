@@ -20,6 +20,8 @@
 #include <optional>
 
 #ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 #endif
 
@@ -27,9 +29,25 @@ namespace Zenvora::Lumidex::Cli {
 
 namespace {
 
+#ifdef _WIN32
+/// The console belongs to others, too: it gets its code page back.
+class Utf8Console {
+ public:
+  Utf8Console() : former_(GetConsoleOutputCP()) { SetConsoleOutputCP(CP_UTF8); }
+  ~Utf8Console() { SetConsoleOutputCP(former_); }
+  Utf8Console(const Utf8Console&) = delete;
+  Utf8Console& operator=(const Utf8Console&) = delete;
+
+ private:
+  const UINT former_;
+};
+#endif
+
 void PrepareProcess() {
 #ifdef _WIN32
-  SetConsoleOutputCP(CP_UTF8);
+  // Output is the same bytes everywhere.
+  _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stderr), _O_BINARY);
 #else
   // A file that may not grow any more is an error to report, not a reason to die.
   std::signal(SIGXFSZ, SIG_IGN);
@@ -110,6 +128,9 @@ ExitCode RunCommand(const ParsedCommandLine& parsed, Output& output, Console& co
 }  // namespace
 
 int RunProgram(int argc, char** argv) {
+#ifdef _WIN32
+  const Utf8Console utf8Console;
+#endif
   PrepareProcess();
   const std::vector<std::string> arguments = ProgramArguments(argc, argv);
   Console plain(false);

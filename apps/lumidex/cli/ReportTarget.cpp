@@ -21,7 +21,7 @@ namespace {
 
 bool IsSameFile(const ioPath& left, const ioPath& right) {
   std::error_code ignored;
-  return fs::equivalent(left.native(), right.native(), ignored);
+  return fs::equivalent(left.for_system(), right.for_system(), ignored);
 }
 
 // Also for a file that is not there now: SQLite may make it at any time.
@@ -51,15 +51,15 @@ bool BeginsLikeAPage(const std::string& beginning) {
 bool HoldsSomethingElse(const ioPath& file) {
   // A pipe must not even be opened: that would wait for its other end.
   std::error_code ignored;
-  if (!fs::is_regular_file(file.native(), ignored)) {
+  if (!fs::is_regular_file(file.for_system(), ignored)) {
     return false;
   }
-  std::ifstream stream(file.native(), std::ios::binary);
+  std::ifstream stream(file.for_system(), std::ios::binary);
   std::string beginning(32, '\0');
   stream.read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
   beginning.resize(static_cast<std::size_t>(stream.gcount()));
   // What cannot be read may be anything.
-  return !BeginsLikeAPage(beginning) && (!beginning.empty() || fs::file_size(file.native(), ignored) > 0);
+  return !BeginsLikeAPage(beginning) && (!beginning.empty() || fs::file_size(file.for_system(), ignored) > 0);
 }
 
 std::string Named(const ioPath& report, const ioPath& target) {

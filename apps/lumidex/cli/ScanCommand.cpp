@@ -10,6 +10,8 @@
 #include <host/Catalogue.h>
 #include <host/Scanner.h>
 
+#include <zenvora/core/ErrorText.h>
+
 #include <glog/logging.h>
 
 #include <QDir>
@@ -201,9 +203,9 @@ std::string ResultText(const ScanArguments& arguments, const ioPath& catalogue, 
 // Asked before the catalogue is made: a slip of the pen leaves none behind.
 void RequireFolder(const ioPath& folder) {
   std::error_code error;
-  if (!std::filesystem::exists(folder.native(), error)) {
+  if (!std::filesystem::exists(folder.for_system(), error)) {
     const std::string name = folder.utf8string();
-    throw Failure("no-folder", "There is no folder " + name + (error ? " (" + error.message() + ")." : "."));
+    throw Failure("no-folder", "There is no folder " + name + (error ? " (" + ErrorText(error) + ")." : "."));
   }
 }
 

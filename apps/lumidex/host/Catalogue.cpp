@@ -3,10 +3,10 @@
 
 #include <host/Catalogue.h>
 
+#include <zenvora/app/UserFolders.h>
+#include <zenvora/core/ErrorText.h>
 #include <zenvora/strandel/PhotoFacts.h>
 #include <zenvora/tavolin/Uuid.h>
-
-#include <QStandardPaths>
 
 #include <filesystem>
 #include <optional>
@@ -71,11 +71,11 @@ std::pair<QByteArray, QByteArray> RangeBelow(const ioPath& folder) {
 
 /// Refuses names that SQLite would only stumble over, or wait for.
 void RequireUsablePlace(const ioPath& file, Catalogue::Mode mode) {
-  if (file.empty() || file.native().native().find(fs::path::value_type{}) != fs::path::string_type::npos) {
-    ThrowCatalogueError(file, "it has no usable name");
+  if (const std::string fault = file.name_fault(); !fault.empty()) {
+    ThrowCatalogueError(file, "its name " + fault);
   }
   std::error_code error;
-  const fs::file_status status = fs::status(file.native(), error);
+  const fs::file_status status = fs::status(file.for_system(), error);
   if (status.type() == fs::file_type::directory) {
     ThrowCatalogueError(file, "it is a folder");
   }
@@ -84,7 +84,7 @@ void RequireUsablePlace(const ioPath& file, Catalogue::Mode mode) {
       ThrowCatalogueError(file, "it does not exist; run a scan to make it");
     }
   } else if (status.type() == fs::file_type::none) {
-    ThrowCatalogueError(file, error.message());
+    ThrowCatalogueError(file, ErrorText(error));
   } else if (status.type() != fs::file_type::regular) {
     ThrowCatalogueError(file, "it is no regular file");
   }
@@ -94,10 +94,10 @@ void MakeFolderOf(const ioPath& file) {
   std::error_code error;
   const ioPath folder = file.parent_path();
   if (!folder.empty()) {
-    fs::create_directories(folder.native(), error);
+    fs::create_directories(folder.for_system(), error);
   }
   if (error) {
-    ThrowCatalogueError(file, "its folder cannot be made (" + error.message() + ")");
+    ThrowCatalogueError(file, "its folder cannot be made (" + ErrorText(error) + ")");
   }
 }
 
@@ -271,8 +271,7 @@ Catalogue::Catalogue(const ioPath& file, Mode mode) : impl_(std::make_unique<Imp
 Catalogue::~Catalogue() = default;
 
 ioPath Catalogue::DefaultFile() {
-  return ioPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "lumidex" /
-         "catalogue.sqlite";
+  return App::FolderOfUser(App::UserFolder::Data) / "lumidex" / "catalogue.sqlite";
 }
 
 const ioPath& Catalogue::File() const {

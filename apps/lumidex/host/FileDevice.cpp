@@ -4,7 +4,7 @@
 
 namespace Zenvora::Lumidex::Host {
 
-FileDevice::FileDevice(const ioPath& file) : stream_(file.native(), std::ios::binary) {
+FileDevice::FileDevice(const ioPath& file) : stream_(file.for_system(), std::ios::binary) {
   if (stream_ && stream_.seekg(0, std::ios::end)) {
     size_ = std::max<qint64>(0, stream_.tellg());
     stream_.seekg(0);

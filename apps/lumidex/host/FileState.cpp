@@ -1,5 +1,7 @@
 #include "FileState.h"
 
+#include <zenvora/core/ErrorText.h>
+
 #ifdef _WIN32
 #include <windows.h>
 #else
@@ -13,14 +15,13 @@ namespace Zenvora::Lumidex::Host {
 
 FileState QueryFile(const ioPath& file) {
   FileState state;
-  HANDLE handle = CreateFileW(file.wstring().c_str(), FILE_READ_ATTRIBUTES,
+  HANDLE handle = CreateFileW(file.for_system().c_str(), FILE_READ_ATTRIBUTES,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                               FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   BY_HANDLE_FILE_INFORMATION facts;
   if (handle == INVALID_HANDLE_VALUE || !GetFileInformationByHandle(handle, &facts)) {
-    const DWORD error = GetLastError();
-    state.error = std::error_code(static_cast<int>(error), std::system_category());
-    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) {
+    state.error = LastSystemError();
+    if (state.error == std::errc::no_such_file_or_directory) {
       state.kind = FileState::Kind::Missing;
     }
     if (handle != INVALID_HANDLE_VALUE) {
@@ -53,7 +54,7 @@ FileState QueryFile(const ioPath& file) {
   FileState state;
   struct stat facts = {};
   if (stat(file.native().c_str(), &facts) != 0) {
-    state.error = std::error_code(errno, std::generic_category());
+    state.error = LastSystemError();
     if (errno == ENOENT || errno == ENOTDIR) {
       state.kind = FileState::Kind::Missing;
     }

@@ -1,5 +1,9 @@
 #include "FolderWalker.h"
 
+#include "CanonicalPath.h"
+
+#include <zenvora/core/ErrorText.h>
+
 #include <algorithm>
 #include <filesystem>
 
@@ -16,8 +20,8 @@ bool HasHiddenName(const ioPath& file) {
 
 /// Empty when the system cannot tell.
 ioPath Canonical(const ioPath& path) {
-  std::error_code error;
-  return ioPath(fs::canonical(path.native(), error));
+  std::error_code ignored;
+  return CanonicalPath(path, ignored);
 }
 
 }  // namespace
@@ -59,7 +63,7 @@ bool FolderWalker::Next(Found& found) {
       return true;
     }
     if (found.state.kind == FileState::Kind::Unknown) {
-      Report(ScanFinding::Kind::Unreadable, found.path, found.state.error.message());
+      Report(ScanFinding::Kind::Unreadable, found.path, ErrorText(found.state.error));
     }
   }
 }
@@ -114,7 +118,7 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
                                std::vector<std::string>& files) {
   std::error_code error;
   std::vector<ioPath> links;
-  fs::directory_iterator entry(folder.path.native(), error);
+  fs::directory_iterator entry(folder.path.for_system(), error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
     const ioPath name(entry->path().filename());
     if (HasHiddenName(name)) {
@@ -139,7 +143,7 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
     }
   }
   if (error) {
-    ReportUnreadableFolder(folder.path, error.message());
+    ReportUnreadableFolder(folder.path, ErrorText(error));
   }
   std::sort(links.begin(), links.end());
   for (const ioPath& name : links) {
@@ -167,7 +171,7 @@ void FolderWalker::TakeLink(const ioPath& link) {
       if (state.error == std::errc::too_many_symbolic_link_levels) {
         Report(ScanFinding::Kind::Loop, link, "The link leads back to itself");
       } else {
-        ReportUnreadableFolder(link, state.error.message());
+        ReportUnreadableFolder(link, ErrorText(state.error));
       }
       break;
     case FileState::Kind::Other:

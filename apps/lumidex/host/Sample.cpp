@@ -5,6 +5,8 @@
 
 #include <host/Sample.h>
 
+#include <zenvora/core/ErrorText.h>
+
 #include <QBuffer>
 #include <QImage>
 #include <QTransform>
@@ -50,9 +52,9 @@ void WritePhoto(const ioPath& folder, const SampleShot& shot) {
     ThrowCannotWrite(file, "the JPEG plug-in of Qt is missing");
   }
   std::error_code error;
-  fs::create_directories(file.parent_path().native(), error);
+  fs::create_directories(file.parent_path().for_system(), error);
   if (error) {
-    ThrowCannotWrite(file, error.message());
+    ThrowCannotWrite(file, ErrorText(error));
   }
   WholeFile output(file);
   output.Write(bytes);
@@ -64,13 +66,13 @@ void PrepareFolder(const ioPath& folder) {
     ThrowHostError(folder.utf8string(), "Cannot make a collection in " + folder.utf8string() + ": " + cause);
   };
   std::error_code error;
-  fs::create_directories(folder.native(), error);
+  fs::create_directories(folder.for_system(), error);
   if (error) {
-    refuse(error.message());
+    refuse(ErrorText(error));
   }
-  const auto first = fs::directory_iterator(folder.native(), error);
+  const auto first = fs::directory_iterator(folder.for_system(), error);
   if (error) {
-    refuse(error.message());
+    refuse(ErrorText(error));
   }
   if (first != fs::directory_iterator()) {
     refuse("the folder is not empty");

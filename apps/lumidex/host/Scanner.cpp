@@ -1,9 +1,11 @@
+#include "CanonicalPath.h"
 #include "FileState.h"
 #include "FolderWalker.h"
 #include "MetadataReaders.h"
 
 #include <host/Scanner.h>
 
+#include <zenvora/core/ErrorText.h>
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <algorithm>
@@ -40,9 +42,9 @@ std::vector<ioPath> CanonicalRoots(const std::vector<ioPath>& roots) {
   for (const ioPath& root : roots) {
     const std::string name = root.utf8string();
     std::error_code error;
-    const ioPath path(std::filesystem::canonical(root.native(), error));
+    const ioPath path = CanonicalPath(root, error);
     if (error) {
-      ThrowHostError(name, name + " cannot be scanned: " + error.message() + ".");
+      ThrowHostError(name, name + " cannot be scanned: " + ErrorText(error) + ".");
     }
     const FileState state = QueryFile(path);
     if (state.kind != FileState::Kind::File && state.kind != FileState::Kind::Folder) {

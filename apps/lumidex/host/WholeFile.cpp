@@ -2,6 +2,8 @@
 
 #include <host/HostError.h>
 
+#include <zenvora/core/ErrorText.h>
+
 #include <atomic>
 #include <cerrno>
 #include <filesystem>
@@ -9,8 +11,10 @@
 #include <utility>
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
 #include <process.h>
+#include <sys/stat.h>
 #include <windows.h>
 #else
 #include <fcntl.h>
@@ -42,9 +46,12 @@ ioPath TemporaryBeside(const ioPath& file) {
 /// Never an existing file.
 std::FILE* OpenNew(const ioPath& file) {
 #ifdef _WIN32
-  return _wfopen(file.native().c_str(), L"wbx");
+  // Not by `_wfopen`: the oldest C library of Windows cannot refuse an existing file.
+  const int handle = _wopen(file.for_system().c_str(),
+                            _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+  return handle < 0 ? nullptr : _fdopen(handle, "wb");
 #else
-  return std::fopen(file.native().c_str(), "wbxe");
+  return std::fopen(file.for_system().c_str(), "wbxe");
 #endif
 }
 
@@ -61,7 +68,8 @@ bool Sync(std::FILE* stream) {
 void SyncFolder(const ioPath& file) {
 #ifndef _WIN32
   const ioPath folder = file.parent_path();
-  const int handle = open(folder.empty() ? "." : folder.native().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const int handle =
+      open(folder.empty() ? "." : folder.for_system().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (handle >= 0) {
     fsync(handle);
     close(handle);
@@ -73,8 +81,8 @@ void SyncFolder(const ioPath& file) {
 
 bool SetTime(const ioPath& file, std::int64_t ms) {
 #ifdef _WIN32
-  const HANDLE handle = CreateFileW(file.native().c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  const HANDLE handle = CreateFileW(file.for_system().c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ,
+                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) {
     return false;
   }
@@ -91,7 +99,7 @@ bool SetTime(const ioPath& file, std::int64_t ms) {
   times[0].tv_nsec = UTIME_OMIT;
   times[1].tv_sec = static_cast<time_t>(ms / 1000);
   times[1].tv_nsec = static_cast<long>(ms % 1000 * 1'000'000);
-  return utimensat(AT_FDCWD, file.native().c_str(), times, 0) == 0;
+  return utimensat(AT_FDCWD, file.for_system().c_str(), times, 0) == 0;
 #endif
 }
 
@@ -104,14 +112,14 @@ void ThrowCannotWrite(const ioPath& file, const std::string& cause) {
 WholeFile::WholeFile(const ioPath& file) : named_(file), target_(file) {
   // Also a link that leads nowhere yet: the file appears where it points.
   std::error_code error;
-  for (int links = 0; fs::is_symlink(fs::symlink_status(target_.native(), error)); ++links) {
-    const fs::path next = fs::read_symlink(target_.native(), error);
+  for (int links = 0; fs::is_symlink(fs::symlink_status(target_.for_system(), error)); ++links) {
+    const fs::path next = fs::read_symlink(target_.for_system(), error);
     if (error || links == kMostLinks) {
-      ThrowCannotWrite(file, error ? error.message() : "its links lead in a circle");
+      ThrowCannotWrite(file, error ? ErrorText(error) : "its links lead in a circle");
     }
     target_ = ioPath(target_.native().parent_path() / next);
   }
-  const fs::file_status status = fs::status(target_.native(), error);
+  const fs::file_status status = fs::status(target_.for_system(), error);
   if (fs::exists(status) && !fs::is_regular_file(status)) {
     ThrowCannotWrite(file, fs::is_directory(status) ? "it is a folder" : "it is not a regular file");
   }
@@ -128,7 +136,7 @@ WholeFile::WholeFile(const ioPath& file) : named_(file), target_(file) {
   }
   if (fs::exists(status)) {
     // Whoever could read the old file can read the new one.
-    fs::permissions(temporary_.native(), status.permissions() & fs::perms::all, error);
+    fs::permissions(temporary_.for_system(), status.permissions() & fs::perms::all, error);
   }
 }
 
@@ -178,10 +186,15 @@ void WholeFile::Close(bool durable) {
 }
 
 void WholeFile::Rename() {
-  std::error_code error;
-  fs::rename(temporary_.native(), target_.native(), error);
-  if (error) {
-    ThrowCannotWrite(named_, error.message());
+#ifdef _WIN32
+  // Returns when the new name is on the disk.
+  const bool done = MoveFileExW(temporary_.for_system().c_str(), target_.for_system().c_str(),
+                                MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+#else
+  const bool done = std::rename(temporary_.native().c_str(), target_.native().c_str()) == 0;
+#endif
+  if (!done) {
+    ThrowCannotWrite(named_, ErrorText(LastSystemError()));
   }
   temporary_.clear();
 }

@@ -13,15 +13,15 @@
 namespace Zenvora {
 
 /// The name of a file or folder. Text goes in and out as UTF-8; the system is called in its native form
-/// (bytes on Linux, UTF-16 on Windows).
+/// (bytes on Linux, UTF-16 on Windows). Windows knows '/' and '\\' as separators and joins with '\\'; both
+/// stay as they are written and compare equal.
 ///
 /// On Linux a file name is any bytes: a name that is not valid UTF-8 survives unchanged through `utf8string`
 /// and back, but not through `QString`. Nothing is normalised: neither case, nor Unicode form, nor "..", nor
 /// symbolic links, so two names of one file compare unequal. Repeated separators compare equal to one.
 ///
 /// Thread-safety: as a value: distinct objects from any thread. `rename`, `remove`, `file_size` and `exists`
-/// call the file system and block as long as it does. Names that hold a NUL character name nothing: these
-/// four fail on them.
+/// call the file system and block as long as it does. They fail on what is no name (`name_fault`).
 class ZENVORA_CORE_EXPORT ioPath {
  public:
   ioPath() = default;
@@ -46,9 +46,9 @@ class ZENVORA_CORE_EXPORT ioPath {
 
   /// The path without its last element; of a root, the root itself; of a single name, empty.
   ioPath parent_path() const;
-  /// Root name and root folder together: "/" or "C:/"; empty for a relative path.
+  /// Root name and root folder together: "/", "C:\" or "\\server\share\"; empty for a relative path.
   ioPath root_path() const;
-  /// "C:" on Windows, empty on Linux.
+  /// On Windows the volume, "C:" or "\\server\share"; empty on Linux.
   ioPath root_name() const;
   /// The last element, empty after a trailing separator.
   ioPath filename() const;
@@ -78,7 +78,17 @@ class ZENVORA_CORE_EXPORT ioPath {
   std::wstring wstring() const;
   const std::filesystem::path& native() const noexcept { return path_; }
 
+  /// Why no file or folder can have this name here: it is empty, holds a NUL character, or, on Windows,
+  /// stands for something else (`WindowsNames::FindFault`). In English, to be put behind the name; empty: it
+  /// is a name. Says nothing of whether it exists.
+  std::string name_fault() const;
+  /// The form to hand to the system: the path itself; on Windows, when it is long, absolute and with the
+  /// prefix that lifts the limit of 260 characters. Not for keeping nor for people.
+  std::filesystem::path for_system() const;
+
  private:
+  bool IsName() const;
+
   std::filesystem::path path_;
 };
 
