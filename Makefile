@@ -1,7 +1,8 @@
 # The documented way in. Everything is built through the presets of CMakePresets.json.
 
 .DEFAULT_GOAL := help
-.PHONY: help setup run test test-dev test-asan test-tsan lint lint-format format bench clean
+.PHONY: help setup run test test-dev test-asan test-tsan lint lint-format format bench clean \
+  windows-toolchain test-windows windows-package
 
 # Where ccache is installed it serves every build, wherever the tree lies.
 export CMAKE_CXX_COMPILER_LAUNCHER ?= $(shell command -v ccache)
@@ -14,6 +15,9 @@ help:
 	@echo "make lint                 clang-format and clang-tidy as gates"
 	@echo "make bench                the benchmarks' table"
 	@echo "make format               put the sources into form"
+	@echo "make windows-toolchain    what building for Windows needs, once per machine"
+	@echo "make test-windows         the tests for 64-bit Windows, under Wine"
+	@echo "make windows-package      a zip for 64-bit Windows, tried out under Wine"
 	@echo "make clean                remove everything that was built"
 
 setup:
@@ -52,6 +56,23 @@ bench: setup
 	cmake --preset release
 	cmake --build --preset release --target lumidex_bench
 	build/release/bin/lumidex_bench
+
+windows-toolchain:
+	@tools/windows/toolchain.sh
+
+# Sets LUMIDEX_WINDOWS_TOOLCHAIN for the commands behind it.
+WITH_TOOLCHAIN = export LUMIDEX_WINDOWS_TOOLCHAIN="$$(tools/windows/toolchain.sh --path)" && \
+  [ -n "$$LUMIDEX_WINDOWS_TOOLCHAIN" ] || { echo "the Windows toolchain is missing: make windows-toolchain" >&2; exit 1; };
+
+test-windows: setup
+	@tools/setup.sh windows
+	$(WITH_TOOLCHAIN) cmake --preset windows && cmake --build --preset windows
+	tools/windows/with-wine.sh ctest --preset windows -j 2 --no-tests=error
+
+windows-package: setup
+	@tools/setup.sh windows
+	$(WITH_TOOLCHAIN) cmake --preset windows-release && cmake --build --preset windows-release
+	tools/windows/package.sh
 
 clean:
 	rm -rf build

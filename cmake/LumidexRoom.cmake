@@ -98,6 +98,10 @@ function(lumidex_room name)
       EXPORT_FILE_NAME "${CMAKE_CURRENT_BINARY_DIR}/include/${header}")
     target_include_directories(${target}
       PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}/include>" "$<INSTALL_INTERFACE:${LUMIDEX_HEADERS_DIR}>")
+    # Windows' names have no "lib" in front.
+    if(WIN32)
+      set_target_properties(${target} PROPERTIES PREFIX "")
+    endif()
     set_target_properties(${target} PROPERTIES
       VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} EXPORT_NAME ${name})
     add_library(LumidexUtil::${name} ALIAS ${target})

@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
 # Installs what is missing of tools/packages-debian.txt; does nothing when all is there.
+#   tools/setup.sh            what every build needs
+#   tools/setup.sh windows    what the Windows build needs besides
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-mapfile -t wanted < <(grep -v '^#' tools/packages-debian.txt)
+group=${1:-}
+mapfile -t wanted < <(sed -n "/^[a-z0-9+.-]*$/p;s/^${group:-none}: //p" tools/packages-debian.txt)
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
   echo "setup: this system has no apt; make sure that it has the counterparts of: ${wanted[*]}" >&2

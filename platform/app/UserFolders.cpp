@@ -39,7 +39,7 @@ ioPath Variable(const char* name) {
   const std::wstring wideName = ioPath(name).wstring();
   std::wstring value(GetEnvironmentVariableW(wideName.c_str(), nullptr, 0), L'\0');
   value.resize(GetEnvironmentVariableW(wideName.c_str(), value.data(), static_cast<DWORD>(value.size())));
-  return ioPath(std::filesystem::path(value));
+  return ioPath(std::filesystem::path(value).make_preferred());
 }
 
 ioPath Usual(UserFolder folder) {

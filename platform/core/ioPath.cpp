@@ -167,8 +167,11 @@ bool ioPath::rename(const ioPath& to) const {
     return false;
   }
 #ifdef _WIN32
-  // Not by the standard library: that would copy to another volume and take its time.
-  return MoveFileExW(for_system().c_str(), to.for_system().c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+  // Not by the standard library: that would copy to another volume and take its time. Only files replace
+  // files.
+  std::error_code unknown;
+  const DWORD replace = fs::is_directory(for_system(), unknown) ? 0 : MOVEFILE_REPLACE_EXISTING;
+  return MoveFileExW(for_system().c_str(), to.for_system().c_str(), replace) != 0;
 #else
   std::error_code error;
   fs::rename(path_, to.path_, error);
@@ -226,7 +229,28 @@ std::wstring ioPath::wstring() const {
 #endif
 }
 
+std::size_t ioPath::hash() const noexcept {
+#ifdef _WIN32
+  // The standard library's own tells '/' and '\\' apart where they are roots, its comparison does not.
+  std::size_t hash = path_.has_root_directory() ? 1 : 0;
+  for (const fs::path& element : path_.relative_path()) {
+    hash = hash * 31 + std::hash<std::wstring>()(element.native());
+  }
+  return hash;
+#else
+  return fs::hash_value(path_);
+#endif
+}
+
 bool ioPath::IsName() const {
+#ifdef _WIN32
+  // The system passes over a separator at the end, which only a folder can have.
+  std::error_code unknown;
+  if (!path_.empty() && path_.has_relative_path() && path_.filename().empty() &&
+      fs::is_regular_file(for_system(), unknown)) {
+    return false;
+  }
+#endif
   return name_fault().empty();
 }
 

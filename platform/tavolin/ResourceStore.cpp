@@ -10,12 +10,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QThread>
 
 namespace Zenvora::Tavolin {
 
 namespace {
 
-QString WriteWhole(const QString& name, const QByteArray& content, const QDateTime& modified) {
+QString WriteOnce(const QString& name, const QByteArray& content, const QDateTime& modified) {
   QSaveFile file(name);
   if (!file.open(QIODevice::WriteOnly)) {
     return file.errorString();
@@ -35,6 +36,30 @@ QString WriteWhole(const QString& name, const QByteArray& content, const QDateTi
   return file.commit() ? QString() : file.errorString();
 }
 
+/// On Windows whoever reads a file keeps it from being replaced, and whoever replaces it from being read, as
+/// do the many programs that look into new files. Copies are small and read at once: a second is long.
+template <class Attempt>
+bool Patiently(const Attempt& attempt) {
+  bool done = attempt();
+#ifdef _WIN32
+  constexpr int kAttempts = 50;
+  for (int count = 1; !done && count < kAttempts; ++count) {
+    QThread::msleep(20);
+    done = attempt();
+  }
+#endif
+  return done;
+}
+
+QString WriteWhole(const QString& name, const QByteArray& content, const QDateTime& modified) {
+  QString fault;
+  Patiently([&] {
+    fault = WriteOnce(name, content, modified);
+    return fault.isEmpty();
+  });
+  return fault;
+}
+
 }  // namespace
 
 ResourceStore::ResourceStore(const QString& section, const QString& name, const QString& format) {
@@ -42,10 +67,11 @@ ResourceStore::ResourceStore(const QString& section, const QString& name, const 
   if (cache.empty()) {
     return;
   }
-  const QString folder = cache.qstring() + QStringLiteral("/lumidex/") + section + QLatin1Char('/');
-  file_ = folder + name + QLatin1Char('.') + format;
+  const ioPath folder = cache / "lumidex" / ioPath(section);
+  const QString file = name + QLatin1Char('.') + format;
+  file_ = (folder / ioPath(file)).qstring();
   // No resource begins with a dot, so none can have this name.
-  etagFile_ = folder + QLatin1Char('.') + name + QLatin1Char('.') + format + QStringLiteral(".etag");
+  etagFile_ = (folder / ioPath(QLatin1Char('.') + file + QStringLiteral(".etag"))).qstring();
 }
 
 ResourceStore::Lookup ResourceStore::Read() const {
@@ -58,7 +84,7 @@ ResourceStore::Lookup ResourceStore::Read() const {
     return {std::nullopt, QStringLiteral("it is no file")};
   }
   QFile file(file_);
-  if (!file.open(QIODevice::ReadOnly)) {
+  if (!Patiently([&file] { return file.open(QIODevice::ReadOnly); })) {
     return {std::nullopt, file.errorString()};
   }
   const QByteArray body = file.read(kSizeLimit + 1);

@@ -1,12 +1,13 @@
 #include "HolidayFixture.h"
 
+#include <zenvora/app/UserFolders.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <iterator>
@@ -38,8 +39,7 @@ std::vector<DataModel> Join(std::initializer_list<std::vector<DataModel>> parts)
 namespace {
 
 void ForgetStoredCalendar() {
-  QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + QStringLiteral("/lumidex"))
-      .removeRecursively();
+  QDir((App::FolderOfUser(App::UserFolder::Cache) / "lumidex").qstring()).removeRecursively();
 }
 
 }  // namespace

@@ -68,12 +68,12 @@ TEST_P(AnyFileName, IsMeasuredRenamedAndRemoved) {
 
 std::vector<Named> FileNames() {
   std::vector<Named> names = {{"plain", "a.jpg"},
-                              {"blank", " "},
-                              {"dots", "..."},
                               {"dash", "-rf"},
                               {"utf8", "gr\xC3\xBC\xC3\x9F \xF0\x9F\x93\xB7.jpg"},
                               {"decomposed", "e\xCC\x81"}};
 #ifndef _WIN32
+  names.push_back({"blank", " "});
+  names.push_back({"dots", "..."});
   names.push_back({"notUtf8", "caf\xE9\xFF.jpg"});
   names.push_back({"lineFeed", "a\nb"});
   names.push_back({"backslash", "a\\b"});
@@ -131,7 +131,7 @@ TEST(Rename, OfAFileOntoItselfChangesNothing) {
 TEST(Rename, MovesALinkAndNotItsTarget) {
   const TempTree tree;
   const ioPath target = tree.Write("target", "x");
-  fs::create_symlink(target.native(), tree.Path("link").native());
+  LUMIDEX_LINK_OR_SKIP(target, tree.Path("link"));
   EXPECT_TRUE(tree.Path("link").rename(tree.Path("moved")));
   EXPECT_TRUE(fs::is_symlink(tree.Path("moved").native()));
   EXPECT_EQ(ReadFile(target), "x");
@@ -203,7 +203,7 @@ TEST(Remove, DeletesFilesLinksAndEmptyFolders) {
   EXPECT_FALSE(IsThere(folder));
 
   const ioPath dangling = tree.Path("dangling");
-  fs::create_symlink("nowhere", dangling.native());
+  LUMIDEX_LINK_OR_SKIP("nowhere", dangling);
   EXPECT_TRUE(dangling.remove());
   EXPECT_FALSE(IsThere(dangling));
 }
@@ -212,7 +212,7 @@ TEST(Remove, DeletesALinkAndNotItsTarget) {
   const TempTree tree;
   const ioPath kept = tree.Write("folder/kept", "x");
   const ioPath link = tree.Path("link");
-  fs::create_directory_symlink(tree.Path("folder").native(), link.native());
+  LUMIDEX_LINK_OR_SKIP(tree.Path("folder"), link);
   EXPECT_TRUE(link.remove());
   EXPECT_FALSE(IsThere(link));
   EXPECT_EQ(ReadFile(kept), "x");
@@ -230,7 +230,7 @@ TEST(FileSize, CountsBytesAndFollowsLinks) {
   EXPECT_EQ(tree.Write("empty", "").file_size(), 0U);
   const ioPath file = tree.Write("file", "a\r\n\0b"s);
   EXPECT_EQ(file.file_size(), 5U);
-  fs::create_symlink(file.native(), tree.Path("link").native());
+  LUMIDEX_LINK_OR_SKIP(file, tree.Path("link"));
   EXPECT_EQ(tree.Path("link").file_size(), 5U);
 }
 
@@ -249,9 +249,9 @@ TEST(FileSize, CountsBeyondFourGigabytes) {
 TEST(FileSize, IsZeroForWhateverIsNoFile) {
   const TempTree tree;
   EXPECT_EQ(tree.MakeFolder("folder").file_size(), 0U);
-  fs::create_symlink("nowhere", tree.Path("dangling").native());
+  LUMIDEX_LINK_OR_SKIP("nowhere", tree.Path("dangling"));
   EXPECT_EQ(tree.Path("dangling").file_size(), 0U);
-  fs::create_symlink("loop", tree.Path("loop").native());
+  LUMIDEX_LINK_OR_SKIP("loop", tree.Path("loop"));
   EXPECT_EQ(tree.Path("loop").file_size(), 0U);
 #ifndef _WIN32
   ASSERT_EQ(::mkfifo(tree.Path("pipe").native().c_str(), S_IRWXU), 0);
@@ -266,19 +266,22 @@ TEST(Exists, HoldsForFilesFoldersAndWhatLinksLeadTo) {
   EXPECT_TRUE(tree.Path().exists());
   EXPECT_TRUE((tree.Path() / "").exists());
   EXPECT_FALSE((file / "").exists());
-  fs::create_symlink(file.native(), tree.Path("link").native());
+  LUMIDEX_LINK_OR_SKIP(file, tree.Path("link"));
   EXPECT_TRUE(tree.Path("link").exists());
 }
 
 TEST(Exists, DoesNotHoldForLinksToNothing) {
   const TempTree tree;
-  fs::create_symlink("nowhere", tree.Path("dangling").native());
+  LUMIDEX_LINK_OR_SKIP("nowhere", tree.Path("dangling"));
   EXPECT_FALSE(tree.Path("dangling").exists());
-  fs::create_symlink("loop", tree.Path("loop").native());
+  LUMIDEX_LINK_OR_SKIP("loop", tree.Path("loop"));
   EXPECT_FALSE(tree.Path("loop").exists());
 }
 
 TEST(Exists, DoesNotHoldBehindAClosedFolder) {
+#ifdef _WIN32
+  GTEST_SKIP() << "folders are closed by access lists there, which the standard library does not set";
+#endif
   if (IsSuperuser()) {
     GTEST_SKIP() << "permissions do not stop the superuser";
   }

@@ -5,13 +5,13 @@
 #include <support/TempTree.h>
 
 #include <zenvora/app/RealServices.h>
+#include <zenvora/app/UserFolders.h>
 #include <zenvora/core/Exception.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <memory>
@@ -226,10 +226,7 @@ class CalendarInUse : public ::testing::Test {
   CalendarInUse() { Forget(); }
   ~CalendarInUse() override { Forget(); }
 
-  static QString Cache() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
-           QStringLiteral("/lumidex");
-  }
+  static QString Cache() { return (App::FolderOfUser(App::UserFolder::Cache) / "lumidex").qstring(); }
   static void Forget() { QDir(Cache()).removeRecursively(); }
 
   void Ship() { tree.Write("resources/HolidayEvents.json", CalendarOf({{"Shipped", "01.05", "01.05"}})); }

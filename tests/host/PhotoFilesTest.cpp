@@ -2,6 +2,7 @@
 #include "PhotoPixels.h"
 
 #include <host/PhotoFiles.h>
+#include <support/ExivPath.h>
 #include <support/PhotoMaker.h>
 #include <support/TempTree.h>
 
@@ -42,7 +43,7 @@ QByteArray Encoded(const QSize& size, const QColor& colour, const char* format =
 ioPath WithThumbnail(const TempTree& tree, const QSize& picture, const QSize& thumbnail,
                      int orientation = 1) {
   ioPath file = tree.Write("with thumbnail.jpg", Encoded(picture, Qt::red).toStdString());
-  const auto image = Exiv2::ImageFactory::open(file.utf8string());
+  const auto image = Exiv2::ImageFactory::open(Zenvora::Test::ExivPath(file));
   Exiv2::ExifData exif;
   exif["Exif.Image.Orientation"] = static_cast<std::uint16_t>(orientation);
   const QByteArray small = Encoded(thumbnail, Qt::blue);

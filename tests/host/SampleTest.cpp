@@ -1,7 +1,9 @@
+#include "FileState.h"
 #include "SamplePlan.h"
 
 #include <host/PhotoFiles.h>
 #include <host/Sample.h>
+#include <support/ExivPath.h>
 #include <support/TempTree.h>
 #include <support/WriteLimit.h>
 
@@ -114,7 +116,7 @@ TEST_F(SampleCollection, IsMadeOfWholeJpegFilesOfReasonableSize) {
 
 TEST_F(SampleCollection, SaysInExifWhatWasPlanned) {
   for (const SampleShot& shot : *plan_) {
-    const auto image = Exiv2::ImageFactory::open(File(shot).utf8string());
+    const auto image = Exiv2::ImageFactory::open(Zenvora::Test::ExivPath(File(shot)));
     image->readMetadata();
     const Exiv2::ExifData& exif = image->exifData();
     const auto text = [&exif](const char* key) {
@@ -152,10 +154,9 @@ TEST_F(SampleCollection, SaysInExifWhatWasPlanned) {
 }
 
 TEST_F(SampleCollection, HasFileTimesLikeTheShots) {
-  const auto of = [](const SampleShot& shot) { return fs::last_write_time(File(shot).native()); };
+  const auto of = [](const SampleShot& shot) { return QueryFile(File(shot)).modifiedNs / 1'000'000; };
   for (const SampleShot& shot : *plan_) {
-    const auto apart = std::chrono::duration_cast<std::chrono::milliseconds>(of(shot) - of(plan_->front()));
-    EXPECT_EQ(apart.count(), plan_->front().taken.msecsTo(shot.taken)) << shot.path;
+    EXPECT_EQ(of(shot) - of(plan_->front()), plan_->front().taken.msecsTo(shot.taken)) << shot.path;
   }
 }
 
@@ -199,7 +200,7 @@ TEST(Sample, WritesPositionsOfAllFourQuarters) {
   MakeSample(tree.Path("s"), {kSeed, photos, nullptr}, {});
   std::map<std::string, int> quarters;
   for (const SampleShot& shot : PlanSample(kSeed, photos)) {
-    const auto image = Exiv2::ImageFactory::open((tree.Path("s") / ioPath(shot.path)).utf8string());
+    const auto image = Exiv2::ImageFactory::open(Zenvora::Test::ExivPath(tree.Path("s") / ioPath(shot.path)));
     image->readMetadata();
     Exiv2::ExifData& exif = image->exifData();
     if (!shot.hasPosition) {

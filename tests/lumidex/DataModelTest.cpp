@@ -45,14 +45,15 @@ TEST(DataModel, TakesNameBeforeId) {
 
 TEST(DataModel, KeepsWhatItsOwnerSets) {
   DataModel model(QStringLiteral("a.jpg"), QStringLiteral("1"), ItemType::Photo);
-  const ioPath path("/photos/caf\xE9.jpg");
+  const std::string name = "/photos/caf\xC3\xA9.jpg";
+  const ioPath path(name);
   const QDateTime taken(QDate(2015, 3, 29), QTime(2, 30, 0, 123));
   model.SetPath(path);
   model.SetSize(std::numeric_limits<std::uint64_t>::max());
   model.SetDateTime(taken);
   model.SetLost(true);
   EXPECT_EQ(model.GetPath(), path);
-  EXPECT_EQ(model.GetPath().utf8string(), "/photos/caf\xE9.jpg");
+  EXPECT_EQ(model.GetPath().utf8string(), name);
   EXPECT_EQ(model.GetSize(), std::numeric_limits<std::uint64_t>::max());
   EXPECT_EQ(model.GetDateTime(), taken);
   EXPECT_TRUE(model.IsLost());

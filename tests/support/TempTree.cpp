@@ -4,11 +4,14 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <unistd.h>
 #endif
 
@@ -16,7 +19,8 @@ namespace Zenvora::Test {
 
 namespace fs = std::filesystem;
 
-TempTree::TempTree() : root_(QFileInfo(folder_.path()).canonicalFilePath()) {
+TempTree::TempTree()
+    : root_(fs::path(ioPath(QFileInfo(folder_.path()).canonicalFilePath()).native()).make_preferred()) {
   if (!folder_.isValid()) {
     throw std::runtime_error("no temporary folder: " + folder_.errorString().toStdString());
   }
@@ -36,7 +40,7 @@ TempTree::~TempTree() {
 }
 
 ioPath TempTree::Path(const ioPath& relative) const {
-  return relative.empty() ? root_ : root_ / relative;
+  return relative.empty() ? root_ : ioPath(fs::path((root_ / relative).native()).make_preferred());
 }
 
 ioPath TempTree::Write(const ioPath& relative, const std::string& content) const {
@@ -60,6 +64,33 @@ ioPath TempTree::MakeFolder(const ioPath& relative) const {
 std::string ReadFile(const ioPath& file) {
   std::ifstream stream(file.native(), std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+std::string ReadText(const ioPath& file) {
+  std::string text = ReadFile(file);
+  text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
+  return text;
+}
+
+std::string Slashes(const ioPath& path) {
+  std::string text = path.utf8string();
+#ifdef _WIN32
+  std::replace(text.begin(), text.end(), '\\', '/');
+#endif
+  return text;
+}
+
+bool MakeLink(const ioPath& target, const ioPath& link) {
+#ifdef _WIN32
+  // Without developer mode or rights refused; Wine says yes and makes none.
+  constexpr DWORD kUnprivileged = 2;
+  CreateSymbolicLinkW(link.native().c_str(), target.native().c_str(), kUnprivileged);
+  const DWORD attributes = GetFileAttributesW(link.native().c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+#else
+  fs::create_symlink(target.native(), link.native());
+  return true;
+#endif
 }
 
 bool IsSuperuser() {

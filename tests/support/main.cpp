@@ -23,7 +23,7 @@ int main(int argc, char** argv) {
   QLocale::setDefault(QLocale(QStringLiteral("en_US")));
 
   FLAGS_logtostderr = true;
-  FLAGS_stderrthreshold = google::FATAL;
+  FLAGS_stderrthreshold = google::GLOG_FATAL;
   google::InitGoogleLogging(argv[0]);
 
   Zenvora::App::ApplicationOf<QCoreApplication> application(argc, argv);

@@ -306,7 +306,7 @@ int main(int argc, char** argv) {
   qputenv("HOME", home.path().toUtf8());
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
   FLAGS_logtostderr = true;
-  FLAGS_stderrthreshold = google::FATAL;
+  FLAGS_stderrthreshold = google::GLOG_FATAL;
   google::InitGoogleLogging(argv[0]);
   return RUN_ALL_TESTS();
 }

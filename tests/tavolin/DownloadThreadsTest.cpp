@@ -67,8 +67,11 @@ TEST_F(ResourceTest, KeepsTheStoredCopyWholeWhateverThreadsDo) {
       if (!body.empty()) {
         ++seen;
         torn += known.count(QByteArray::fromStdString(body)) == 0 ? 1 : 0;
+#ifndef _WIN32
+        // There a file cannot be opened for the moment in which it is replaced.
       } else if (seen > 0) {
         ++torn;
+#endif
       }
     }
   });

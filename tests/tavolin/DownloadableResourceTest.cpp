@@ -533,6 +533,9 @@ TEST_F(ResourceTest, FailsWhenAFolderStandsInTheCopysPlace) {
 }
 
 TEST_F(ResourceTest, ServesTheFormerCopyFromAFolderWithoutPermission) {
+#ifdef _WIN32
+  GTEST_SKIP() << "folders are closed by access lists there, which Qt does not set";
+#endif
   if (Zenvora::Test::IsSuperuser()) {
     GTEST_SKIP() << "permissions do not bind the superuser";
   }

@@ -338,6 +338,8 @@ TEST_F(NetworkDownloadsTest, FailsWhenTheAnswerIsNotHttp) {
     socket->disconnectFromHost();
   });
   auto request = Request("/a");
+  // Not every system tells of an end so sudden.
+  request.stallTimeout = 5s;
   request.url.setPort(other.serverPort());
   ExpectFailure(Fetch(request), "");
 }
@@ -498,7 +500,11 @@ TEST_F(NetworkDownloadsTest, IsSilentWhenGivenUpBetweenTheAnswerAndItsDelivery) 
 
 TEST_F(NetworkDownloadsTest, ReadsFiles) {
   const Zenvora::Test::TempTree tree;
-  for (const char* name : {"plain", "with space", "100%25", "a?b#c", "\xc3\xa4\xe3\x81\x82"}) {
+  std::vector<const char*> names = {"plain", "with space", "100%25", "b#c", "\xc3\xa4\xe3\x81\x82"};
+#ifndef _WIN32
+  names.push_back("a?b#c");
+#endif
+  for (const char* name : names) {
     auto request = Request("/");
     request.url = QUrl::fromLocalFile(tree.Write(name, "content").qstring());
     request.etag = "\"v1\"";

@@ -20,7 +20,7 @@ std::optional<std::string> CalendarWatch::Fault() const {
 void CalendarWatch::send(google::LogSeverity severity, const char* /*fullFilename*/,
                          const char* /*baseFilename*/, int /*line*/, const google::LogMessageTime& /*time*/,
                          const char* message, std::size_t length) {
-  if (severity < google::ERROR) {
+  if (severity < google::GLOG_ERROR) {
     return;
   }
   const auto fault = CalendarFaultOf(std::string(message, length));

@@ -59,9 +59,9 @@ void LogLines::send(google::LogSeverity severity, const char* fullFilename, cons
   if (verbosity_ > 0) {
     const std::string source = std::string(fullFilename) + ':' + std::to_string(line) + ": ";
     console_.Note(std::string(google::GetLogSeverityName(severity)) + ' ' + source + text);
-  } else if (severity == google::WARNING) {
+  } else if (severity == google::GLOG_WARNING) {
     console_.Warning(CondensedLogText(text));
-  } else if (severity > google::WARNING) {
+  } else if (severity > google::GLOG_WARNING) {
     console_.Error(CondensedLogText(text));
   }
 }

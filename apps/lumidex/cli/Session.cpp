@@ -7,6 +7,10 @@
 namespace Zenvora::Lumidex::Cli {
 
 ioPath AbsolutePath(const std::string& argument) {
+  const std::string fault = ioPath(argument).name_fault();
+  if (!argument.empty() && !fault.empty()) {
+    throw UsageError("The name " + argument + " " + fault + ".");
+  }
   std::error_code ignored;
   const std::filesystem::path absolute = std::filesystem::absolute(ioPath(argument).native(), ignored);
   if (absolute.empty()) {
@@ -19,7 +23,7 @@ ioPath AbsolutePath(const std::string& argument) {
       plain /= element;
     }
   }
-  return ioPath(plain);
+  return ioPath(plain.make_preferred());
 }
 
 ioPath Session::CatalogueFile() const {

@@ -13,7 +13,9 @@
 #include <unordered_set>
 #include <utility>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <cerrno>
 #include <unistd.h>
 #endif
@@ -24,9 +26,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Paths are stored as bytes: a file name on Linux need not be text.
+// Paths are stored as bytes: a file name on Linux need not be text. One separator, so that the bytes compare.
 QByteArray PathBytes(const ioPath& path) {
-  return QByteArray::fromStdString(path.utf8string());
+  fs::path plain = path.native();
+  return QByteArray::fromStdString(ioPath(plain.make_preferred()).utf8string());
 }
 
 ioPath PathOf(const QVariant& bytes) {
@@ -110,7 +113,11 @@ void RequireWritable(const ioPath& file) {
     }
   }
 #else
-  static_cast<void>(file);
+  // Folders have no such mark; what their access lists forbid shows on opening.
+  const DWORD attributes = GetFileAttributesW(file.for_system().c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    ThrowCatalogueError(file, "it is write-protected");
+  }
 #endif
 }
 

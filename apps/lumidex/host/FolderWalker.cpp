@@ -1,15 +1,13 @@
 #include "FolderWalker.h"
 
 #include "CanonicalPath.h"
+#include "FolderEntries.h"
 
 #include <zenvora/core/ErrorText.h>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace Zenvora::Lumidex::Host {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -118,27 +116,20 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
                                std::vector<std::string>& files) {
   std::error_code error;
   std::vector<ioPath> links;
-  fs::directory_iterator entry(folder.path.for_system(), error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    const ioPath name(entry->path().filename());
-    if (HasHiddenName(name)) {
-      continue;
-    }
-    std::error_code unknown;
-    switch (entry->symlink_status(unknown).type()) {
-      case fs::file_type::directory:
-        folders.push_back(name.utf8string());
+  for (const FolderEntry& entry : ReadFolderEntries(folder.path, error)) {
+    switch (entry.kind) {
+      case FolderEntry::Kind::Folder:
+        folders.push_back(entry.name.utf8string());
         break;
-      case fs::file_type::symlink:
-        links.push_back(name);
+      case FolderEntry::Kind::Link:
+        links.push_back(entry.name);
         break;
-      case fs::file_type::regular:
-      case fs::file_type::none:
-        if (IsPhotoName(name)) {
-          files.push_back(name.utf8string());
+      case FolderEntry::Kind::File:
+        if (IsPhotoName(entry.name)) {
+          files.push_back(entry.name.utf8string());
         }
         break;
-      default:
+      case FolderEntry::Kind::Other:
         break;
     }
   }

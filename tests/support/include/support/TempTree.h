@@ -30,6 +30,22 @@ class TempTree {
 
 std::string ReadFile(const ioPath& file);
 
+/// Like `ReadFile`, with line ends as on Linux: some libraries write those of the system.
+std::string ReadText(const ioPath& file);
+
+/// The text of a path with '/' for a separator, wherever the test runs.
+std::string Slashes(const ioPath& path);
+
+/// Makes a symbolic link; false where this system or user cannot.
+bool MakeLink(const ioPath& target, const ioPath& link);
+
+/// Makes a symbolic link or leaves the rest of the test out.
+#define LUMIDEX_LINK_OR_SKIP(target, link)                \
+  if (!::Zenvora::Test::MakeLink(target, link)) {         \
+    GTEST_SKIP() << "no symbolic links can be made here"; \
+  }                                                       \
+  static_assert(true)
+
 /// True when this process may do anything to any file, so that permissions cannot be tested.
 bool IsSuperuser();
 

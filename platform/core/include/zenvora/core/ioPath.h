@@ -85,8 +85,11 @@ class ZENVORA_CORE_EXPORT ioPath {
   /// The form to hand to the system: the path itself; on Windows, when it is long, absolute and with the
   /// prefix that lifts the limit of 260 characters. Not for keeping nor for people.
   std::filesystem::path for_system() const;
+  /// Equal for equal paths.
+  std::size_t hash() const noexcept;
 
  private:
+  /// Also no file named as if it were a folder.
   bool IsName() const;
 
   std::filesystem::path path_;
@@ -99,7 +102,5 @@ ZENVORA_CORE_EXPORT std::ostream& operator<<(std::ostream& stream, const ioPath&
 
 template <>
 struct std::hash<Zenvora::ioPath> {
-  std::size_t operator()(const Zenvora::ioPath& path) const noexcept {
-    return std::filesystem::hash_value(path.native());
-  }
+  std::size_t operator()(const Zenvora::ioPath& path) const noexcept { return path.hash(); }
 };

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <zenvora/core/ioPath.h>
+
+#include <system_error>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+struct FolderEntry {
+  enum class Kind {
+    File,
+    Folder,
+    Link,   ///< A symbolic link, on Windows also a junction, to whatever.
+    Other,  ///< A device, a pipe.
+  };
+  ioPath name;
+  /// File where the system does not tell.
+  Kind kind = Kind::File;
+};
+
+/// What is in the folder, in no order, links not followed; without what is hidden: by a dot in front, on
+/// Windows also by its attribute. What could be read before an error stays.
+std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, std::error_code& error);
+
+}  // namespace Zenvora::Lumidex::Host

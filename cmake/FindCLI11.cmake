@@ -1,0 +1,11 @@
+# CLI11 is a folder of headers; where it has no CMake package of its own, this is one.
+find_package(CLI11 CONFIG QUIET)
+if(NOT TARGET CLI11::CLI11)
+  find_path(CLI11_INCLUDE_DIR CLI/CLI.hpp)
+  include(FindPackageHandleStandardArgs)
+  find_package_handle_standard_args(CLI11 REQUIRED_VARS CLI11_INCLUDE_DIR)
+  if(CLI11_FOUND)
+    add_library(CLI11::CLI11 INTERFACE IMPORTED)
+    target_include_directories(CLI11::CLI11 INTERFACE "${CLI11_INCLUDE_DIR}")
+  endif()
+endif()

@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# Runs a command in surroundings where Windows programs work: a new Wine prefix, gone afterwards, and one virtual screen.
+#   tools/windows/with-wine.sh COMMAND [ARGUMENT...]
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+
+LUMIDEX_WINDOWS_TOOLCHAIN=$("$here/toolchain.sh" --path) ||
+  { echo "the Windows toolchain is missing: make windows-toolchain" >&2; exit 1; }
+export LUMIDEX_WINDOWS_TOOLCHAIN
+work=$(mktemp -d)
+export WINEPREFIX=$work/prefix WINEARCH=win64 WINEDEBUG=-all
+wineserver=/usr/lib/wine/wineserver64
+
+screen=
+stop() {
+  "$wineserver" -k 2>/dev/null || true
+  "$wineserver" -w 2>/dev/null || true
+  [ -z "$screen" ] || kill "$screen" 2>/dev/null || true
+  rm -rf "$work"
+}
+trap stop EXIT
+trap 'exit 130' INT TERM
+
+# The number of the screen is the server's choice, so that several runs do not meet.
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+screen=$!
+for _ in $(seq 100); do
+  [ ! -s "$work/display" ] || break
+  sleep 0.1
+done
+[ -s "$work/display" ] || { echo "with-wine: the virtual screen does not start" >&2; exit 1; }
+DISPLAY=:$(cat "$work/display")
+export DISPLAY
+
+started=$SECONDS
+"$here/wine.sh" wineboot --init >"$work/wineboot.txt" 2>&1 ||
+  { tail "$work/wineboot.txt" >&2; echo "with-wine: Wine makes no prefix" >&2; exit 1; }
+# Without a window manager's frame a window is there at once.
+"$here/wine.sh" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
+# One server for everything that follows: it would otherwise start and end with each program.
+"$wineserver" -w
+"$wineserver" -p
+echo "with-wine: $(/usr/lib/wine/wine64 --version), prefix made in $((SECONDS - started)) s"
+
+"$@"
