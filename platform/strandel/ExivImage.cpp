@@ -1,93 +1,222 @@
 #include "ExivImage.h"
 
 #include "PhotoIo.h"
+#include "PictureMarks.h"
 
+#include <exiv2/webpimage.hpp>
 #include <glog/logging.h>
 
-#include <mutex>
-#include <utility>
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <new>
 
 namespace Zenvora::Strandel {
 
 namespace {
 
-void LogQuietly(int level, const char* text) {
-  VLOG(2) << "Exiv2 level " << level << ": " << text;
-}
+/// Of files that keep their directories in unusual places.
+constexpr std::uint64_t kMostRead = std::uint64_t{64} * 1024 * 1024;
+/// Longer ones are no date and no camera's name.
+constexpr std::size_t kMaxText = 256;
 
-/// Every reader of this library takes it; guards Exiv2's XMP tables.
-std::mutex& XmpMutex() {
+enum Tag : std::uint16_t {
+  kModel = 0x0110,
+  kExifDirectory = 0x8769,
+  kDateTimeOriginal = 0x9003,
+  kDateTimeDigitised = 0x9004,
+  kSubSecondsOriginal = 0x9291,
+  kSubSecondsDigitised = 0x9292,
+};
+
+/// Every reader in the process takes it.
+std::mutex& ExivMutex() {
   static std::mutex mutex;
   return mutex;
+}
+
+// Broken metadata is no news worth a line on the terminal.
+void LogQuietly(int level, const char* text) {
+  VLOG(2) << "Exiv2 level " << level << ": " << text;
 }
 
 void SetUpOnce() {
   static const bool done = [] {
     Exiv2::LogMsg::setHandler(LogQuietly);
     Exiv2::XmpParser::initialize();
-    // CR3 and JPEG XL are off by default.
+    // HEIC, CR3 and JPEG XL are off by default.
     Exiv2::enableBMFF(true);
     return true;
   }();
   static_cast<void>(done);
 }
 
-std::string Text(const Exiv2::ExifData& exif, const char* key) {
-  const auto found = exif.findKey(Exiv2::ExifKey(key));
-  return found == exif.end() ? std::string() : found->toString();
+bool IsAboutTheEnd(int code) {
+  return code == Exiv2::kerFailedToReadImageData || code == Exiv2::kerInputDataReadFailed ||
+         code == Exiv2::kerNotAJpeg;
 }
 
-std::string FirstText(const Exiv2::ExifData& exif, const char* key, const char* otherKey) {
-  const std::string text = Text(exif, key);
-  return text.empty() ? Text(exif, otherKey) : text;
+/// Exiv2 also knows sidecars, drawings and films, and takes minutes for some broken films.
+bool HoldsPhoto(int type) {
+  namespace Known = Exiv2::ImageType;
+  static constexpr std::array kPhotos = {Known::bmff, Known::bmp,  Known::cr2, Known::crw,  Known::gif,
+                                         Known::jp2,  Known::jpeg, Known::mrw, Known::orf,  Known::png,
+                                         Known::psd,  Known::raf,  Known::rw2, Known::tiff, Known::webp};
+  return std::find(kPhotos.begin(), kPhotos.end(), type) != kPhotos.end();
 }
 
-ExifFields FieldsOf(const Exiv2::ExifData& exif) {
+/// Some formats keep the fields in the first directory. The earlier ones count more; -1: none of them.
+int RankOf(const std::string& group) {
+  static constexpr std::array kGroups = {"Photo", "Image", "PanasonicRaw"};
+  const auto* const found = std::find(kGroups.begin(), kGroups.end(), group);
+  return found == kGroups.end() ? -1 : static_cast<int>(found - kGroups.begin());
+}
+
+std::string TextOf(const Exiv2::Exifdatum& datum) {
+  const Exiv2::TypeId type = datum.typeId();
+  if (type != Exiv2::asciiString && type != Exiv2::unsignedByte && type != Exiv2::undefined) {
+    return std::string();
+  }
+  std::string text(static_cast<std::size_t>(std::max(datum.size(), 0L)), '\0');
+  if (!text.empty()) {
+    datum.copy(reinterpret_cast<Exiv2::byte*>(text.data()), Exiv2::littleEndian);
+  }
+  return text.substr(0, std::min(text.find('\0'), kMaxText));
+}
+
+struct Found {
   ExifFields fields;
-  fields.model = Text(exif, "Exif.Image.Model");
-  fields.original = FirstText(exif, "Exif.Photo.DateTimeOriginal", "Exif.Image.DateTimeOriginal");
-  fields.originalSubSeconds = Text(exif, "Exif.Photo.SubSecTimeOriginal");
-  fields.digitised = Text(exif, "Exif.Photo.DateTimeDigitized");
-  fields.digitisedSubSeconds = Text(exif, "Exif.Photo.SubSecTimeDigitized");
-  return fields;
-}
+  /// A text that is not empty by its length, but holds nothing: perhaps it was not read.
+  bool blank = false;
+  std::uint64_t exifDirectory = 0;
+};
 
-bool HoldsPicture(int type) {
-  return type != Exiv2::ImageType::xmp && type != Exiv2::ImageType::exv;
+class Collector {
+ public:
+  Found Collect(const Exiv2::ExifData& exif) {
+    for (const Exiv2::Exifdatum& datum : exif) {
+      Take(datum);
+    }
+    return found_;
+  }
+
+ private:
+  void Take(const Exiv2::Exifdatum& datum) {
+    switch (datum.tag()) {
+      case kModel:
+        return TakeText(datum, modelRank_, found_.fields.model);
+      case kDateTimeOriginal:
+        return TakeText(datum, originalRank_, found_.fields.original);
+      case kSubSecondsOriginal:
+        return TakeText(datum, originalSubRank_, found_.fields.originalSubSeconds);
+      case kDateTimeDigitised:
+        return TakeText(datum, digitisedRank_, found_.fields.digitised);
+      case kSubSecondsDigitised:
+        return TakeText(datum, digitisedSubRank_, found_.fields.digitisedSubSeconds);
+      case kExifDirectory:
+        if (RankOf(datum.groupName()) > 0 && datum.count() == 1) {
+          found_.exifDirectory = static_cast<std::uint32_t>(datum.toLong());
+        }
+        return;
+      default:
+        return;
+    }
+  }
+  static constexpr int kNoRank = 100;
+  void TakeText(const Exiv2::Exifdatum& datum, int& rank, std::string& text) {
+    const int own = RankOf(datum.groupName());
+    if (own < 0 || own >= rank) {
+      return;
+    }
+    const std::string read = TextOf(datum);
+    if (read.empty()) {
+      found_.blank = found_.blank || datum.size() > 4;
+      return;
+    }
+    rank = own;
+    text = read;
+  }
+
+  Found found_;
+  int modelRank_ = kNoRank;
+  int originalRank_ = kNoRank;
+  int originalSubRank_ = kNoRank;
+  int digitisedRank_ = kNoRank;
+  int digitisedSubRank_ = kNoRank;
+};
+
+bool SaysNothing(const ExifFields& fields) {
+  return fields.original.empty() && fields.digitised.empty() && fields.model.empty();
 }
 
 }  // namespace
 
-ExivResult ReadExivImage(PhotoSource& source, ExifFields& fields, std::string& cause) {
-  // Outlives the try block: metadata read before the damage still serves.
-  decltype(Exiv2::ImageFactory::open(nullptr, 0)) image;
-  const std::lock_guard<std::mutex> lock(XmpMutex());
+ExivImage::ExivImage(PhotoSource& source) : copy_(source), lock_(ExivMutex(), std::defer_lock) {
+  if (BeginsLikeTiff(source)) {
+    copy_.Bytes();
+  }
+  lock_.lock();
   SetUpOnce();
-  try {
-    // Exiv2 0.27 takes nothing else.
+  io_ = new PhotoIo(source, copy_);
+  // Exiv2 0.27 takes nothing else.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-    image = Exiv2::ImageFactory::open(Exiv2::BasicIo::AutoPtr(new PhotoIo(source)));
+  image_.reset(Exiv2::ImageFactory::open(Exiv2::BasicIo::AutoPtr(io_)).release());
 #pragma GCC diagnostic pop
-    if (image.get() == nullptr || !HoldsPicture(image->imageType())) {
-      return ExivResult::UnknownFormat;
-    }
-    image->readMetadata();
+  if (image_ != nullptr && !HoldsPhoto(image_->imageType())) {
+    image_.reset();
+  }
+  if (image_ == nullptr) {
+    io_ = nullptr;
+  }
+}
+
+ExivImage::~ExivImage() = default;
+
+ExivOutcome ExivImage::ReadMetadata(std::string& cause) {
+  // The directories, the EXIF directory, the rest: no file takes more rounds.
+  constexpr int kMostRounds = 3;
+  ExivOutcome outcome = ReadOnce(cause);
+  for (int round = 1; round < kMostRounds && ReadMore(); ++round) {
+    outcome = ReadOnce(cause);
+  }
+  return outcome;
+}
+
+ExivOutcome ExivImage::ReadOnce(std::string& cause) {
+  try {
+    image_->readMetadata();
   } catch (const std::bad_alloc&) {
     throw;
-  } catch (const std::exception& error) {
-    cause = error.what();
-    if (image.get() == nullptr || image->exifData().empty()) {
-      return ExivResult::Damaged;
-    }
-  }
-  try {
-    fields = FieldsOf(image->exifData());
   } catch (const Exiv2::AnyError& error) {
     cause = error.what();
-    return ExivResult::Damaged;
+    return IsAboutTheEnd(error.code()) ? ExivOutcome::BrokenOff : ExivOutcome::Nonsense;
+  } catch (const std::exception& error) {
+    cause = error.what();
+    return ExivOutcome::Nonsense;
   }
-  return ExivResult::Read;
+  cause.clear();
+  return ExivOutcome::Whole;
+}
+
+/// True when it brought bytes that may hold what is missing.
+bool ExivImage::ReadMore() {
+  if (!copy_.Begun() || copy_.Complete()) {
+    return false;
+  }
+  const Found found = Collector().Collect(image_->exifData());
+  if (found.exifDirectory != 0 && copy_.ReadAround(found.exifDirectory)) {
+    return true;
+  }
+  return (found.blank || SaysNothing(found.fields)) && copy_.ReadFront(kMostRead);
+}
+
+ExifFields ExivImage::Fields() const {
+  return Collector().Collect(image_->exifData()).fields;
+}
+
+void ExivImage::WantEverything() {
+  io_->WantEverything();
 }
 
 }  // namespace Zenvora::Strandel

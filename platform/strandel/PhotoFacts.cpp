@@ -1,39 +1,14 @@
-#include "BmffExif.h"
 #include "ExivImage.h"
-#include "JpegExif.h"
+#include "PictureMarks.h"
 
 #include <zenvora/strandel/PhotoFacts.h>
 
-#include <cstring>
+#include <exception>
 #include <new>
 
 namespace Zenvora::Strandel {
 
 namespace {
-
-constexpr std::size_t kHeadSize = 16;
-
-/// Pictures that are told by their first bytes and whose metadata is not read.
-bool BeginsLikeOpaquePicture(const unsigned char* head) {
-  struct Mark {
-    const char* bytes;
-    std::size_t length;
-  };
-  static constexpr Mark kMarks[] = {
-      {"FOVb", 4},             // Sigma X3F
-      {"IIII", 4},             // Phase One, older
-      {"MMMM", 4},             //
-      {"II+\0\x08\0\0\0", 8},  // BigTIFF
-      {"MM\0+\0\x08\0\0", 8},  //
-      {"\xFF\x0A", 2},         // JPEG XL, bare
-  };
-  for (const Mark& mark : kMarks) {
-    if (std::memcmp(head, mark.bytes, mark.length) == 0) {
-      return true;
-    }
-  }
-  return false;
-}
 
 std::string WithoutBlanks(const std::string& text) {
   return QString::fromStdString(text).trimmed().toStdString();
@@ -51,70 +26,74 @@ void Refuse(PhotoFacts& facts, const std::string& cause) {
   facts.cause = cause;
 }
 
-void ReadTiff(PhotoSource& source, PhotoFacts& facts) {
-  ExifFields fields;
-  Stretch preview;
-  if (!ReadExifFields(source, {0, source.Size()}, fields, preview)) {
-    Refuse(facts, "Its TIFF directory is damaged");
+/// Why a file without any metadata is no photo; empty when it is one.
+std::string WhatIsMissing(Exiv2::Image& image, ExivOutcome outcome, const std::string& cause) {
+  switch (image.imageType()) {
+    case Exiv2::ImageType::jpeg:
+      // An EXIF block that makes no sense says nothing about the picture behind it.
+      return image.pixelWidth() > 0 || outcome == ExivOutcome::Nonsense
+                 ? std::string()
+                 : "Its JPEG data breaks off before the picture";
+    case Exiv2::ImageType::tiff:
+    case Exiv2::ImageType::cr2:
+    case Exiv2::ImageType::orf:
+    case Exiv2::ImageType::rw2:
+      return "Its TIFF directory is damaged";
+    default:
+      return outcome == ExivOutcome::Whole ? std::string() : "It is damaged: " + cause;
+  }
+}
+
+void ReadWithExiv2(PhotoSource& source, PhotoFacts& facts) {
+  ExivImage image(source);
+  if (!image.IsPicture()) {
+    Refuse(facts, "Its content is of no known picture format");
     return;
   }
-  if (preview.length > 0 && fields.original.empty()) {
-    ReadJpegFields(source, preview, fields);
-  }
-  Take(fields, facts);
-}
-
-void ReadJpeg(PhotoSource& source, PhotoFacts& facts) {
-  ExifFields fields;
-  if (ReadJpegFields(source, {0, source.Size()}, fields)) {
-    Take(fields, facts);
-  } else {
-    Refuse(facts, "Its JPEG data breaks off before the picture");
-  }
-}
-
-void ReadHeif(PhotoSource& source, PhotoFacts& facts) {
-  ExifFields fields;
-  if (ReadHeifFields(source, fields)) {
-    Take(fields, facts);
-  } else {
-    Refuse(facts, "Its data breaks off before the picture");
-  }
-}
-
-void ReadOther(PhotoSource& source, PhotoFacts& facts) {
-  ExifFields fields;
   std::string cause;
-  switch (ReadExivImage(source, fields, cause)) {
-    case ExivResult::Read:
-      Take(fields, facts);
+  const ExivOutcome outcome = image.ReadMetadata(cause);
+  if (image.Image().exifData().empty()) {
+    const std::string missing = WhatIsMissing(image.Image(), outcome, cause);
+    if (!missing.empty()) {
+      Refuse(facts, image.IsCut() ? "It is too large to be read to its end" : missing);
       return;
-    case ExivResult::Damaged:
-      Refuse(facts, "It is damaged: " + cause);
-      return;
-    case ExivResult::UnknownFormat:
-      Refuse(facts, "Its content is of no known picture format");
-      return;
+    }
   }
+  Take(image.Fields(), facts);
+}
+
+void ReadKnownFormat(PhotoSource& source, PhotoFacts& facts) {
+  try {
+    ReadWithExiv2(source, facts);
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const std::exception& error) {
+    Refuse(facts, std::string("It is damaged: ") + error.what());
+  }
+}
+
+bool SaysNothing(const PhotoFacts& facts) {
+  return !facts.original.isValid() && !facts.digitised.isValid() && facts.cameraModel.isEmpty();
 }
 
 void ReadContent(PhotoSource& source, PhotoFacts& facts) {
-  unsigned char head[kHeadSize] = {};
   if (source.Size() == 0) {
     Refuse(facts, "It is empty");
     return;
   }
-  source.Read(0, head, sizeof head);
-  if (BeginsLikeJpeg(head)) {
-    ReadJpeg(source, facts);
-  } else if (BeginsLikeTiff(head)) {
-    ReadTiff(source, facts);
-  } else if (source.Size() > sizeof head && BeginsLikeOpaquePicture(head)) {
+  if (BeginsLikeOpaquePicture(source)) {
     Take(ExifFields(), facts);
-  } else if (BeginsLikeHeif(source)) {
-    ReadHeif(source, facts);
-  } else {
-    ReadOther(source, facts);
+    return;
+  }
+  ReadKnownFormat(source, facts);
+  // Exiv2 takes films for pictures, and gives a picture up for a colour profile that it does not like.
+  if (BeginsLikeContainer(source) && SaysNothing(facts)) {
+    if (HasPictureBrand(source)) {
+      facts.cause.clear();
+      Take(ExifFields(), facts);
+    } else {
+      Refuse(facts, "Its content is of no known picture format");
+    }
   }
 }
 
@@ -131,7 +110,9 @@ PhotoFacts ReadPhotoFacts(const ioPath& file) {
   } catch (const std::bad_alloc&) {
     Refuse(facts, "Reading it takes more memory than there is");
   }
-  if (facts.status != PhotoFacts::Status::Read && !source.Failure().empty()) {
+  // What could not be read may have held the date.
+  const bool complete = facts.status == PhotoFacts::Status::Read && facts.original.isValid();
+  if (!complete && !source.Failure().empty()) {
     facts.status = PhotoFacts::Status::CannotOpen;
     facts.cause = source.Failure();
   }

@@ -17,9 +17,6 @@ namespace Zenvora::Strandel {
 
 namespace {
 
-// Holds the whole EXIF segment of a JPEG file, so that most files take a single read.
-constexpr std::size_t kWindow = std::size_t{64} * 1024;
-
 std::string SystemWords(int error) {
   return std::system_category().message(error);
 }
@@ -35,7 +32,7 @@ PhotoSource::~PhotoSource() {
 }
 
 bool PhotoSource::Open(const ioPath& file, std::string& cause) {
-  HANDLE handle = CreateFileW(file.wstring().c_str(), GENERIC_READ,
+  HANDLE handle = CreateFileW(file.for_system().c_str(), GENERIC_READ,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                               FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) {
@@ -133,19 +130,18 @@ std::size_t PhotoSource::Read(std::uint64_t offset, void* to, std::size_t count)
     return 0;
   }
   count = static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset));
-  const bool inside = offset >= windowOffset_ && offset + count <= windowOffset_ + window_.size();
+  const bool inside = offset >= windowOffset_ && offset + count <= windowOffset_ + windowSize_;
   if (!inside) {
-    if (count >= kWindow) {
+    if (count >= sizeof window_) {
       return ReadDirectly(offset, to, count);
     }
-    window_.resize(kWindow);
-    window_.resize(ReadDirectly(offset, window_.data(), kWindow));
+    windowSize_ = ReadDirectly(offset, window_, sizeof window_);
     windowOffset_ = offset;
   }
   const auto from = static_cast<std::size_t>(offset - windowOffset_);
-  const std::size_t given = std::min(count, window_.size() - std::min(from, window_.size()));
+  const std::size_t given = std::min(count, windowSize_ - std::min(from, windowSize_));
   if (given > 0) {
-    std::memcpy(to, window_.data() + from, given);
+    std::memcpy(to, window_ + from, given);
   }
   return given;
 }

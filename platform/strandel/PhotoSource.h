@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <vector>
 
 namespace Zenvora::Strandel {
 
@@ -42,7 +41,10 @@ class PhotoSource {
   int handle_ = -1;
 #endif
   std::uint64_t size_ = 0;
-  std::vector<unsigned char> window_;
+  /// Holds the whole EXIF segment of a JPEG file, so that most files take a single read. Part of the object,
+  /// which lies on the stack: to get and give it back for each file costs as much as to fill it.
+  unsigned char window_[std::size_t{64} * 1024];
+  std::size_t windowSize_ = 0;
   std::uint64_t windowOffset_ = 0;
   std::string failure_;
 };

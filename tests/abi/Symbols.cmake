@@ -17,6 +17,49 @@ function(symbols variable)
   set(${variable} "${lines}" PARENT_SCOPE)
 endfunction()
 
+function(compare_with_list)
+  list(REMOVE_DUPLICATES exported)
+  list(SORT exported)
+  if(NOT exported)
+    message(FATAL_ERROR "${LIBRARY} exports nothing of its own")
+  endif()
+
+  if(DEFINED ENV{LUMIDEX_ABI_RENEW})
+    list(JOIN exported "\n" text)
+    file(WRITE "${LIST}" "${text}\n")
+    list(LENGTH exported count)
+    message(STATUS "${count} symbols written to ${LIST}")
+    return()
+  endif()
+
+  file(STRINGS "${LIST}" listed)
+  set(gone ${listed})
+  list(REMOVE_ITEM gone ${exported})
+  set(new ${exported})
+  list(REMOVE_ITEM new ${listed})
+  if(gone OR new)
+    list(TRANSFORM gone PREPEND "\n  - ")
+    list(TRANSFORM new PREPEND "\n  + ")
+    string(CONCAT difference ${gone} ${new})
+    message(FATAL_ERROR "\
+The exported symbols differ from ${LIST} (- listed and gone, + exported and not listed):${difference}
+If that is meant, renew the list (and raise the version for every -):
+  $ENV{LUMIDEX_ABI_TARGET}")
+  endif()
+endfunction()
+
+# A DLL has a table of what it exports, and nothing gets into it by itself.
+if(WINDOWS)
+  execute_process(COMMAND "${OBJDUMP}" -p "${LIBRARY}" OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+  string(REGEX MATCH "Ordinal/Name Pointer.*" table "${output}")
+  # Other tables follow.
+  string(REGEX REPLACE "\n\n.*" "" table "${table}")
+  string(REGEX MATCHALL "\\[ *[0-9]+\\] [^\n ]+" exported "${table}")
+  list(TRANSFORM exported REPLACE "^.* " "")
+  compare_with_list()
+  return()
+endif()
+
 # Chosen by the linker's names: those of people may begin with a return type.
 symbols(mangled)
 symbols(readable -C)
@@ -31,31 +74,4 @@ foreach(name symbol IN ZIP_LISTS mangled readable)
     list(APPEND exported "${symbol}")
   endif()
 endforeach()
-list(REMOVE_DUPLICATES exported)
-list(SORT exported)
-if(NOT exported)
-  message(FATAL_ERROR "${LIBRARY} exports nothing of its own")
-endif()
-
-if(DEFINED ENV{LUMIDEX_ABI_RENEW})
-  list(JOIN exported "\n" text)
-  file(WRITE "${LIST}" "${text}\n")
-  list(LENGTH exported count)
-  message(STATUS "${count} symbols written to ${LIST}")
-  return()
-endif()
-
-file(STRINGS "${LIST}" listed)
-set(gone ${listed})
-list(REMOVE_ITEM gone ${exported})
-set(new ${exported})
-list(REMOVE_ITEM new ${listed})
-if(gone OR new)
-  list(TRANSFORM gone PREPEND "\n  - ")
-  list(TRANSFORM new PREPEND "\n  + ")
-  string(CONCAT difference ${gone} ${new})
-  message(FATAL_ERROR "\
-The exported symbols differ from ${LIST} (- listed and gone, + exported and not listed):${difference}
-If that is meant, renew the list (and raise the version for every -):
-  $ENV{LUMIDEX_ABI_TARGET}")
-endif()
+compare_with_list()

@@ -2,6 +2,7 @@
 
 #include <host/Catalogue.h>
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -60,6 +61,26 @@ Ran CliTest::Finish(QProcess& process) {
 Ran CliTest::Run(const QStringList& arguments) const {
   QProcess process;
   Start(process, arguments);
+  return Finish(process);
+}
+
+Ran CliTest::RunCopy(const QStringList& arguments) const {
+#ifdef _WIN32
+  const QString copy = Text(tree.MakeFolder("bin") / "lumidex.exe");
+  const QString searched = QStringLiteral("PATH");
+  const QString places = QStringLiteral(LUMIDEX_LIBRARIES ";") + environment.value(searched);
+#else
+  const QString copy = Text(tree.MakeFolder("bin") / "lumidex");
+  const QString searched = QStringLiteral("LD_LIBRARY_PATH");
+  const QString places = QStringLiteral(LUMIDEX_LIBRARIES);
+#endif
+  EXPECT_TRUE(QFile::copy(QStringLiteral(LUMIDEX_PROGRAM), copy));
+  QProcess process;
+  QProcessEnvironment withLibraries = environment;
+  withLibraries.insert(searched, places);
+  process.setProcessEnvironment(withLibraries);
+  process.setWorkingDirectory(Text(tree.Path()));
+  process.start(copy, arguments);
   return Finish(process);
 }
 

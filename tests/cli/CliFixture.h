@@ -37,6 +37,8 @@ class CliTest : public ::testing::Test {
   Ran Run(const QStringList& arguments) const;
   /// `command`: for bash; $LUMIDEX is the command's path.
   Ran RunShell(const std::string& command) const;
+  /// Runs a copy of the program in the folder "bin" of the tree, away from its resources.
+  Ran RunCopy(const QStringList& arguments) const;
   /// Waits for a started process; a hang fails the test.
   static Ran Finish(QProcess& process);
   void Start(QProcess& process, const QStringList& arguments) const;

@@ -1,4 +1,3 @@
-#include "EmbeddedPreviews.h"
 #include "PhotoPixels.h"
 
 #include <host/PhotoFiles.h>
@@ -226,14 +225,6 @@ TEST(LoadThumbnail, FallsBackToAPreviewWhenThePictureIsBroken) {
   bytes[frame + 4] = 12;
   tree.Write("with thumbnail.jpg", bytes);
   EXPECT_TRUE(IsBlue(LoadThumbnail(file, 240)));
-}
-
-TEST(SameShape, AllowsForRoundingButNotForBars) {
-  EXPECT_TRUE(SameShape({3000, 2000}, {160, 107}));
-  EXPECT_TRUE(SameShape({4000, 3000}, {160, 120}));
-  EXPECT_FALSE(SameShape({3000, 2000}, {160, 120}));
-  EXPECT_FALSE(SameShape({2000, 3000}, {160, 107}));
-  EXPECT_FALSE(SameShape({3000, 2000}, {0, 0}));
 }
 
 TEST(Turned, LeavesPicturesAloneWhenTheOrientationSaysNothing) {

@@ -1,5 +1,10 @@
-foreach(file IN ITEMS
-    ${LIBDIR}/libLumidexUtil.so ${LIBDIR}/libZenvoraCore.so ${LIBDIR}/libZenvoraLumidex.so
+if(WINDOWS)
+  set(libraries bin/LumidexUtil.dll bin/ZenvoraCore.dll bin/ZenvoraLumidex.dll ${LIBDIR}/libLumidexUtil.dll.a
+    ${LIBDIR}/libZenvoraCore.dll.a)
+else()
+  set(libraries ${LIBDIR}/libLumidexUtil.so ${LIBDIR}/libZenvoraCore.so ${LIBDIR}/libZenvoraLumidex.so)
+endif()
+foreach(file IN ITEMS ${libraries}
     ${LIBDIR}/cmake/LumidexUtil/LumidexUtilConfig.cmake ${LIBDIR}/cmake/LumidexUtil/LumidexUtilConfigVersion.cmake
     ${LIBDIR}/cmake/LumidexUtil/LumidexUtilTargets.cmake ${LIBDIR}/pkgconfig/LumidexUtil.pc
     ${HEADERS}/LumidexUtil/Export.h ${HEADERS}/LumidexUtil/HolidayAlbums.h ${HEADERS}/LumidexUtil/Wording.h

@@ -1,6 +1,6 @@
 include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
 file(REMOVE_RECURSE "${WORK}")
-run_program("The program" "${PROGRAM}" --version)
+run_program("The program" ${EMULATOR} "${PROGRAM}" --version)
 string(FIND "${printed}" "${VERSION}" place)
 if(place EQUAL -1)
   message(FATAL_ERROR "The program does not print its version ${VERSION} but\n${printed}")

@@ -113,12 +113,64 @@ TEST_P(HeifLayouts, AreRead) {
 
 INSTANTIATE_TEST_SUITE_P(Table, HeifLayouts,
                          testing::Values(Layout{"Usual"}, Layout{"Avif", "avif"},
-                                         Layout{"InIdat", "heic", true},
                                          Layout{"WithoutMark", "heic", false, false},
-                                         Layout{"LongNumbers", "heic", false, true, 3, 2},
                                          Layout{"Plain", "mif1", false, true, 2, 0},
                                          Layout{"LongBox", "heic", false, true, 2, 1, true}),
                          [](const auto& param) { return std::string(param.param.name); });
+
+class RareHeifLayouts : public testing::TestWithParam<Layout> {};
+
+// Exiv2 does not find their EXIF item.
+TEST_P(RareHeifLayouts, AreStillPhotos) {
+  const PhotoFacts facts = Facts(Heif(GetParam()));
+  EXPECT_EQ(facts.status, Status::Read);
+  EXPECT_TRUE(facts.cause.empty());
+  EXPECT_FALSE(facts.original.isValid());
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, RareHeifLayouts,
+                         testing::Values(Layout{"InIdat", "heic", true},
+                                         Layout{"LongNumbers", "heic", false, true, 3, 2}),
+                         [](const auto& param) { return std::string(param.param.name); });
+
+struct Container {
+  const char* name;
+  std::string bytes;
+  bool photo;
+};
+
+std::string Film(const std::string& brand, const std::string& other) {
+  return Box("ftyp", brand + Big(0, 4) + other) + Box("mdat", std::string(100, 'p'));
+}
+
+class ContainersWithoutMetadata : public testing::TestWithParam<Container> {};
+
+TEST_P(ContainersWithoutMetadata, ArePhotosByTheirBrand) {
+  const PhotoFacts facts = Facts(GetParam().bytes);
+  EXPECT_EQ(facts.status, GetParam().photo ? Status::Read : Status::NotAnImage);
+  EXPECT_EQ(facts.cause.empty(), GetParam().photo);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, ContainersWithoutMetadata,
+    testing::Values(
+        Container{"Heic", Film("heic", "mif1"), true}, Container{"Heif", Film("mif1", ""), true},
+        Container{"Avif", Film("avif", "miaf"), true}, Container{"Cr3", Film("crx ", "isom"), true},
+        Container{"BySecondBrand", Film("MiHE", "MiPrmif1"), true},
+        Container{"Jxl", std::string("\0\0\0\x0CJXL \r\n\x87\n", 12) + Film("jxl ", "jxl "), true},
+        Container{"Mp4", Film("mp42", "isom"), false}, Container{"QuickTime", Film("qt  ", "qt  "), false},
+        Container{"BrandBehindTheBox", Box("ftyp", "mp42" + Big(0, 4)) + "heicheic", false},
+        Container{"VersionIsNoBrand", Box("ftyp", "mp42heicisom") + Box("mdat", "p"), false},
+        Container{"NothingBehind", Box("ftyp", "heic" + Big(0, 4) + "mif1"), false},
+        Container{"LyingLength", Big(0x7FFFFFFF, 4) + "ftypheic" + Big(0, 4) + "mif1", false}),
+    [](const auto& param) { return std::string(param.param.name); });
+
+TEST(HeifFacts, SurviveAColourProfileThatIsPadded) {
+  // Exiv2 wants a profile to say its exact length.
+  std::string bytes = Heif(Layout());
+  bytes.replace(bytes.find("garbage"), 4, Big(5, 4));
+  EXPECT_TRUE(Facts(bytes).original.isValid());
+}
 
 TEST(HeifFacts, AreEmptyWithoutAnExifItem) {
   std::string bytes = Heif(Layout());
@@ -156,7 +208,7 @@ TEST(HeifFacts, EndSoonForBoxesThatLeadNowhere) {
   for (int i = 0; i < 2'000'000; ++i) {
     boxes += Big(8, 4) + "free";
   }
-  EXPECT_EQ(Facts(first + boxes).status, Status::NotAnImage);
+  EXPECT_EQ(Facts(first + boxes).status, Status::Read);
 }
 
 }  // namespace

@@ -181,6 +181,15 @@ INSTANTIATE_TEST_SUITE_P(
                                 "ftypheic\0\0\0\0",
                                 16),
                     std::string("%PDF-1.4 and so on"),
+                    std::string("RIFF\xFF\xFF\xFF\x7F"
+                                "AVI LIST\xFF\xFF\xFF\xFF",
+                                20),
+                    std::string("\x1A\x45\xDF\xA3 matroska"),
+                    std::string("\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9\x00\xAA\x00\x62\xCE\x6C", 16),
+                    // A broken film with a length that leads nowhere.
+                    std::string("\x9A\0\0\x14"
+                                "ftypqt  \0\0\0\0qt  \0\0\0$moov\0\0\0\x1C",
+                                32),
                     std::string("\x7F"
                                 "ELF\x02\x01\x01"),
                     std::string("<?xpacket begin=\"\"?><x:xmpmeta xmlns:x=\"adobe:ns:meta/\"></x:xmpmeta>")));

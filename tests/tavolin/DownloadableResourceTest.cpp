@@ -532,6 +532,43 @@ TEST_F(ResourceTest, FailsWhenAFolderStandsInTheCopysPlace) {
   EXPECT_TRUE(QFileInfo(CopyName()).isDir());
 }
 
+#ifdef _WIN32
+TEST_F(ResourceTest, WaitsForWhoeverHoldsTheCopy) {
+  StoreCopy(Calendar("old"), 2 * kWeek);
+  const HANDLE held = CreateFileW(ioPath(CopyName()).native().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  ASSERT_EQ(StoredBody(), "") << "nobody else can open it";
+  std::thread holder([held] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    CloseHandle(held);
+  });
+  CalendarResource resource;
+  resource.StartDownload(false);
+  ASSERT_TRUE(network->Answer(Fetched(Calendar("new"))));
+  holder.join();
+  ExpectEnded(resource, Status::Ready);
+  EXPECT_EQ(StoredBody(), Calendar("new"));
+}
+
+TEST_F(ResourceTest, GivesUpOnACopyThatIsHeldForGood) {
+  const HANDLE held = [this] {
+    StoreCopy(Calendar("old"), 2 * kWeek);
+    return CreateFileW(ioPath(CopyName()).native().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                       FILE_ATTRIBUTE_NORMAL, nullptr);
+  }();
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  const Zenvora::Test::LogCapture log;
+  CalendarResource resource;
+  resource.StartDownload(false);
+  ASSERT_TRUE(network->Answer(Fetched(Calendar("new"))));
+  ExpectEnded(resource, Status::Ready);
+  EXPECT_NE(Warnings(log).find("cannot be written"), std::string::npos) << Warnings(log);
+  EXPECT_EQ(StoredBody(), Calendar("old"));
+  CloseHandle(held);
+}
+#endif
+
 TEST_F(ResourceTest, ServesTheFormerCopyFromAFolderWithoutPermission) {
 #ifdef _WIN32
   GTEST_SKIP() << "folders are closed by access lists there, which Qt does not set";

@@ -8,11 +8,13 @@ LUMIDEX_WINDOWS_TOOLCHAIN=$("$here/toolchain.sh" --path) ||
   { echo "the Windows toolchain is missing: make windows-toolchain" >&2; exit 1; }
 export LUMIDEX_WINDOWS_TOOLCHAIN
 work=$(mktemp -d)
-export WINEPREFIX=$work/prefix WINEARCH=win64 WINEDEBUG=-all
+export WINEARCH=win64 WINEDEBUG=-all
 wineserver=/usr/lib/wine/wineserver64
 
 screen=
+sleeper=
 stop() {
+  [ -z "$sleeper" ] || kill "$sleeper" 2>/dev/null || true
   "$wineserver" -k 2>/dev/null || true
   "$wineserver" -w 2>/dev/null || true
   [ -z "$screen" ] || kill "$screen" 2>/dev/null || true
@@ -33,13 +35,24 @@ DISPLAY=:$(cat "$work/display")
 export DISPLAY
 
 started=$SECONDS
-"$here/wine.sh" wineboot --init >"$work/wineboot.txt" 2>&1 ||
-  { tail "$work/wineboot.txt" >&2; echo "with-wine: Wine makes no prefix" >&2; exit 1; }
+# Now and then Wine stumbles at the first step of a new prefix; the next one then works.
+for attempt in 1 2 3; do
+  export WINEPREFIX=$work/prefix$attempt
+  ! timeout 120 "$here/wine.sh" wineboot --init >"$work/wineboot.txt" 2>&1 || break
+  [ "$attempt" -lt 3 ] ||
+    { tail "$work/wineboot.txt" >&2; echo "with-wine: Wine makes no prefix" >&2; exit 1; }
+done
 # Without a window manager's frame a window is there at once.
 "$here/wine.sh" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
-# One server for everything that follows: it would otherwise start and end with each program.
+# One server for everything that follows, and one program that waits for input without end: else Windows' services and
+# its desktop would start and end with the programs that need them, and keep their output open.
 "$wineserver" -w
 "$wineserver" -p
+mkfifo "$work/never"
+sleep infinity >"$work/never" &
+sleeper=$!
+"$here/wine.sh" cmd /c 'set /p answer=' <"$work/never" >/dev/null 2>&1 &
+"$here/wine.sh" rundll32 user32.dll,MessageBeep >/dev/null 2>&1
 echo "with-wine: $(/usr/lib/wine/wine64 --version), prefix made in $((SECONDS - started)) s"
 
 "$@"

@@ -18,8 +18,7 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 constexpr std::uint64_t kMostBytes = 512ULL * 1024 * 1024;
-constexpr int kHeadBytes = 128 * 1024;
-/// Above this, taking the EXIF thumbnail saves more than looking for it costs.
+/// Above this, taking an embedded preview saves more than looking for it costs.
 constexpr std::int64_t kWorthLooking = 4'000'000;
 
 /// Waiting on a pipe or reading a device would never end.
@@ -36,21 +35,10 @@ int LongerSide(const QImage& image) {
   return std::max(image.width(), image.height());
 }
 
-QImage ThumbnailInJpeg(const QByteArray& head, QIODevice& device, int longerSide) {
-  QImageReader reader(&device);
-  const QSize size = reader.size();
-  if (static_cast<std::int64_t>(size.width()) * size.height() < kWorthLooking) {
-    return {};
-  }
-  const QImage found = ExifThumbnail(head, size, longerSide);
-  const QImageIOHandler::Transformations turn = reader.transformation();
-  const int orientation = turn == QImageIOHandler::TransformationNone        ? 1
-                          : turn == QImageIOHandler::TransformationRotate180 ? 3
-                          : turn == QImageIOHandler::TransformationRotate90  ? 6
-                          : turn == QImageIOHandler::TransformationRotate270 ? 8
-                                                                             : 0;
-  // Mirrored pictures are too rare for a short cut.
-  return orientation == 0 ? QImage() : Turned(found, orientation);
+bool IsSlowToDecode(QIODevice& device) {
+  const QSize size = QImageReader(&device).size();
+  device.seek(0);
+  return static_cast<std::int64_t>(size.width()) * size.height() >= kWorthLooking;
 }
 
 QImage Load(const ioPath& file, int longerSide) {
@@ -58,18 +46,12 @@ QImage Load(const ioPath& file, int longerSide) {
   if (!device.isOpen()) {
     return {};
   }
-  const QByteArray head = device.peek(kHeadBytes);
-  const bool tiff = head.startsWith("II") || head.startsWith("MM");
+  const QByteArray head = device.peek(2);
+  const bool tiff = head == "II" || head == "MM";
   QImage best;
-  if (head.startsWith("\xFF\xD8")) {
-    best = ThumbnailInJpeg(head, device, longerSide);
-    if (!best.isNull()) {
-      return best;
-    }
-    device.seek(0);
-  } else if (tiff) {
-    // Most raw formats are TIFF files whose first picture is tiny: their previews come first.
-    best = LoadEmbeddedPreview(file, longerSide);
+  // Most raw formats are TIFF files whose first picture is tiny: their previews come first.
+  if (tiff || (head == "\xFF\xD8" && IsSlowToDecode(device))) {
+    best = LoadEmbeddedPreview(file, longerSide, tiff ? PreviewShape::Any : PreviewShape::OfThePicture);
     if (LongerSide(best) >= longerSide) {
       return best;
     }
@@ -78,7 +60,7 @@ QImage Load(const ioPath& file, int longerSide) {
   if (!decoded.isNull() && LongerSide(decoded) >= LongerSide(best)) {
     return decoded;
   }
-  return best.isNull() && !tiff ? LoadEmbeddedPreview(file, longerSide) : best;
+  return best.isNull() && !tiff ? LoadEmbeddedPreview(file, longerSide, PreviewShape::Any) : best;
 }
 
 }  // namespace

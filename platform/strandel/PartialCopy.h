@@ -1,0 +1,57 @@
+#pragma once
+
+#include "PhotoSource.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+namespace Zenvora::Strandel {
+
+/// A file in memory of which only some parts have been read; the others are zeros that the system provides
+/// when they are looked at, so that they cost neither the disk nor memory.
+///
+/// For Exiv2, which wants TIFF and raw files whole, of which mostly a few kilobytes matter.
+class PartialCopy {
+ public:
+  /// `source` outlives it. Reads nothing yet.
+  explicit PartialCopy(PhotoSource& source);
+
+  /// The file's size, but no more than Exiv2 can count.
+  std::uint64_t Size() const { return size_; }
+  /// True when the file has more than that.
+  bool IsCut() const;
+  bool Begun() const { return bytes_ != nullptr; }
+  bool Complete() const { return front_ == size_; }
+
+  /// The bytes. The first call reads the beginning of the file and, where a TIFF header points to a first
+  /// directory elsewhere, the parts around that. Throws `std::bad_alloc`.
+  unsigned char* Bytes();
+
+  /// Reads what is not there yet of the surroundings of `offset`; true when that was worth it.
+  bool ReadAround(std::uint64_t offset);
+  /// Reads up to `end`; true when that brought anything new.
+  bool ReadFront(std::uint64_t end);
+
+ private:
+  struct Free {
+    void operator()(unsigned char* bytes) const { std::free(bytes); }
+  };
+  struct Part {
+    std::uint64_t begin;
+    std::uint64_t end;
+  };
+
+  std::uint64_t FirstDirectory() const;
+  bool Covers(std::uint64_t offset) const;
+
+  PhotoSource& source_;
+  const std::uint64_t size_;
+  std::unique_ptr<unsigned char, Free> bytes_;
+  /// Everything before it has been read.
+  std::uint64_t front_ = 0;
+  std::vector<Part> parts_;
+};
+
+}  // namespace Zenvora::Strandel
