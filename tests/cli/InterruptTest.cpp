@@ -2,13 +2,15 @@
 
 #include "CliFixture.h"
 
-#ifndef _WIN32
-
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 
 #include <csignal>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace Zenvora::Test {
 namespace {
@@ -54,6 +56,12 @@ class InterruptedScan : public CliTest {
   void StartScan(QProcess& process, const QString& program, const QStringList& arguments) const {
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(Text(tree.Path()));
+#ifdef _WIN32
+    // Ctrl-C goes to all programs of a console.
+    process.setCreateProcessArgumentsModifier([](QProcess::CreateProcessArguments* call) {
+      call->flags = (call->flags & ~static_cast<unsigned long>(CREATE_NO_WINDOW)) | CREATE_NEW_CONSOLE;
+    });
+#endif
     process.start(program, arguments);
     QByteArray log;
     while (!log.contains("scanning into")) {
@@ -65,9 +73,20 @@ class InterruptedScan : public CliTest {
     process.setReadChannel(QProcess::StandardError);
     StartScan(process, QStringLiteral(LUMIDEX_PROGRAM), {"-v", "--json", "scan", "photos"});
   }
+#ifdef _WIN32
+  static void Send(const QProcess& process, int /*signal*/) {
+    FreeConsole();
+    ASSERT_TRUE(AttachConsole(static_cast<DWORD>(process.processId()))) << GetLastError();
+    // This program is of that console now, too.
+    SetConsoleCtrlHandler(nullptr, TRUE);
+    EXPECT_TRUE(GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0)) << GetLastError();
+    FreeConsole();
+  }
+#else
   static void Send(const QProcess& process, int signal) {
     kill(static_cast<pid_t>(process.processId()), signal);
   }
+#endif
 
   void ExpectWhole() const {
     EXPECT_EQ(IntegrityOf(DefaultCatalogue()), "ok");
@@ -76,8 +95,14 @@ class InterruptedScan : public CliTest {
   }
 };
 
+#ifdef _WIN32
+constexpr int kSignals[] = {SIGINT};
+#else
+constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
+#endif
+
 TEST_F(InterruptedScan, KeepsWhatItHasAndExitsWith130) {
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+  for (const int signal : kSignals) {
     QProcess process;
     {
       const WriteLock lock(DefaultCatalogue());
@@ -92,6 +117,7 @@ TEST_F(InterruptedScan, KeepsWhatItHasAndExitsWith130) {
   ExpectWhole();
 }
 
+#ifndef _WIN32
 TEST_F(InterruptedScan, EndsAtOnceWhenAskedTwice) {
   // A scan that is asked before it waits for the lock has nothing to write and ends by itself: then once
   // more.
@@ -127,7 +153,7 @@ TEST_F(InterruptedScan, GoesOnWhenTheCallerIgnoresTheSignal) {
   EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 31);
 }
 
+#endif
+
 }  // namespace
 }  // namespace Zenvora::Test
-
-#endif

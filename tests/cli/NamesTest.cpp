@@ -63,6 +63,33 @@ TEST_F(StrangeNames, AreReportedAsThePicturesTheyAre) {
   EXPECT_EQ(ran.Json()["report"].toObject()["missingPictures"].toInt(-1), 0);
 }
 
+#else
+
+using ::testing::HasSubstr;
+
+class RefusedNames : public CliTest {};
+
+TEST_F(RefusedNames, AreToldWithTheReasonAndMakeNothing) {
+  const struct {
+    QStringList arguments;
+    const char* reason;
+  } rows[] = {
+      {{"scan", "C:photos"}, "is relative to the current folder of a drive"},
+      {{"scan", "photos\\NUL"}, "names a device of Windows"},
+      {{"-c", "con.sqlite", "scan", "photos"}, "names a device of Windows"},
+      {{"-c", "cat.sqlite:stream", "scan", "photos"}, "holds the character :"},
+      {{"-c", "cat.sqlite.", "scan", "photos"}, "ends in a dot"},
+      {{"sample", "what?"}, "holds the character ?"},
+  };
+  for (const auto& row : rows) {
+    const Ran ran = Run(row.arguments);
+    EXPECT_EQ(ran.exitCode, 2) << row.reason;
+    EXPECT_THAT(ran.err, HasSubstr(row.reason));
+  }
+  EXPECT_FALSE(DefaultCatalogue().exists());
+  EXPECT_FALSE(tree.Path("cat.sqlite").exists());
+}
+
 #endif
 
 }  // namespace

@@ -7,9 +7,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
 #include <stdexcept>
+#include <thread>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -535,8 +539,8 @@ TEST_F(ResourceTest, FailsWhenAFolderStandsInTheCopysPlace) {
 #ifdef _WIN32
 TEST_F(ResourceTest, WaitsForWhoeverHoldsTheCopy) {
   StoreCopy(Calendar("old"), 2 * kWeek);
-  const HANDLE held = CreateFileW(ioPath(CopyName()).native().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  const HANDLE held = CreateFileW(ioPath(CopyName()).native().c_str(), GENERIC_READ, 0, nullptr,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   ASSERT_NE(held, INVALID_HANDLE_VALUE);
   ASSERT_EQ(StoredBody(), "") << "nobody else can open it";
   std::thread holder([held] {
@@ -554,8 +558,8 @@ TEST_F(ResourceTest, WaitsForWhoeverHoldsTheCopy) {
 TEST_F(ResourceTest, GivesUpOnACopyThatIsHeldForGood) {
   const HANDLE held = [this] {
     StoreCopy(Calendar("old"), 2 * kWeek);
-    return CreateFileW(ioPath(CopyName()).native().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                       FILE_ATTRIBUTE_NORMAL, nullptr);
+    return CreateFileW(ioPath(CopyName()).native().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                       OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   }();
   ASSERT_NE(held, INVALID_HANDLE_VALUE);
   const Zenvora::Test::LogCapture log;
