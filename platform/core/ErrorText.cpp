@@ -29,6 +29,10 @@ std::error_code LastSystemError() {
   return {static_cast<int>(GetLastError()), std::system_category()};
 }
 
+std::string ErrorText(const std::error_code& error) {
+  return error.category() == std::system_category() ? SystemErrorText(error.value()) : error.message();
+}
+
 #else
 
 std::string SystemErrorText(int error) {
@@ -39,10 +43,10 @@ std::error_code LastSystemError() {
   return {errno, std::system_category()};
 }
 
-#endif
-
 std::string ErrorText(const std::error_code& error) {
-  return error.category() == std::system_category() ? SystemErrorText(error.value()) : error.message();
+  return error.message();
 }
+
+#endif
 
 }  // namespace Zenvora

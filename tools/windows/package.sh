@@ -62,7 +62,8 @@ take_licence zlib libz-mingw-w64
 {
   echo "Lumidex $version for 64-bit Windows is built with these, in the versions of Debian:"
   sed 's/^/  /' "$LUMIDEX_WINDOWS_TOOLCHAIN/manifest"
-  echo "Their licences lie beside this file."
+  echo "Their licences lie beside this file. lumidex.exe and ZenvoraStrandel.dll link Exiv2, which is under the GPL: whoever"
+  echo "passes them on passes on their complete source as well, or offers it."
 } >"$tree/licenses/README.txt"
 
 rm -f "$out/$name.zip"
