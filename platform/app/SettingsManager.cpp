@@ -2,6 +2,7 @@
 
 #include <zenvora/app/RealServices.h>
 #include <zenvora/app/UserFolders.h>
+#include <zenvora/core/FileState.h>
 
 #include <glog/logging.h>
 
@@ -87,10 +88,7 @@ class IniSettings : public ISettingsManager {
   }
 
   // Anything else might block whoever opens it.
-  bool IsFile() const {
-    std::error_code error;
-    return std::filesystem::is_regular_file(file_.for_system(), error) && !error;
-  }
+  bool IsFile() const { return QueryFile(file_).kind == FileState::Kind::File; }
 
   std::string Text() const {
     std::ifstream stream(file_.for_system(), std::ios::binary);

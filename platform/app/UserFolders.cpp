@@ -87,7 +87,7 @@ ioPath Usual(UserFolder folder) {
 
 ioPath FolderOfUser(UserFolder folder) {
   const ioPath named = Variable(PlaceOf(folder).variable);
-  return named.native().is_absolute() ? named : Usual(folder);
+  return named.is_absolute() ? named : Usual(folder);
 }
 
 }  // namespace Zenvora::App

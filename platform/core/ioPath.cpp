@@ -1,3 +1,5 @@
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
 #include <zenvora/core/WindowsNames.h>
 #include <zenvora/core/ioPath.h>
 
@@ -34,6 +36,18 @@ constexpr std::size_t kLongName = 240;
 std::size_t RootLength(const std::wstring& path) {
   const std::size_t name = WindowsNames::RootNameLength(path);
   return name < path.size() && (path[name] == L'\\' || path[name] == L'/') ? name + 1 : name;
+}
+
+/// Without "." and ".."; with the system's own separators.
+std::wstring FullName(const std::wstring& path) {
+  std::wstring name(path.size() + MAX_PATH, L'\0');
+  DWORD length = GetFullPathNameW(path.c_str(), static_cast<DWORD>(name.size()), name.data(), nullptr);
+  if (length > name.size()) {
+    name.resize(length);
+    length = GetFullPathNameW(path.c_str(), static_cast<DWORD>(name.size()), name.data(), nullptr);
+  }
+  name.resize(std::min<std::size_t>(length, name.size()));
+  return name.empty() ? path : name;
 }
 
 /// The standard library here takes the server of a network path for a folder.
@@ -105,17 +119,40 @@ std::string ioPath::name_fault() const {
 }
 
 fs::path ioPath::for_system() const {
-  if (path_.native().size() < kLongName) {
+  if (path_.empty() || path_.native().rfind(L"\\\\?\\", 0) == 0) {
     return path_;
   }
-  std::wstring absolute(path_.native().size() + MAX_PATH, L'\0');
-  const DWORD length =
-      GetFullPathNameW(path_.c_str(), static_cast<DWORD>(absolute.size()), absolute.data(), nullptr);
-  if (length == 0 || length > absolute.size()) {
-    return path_;
+  // Measured from the root on: a short name may be in a deep folder.
+  const std::wstring absolute = FullName(path_.native());
+  return absolute.size() < kLongName ? path_ : fs::path(WindowsNames::Extended(absolute));
+}
+
+bool ioPath::is_absolute() const {
+  return IsNetworkOrPrefixed(path_.native()) || path_.is_absolute();
+}
+
+ioPath ioPath::absolute() const {
+  return path_.empty() || path_.native().rfind(L"\\\\?\\", 0) == 0
+             ? *this
+             : ioPath(fs::path(FullName(path_.native())));
+}
+
+ioPath ioPath::canonical(std::error_code& error) const {
+  error.clear();
+  const HANDLE handle = CreateFileW(for_system().c_str(), FILE_READ_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) {
+    error = LastSystemError();
+    return {};
   }
-  absolute.resize(length);
-  return WindowsNames::Extended(absolute);
+  constexpr DWORD kLongestPath = 32768;
+  std::wstring name(kLongestPath, L'\0');
+  name.resize(std::min(kLongestPath,
+                       GetFinalPathNameByHandleW(handle, name.data(), kLongestPath, FILE_NAME_NORMALIZED)));
+  CloseHandle(handle);
+  // Drives of some kinds cannot tell.
+  return name.empty() ? absolute() : ioPath(fs::path(WindowsNames::Plain(name)));
 }
 
 #else
@@ -151,6 +188,20 @@ fs::path ioPath::for_system() const {
   return path_;
 }
 
+bool ioPath::is_absolute() const {
+  return path_.is_absolute();
+}
+
+ioPath ioPath::absolute() const {
+  std::error_code error;
+  fs::path whole = fs::absolute(path_, error);
+  return error ? *this : ioPath(std::move(whole));
+}
+
+ioPath ioPath::canonical(std::error_code& error) const {
+  return ioPath(fs::canonical(path_, error));
+}
+
 #endif
 
 ioPath ioPath::extension() const {
@@ -169,8 +220,8 @@ bool ioPath::rename(const ioPath& to) const {
 #ifdef _WIN32
   // Not by the standard library: that would copy to another volume and take its time. Only files replace
   // files.
-  std::error_code unknown;
-  const DWORD replace = fs::is_directory(for_system(), unknown) ? 0 : MOVEFILE_REPLACE_EXISTING;
+  const bool isFolder = QueryFile(*this).kind == FileState::Kind::Folder;
+  const DWORD replace = isFolder ? 0 : MOVEFILE_REPLACE_EXISTING;
   return MoveFileExW(for_system().c_str(), to.for_system().c_str(), replace) != 0;
 #else
   std::error_code error;
@@ -183,29 +234,34 @@ bool ioPath::remove() const {
   if (!IsName()) {
     return false;
   }
+#ifdef _WIN32
+  const std::wstring name = for_system().native();
+  const DWORD attributes = GetFileAttributesW(name.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) {
+    return false;
+  }
+  return ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? RemoveDirectoryW(name.c_str())
+                                                       : DeleteFileW(name.c_str())) != 0;
+#else
   std::error_code error;
-  return fs::remove(for_system(), error) && !error;
+  return fs::remove(path_, error) && !error;
+#endif
 }
 
 std::uint64_t ioPath::file_size() const {
   if (!IsName()) {
     return 0;
   }
-  std::error_code error;
-  const fs::path file = for_system();
-  if (!fs::is_regular_file(file, error) || error) {
-    return 0;
-  }
-  const auto size = fs::file_size(file, error);
-  return error ? 0 : size;
+  const FileState state = QueryFile(*this);
+  return state.kind == FileState::Kind::File ? state.size : 0;
 }
 
 bool ioPath::exists() const {
   if (!IsName()) {
     return false;
   }
-  std::error_code error;
-  return fs::exists(for_system(), error) && !error;
+  const FileState::Kind kind = QueryFile(*this).kind;
+  return kind == FileState::Kind::File || kind == FileState::Kind::Folder || kind == FileState::Kind::Other;
 }
 
 std::string ioPath::utf8string() const {
@@ -245,9 +301,10 @@ std::size_t ioPath::hash() const noexcept {
 bool ioPath::IsName() const {
 #ifdef _WIN32
   // The system passes over a separator at the end, which only a folder can have.
-  std::error_code unknown;
-  if (!path_.empty() && path_.has_relative_path() && path_.filename().empty() &&
-      fs::is_regular_file(for_system(), unknown)) {
+  const std::wstring& text = path_.native();
+  const std::size_t end = text.find_last_not_of(L"\\/") + 1;
+  if (end < text.size() && end > RootLength(text) &&
+      QueryFile(ioPath(fs::path(text.substr(0, end)))).kind == FileState::Kind::File) {
     return false;
   }
 #endif

@@ -2,6 +2,7 @@
 #include "JsonSerializer.h"
 
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
 #include <zenvora/core/ioPath.h>
 #include <zenvora/quillet/Config.h>
 
@@ -10,34 +11,22 @@
 #include <QJsonObject>
 
 #include <cerrno>
-#include <filesystem>
 #include <fstream>
 #include <system_error>
 #include <vector>
 
 namespace Zenvora::Quillet::Config {
 
-namespace fs = std::filesystem;
-
 namespace {
 
-fs::file_status Look(const ioPath& path, std::error_code& error) {
-  // The system would take a name with a NUL for a shorter one.
-  if (path.native().native().find(fs::path::value_type{}) != fs::path::string_type::npos) {
-    error = std::make_error_code(std::errc::no_such_file_or_directory);
-    return fs::file_status(fs::file_type::not_found);
-  }
-  return fs::status(path.for_system(), error);
-}
-
 /// Throws unless reading the file comes to an end: a pipe waits for its writer, a device may never finish.
-void RequireFile(const fs::file_status& status, const std::error_code& error, const std::string& fileName) {
-  if (fs::is_directory(status)) {
+void RequireFile(const FileState& state, const std::string& fileName) {
+  if (state.kind == FileState::Kind::Folder) {
     ThrowJson(fileName, "", "is a folder");
-  } else if (fs::is_other(status)) {
+  } else if (state.kind == FileState::Kind::Other) {
     ThrowJson(fileName, "", "is not a regular file");
-  } else if (!fs::is_regular_file(status)) {
-    ThrowJson(fileName, "", "cannot be read: " + ErrorText(error));
+  } else if (state.kind != FileState::Kind::File) {
+    ThrowJson(fileName, "", "cannot be read: " + ErrorText(state.error));
   }
 }
 
@@ -91,12 +80,11 @@ QJsonObject ParseRoot(const QByteArray& text, const std::string& fileName) {
 bool BaseConfig::Parse(IParserConfigBase& object, const std::string& rootName, const std::string& fileName,
                        bool optional) const {
   const ioPath path(fileName);
-  std::error_code error;
-  const fs::file_status status = Look(path, error);
-  if (optional && status.type() == fs::file_type::not_found) {
+  const FileState state = QueryFile(path);
+  if (optional && state.kind == FileState::Kind::Missing) {
     return false;
   }
-  RequireFile(status, error, fileName);
+  RequireFile(state, fileName);
   const QJsonObject document = ParseRoot(ReadWhole(path, fileName), fileName);
   boost::intrusive_ptr<const ISerializer> root = new JsonSerializer(document, fileName, "");
   object.Deserialize(rootName.empty() ? root : root->GetChild(rootName));

@@ -152,7 +152,8 @@ bool SaysNothing(const ExifFields& fields) {
 }  // namespace
 
 ExivImage::ExivImage(PhotoSource& source) : copy_(source), lock_(ExivMutex(), std::defer_lock) {
-  if (BeginsLikeTiff(source)) {
+  // Read in parallel, but not where the copy is so large that several would be too much for some systems.
+  if (source.Size() <= kMostRead && BeginsLikeTiff(source)) {
     copy_.Bytes();
   }
   lock_.lock();

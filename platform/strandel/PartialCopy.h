@@ -2,15 +2,15 @@
 
 #include "PhotoSource.h"
 
+#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <vector>
 
 namespace Zenvora::Strandel {
 
 /// A file in memory of which only some parts have been read; the others are zeros that the system provides
-/// when they are looked at, so that they cost neither the disk nor memory.
+/// when they are looked at, so that they cost no reading; on Linux no memory either.
 ///
 /// For Exiv2, which wants TIFF and raw files whole, of which mostly a few kilobytes matter.
 class PartialCopy {
@@ -36,7 +36,8 @@ class PartialCopy {
 
  private:
   struct Free {
-    void operator()(unsigned char* bytes) const { std::free(bytes); }
+    std::size_t size;
+    void operator()(unsigned char* bytes) const;
   };
   struct Part {
     std::uint64_t begin;
@@ -48,7 +49,7 @@ class PartialCopy {
 
   PhotoSource& source_;
   const std::uint64_t size_;
-  std::unique_ptr<unsigned char, Free> bytes_;
+  std::unique_ptr<unsigned char, Free> bytes_{nullptr, Free{0}};
   /// Everything before it has been read.
   std::uint64_t front_ = 0;
   std::vector<Part> parts_;

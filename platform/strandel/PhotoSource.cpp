@@ -1,8 +1,9 @@
 #include "PhotoSource.h"
 
+#include <zenvora/core/ErrorText.h>
+
 #include <algorithm>
 #include <cstring>
-#include <system_error>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -15,13 +16,7 @@
 
 namespace Zenvora::Strandel {
 
-namespace {
-
-std::string SystemWords(int error) {
-  return std::system_category().message(error);
-}
-
-}  // namespace
+namespace {}  // namespace
 
 #ifdef _WIN32
 
@@ -36,7 +31,7 @@ bool PhotoSource::Open(const ioPath& file, std::string& cause) {
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                               FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) {
-    cause = SystemWords(static_cast<int>(GetLastError()));
+    cause = SystemErrorText(static_cast<int>(GetLastError()));
     return false;
   }
   handle_ = handle;
@@ -60,7 +55,7 @@ std::size_t PhotoSource::ReadDirectly(std::uint64_t offset, void* to, std::size_
     if (!ReadFile(handle_, static_cast<char*>(to) + done, wanted, &got, &place)) {
       const DWORD error = GetLastError();
       if (error != ERROR_HANDLE_EOF) {
-        failure_ = SystemWords(static_cast<int>(error));
+        failure_ = SystemErrorText(static_cast<int>(error));
       }
       break;
     }
@@ -86,13 +81,13 @@ bool PhotoSource::Open(const ioPath& file, std::string& cause) {
   // Asked before opening, since opening alone can wake a device; and after, in case another file took the
   // name.
   if (stat(name, &facts) != 0) {
-    cause = SystemWords(errno);
+    cause = SystemErrorText(errno);
     return false;
   }
   if (S_ISREG(facts.st_mode)) {
     handle_ = open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (handle_ < 0 || fstat(handle_, &facts) != 0) {
-      cause = SystemWords(errno);
+      cause = SystemErrorText(errno);
       return false;
     }
   }
@@ -113,7 +108,7 @@ std::size_t PhotoSource::ReadDirectly(std::uint64_t offset, void* to, std::size_
       continue;
     }
     if (got < 0) {
-      failure_ = SystemWords(errno);
+      failure_ = SystemErrorText(errno);
     }
     if (got <= 0) {
       break;

@@ -4,13 +4,13 @@
 #include "DownloadRules.h"
 
 #include <zenvora/app/UserFolders.h>
+#include <zenvora/core/Patience.h>
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QThread>
 
 namespace Zenvora::Tavolin {
 
@@ -34,21 +34,6 @@ QString WriteOnce(const QString& name, const QByteArray& content, const QDateTim
     file.setFileTime(modified, QFileDevice::FileModificationTime);
   }
   return file.commit() ? QString() : file.errorString();
-}
-
-/// On Windows whoever reads a file keeps it from being replaced, and whoever replaces it from being read, as
-/// do the many programs that look into new files. Copies are small and read at once: a second is long.
-template <class Attempt>
-bool Patiently(const Attempt& attempt) {
-  bool done = attempt();
-#ifdef _WIN32
-  constexpr int kAttempts = 50;
-  for (int count = 1; !done && count < kAttempts; ++count) {
-    QThread::msleep(20);
-    done = attempt();
-  }
-#endif
-  return done;
 }
 
 QString WriteWhole(const QString& name, const QByteArray& content, const QDateTime& modified) {

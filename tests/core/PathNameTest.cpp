@@ -103,6 +103,14 @@ TEST(PathName, IsHandedToTheSystemAsItIsUnlessItIsLongOnWindows) {
 #endif
 }
 
+#ifndef _WIN32
+TEST(PathName, IsMadeAbsoluteWithoutCleaning) {
+  EXPECT_EQ(ioPath("/a/../b").absolute().utf8string(), "/a/../b");
+  EXPECT_TRUE(ioPath("a").absolute().is_absolute());
+  EXPECT_FALSE(ioPath("a").is_absolute());
+}
+#endif
+
 #ifdef _WIN32
 struct WindowsParts {
   std::string path, parent, rootName, root, filename;
@@ -133,6 +141,22 @@ INSTANTIATE_TEST_SUITE_P(
         WindowsParts{"\\\\srv\\sh\\", "\\\\srv\\sh\\", "\\\\srv\\sh", "\\\\srv\\sh\\", ""},
         WindowsParts{"\\\\srv\\sh", "\\\\srv\\sh", "\\\\srv\\sh", "\\\\srv\\sh\\", ""},
         WindowsParts{"\\\\?\\C:\\a.jpg", "\\\\?\\C:\\", "\\\\?\\C:", "\\\\?\\C:\\", "a.jpg"}));
+
+TEST(PathName, IsAbsoluteWithAVolumeAndARoot) {
+  for (const char* text : {"C:\\a", "C:/a", "\\\\srv\\sh\\a", "\\\\?\\C:\\a"}) {
+    EXPECT_TRUE(ioPath(text).is_absolute()) << text;
+  }
+  for (const char* text : {"", "a", "\\a", "C:a", "C:"}) {
+    EXPECT_FALSE(ioPath(text).is_absolute()) << text;
+  }
+}
+
+TEST(PathName, KeepsItsVolumeWhenItIsMadeAbsolute) {
+  EXPECT_EQ(ioPath("C:/a/../b/./c").absolute().utf8string(), "C:\\b\\c");
+  EXPECT_EQ(ioPath("\\\\srv\\sh\\a\\..\\b").absolute().utf8string(), "\\\\srv\\sh\\b");
+  EXPECT_EQ(ioPath("\\\\?\\C:\\a").absolute().utf8string(), "\\\\?\\C:\\a");
+  EXPECT_TRUE(ioPath("a").absolute().is_absolute());
+}
 
 TEST(PathName, OfAShareReplacesWhatItIsJoinedTo) {
   EXPECT_EQ((ioPath("C:\\a") / ioPath("\\\\srv\\sh\\b")).utf8string(), "\\\\srv\\sh\\b");

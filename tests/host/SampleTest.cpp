@@ -1,4 +1,3 @@
-#include "FileState.h"
 #include "SamplePlan.h"
 
 #include <host/PhotoFiles.h>
@@ -6,6 +5,8 @@
 #include <support/ExivPath.h>
 #include <support/TempTree.h>
 #include <support/WriteLimit.h>
+
+#include <zenvora/core/FileState.h>
 
 #include <exiv2/exiv2.hpp>
 #include <gtest/gtest.h>

@@ -24,7 +24,7 @@ cp -r "$build/share/lumidex" "$tree/share/"
 # Plugins are found beside the program: the catalogue's engine and what reads and writes pictures.
 plugins=$LUMIDEX_WINDOWS_TOOLCHAIN/usr/plugins
 cp "$plugins/sqldrivers/qsqlite.dll" "$tree/sqldrivers/"
-cp "$plugins/imageformats/"{qjpeg,qgif,qico}.dll "$tree/imageformats/"
+cp "$plugins/imageformats/"{qjpeg,qgif}.dll "$tree/imageformats/"
 
 imports() { "$objdump" -p "$1" | sed -n 's/^\s*DLL Name: //p'; }
 

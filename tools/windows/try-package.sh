@@ -4,8 +4,8 @@
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 
-if [ -z "${WINEPREFIX:-}" ]; then
-  exec "$here/with-wine.sh" "$0" "$(realpath "$1")"
+if [ "${2:-}" != in-prefix ]; then
+  exec "$here/with-wine.sh" "$0" "$(realpath "$1")" in-prefix
 fi
 
 work=$(mktemp -d)

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs a Windows program under Wine, as the tests' emulator. What it needs of its surroundings is set up by test.sh;
+# Runs a Windows program under Wine, as the tests' emulator. What it needs of its surroundings is set up by with-wine.sh;
 # alone it makes do with the user's own prefix.
 #   tools/windows/wine.sh PROGRAM [ARGUMENT...]
 set -euo pipefail

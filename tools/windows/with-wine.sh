@@ -8,15 +8,19 @@ LUMIDEX_WINDOWS_TOOLCHAIN=$("$here/toolchain.sh" --path) ||
   { echo "the Windows toolchain is missing: make windows-toolchain" >&2; exit 1; }
 export LUMIDEX_WINDOWS_TOOLCHAIN
 work=$(mktemp -d)
-export WINEARCH=win64 WINEDEBUG=-all
+# From here on the user's own prefix is out of reach.
+export WINEPREFIX=$work/prefix1 WINEARCH=win64 WINEDEBUG=-all
+unset WINEPATH WINEDLLOVERRIDES
 wineserver=/usr/lib/wine/wineserver64
 
 screen=
 sleeper=
 stop() {
   [ -z "$sleeper" ] || kill "$sleeper" 2>/dev/null || true
-  "$wineserver" -k 2>/dev/null || true
-  "$wineserver" -w 2>/dev/null || true
+  if [ -d "$WINEPREFIX" ]; then
+    "$wineserver" -k 2>/dev/null || true
+    "$wineserver" -w 2>/dev/null || true
+  fi
   [ -z "$screen" ] || kill "$screen" 2>/dev/null || true
   rm -rf "$work"
 }
@@ -38,7 +42,8 @@ started=$SECONDS
 # Now and then Wine stumbles at the first step of a new prefix; the next one then works.
 for attempt in 1 2 3; do
   export WINEPREFIX=$work/prefix$attempt
-  ! timeout 120 "$here/wine.sh" wineboot --init >"$work/wineboot.txt" 2>&1 || break
+  ! timeout --foreground 120 "$here/wine.sh" wineboot --init >"$work/wineboot.txt" 2>&1 || break
+  "$wineserver" -k 2>/dev/null || true
   [ "$attempt" -lt 3 ] ||
     { tail "$work/wineboot.txt" >&2; echo "with-wine: Wine makes no prefix" >&2; exit 1; }
 done

@@ -5,6 +5,8 @@
 
 #include <host/Scanner.h>
 
+#include <zenvora/core/FileState.h>
+
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
@@ -18,11 +20,6 @@ namespace Zenvora::Lumidex::Cli {
 namespace fs = std::filesystem;
 
 namespace {
-
-bool IsSameFile(const ioPath& left, const ioPath& right) {
-  std::error_code ignored;
-  return fs::equivalent(left.for_system(), right.for_system(), ignored);
-}
 
 // Also for a file that is not there now: SQLite may make it at any time.
 bool IsSameName(const ioPath& left, const ioPath& right) {
@@ -50,8 +47,7 @@ bool BeginsLikeAPage(const std::string& beginning) {
 
 bool HoldsSomethingElse(const ioPath& file) {
   // A pipe must not even be opened: that would wait for its other end.
-  std::error_code ignored;
-  if (!fs::is_regular_file(file.for_system(), ignored)) {
+  if (QueryFile(file).kind != FileState::Kind::File) {
     return false;
   }
   std::ifstream stream(file.for_system(), std::ios::binary);
@@ -59,7 +55,7 @@ bool HoldsSomethingElse(const ioPath& file) {
   stream.read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
   beginning.resize(static_cast<std::size_t>(stream.gcount()));
   // What cannot be read may be anything.
-  return !BeginsLikeAPage(beginning) && (!beginning.empty() || fs::file_size(file.for_system(), ignored) > 0);
+  return !BeginsLikeAPage(beginning) && (!beginning.empty() || file.file_size() > 0);
 }
 
 std::string Named(const ioPath& report, const ioPath& target) {
@@ -70,6 +66,12 @@ std::string Named(const ioPath& report, const ioPath& target) {
 }  // namespace
 
 ioPath FollowLinks(const ioPath& file) {
+#ifdef _WIN32
+  // The standard library knows no links there. One that leads nowhere stays itself.
+  std::error_code error;
+  const ioPath target = file.canonical(error);
+  return target.empty() ? file : target;
+#else
   constexpr int kMostLinks = 40;
   std::error_code error;
   fs::path target = file.native();
@@ -81,6 +83,7 @@ ioPath FollowLinks(const ioPath& file) {
     target = next.is_absolute() ? next : target.parent_path() / next;
   }
   return ioPath(target);
+#endif
 }
 
 void RequireReportName(const ioPath& report, const ioPath& catalogue) {

@@ -11,6 +11,7 @@
 #include <host/Scanner.h>
 
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
 
 #include <glog/logging.h>
 
@@ -202,10 +203,13 @@ std::string ResultText(const ScanArguments& arguments, const ioPath& catalogue, 
 
 // Asked before the catalogue is made: a slip of the pen leaves none behind.
 void RequireFolder(const ioPath& folder) {
-  std::error_code error;
-  if (!std::filesystem::exists(folder.for_system(), error)) {
-    const std::string name = folder.utf8string();
-    throw Failure("no-folder", "There is no folder " + name + (error ? " (" + ErrorText(error) + ")." : "."));
+  const FileState state = QueryFile(folder);
+  if (state.kind == FileState::Kind::Missing) {
+    throw Failure("no-folder", "There is no folder " + folder.utf8string() + ".");
+  }
+  if (state.error) {
+    throw Failure("no-folder",
+                  "There is no folder " + folder.utf8string() + " (" + ErrorText(state.error) + ").");
   }
 }
 

@@ -11,6 +11,9 @@ ioPath AbsolutePath(const std::string& argument) {
   if (!argument.empty() && !fault.empty()) {
     throw UsageError("The name " + argument + " " + fault + ".");
   }
+#ifdef _WIN32
+  return argument.empty() ? ioPath() : ioPath(argument).absolute();
+#else
   std::error_code ignored;
   const std::filesystem::path absolute = std::filesystem::absolute(ioPath(argument).native(), ignored);
   if (absolute.empty()) {
@@ -23,7 +26,8 @@ ioPath AbsolutePath(const std::string& argument) {
       plain /= element;
     }
   }
-  return ioPath(plain.make_preferred());
+  return ioPath(plain);
+#endif
 }
 
 ioPath Session::CatalogueFile() const {

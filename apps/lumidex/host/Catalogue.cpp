@@ -5,6 +5,7 @@
 
 #include <zenvora/app/UserFolders.h>
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
 #include <zenvora/strandel/PhotoFacts.h>
 #include <zenvora/tavolin/Uuid.h>
 
@@ -77,29 +78,28 @@ void RequireUsablePlace(const ioPath& file, Catalogue::Mode mode) {
   if (const std::string fault = file.name_fault(); !fault.empty()) {
     ThrowCatalogueError(file, "its name " + fault);
   }
-  std::error_code error;
-  const fs::file_status status = fs::status(file.for_system(), error);
-  if (status.type() == fs::file_type::directory) {
-    ThrowCatalogueError(file, "it is a folder");
-  }
-  if (status.type() == fs::file_type::not_found) {
-    if (mode == Catalogue::Mode::ReadOnly) {
-      ThrowCatalogueError(file, "it does not exist; run a scan to make it");
-    }
-  } else if (status.type() == fs::file_type::none) {
-    ThrowCatalogueError(file, ErrorText(error));
-  } else if (status.type() != fs::file_type::regular) {
-    ThrowCatalogueError(file, "it is no regular file");
+  const FileState state = QueryFile(file);
+  switch (state.kind) {
+    case FileState::Kind::File:
+      return;
+    case FileState::Kind::Missing:
+      if (mode == Catalogue::Mode::ReadOnly) {
+        ThrowCatalogueError(file, "it does not exist; run a scan to make it");
+      }
+      return;
+    case FileState::Kind::Folder:
+      ThrowCatalogueError(file, "it is a folder");
+    case FileState::Kind::Other:
+      ThrowCatalogueError(file, "it is no regular file");
+    case FileState::Kind::Loop:
+    case FileState::Kind::Unknown:
+      ThrowCatalogueError(file, ErrorText(state.error));
   }
 }
 
 void MakeFolderOf(const ioPath& file) {
-  std::error_code error;
   const ioPath folder = file.parent_path();
-  if (!folder.empty()) {
-    fs::create_directories(folder.for_system(), error);
-  }
-  if (error) {
+  if (const std::error_code error = folder.empty() ? std::error_code() : MakeFolders(folder)) {
     ThrowCatalogueError(file, "its folder cannot be made (" + ErrorText(error) + ")");
   }
 }

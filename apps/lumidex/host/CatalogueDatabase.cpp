@@ -94,7 +94,7 @@ QString SqliteUri(const ioPath& absoluteFile, const char* query) {
 CatalogueDatabase::CatalogueDatabase(const ioPath& file, Access access, int busyTimeoutMs)
     : file_(file), busyTimeoutMs_(busyTimeoutMs), connection_(NewConnectionName()) {
   database_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_);
-  database_.setDatabaseName(SqliteUri(ioPath(std::filesystem::absolute(file.native())), UriQuery(access)));
+  database_.setDatabaseName(SqliteUri(file.absolute(), UriQuery(access)));
   database_.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));
   try {
     if (!database_.open()) {

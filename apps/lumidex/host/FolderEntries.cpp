@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #ifdef _WIN32
+#include <string_view>
 #include <windows.h>
 #endif
 
@@ -31,7 +32,7 @@ FolderEntry::Kind KindOf(const WIN32_FIND_DATAW& found) {
 }  // namespace
 
 // Not by the standard library, which knows no links here and gets lost in long names.
-std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, std::error_code& error) {
+std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice choice, std::error_code& error) {
   std::vector<FolderEntry> entries;
   error.clear();
   WIN32_FIND_DATAW found;
@@ -39,12 +40,16 @@ std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, std::error_code
                                          FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
   if (search == INVALID_HANDLE_VALUE) {
     error = LastSystemError();
+    if (error.value() == ERROR_FILE_NOT_FOUND) {
+      // The root of a drive has no entries "." and "..": it is empty.
+      error.clear();
+    }
     return entries;
   }
   do {
-    // Also the entries "." and "..".
-    const bool hidden = found.cFileName[0] == L'.' || (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
-    if (!hidden) {
+    const std::wstring_view name = found.cFileName;
+    const bool hidden = name[0] == L'.' || (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
+    if (name != L"." && name != L".." && !(hidden && choice == EntryChoice::NotHidden)) {
       entries.push_back({ioPath(fs::path(found.cFileName)), KindOf(found)});
     }
   } while (FindNextFileW(search, &found));
@@ -57,12 +62,12 @@ std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, std::error_code
 
 #else
 
-std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, std::error_code& error) {
+std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice choice, std::error_code& error) {
   std::vector<FolderEntry> entries;
   fs::directory_iterator entry(folder.native(), error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
     FolderEntry found{ioPath(entry->path().filename()), FolderEntry::Kind::Other};
-    if (found.name.native().native().front() == '.') {
+    if (choice == EntryChoice::NotHidden && found.name.native().native().front() == '.') {
       continue;
     }
     std::error_code unknown;

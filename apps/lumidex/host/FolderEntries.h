@@ -19,8 +19,12 @@ struct FolderEntry {
   Kind kind = Kind::File;
 };
 
-/// What is in the folder, in no order, links not followed; without what is hidden: by a dot in front, on
-/// Windows also by its attribute. What could be read before an error stays.
-std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, std::error_code& error);
+enum class EntryChoice {
+  All,
+  NotHidden,  ///< Without names that begin with a dot and, on Windows, what has the attribute.
+};
+
+/// What is in the folder, in no order, links not followed. What could be read before an error stays.
+std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice choice, std::error_code& error);
 
 }  // namespace Zenvora::Lumidex::Host

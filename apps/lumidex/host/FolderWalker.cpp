@@ -1,6 +1,5 @@
 #include "FolderWalker.h"
 
-#include "CanonicalPath.h"
 #include "FolderEntries.h"
 
 #include <zenvora/core/ErrorText.h>
@@ -19,7 +18,16 @@ bool HasHiddenName(const ioPath& file) {
 /// Empty when the system cannot tell.
 ioPath Canonical(const ioPath& path) {
   std::error_code ignored;
-  return CanonicalPath(path, ignored);
+  return path.canonical(ignored);
+}
+
+/// Windows keeps names that it does not take back: other programs made them, past its rules.
+std::string FaultOfEntry(const ioPath& name) {
+  const std::string fault = name.name_fault();
+  if (!fault.empty()) {
+    return "Its name " + fault;
+  }
+  return ioPath(name.utf8string()) == name ? "" : "Its name is no text";
 }
 
 }  // namespace
@@ -116,7 +124,11 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
                                std::vector<std::string>& files) {
   std::error_code error;
   std::vector<ioPath> links;
-  for (const FolderEntry& entry : ReadFolderEntries(folder.path, error)) {
+  for (const FolderEntry& entry : ReadFolderEntries(folder.path, EntryChoice::NotHidden, error)) {
+    if (const std::string fault = FaultOfEntry(entry.name); !fault.empty()) {
+      Report(ScanFinding::Kind::Unreadable, folder.path / entry.name, fault);
+      continue;
+    }
     switch (entry.kind) {
       case FolderEntry::Kind::Folder:
         folders.push_back(entry.name.utf8string());
@@ -158,12 +170,11 @@ void FolderWalker::TakeLink(const ioPath& link) {
         Report(ScanFinding::Kind::Unreadable, link, "The link leads to a file that is missing");
       }
       break;
+    case FileState::Kind::Loop:
+      Report(ScanFinding::Kind::Loop, link, "The link leads back to itself");
+      break;
     case FileState::Kind::Unknown:
-      if (state.error == std::errc::too_many_symbolic_link_levels) {
-        Report(ScanFinding::Kind::Loop, link, "The link leads back to itself");
-      } else {
-        ReportUnreadableFolder(link, ErrorText(state.error));
-      }
+      ReportUnreadableFolder(link, ErrorText(state.error));
       break;
     case FileState::Kind::Other:
       break;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "FileState.h"
-
 #include <host/Scanner.h>
+
+#include <zenvora/core/FileState.h>
 
 #include <deque>
 #include <set>

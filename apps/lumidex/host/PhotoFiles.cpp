@@ -23,10 +23,6 @@ constexpr std::int64_t kWorthLooking = 4'000'000;
 
 /// Waiting on a pipe or reading a device would never end.
 bool IsReasonableFile(const ioPath& file) {
-  std::error_code error;
-  if (file.empty() || !std::filesystem::is_regular_file(file.for_system(), error) || error) {
-    return false;
-  }
   const std::uint64_t size = file.file_size();
   return size > 0 && size <= kMostBytes;
 }

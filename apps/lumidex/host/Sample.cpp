@@ -1,3 +1,4 @@
+#include "FolderEntries.h"
 #include "SampleExif.h"
 #include "SamplePlan.h"
 #include "SampleScenes.h"
@@ -6,6 +7,7 @@
 #include <host/Sample.h>
 
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
 
 #include <QBuffer>
 #include <QImage>
@@ -51,9 +53,7 @@ void WritePhoto(const ioPath& folder, const SampleShot& shot) {
   if (bytes.isEmpty()) {
     ThrowCannotWrite(file, "the JPEG plug-in of Qt is missing");
   }
-  std::error_code error;
-  fs::create_directories(file.parent_path().for_system(), error);
-  if (error) {
+  if (const std::error_code error = MakeFolders(file.parent_path())) {
     ThrowCannotWrite(file, ErrorText(error));
   }
   WholeFile output(file);
@@ -65,16 +65,12 @@ void PrepareFolder(const ioPath& folder) {
   const auto refuse = [&folder](const std::string& cause) {
     ThrowHostError(folder.utf8string(), "Cannot make a collection in " + folder.utf8string() + ": " + cause);
   };
-  std::error_code error;
-  fs::create_directories(folder.for_system(), error);
+  std::error_code error = MakeFolders(folder);
+  const bool isEmpty = error || ReadFolderEntries(folder, EntryChoice::All, error).empty();
   if (error) {
     refuse(ErrorText(error));
   }
-  const auto first = fs::directory_iterator(folder.for_system(), error);
-  if (error) {
-    refuse(ErrorText(error));
-  }
-  if (first != fs::directory_iterator()) {
+  if (!isEmpty) {
     refuse("the folder is not empty");
   }
 }

@@ -1,11 +1,10 @@
-#include "CanonicalPath.h"
-#include "FileState.h"
 #include "FolderWalker.h"
 #include "MetadataReaders.h"
 
 #include <host/Scanner.h>
 
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <algorithm>
@@ -42,7 +41,7 @@ std::vector<ioPath> CanonicalRoots(const std::vector<ioPath>& roots) {
   for (const ioPath& root : roots) {
     const std::string name = root.utf8string();
     std::error_code error;
-    const ioPath path = CanonicalPath(root, error);
+    const ioPath path = root.canonical(error);
     if (error) {
       ThrowHostError(name, name + " cannot be scanned: " + ErrorText(error) + ".");
     }

@@ -3,6 +3,8 @@
 #include <host/HostError.h>
 
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+#include <zenvora/core/Patience.h>
 
 #include <atomic>
 #include <cerrno>
@@ -29,7 +31,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kAttempts = 100;
-constexpr int kMostLinks = 40;
+[[maybe_unused]] constexpr int kMostLinks = 40;
 
 /// Short, whatever the length of the file's own name, and hidden from scans.
 ioPath TemporaryBeside(const ioPath& file) {
@@ -49,7 +51,11 @@ std::FILE* OpenNew(const ioPath& file) {
   // Not by `_wfopen`: the oldest C library of Windows cannot refuse an existing file.
   const int handle = _wopen(file.for_system().c_str(),
                             _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
-  return handle < 0 ? nullptr : _fdopen(handle, "wb");
+  std::FILE* const stream = handle < 0 ? nullptr : _fdopen(handle, "wb");
+  if (handle >= 0 && stream == nullptr) {
+    _close(handle);
+  }
+  return stream;
 #else
   return std::fopen(file.for_system().c_str(), "wbxe");
 #endif
@@ -110,18 +116,10 @@ void ThrowCannotWrite(const ioPath& file, const std::string& cause) {
 }
 
 WholeFile::WholeFile(const ioPath& file) : named_(file), target_(file) {
-  // Also a link that leads nowhere yet: the file appears where it points.
-  std::error_code error;
-  for (int links = 0; fs::is_symlink(fs::symlink_status(target_.for_system(), error)); ++links) {
-    const fs::path next = fs::read_symlink(target_.for_system(), error);
-    if (error || links == kMostLinks) {
-      ThrowCannotWrite(file, error ? ErrorText(error) : "its links lead in a circle");
-    }
-    target_ = ioPath(target_.native().parent_path() / next);
-  }
-  const fs::file_status status = fs::status(target_.for_system(), error);
-  if (fs::exists(status) && !fs::is_regular_file(status)) {
-    ThrowCannotWrite(file, fs::is_directory(status) ? "it is a folder" : "it is not a regular file");
+  FollowLinks();
+  const FileState::Kind kind = QueryFile(target_).kind;
+  if (kind == FileState::Kind::Folder || kind == FileState::Kind::Other) {
+    ThrowCannotWrite(file, kind == FileState::Kind::Folder ? "it is a folder" : "it is not a regular file");
   }
   if (target_.filename().empty()) {
     ThrowCannotWrite(file, "it names no file");
@@ -134,11 +132,41 @@ WholeFile::WholeFile(const ioPath& file) : named_(file), target_(file) {
       Fail(errno);
     }
   }
-  if (fs::exists(status)) {
+#ifndef _WIN32
+  if (kind == FileState::Kind::File) {
     // Whoever could read the old file can read the new one.
-    fs::permissions(temporary_.for_system(), status.permissions() & fs::perms::all, error);
+    std::error_code ignored;
+    const fs::file_status status = fs::status(target_.native(), ignored);
+    fs::permissions(temporary_.native(), status.permissions() & fs::perms::all, ignored);
+  }
+#endif
+}
+
+#ifdef _WIN32
+
+void WholeFile::FollowLinks() {
+  std::error_code ignored;
+  const ioPath target = target_.canonical(ignored);
+  if (!target.empty()) {
+    target_ = target;
   }
 }
+
+#else
+
+// Also a link that leads nowhere yet: the file appears where it points.
+void WholeFile::FollowLinks() {
+  std::error_code error;
+  for (int links = 0; fs::is_symlink(fs::symlink_status(target_.native(), error)); ++links) {
+    const fs::path next = fs::read_symlink(target_.native(), error);
+    if (error || links == kMostLinks) {
+      ThrowCannotWrite(named_, error ? ErrorText(error) : "its links lead in a circle");
+    }
+    target_ = ioPath(target_.native().parent_path() / next);
+  }
+}
+
+#endif
 
 WholeFile::~WholeFile() {
   if (stream_ != nullptr) {
@@ -167,9 +195,8 @@ void WholeFile::Commit(bool durable) {
 
 void WholeFile::CommitWithTime(std::int64_t modifiedMs) {
   Close(false);
-  errno = 0;
   if (!SetTime(temporary_, modifiedMs)) {
-    Fail(errno);
+    ThrowCannotWrite(named_, ErrorText(LastSystemError()));
   }
   Rename();
 }
@@ -188,8 +215,10 @@ void WholeFile::Close(bool durable) {
 void WholeFile::Rename() {
 #ifdef _WIN32
   // Returns when the new name is on the disk.
-  const bool done = MoveFileExW(temporary_.for_system().c_str(), target_.for_system().c_str(),
-                                MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+  const bool done = Patiently([this] {
+    return MoveFileExW(temporary_.for_system().c_str(), target_.for_system().c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+  });
 #else
   const bool done = std::rename(temporary_.native().c_str(), target_.native().c_str()) == 0;
 #endif

@@ -30,6 +30,7 @@ class WholeFile {
 
  private:
   [[noreturn]] void Fail(int error) const;
+  void FollowLinks();
   void Close(bool durable);
   void Rename();
 

@@ -15,7 +15,7 @@ enum class UserFolder {
 
 /// The folder that all programs share; each makes one of its own name in it. It need not exist yet. The XDG
 /// variables hold on Windows as well when somebody sets them; relative and empty ones are passed over, as the
-/// XDG base directory specification asks. The home folder is $HOME, else what the user database says. Kept
+/// XDG rules for base directories ask. The home folder is $HOME, else what the user database says. Kept
 /// byte for byte on Linux. Empty when the system names none. Safe from any thread that does not change the
 /// environment meanwhile.
 ZENVORA_APP_EXPORT ioPath FolderOfUser(UserFolder folder);

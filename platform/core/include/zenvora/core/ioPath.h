@@ -9,6 +9,7 @@
 #include <functional>
 #include <iosfwd>
 #include <string>
+#include <system_error>
 
 namespace Zenvora {
 
@@ -85,6 +86,13 @@ class ZENVORA_CORE_EXPORT ioPath {
   /// The form to hand to the system: the path itself; on Windows, when it is long, absolute and with the
   /// prefix that lifts the limit of 260 characters. Not for keeping nor for people.
   std::filesystem::path for_system() const;
+  /// True when it does not depend on a current folder; on Windows also of a share.
+  bool is_absolute() const;
+  /// The path from the current folder on. Links stay; on Windows also "." and ".." are gone.
+  ioPath absolute() const;
+  /// The one absolute name of an existing file or folder, without links, "." and ".."; on Windows in the
+  /// spelling that the disk has. Empty, with the cause, when there is none. Blocks on the disk.
+  ioPath canonical(std::error_code& error) const;
   /// Equal for equal paths.
   std::size_t hash() const noexcept;
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <zenvora/core/Export.h>
 #include <zenvora/core/ioPath.h>
 
 #include <cstdint>
 #include <system_error>
 #include <utility>
 
-namespace Zenvora::Lumidex::Host {
+namespace Zenvora {
 
 /// What the system says of a name, links followed.
 struct FileState {
@@ -15,6 +16,7 @@ struct FileState {
     File,
     Folder,
     Other,    ///< A pipe, a device, a socket.
+    Loop,     ///< Links lead in a circle; `error` says so.
     Unknown,  ///< The system did not tell; `error` says why.
   };
   Kind kind = Kind::Unknown;
@@ -25,7 +27,13 @@ struct FileState {
   std::error_code error;
 };
 
-/// Asks without opening the file. Never throws.
-FileState QueryFile(const ioPath& file);
+/// Asks without opening the file's content. Blocks on the disk; safe from any thread; never throws.
+ZENVORA_CORE_EXPORT FileState QueryFile(const ioPath& file) noexcept;
 
-}  // namespace Zenvora::Lumidex::Host
+/// True when both names are of one existing file or folder.
+ZENVORA_CORE_EXPORT bool IsSameFile(const ioPath& left, const ioPath& right) noexcept;
+
+/// Makes the folder with its parents; no error when it is there already.
+ZENVORA_CORE_EXPORT std::error_code MakeFolders(const ioPath& folder);
+
+}  // namespace Zenvora

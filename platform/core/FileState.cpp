@@ -1,6 +1,7 @@
-#include "FileState.h"
-
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+
+#include <filesystem>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -9,19 +10,28 @@
 #include <sys/stat.h>
 #endif
 
-namespace Zenvora::Lumidex::Host {
+namespace Zenvora {
 
 #ifdef _WIN32
 
-FileState QueryFile(const ioPath& file) {
+FileState QueryFile(const ioPath& file) noexcept {
   FileState state;
+  // The system would take a name with a NUL for a shorter one.
+  if (!file.name_fault().empty()) {
+    state.kind = FileState::Kind::Missing;
+    state.error = std::make_error_code(std::errc::no_such_file_or_directory);
+    return state;
+  }
   HANDLE handle = CreateFileW(file.for_system().c_str(), FILE_READ_ATTRIBUTES,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                               FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   BY_HANDLE_FILE_INFORMATION facts;
   if (handle == INVALID_HANDLE_VALUE || !GetFileInformationByHandle(handle, &facts)) {
     state.error = LastSystemError();
-    if (state.error == std::errc::no_such_file_or_directory) {
+    // Not by the standard's conditions: they take a server that is gone for a file that is.
+    if (state.error.value() == ERROR_CANT_RESOLVE_FILENAME) {
+      state.kind = FileState::Kind::Loop;
+    } else if (state.error.value() == ERROR_FILE_NOT_FOUND || state.error.value() == ERROR_PATH_NOT_FOUND) {
       state.kind = FileState::Kind::Missing;
     }
     if (handle != INVALID_HANDLE_VALUE) {
@@ -50,13 +60,21 @@ FileState QueryFile(const ioPath& file) {
 
 #else
 
-FileState QueryFile(const ioPath& file) {
+FileState QueryFile(const ioPath& file) noexcept {
   FileState state;
+  // The system would take a name with a NUL for a shorter one.
+  if (!file.name_fault().empty()) {
+    state.kind = FileState::Kind::Missing;
+    state.error = std::make_error_code(std::errc::no_such_file_or_directory);
+    return state;
+  }
   struct stat facts = {};
   if (stat(file.native().c_str(), &facts) != 0) {
     state.error = LastSystemError();
     if (errno == ENOENT || errno == ENOTDIR) {
       state.kind = FileState::Kind::Missing;
+    } else if (errno == ELOOP) {
+      state.kind = FileState::Kind::Loop;
     }
     return state;
   }
@@ -80,4 +98,39 @@ FileState QueryFile(const ioPath& file) {
 
 #endif
 
-}  // namespace Zenvora::Lumidex::Host
+bool IsSameFile(const ioPath& left, const ioPath& right) noexcept {
+  const auto isThere = [](const FileState& state) {
+    return state.kind == FileState::Kind::File || state.kind == FileState::Kind::Folder ||
+           state.kind == FileState::Kind::Other;
+  };
+  const FileState a = QueryFile(left);
+  const FileState b = QueryFile(right);
+  return isThere(a) && isThere(b) && a.identity == b.identity;
+}
+
+std::error_code MakeFolders(const ioPath& folder) {
+#ifdef _WIN32
+  // The standard library loses its way in long names.
+  if (QueryFile(folder).kind == FileState::Kind::Folder) {
+    return {};
+  }
+  const ioPath parent = folder.parent_path();
+  if (!parent.empty() && parent != folder) {
+    if (const std::error_code error = MakeFolders(parent)) {
+      return error;
+    }
+  }
+  if (CreateDirectoryW(folder.for_system().c_str(), nullptr)) {
+    return {};
+  }
+  const std::error_code error = LastSystemError();
+  // Somebody else was faster.
+  return QueryFile(folder).kind == FileState::Kind::Folder ? std::error_code() : error;
+#else
+  std::error_code error;
+  std::filesystem::create_directories(folder.native(), error);
+  return error;
+#endif
+}
+
+}  // namespace Zenvora
