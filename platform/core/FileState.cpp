@@ -12,16 +12,12 @@
 
 namespace Zenvora {
 
+namespace {
+
 #ifdef _WIN32
 
-FileState QueryFile(const ioPath& file) noexcept {
+FileState AskSystem(const ioPath& file) {
   FileState state;
-  // The system would take a name with a NUL for a shorter one.
-  if (!file.name_fault().empty()) {
-    state.kind = FileState::Kind::Missing;
-    state.error = std::make_error_code(std::errc::no_such_file_or_directory);
-    return state;
-  }
   HANDLE handle = CreateFileW(file.for_system().c_str(), FILE_READ_ATTRIBUTES,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                               FILE_FLAG_BACKUP_SEMANTICS, nullptr);
@@ -60,14 +56,8 @@ FileState QueryFile(const ioPath& file) noexcept {
 
 #else
 
-FileState QueryFile(const ioPath& file) noexcept {
+FileState AskSystem(const ioPath& file) {
   FileState state;
-  // The system would take a name with a NUL for a shorter one.
-  if (!file.name_fault().empty()) {
-    state.kind = FileState::Kind::Missing;
-    state.error = std::make_error_code(std::errc::no_such_file_or_directory);
-    return state;
-  }
   struct stat facts = {};
   if (stat(file.native().c_str(), &facts) != 0) {
     state.error = LastSystemError();
@@ -97,6 +87,19 @@ FileState QueryFile(const ioPath& file) noexcept {
 }
 
 #endif
+
+}  // namespace
+
+FileState QueryFile(const ioPath& file) noexcept {
+  // The system would take a name with a NUL for a shorter one.
+  if (!file.name_fault().empty()) {
+    FileState state;
+    state.kind = FileState::Kind::Missing;
+    state.error = std::make_error_code(std::errc::no_such_file_or_directory);
+    return state;
+  }
+  return AskSystem(file);
+}
 
 bool IsSameFile(const ioPath& left, const ioPath& right) noexcept {
   const auto isThere = [](const FileState& state) {
