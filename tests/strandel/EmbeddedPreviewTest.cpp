@@ -216,7 +216,7 @@ TEST(EmbeddedPreview, SurvivesFilesCutShortAnywhere) {
 
 TEST(EmbeddedPreview, SurvivesAnyBytesBeingWrong) {
   const TempTree tree;
-  std::mt19937 random(13);  // NOLINT(cert-msc51-cpp): the same files every time
+  std::mt19937 random(13);  // The same files every time
   int found = 0;
   for (const std::string& bytes : {SmallRaw().Bytes(), SmallRaw().Bytes(TiffBytes::Order::BigEndian),
                                    ReadFile(WithThumbnail(tree, {48, 32}, Jpeg({24, 16})))}) {

@@ -191,7 +191,7 @@ TEST(HeifFacts, SurviveBeingCutShortAnywhere) {
 TEST(HeifFacts, SurviveAnyBytesBeingWrong) {
   const TempTree tree;
   const std::string bytes = Heif(Layout());
-  std::mt19937 random(11);  // NOLINT(cert-msc51-cpp): the same files every time
+  std::mt19937 random(11);  // The same files every time
   for (int round = 0; round < 3000; ++round) {
     std::string broken = bytes;
     for (unsigned change = 0; change <= round % 6U; ++change) {

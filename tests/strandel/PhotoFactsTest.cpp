@@ -116,7 +116,7 @@ TEST_P(EveryFormat, SurvivesBeingCutShortAnywhere) {
 
 TEST_P(EveryFormat, SurvivesAnyBytesBeingWrong) {
   const std::string bytes = GetParam().make(FullTags());
-  std::mt19937 random(7);  // NOLINT(cert-msc51-cpp): the same files every time
+  std::mt19937 random(7);  // The same files every time
   for (int round = 0; round < 1500; ++round) {
     std::string broken = bytes;
     for (unsigned change = 0; change <= round % 8U; ++change) {
