@@ -22,6 +22,7 @@ inline Lumidex::Host::PhotoRecord Photo(const ioPath& path, const QDate& day = Q
 /// <prefix>0, <prefix>1 and so on.
 inline std::vector<Lumidex::Host::PhotoRecord> Photos(const std::string& prefix, int count) {
   std::vector<Lumidex::Host::PhotoRecord> photos;
+  photos.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
     photos.push_back(Photo(prefix + std::to_string(i)));
   }

@@ -194,7 +194,7 @@ TEST(HeifFacts, SurviveAnyBytesBeingWrong) {
   std::mt19937 random(11);  // The same files every time
   for (int round = 0; round < 3000; ++round) {
     std::string broken = bytes;
-    for (unsigned change = 0; change <= round % 6U; ++change) {
+    for (int change = 0; change <= round % 6; ++change) {
       broken[random() % broken.size()] = random() % 2 == 0 ? '\xFF' : static_cast<char>(random());
     }
     EXPECT_NE(ReadPhotoFacts(WriteAnew(tree, broken)).status, Status::CannotOpen);

@@ -119,7 +119,7 @@ TEST_P(EveryFormat, SurvivesAnyBytesBeingWrong) {
   std::mt19937 random(7);  // The same files every time
   for (int round = 0; round < 1500; ++round) {
     std::string broken = bytes;
-    for (unsigned change = 0; change <= round % 8U; ++change) {
+    for (int change = 0; change <= round % 8; ++change) {
       // Limits of number types are what breaks readers.
       static constexpr std::array kBytes = {'\x00', '\xFF', '\x7F', '\x80', '\x01'};
       broken[random() % broken.size()] =

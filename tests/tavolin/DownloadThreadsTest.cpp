@@ -76,6 +76,7 @@ TEST_F(ResourceTest, KeepsTheStoredCopyWholeWhateverThreadsDo) {
     }
   });
   std::vector<std::thread> writers;
+  writers.reserve(4);
   for (int i = 0; i < 4; ++i) {
     writers.emplace_back([&] {
       CalendarResource resource;
@@ -102,6 +103,7 @@ TEST_F(ResourceTest, NeverPairsATagWithAnotherBodyWhateverThreadsDo) {
     {
       const App::ServiceScope<App::IDownloads> scope(std::make_shared<RotatingDownloads>());
       std::vector<std::thread> writers;
+      writers.reserve(2);
       for (int i = 0; i < 2; ++i) {
         writers.emplace_back([] {
           CalendarResource resource;
@@ -138,6 +140,7 @@ TEST_F(ResourceTest, DownloadsInAThreadWithAnEventLoop) {
   server.Answer("/holidayEvents/HolidayEvents.json", answer);
   SetBaseUrl(server.BaseUrl().toStdString());
   std::vector<std::thread> threads;
+  threads.reserve(2);
   for (int i = 0; i < 2; ++i) {
     threads.emplace_back([] {
       CalendarResource resource;
@@ -209,9 +212,11 @@ TEST(UuidThreads, NeverRepeatsAcrossThreads) {
   std::mutex mutex;
   std::set<QString> seen;
   std::vector<std::thread> threads;
+  threads.reserve(4);
   for (int i = 0; i < 4; ++i) {
     threads.emplace_back([&] {
       std::vector<QString> own;
+      own.reserve(2500);
       for (int each = 0; each < 2500; ++each) {
         own.push_back(GenerateUuid());
       }
