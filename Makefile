@@ -60,19 +60,20 @@ bench: setup
 windows-toolchain:
 	@tools/windows/toolchain.sh
 
-# Sets LUMIDEX_WINDOWS_TOOLCHAIN for the commands behind it.
+# Sets LUMIDEX_WINDOWS_TOOLCHAIN for the commands behind it. What was configured with another toolchain starts anew.
 WITH_TOOLCHAIN = export LUMIDEX_WINDOWS_TOOLCHAIN="$$(tools/windows/toolchain.sh --path)" && \
-  [ -n "$$LUMIDEX_WINDOWS_TOOLCHAIN" ] || { echo "the Windows toolchain is missing: make windows-toolchain" >&2; exit 1; };
+  [ -n "$$LUMIDEX_WINDOWS_TOOLCHAIN" ] || { echo "the Windows toolchain is missing: make windows-toolchain" >&2; exit 1; }; \
+  fresh() { grep -qsF "$$LUMIDEX_WINDOWS_TOOLCHAIN" "build/$$1/CMakeCache.txt" || echo --fresh; };
 
 # Now and then Wine starts a program without its libraries, or loses its end: what fails three times is a fault of ours.
 test-windows: setup
 	@tools/setup.sh windows
-	$(WITH_TOOLCHAIN) cmake --preset windows && cmake --build --preset windows
+	$(WITH_TOOLCHAIN) cmake --preset windows $$(fresh windows) && cmake --build --preset windows
 	tools/windows/with-wine.sh ctest --preset windows -j 2 --no-tests=error --timeout 60 --repeat until-pass:3
 
 windows-package: setup
 	@tools/setup.sh windows
-	$(WITH_TOOLCHAIN) cmake --preset windows-release && cmake --build --preset windows-release
+	$(WITH_TOOLCHAIN) cmake --preset windows-release $$(fresh windows-release) && cmake --build --preset windows-release
 	tools/windows/package.sh
 
 clean:

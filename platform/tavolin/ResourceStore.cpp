@@ -4,10 +4,11 @@
 #include "DownloadRules.h"
 
 #include <zenvora/app/UserFolders.h>
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
 #include <zenvora/core/Patience.h>
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -99,9 +100,10 @@ QString ResourceStore::Write(const QUrl& url, const QByteArray& body, const QByt
   if (file_.isEmpty()) {
     return QStringLiteral("the user has no cache folder");
   }
-  const QString folder = QFileInfo(file_).absolutePath();
-  if (!QDir().mkpath(folder)) {
-    return QStringLiteral("the folder %1 cannot be made").arg(folder);
+  const ioPath folder = ioPath(file_).parent_path();
+  if (const std::error_code error = MakeFolders(folder)) {
+    return QStringLiteral("the folder %1 cannot be made: %2")
+        .arg(folder.qstring(), QString::fromStdString(ErrorText(error)));
   }
   QString fault = WriteWhole(file_, body, now);
   if (!fault.isEmpty()) {

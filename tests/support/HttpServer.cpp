@@ -1,9 +1,11 @@
 #include <support/HttpServer.h>
 
+#include <QAbstractEventDispatcher>
 #include <QEventLoop>
 #include <QHostAddress>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -165,9 +167,13 @@ class HttpServer::Impl {
   }
 
   ~Impl() {
-    // A flag: Qt delivers no event, not even one to quit, once the application object is gone.
-    stopping_ = true;
-    loop_->wakeUp();
+    {
+      // A flag: Qt delivers no event, not even one to quit, once the application object is gone. Sockets that
+      // nobody can be told of then keep a round of events on Windows going until it is interrupted.
+      const std::lock_guard<std::mutex> lock(mutex_);
+      stopping_ = true;
+      dispatcher_->interrupt();
+    }
     thread_.join();
   }
 
@@ -206,14 +212,16 @@ class HttpServer::Impl {
       }
     });
     const bool listens = server.listen(QHostAddress::LocalHost);
-    loop_ = &loop;
+    dispatcher_ = QThread::currentThread()->eventDispatcher();
     port.set_value(listens ? server.serverPort() : 0);
     while (listens && !stopping_) {
       loop.processEvents(QEventLoop::WaitForMoreEvents);
     }
+    // The dispatcher ends with this thread: not before it was interrupted.
+    const std::lock_guard<std::mutex> lock(mutex_);
   }
 
-  QEventLoop* loop_ = nullptr;
+  QAbstractEventDispatcher* dispatcher_ = nullptr;
   std::atomic<bool> stopping_{false};
   std::thread thread_;
 };

@@ -6,17 +6,29 @@ set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 host=x86_64-w64-mingw32
 
-# Whatever shapes the result is part of the key, so that a stale folder is never taken for the right one.
-key() {
-  local compiler
-  compiler=$(dpkg-query -W -f='${Version}' g++-mingw-w64-x86-64-posix 2>/dev/null) || return 1
-  printf '%s-%s' "${compiler//[^0-9A-Za-z.]/-}" "$(cat "$here/toolchain.sh" "$here/toolchain.cmake" "$here/sources.txt" | sha256sum | cut -c 1-12)"
+fail() {
+  echo "windows-toolchain: $1" >&2
+  exit 1
 }
 
+# Whatever shapes the result is part of the key, so that a stale folder is never taken for the right one.
+installed=(g++-mingw-w64-x86-64-posix libboost-dev libcli11-dev libz-mingw-w64-dev)
+versions() { dpkg-query -W -f='${Package} ${Version}\n' "${installed[@]}" 2>/dev/null; }
+key() {
+  local versions compiler
+  versions=$(versions) || return 1
+  compiler=$(sed -n 's/^g++-mingw[^ ]* //p' <<<"$versions")
+  printf '%s-%s' "${compiler//[^0-9A-Za-z.]/-}" \
+    "$( (echo "$versions"; cat "$here/toolchain.sh" "$here/toolchain.cmake" "$here/sources.txt") | sha256sum | cut -c 1-12)"
+}
+
+[ -n "${XDG_CACHE_HOME:-${HOME:-}}" ] || fail "neither XDG_CACHE_HOME nor HOME says where the cache is"
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/lumidex/windows
 if [ "${1:-}" = --path ]; then
   root=$cache/$(key) || exit 1
   [ -e "$root/complete" ] || exit 1
+  # Marks it as in use; on a cache that cannot be written nothing is cleared away either.
+  touch -c "$root/complete" 2>/dev/null || true
   echo "$root"
   exit 0
 elif [ $# -gt 0 ]; then
@@ -24,8 +36,10 @@ elif [ $# -gt 0 ]; then
   exit 2
 fi
 
+# Neither make nor qmake copes with it.
+case $cache in *[[:space:]]*) fail "the path of the cache has a blank: $cache; set XDG_CACHE_HOME to one without" ;; esac
 "$here/../setup.sh" windows
-root=$cache/$(key)
+root=$cache/$(key) || fail "dpkg does not know the versions of ${installed[*]}; this works on Debian and its kin only"
 mkdir -p "$cache"
 exec 9>"$cache/lock"
 flock -n 9 || { echo "windows-toolchain: another run is building it, waiting"; flock 9; }
@@ -49,8 +63,9 @@ step() {
   current=$1
   shift
   echo "windows-toolchain: $current"
-  # Not as a condition: that would switch off the end at the first error inside.
-  "$@" >"$log/$current.txt" 2>&1 </dev/null
+  # Not as a condition: that would switch off the end at the first error inside. A server that a compiler leaves behind
+  # must not hold the lock.
+  "$@" >"$log/$current.txt" 2>&1 </dev/null 9>&-
   echo "windows-toolchain: $current took $((SECONDS - from)) s"
   current=
 }
@@ -115,6 +130,7 @@ make_shims() {
 # Headers that need no building, alone in a folder: beside them lie headers of the system, which must not be seen.
 take_headers() {
   cp -r /usr/include/boost /usr/include/CLI "$prefix/include/"
+  versions >>"$root/manifest"
 }
 
 with_cmake() {
@@ -186,4 +202,8 @@ step sqlite amalgamate_sqlite
 step qt build_qt
 rm -rf "$work"
 touch "$root/complete"
+# Those of other states of the project, when none has asked for them in two months.
+for other in "$cache"/*/; do
+  [ -z "$(find "$other" -maxdepth 1 -name complete -mtime +60)" ] || rm -rf "$other"
+done
 echo "windows-toolchain: built in $(((SECONDS - started) / 60)) min, $(du -sh "$root" | cut -f 1), in $root"
