@@ -1,16 +1,27 @@
 #include "MonthWording.h"
 #include "PluralForm.h"
 
+#include <LumidexUtil/Rename.h>
 #include <LumidexUtil/Wording.h>
 
 #include <zenvora/app/Application.h>
+#include <zenvora/core/CallStack.h>
+#include <zenvora/lumidex/FileAccessLockerGuard.h>
+
+#include <glog/logging.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
 
+#include <chrono>
+
 namespace Zenvora::Util {
 
 namespace {
+
+// A second: whoever just wrote or showed a file lets go of it within that, and a person still waits.
+constexpr int RENAME_ATTEMPTS = 20;
+constexpr std::chrono::milliseconds RENAME_PAUSE(50);
 
 constexpr char CONTEXT[] = "Zenvora::Lumidex::Utils";
 
@@ -59,6 +70,29 @@ const std::string& FormWord(PluralForm form) {
 }
 
 }  // namespace
+
+ExceptionRename::~ExceptionRename() noexcept = default;
+
+void Rename(Lumidex::IFileAccessLocker& locker, const ioPath& from, const ioPath& to) {
+  if (from == to) {
+    return;
+  }
+  const Lumidex::FileAccessLockerGuard guard(locker, from);
+  int failures = 0;
+  while (!from.rename(to)) {
+    ++failures;
+    App::SleepFor(RENAME_PAUSE);
+    if (failures == RENAME_ATTEMPTS) {
+      BOOST_THROW_EXCEPTION(ExceptionRename()
+                            << TagFilename(from.utf8string())
+                            << TagDescription("Cannot rename " + from.utf8string() + " to " + to.utf8string())
+                            << TagCallStack(GetCallStack()));
+    }
+  }
+  if (failures > 0) {
+    VLOG(20) << "File renamed (" << failures << ") " << from.utf8string() << " to " << to.utf8string();
+  }
+}
 
 QString GetCountString(const std::string& noun, const std::string& pluralFallback, int count) {
   const PluralForm form = PluralFormOf(count);

@@ -41,4 +41,8 @@ QDateTime GetCurrentDateTime() {
   return Services::Current().Get<IClock>()->Now();
 }
 
+void SleepFor(std::chrono::milliseconds pause) {
+  Services::Current().Get<IClock>()->SleepFor(pause);
+}
+
 }  // namespace Zenvora::App

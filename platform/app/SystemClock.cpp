@@ -1,5 +1,7 @@
 #include <zenvora/app/RealServices.h>
 
+#include <thread>
+
 namespace Zenvora::App {
 
 namespace {
@@ -7,6 +9,7 @@ namespace {
 class SystemClock : public IClock {
  public:
   QDateTime Now() const override { return QDateTime::currentDateTime(); }
+  void SleepFor(std::chrono::milliseconds pause) const override { std::this_thread::sleep_for(pause); }
 };
 
 }  // namespace

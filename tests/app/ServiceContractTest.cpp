@@ -142,6 +142,11 @@ TEST_P(ClockContract, TellsLocalTime) {
   EXPECT_EQ(now.timeSpec(), Qt::LocalTime);
 }
 
+TEST_P(ClockContract, ComesBackFromASleep) {
+  service->SleepFor(std::chrono::milliseconds(0));
+  service->SleepFor(std::chrono::milliseconds(1));
+}
+
 TEST_P(ClockContract, StaysWithinAnInterfacesYears) {
   // Shown and stored with four digits.
   EXPECT_GE(service->Now().date().year(), 1000);
@@ -164,6 +169,12 @@ TEST(SystemClock, TellsTheTimeOfTheSystem) {
   const QDateTime after = QDateTime::currentDateTime();
   EXPECT_LE(before, now);
   EXPECT_LE(now, after);
+}
+
+TEST(SystemClock, SleepsAtLeastAsLongAsAsked) {
+  const auto begin = std::chrono::steady_clock::now();
+  MakeSystemClock()->SleepFor(std::chrono::milliseconds(20));
+  EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(20));
 }
 
 using EnvironmentContract = Contract<IHostEnvironment>;

@@ -6,10 +6,18 @@
 #include <zenvora/app/ILookAndFeelManager.h>
 #include <zenvora/app/ISettingsManager.h>
 #include <zenvora/app/Services.h>
+#include <zenvora/core/RefCountImpl.h>
+#include <zenvora/lumidex/IFileAccessLocker.h>
+#include <zenvora/lumidex/IUndo.h>
 
+#include <chrono>
+#include <functional>
 #include <map>
 #include <mutex>
+#include <set>
 #include <string>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 namespace Zenvora::Test {
@@ -37,12 +45,63 @@ class FakeLookAndFeel : public App::ILookAndFeelManager {
   mutable int asked = 0;
 };
 
-/// A clock that stands still.
+/// A clock that stands still: sleeping takes no time, but is remembered. Sleep on one thread only.
 class FakeClock : public App::IClock {
  public:
-  explicit FakeClock(const QDateTime& moment) : now(moment) {}
+  explicit FakeClock(const QDateTime& moment = {}) : now(moment) {}
   QDateTime Now() const override { return now; }
+  void SleepFor(std::chrono::milliseconds pause) const override {
+    sleeps.push_back(pause);
+    if (onSleep) {
+      onSleep(sleeps.size());
+    }
+  }
   QDateTime now;
+  mutable std::vector<std::chrono::milliseconds> sleeps;
+  /// What happens meanwhile; gets the number of the sleep, from 1.
+  std::function<void(std::size_t)> onSleep;
+};
+
+/// Counts who holds what, and looks at no file. For one thread.
+class FakeLocker : public Lumidex::IFileAccessLocker {
+ public:
+  unsigned int AddRef() const override { return count_.AddRefImpl(); }
+  unsigned int GetRefCount() const override { return count_.GetRefCountImpl(); }
+  unsigned int Release() const override { return count_.ReleaseImpl(); }
+  void Lock(const ioPath& path) override {
+    calls.push_back("lock " + path.utf8string());
+    if (failing) {
+      throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
+    }
+    held.insert(path);
+  }
+  void Unlock(const ioPath& path) override {
+    calls.push_back("unlock " + path.utf8string());
+    held.erase(path);
+  }
+  std::vector<std::string> calls;
+  std::set<ioPath> held;
+  bool failing = false;
+
+ private:
+  RefCountImpl count_;
+};
+
+/// An undo receiver that remembers what it was told.
+class FakeUndo : public Lumidex::IUndo {
+ public:
+  void BeginStep(const QString&) override {}
+  void EndStep() override {}
+  bool Undo() override { return false; }
+  bool Redo() override { return false; }
+  void RegisterFileChange(Lumidex::DataModel& item, const ioPath& newPath) override {
+    changes.emplace_back(item.GetPath(), newPath);
+    if (onChange) {
+      onChange(item, newPath);
+    }
+  }
+  std::vector<std::pair<ioPath, ioPath>> changes;
+  std::function<void(Lumidex::DataModel&, const ioPath&)> onChange;
 };
 
 /// A host with a resource folder and no window.

@@ -8,6 +8,7 @@
 
 #include <QDateTime>
 
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -57,5 +58,8 @@ ZENVORA_APP_EXPORT ioPath GetPathToResources();
 
 /// The current moment in local time, by the clock in force.
 ZENVORA_APP_EXPORT QDateTime GetCurrentDateTime();
+
+/// Blocks the calling thread for at least `pause`, by the clock in force.
+ZENVORA_APP_EXPORT void SleepFor(std::chrono::milliseconds pause);
 
 }  // namespace Zenvora::App

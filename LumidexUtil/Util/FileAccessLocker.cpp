@@ -1,0 +1,114 @@
+#include <LumidexUtil/FileAccessLocker.h>
+
+#include <zenvora/app/Application.h>
+
+#include <glog/logging.h>
+
+#include <cerrno>
+#include <chrono>
+#include <map>
+#include <mutex>
+
+#ifdef _WIN32
+#include <cstdio>
+#include <share.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace Zenvora::Lumidex {
+
+namespace {
+
+// Half a second: longer than a virus scanner or a viewer holds a photo, shorter than anybody's patience.
+constexpr int PROBE_ATTEMPTS = 50;
+constexpr std::chrono::milliseconds PROBE_PAUSE(10);
+
+bool CanBeRead(const ioPath& path) {
+#ifdef _WIN32
+  // Other names stand for devices, some of which would wait for input.
+  if (!path.name_fault().empty()) {
+    return false;
+  }
+  std::FILE* const file = _wfsopen(path.for_system().c_str(), L"rt", _SH_DENYNO);
+  return file != nullptr && std::fclose(file) == 0;
+#else
+  int file = -1;
+  do {
+    // Not waiting for the writer of a pipe.
+    file = ::open(path.native().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+  } while (file < 0 && errno == EINTR);
+  return file >= 0 && ::close(file) == 0;
+#endif
+}
+
+void WaitUntilReadable(const ioPath& path) {
+  int failures = 0;
+  while (!CanBeRead(path)) {
+    ++failures;
+    App::SleepFor(PROBE_PAUSE);
+    if (failures == PROBE_ATTEMPTS) {
+      LOG(WARNING) << "Cannot lock " << path.utf8string();
+      return;
+    }
+  }
+  if (failures > 0) {
+    VLOG(20) << "File locked (" << failures << ") " << path.utf8string();
+  }
+}
+
+}  // namespace
+
+class FileAccessLocker::Impl {
+ public:
+  ~Impl() {
+    const std::lock_guard<std::mutex> lock(tableMutex_);
+    VLOG(30) << "Locked file count: " << table_.size();
+  }
+
+  std::mutex& MutexOf(const ioPath& path) {
+    const std::lock_guard<std::mutex> lock(tableMutex_);
+    return table_.try_emplace(path).first->second;
+  }
+
+ private:
+  std::mutex tableMutex_;
+  // Entries stay, and so do their addresses.
+  std::map<ioPath, std::mutex> table_;
+};
+
+boost::intrusive_ptr<IFileAccessLocker> FileAccessLocker::Create() {
+  return boost::intrusive_ptr<IFileAccessLocker>(new FileAccessLocker);
+}
+
+FileAccessLocker::FileAccessLocker() : impl_(std::make_unique<Impl>()) {}
+
+FileAccessLocker::~FileAccessLocker() = default;
+
+unsigned int FileAccessLocker::AddRef() const {
+  return refCount_.AddRefImpl();
+}
+
+unsigned int FileAccessLocker::GetRefCount() const {
+  return refCount_.GetRefCountImpl();
+}
+
+unsigned int FileAccessLocker::Release() const {
+  const unsigned int left = refCount_.ReleaseImpl();
+  if (left == 0) {
+    delete this;
+  }
+  return left;
+}
+
+void FileAccessLocker::Lock(const ioPath& path) {
+  impl_->MutexOf(path).lock();
+  WaitUntilReadable(path);
+}
+
+void FileAccessLocker::Unlock(const ioPath& path) {
+  impl_->MutexOf(path).unlock();
+}
+
+}  // namespace Zenvora::Lumidex
