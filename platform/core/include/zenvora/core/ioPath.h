@@ -36,7 +36,10 @@ class ZENVORA_CORE_EXPORT ioPath {
   bool operator!=(const ioPath& other) const { return path_ != other.path_; }
   /// Element by element, so that a folder's files stand together. A strict weak order for maps; not for
   /// people.
-  bool operator<(const ioPath& other) const { return path_ < other.path_; }
+  bool operator<(const ioPath& other) const {
+    // What a map compares most is a key with itself, and that is one look at its bytes.
+    return path_.native() != other.path_.native() && path_ < other.path_;
+  }
 
   /// Joins with one separator. An absolute right side replaces the left.
   ioPath& operator/=(const ioPath& right);
