@@ -3,6 +3,8 @@
 #include "DownloadLimits.h"
 #include "ResourceFixture.h"
 
+#include <support/LeftOut.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,6 +24,11 @@
 namespace Zenvora::Tavolin {
 
 namespace {
+
+using Zenvora::Test::IsSuperuser;
+using Zenvora::Test::kAccessLists;
+using Zenvora::Test::kNoPipesInFolders;
+using Zenvora::Test::kNoSizeLimit;
 
 using namespace std::chrono_literals;
 
@@ -242,6 +249,8 @@ TEST_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace) {
   ASSERT_TRUE(network->Answer(Failed(QStringLiteral("no"))));
   ExpectEnded(resource, Status::Failed);
 }
+#else
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace, kNoPipesInFolders);
 #endif
 
 // ---- Entity tags
@@ -575,9 +584,9 @@ TEST_F(ResourceTest, GivesUpOnACopyThatIsHeldForGood) {
 
 TEST_F(ResourceTest, ServesTheFormerCopyFromAFolderWithoutPermission) {
 #ifdef _WIN32
-  GTEST_SKIP() << "folders are closed by access lists there, which Qt does not set";
+  GTEST_SKIP() << kAccessLists;
 #endif
-  if (Zenvora::Test::IsSuperuser()) {
+  if (IsSuperuser()) {
     GTEST_SKIP() << "permissions do not bind the superuser";
   }
   StoreCopyWithTag(Calendar("old"), "\"v1\"", 2 * kWeek);
@@ -616,6 +625,8 @@ TEST_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull) {
   const QDir folder(QFileInfo(CopyName()).path());
   EXPECT_EQ(folder.entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
+#else
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull, kNoSizeLimit);
 #endif
 
 // ---- The handler
