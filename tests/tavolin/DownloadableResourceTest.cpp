@@ -524,6 +524,16 @@ TEST_F(ResourceTest, KeepsResourcesOfOtherNamesAndFormatsApart) {
   EXPECT_EQ(StoredBody(), Calendar("one"));
 }
 
+TEST_F(ResourceTest, LogsACauseAsAPartOfItsSentence) {
+  for (const char* const cause : {"no route", "no route."}) {
+    const Zenvora::Test::LogCapture log;
+    CalendarResource resource;
+    resource.StartDownload(false);
+    ASSERT_TRUE(network->Answer(Failed(QString::fromLatin1(cause))));
+    EXPECT_NE(Warnings(log).find("failed: no route; "), std::string::npos) << Warnings(log);
+  }
+}
+
 // ---- A cache that cannot be written
 
 TEST_F(ResourceTest, FailsWhenTheCacheFolderCannotBeMade) {
