@@ -21,6 +21,12 @@ FileState AskSystem(const ioPath& file) {
   HANDLE handle = CreateFileW(file.for_system().c_str(), FILE_READ_ATTRIBUTES,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                               FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (handle != INVALID_HANDLE_VALUE && GetFileType(handle) != FILE_TYPE_DISK) {
+    // The system tells nothing more of pipes and devices.
+    CloseHandle(handle);
+    state.kind = FileState::Kind::Other;
+    return state;
+  }
   BY_HANDLE_FILE_INFORMATION facts;
   if (handle == INVALID_HANDLE_VALUE || !GetFileInformationByHandle(handle, &facts)) {
     state.error = LastSystemError();
@@ -35,14 +41,10 @@ FileState AskSystem(const ioPath& file) {
     }
     return state;
   }
-  const bool onDisk = GetFileType(handle) == FILE_TYPE_DISK;
   CloseHandle(handle);
   const auto join = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; };
-  if ((facts.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-    state.kind = FileState::Kind::Folder;
-  } else {
-    state.kind = onDisk ? FileState::Kind::File : FileState::Kind::Other;
-  }
+  state.kind = (facts.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileState::Kind::Folder
+                                                                        : FileState::Kind::File;
   state.size = join(facts.nFileSizeHigh, facts.nFileSizeLow);
   // The system counts steps of 100 nanoseconds from 1601 on.
   constexpr std::int64_t kStepsTo1970 = 116444736000000000;

@@ -235,9 +235,13 @@ void DownloadableResource::Response(const DownloadReply& reply) {
   if (impl_->status != Status::Downloading) {
     return;
   }
-  const QString fault = impl_->Apply(reply);
+  QString fault = impl_->Apply(reply);
   const bool served = fault.isEmpty() || impl_->FindCopy(false).has_value();
   if (!fault.isEmpty()) {
+    // What Windows says ends in a full stop.
+    if (fault.endsWith(QLatin1Char('.'))) {
+      fault.chop(1);
+    }
     LOG(WARNING) << "The download of "
                  << Utf8(impl_->flight ? DisplayText(impl_->flight->url) : impl_->section + '/' + impl_->name)
                  << " failed: " << Utf8(fault)

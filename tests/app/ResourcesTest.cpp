@@ -6,12 +6,15 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
 
 #include <array>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Zenvora::App {
 namespace {
@@ -29,12 +32,30 @@ TEST(Resources, OfTheBuildTreeHoldTheCalendar) {
   EXPECT_GT((GetPathToResources() / "HolidayEvents.json").file_size(), 0U);
 }
 
-#ifndef _WIN32
-/// What the program prints from a copy of it at `place`.
-std::string FolderSeenFrom(const ioPath& place) {
-  fs::create_directories(place.parent_path().native());
-  fs::copy_file(RESOURCE_FOLDER_PROGRAM, place.native());
-  const std::string command = "cd / && '" + place.utf8string() + "'";
+#ifdef _WIN32
+constexpr char kEnding[] = ".exe";
+const std::vector<const char*> kFolderNames = {"plain", "with blank", "gr\xC3\xBC\xC3\x9F \xF0\x9F\x93\xB7"};
+
+std::string OutputOf(const ioPath& program) {
+  QProcess process;
+  QProcessEnvironment withLibraries = QProcessEnvironment::systemEnvironment();
+  const ioPath libraries(QStringLiteral(RESOURCE_FOLDER_PROGRAM));
+  withLibraries.insert(QStringLiteral("PATH"), libraries.parent_path().qstring() + QLatin1Char(';') +
+                                                   withLibraries.value(QStringLiteral("PATH")));
+  process.setProcessEnvironment(withLibraries);
+  process.setWorkingDirectory(QDir::rootPath());
+  process.start(program.qstring(), QStringList());
+  EXPECT_TRUE(process.waitForFinished(120'000)) << process.errorString().toStdString();
+  return process.readAllStandardOutput().toStdString();
+}
+#else
+constexpr char kEnding[] = "";
+const std::vector<const char*> kFolderNames = {"plain", "with blank", "gr\xC3\xBC\xC3\x9F \xF0\x9F\x93\xB7",
+                                               "caf\xE9\xFF", "line\nfeed"};
+
+// Not by Qt, which cannot name every file.
+std::string OutputOf(const ioPath& program) {
+  const std::string command = "cd / && '" + program.utf8string() + "'";
   const std::unique_ptr<FILE, int (*)(FILE*)> pipe(::popen(command.c_str(), "r"), ::pclose);
   std::string printed;
   std::array<char, 256> chunk{};
@@ -43,12 +64,20 @@ std::string FolderSeenFrom(const ioPath& place) {
   }
   return printed;
 }
+#endif
+
+ioPath CopyProgram(const ioPath& place) {
+  ioPath copy(place.utf8string() + kEnding);
+  fs::create_directories(copy.parent_path().native());
+  fs::copy_file(ioPath(RESOURCE_FOLDER_PROGRAM).native(), copy.native());
+  return copy;
+}
 
 TEST(Resources, FollowTheProgramIntoAnyFolder) {
   const TempTree tree;
-  for (const char* name : {"plain", "with blank", "gr\xC3\xBC\xC3\x9F", "caf\xE9\xFF", "line\nfeed"}) {
+  for (const char* name : kFolderNames) {
     const ioPath folder = tree.Path(name);
-    EXPECT_EQ(FolderSeenFrom(folder / "bin" / "program"), (folder / "share" / "lumidex").utf8string());
+    EXPECT_EQ(OutputOf(CopyProgram(folder / "bin" / "program")), (folder / "share" / "lumidex").utf8string());
   }
 }
 
@@ -56,20 +85,16 @@ TEST(Resources, InTheFolderOfTheProgramComeFirst) {
   const TempTree tree;
   const ioPath beside = tree.MakeFolder("bin/share/lumidex");
   tree.MakeFolder("share/lumidex");
-  EXPECT_EQ(FolderSeenFrom(tree.Path("bin/program")), beside.utf8string());
+  EXPECT_EQ(OutputOf(CopyProgram(tree.Path("bin/program"))), beside.utf8string());
 }
 
 TEST(Resources, AreThoseOfTheProgramThatALinkLeadsTo) {
   const TempTree tree;
-  FolderSeenFrom(tree.Path("real/bin/program"));
-  const ioPath link = tree.MakeFolder("links") / "program";
-  fs::create_symlink(tree.Path("real/bin/program").native(), link.native());
-  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(::popen(link.utf8string().c_str(), "r"), ::pclose);
-  std::array<char, 4096> printed{};
-  ASSERT_NE(std::fgets(printed.data(), static_cast<int>(printed.size()), pipe.get()), nullptr);
-  EXPECT_EQ(std::string(printed.data()), tree.Path("real/share/lumidex").utf8string());
+  const ioPath program = CopyProgram(tree.Path("real/bin/program"));
+  const ioPath link = tree.MakeFolder("links") / program.filename();
+  LUMIDEX_LINK_OR_SKIP(program, link);
+  EXPECT_EQ(OutputOf(link), tree.Path("real/share/lumidex").utf8string());
 }
-#endif
 
 }  // namespace
 }  // namespace Zenvora::App

@@ -1,4 +1,6 @@
+#include <support/LeftOut.h>
 #include <support/LogCapture.h>
+#include <support/Obstacles.h>
 #include <support/TempTree.h>
 #include <support/WriteLimit.h>
 
@@ -12,15 +14,13 @@
 #include <filesystem>
 #include <string>
 
-#ifndef _WIN32
-#include <sys/stat.h>
-#endif
-
 namespace Zenvora::App {
 namespace {
 
 namespace fs = std::filesystem;
+using Zenvora::Test::kNoSizeLimit;
 using Zenvora::Test::LogCapture;
+using Zenvora::Test::Pipe;
 using Zenvora::Test::ReadText;
 using Zenvora::Test::TempTree;
 #ifndef _WIN32
@@ -150,12 +150,10 @@ TEST(Settings, LeaveAFolderInTheirPlaceAlone) {
   EXPECT_TRUE(fs::is_directory(folder.native()));
 }
 
-#ifndef _WIN32
 TEST(Settings, DoNotWaitForAPipe) {
   const TempTree tree;
-  const ioPath pipe = tree.Path("settings.ini");
-  ASSERT_EQ(::mkfifo(pipe.native().c_str(), S_IRWXU), 0);
-  const auto settings = MakeIniSettings(pipe);
+  const Pipe pipe(tree.Path("settings.ini"));
+  const auto settings = MakeIniSettings(pipe.Path());
   EXPECT_EQ(settings->GetString("key", "default"), "default");
   const LogCapture log;
   settings->SetString("key", "value");
@@ -163,6 +161,7 @@ TEST(Settings, DoNotWaitForAPipe) {
   EXPECT_EQ(settings->GetString("key", "default"), "value");
 }
 
+#ifndef _WIN32
 TEST(Settings, SurviveAFullDisk) {
   const TempTree tree;
   const ioPath file = tree.Write("settings.ini", "key=old\n");
@@ -180,6 +179,8 @@ TEST(Settings, SurviveAFullDisk) {
   EXPECT_EQ(Warnings(log), 1U);
   EXPECT_EQ(ReadText(file), "[General]\nkey=new and longer\nother=more\n");
 }
+#else
+LUMIDEX_LEFT_OUT_ON_WINDOWS(Settings, SurviveAFullDisk, kNoSizeLimit);
 #endif
 
 struct Damage {

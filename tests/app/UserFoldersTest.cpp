@@ -1,3 +1,4 @@
+#include <support/LeftOut.h>
 #include <support/TempTree.h>
 
 #include <zenvora/app/RealServices.h>
@@ -12,6 +13,7 @@
 namespace Zenvora::App {
 namespace {
 
+using Test::kNamesAreText;
 using Test::TempTree;
 
 /// An environment variable with another value, or with none, for a scope.
@@ -81,6 +83,12 @@ TEST_P(UserFolders, KnowTheHomeFolderWithoutItsVariable) {
   EXPECT_NE(folder, ioPath("/") / GetParam().belowHome);
 }
 #else
+LUMIDEX_LEFT_OUT_ON_WINDOWS_P(UserFolders, KeepEveryByteOfTheirNames, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_P(UserFolders, AreBelowTheHomeFolderOtherwise,
+                              "the system itself knows the user's folders there");
+LUMIDEX_LEFT_OUT_ON_WINDOWS_P(UserFolders, KnowTheHomeFolderWithoutItsVariable,
+                              "the system itself knows the user's folders there");
+
 TEST_P(UserFolders, AreTheKnownOnesOtherwise) {
   for (const auto& value : {std::optional<std::string>(), std::optional<std::string>("relative\\folder")}) {
     const Variable variable(GetParam().variable, value);

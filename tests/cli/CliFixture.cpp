@@ -16,6 +16,7 @@ namespace Zenvora::Test {
 namespace {
 
 constexpr int kHangMs = 120'000;
+const QString kLockName = QStringLiteral("lock");
 
 }  // namespace
 
@@ -107,6 +108,22 @@ void CliTest::ScanTwoAlbums() const {
   MakePhotos("may", "2023:05:13", 22);
   const Ran scan = Run({"scan", Text(Photos())});
   ASSERT_EQ(scan.exitCode, 0) << scan.err;
+}
+
+WriteLock::WriteLock(const ioPath& catalogue) {
+  QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), kLockName);
+  database.setDatabaseName(catalogue.qstring());
+  EXPECT_TRUE(database.open());
+  EXPECT_TRUE(QSqlQuery(database).exec(QStringLiteral("BEGIN IMMEDIATE")));
+}
+
+WriteLock::~WriteLock() {
+  {
+    QSqlDatabase database = QSqlDatabase::database(kLockName);
+    QSqlQuery(database).exec(QStringLiteral("ROLLBACK"));
+    database.close();
+  }
+  QSqlDatabase::removeDatabase(kLockName);
 }
 
 std::string IntegrityOf(const ioPath& catalogue) {

@@ -58,6 +58,15 @@ class CliTest : public ::testing::Test {
   QProcessEnvironment environment;
 };
 
+/// Holds the catalogue's write lock, so that a scan with something to store cannot finish while it lives.
+class WriteLock {
+ public:
+  explicit WriteLock(const ioPath& catalogue);
+  ~WriteLock();
+  WriteLock(const WriteLock&) = delete;
+  WriteLock& operator=(const WriteLock&) = delete;
+};
+
 /// "ok" from SQLite's integrity check, else what it says.
 std::string IntegrityOf(const ioPath& catalogue);
 int CountPhotosIn(const ioPath& catalogue);

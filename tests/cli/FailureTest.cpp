@@ -2,9 +2,15 @@
 
 #include "CliFixture.h"
 
+#include <support/LeftOut.h>
+
 #include <QJsonArray>
 
 #include <filesystem>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace Zenvora::Test {
 namespace {
@@ -124,15 +130,49 @@ TEST_F(FailingCommand, ReportsAFullDiskAndLosesNothing) {
   EXPECT_EQ(Run({"scan", Text(Photos())}).exitCode, 0);
   EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 401);
 }
+#else
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(FailingCommand, ReportsAFullDiskAndLosesNothing, kNoSizeLimit);
+#endif
 
-TEST_F(FailingCommand, ExitsWith4WhenItsOutputCannotBeWritten) {
-  for (const char* const command : {"calendar show", "--help", "--version", "scan nowhere --json"}) {
-    const Ran ran = RunShell("exec \"$LUMIDEX\" " + std::string(command) + " > /dev/full");
-    EXPECT_EQ(ran.exitCode, 4) << command;
-    EXPECT_THAT(ran.err, HasSubstr("No space left on device")) << command;
+/// Runs it with a standard output that takes nothing.
+class WithoutOutput : public FailingCommand {
+ protected:
+  Ran RunSo(const QStringList& arguments) const {
+    QProcess process;
+#ifdef _WIN32
+    // A handle for reading only, which the child gets as it is.
+    SECURITY_ATTRIBUTES inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
+    const HANDLE handle = CreateFileW(tree.Write("output", "").native().c_str(), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    process.setCreateProcessArgumentsModifier([handle](QProcess::CreateProcessArguments* call) {
+      call->startupInfo->dwFlags |= STARTF_USESTDHANDLES;
+      call->startupInfo->hStdOutput = handle;
+    });
+    Start(process, arguments);
+    const Ran ran = Finish(process);
+    CloseHandle(handle);
+    return ran;
+#else
+    process.setStandardOutputFile(QStringLiteral("/dev/full"));
+    Start(process, arguments);
+    return Finish(process);
+#endif
+  }
+};
+
+TEST_F(WithoutOutput, ExitsWith4) {
+  for (const QStringList& command :
+       {QStringList{"calendar", "show"}, {"--help"}, {"--version"}, {"scan", "nowhere", "--json"}}) {
+    const Ran ran = RunSo(command);
+    const std::string line = command.join(QLatin1Char(' ')).toStdString();
+    EXPECT_EQ(ran.exitCode, 4) << line;
+    EXPECT_THAT(ran.err, HasSubstr("The output cannot be written: ")) << line;
+#ifndef _WIN32
+    EXPECT_THAT(ran.err, HasSubstr("No space left on device")) << line;
+#endif
   }
 }
-#endif
 
 TEST_F(FailingCommand, SaysSoWhenTheSampleFolderIsNotEmpty) {
   const std::string before = ReadFile(tree.Write("full/photo.jpg", "mine"));

@@ -2,10 +2,6 @@
 
 #include "CliFixture.h"
 
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
-
 #include <csignal>
 
 #ifdef _WIN32
@@ -19,30 +15,6 @@ using ::testing::HasSubstr;
 
 constexpr int kHangMs = 60'000;
 constexpr int kTimeToReachTheLockMs = 300;
-
-/// Holds the catalogue's write lock, so that a scan cannot finish while it lives.
-class WriteLock {
- public:
-  explicit WriteLock(const ioPath& catalogue) {
-    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), kName);
-    database.setDatabaseName(catalogue.qstring());
-    EXPECT_TRUE(database.open());
-    EXPECT_TRUE(QSqlQuery(database).exec(QStringLiteral("BEGIN IMMEDIATE")));
-  }
-  ~WriteLock() {
-    {
-      QSqlDatabase database = QSqlDatabase::database(kName);
-      QSqlQuery(database).exec(QStringLiteral("ROLLBACK"));
-      database.close();
-    }
-    QSqlDatabase::removeDatabase(kName);
-  }
-  WriteLock(const WriteLock&) = delete;
-  WriteLock& operator=(const WriteLock&) = delete;
-
- private:
-  const QString kName = QStringLiteral("lock");
-};
 
 class InterruptedScan : public CliTest {
  protected:
@@ -74,50 +46,56 @@ class InterruptedScan : public CliTest {
     StartScan(process, QStringLiteral(LUMIDEX_PROGRAM), {"-v", "--json", "scan", "photos"});
   }
 #ifdef _WIN32
-  static void Send(const QProcess& process, int /*signal*/) {
+  static bool Send(const QProcess& process, int /*signal*/) {
+    // As a part of its console this program is told, too, maybe a little later. It must not ignore it by the
+    // system's switch, which the programs that it starts would inherit.
+    static const BOOL deaf = SetConsoleCtrlHandler([](DWORD) { return TRUE; }, TRUE);
     FreeConsole();
-    ASSERT_TRUE(AttachConsole(static_cast<DWORD>(process.processId()))) << GetLastError();
-    // This program is of that console now, too.
-    SetConsoleCtrlHandler(nullptr, TRUE);
-    EXPECT_TRUE(GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0)) << GetLastError();
+    const bool sent = deaf && AttachConsole(static_cast<DWORD>(process.processId())) &&
+                      GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
     FreeConsole();
+    return sent;
   }
 #else
-  static void Send(const QProcess& process, int signal) {
-    kill(static_cast<pid_t>(process.processId()), signal);
+  static bool Send(const QProcess& process, int signal) {
+    return kill(static_cast<pid_t>(process.processId()), signal) == 0;
   }
 #endif
 
-  void ExpectWhole() const {
+  void ExpectWhole(int photos = 31) const {
     EXPECT_EQ(IntegrityOf(DefaultCatalogue()), "ok");
     EXPECT_EQ(Run({"scan", Text(Photos())}).exitCode, 0);
-    EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 31);
+    EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), photos);
   }
 };
 
 #ifdef _WIN32
+// Other events cannot be sent from outside: of the window's end only the system tells.
 constexpr int kSignals[] = {SIGINT};
 #else
 constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
 #endif
 
 TEST_F(InterruptedScan, KeepsWhatItHasAndExitsWith130) {
+  int photos = 31;
   for (const int signal : kSignals) {
+    // What a scan has read it may still have stored: the next one needs work of its own.
+    MakePhotos("signal" + std::to_string(signal), "2023:12:26", 30);
+    photos += 30;
     QProcess process;
     {
       const WriteLock lock(DefaultCatalogue());
       StartScan(process);
-      Send(process, signal);
+      EXPECT_TRUE(Send(process, signal));
     }
     const Ran ran = Finish(process);
     EXPECT_EQ(ran.exitCode, 130) << signal;
     EXPECT_TRUE(ran.Json()["interrupted"].toBool()) << signal;
     EXPECT_THAT(ran.err, HasSubstr("Interrupted"));
   }
-  ExpectWhole();
+  ExpectWhole(photos);
 }
 
-#ifndef _WIN32
 TEST_F(InterruptedScan, EndsAtOnceWhenAskedTwice) {
   // A scan that is asked before it waits for the lock has nothing to write and ends by itself: then once
   // more.
@@ -129,11 +107,13 @@ TEST_F(InterruptedScan, EndsAtOnceWhenAskedTwice) {
     StartScan(process);
     process.waitForFinished(kTimeToReachTheLockMs);
     while (process.state() != QProcess::NotRunning) {
-      // Two signals in one moment may arrive as one.
-      Send(process, SIGINT);
+      // Two signals in one moment may arrive as one. The last finds nobody.
+      static_cast<void>(Send(process, SIGINT));
       process.waitForFinished(20);
     }
-    wasKilled = Finish(process).crashed;
+    const Ran ran = Finish(process);
+    // Not every system tells who ended it, but only what ends by itself has something to say.
+    wasKilled = ran.crashed || ran.out.empty();
   }
   EXPECT_TRUE(wasKilled);
   ExpectWhole();
@@ -143,17 +123,21 @@ TEST_F(InterruptedScan, GoesOnWhenTheCallerIgnoresTheSignal) {
   QProcess process;
   {
     const WriteLock lock(DefaultCatalogue());
+#ifdef _WIN32
+    SetConsoleCtrlHandler(nullptr, TRUE);
+    StartScan(process);
+    SetConsoleCtrlHandler(nullptr, FALSE);
+#else
     process.setReadChannel(QProcess::StandardError);
     StartScan(process, QStringLiteral("bash"),
               {"-c", "trap '' INT; exec \"$LUMIDEX\" -v --json scan photos"});
-    Send(process, SIGINT);
+#endif
+    EXPECT_TRUE(Send(process, SIGINT));
   }
   const Ran ran = Finish(process);
   EXPECT_EQ(ran.exitCode, 0);
   EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 31);
 }
-
-#endif
 
 }  // namespace
 }  // namespace Zenvora::Test

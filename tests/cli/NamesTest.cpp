@@ -2,6 +2,12 @@
 
 #include "CliFixture.h"
 
+#include <support/LeftOut.h>
+
+#include <zenvora/core/FileState.h>
+
+#include <QCoreApplication>
+#include <QDir>
 #include <QJsonArray>
 
 namespace Zenvora::Test {
@@ -67,6 +73,13 @@ TEST_F(StrangeNames, AreReportedAsThePicturesTheyAre) {
 
 using ::testing::HasSubstr;
 
+class StrangeNames : public CliTest {};
+
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreShownWithoutHarm, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreExactInJson, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, CanBeGivenAsArguments, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreReportedAsThePicturesTheyAre, kNamesAreText);
+
 class RefusedNames : public CliTest {};
 
 TEST_F(RefusedNames, AreToldWithTheReasonAndMakeNothing) {
@@ -88,6 +101,52 @@ TEST_F(RefusedNames, AreToldWithTheReasonAndMakeNothing) {
   }
   EXPECT_FALSE(DefaultCatalogue().exists());
   EXPECT_FALSE(tree.Path("cat.sqlite").exists());
+}
+
+class NetworkPaths : public CliTest {};
+
+TEST_F(NetworkPaths, ServeForPhotosCatalogueAndReport) {
+  const QString share = qEnvironmentVariable("LUMIDEX_TEST_SHARE");
+  if (share.isEmpty()) {
+    GTEST_SKIP() << "LUMIDEX_TEST_SHARE names no share to try";
+  }
+  const ioPath folder =
+      ioPath(share) / ("lumidex-test-" + std::to_string(QCoreApplication::applicationPid()));
+  ASSERT_FALSE(MakeFolders(folder)) << folder;
+  const QString backward = folder.qstring();
+  const QString forward = QDir::fromNativeSeparators(backward);
+  const QString prefixed = QStringLiteral("\\\\?\\UNC") + backward.mid(1);
+
+  Ran ran = Run({"sample", forward + QStringLiteral("/photos"), "--photos", "50"});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  ran = Run({"-c", backward + QStringLiteral("\\c.sqlite"), "scan", "--json",
+             backward + QStringLiteral("\\photos")});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_EQ(ran.Json()["added"].toInt(), 50);
+  ran = Run(
+      {"-c", forward + QStringLiteral("/c.sqlite"), "scan", "--json", forward + QStringLiteral("/photos")});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_EQ(ran.Json()["unchanged"].toInt(), 50);
+  ran = Run({"-c", prefixed + QStringLiteral("\\c.sqlite"), "albums", "--json", "--report",
+             prefixed + QStringLiteral("\\page.html")});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_EQ(ran.Json()["report"].toObject()["missingPictures"].toInt(-1), 0);
+  EXPECT_TRUE((folder / "page.html").exists());
+  EXPECT_TRUE(QDir(forward).removeRecursively());
+}
+
+TEST_F(NetworkPaths, ThatLeadNowhereAreErrors) {
+  const QString share = qEnvironmentVariable("LUMIDEX_TEST_SHARE");
+  if (share.isEmpty()) {
+    GTEST_SKIP() << "LUMIDEX_TEST_SHARE names no share to try";
+  }
+  const QString missing = share + QStringLiteral("-that-is-missing\\photos");
+  for (const QString& path : {missing, QDir::fromNativeSeparators(missing)}) {
+    const Ran ran = Run({"scan", path});
+    EXPECT_EQ(ran.exitCode, 4) << path.toStdString();
+    EXPECT_THAT(ran.err, HasSubstr(missing.toStdString()));
+  }
+  EXPECT_FALSE(DefaultCatalogue().exists());
 }
 
 #endif

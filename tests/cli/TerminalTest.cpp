@@ -2,8 +2,6 @@
 
 #include "CliFixture.h"
 
-#ifndef _WIN32
-
 #include <cstdlib>
 #include <fcntl.h>
 #include <sstream>
@@ -166,5 +164,3 @@ TEST_F(OnATerminal, ShowsNoProgressElsewhere) {
 
 }  // namespace
 }  // namespace Zenvora::Test
-
-#endif

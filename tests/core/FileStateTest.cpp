@@ -1,3 +1,4 @@
+#include <support/Obstacles.h>
 #include <support/TempTree.h>
 
 #include <zenvora/core/FileState.h>
@@ -10,6 +11,8 @@ namespace Zenvora {
 namespace {
 
 using Kind = FileState::Kind;
+using Test::Closed;
+using Test::Pipe;
 using Test::TempTree;
 
 TEST(QueryFile, TellsFilesFoldersAndWhatIsMissing) {
@@ -25,6 +28,21 @@ TEST(QueryFile, TellsFilesFoldersAndWhatIsMissing) {
     EXPECT_EQ(QueryFile(path).kind, Kind::Missing) << path;
     EXPECT_TRUE(QueryFile(path).error) << path;
   }
+}
+
+TEST(QueryFile, TellsAPipeFromAFile) {
+  const TempTree tree;
+  const Pipe pipe(tree.Path("pipe"));
+  EXPECT_EQ(QueryFile(pipe.Path()).kind, Kind::Other);
+  EXPECT_TRUE(pipe.Path().exists());
+}
+
+TEST(QueryFile, TellsOfFilesThatCannotBeOpened) {
+  const TempTree tree;
+  const ioPath file = tree.Write("file", "12345");
+  const Closed closed(file);
+  EXPECT_EQ(QueryFile(file).kind, Kind::File);
+  EXPECT_EQ(QueryFile(file).size, 5U);
 }
 
 TEST(QueryFile, TellsALoopOfLinksFromAMissingFile) {

@@ -1,5 +1,7 @@
 #include "Counted.h"
 
+#include <support/Slots.h>
+
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -89,7 +91,6 @@ TEST(RefCountable, CannotBeDeletedByItsUsers) {
   EXPECT_TRUE(std::has_virtual_destructor_v<IRefCountable>);
 }
 
-#ifndef _WIN32
 /// Each operation answers with a number of its own.
 class Numbered : public IRefCountable {
  public:
@@ -102,17 +103,11 @@ class Numbered : public IRefCountable {
 TEST(RefCountable, KeepsTheOrderOfItsSlots) {
   const Numbered object;
   const IRefCountable* base = &object;
-  // The common C++ binary interface: the object begins with the address of its table; the destructor takes
-  // two slots, one for destroying and one for deleting.
   using Operation = unsigned int (*)(const IRefCountable*);
-  const Operation* table = nullptr;
-  std::memcpy(&table, static_cast<const void*>(base), sizeof(table));
-  constexpr std::size_t kAfterDestructor = 2;
-  EXPECT_EQ(table[kAfterDestructor](base), 101U);
-  EXPECT_EQ(table[kAfterDestructor + 1](base), 102U);
-  EXPECT_EQ(table[kAfterDestructor + 2](base), 103U);
+  EXPECT_EQ(Zenvora::Test::SlotOf<Operation>(*base, 0)(base), 101U);
+  EXPECT_EQ(Zenvora::Test::SlotOf<Operation>(*base, 1)(base), 102U);
+  EXPECT_EQ(Zenvora::Test::SlotOf<Operation>(*base, 2)(base), 103U);
 }
-#endif
 
 }  // namespace
 }  // namespace Zenvora

@@ -2,6 +2,8 @@
 
 #include <host/PhotoFiles.h>
 #include <support/ExivPath.h>
+#include <support/LeftOut.h>
+#include <support/Obstacles.h>
 #include <support/PhotoMaker.h>
 #include <support/TempTree.h>
 
@@ -16,14 +18,14 @@
 #include <filesystem>
 #include <string>
 
-#ifndef _WIN32
-#include <sys/stat.h>
-#endif
-
 namespace Zenvora::Lumidex::Host {
 namespace {
 
+using Test::Closed;
+using Test::IsSuperuser;
+using Test::kNamesAreText;
 using Test::PhotoTags;
+using Test::Pipe;
 using Test::ReadFile;
 using Test::TempTree;
 using Test::WriteJpeg;
@@ -143,20 +145,31 @@ TEST(LoadThumbnail, IsNullForSizesThatMakeNoSense) {
   EXPECT_FALSE(LoadThumbnail(file, 1).isNull());
 }
 
-#ifndef _WIN32
 TEST(LoadThumbnail, DoesNotWaitOnPipes) {
   const TempTree tree;
-  const ioPath pipe = tree.Path("pipe.jpg");
-  ASSERT_EQ(mkfifo(pipe.native().c_str(), 0600), 0);
-  EXPECT_TRUE(LoadThumbnail(pipe, 240).isNull());
+  const Pipe pipe(tree.Path("pipe.jpg"));
+  EXPECT_TRUE(LoadThumbnail(pipe.Path(), 240).isNull());
 }
 
+TEST(LoadThumbnail, IsNullForFilesThatCannotBeOpened) {
+  if (IsSuperuser()) {
+    GTEST_SKIP() << "this user may read every file";
+  }
+  const TempTree tree;
+  const ioPath file = WriteJpeg(tree.Path("closed.jpg"));
+  const Closed closed(file);
+  EXPECT_TRUE(LoadThumbnail(file, 240).isNull());
+}
+
+#ifndef _WIN32
 TEST(LoadThumbnail, OpensNamesThatAreNoUtf8) {
   const TempTree tree;
   const ioPath file = tree.Path("caf\xE9 \xFF.jpg");
   WriteJpeg(file);
   EXPECT_FALSE(LoadThumbnail(file, 240).isNull());
 }
+#else
+LUMIDEX_LEFT_OUT_ON_WINDOWS(LoadThumbnail, OpensNamesThatAreNoUtf8, kNamesAreText);
 #endif
 
 TEST(LoadThumbnail, ShowsWhatIsThereOfATruncatedJpeg) {

@@ -25,7 +25,6 @@ TEST(IUndo, CannotBeDeletedByItsUsers) {
   EXPECT_TRUE(std::has_virtual_destructor_v<IUndo>);
 }
 
-#ifndef _WIN32
 /// Writes down which operation was called.
 class Noting : public virtual IFileAccessLocker, public IUndo {
  public:
@@ -75,7 +74,6 @@ TEST(IUndo, HearsOfChangesThroughItsFifthSlot) {
   SlotOf<void (*)(IUndo*, DataModel&, const ioPath&)>(undo, kFifth)(&undo, item, path);
   EXPECT_EQ(object.called, "RegisterFileChange");
 }
-#endif
 
 }  // namespace
 }  // namespace Zenvora::Lumidex

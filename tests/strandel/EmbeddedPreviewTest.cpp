@@ -1,7 +1,9 @@
 #include "ReadCount.h"
 #include "TiffBytes.h"
 
+#include <support/LeftOut.h>
 #include <support/LogCapture.h>
+#include <support/Obstacles.h>
 #include <support/PhotoMaker.h>
 #include <support/TempTree.h>
 
@@ -14,18 +16,18 @@
 #include <random>
 #include <string>
 
-#ifndef _WIN32
-#include <sys/stat.h>
-#endif
-
 namespace Zenvora::Strandel {
 namespace {
 
 using Test::BytesRead;
+using Test::Closed;
+using Test::IsSuperuser;
+using Test::kNamesAreText;
 using Test::LogCapture;
 using Test::MakeJpeg;
 using Test::MakePng;
 using Test::PhotoTags;
+using Test::Pipe;
 using Test::ReadFile;
 using Test::TempTree;
 using Test::TiffBytes;
@@ -244,19 +246,31 @@ TEST(EmbeddedPreview, IsSilentAboutBrokenFiles) {
   EXPECT_TRUE(log.Lines().empty());
 }
 
-#ifndef _WIN32
 TEST(EmbeddedPreview, NeverWaitsForPipes) {
   const TempTree tree;
-  const ioPath pipe = tree.Path("pipe.jpg");
-  ASSERT_EQ(mkfifo(pipe.native().c_str(), 0600), 0);
-  EXPECT_TRUE(ReadEmbeddedPreview(pipe, 100).bytes.isEmpty());
+  const Pipe pipe(tree.Path("pipe.jpg"));
+  EXPECT_TRUE(ReadEmbeddedPreview(pipe.Path(), 100).bytes.isEmpty());
 }
+
+TEST(EmbeddedPreview, IsEmptyForFilesThatCannotBeOpened) {
+  if (IsSuperuser()) {
+    GTEST_SKIP() << "this user may read every file";
+  }
+  const TempTree tree;
+  const ioPath file = WithThumbnail(tree, {300, 200}, Jpeg({150, 100}));
+  const Closed closed(file);
+  EXPECT_TRUE(ReadEmbeddedPreview(file, 100).bytes.isEmpty());
+}
+
+#ifndef _WIN32
 
 TEST(EmbeddedPreview, IsReadFromFilesWhoseNamesAreNoText) {
   const TempTree tree;
   const std::string bytes = ReadFile(WithThumbnail(tree, {300, 200}, Jpeg({150, 100})));
   EXPECT_FALSE(ReadEmbeddedPreview(tree.Write("a\xFF\n.jpg", bytes), 100).bytes.isEmpty());
 }
+#else
+LUMIDEX_LEFT_OUT_ON_WINDOWS(EmbeddedPreview, IsReadFromFilesWhoseNamesAreNoText, kNamesAreText);
 #endif
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include <support/TempTree.h>
 
+#include <zenvora/core/FileState.h>
+
 #include <gtest/gtest.h>
 
 #include <QFileInfo>
@@ -84,7 +86,10 @@ bool MakeLink(const ioPath& target, const ioPath& link) {
 #ifdef _WIN32
   // Without developer mode or rights refused; Wine says yes and makes none.
   constexpr DWORD kUnprivileged = 2;
-  CreateSymbolicLinkW(link.native().c_str(), target.native().c_str(), kUnprivileged);
+  const fs::path plain = fs::path(target.native()).make_preferred();
+  const bool toFolder = QueryFile(link.parent_path() / ioPath(plain)).kind == FileState::Kind::Folder;
+  CreateSymbolicLinkW(link.native().c_str(), plain.c_str(),
+                      kUnprivileged | (toFolder ? SYMBOLIC_LINK_FLAG_DIRECTORY : 0));
   const DWORD attributes = GetFileAttributesW(link.native().c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 #else

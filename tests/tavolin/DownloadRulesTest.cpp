@@ -46,7 +46,10 @@ TEST(DownloadRules, BuildsTheAddress) {
       {"https://h.test/a%2Fb", "https://h.test/a%2Fb/holidayEvents/HolidayEvents.json"},
       {"https://h.test/a?key=1#part", "https://h.test/a/holidayEvents/HolidayEvents.json?key=1"},
       {"http://[::1]:99/", "http://[::1]:99/holidayEvents/HolidayEvents.json"},
-#ifndef _WIN32
+#ifdef _WIN32
+      {"file:///C:/srv/files", "file:///C:/srv/files/holidayEvents/HolidayEvents.json"},
+      {"file:///C:/", "file:///C:/holidayEvents/HolidayEvents.json"},
+#else
       {"file:///srv/files", "file:///srv/files/holidayEvents/HolidayEvents.json"},
       {"file:///", "file:///holidayEvents/HolidayEvents.json"},
 #endif

@@ -3,6 +3,8 @@
 #include "DownloadLimits.h"
 #include "ResourceFixture.h"
 
+#include <support/LeftOut.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,6 +24,11 @@
 namespace Zenvora::Tavolin {
 
 namespace {
+
+using Zenvora::Test::IsSuperuser;
+using Zenvora::Test::kAccessLists;
+using Zenvora::Test::kNoPipesInFolders;
+using Zenvora::Test::kNoSizeLimit;
 
 using namespace std::chrono_literals;
 
@@ -242,6 +249,8 @@ TEST_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace) {
   ASSERT_TRUE(network->Answer(Failed(QStringLiteral("no"))));
   ExpectEnded(resource, Status::Failed);
 }
+#else
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace, kNoPipesInFolders);
 #endif
 
 // ---- Entity tags
@@ -515,6 +524,16 @@ TEST_F(ResourceTest, KeepsResourcesOfOtherNamesAndFormatsApart) {
   EXPECT_EQ(StoredBody(), Calendar("one"));
 }
 
+TEST_F(ResourceTest, LogsACauseAsAPartOfItsSentence) {
+  for (const char* const cause : {"no route", "no route."}) {
+    const Zenvora::Test::LogCapture log;
+    CalendarResource resource;
+    resource.StartDownload(false);
+    ASSERT_TRUE(network->Answer(Failed(QString::fromLatin1(cause))));
+    EXPECT_NE(Warnings(log).find("failed: no route; "), std::string::npos) << Warnings(log);
+  }
+}
+
 // ---- A cache that cannot be written
 
 TEST_F(ResourceTest, FailsWhenTheCacheFolderCannotBeMade) {
@@ -575,9 +594,9 @@ TEST_F(ResourceTest, GivesUpOnACopyThatIsHeldForGood) {
 
 TEST_F(ResourceTest, ServesTheFormerCopyFromAFolderWithoutPermission) {
 #ifdef _WIN32
-  GTEST_SKIP() << "folders are closed by access lists there, which Qt does not set";
+  GTEST_SKIP() << kAccessLists;
 #endif
-  if (Zenvora::Test::IsSuperuser()) {
+  if (IsSuperuser()) {
     GTEST_SKIP() << "permissions do not bind the superuser";
   }
   StoreCopyWithTag(Calendar("old"), "\"v1\"", 2 * kWeek);
@@ -616,6 +635,8 @@ TEST_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull) {
   const QDir folder(QFileInfo(CopyName()).path());
   EXPECT_EQ(folder.entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
+#else
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull, kNoSizeLimit);
 #endif
 
 // ---- The handler

@@ -16,7 +16,10 @@
 
 #include <optional>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <winsock2.h>
+#include <ws2tcpip.h>
+#else
 #include <arpa/inet.h>
 #include <fcntl.h>
 #include <netinet/in.h>
@@ -48,6 +51,25 @@ QByteArray Bomb(int size) {
   gzip += zlib.mid(6, zlib.size() - 10);
   return gzip + QByteArray(8, '\0');
 }
+
+#ifdef _WIN32
+using Socket = SOCKET;
+void DoNotWaitFor(Socket socket) {
+  u_long on = 1;
+  ioctlsocket(socket, static_cast<long>(FIONBIO), &on);
+}
+void CloseSocket(Socket socket) {
+  closesocket(socket);
+}
+#else
+using Socket = int;
+void DoNotWaitFor(Socket socket) {
+  fcntl(socket, F_SETFL, O_NONBLOCK);
+}
+void CloseSocket(Socket socket) {
+  close(socket);
+}
+#endif
 
 }  // namespace
 
@@ -380,10 +402,9 @@ TEST_F(NetworkDownloadsTest, GivesUpOnAServerThatStopsBehindARedirect) {
   ExpectFailure(Fetch(request), "sent nothing");
 }
 
-#ifndef _WIN32
 TEST_F(NetworkDownloadsTest, GivesUpOnAConnectionThatIsNotMade) {
   // A queue of one that nobody serves: the system leaves further connections hanging.
-  const int listener = socket(AF_INET, SOCK_STREAM, 0);
+  const auto listener = socket(AF_INET, SOCK_STREAM, 0);
   sockaddr_in address{};
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
@@ -392,9 +413,10 @@ TEST_F(NetworkDownloadsTest, GivesUpOnAConnectionThatIsNotMade) {
   ASSERT_EQ(bind(listener, generic, length), 0);
   ASSERT_EQ(listen(listener, 0), 0);
   ASSERT_EQ(getsockname(listener, generic, &length), 0);
-  std::vector<int> queue;
+  std::vector<Socket> queue;
   for (int i = 0; i < 8; ++i) {
-    queue.push_back(socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0));
+    queue.push_back(socket(AF_INET, SOCK_STREAM, 0));
+    DoNotWaitFor(queue.back());
     // Most of them never get through: that is the point.
     static_cast<void>(connect(queue.back(), generic, length));
   }
@@ -404,12 +426,11 @@ TEST_F(NetworkDownloadsTest, GivesUpOnAConnectionThatIsNotMade) {
   request.stallTimeout = 200ms;
   ExpectFailure(Fetch(request), "sent nothing for 0.2 s");
 
-  for (const int each : queue) {
-    close(each);
+  for (const Socket each : queue) {
+    CloseSocket(each);
   }
-  close(listener);
+  CloseSocket(listener);
 }
-#endif
 
 TEST_F(NetworkDownloadsTest, GivesUpOnAServerThatTricklesForever) {
   HttpAnswer answer = WithBody("x");

@@ -47,6 +47,9 @@ for attempt in 1 2 3; do
   [ "$attempt" -lt 3 ] ||
     { tail "$work/wineboot.txt" >&2; echo "with-wine: Wine makes no prefix" >&2; exit 1; }
 done
+# A server with a share, in the place where Wine looks for them: network paths have rules of their own.
+mkdir -p "$WINEPREFIX/dosdevices/unc/server/share"
+export LUMIDEX_TEST_SHARE='\\server\share'
 # Without a window manager's frame a window is there at once.
 "$here/wine.sh" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
 # One server for everything that follows, and one program that waits for input without end: else Windows' services and

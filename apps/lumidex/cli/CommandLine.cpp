@@ -38,6 +38,8 @@ Exit codes:
 std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   auto program = std::make_unique<CLI::App>(kDescription, "lumidex");
   program->footer(kFooter);
+  // A word that begins with a slash is a path on every system.
+  program->allow_windows_style_options(false);
   program->formatter_fn(
       [](const CLI::App* command, const std::string&, CLI::AppFormatMode) { return HelpPage(*command); });
   program->set_help_flag("-h,--help", "Print this page.");

@@ -71,7 +71,7 @@ std::unique_ptr<QTemporaryDir> MakeScratch() {
   auto scratch = std::make_unique<QTemporaryDir>();
   // Its path would be empty, and the catalogue be made in the current folder.
   if (!scratch->isValid()) {
-    throw Failure("failed", "A dry run needs a folder in " + parent.toStdString() +
+    throw Failure("failed", "A dry run needs a folder in " + QDir::toNativeSeparators(parent).toStdString() +
                                 ", which cannot be made: " + scratch->errorString().toStdString());
   }
   return scratch;
