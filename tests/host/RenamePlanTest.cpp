@@ -290,6 +290,13 @@ TEST(RenamePlan, ChangesTheCaseOfAPhotoBesideOneThatDiffersByCase) {
   EXPECT_EQ(Plan({"IMG.jpg"}, "Img", {"IMG.jpg"}).steps.size(), 2U);
 }
 
+TEST(RenamePlan, ChangesTheCaseOfAPhotoWhoseSettingsWereLeftOut) {
+  const RenamePlan plan =
+      MakeRenamePlan(Shots({"IMG.jpg"}), Pattern("img"), {"IMG.jpg", "IMG.xmp"}, Options());
+  EXPECT_TRUE(plan.problems.empty());
+  EXPECT_EQ(plan.steps.size(), 2U);
+}
+
 TEST(RenamePlan, RefusesAWholeShotForOneOfItsFiles) {
   RenameOptions options = Options();
   options.onProblem = RenameFailing::Others;
