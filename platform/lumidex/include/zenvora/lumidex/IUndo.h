@@ -8,7 +8,8 @@
 
 namespace Zenvora::Lumidex {
 
-/// The host's history of what was done to files: it hears of a change before it happens, and can take it back.
+/// The host's history of what was done to files: it hears of a change before it happens, and can take it
+/// back.
 ///
 /// One object serves one thread at a time. All operations may throw what derives from `Exception`. The order
 /// of the virtual operations is part of the binary interface: the destructor, then as declared.
