@@ -1,0 +1,119 @@
+#pragma once
+
+#include <host/HostError.h>
+#include <host/RenamePlan.h>
+
+#include <zenvora/core/ioPath.h>
+#include <zenvora/lumidex/IFileAccessLocker.h>
+#include <zenvora/lumidex/IUndo.h>
+
+#include <QDateTime>
+#include <QString>
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// What the journal knows of a step.
+struct UndoStep {
+  std::int64_t number = 0;      ///< Grows with every step; never used twice.
+  QString name;                 ///< What the person did.
+  QDateTime begun;              ///< UTC.
+  bool undone = false;          ///< Taken back; it can be done again.
+  std::size_t files = 0;        ///< Photos that it changed or renamed.
+  std::uint64_t keptBytes = 0;  ///< What is kept for it, as if nothing were shared with the photos.
+};
+
+/// A file that could not be treated as asked.
+struct UndoFinding {
+  ioPath file;
+  std::string cause;  ///< English, to be put behind the name.
+};
+
+/// What a batch of renames, an undo or a redo did.
+struct UndoResult {
+  QString name;           ///< Of the step; empty: there was none.
+  std::size_t files = 0;  ///< Changed or renamed.
+  bool cancelled = false;
+  std::vector<UndoFinding> findings;
+};
+
+/// What is kept at most, the latest steps first.
+struct UndoLimits {
+  static constexpr int kDefaultDays = 90;
+  static constexpr std::uint64_t kDefaultBytes = std::uint64_t{5} << 30U;
+  int days = kDefaultDays;
+  std::uint64_t bytes = kDefaultBytes;
+};
+
+/// How far a piece of work is: files done, files in all.
+using UndoProgress = std::function<void(std::size_t, std::size_t)>;
+
+/// The history of what was done to photo files, kept in the catalogue: what is to be done is on the disk
+/// before it is done, and the originals lie in a folder beside the catalogue (its name with ".undo") until
+/// they are too old or too many. docs/decisions/undo.md tells how, docs/formats/catalogue.md has the tables.
+///
+/// Whatever was under way when the program or the machine stopped is finished or taken back when the next
+/// journal is opened. One journal of a catalogue can be open at a time, in all processes.
+///
+/// All functions block on the disk and throw `HostError` naming file and cause. An object belongs to the
+/// thread that opened it.
+class UndoJournal : public IUndo {
+ public:
+  /// Makes or updates the catalogue, waits a moment for another journal of it, throws when that is not
+  /// enough, and recovers. `locker` must outlive it.
+  UndoJournal(const ioPath& catalogue, IFileAccessLocker& locker);
+  ~UndoJournal() override;
+  UndoJournal(const UndoJournal&) = delete;
+  UndoJournal& operator=(const UndoJournal&) = delete;
+
+  /// What recovery found and did, in sentences for a person; empty as a rule.
+  const std::vector<std::string>& RecoveryNotes() const;
+
+  /// Renames the files of a plan as one step, all or none: when one cannot be renamed, or on `cancelled`,
+  /// those renamed before get their old names back. What fails is recognised before anything is renamed where
+  /// it can be. Nothing is ever replaced. Catalogued photos keep their records.
+  UndoResult Rename(const QString& name, const RenamePlan& plan, const std::atomic<bool>& cancelled,
+                    const UndoProgress& progress);
+
+  /// The name for the side file of an edit of `photo`, in its folder: hidden, and removed by recovery when it
+  /// is still there. To be called within a step, before the side file is made.
+  ioPath PlanEdit(const ioPath& photo);
+  /// The edit planned last is in place: `RegisterFileChange` was called and the photo replaced.
+  void FinishEdit();
+  /// The edit planned last did not happen.
+  void DropEdit();
+
+  void BeginStep(const QString& name) override;
+  /// A step without changes is forgotten.
+  void EndStep() override;
+  bool Undo() override;
+  bool Redo() override;
+  void RegisterFileChange(DataModel& item, const ioPath& newPath) override;
+
+  /// Takes back the last step that stands. A photo that others changed since is left as it is, with a
+  /// finding.
+  UndoResult UndoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
+  /// Does again what was taken back last.
+  UndoResult RedoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
+
+  /// All steps, the latest first.
+  std::vector<UndoStep> Steps() const;
+  /// Forgets the oldest steps that are beyond the limits, with their originals. Returns how many.
+  std::size_t Prune(const UndoLimits& limits, const QDateTime& now);
+
+ private:
+  class Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+/// True when something was under way in the journal of the catalogue, or cannot be ruled out: opening an
+/// `UndoJournal` then recovers. Cheap, and makes no catalogue.
+bool NeedsRecovery(const ioPath& catalogue);
+
+}  // namespace Zenvora::Lumidex::Host
