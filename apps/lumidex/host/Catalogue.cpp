@@ -1,4 +1,5 @@
 #include "CatalogueDatabase.h"
+#include "CatalogueRows.h"
 #include "CatalogueSchema.h"
 
 #include <host/Catalogue.h>
@@ -26,36 +27,6 @@ namespace Zenvora::Lumidex::Host {
 namespace fs = std::filesystem;
 
 namespace {
-
-// Paths are stored as bytes: a file name on Linux need not be text. One separator, so that the bytes compare.
-QByteArray PathBytes(const ioPath& path) {
-  fs::path plain = path.native();
-  return QByteArray::fromStdString(ioPath(plain.make_preferred()).utf8string());
-}
-
-ioPath PathOf(const QVariant& bytes) {
-  return ioPath(bytes.toByteArray().toStdString());
-}
-
-/// NULL for a missing date. The text of a date sorts as the date does.
-QVariant TakenText(const QDateTime& taken) {
-  const QString day = taken.date().toString(Qt::ISODate);
-  if (!taken.isValid() || day.isEmpty()) {
-    return QVariant(QVariant::String);
-  }
-  return day + taken.time().toString(QStringLiteral("'T'HH:mm:ss.zzz"));
-}
-
-QDateTime TakenOf(const QString& text) {
-  constexpr int kDayLength = 10;
-  return Strandel::CameraTime(QDate::fromString(text.left(kDayLength), Qt::ISODate),
-                              QTime::fromString(text.mid(kDayLength + 1), QStringLiteral("HH:mm:ss.zzz")));
-}
-
-/// A null text would be NULL, which the tables do not take.
-QString NotNull(const QString& text) {
-  return text.isNull() ? QStringLiteral("") : text;
-}
 
 /// The bytes that the paths of everything below a folder begin with, and the first bytes behind all of those.
 std::pair<QByteArray, QByteArray> RangeBelow(const ioPath& folder) {

@@ -49,6 +49,27 @@ const Statements& Migration(int fromVersion) {
           " value TEXT NOT NULL,"
           " PRIMARY KEY (album, attribute)) WITHOUT ROWID",
       },
+      {
+          // AUTOINCREMENT: the names of kept files hold numbers, which must not come back.
+          "CREATE TABLE steps ("
+          " number INTEGER PRIMARY KEY AUTOINCREMENT,"
+          " name TEXT NOT NULL,"
+          " begun TEXT NOT NULL,"
+          " state INTEGER NOT NULL,"
+          " files INTEGER NOT NULL DEFAULT 0,"
+          " moves BLOB)",
+          "CREATE TABLE changes ("
+          " number INTEGER PRIMARY KEY AUTOINCREMENT,"
+          " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
+          " state INTEGER NOT NULL,"
+          " path BLOB NOT NULL,"
+          " side BLOB,"
+          " adopted INTEGER NOT NULL DEFAULT 0 CHECK (adopted IN (0, 1)),"
+          " kept_size INTEGER NOT NULL DEFAULT 0,"
+          " digest_before BLOB,"
+          " digest_after BLOB)",
+          "CREATE INDEX changes_by_step ON changes (step)",
+      },
   };
   static_assert(kCatalogueApplicationId == 1280132184, "the first migration writes it");
   CHECK_EQ(migrations.size(), static_cast<std::size_t>(Catalogue::kSchemaVersion));

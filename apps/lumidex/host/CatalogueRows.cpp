@@ -1,0 +1,75 @@
+#include "CatalogueRows.h"
+
+#include <zenvora/strandel/PhotoFacts.h>
+
+#include <filesystem>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace fs = std::filesystem;
+
+QByteArray PathBytes(const ioPath& path) {
+  fs::path plain = path.native();
+  return QByteArray::fromStdString(ioPath(plain.make_preferred()).utf8string());
+}
+
+ioPath PathOf(const QVariant& bytes) {
+  return ioPath(bytes.toByteArray().toStdString());
+}
+
+QVariant TakenText(const QDateTime& taken) {
+  const QString day = taken.date().toString(Qt::ISODate);
+  if (!taken.isValid() || day.isEmpty()) {
+    return QVariant(QVariant::String);
+  }
+  return day + taken.time().toString(QStringLiteral("'T'HH:mm:ss.zzz"));
+}
+
+QDateTime TakenOf(const QString& text) {
+  constexpr int kDayLength = 10;
+  return Strandel::CameraTime(QDate::fromString(text.left(kDayLength), Qt::ISODate),
+                              QTime::fromString(text.mid(kDayLength + 1), QStringLiteral("HH:mm:ss.zzz")));
+}
+
+QString NotNull(const QString& text) {
+  return text.isNull() ? QStringLiteral("") : text;
+}
+
+PhotoPathUpdate::PhotoPathUpdate(const CatalogueDatabase& database)
+    : database_(database), set_(database.Prepare("UPDATE OR IGNORE photos SET path = ? WHERE path = ?")) {}
+
+void PhotoPathUpdate::Move(const ioPath& from, const ioPath& to) {
+  const QByteArray source = PathBytes(from);
+  const QByteArray target = PathBytes(to);
+  if (Set(source, target)) {
+    return;
+  }
+  // No file had that name when the photo got it, so a record there is of a photo that is gone.
+  const QByteArray aside = target + '\0';
+  if (Set(target, aside)) {
+    Set(source, target);
+    Set(aside, source);
+  }
+}
+
+bool PhotoPathUpdate::Set(const QByteArray& from, const QByteArray& to) {
+  set_.addBindValue(to);
+  set_.addBindValue(from);
+  database_.Run(set_);
+  return set_.numRowsAffected() > 0;
+}
+
+void UpdatePhotoRow(const CatalogueDatabase& database, const PhotoRecord& photo) {
+  QSqlQuery query = database.Prepare(
+      "UPDATE photos SET size = ?, modified_ns = ?, taken = ?, taken_source = ?, camera = ?, lost = 0"
+      " WHERE path = ?");
+  query.addBindValue(static_cast<qlonglong>(photo.size));
+  query.addBindValue(static_cast<qlonglong>(photo.modifiedNs));
+  query.addBindValue(TakenText(photo.taken));
+  query.addBindValue(static_cast<int>(photo.takenSource));
+  query.addBindValue(NotNull(photo.camera));
+  query.addBindValue(PathBytes(photo.path));
+  database.Run(query);
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "CatalogueDatabase.h"
+
+#include <host/Catalogue.h>
+
+#include <QByteArray>
+
+namespace Zenvora::Lumidex::Host {
+
+/// A path as the tables hold it: bytes, since a file name on Linux need not be text, with one separator, so
+/// that the bytes compare.
+QByteArray PathBytes(const ioPath& path);
+ioPath PathOf(const QVariant& bytes);
+
+/// A date as the tables hold it, NULL when it is invalid. The text of a date sorts as the date does.
+QVariant TakenText(const QDateTime& taken);
+QDateTime TakenOf(const QString& text);
+
+/// A null text would be NULL, which the tables do not take.
+QString NotNull(const QString& text);
+
+/// Gives photos new paths, one after the other, within the caller's transaction. What is not in the catalogue
+/// is passed over. A lost photo that the catalogue has under a new path gets the path that became free.
+class PhotoPathUpdate {
+ public:
+  explicit PhotoPathUpdate(const CatalogueDatabase& database);
+  void Move(const ioPath& from, const ioPath& to);
+
+ private:
+  bool Set(const QByteArray& from, const QByteArray& to);
+
+  const CatalogueDatabase& database_;
+  QSqlQuery set_;
+};
+
+/// Stores what a photo's file says now, if the catalogue has the photo, within the caller's transaction.
+void UpdatePhotoRow(const CatalogueDatabase& database, const PhotoRecord& photo);
+
+}  // namespace Zenvora::Lumidex::Host

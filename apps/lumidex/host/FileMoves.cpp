@@ -1,0 +1,158 @@
+#include "FileMoves.h"
+
+#include <LumidexUtil/Rename.h>
+
+#include <host/HostError.h>
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileNames.h>
+#include <zenvora/core/NewFile.h>
+#include <zenvora/lumidex/FileAccessLockerGuard.h>
+
+#include <QDataStream>
+
+#include <set>
+#include <string>
+#include <unordered_map>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+bool Holds(const ioPath& name, const FileMove& move) {
+  const FileState state = QueryFile(name);
+  if (state.kind != FileState::Kind::File) {
+    return false;
+  }
+  // Some file systems number their files anew whenever they are mounted.
+  return state.identity == std::make_pair(move.device, move.inode) ||
+         (state.size == move.size && state.modifiedNs == move.modifiedNs);
+}
+
+[[noreturn]] void Fail(const ioPath& from, const ioPath& to, const std::string& cause) {
+  ThrowHostError(from.utf8string(),
+                 "Cannot rename " + from.utf8string() + " to " + to.utf8string() + ": " + cause);
+}
+
+std::string CauseOf(const std::error_code& error) {
+  if (error == std::errc::file_exists) {
+    return "there is something of that name";
+  }
+  if (error == std::errc::cross_device_link) {
+    return "that is on another volume";
+  }
+  return ErrorText(error);
+}
+
+/// Keeps the name from others while the file waits to move there.
+void MovePatiently(IFileAccessLocker& locker, const ioPath& from, const ioPath& to) {
+  NewFile place;
+  if (const std::error_code error = place.Create(to)) {
+    Fail(from, to, CauseOf(error));
+  }
+  place.Close(false);
+  Util::Rename(locker, from, to);
+  place.Release();
+}
+
+}  // namespace
+
+std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps) {
+  std::vector<FileMove> moves;
+  moves.reserve(steps.size());
+  // Where the moves so far have put what.
+  std::unordered_map<ioPath, std::size_t> arrived;
+  for (const RenameMove& step : steps) {
+    FileMove move{step.from, step.to};
+    const auto before = arrived.find(step.from);
+    if (before != arrived.end()) {
+      move = moves[before->second];
+      move.from = step.from;
+      move.to = step.to;
+      arrived.erase(before);
+    } else {
+      const FileState state = QueryFile(step.from);
+      if (state.kind != FileState::Kind::File) {
+        Fail(step.from, step.to, state.error ? ErrorText(state.error) : "it is no file any more");
+      }
+      move.device = state.identity.first;
+      move.inode = state.identity.second;
+      move.size = state.size;
+      move.modifiedNs = state.modifiedNs;
+    }
+    arrived[step.to] = moves.size();
+    moves.push_back(std::move(move));
+  }
+  return moves;
+}
+
+QByteArray PackMoves(const std::vector<FileMove>& moves) {
+  QByteArray bytes;
+  QDataStream stream(&bytes, QIODevice::WriteOnly);
+  stream.setVersion(QDataStream::Qt_5_15);
+  stream << static_cast<quint32>(moves.size());
+  for (const FileMove& move : moves) {
+    stream << QByteArray::fromStdString(move.from.utf8string())
+           << QByteArray::fromStdString(move.to.utf8string()) << quint64{move.device} << quint64{move.inode}
+           << quint64{move.size} << qint64{move.modifiedNs};
+  }
+  return bytes;
+}
+
+std::vector<FileMove> UnpackMoves(const QByteArray& bytes) {
+  QDataStream stream(bytes);
+  stream.setVersion(QDataStream::Qt_5_15);
+  quint32 count = 0;
+  stream >> count;
+  std::vector<FileMove> moves;
+  for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+    QByteArray from;
+    QByteArray to;
+    quint64 device = 0;
+    quint64 inode = 0;
+    quint64 size = 0;
+    qint64 modified = 0;
+    stream >> from >> to >> device >> inode >> size >> modified;
+    moves.push_back({from.toStdString(), to.toStdString(), device, inode, size, modified});
+  }
+  return moves;
+}
+
+std::size_t CountDone(const std::vector<FileMove>& moves) {
+  // A target is free until its move; from the last move on, the first that is taken tells.
+  for (std::size_t i = moves.size(); i > 0; --i) {
+    const FileMove& move = moves[i - 1];
+    if (Holds(move.to, move) && !Holds(move.from, move)) {
+      return i;
+    }
+  }
+  return 0;
+}
+
+void MoveFile(IFileAccessLocker& locker, const ioPath& from, const ioPath& to) {
+  std::error_code error;
+  {
+    const FileAccessLockerGuard guard(locker, from);
+    error = MoveToFreeName(from, to);
+  }
+  if (!error) {
+    return;
+  }
+  if (!MayPass(error)) {
+    Fail(from, to, CauseOf(error));
+  }
+  MovePatiently(locker, from, to);
+}
+
+void SyncFoldersOf(const std::vector<FileMove>& moves) {
+  std::set<ioPath> folders;
+  for (const FileMove& move : moves) {
+    for (const ioPath& file : {move.from, move.to}) {
+      if (folders.insert(file.parent_path()).second) {
+        SyncFolderOf(file);
+      }
+    }
+  }
+}
+
+}  // namespace Zenvora::Lumidex::Host

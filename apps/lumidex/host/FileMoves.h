@@ -1,0 +1,42 @@
+#pragma once
+
+#include <host/RenamePlan.h>
+
+#include <zenvora/core/FileState.h>
+#include <zenvora/lumidex/IFileAccessLocker.h>
+
+#include <QByteArray>
+
+#include <cstddef>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// One move of a batch, and by what the file that it moves is known.
+struct FileMove {
+  ioPath from;
+  ioPath to;
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
+  std::uint64_t size = 0;
+  std::int64_t modifiedNs = 0;
+};
+
+/// Looks at the files of a plan. Throws `HostError` when one of them is gone.
+std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps);
+
+QByteArray PackMoves(const std::vector<FileMove>& moves);
+std::vector<FileMove> UnpackMoves(const QByteArray& bytes);
+
+/// How many of the moves, from the first on, were done when the work on them was broken off, in whichever
+/// direction it went.
+std::size_t CountDone(const std::vector<FileMove>& moves);
+
+/// Gives a file a name that nothing has, trying for a while where another program keeps it open. Throws
+/// `HostError` with both names and the cause; then nothing has changed.
+void MoveFile(IFileAccessLocker& locker, const ioPath& from, const ioPath& to);
+
+/// Waits until the names in the folders of the moves are on the disk.
+void SyncFoldersOf(const std::vector<FileMove>& moves);
+
+}  // namespace Zenvora::Lumidex::Host

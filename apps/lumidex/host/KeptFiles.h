@@ -1,0 +1,36 @@
+#pragma once
+
+#include <zenvora/core/ioPath.h>
+
+#include <QByteArray>
+
+#include <set>
+#include <string>
+
+namespace Zenvora::Lumidex::Host {
+
+/// SHA-1 of a file's content. Throws `HostError` when it cannot be read.
+QByteArray DigestOf(const ioPath& file);
+
+/// Versions of photos that undo may need, in one folder. All functions throw `HostError` and block on the disk.
+class KeptFiles {
+ public:
+  explicit KeptFiles(const ioPath& folder) : folder_(folder) {}
+
+  ioPath PathOf(const std::string& name) const { return folder_ / ioPath(name); }
+  /// Keeps what `file` holds now, with its time, safe on the disk when this returns: its blocks are shared
+  /// where the file system can, or the file gets a second name, else it is copied. What was kept under the
+  /// name before is replaced.
+  void Keep(const ioPath& file, const std::string& name) const;
+  /// Makes the new file `side` of what is kept, likewise.
+  void PutBeside(const std::string& name, const ioPath& side) const;
+  /// Whether it was there does not matter.
+  void Remove(const std::string& name) const;
+  /// Removes what has none of these names.
+  void RemoveOthers(const std::set<std::string>& wanted) const;
+
+ private:
+  const ioPath folder_;
+};
+
+}  // namespace Zenvora::Lumidex::Host
