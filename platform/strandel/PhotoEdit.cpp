@@ -18,6 +18,7 @@
 #include <exception>
 #include <memory>
 #include <new>
+#include <string_view>
 #include <system_error>
 
 namespace Zenvora::Strandel {
@@ -110,8 +111,8 @@ std::string Carry(const MetadataPlan& plan, PictureFormat format, const std::str
   ChangeTextsInPlace(bytes, anatomy.texts, plan);
   std::optional<std::string> exif;
   if (!plan.exif.empty()) {
-    const std::string block = ExifBlock(bytes, anatomy);
-    TiffEdit tiff(block.empty() ? TiffEdit::Empty() : block);
+    const std::string_view block = ExifBlock(bytes, anatomy);
+    TiffEdit tiff(block.empty() ? TiffEdit::Empty() : std::string(block));
     tiff.Apply(plan.exif);
     exif = tiff.Bytes();
   }
@@ -127,7 +128,7 @@ bool IsOfPictures(const Exiv2::Exifdatum& datum) {
 /// The pictures inside of an EXIF block or a TIFF file: those that it shows, smaller ones, raw ones.
 class InnerPictures {
  public:
-  InnerPictures(const Exiv2::ExifData& exif, const std::string& before, const std::string& after)
+  InnerPictures(const Exiv2::ExifData& exif, std::string_view before, std::string_view after)
       : exif_(exif), before_(before), after_(after), budget_(std::uint64_t{before.size()} * 4) {}
 
   void CheckSame() {
@@ -163,23 +164,23 @@ class InnerPictures {
       throw EditRefusal("its TIFF directory is damaged");
     }
     budget_ -= size;
-    if (before_.compare(at, size, after_, at, size) != 0) {
+    if (before_.substr(at, size) != after_.substr(at, size)) {
       throw EditRefusal("the picture in it would not stay as it is");
     }
   }
 
   const Exiv2::ExifData& exif_;
-  const std::string& before_;
-  const std::string& after_;
+  const std::string_view before_;
+  const std::string_view after_;
   std::uint64_t budget_;
 };
 
 void Check(const Content& content, const std::string& after, const Exiv2::Image& image,
            const MetadataPlan& plan) {
   CheckSamePicture(content.format, content.bytes, after);
-  const std::string blockBefore = ExifBlock(content.bytes, Dissect(content.format, content.bytes));
-  const std::string blockAfter = ExifBlock(after, Dissect(content.format, after));
-  InnerPictures(image.exifData(), blockBefore, blockAfter).CheckSame();
+  const PictureAnatomy before = Dissect(content.format, content.bytes);
+  const PictureAnatomy now = Dissect(content.format, after);
+  InnerPictures(image.exifData(), ExifBlock(content.bytes, before), ExifBlock(after, now)).CheckSame();
   CheckAgainstPlan(image, *ReadMetadata(after), plan);
 }
 

@@ -459,11 +459,11 @@ PictureAnatomy Dissect(PictureFormat format, const std::string& bytes) {
   }
 }
 
-std::string ExifBlock(const std::string& bytes, const PictureAnatomy& anatomy) {
+std::string_view ExifBlock(const std::string& bytes, const PictureAnatomy& anatomy) {
   if (anatomy.oldExif) {
     return anatomy.oldExif->block;
   }
-  return anatomy.exif ? std::string(View(bytes, *anatomy.exif)) : std::string();
+  return anatomy.exif ? View(bytes, *anatomy.exif) : std::string_view();
 }
 
 std::string WithExif(PictureFormat format, const std::string& bytes, const PictureAnatomy& anatomy,

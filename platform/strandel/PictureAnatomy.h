@@ -44,8 +44,8 @@ struct PictureAnatomy {
 /// Takes a file apart. Throws `EditRefusal` where it is damaged.
 PictureAnatomy Dissect(PictureFormat format, const std::string& bytes);
 
-/// The TIFF structure with the EXIF fields; empty when there is none.
-std::string ExifBlock(const std::string& bytes, const PictureAnatomy& anatomy);
+/// The TIFF structure with the EXIF fields, as long as both live; empty when there is none.
+std::string_view ExifBlock(const std::string& bytes, const PictureAnatomy& anatomy);
 
 /// The file with another EXIF block, or a first one; nothing: with the one it has. Texts may have been
 /// changed in place before. Throws `EditRefusal` where there is no room for it.
