@@ -18,7 +18,7 @@ struct ExifChange {
   ExifDirectory directory = ExifDirectory::Image;
   std::uint16_t tag = 0;
   Kind kind = Kind::Remove;
-  std::string text;  ///< With its final NUL.
+  std::string text;  ///< As it is stored, mostly with a NUL at its end.
   std::uint16_t number = 0;
 };
 
