@@ -1,3 +1,4 @@
+#include <zenvora/strandel/DateText.h>
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <algorithm>
@@ -5,41 +6,6 @@
 namespace Zenvora::Strandel {
 
 namespace {
-
-/// Takes a text apart from its front.
-class Cursor {
- public:
-  explicit Cursor(const std::string& text) : text_(text) {}
-
-  bool AtEnd() const { return at_ == text_.size(); }
-  /// Exactly so many digits.
-  bool Number(std::size_t digits, int& value) {
-    const std::string found = Digits(digits);
-    if (found.size() != digits) {
-      return false;
-    }
-    value = std::stoi(found);
-    return true;
-  }
-  std::string Digits(std::size_t atMost) {
-    const std::size_t start = at_;
-    while (at_ < text_.size() && at_ - start < atMost && text_[at_] >= '0' && text_[at_] <= '9') {
-      ++at_;
-    }
-    return text_.substr(start, at_ - start);
-  }
-  bool OneOf(const char* characters) {
-    if (AtEnd() || std::string(characters).find(text_[at_]) == std::string::npos) {
-      return false;
-    }
-    ++at_;
-    return true;
-  }
-
- private:
-  const std::string& text_;
-  std::size_t at_ = 0;
-};
 
 std::string Trimmed(const std::string& text) {
   // Fields are padded with either.
@@ -53,26 +19,12 @@ std::string Trimmed(const std::string& text) {
 
 /// Milliseconds of the digits behind the decimal point; 0 for anything else.
 int Milliseconds(const std::string& fraction) {
-  Cursor cursor(fraction);
-  std::string digits = cursor.Digits(fraction.size());
-  if (!cursor.AtEnd() || digits.empty()) {
+  if (!std::all_of(fraction.begin(), fraction.end(), [](char c) { return c >= '0' && c <= '9'; })) {
     return 0;
   }
+  std::string digits = fraction;
   digits.resize(3, '0');
   return std::stoi(digits);
-}
-
-bool ReadZone(Cursor& cursor) {
-  int hours = 0;
-  int minutes = 0;
-  if (cursor.OneOf("Zz")) {
-    return true;
-  }
-  if (!cursor.OneOf("+-") || !cursor.Number(2, hours)) {
-    return false;
-  }
-  cursor.OneOf(":");
-  return cursor.Number(2, minutes);
 }
 
 }  // namespace
@@ -87,39 +39,13 @@ QDateTime CameraTime(const QDate& date, const QTime& time) {
 }
 
 QDateTime ParseExifDateTime(const std::string& text, const std::string& subSeconds) {
-  const std::string trimmed = Trimmed(text);
-  Cursor cursor(trimmed);
-  int year = 0;
-  int month = 0;
-  int day = 0;
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
-  constexpr const char* kDateSeparators = ":-/.";
-  if (!cursor.Number(4, year) || !cursor.OneOf(kDateSeparators) || !cursor.Number(2, month) ||
-      !cursor.OneOf(kDateSeparators) || !cursor.Number(2, day) || !cursor.OneOf(" T") ||
-      !cursor.Number(2, hour) || !cursor.OneOf(":") || !cursor.Number(2, minute)) {
+  const auto parsed = DateText::Parse(text);
+  if (!parsed || !parsed->HasTime()) {
     return QDateTime();
   }
-  std::string fraction = Trimmed(subSeconds);
-  if (cursor.OneOf(":")) {
-    if (!cursor.Number(2, second)) {
-      return QDateTime();
-    }
-    if (cursor.OneOf(".,")) {
-      const std::string own = cursor.Digits(trimmed.size());
-      if (fraction.empty()) {
-        fraction = own;
-      }
-    }
-  }
-  if (!cursor.AtEnd()) {
-    cursor.OneOf(" ");
-    if (!ReadZone(cursor) || !cursor.AtEnd()) {
-      return QDateTime();
-    }
-  }
-  return CameraTime(QDate(year, month, day), QTime(hour, minute, second, Milliseconds(fraction)));
+  const std::string own = Trimmed(subSeconds);
+  const int ms = Milliseconds(own.empty() ? parsed->Fraction() : own);
+  return CameraTime(parsed->Value().date(), parsed->Value().time().addMSecs(ms));
 }
 
 }  // namespace Zenvora::Strandel

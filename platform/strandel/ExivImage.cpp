@@ -1,10 +1,10 @@
 #include "ExivImage.h"
 
+#include "ExivLock.h"
 #include "PhotoIo.h"
 #include "PictureMarks.h"
 
 #include <exiv2/webpimage.hpp>
-#include <glog/logging.h>
 
 #include <algorithm>
 #include <array>
@@ -28,28 +28,6 @@ enum Tag : std::uint16_t {
   kSubSecondsOriginal = 0x9291,
   kSubSecondsDigitised = 0x9292,
 };
-
-/// Every reader in the process takes it.
-std::mutex& ExivMutex() {
-  static std::mutex mutex;
-  return mutex;
-}
-
-// Broken metadata is no news worth a line on the terminal.
-void LogQuietly(int level, const char* text) {
-  VLOG(2) << "Exiv2 level " << level << ": " << text;
-}
-
-void SetUpOnce() {
-  static const bool done = [] {
-    Exiv2::LogMsg::setHandler(LogQuietly);
-    Exiv2::XmpParser::initialize();
-    // HEIC, CR3 and JPEG XL are off by default.
-    Exiv2::enableBMFF(true);
-    return true;
-  }();
-  static_cast<void>(done);
-}
 
 bool IsAboutTheEnd(int code) {
   return code == Exiv2::kerFailedToReadImageData || code == Exiv2::kerInputDataReadFailed ||
@@ -151,13 +129,12 @@ bool SaysNothing(const ExifFields& fields) {
 
 }  // namespace
 
-ExivImage::ExivImage(PhotoSource& source) : copy_(source), lock_(ExivMutex(), std::defer_lock) {
+ExivImage::ExivImage(PhotoSource& source) : copy_(source) {
   // Read in parallel, but not where the copy is so large that several would be too much for some systems.
   if (source.Size() <= kMostRead && BeginsLikeTiff(source)) {
     copy_.Bytes();
   }
-  lock_.lock();
-  SetUpOnce();
+  lock_ = LockExiv();
   io_ = new PhotoIo(source, copy_);
   // Exiv2 0.27 takes nothing else.
 #pragma GCC diagnostic push

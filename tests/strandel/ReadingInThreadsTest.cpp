@@ -2,11 +2,13 @@
 #include <support/TempTree.h>
 
 #include <zenvora/strandel/EmbeddedPreview.h>
+#include <zenvora/strandel/PhotoEdit.h>
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <exiv2/exiv2.hpp>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <string>
 #include <thread>
 #include <vector>
@@ -107,6 +109,38 @@ TEST(Reading, WorksInManyThreadsAtOnce) {
     thread.join();
   }
   EXPECT_EQ(right, std::vector<int>(kThreads, 5 * (static_cast<int>(files.size()) + kPreviews)));
+}
+
+TEST(Editing, WorksWhileOthersReadAndEdit) {
+  const TempTree tree;
+  std::vector<ioPath> files = {WriteTiff(tree.Path("a.tif"), Tags())};
+  for (int i = 0; i < 5; ++i) {
+    files.push_back(tree.Write("x" + std::to_string(i) + ".png", PngWithXmp(200 + i)));
+    files.push_back(tree.Write("x" + std::to_string(i) + ".jpg", JpegWithXmp(300 + i)));
+  }
+  PhotoEdit edit;
+  edit.shift = std::chrono::hours(1);
+  const auto editAll = [&](std::size_t own) {
+    int right = 0;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+      const ioPath& file = files[(own + i) % files.size()];
+      const ioPath side = tree.Path("side" + std::to_string(own) + "-" + std::to_string(i));
+      WriteEdited(file, side, edit);
+      right += ReadPhotoFacts(file).original == QDateTime(QDate(2021, 5, 1), QTime(10, 20, 30)) ? 1 : 0;
+      right += ReadPhotoFacts(side).original == QDateTime(QDate(2021, 5, 1), QTime(11, 20, 30)) ? 1 : 0;
+    }
+    return right;
+  };
+  std::vector<int> right(4);
+  std::vector<std::thread> threads;
+  threads.reserve(right.size());
+  for (std::size_t i = 0; i < right.size(); ++i) {
+    threads.emplace_back([i, &right, &editAll] { right[i] = editAll(i); });
+  }
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+  EXPECT_EQ(right, std::vector<int>(right.size(), 2 * static_cast<int>(files.size())));
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "FileMoves.h"
 
 #include <LumidexUtil/Rename.h>
-
 #include <host/HostError.h>
 
 #include <zenvora/core/ErrorText.h>

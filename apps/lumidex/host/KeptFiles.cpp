@@ -122,7 +122,8 @@ void Reproduce(const ioPath& from, const ioPath& to) {
 
 QByteArray DigestOf(const ioPath& file) {
   QCryptographicHash hash(QCryptographicHash::Sha1);
-  ReadAll(file, [&hash](const char* bytes, std::size_t count) { hash.addData(bytes, static_cast<int>(count)); });
+  ReadAll(file,
+          [&hash](const char* bytes, std::size_t count) { hash.addData(bytes, static_cast<int>(count)); });
   return hash.result();
 }
 

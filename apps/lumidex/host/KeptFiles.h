@@ -12,7 +12,8 @@ namespace Zenvora::Lumidex::Host {
 /// SHA-1 of a file's content. Throws `HostError` when it cannot be read.
 QByteArray DigestOf(const ioPath& file);
 
-/// Versions of photos that undo may need, in one folder. All functions throw `HostError` and block on the disk.
+/// Versions of photos that undo may need, in one folder. All functions throw `HostError` and block on the
+/// disk.
 class KeptFiles {
  public:
   explicit KeptFiles(const ioPath& folder) : folder_(folder) {}

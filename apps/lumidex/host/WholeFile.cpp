@@ -7,20 +7,14 @@
 #include <zenvora/core/Patience.h>
 
 #include <atomic>
-#include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
-#include <utility>
 
 #ifdef _WIN32
-#include <fcntl.h>
-#include <io.h>
 #include <process.h>
-#include <sys/stat.h>
 #include <windows.h>
 #else
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -45,70 +39,6 @@ ioPath TemporaryBeside(const ioPath& file) {
   return file.parent_path() / ioPath(name);
 }
 
-/// Never an existing file.
-std::FILE* OpenNew(const ioPath& file) {
-#ifdef _WIN32
-  // Not by `_wfopen`: the oldest C library of Windows cannot refuse an existing file.
-  const int handle = _wopen(file.for_system().c_str(),
-                            _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
-  std::FILE* const stream = handle < 0 ? nullptr : _fdopen(handle, "wb");
-  if (handle >= 0 && stream == nullptr) {
-    _close(handle);
-  }
-  return stream;
-#else
-  return std::fopen(file.for_system().c_str(), "wbxe");
-#endif
-}
-
-bool Sync(std::FILE* stream) {
-#ifdef _WIN32
-  return _commit(_fileno(stream)) == 0;
-#else
-  return fsync(fileno(stream)) == 0;
-#endif
-}
-
-/// The name itself is only safe when the folder is on the disk, too. Not every file system can do it: no
-/// error.
-void SyncFolder(const ioPath& file) {
-#ifndef _WIN32
-  const ioPath folder = file.parent_path();
-  const int handle =
-      open(folder.empty() ? "." : folder.for_system().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (handle >= 0) {
-    fsync(handle);
-    close(handle);
-  }
-#else
-  (void)file;
-#endif
-}
-
-bool SetTime(const ioPath& file, std::int64_t ms) {
-#ifdef _WIN32
-  const HANDLE handle = CreateFileW(file.for_system().c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ,
-                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) {
-    return false;
-  }
-  // Counted in 100 ns since 1601.
-  const auto ticks = static_cast<ULONGLONG>((ms + 11'644'473'600'000LL) * 10'000);
-  FILETIME time;
-  time.dwLowDateTime = static_cast<DWORD>(ticks);
-  time.dwHighDateTime = static_cast<DWORD>(ticks >> 32U);
-  const bool done = SetFileTime(handle, nullptr, nullptr, &time) != 0;
-  CloseHandle(handle);
-  return done;
-#else
-  timespec times[2] = {};
-  times[0].tv_nsec = UTIME_OMIT;
-  times[1].tv_sec = static_cast<time_t>(ms / 1000);
-  times[1].tv_nsec = static_cast<long>(ms % 1000 * 1'000'000);
-  return utimensat(AT_FDCWD, file.for_system().c_str(), times, 0) == 0;
-#endif
-}
-
 }  // namespace
 
 void ThrowCannotWrite(const ioPath& file, const std::string& cause) {
@@ -124,22 +54,19 @@ WholeFile::WholeFile(const ioPath& file) : named_(file), target_(file) {
   if (target_.filename().empty()) {
     ThrowCannotWrite(file, "it names no file");
   }
-  for (int attempt = 0; stream_ == nullptr; ++attempt) {
+  std::error_code error;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
     temporary_ = TemporaryBeside(target_);
-    errno = 0;
-    stream_ = OpenNew(temporary_);
-    if (stream_ == nullptr && (errno != EEXIST || attempt == kAttempts)) {
-      Fail(errno);
+    error = written_.Create(temporary_);
+    if (error != std::errc::file_exists) {
+      break;
     }
   }
-#ifndef _WIN32
+  Check(error);
   if (kind == FileState::Kind::File) {
     // Whoever could read the old file can read the new one.
-    std::error_code ignored;
-    const fs::file_status status = fs::status(target_.native(), ignored);
-    fs::permissions(temporary_.native(), status.permissions() & fs::perms::all, ignored);
+    written_.TakeRightsOf(target_);
   }
-#endif
 }
 
 #ifdef _WIN32
@@ -168,48 +95,25 @@ void WholeFile::FollowLinks() {
 
 #endif
 
-WholeFile::~WholeFile() {
-  if (stream_ != nullptr) {
-    std::fclose(stream_);
-  }
-  if (!temporary_.empty()) {
-    temporary_.remove();
-  }
-}
+WholeFile::~WholeFile() = default;
 
 void WholeFile::Write(const QByteArray& bytes) {
-  errno = 0;
-  if (std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream_) !=
-      static_cast<std::size_t>(bytes.size())) {
-    Fail(errno);
-  }
+  Check(written_.Write(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
 void WholeFile::Commit(bool durable) {
-  Close(durable);
+  Check(written_.Close(durable));
   Rename();
   if (durable) {
-    SyncFolder(target_);
+    SyncFolderOf(target_);
   }
 }
 
 void WholeFile::CommitWithTime(std::int64_t modifiedMs) {
-  Close(false);
-  if (!SetTime(temporary_, modifiedMs)) {
-    ThrowCannotWrite(named_, ErrorText(LastSystemError()));
-  }
+  constexpr std::int64_t kNsPerMs = 1'000'000;
+  Check(written_.SetModified(modifiedMs * kNsPerMs));
+  Check(written_.Close(false));
   Rename();
-}
-
-void WholeFile::Close(bool durable) {
-  errno = 0;
-  if (std::fflush(stream_) != 0 || (durable && !Sync(stream_))) {
-    Fail(errno);
-  }
-  std::FILE* const stream = std::exchange(stream_, nullptr);
-  if (std::fclose(stream) != 0) {
-    Fail(errno);
-  }
 }
 
 void WholeFile::Rename() {
@@ -225,11 +129,13 @@ void WholeFile::Rename() {
   if (!done) {
     ThrowCannotWrite(named_, ErrorText(LastSystemError()));
   }
-  temporary_.clear();
+  written_.Release();
 }
 
-void WholeFile::Fail(int error) const {
-  ThrowCannotWrite(named_, std::generic_category().message(error == 0 ? EIO : error));
+void WholeFile::Check(const std::error_code& error) const {
+  if (error) {
+    ThrowCannotWrite(named_, ErrorText(error));
+  }
 }
 
 }  // namespace Zenvora::Lumidex::Host

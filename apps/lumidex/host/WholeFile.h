@@ -1,12 +1,13 @@
 #pragma once
 
+#include <zenvora/core/NewFile.h>
 #include <zenvora/core/ioPath.h>
 
 #include <QByteArray>
 
 #include <cstdint>
-#include <cstdio>
 #include <string>
+#include <system_error>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -29,15 +30,14 @@ class WholeFile {
   void CommitWithTime(std::int64_t modifiedMs);
 
  private:
-  [[noreturn]] void Fail(int error) const;
+  void Check(const std::error_code& error) const;
   void FollowLinks();
-  void Close(bool durable);
   void Rename();
 
   ioPath named_;  ///< As the caller said it, for messages.
   ioPath target_;
   ioPath temporary_;
-  std::FILE* stream_ = nullptr;
+  NewFile written_;
 };
 
 /// "Cannot write <file>: <cause>" as a `HostError`.

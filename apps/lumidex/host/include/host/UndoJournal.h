@@ -32,7 +32,7 @@ struct UndoStep {
 /// A file that could not be treated as asked.
 struct UndoFinding {
   ioPath file;
-  std::string cause;  ///< English, to be put behind the name.
+  std::string cause;  ///< One English sentence that names the file.
 };
 
 /// What a batch of renames, an undo or a redo did.

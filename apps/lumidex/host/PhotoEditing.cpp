@@ -1,0 +1,48 @@
+#include <LumidexUtil/UndoFileHolder.h>
+#include <host/PhotoEditing.h>
+
+#include <zenvora/core/FileState.h>
+
+namespace Zenvora::Lumidex::Host {
+
+UndoResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QString& name,
+                      const std::vector<ioPath>& photos,
+                      const std::function<void(const ioPath& photo, const ioPath& side)>& write,
+                      const std::atomic<bool>& cancelled, const UndoProgress& progress) {
+  UndoResult result;
+  result.name = name;
+  journal.BeginStep(name);
+  std::size_t looked = 0;
+  for (const ioPath& photo : photos) {
+    if (cancelled) {
+      result.cancelled = true;
+      break;
+    }
+    const ioPath side = journal.PlanEdit(photo);
+    bool replaced = false;
+    try {
+      write(photo, side);
+      DataModel item;
+      item.SetPath(photo);
+      item.SetSize(photo.file_size());
+      UndoFileHolder holder(&journal, locker, item, side, false);
+      holder.Process();
+      replaced = true;
+    } catch (const std::exception& failure) {
+      journal.DropEdit();
+      result.findings.push_back({photo, failure.what()});
+    }
+    if (replaced) {
+      // Not to be dropped when this fails: the next journal finds out how far it was.
+      journal.FinishEdit();
+      ++result.files;
+    }
+    if (progress) {
+      progress(++looked, photos.size());
+    }
+  }
+  journal.EndStep();
+  return result;
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,829 @@
+#include "CatalogueDatabase.h"
+#include "CatalogueRows.h"
+#include "CatalogueSchema.h"
+#include "FileMoves.h"
+#include "KeptFiles.h"
+#include "ProcessLock.h"
+
+#include <LumidexUtil/UndoFileHolder.h>
+#include <host/Catalogue.h>
+#include <host/Scanner.h>
+#include <host/UndoJournal.h>
+
+#include <zenvora/app/Application.h>
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+#include <zenvora/core/NewFile.h>
+#include <zenvora/tavolin/Uuid.h>
+
+#include <algorithm>
+#include <optional>
+#include <set>
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+constexpr std::chrono::milliseconds kBusyPause(50);
+constexpr int kBusyAttempts = 40;
+
+/// Of steps and of their changes. The numbers are stored.
+enum class State : int { Planned = 0, Doing = 1, Done = 2, Undoing = 3, Undone = 4, Redoing = 5 };
+
+bool IsUnderWay(State state) {
+  return state == State::Doing || state == State::Undoing || state == State::Redoing;
+}
+
+struct StepRow {
+  qlonglong number = 0;
+  QString name;
+  State state = State::Doing;
+  std::vector<FileMove> moves;
+};
+
+struct ChangeRow {
+  qlonglong number = 0;
+  State state = State::Planned;
+  ioPath path;
+  ioPath side;
+  bool adopted = false;
+  QByteArray digestBefore;
+  QByteArray digestAfter;
+
+  std::string Kept(const char* version) const {
+    return std::to_string(number) + version + path.extension().utf8string();
+  }
+  std::string KeptBefore() const { return Kept("-before"); }
+  std::string KeptAfter() const { return Kept("-after"); }
+};
+
+ioPath FolderOf(const ioPath& catalogue) {
+  return ioPath(catalogue.utf8string() + ".undo");
+}
+
+/// Short, whatever the length of the photo's own name, and hidden from scans.
+ioPath SideName(const ioPath& photo) {
+  const std::string token = Tavolin::GenerateUuid().left(13).toStdString();
+  return photo.parent_path() / ioPath(".lumidex-" + token + photo.extension().utf8string());
+}
+
+const char* const kLockName = "lock";
+
+/// What the photo's file says, for the catalogue.
+std::optional<PhotoRecord> Read(const ioPath& photo) {
+  PhotoRecord record;
+  ScanFinding ignored;
+  return ReadPhoto(photo, record, ignored) ? std::make_optional(record) : std::nullopt;
+}
+
+}  // namespace
+
+class UndoJournal::Impl {
+ public:
+  Impl(const ioPath& catalogue, IFileAccessLocker& locker);
+
+  UndoResult Rename(const QString& name, const RenamePlan& plan, const std::atomic<bool>& cancelled,
+                    const UndoProgress& progress);
+  ioPath PlanEdit(const ioPath& photo);
+  void FinishEdit();
+  void DropEdit();
+  void BeginStep(const QString& name);
+  void EndStep();
+  void RegisterFileChange(DataModel& item, const ioPath& newPath);
+  UndoResult Reverse(bool redo, const std::atomic<bool>& cancelled, const UndoProgress& progress);
+  std::vector<UndoStep> Steps() const;
+  std::size_t Prune(const UndoLimits& limits, const QDateTime& now);
+
+  std::vector<std::string> notes;
+
+ private:
+  struct Drive {
+    std::size_t at = 0;
+    bool cancelled = false;
+    std::optional<UndoFinding> failure;
+  };
+
+  void TakeLock(const ioPath& folder);
+  void Recover();
+  void RecoverMoves(StepRow& step);
+  void RecoverChanges(StepRow& step);
+  bool SettleChange(ChangeRow& change);
+
+  Drive DriveMoves(const std::vector<FileMove>& moves, std::size_t at, std::size_t goal,
+                   const std::atomic<bool>& cancelled, const UndoProgress& progress);
+  std::size_t DriveOrReturn(StepRow& step, std::size_t begin, std::size_t goal,
+                            const std::atomic<bool>& cancelled, const UndoProgress& progress,
+                            UndoResult& result);
+  void SettleMoves(StepRow& step, std::size_t at);
+  UndoResult ReverseMoves(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                          const UndoProgress& progress);
+  UndoResult ReverseChanges(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                            const UndoProgress& progress);
+  void PutBack(ChangeRow& change, bool redo);
+  void FinishReversal(ChangeRow& change, bool redo);
+  void Exchange(ChangeRow& change, bool redo);
+
+  qlonglong InsertStep(const QString& name, std::size_t files, const QByteArray& moves);
+  std::vector<StepRow> ReadSteps(const char* condition, bool withMoves) const;
+  std::vector<ChangeRow> ReadChanges(qlonglong step) const;
+  void SetState(const char* table, qlonglong number, State state) const;
+  void StoreChange(const ChangeRow& change, std::uint64_t keptSize) const;
+  void DropChange(const ChangeRow& change) const;
+  void DropStep(qlonglong step) const;
+  void DropUndone() const;
+  void SettleStep(const StepRow& step);
+
+  IFileAccessLocker& locker_;
+  ProcessLock lock_;
+  const Catalogue catalogue_;
+  const CatalogueDatabase database_;
+  const KeptFiles kept_;
+  qlonglong step_ = 0;
+  std::optional<ChangeRow> edit_;
+};
+
+UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker)
+    : locker_(locker),
+      // Makes or updates it.
+      catalogue_(catalogue, Catalogue::Mode::ReadWrite),
+      database_(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
+      kept_(FolderOf(catalogue.absolute())) {
+  // What the journal says must be on the disk before the photos change.
+  database_.Execute("PRAGMA synchronous = FULL");
+  TakeLock(FolderOf(catalogue.absolute()));
+  Recover();
+}
+
+void UndoJournal::Impl::TakeLock(const ioPath& folder) {
+  const auto fail = [&folder](const std::string& cause) {
+    ThrowHostError(folder.utf8string(),
+                   "The undo journal " + folder.utf8string() + " cannot be used: " + cause);
+  };
+  if (const std::error_code error = MakeFolders(folder)) {
+    fail(ErrorText(error));
+  }
+  std::error_code error = lock_.Take(folder / kLockName);
+  for (int i = 1; error == std::errc::resource_unavailable_try_again && i < kBusyAttempts; ++i) {
+    App::SleepFor(kBusyPause);
+    error = lock_.Take(folder / kLockName);
+  }
+  if (error) {
+    fail(error == std::errc::resource_unavailable_try_again
+             ? "another program is renaming or editing photos with it; try again when that has finished"
+             : ErrorText(error));
+  }
+}
+
+// --- The tables
+
+qlonglong UndoJournal::Impl::InsertStep(const QString& name, std::size_t files, const QByteArray& moves) {
+  QSqlQuery query =
+      database_.Prepare("INSERT INTO steps (name, begun, state, files, moves) VALUES (?, ?, ?, ?, ?)");
+  query.addBindValue(NotNull(name));
+  query.addBindValue(App::GetCurrentDateTime().toUTC().toString(Qt::ISODate));
+  query.addBindValue(static_cast<int>(State::Doing));
+  query.addBindValue(static_cast<qlonglong>(files));
+  query.addBindValue(moves.isNull() ? QVariant(QVariant::ByteArray) : QVariant(moves));
+  database_.Run(query);
+  return query.lastInsertId().toLongLong();
+}
+
+std::vector<StepRow> UndoJournal::Impl::ReadSteps(const char* condition, bool withMoves) const {
+  const std::string sql = std::string("SELECT number, name, state, moves FROM steps WHERE ") + condition;
+  QSqlQuery query = database_.Prepare(sql.c_str());
+  database_.Run(query);
+  std::vector<StepRow> steps;
+  while (database_.Next(query)) {
+    StepRow step;
+    step.number = query.value(0).toLongLong();
+    step.name = query.value(1).toString();
+    step.state = static_cast<State>(query.value(2).toInt());
+    if (withMoves && !query.value(3).isNull()) {
+      step.moves = UnpackMoves(query.value(3).toByteArray());
+    }
+    steps.push_back(std::move(step));
+  }
+  return steps;
+}
+
+std::vector<ChangeRow> UndoJournal::Impl::ReadChanges(qlonglong step) const {
+  QSqlQuery query = database_.Prepare(
+      "SELECT number, state, path, side, adopted, digest_before, digest_after FROM changes WHERE step = ?"
+      " ORDER BY number");
+  query.addBindValue(step);
+  database_.Run(query);
+  std::vector<ChangeRow> changes;
+  while (database_.Next(query)) {
+    ChangeRow change;
+    change.number = query.value(0).toLongLong();
+    change.state = static_cast<State>(query.value(1).toInt());
+    change.path = PathOf(query.value(2));
+    change.side = PathOf(query.value(3));
+    change.adopted = query.value(4).toBool();
+    change.digestBefore = query.value(5).toByteArray();
+    change.digestAfter = query.value(6).toByteArray();
+    changes.push_back(std::move(change));
+  }
+  return changes;
+}
+
+void UndoJournal::Impl::SetState(const char* table, qlonglong number, State state) const {
+  const std::string sql = std::string("UPDATE ") + table + " SET state = ? WHERE number = ?";
+  QSqlQuery query = database_.Prepare(sql.c_str());
+  query.addBindValue(static_cast<int>(state));
+  query.addBindValue(number);
+  database_.Run(query);
+}
+
+void UndoJournal::Impl::StoreChange(const ChangeRow& change, std::uint64_t keptSize) const {
+  QSqlQuery query = database_.Prepare(
+      "UPDATE changes SET state = ?, side = ?, adopted = ?, kept_size = ?, digest_before = ?, digest_after = "
+      "?"
+      " WHERE number = ?");
+  query.addBindValue(static_cast<int>(change.state));
+  query.addBindValue(PathBytes(change.side));
+  query.addBindValue(change.adopted ? 1 : 0);
+  query.addBindValue(static_cast<qlonglong>(keptSize));
+  query.addBindValue(change.digestBefore);
+  query.addBindValue(change.digestAfter);
+  query.addBindValue(change.number);
+  database_.Run(query);
+}
+
+void UndoJournal::Impl::DropChange(const ChangeRow& change) const {
+  QSqlQuery query = database_.Prepare("DELETE FROM changes WHERE number = ?");
+  query.addBindValue(change.number);
+  database_.Run(query);
+  // Only now: a row must never speak of what is gone.
+  kept_.Remove(change.KeptBefore());
+  kept_.Remove(change.KeptAfter());
+}
+
+void UndoJournal::Impl::DropStep(qlonglong step) const {
+  const std::vector<ChangeRow> changes = ReadChanges(step);
+  QSqlQuery query = database_.Prepare("DELETE FROM steps WHERE number = ?");
+  query.addBindValue(step);
+  database_.Run(query);
+  for (const ChangeRow& change : changes) {
+    kept_.Remove(change.KeptBefore());
+    kept_.Remove(change.KeptAfter());
+  }
+}
+
+/// Not within a transaction: what is kept goes at once.
+void UndoJournal::Impl::DropUndone() const {
+  for (const StepRow& step : ReadSteps("state = 4", false)) {
+    DropStep(step.number);
+  }
+}
+
+std::vector<UndoStep> UndoJournal::Impl::Steps() const {
+  QSqlQuery query = database_.Prepare(
+      "SELECT s.number, s.name, s.begun, s.state, s.files, (SELECT total(c.kept_size) FROM changes c WHERE"
+      " c.step = s.number) FROM steps s ORDER BY s.number DESC");
+  database_.Run(query);
+  std::vector<UndoStep> steps;
+  while (database_.Next(query)) {
+    UndoStep step;
+    step.number = query.value(0).toLongLong();
+    step.name = query.value(1).toString();
+    step.begun = QDateTime::fromString(query.value(2).toString(), Qt::ISODate);
+    step.undone = static_cast<State>(query.value(3).toInt()) == State::Undone;
+    step.files = static_cast<std::size_t>(query.value(4).toULongLong());
+    step.keptBytes = static_cast<std::uint64_t>(query.value(5).toDouble());
+    steps.push_back(std::move(step));
+  }
+  return steps;
+}
+
+std::size_t UndoJournal::Impl::Prune(const UndoLimits& limits, const QDateTime& now) {
+  std::uint64_t bytes = 0;
+  std::size_t dropped = 0;
+  bool beyond = false;
+  for (const UndoStep& step : Steps()) {
+    bytes += step.keptBytes;
+    // Older steps cannot be undone before a newer one: where one goes, so do all before it.
+    beyond = beyond || bytes > limits.bytes || step.begun.addDays(limits.days) < now;
+    if (beyond && step.number != step_) {
+      DropStep(step.number);
+      ++dropped;
+    }
+  }
+  return dropped;
+}
+
+// --- Renames
+
+UndoJournal::Impl::Drive UndoJournal::Impl::DriveMoves(const std::vector<FileMove>& moves, std::size_t at,
+                                                       std::size_t goal, const std::atomic<bool>& cancelled,
+                                                       const UndoProgress& progress) {
+  Drive drive;
+  drive.at = at;
+  const std::size_t total = at < goal ? goal - at : at - goal;
+  while (drive.at != goal) {
+    if (cancelled) {
+      drive.cancelled = true;
+      break;
+    }
+    const bool forward = drive.at < goal;
+    const FileMove& move = moves[forward ? drive.at : drive.at - 1];
+    const ioPath& from = forward ? move.from : move.to;
+    try {
+      MoveFile(locker_, from, forward ? move.to : move.from);
+    } catch (const Exception& failure) {
+      drive.failure = UndoFinding{from, failure.what()};
+      break;
+    }
+    drive.at += forward ? 1 : std::size_t(-1);
+    if (progress) {
+      progress(total - (forward ? goal - drive.at : drive.at - goal), total);
+    }
+  }
+  return drive;
+}
+
+/// Writes down that the first `at` moves stand, and that nobody works on them any more.
+void UndoJournal::Impl::SettleMoves(StepRow& step, std::size_t at) {
+  SyncFoldersOf(step.moves);
+  const bool wasDone = step.state == State::Done || step.state == State::Undoing;
+  WriteTransaction transaction(database_);
+  {
+    PhotoPathUpdate paths(database_);
+    for (std::size_t i = wasDone ? step.moves.size() : 0; i != at;) {
+      if (i < at) {
+        paths.Move(step.moves[i].from, step.moves[i].to);
+        ++i;
+      } else {
+        --i;
+        paths.Move(step.moves[i].to, step.moves[i].from);
+      }
+    }
+  }
+  if (at == 0 && step.state == State::Doing) {
+    DropStep(step.number);
+  } else if (at == 0) {
+    SetState("steps", step.number, State::Undone);
+  } else {
+    if (at < step.moves.size()) {
+      step.moves.resize(at);
+      QSqlQuery query = database_.Prepare("UPDATE steps SET moves = ?, files = ? WHERE number = ?");
+      query.addBindValue(PackMoves(step.moves));
+      query.addBindValue(static_cast<qlonglong>(at));
+      query.addBindValue(step.number);
+      database_.Run(query);
+    }
+    SetState("steps", step.number, State::Done);
+  }
+  transaction.Commit();
+}
+
+UndoResult UndoJournal::Impl::Rename(const QString& name, const RenamePlan& plan,
+                                     const std::atomic<bool>& cancelled, const UndoProgress& progress) {
+  UndoResult result;
+  result.name = name;
+  if (plan.steps.empty()) {
+    return result;
+  }
+  StepRow step;
+  step.moves = IdentifyMoves(plan.steps);
+  DropUndone();
+  step.number = InsertStep(name, plan.renames.size(), PackMoves(step.moves));
+  const std::size_t reached = DriveOrReturn(step, 0, step.moves.size(), cancelled, progress, result);
+  result.files = reached == step.moves.size() ? plan.renames.size() : reached;
+  return result;
+}
+
+/// All moves or none: what stops on its way to `goal` goes back to `begin`. Returns where it stands.
+std::size_t UndoJournal::Impl::DriveOrReturn(StepRow& step, std::size_t begin, std::size_t goal,
+                                             const std::atomic<bool>& cancelled, const UndoProgress& progress,
+                                             UndoResult& result) {
+  Drive drive = DriveMoves(step.moves, begin, goal, cancelled, progress);
+  result.cancelled = drive.cancelled;
+  if (drive.failure) {
+    result.findings.push_back(*drive.failure);
+  }
+  if (drive.at != goal) {
+    const std::atomic<bool> never{false};
+    drive = DriveMoves(step.moves, drive.at, begin, never, nullptr);
+    if (drive.failure) {
+      result.findings.push_back(*drive.failure);
+    }
+  }
+  SettleMoves(step, drive.at);
+  return drive.at;
+}
+
+UndoResult UndoJournal::Impl::ReverseMoves(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                                           const UndoProgress& progress) {
+  const std::size_t all = step.moves.size();
+  const std::size_t begin = redo ? 0 : all;
+  const std::size_t goal = redo ? all : 0;
+  UndoResult result;
+  result.name = step.name;
+  step.state = redo ? State::Redoing : State::Undoing;
+  SetState("steps", step.number, step.state);
+  const std::size_t reached = DriveOrReturn(step, begin, goal, cancelled, progress, result);
+  result.files = reached > begin ? reached - begin : begin - reached;
+  return result;
+}
+
+// --- Edits
+
+void UndoJournal::Impl::BeginStep(const QString& name) {
+  if (step_ != 0) {
+    EndStep();
+  }
+  DropUndone();
+  step_ = InsertStep(name, 0, {});
+}
+
+ioPath UndoJournal::Impl::PlanEdit(const ioPath& photo) {
+  ChangeRow change;
+  change.path = photo;
+  change.side = SideName(photo);
+  QSqlQuery query = database_.Prepare("INSERT INTO changes (step, state, path, side) VALUES (?, ?, ?, ?)");
+  query.addBindValue(step_);
+  query.addBindValue(static_cast<int>(State::Planned));
+  query.addBindValue(PathBytes(change.path));
+  query.addBindValue(PathBytes(change.side));
+  database_.Run(query);
+  change.number = query.lastInsertId().toLongLong();
+  edit_ = std::move(change);
+  return edit_->side;
+}
+
+void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPath) {
+  if (step_ == 0) {
+    BeginStep(QStringLiteral("edit"));
+  }
+  if (!edit_ || edit_->path != item.GetPath()) {
+    PlanEdit(item.GetPath());
+    edit_->side.clear();
+  }
+  ChangeRow& change = *edit_;
+  change.state = State::Doing;
+  if (newPath != change.path) {
+    change.adopted = true;
+    change.side = newPath;
+    StoreChange(change, 0);
+    return;
+  }
+  kept_.Keep(change.path, change.KeptBefore());
+  change.digestBefore = DigestOf(kept_.PathOf(change.KeptBefore()));
+  if (!change.side.empty()) {
+    change.digestAfter = DigestOf(change.side);
+  }
+  StoreChange(change, kept_.PathOf(change.KeptBefore()).file_size());
+}
+
+void UndoJournal::Impl::FinishEdit() {
+  if (edit_) {
+    SyncFolderOf(edit_->path);
+    const auto photo = Read(edit_->path);
+    WriteTransaction transaction(database_);
+    SetState("changes", edit_->number, State::Done);
+    if (photo) {
+      UpdatePhotoRow(database_, *photo);
+    }
+    transaction.Commit();
+    edit_.reset();
+  }
+}
+
+void UndoJournal::Impl::DropEdit() {
+  if (edit_) {
+    DropChange(*edit_);
+    edit_.reset();
+  }
+}
+
+void UndoJournal::Impl::EndStep() {
+  if (step_ == 0) {
+    return;
+  }
+  StepRow step;
+  step.number = std::exchange(step_, 0);
+  edit_.reset();
+  SettleStep(step);
+}
+
+/// Finds out what became of each change of an edit step, and closes the step.
+void UndoJournal::Impl::SettleStep(const StepRow& step) {
+  std::size_t files = 0;
+  for (ChangeRow& change : ReadChanges(step.number)) {
+    files += change.state == State::Done || SettleChange(change) ? 1 : 0;
+  }
+  if (files == 0) {
+    DropStep(step.number);
+    return;
+  }
+  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
+  query.addBindValue(static_cast<int>(State::Done));
+  query.addBindValue(static_cast<qlonglong>(files));
+  query.addBindValue(step.number);
+  database_.Run(query);
+}
+
+/// True when the photo is the edited one; false when it is not, and then nothing is left of the edit.
+bool UndoJournal::Impl::SettleChange(ChangeRow& change) {
+  if (change.state == State::Doing && change.adopted) {
+    SetState("changes", change.number, State::Done);
+    return true;
+  }
+  if (!change.adopted && !change.side.empty()) {
+    change.side.remove();
+  }
+  if (change.state == State::Doing) {
+    QByteArray now;
+    try {
+      now = DigestOf(change.path);
+    } catch (const HostError& failure) {
+      notes.push_back(std::string(failure.what()) + ". Its original is kept as " +
+                      kept_.PathOf(change.KeptBefore()).utf8string() + ".");
+      SetState("changes", change.number, State::Done);
+      return true;
+    }
+    if (now != change.digestBefore) {
+      // Also when others have changed it again: the original stays at hand.
+      change.digestAfter = change.digestAfter.isEmpty() ? now : change.digestAfter;
+      change.state = State::Done;
+      const auto photo = Read(change.path);
+      WriteTransaction transaction(database_);
+      StoreChange(change, kept_.PathOf(change.KeptBefore()).file_size());
+      if (photo) {
+        UpdatePhotoRow(database_, *photo);
+      }
+      transaction.Commit();
+      return true;
+    }
+  }
+  DropChange(change);
+  return false;
+}
+
+/// Puts the version that is kept in the photo's place and keeps the one that was there.
+void UndoJournal::Impl::Exchange(ChangeRow& change, bool redo) {
+  const std::string incoming = redo ? change.KeptAfter() : change.KeptBefore();
+  const std::string outgoing = redo ? change.KeptBefore() : change.KeptAfter();
+  if (!change.side.empty()) {
+    change.side.remove();
+  }
+  change.side = SideName(change.path);
+  change.state = redo ? State::Redoing : State::Undoing;
+  StoreChange(change, kept_.PathOf(incoming).file_size());
+  kept_.Keep(change.path, outgoing);
+  DataModel item;
+  item.SetPath(change.path);
+  UndoFileHolder holder(nullptr, locker_, item, change.side, false);
+  kept_.PutBeside(incoming, change.side);
+  holder.Process();
+  SyncFolderOf(change.path);
+}
+
+void UndoJournal::Impl::FinishReversal(ChangeRow& change, bool redo) {
+  const std::string incoming = redo ? change.KeptAfter() : change.KeptBefore();
+  const std::string outgoing = redo ? change.KeptBefore() : change.KeptAfter();
+  change.state = redo ? State::Done : State::Undone;
+  const auto photo = change.adopted ? std::nullopt : Read(change.path);
+  WriteTransaction transaction(database_);
+  if (change.adopted) {
+    PhotoPathUpdate(database_).Move(redo ? change.path : change.side, redo ? change.side : change.path);
+    SetState("changes", change.number, change.state);
+  } else {
+    change.side.clear();
+    StoreChange(change, kept_.PathOf(outgoing).file_size());
+    if (photo) {
+      UpdatePhotoRow(database_, *photo);
+    }
+  }
+  transaction.Commit();
+  if (!change.adopted) {
+    kept_.Remove(incoming);
+  }
+}
+
+/// Nothing has changed when it throws, and nothing is left of the attempt.
+void UndoJournal::Impl::PutBack(ChangeRow& change, bool redo) {
+  const State former = redo ? State::Undone : State::Done;
+  try {
+    const QByteArray now = DigestOf(change.path);
+    const QByteArray& wanted = redo ? change.digestAfter : change.digestBefore;
+    if (IsUnderWay(change.state) && now == wanted) {
+      // Broken off after the exchange: only the last notes are missing.
+      return;
+    }
+    if (now != (redo ? change.digestBefore : change.digestAfter)) {
+      ThrowHostError(change.path.utf8string(),
+                     change.path.utf8string() + " has been changed since and is left as it is");
+    }
+    Exchange(change, redo);
+  } catch (const Exception&) {
+    kept_.Remove(redo ? change.KeptBefore() : change.KeptAfter());
+    if (!change.side.empty()) {
+      change.side.remove();
+    }
+    SetState("changes", change.number, former);
+    throw;
+  }
+}
+
+UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                                             const UndoProgress& progress) {
+  UndoResult result;
+  result.name = step.name;
+  const State goal = redo ? State::Done : State::Undone;
+  SetState("steps", step.number, redo ? State::Redoing : State::Undoing);
+  std::vector<ChangeRow> changes = ReadChanges(step.number);
+  if (!redo) {
+    // A photo that was changed twice goes back step by step.
+    std::reverse(changes.begin(), changes.end());
+  }
+  std::size_t looked = 0;
+  bool anyLeft = false;
+  for (ChangeRow& change : changes) {
+    if (change.state != goal) {
+      if (cancelled) {
+        result.cancelled = true;
+        anyLeft = true;
+        break;
+      }
+      bool possible = true;
+      try {
+        if (!change.adopted) {
+          PutBack(change, redo);
+        }
+      } catch (const Exception& failure) {
+        possible = false;
+        anyLeft = true;
+        result.findings.push_back({change.path, failure.what()});
+      }
+      if (possible) {
+        FinishReversal(change, redo);
+        ++result.files;
+      }
+    }
+    if (progress) {
+      progress(++looked, changes.size());
+    }
+  }
+  // What could not be taken back can be tried again.
+  SetState("steps", step.number, anyLeft ? (redo ? State::Undone : State::Done) : goal);
+  return result;
+}
+
+UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancelled,
+                                      const UndoProgress& progress) {
+  std::vector<StepRow> steps =
+      ReadSteps(redo ? "state = 4 ORDER BY number LIMIT 1" : "state = 2 ORDER BY number DESC LIMIT 1", true);
+  if (steps.empty()) {
+    return {};
+  }
+  StepRow& step = steps.front();
+  return step.moves.empty() ? ReverseChanges(step, redo, cancelled, progress)
+                            : ReverseMoves(step, redo, cancelled, progress);
+}
+
+// --- Recovery
+
+void UndoJournal::Impl::Recover() {
+  for (StepRow& step : ReadSteps("state IN (1, 3, 5) ORDER BY number", true)) {
+    if (step.moves.empty()) {
+      RecoverChanges(step);
+    } else {
+      RecoverMoves(step);
+    }
+  }
+  std::set<std::string> wanted = {kLockName};
+  for (const StepRow& step : ReadSteps("moves IS NULL", false)) {
+    for (const ChangeRow& change : ReadChanges(step.number)) {
+      wanted.insert(change.state == State::Undone ? change.KeptAfter() : change.KeptBefore());
+    }
+  }
+  kept_.RemoveOthers(wanted);
+}
+
+void UndoJournal::Impl::RecoverMoves(StepRow& step) {
+  const std::atomic<bool> never{false};
+  const std::size_t all = step.moves.size();
+  const std::size_t found = CountDone(step.moves);
+  const std::size_t goal = step.state == State::Undoing ? 0 : all;
+  Drive drive = DriveMoves(step.moves, found, goal, never, nullptr);
+  std::string note = "\"" + step.name.toStdString() + "\" had been broken off";
+  if (drive.at == goal) {
+    note += goal == 0 ? " while it was taken back; now it is." : " and is finished now.";
+  } else {
+    note += " and cannot be finished (" + drive.failure->cause + ")";
+    drive = DriveMoves(step.moves, drive.at, all - goal, never, nullptr);
+    note += drive.failure ? ", nor taken back (" + drive.failure->cause + ")." : "; it is as before now.";
+  }
+  SettleMoves(step, drive.at);
+  notes.push_back(note);
+}
+
+void UndoJournal::Impl::RecoverChanges(StepRow& step) {
+  const std::string name = "\"" + step.name.toStdString() + "\"";
+  if (step.state == State::Doing) {
+    SettleStep(step);
+    const auto files = static_cast<std::size_t>(
+        database_.Value(("SELECT files FROM steps WHERE number = " + std::to_string(step.number)).c_str())
+            .toULongLong());
+    notes.push_back(name + " had been broken off after " + std::to_string(files) +
+                    (files == 1 ? " photo." : " photos.") + " The others are as they were.");
+    return;
+  }
+  const bool redo = step.state == State::Redoing;
+  const std::atomic<bool> never{false};
+  const UndoResult result = ReverseChanges(step, redo, never, nullptr);
+  notes.push_back(name + " had been broken off while it was " + (redo ? "done again" : "taken back") +
+                  "; now it is, with " + std::to_string(result.findings.size()) + " findings.");
+  for (const UndoFinding& finding : result.findings) {
+    notes.push_back(finding.file.utf8string() + ": " + finding.cause);
+  }
+}
+
+// --- The journal
+
+UndoJournal::UndoJournal(const ioPath& catalogue, IFileAccessLocker& locker)
+    : impl_(std::make_unique<Impl>(catalogue, locker)) {}
+
+UndoJournal::~UndoJournal() = default;
+
+const std::vector<std::string>& UndoJournal::RecoveryNotes() const {
+  return impl_->notes;
+}
+
+UndoResult UndoJournal::Rename(const QString& name, const RenamePlan& plan,
+                               const std::atomic<bool>& cancelled, const UndoProgress& progress) {
+  return impl_->Rename(name, plan, cancelled, progress);
+}
+
+ioPath UndoJournal::PlanEdit(const ioPath& photo) {
+  return impl_->PlanEdit(photo);
+}
+
+void UndoJournal::FinishEdit() {
+  impl_->FinishEdit();
+}
+
+void UndoJournal::DropEdit() {
+  impl_->DropEdit();
+}
+
+void UndoJournal::BeginStep(const QString& name) {
+  impl_->BeginStep(name);
+}
+
+void UndoJournal::EndStep() {
+  impl_->EndStep();
+}
+
+bool UndoJournal::Undo() {
+  const std::atomic<bool> never{false};
+  const UndoResult result = UndoLast(never, nullptr);
+  return result.files > 0;
+}
+
+bool UndoJournal::Redo() {
+  const std::atomic<bool> never{false};
+  return RedoLast(never, nullptr).files > 0;
+}
+
+void UndoJournal::RegisterFileChange(DataModel& item, const ioPath& newPath) {
+  impl_->RegisterFileChange(item, newPath);
+}
+
+UndoResult UndoJournal::UndoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress) {
+  impl_->EndStep();
+  return impl_->Reverse(false, cancelled, progress);
+}
+
+UndoResult UndoJournal::RedoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress) {
+  impl_->EndStep();
+  return impl_->Reverse(true, cancelled, progress);
+}
+
+std::vector<UndoStep> UndoJournal::Steps() const {
+  return impl_->Steps();
+}
+
+std::size_t UndoJournal::Prune(const UndoLimits& limits, const QDateTime& now) {
+  return impl_->Prune(limits, now);
+}
+
+bool NeedsRecovery(const ioPath& catalogue) {
+  if (QueryFile(catalogue).kind != FileState::Kind::File) {
+    return false;
+  }
+  try {
+    const CatalogueDatabase database(catalogue, CatalogueDatabase::Access::QueryOnly,
+                                     Catalogue::kBusyTimeoutMs);
+    RequireCurrentVersion(database);
+    return database.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state IN (1, 3, 5))").toBool();
+  } catch (const HostError&) {
+    // Whoever needs it will say why it cannot be used.
+    return false;
+  }
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,184 @@
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/NewFile.h>
+
+#include <cerrno>
+#include <string>
+#include <utility>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+#endif
+
+namespace Zenvora {
+
+namespace {
+
+/// Of the C library, which also Windows' counts in `errno`.
+std::error_code LastError() {
+  return {errno == 0 ? EIO : errno, std::generic_category()};
+}
+
+#ifdef _WIN32
+
+// Not by `_wfopen`: the oldest C library of Windows cannot refuse an existing file.
+std::FILE* OpenNew(const ioPath& file) {
+  const int handle = _wopen(file.for_system().c_str(),
+                            _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+  std::FILE* const stream = handle < 0 ? nullptr : _fdopen(handle, "wb");
+  if (handle >= 0 && stream == nullptr) {
+    _close(handle);
+  }
+  return stream;
+}
+
+bool Sync(std::FILE* stream) {
+  return _commit(_fileno(stream)) == 0;
+}
+
+#else
+
+std::FILE* OpenNew(const ioPath& file) {
+  return std::fopen(file.native().c_str(), "wbxe");
+}
+
+bool Sync(std::FILE* stream) {
+  return fsync(fileno(stream)) == 0;
+}
+
+/// What a person or a program noted beside the content, and finer rules of who may read it.
+bool IsWorthTaking(const std::string& attribute) {
+  return attribute.rfind("user.", 0) == 0 || attribute == "system.posix_acl_access";
+}
+
+void TakeAttributes(const char* from, int to) {
+  constexpr std::size_t kMostBytes = std::size_t{64} * 1024;  // As the system's own limit
+  std::string names(kMostBytes, '\0');
+  const ssize_t length = listxattr(from, names.data(), names.size());
+  std::string value(kMostBytes, '\0');
+  for (std::size_t at = 0; length > 0 && at < static_cast<std::size_t>(length);) {
+    const std::string name = names.c_str() + at;
+    at += name.size() + 1;
+    const ssize_t size =
+        IsWorthTaking(name) ? getxattr(from, name.c_str(), value.data(), value.size()) : ssize_t{-1};
+    if (size >= 0) {
+      static_cast<void>(fsetxattr(to, name.c_str(), value.data(), static_cast<std::size_t>(size), 0));
+    }
+  }
+}
+
+#endif
+
+}  // namespace
+
+NewFile::~NewFile() {
+  if (stream_ != nullptr) {
+    std::fclose(stream_);
+  }
+  if (!file_.empty()) {
+    file_.remove();
+  }
+}
+
+std::error_code NewFile::Create(const ioPath& file) {
+  if (!file.name_fault().empty()) {
+    return std::make_error_code(std::errc::invalid_argument);
+  }
+  errno = 0;
+  stream_ = OpenNew(file);
+  if (stream_ == nullptr) {
+    return LastError();
+  }
+  file_ = file;
+  return {};
+}
+
+#ifdef _WIN32
+
+void NewFile::TakeRightsOf(const ioPath& file) {
+  const DWORD from = GetFileAttributesW(file.for_system().c_str());
+  const DWORD own = GetFileAttributesW(file_.for_system().c_str());
+  if (from != INVALID_FILE_ATTRIBUTES && own != INVALID_FILE_ATTRIBUTES) {
+    SetFileAttributesW(file_.for_system().c_str(), own | (from & FILE_ATTRIBUTE_HIDDEN));
+  }
+}
+
+#else
+
+void NewFile::TakeRightsOf(const ioPath& file) {
+  struct stat facts = {};
+  if (stat(file.native().c_str(), &facts) != 0) {
+    return;
+  }
+  const int handle = fileno(stream_);
+  // Each for itself: who may not give a file away may still give it to a group of their own.
+  static_cast<void>(fchown(handle, facts.st_uid, static_cast<gid_t>(-1)));
+  static_cast<void>(fchown(handle, static_cast<uid_t>(-1), facts.st_gid));
+  TakeAttributes(file.native().c_str(), handle);
+  static_cast<void>(fchmod(handle, facts.st_mode & 0777U));
+}
+
+#endif
+
+std::error_code NewFile::Write(const void* bytes, std::size_t count) {
+  errno = 0;
+  return std::fwrite(bytes, 1, count, stream_) == count ? std::error_code() : LastError();
+}
+
+std::error_code NewFile::SetModified(std::int64_t ns) {
+  errno = 0;
+  // What is written later would change it again.
+  if (std::fflush(stream_) != 0) {
+    return LastError();
+  }
+#ifdef _WIN32
+  // Counted in steps of 100 ns from 1601 on.
+  constexpr std::int64_t kStepsTo1970 = 116444736000000000;
+  const std::int64_t steps = ns >= 0 ? ns / 100 : -((99 - ns) / 100);
+  const auto ticks = static_cast<ULONGLONG>(steps + kStepsTo1970);
+  FILETIME time;
+  time.dwLowDateTime = static_cast<DWORD>(ticks);
+  time.dwHighDateTime = static_cast<DWORD>(ticks >> 32U);
+  const auto handle = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream_)));
+  return SetFileTime(handle, nullptr, nullptr, &time) ? std::error_code() : LastSystemError();
+#else
+  constexpr std::int64_t kNsPerSecond = 1'000'000'000;
+  const std::int64_t rest = (ns % kNsPerSecond + kNsPerSecond) % kNsPerSecond;
+  timespec times[2] = {};
+  times[0].tv_nsec = UTIME_OMIT;
+  times[1].tv_sec = static_cast<time_t>((ns - rest) / kNsPerSecond);
+  times[1].tv_nsec = static_cast<long>(rest);
+  return futimens(fileno(stream_), times) == 0 ? std::error_code() : LastSystemError();
+#endif
+}
+
+std::error_code NewFile::Close(bool durable) {
+  errno = 0;
+  if (std::fflush(stream_) != 0 || (durable && !Sync(stream_))) {
+    return LastError();
+  }
+  std::FILE* const stream = std::exchange(stream_, nullptr);
+  return std::fclose(stream) == 0 ? std::error_code() : LastError();
+}
+
+void SyncFolderOf(const ioPath& file) {
+#ifdef _WIN32
+  static_cast<void>(file);
+#else
+  const ioPath folder = file.parent_path();
+  const int handle = open(folder.empty() ? "." : folder.native().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (handle >= 0) {
+    fsync(handle);
+    close(handle);
+  }
+#endif
+}
+
+}  // namespace Zenvora

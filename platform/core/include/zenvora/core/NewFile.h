@@ -1,0 +1,48 @@
+#pragma once
+
+#include <zenvora/core/Export.h>
+#include <zenvora/core/ioPath.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <system_error>
+
+namespace Zenvora {
+
+/// A file being written that was not there before. Gone again with the object unless it is released: nothing
+/// half written stays behind. An object belongs to one thread; everything blocks on the disk.
+class ZENVORA_CORE_EXPORT NewFile {
+ public:
+  NewFile() = default;
+  ~NewFile();
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+
+  /// Makes the file, once for each object; its folder must exist. `file_exists` when there is something of
+  /// that name, were it a link that leads nowhere: that stays as it is.
+  std::error_code Create(const ioPath& file);
+  /// Gives it the permissions of another file and, as far as this user may and the file system can, its
+  /// owner, its group and the further attributes that people and programs gave it. On Windows its hidden
+  /// attribute; who may use it is up to the folder there.
+  void TakeRightsOf(const ioPath& file);
+
+  std::error_code Write(const void* bytes, std::size_t count);
+  /// The time of its last change in nanoseconds since 1970-01-01 UTC, 100 of them the least step on Windows.
+  /// To be called after all writing.
+  std::error_code SetModified(std::int64_t ns);
+  /// `durable`: first waits until the bytes are on the disk. No writing afterwards.
+  std::error_code Close(bool durable);
+  /// The file stays, or has got another name meanwhile.
+  void Release() { file_.clear(); }
+
+ private:
+  ioPath file_;
+  std::FILE* stream_ = nullptr;
+};
+
+/// Waits until the name of a file is on the disk, which the file itself being there does not say. Not every
+/// file system can do it: no error. Nothing on Windows, which does so by itself.
+ZENVORA_CORE_EXPORT void SyncFolderOf(const ioPath& file);
+
+}  // namespace Zenvora

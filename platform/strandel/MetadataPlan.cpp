@@ -1,0 +1,440 @@
+#include "MetadataPlan.h"
+
+#include "EditRefusal.h"
+
+#include <zenvora/strandel/DateText.h>
+#include <zenvora/strandel/EditRules.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace Zenvora::Strandel {
+
+namespace {
+
+enum Tag : std::uint16_t {
+  kNewSubfileType = 0x00FE,
+  kOrientation = 0x0112,
+  kDateTime = 0x0132,
+  kThumbnailOffset = 0x0201,
+  kXmpPacket = 0x02BC,
+  kIptc = 0x83BB,
+  kImageResources = 0x8649,
+  kExifDirectory = 0x8769,
+  kDateTimeOriginal = 0x9003,
+  kDateTimeDigitised = 0x9004,
+  kSubSeconds = 0x9290,
+  kSubSecondsOriginal = 0x9291,
+  kSubSecondsDigitised = 0x9292,
+};
+
+/// The three dates of which all others are copies.
+enum Source : std::size_t { kOriginal, kDigitised, kChanged, kSources };
+
+struct ExifDate {
+  Source source;
+  ExifDirectory directory;
+  std::uint16_t tag;
+  std::uint16_t subSeconds;  ///< 0 for a copy: it has none, and is not made where it is missing.
+};
+constexpr std::array kExifDates = {
+    ExifDate{kOriginal, ExifDirectory::Photo, kDateTimeOriginal, kSubSecondsOriginal},
+    ExifDate{kDigitised, ExifDirectory::Photo, kDateTimeDigitised, kSubSecondsDigitised},
+    ExifDate{kChanged, ExifDirectory::Image, kDateTime, kSubSeconds},
+    ExifDate{kOriginal, ExifDirectory::Image, kDateTimeOriginal, 0},
+    ExifDate{kDigitised, ExifDirectory::Image, kDateTimeDigitised, 0},
+    ExifDate{kChanged, ExifDirectory::Thumbnail, kDateTime, 0},
+};
+
+struct XmpDate {
+  Source source;
+  const char* space;
+  const char* name;
+};
+constexpr std::array kXmpDates = {
+    XmpDate{kOriginal, "exif", "DateTimeOriginal"},
+    XmpDate{kOriginal, "photoshop", "DateCreated"},
+    XmpDate{kDigitised, "exif", "DateTimeDigitized"},
+    XmpDate{kDigitised, "xmp", "CreateDate"},
+    XmpDate{kChanged, "tiff", "DateTime"},
+    XmpDate{kChanged, "xmp", "ModifyDate"},
+};
+
+struct IptcDate {
+  Source source;
+  std::uint16_t date;
+  std::uint16_t time;
+};
+constexpr std::uint16_t kIptcRecord = 2;
+constexpr std::array kIptcDates = {IptcDate{kOriginal, 55, 60}, IptcDate{kDigitised, 62, 63}};
+
+const char* GroupOf(ExifDirectory directory) {
+  switch (directory) {
+    case ExifDirectory::Photo:
+      return "Photo";
+    case ExifDirectory::Thumbnail:
+      return "Thumbnail";
+    default:
+      return "Image";
+  }
+}
+
+const Exiv2::Exifdatum* Find(const Exiv2::ExifData& exif, ExifDirectory directory, std::uint16_t tag) {
+  const auto found = std::find_if(exif.begin(), exif.end(),
+                                  [group = GroupOf(directory), tag](const Exiv2::Exifdatum& datum) {
+                                    return datum.tag() == tag && datum.groupName() == group;
+                                  });
+  return found == exif.end() ? nullptr : &*found;
+}
+
+template <class Datum>
+std::string BytesOf(const Datum& datum) {
+  std::string bytes(static_cast<std::size_t>(std::max(datum.size(), 0L)), '\0');
+  if (!bytes.empty()) {
+    datum.copy(reinterpret_cast<Exiv2::byte*>(bytes.data()), Exiv2::littleEndian);
+  }
+  return bytes;
+}
+
+/// Of XMP the texts are all there is.
+std::string BytesOf(const Exiv2::Xmpdatum& datum) {
+  return datum.toString();
+}
+
+std::string TextOf(const Exiv2::Exifdatum& datum) {
+  const Exiv2::TypeId type = datum.typeId();
+  return type == Exiv2::asciiString || type == Exiv2::unsignedByte || type == Exiv2::undefined
+             ? BytesOf(datum)
+             : std::string();
+}
+
+int NumberOf(const Exiv2::Exifdatum* datum) {
+  return datum == nullptr || datum->count() != 1 ? 0 : static_cast<int>(datum->toLong());
+}
+
+/// Of a TIFF file the second directory may be another page.
+bool HasThumbnail(const Exiv2::ExifData& exif) {
+  const int kind = NumberOf(Find(exif, ExifDirectory::Thumbnail, kNewSubfileType));
+  return Find(exif, ExifDirectory::Thumbnail, kThumbnailOffset) != nullptr || kind % 2 == 1;
+}
+
+std::string Formatted(const char* format, int a, int b, int c) {
+  char text[32];
+  const int length = std::snprintf(text, sizeof text, format, a, b, c);
+  return {text, static_cast<std::size_t>(length)};
+}
+
+std::string ExifText(const QDateTime& date) {
+  const QDate day = date.date();
+  const QTime time = date.time();
+  return Formatted("%04d:%02d:%02d ", day.year(), day.month(), day.day()) +
+         Formatted("%02d:%02d:%02d", time.hour(), time.minute(), time.second()) + '\0';
+}
+
+class Planner {
+ public:
+  Planner(const Exiv2::Image& photo, const PhotoEdit& edit)
+      : exif_(photo.exifData()), xmp_(photo.xmpData()), iptc_(photo.iptcData()), edit_(edit) {}
+
+  MetadataPlan Plan() {
+    if (edit_.turn != Turn::None) {
+      PlanTurn();
+    }
+    if (edit_.date.isValid()) {
+      date_ = QDateTime(edit_.date.date(), edit_.date.time(), Qt::UTC);
+      PlanCopies();
+    } else if (edit_.shift.count() != 0) {
+      PlanCopies();
+      if (!anyDate_) {
+        throw EditRefusal("it has no date to shift");
+      }
+    }
+    return plan_;
+  }
+
+ private:
+  void PlanTurn() {
+    const int turned =
+        TurnedOrientation(NumberOf(Find(exif_, ExifDirectory::Image, kOrientation)), edit_.turn);
+    AddNumber(ExifDirectory::Image, turned);
+    // It may count for the thumbnail instead of the photo's own; without it the photo's own counts for both.
+    const Exiv2::Exifdatum* const own = Find(exif_, ExifDirectory::Thumbnail, kOrientation);
+    if (own != nullptr && HasThumbnail(exif_)) {
+      AddNumber(ExifDirectory::Thumbnail, TurnedOrientation(NumberOf(own), edit_.turn));
+    }
+    AddXmp("tiff", "Orientation", [turned](const std::string&) { return std::to_string(turned); });
+  }
+
+  void PlanCopies() {
+    for (const ExifDate& field : kExifDates) {
+      PlanExif(field);
+    }
+    for (const XmpDate& property : kXmpDates) {
+      AddXmp(property.space, property.name,
+             [this, &property](const std::string& text) { return ChangedXmp(text, property.source); });
+    }
+    for (const IptcDate& sets : kIptcDates) {
+      PlanIptc(sets);
+    }
+  }
+
+  void PlanExif(const ExifDate& field) {
+    const Exiv2::Exifdatum* const datum = Find(exif_, field.directory, field.tag);
+    const bool isThere =
+        datum != nullptr && (field.directory != ExifDirectory::Thumbnail || HasThumbnail(exif_));
+    const std::string text = isThere ? TextOf(*datum) : std::string();
+    const auto old = DateText::Parse(text);
+    const bool isDate = old && old->HasTime();
+    if (isDate && !before_[field.source].isValid()) {
+      before_[field.source] = old->Value();
+    }
+    if (date_.isValid()) {
+      if (isThere || field.subSeconds != 0) {
+        AddText(field.directory, field.tag, ExifText(date_));
+        PlanSubSeconds(field.subSeconds);
+      }
+    } else if (isDate) {
+      AddText(field.directory, field.tag, old->With(Shifted(old->Value())));
+    }
+  }
+
+  /// Those of the old date say nothing of the new one.
+  void PlanSubSeconds(std::uint16_t tag) {
+    if (tag == 0) {
+      return;
+    }
+    const int ms = date_.time().msec();
+    if (ms != 0) {
+      AddText(ExifDirectory::Photo, tag, Formatted("%03d", ms, 0, 0) + '\0');
+    } else if (Find(exif_, ExifDirectory::Photo, tag) != nullptr) {
+      ExifChange change;
+      change.directory = ExifDirectory::Photo;
+      change.tag = tag;
+      plan_.exif.push_back(change);
+    }
+  }
+
+  std::string ChangedXmp(const std::string& text, Source source) {
+    const auto old = DateText::Parse(text);
+    if (!old) {
+      return text;
+    }
+    const QDateTime& master = before_[source];
+    if (date_.isValid()) {
+      return old->WithFraction(old->HasZone() ? InItsZone(*old, master) : date_);
+    }
+    if (old->HasTime()) {
+      return old->With(Shifted(old->Value()));
+    }
+    // A year or a day alone says nothing of a clock, but must not contradict the date that it is a part of.
+    return master.isValid() && old->Agrees(master.date()) ? old->With(Shifted(master)) : text;
+  }
+
+  /// Some programs write the camera's time, others the same moment in UTC: what it is stays.
+  QDateTime InItsZone(const DateText& old, const QDateTime& master) const {
+    constexpr qint64 kQuarter = 15 * 60;
+    constexpr qint64 kFarthest = 14 * 4 * kQuarter;
+    const qint64 apart = master.isValid() ? master.secsTo(old.Value()) : 0;
+    if (apart % kQuarter != 0 || std::abs(apart) > kFarthest) {
+      return date_;
+    }
+    return Checked(ShiftedTime(date_, std::chrono::seconds(apart)));
+  }
+
+  template <class Change>
+  void AddXmp(const char* space, const char* name, const Change& changed) {
+    const std::string key = std::string("Xmp.") + space + '.' + name;
+    for (const Exiv2::Xmpdatum& datum : xmp_) {
+      if (datum.key() == key) {
+        const std::string before = datum.toString();
+        const std::string after = changed(before);
+        if (after != before) {
+          plan_.xmp.push_back({key, std::string(space) + ':' + name, before, after});
+        }
+        return;
+      }
+    }
+  }
+
+  void PlanIptc(const IptcDate& sets) {
+    constexpr std::size_t kDateSize = 8;
+    constexpr std::size_t kTimeSize = 11;
+    const std::string day = IptcText(sets.date, Exiv2::date, kDateSize);
+    const std::string time = IptcText(sets.time, Exiv2::time, kTimeSize);
+    const QDate oldDay = QDate::fromString(QString::fromStdString(day), QStringLiteral("yyyyMMdd"));
+    const QTime oldTime =
+        QTime::fromString(QString::fromStdString(time.substr(0, 6)), QStringLiteral("hhmmss"));
+    QDateTime changed = date_;
+    const QDateTime& master = before_[sets.source];
+    if (!date_.isValid() && oldDay.isValid() && oldTime.isValid()) {
+      changed = Shifted(QDateTime(oldDay, oldTime, Qt::UTC));
+    } else if (!date_.isValid() && oldDay.isValid() && master.isValid() && master.date() == oldDay) {
+      changed = Shifted(master);
+    }
+    if (!changed.isValid()) {
+      return;
+    }
+    if (oldDay.isValid()) {
+      AddIptc(sets.date, day, changed.date().toString(QStringLiteral("yyyyMMdd")).toStdString());
+    }
+    if (oldTime.isValid()) {
+      AddIptc(sets.time, time,
+              changed.time().toString(QStringLiteral("hhmmss")).toStdString() + time.substr(6));
+    }
+  }
+
+  std::string IptcText(std::uint16_t number, Exiv2::TypeId type, std::size_t size) const {
+    const auto found = iptc_.findId(number, kIptcRecord);
+    if (found == iptc_.end() || found->typeId() != type) {
+      return std::string();
+    }
+    const std::string text = BytesOf(*found);
+    return text.size() == size ? text : std::string();
+  }
+
+  void AddIptc(std::uint16_t number, const std::string& before, const std::string& after) {
+    if (before != after) {
+      plan_.iptc.push_back({kIptcRecord, number, before, after});
+    }
+  }
+
+  void AddNumber(ExifDirectory directory, int number) {
+    ExifChange change;
+    change.directory = directory;
+    change.tag = kOrientation;
+    change.kind = ExifChange::Kind::Number;
+    change.number = static_cast<std::uint16_t>(number);
+    plan_.exif.push_back(change);
+  }
+
+  void AddText(ExifDirectory directory, std::uint16_t tag, const std::string& text) {
+    ExifChange change;
+    change.directory = directory;
+    change.tag = tag;
+    change.kind = ExifChange::Kind::Text;
+    change.text = text;
+    plan_.exif.push_back(change);
+  }
+
+  QDateTime Shifted(const QDateTime& date) {
+    anyDate_ = true;
+    return Checked(ShiftedTime(date, edit_.shift));
+  }
+
+  static QDateTime Checked(const QDateTime& date) {
+    if (!date.isValid()) {
+      throw EditRefusal("its date would leave the years 1 to 9999");
+    }
+    return date;
+  }
+
+  const Exiv2::ExifData& exif_;
+  const Exiv2::XmpData& xmp_;
+  const Exiv2::IptcData& iptc_;
+  const PhotoEdit& edit_;
+  QDateTime date_;  ///< Invalid: the dates are shifted.
+  std::array<QDateTime, kSources> before_;
+  bool anyDate_ = false;
+  MetadataPlan plan_;
+};
+
+[[noreturn]] void RefuseResult(const std::string& key) {
+  throw EditRefusal("its metadata cannot be changed without a loss (" + key + ")");
+}
+
+/// Compares two lists of metadata, without the data that `isPlanned` knows.
+template <class Data, class IsPlanned>
+void CheckSame(const Data& before, const Data& after, const IsPlanned& isPlanned) {
+  auto old = before.begin();
+  auto now = after.begin();
+  const auto skip = [&isPlanned](auto& at, const auto& end) {
+    while (at != end && isPlanned(*at)) {
+      ++at;
+    }
+  };
+  for (;; ++old, ++now) {
+    skip(old, before.end());
+    skip(now, after.end());
+    if (old == before.end() || now == after.end()) {
+      break;
+    }
+    if (old->key() != now->key() || old->typeId() != now->typeId() || BytesOf(*old) != BytesOf(*now)) {
+      RefuseResult(old->key());
+    }
+  }
+  if (old != before.end() || now != after.end()) {
+    RefuseResult(old != before.end() ? old->key() : now->key());
+  }
+}
+
+bool IsPlanned(const Exiv2::Exifdatum& datum, const MetadataPlan& plan) {
+  if (datum.groupName() == GroupOf(ExifDirectory::Image)) {
+    const std::uint16_t tag = datum.tag();
+    // They hold, or lead to, what is looked at by itself.
+    if (tag == kExifDirectory || (tag == kXmpPacket && !plan.xmp.empty()) ||
+        ((tag == kIptc || tag == kImageResources) && !plan.iptc.empty())) {
+      return true;
+    }
+  }
+  return std::any_of(plan.exif.begin(), plan.exif.end(), [&datum](const ExifChange& change) {
+    return change.tag == datum.tag() && datum.groupName() == GroupOf(change.directory);
+  });
+}
+
+bool IsDone(const Exiv2::ExifData& exif, const ExifChange& change) {
+  const Exiv2::Exifdatum* const datum = Find(exif, change.directory, change.tag);
+  switch (change.kind) {
+    case ExifChange::Kind::Remove:
+      return datum == nullptr;
+    case ExifChange::Kind::Number:
+      return datum != nullptr && datum->typeId() == Exiv2::unsignedShort && NumberOf(datum) == change.number;
+    default:
+      return datum != nullptr && std::strcmp(TextOf(*datum).c_str(), change.text.c_str()) == 0;
+  }
+}
+
+bool IsDone(const Exiv2::IptcData& iptc, const IptcChange& change) {
+  const auto found = iptc.findId(change.number, change.record);
+  return found != iptc.end() && BytesOf(*found) == change.after;
+}
+
+bool IsDone(const Exiv2::XmpData& xmp, const XmpChange& change) {
+  const auto found = xmp.findKey(Exiv2::XmpKey(change.key));
+  return found != xmp.end() && found->toString() == change.after;
+}
+
+template <class Data, class Changes>
+void CheckDone(const Data& data, const Changes& changes) {
+  if (!std::all_of(changes.begin(), changes.end(),
+                   [&data](const auto& change) { return IsDone(data, change); })) {
+    throw EditRefusal("its metadata would not say afterwards what it should");
+  }
+}
+
+}  // namespace
+
+MetadataPlan PlanEdit(const Exiv2::Image& photo, const PhotoEdit& edit) {
+  return Planner(photo, edit).Plan();
+}
+
+void CheckAgainstPlan(const Exiv2::Image& before, const Exiv2::Image& after, const MetadataPlan& plan) {
+  CheckSame(before.exifData(), after.exifData(),
+            [&plan](const Exiv2::Exifdatum& datum) { return IsPlanned(datum, plan); });
+  CheckSame(before.xmpData(), after.xmpData(), [&plan](const Exiv2::Xmpdatum& datum) {
+    return std::any_of(plan.xmp.begin(), plan.xmp.end(),
+                       [&datum](const XmpChange& change) { return change.key == datum.key(); });
+  });
+  CheckSame(before.iptcData(), after.iptcData(), [&plan](const Exiv2::Iptcdatum& datum) {
+    return std::any_of(plan.iptc.begin(), plan.iptc.end(), [&datum](const IptcChange& change) {
+      return change.record == datum.record() && change.number == datum.tag();
+    });
+  });
+  CheckDone(after.exifData(), plan.exif);
+  CheckDone(after.xmpData(), plan.xmp);
+  CheckDone(after.iptcData(), plan.iptc);
+}
+
+}  // namespace Zenvora::Strandel

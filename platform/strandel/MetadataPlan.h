@@ -1,0 +1,53 @@
+#pragma once
+
+#include <zenvora/strandel/PhotoEdit.h>
+
+#include <exiv2/exiv2.hpp>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Strandel {
+
+enum class ExifDirectory { Image, Photo, Thumbnail };
+
+/// What becomes of one EXIF field, made where it is missing.
+struct ExifChange {
+  enum class Kind { Text, Number, Remove };
+  ExifDirectory directory = ExifDirectory::Image;
+  std::uint16_t tag = 0;
+  Kind kind = Kind::Remove;
+  std::string text;  ///< As it is stored, mostly with a NUL at its end.
+  std::uint16_t number = 0;
+};
+
+/// What becomes of one XMP property that is there.
+struct XmpChange {
+  std::string key;   ///< As Exiv2 names it, "Xmp.xmp.CreateDate".
+  std::string name;  ///< As it is written, "xmp:CreateDate".
+  std::string before;
+  std::string after;
+};
+
+/// What becomes of one IPTC data set that is there; of the same length.
+struct IptcChange {
+  std::uint16_t record = 0;
+  std::uint16_t number = 0;
+  std::string before;
+  std::string after;
+};
+
+struct MetadataPlan {
+  std::vector<ExifChange> exif;
+  std::vector<XmpChange> xmp;
+  std::vector<IptcChange> iptc;
+};
+
+/// What an edit changes in a photo that says this. Throws `EditRefusal`.
+MetadataPlan PlanEdit(const Exiv2::Image& photo, const PhotoEdit& edit);
+
+/// Throws `EditRefusal` when what a photo says differs from before in anything but the plan.
+void CheckAgainstPlan(const Exiv2::Image& before, const Exiv2::Image& after, const MetadataPlan& plan);
+
+}  // namespace Zenvora::Strandel

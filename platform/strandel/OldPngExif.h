@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Zenvora::Strandel {
+
+/// The EXIF block of a PNG file as programs kept it before PNG had a chunk for it, and some still do: as
+/// hexadecimal digits in a text chunk.
+struct OldPngExif {
+  bool compressed = false;
+  std::string keyword;  ///< "Raw profile type exif"
+  std::string label;    ///< What the text calls it.
+  std::string mark;     ///< The bytes before the block that say what it is; perhaps none.
+  std::string block;    ///< A TIFF structure.
+
+  /// Nothing for other chunks. Throws `EditRefusal` for what cannot be read.
+  static std::optional<OldPngExif> Parse(std::string_view type, std::string_view content);
+  /// The chunk's content.
+  std::string Content() const;
+};
+
+}  // namespace Zenvora::Strandel

@@ -1,0 +1,259 @@
+#include "EditRefusal.h"
+#include "ExivLock.h"
+#include "MetadataPlan.h"
+#include "PhotoSource.h"
+#include "PictureAnatomy.h"
+#include "TextsInPlace.h"
+#include "TiffEdit.h"
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+#include <zenvora/core/NewFile.h>
+#include <zenvora/strandel/PhotoEdit.h>
+
+#include <exiv2/exiv2.hpp>
+
+#include <algorithm>
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <new>
+#include <string_view>
+#include <system_error>
+
+namespace Zenvora::Strandel {
+
+PhotoEditError::~PhotoEditError() noexcept = default;
+
+namespace {
+
+[[noreturn]] void Throw(const ioPath& photo, const std::string& cause) {
+  BOOST_THROW_EXCEPTION(PhotoEditError()
+                        << TagFilename(photo.utf8string())
+                        << TagDescription("Cannot edit " + photo.utf8string() + ": " + cause));
+}
+
+void Open(PhotoSource& source, const ioPath& photo) {
+  std::string cause;
+  if (!source.Open(photo, cause)) {
+    throw EditRefusal(cause);
+  }
+}
+
+std::optional<PictureFormat> AskFormat(PhotoSource& source, std::string& cause) {
+  std::string head(kFormatHead, '\0');
+  head.resize(source.Read(0, head.data(), head.size()));
+  if (!source.Failure().empty()) {
+    throw EditRefusal(source.Failure());
+  }
+  if (head.empty()) {
+    throw EditRefusal("it is empty");
+  }
+  return FormatOf(head, cause);
+}
+
+bool IsSameState(const FileState& a, const FileState& b) {
+  return a.kind == b.kind && a.size == b.size && a.modifiedNs == b.modifiedNs && a.identity == b.identity;
+}
+
+/// A photo in memory.
+struct Content {
+  PictureFormat format = PictureFormat::Jpeg;
+  std::string bytes;
+  std::int64_t modifiedNs = 0;
+};
+
+Content ReadWhole(const ioPath& photo) {
+  // Exiv2 counts in 32 bits on some systems, and so does TIFF.
+  constexpr std::uint64_t kMostBytes = (std::uint64_t{1} << 31U) - 1;
+  const FileState before = QueryFile(photo);
+  PhotoSource source;
+  Open(source, photo);
+  std::string cause;
+  const auto format = AskFormat(source, cause);
+  if (!format) {
+    throw EditRefusal(cause);
+  }
+  if (source.Size() > kMostBytes) {
+    throw EditRefusal("it is larger than 2 GiB");
+  }
+  Content content;
+  content.format = *format;
+  content.modifiedNs = before.modifiedNs;
+  content.bytes.resize(static_cast<std::size_t>(source.Size()));
+  const bool whole = source.ReadAll(0, content.bytes.data(), content.bytes.size());
+  if (!source.Failure().empty()) {
+    throw EditRefusal(source.Failure());
+  }
+  if (!whole || !IsSameState(before, QueryFile(photo))) {
+    throw EditRefusal("it was changed meanwhile");
+  }
+  return content;
+}
+
+using ExivPicture = std::unique_ptr<Exiv2::Image>;
+
+ExivPicture ReadMetadata(const std::string& bytes) {
+  ExivPicture image(Exiv2::ImageFactory::open(reinterpret_cast<const Exiv2::byte*>(bytes.data()),
+                                              static_cast<long>(bytes.size()))
+                        .release());
+  if (image == nullptr) {
+    throw EditRefusal("its content is of no known picture format");
+  }
+  image->readMetadata();
+  return image;
+}
+
+/// The file with the plan carried out; all that the plan does not name stays where it is.
+std::string Carry(const MetadataPlan& plan, PictureFormat format, const std::string& before) {
+  const PictureAnatomy anatomy = Dissect(format, before);
+  std::string bytes = before;
+  ChangeTextsInPlace(bytes, anatomy.texts, plan);
+  std::optional<std::string> exif;
+  if (!plan.exif.empty()) {
+    const std::string_view block = ExifBlock(bytes, anatomy);
+    TiffEdit tiff(block.empty() ? TiffEdit::Empty() : std::string(block));
+    tiff.Apply(plan.exif);
+    exif = tiff.Bytes();
+  }
+  return WithExif(format, bytes, anatomy, exif);
+}
+
+/// Makers' notes have other meanings for the same numbers.
+bool IsOfPictures(const Exiv2::Exifdatum& datum) {
+  const std::string group = datum.groupName();
+  return group.rfind("Image", 0) == 0 || group.rfind("Sub", 0) == 0 || group == "Thumbnail";
+}
+
+/// The pictures inside of an EXIF block or a TIFF file: those that it shows, smaller ones, raw ones.
+class InnerPictures {
+ public:
+  InnerPictures(const Exiv2::ExifData& exif, std::string_view before, std::string_view after)
+      : exif_(exif), before_(before), after_(after), budget_(std::uint64_t{before.size()} * 4) {}
+
+  void CheckSame() {
+    struct Tags {
+      std::uint16_t places, sizes;
+    };
+    for (const Tags& tags : {Tags{0x0111, 0x0117}, Tags{0x0144, 0x0145}, Tags{0x0201, 0x0202}}) {
+      for (const Exiv2::Exifdatum& datum : exif_) {
+        if (datum.tag() == tags.places && IsOfPictures(datum)) {
+          CheckSame(datum, tags.sizes);
+        }
+      }
+    }
+  }
+
+ private:
+  void CheckSame(const Exiv2::Exifdatum& places, std::uint16_t sizesTag) {
+    const auto sizes = std::find_if(exif_.begin(), exif_.end(), [&](const Exiv2::Exifdatum& datum) {
+      return datum.tag() == sizesTag && datum.ifdId() == places.ifdId();
+    });
+    for (long i = 0; sizes != exif_.end() && i < std::min(places.count(), sizes->count()); ++i) {
+      CheckSame(static_cast<std::uint32_t>(places.toLong(i)), static_cast<std::uint32_t>(sizes->toLong(i)));
+    }
+  }
+
+  void CheckSame(std::size_t at, std::size_t claimed) {
+    if (at >= before_.size()) {
+      return;
+    }
+    const std::size_t size = std::min(claimed, before_.size() - at);
+    // Pictures upon pictures are made to keep somebody busy.
+    if (size > budget_) {
+      throw EditRefusal("its TIFF directory is damaged");
+    }
+    budget_ -= size;
+    if (before_.substr(at, size) != after_.substr(at, size)) {
+      throw EditRefusal("the picture in it would not stay as it is");
+    }
+  }
+
+  const Exiv2::ExifData& exif_;
+  const std::string_view before_;
+  const std::string_view after_;
+  std::uint64_t budget_;
+};
+
+void Check(const Content& content, const std::string& after, const Exiv2::Image& image,
+           const MetadataPlan& plan) {
+  CheckSamePicture(content.format, content.bytes, after);
+  const PictureAnatomy before = Dissect(content.format, content.bytes);
+  const PictureAnatomy now = Dissect(content.format, after);
+  InnerPictures(image.exifData(), ExifBlock(content.bytes, before), ExifBlock(after, now)).CheckSame();
+  CheckAgainstPlan(image, *ReadMetadata(after), plan);
+}
+
+std::string Edited(const Content& content, const PhotoEdit& edit) {
+  const auto lock = LockExiv();
+  try {
+    const ExivPicture image = ReadMetadata(content.bytes);
+    const MetadataPlan plan = PlanEdit(*image, edit);
+    std::string after = Carry(plan, content.format, content.bytes);
+    Check(content, after, *image, plan);
+    return after;
+  } catch (const Exiv2::AnyError& error) {
+    throw EditRefusal(std::string("it is damaged: ") + error.what());
+  }
+}
+
+void CheckEdit(const PhotoEdit& edit) {
+  const bool shifts = edit.shift.count() != 0;
+  if (edit.turn == Turn::None && !shifts && !edit.date.isValid()) {
+    throw EditRefusal("nothing is to be changed");
+  }
+  if (shifts && edit.date.isValid()) {
+    throw EditRefusal("its date cannot be set and shifted at once");
+  }
+  const int year = edit.date.isValid() ? edit.date.date().year() : 1;
+  if (year < 1 || year > 9999) {
+    throw EditRefusal("a date is of the years 1 to 9999");
+  }
+}
+
+void WriteNew(const ioPath& side, const ioPath& photo, const Content& content, const std::string& bytes) {
+  const auto check = [&side](const std::error_code& error) {
+    if (error) {
+      throw EditRefusal("cannot write " + side.utf8string() + ": " + ErrorText(error));
+    }
+  };
+  NewFile file;
+  check(file.Create(side));
+  file.TakeRightsOf(photo);
+  check(file.Write(bytes.data(), bytes.size()));
+  check(file.SetModified(content.modifiedNs));
+  check(file.Close(true));
+  file.Release();
+}
+
+}  // namespace
+
+std::string WhyNotEditable(const ioPath& photo) {
+  std::string cause;
+  try {
+    PhotoSource source;
+    Open(source, photo);
+    static_cast<void>(AskFormat(source, cause));
+  } catch (const EditRefusal& refusal) {
+    cause = refusal.what();
+  }
+  return cause;
+}
+
+void WriteEdited(const ioPath& photo, const ioPath& side, const PhotoEdit& edit) {
+  try {
+    CheckEdit(edit);
+    const Content content = ReadWhole(photo);
+    WriteNew(side, photo, content, Edited(content, edit));
+  } catch (const EditRefusal& refusal) {
+    Throw(photo, refusal.what());
+  } catch (const std::bad_alloc&) {
+    Throw(photo, "editing it takes more memory than there is");
+  } catch (const Exception&) {
+    throw;
+  } catch (const std::exception& error) {
+    Throw(photo, std::string("it is damaged: ") + error.what());
+  }
+}
+
+}  // namespace Zenvora::Strandel

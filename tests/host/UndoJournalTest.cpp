@@ -1,0 +1,545 @@
+#include "RawSql.h"
+
+#include <LumidexUtil/FileAccessLocker.h>
+#include <host/Catalogue.h>
+#include <host/PhotoEditing.h>
+#include <host/Scanner.h>
+#include <host/UndoJournal.h>
+#include <support/Doubles.h>
+#include <support/TempTree.h>
+
+#include <zenvora/core/FileState.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+namespace {
+
+using Zenvora::Test::ReadFile;
+
+class UndoJournalTest : public ::testing::Test {
+ protected:
+  UndoJournalTest() { Open(); }
+
+  /// A new journal of the same catalogue: what is under way is recovered.
+  void Open() {
+    journal_.reset();
+    journal_ = std::make_unique<UndoJournal>(catalogue_, *locker_);
+  }
+
+  ioPath Photo(const std::string& name) const { return tree_.Path("photos") / ioPath(name); }
+  ioPath Make(const std::string& name, const std::string& content) const {
+    return tree_.Write("photos/" + name, content);
+  }
+
+  RenamePlan Plan(const std::vector<std::pair<std::string, std::string>>& steps) const {
+    RenamePlan plan;
+    for (const auto& [from, to] : steps) {
+      plan.steps.push_back({Photo(from), Photo(to)});
+    }
+    plan.renames = plan.steps;
+    return plan;
+  }
+
+  UndoResult Rename(const std::vector<std::pair<std::string, std::string>>& steps) {
+    return journal_->Rename(QStringLiteral("rename"), Plan(steps), never_, nullptr);
+  }
+
+  /// Puts new content into the photos, as an edit does.
+  UndoResult Edit(const std::vector<ioPath>& photos, const std::string& content) {
+    return EditPhotos(
+        *journal_, *locker_, QStringLiteral("edit"), photos,
+        [&](const ioPath& photo, const ioPath& side) {
+          EXPECT_EQ(side.parent_path(), photo.parent_path());
+          EXPECT_EQ(side.filename().utf8string().front(), '.');
+          WriteBytes(side, content);
+        },
+        never_, nullptr);
+  }
+
+  static void WriteBytes(const ioPath& file, const std::string& content) {
+    std::ofstream stream(file.for_system(), std::ios::binary);
+    stream << content;
+  }
+
+  /// Names and contents of what lies beside the photos.
+  std::map<std::string, std::string> Folder() const {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(tree_.Path("photos").native())) {
+      files[ioPath(entry.path().filename()).utf8string()] = ReadFile(ioPath(entry.path()));
+    }
+    return files;
+  }
+
+  std::size_t KeptFiles() const {
+    std::size_t count = 0;
+    for (const auto& entry :
+         std::filesystem::directory_iterator(tree_.Path("catalogue.sqlite.undo").native())) {
+      count += entry.path().filename() != "lock" ? 1 : 0;
+    }
+    return count;
+  }
+
+  void Sql(const std::string& statement) const { Zenvora::Test::RunSql(catalogue_, {statement}); }
+
+  const Zenvora::Test::TempTree tree_;
+  const ioPath catalogue_ = tree_.Path("catalogue.sqlite");
+  const ioPath folder_ = tree_.MakeFolder("photos");
+  const boost::intrusive_ptr<IFileAccessLocker> locker_ = FileAccessLocker::Create();
+  const std::atomic<bool> never_{false};
+  std::unique_ptr<UndoJournal> journal_;
+};
+
+using Files = std::map<std::string, std::string>;
+
+TEST_F(UndoJournalTest, RenamesAndTakesItBack) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  EXPECT_EQ(Rename({{"a.jpg", "x.jpg"}, {"b.jpg", "Пейзаж 1.jpg"}}).files, 2U);
+  EXPECT_EQ(Folder(), (Files{{"x.jpg", "A"}, {"Пейзаж 1.jpg", "B"}}));
+  const UndoResult undone = journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(undone.files, 2U);
+  EXPECT_EQ(undone.name, QStringLiteral("rename"));
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
+  EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 2U);
+  EXPECT_EQ(Folder(), (Files{{"x.jpg", "A"}, {"Пейзаж 1.jpg", "B"}}));
+}
+
+TEST_F(UndoJournalTest, SwapsNamesThroughATemporaryOne) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "B"}, {"b.jpg", "A"}}));
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
+}
+
+TEST_F(UndoJournalTest, RenamesAllOrNothing) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Make("taken.jpg", "T");
+  const UndoResult result = Rename({{"a.jpg", "x.jpg"}, {"b.jpg", "taken.jpg"}});
+  EXPECT_EQ(result.files, 0U);
+  ASSERT_EQ(result.findings.size(), 1U);
+  EXPECT_EQ(result.findings[0].file, Photo("b.jpg"));
+  EXPECT_NE(result.findings[0].cause.find("there is something of that name"), std::string::npos);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}, {"taken.jpg", "T"}}));
+  EXPECT_TRUE(journal_->Steps().empty());
+}
+
+TEST_F(UndoJournalTest, RecognisesAHopelessRenameWithoutWaiting) {
+  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime::currentDateTime());
+  const App::ServiceScope<App::IClock> scope(clock);
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  EXPECT_THROW(Rename({{"a.jpg", "x.jpg"}, {"gone.jpg", "y.jpg"}}), HostError);
+  EXPECT_EQ(Rename({{"a.jpg", "b.jpg"}}).files, 0U);
+  EXPECT_EQ(Rename({{"a.jpg", "missing/x.jpg"}}).files, 0U);
+  EXPECT_EQ(Rename({{"a.jpg", std::string(300, 'x')}}).files, 0U);
+  EXPECT_TRUE(clock->sleeps.empty());
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
+}
+
+TEST_F(UndoJournalTest, GivesOldNamesBackWhenInterrupted) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Make("c.jpg", "C");
+  std::atomic<bool> cancelled{false};
+  const UndoResult result =
+      journal_->Rename(QStringLiteral("rename"), Plan({{"a.jpg", "x"}, {"b.jpg", "y"}, {"c.jpg", "z"}}),
+                       cancelled, [&](std::size_t done, std::size_t) { cancelled = done == 2; });
+  EXPECT_TRUE(result.cancelled);
+  EXPECT_EQ(result.files, 0U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}, {"c.jpg", "C"}}));
+  EXPECT_TRUE(journal_->Steps().empty());
+}
+
+TEST_F(UndoJournalTest, TellsOfItsProgress) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  std::vector<std::pair<std::size_t, std::size_t>> told;
+  journal_->Rename(QStringLiteral("rename"), Plan({{"a.jpg", "x"}, {"b.jpg", "y"}}), never_,
+                   [&](std::size_t done, std::size_t all) { told.emplace_back(done, all); });
+  EXPECT_EQ(told, (std::vector<std::pair<std::size_t, std::size_t>>{{1, 2}, {2, 2}}));
+}
+
+TEST_F(UndoJournalTest, LeavesNothingOfAPlanWithoutSteps) {
+  EXPECT_EQ(Rename({}).files, 0U);
+  EXPECT_TRUE(journal_->Steps().empty());
+}
+
+TEST_F(UndoJournalTest, KeepsTheRecordsOfRenamedPhotos) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  std::map<std::string, QString> ids;
+  {
+    Catalogue catalogue(catalogue_, Catalogue::Mode::ReadWrite);
+    PhotoRecord a;
+    a.path = Photo("a.jpg");
+    PhotoRecord b;
+    b.path = Photo("b.jpg");
+    PhotoRecord gone;
+    gone.path = Photo("x.jpg");
+    catalogue.Store({a, b, gone});
+    catalogue.MarkLost({gone.path});
+    for (const PhotoRecord& photo : catalogue.Photos()) {
+      ids[photo.path.filename().utf8string()] = photo.id;
+    }
+  }
+  Rename({{"a.jpg", "x.jpg"}, {"b.jpg", "a.jpg"}});
+  const auto now = [&] {
+    std::map<std::string, QString> result;
+    for (const PhotoRecord& photo : Catalogue(catalogue_, Catalogue::Mode::ReadOnly).Photos()) {
+      result[photo.path.filename().utf8string()] = photo.id;
+    }
+    return result;
+  };
+  EXPECT_EQ(now(), (std::map<std::string, QString>{{"x.jpg", ids["a.jpg"]}, {"a.jpg", ids["b.jpg"]}}));
+  EXPECT_EQ(Catalogue(catalogue_, Catalogue::Mode::ReadOnly).CountPhotos(), 3U);
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(now(), ids);
+}
+
+TEST_F(UndoJournalTest, EditsAndBringsBackTheExactFile) {
+  const ioPath photo = Make("a.jpg", "old");
+  std::filesystem::last_write_time(photo.native(),
+                                   std::filesystem::file_time_type::clock::now() - std::chrono::hours(999));
+  const FileState before = QueryFile(photo);
+  EXPECT_EQ(Edit({photo}, "edited").files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "edited"}}));
+  EXPECT_EQ(KeptFiles(), 1U);
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "old"}}));
+  EXPECT_EQ(QueryFile(photo).modifiedNs, before.modifiedNs);
+  EXPECT_EQ(KeptFiles(), 1U);
+  EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "edited"}}));
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "old"}}));
+}
+
+TEST_F(UndoJournalTest, TakesBackSeveralStepsInTheirOrder) {
+  const ioPath photo = Make("a.jpg", "1");
+  Edit({photo}, "2");
+  Rename({{"a.jpg", "b.jpg"}});
+  Edit({Photo("b.jpg")}, "3");
+  ASSERT_EQ(journal_->Steps().size(), 3U);
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(Folder(), (Files{{"b.jpg", "2"}}));
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
+  EXPECT_TRUE(journal_->UndoLast(never_, nullptr).name.isEmpty());
+  for (int i = 0; i < 3; ++i) {
+    journal_->RedoLast(never_, nullptr);
+  }
+  EXPECT_EQ(Folder(), (Files{{"b.jpg", "3"}}));
+  EXPECT_TRUE(journal_->RedoLast(never_, nullptr).name.isEmpty());
+}
+
+TEST_F(UndoJournalTest, TakesBackAPhotoThatOneStepChangedTwice) {
+  const ioPath photo = Make("a.jpg", "1");
+  Edit({photo, photo}, "2");
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 2U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
+}
+
+TEST_F(UndoJournalTest, ForgetsWhatWasUndoneWhenSomethingNewIsDone) {
+  const ioPath photo = Make("a.jpg", "1");
+  Edit({photo}, "2");
+  journal_->UndoLast(never_, nullptr);
+  Edit({photo}, "3");
+  EXPECT_TRUE(journal_->RedoLast(never_, nullptr).name.isEmpty());
+  EXPECT_EQ(journal_->Steps().size(), 1U);
+  EXPECT_EQ(KeptFiles(), 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "3"}}));
+}
+
+TEST_F(UndoJournalTest, LeavesAPhotoThatOthersChangedSince) {
+  const ioPath photo = Make("a.jpg", "1");
+  const ioPath second = Make("b.jpg", "1");
+  Edit({photo, second}, "2");
+  WriteBytes(photo, "by others");
+  const UndoResult result = journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(result.files, 1U);
+  ASSERT_EQ(result.findings.size(), 1U);
+  EXPECT_EQ(result.findings[0].file, photo);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "by others"}, {"b.jpg", "1"}}));
+  // The original is still at hand.
+  WriteBytes(photo, "2");
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}, {"b.jpg", "1"}}));
+}
+
+TEST_F(UndoJournalTest, EditsTheOthersWhenOneFails) {
+  const ioPath photo = Make("a.jpg", "1");
+  const ioPath second = Make("b.jpg", "1");
+  const UndoResult result = EditPhotos(
+      *journal_, *locker_, QStringLiteral("edit"), {photo, second},
+      [&](const ioPath& file, const ioPath& side) {
+        WriteBytes(side, "2");
+        if (file == photo) {
+          side.remove();
+          throw std::runtime_error("a.jpg is damaged");
+        }
+      },
+      never_, nullptr);
+  EXPECT_EQ(result.files, 1U);
+  ASSERT_EQ(result.findings.size(), 1U);
+  EXPECT_EQ(result.findings[0].cause, "a.jpg is damaged");
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}, {"b.jpg", "2"}}));
+  EXPECT_EQ(KeptFiles(), 1U);
+}
+
+TEST_F(UndoJournalTest, ForgetsAStepInWhichNothingWasDone) {
+  const ioPath photo = Make("a.jpg", "1");
+  EditPhotos(
+      *journal_, *locker_, QStringLiteral("edit"), {photo},
+      [](const ioPath&, const ioPath&) { throw std::runtime_error("no"); }, never_, nullptr);
+  EXPECT_TRUE(journal_->Steps().empty());
+  EXPECT_EQ(KeptFiles(), 0U);
+}
+
+TEST_F(UndoJournalTest, KeepsAnOriginalThatHasTwoNamesApart) {
+  const ioPath photo = Make("a.jpg", "old");
+  std::error_code error;
+  std::filesystem::create_hard_link(photo.native(), Photo("same.jpg").native(), error);
+  if (error) {
+    GTEST_SKIP() << "no hard links can be made here";
+  }
+  Edit({photo}, "edited");
+  // Somebody changes the file where it lies, under its other name.
+  WriteBytes(Photo("same.jpg"), "changed");
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "old"}, {"same.jpg", "changed"}}));
+}
+
+TEST_F(UndoJournalTest, PointsAnAdoptedPhotoBack) {
+  Make("a.jpg", "1");
+  Make("b.jpg", "2");
+  {
+    Catalogue catalogue(catalogue_, Catalogue::Mode::ReadWrite);
+    PhotoRecord photo;
+    photo.path = Photo("b.jpg");
+    catalogue.Store({photo});
+  }
+  DataModel item;
+  item.SetPath(Photo("a.jpg"));
+  journal_->BeginStep(QStringLiteral("adopt"));
+  journal_->RegisterFileChange(item, Photo("b.jpg"));
+  journal_->FinishEdit();
+  journal_->EndStep();
+  EXPECT_TRUE(journal_->Undo());
+  EXPECT_EQ(Catalogue(catalogue_, Catalogue::Mode::ReadOnly).Photos().at(0).path, Photo("a.jpg"));
+  EXPECT_TRUE(journal_->Redo());
+  EXPECT_EQ(Catalogue(catalogue_, Catalogue::Mode::ReadOnly).Photos().at(0).path, Photo("b.jpg"));
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}, {"b.jpg", "2"}}));
+}
+
+TEST_F(UndoJournalTest, SeesToAChangeThatNobodyAnnounced) {
+  const ioPath photo = Make("a.jpg", "1");
+  DataModel item;
+  item.SetPath(photo);
+  journal_->RegisterFileChange(item, photo);
+  WriteBytes(Photo("side"), "2");
+  ASSERT_TRUE(Photo("side").rename(photo));
+  EXPECT_TRUE(journal_->Undo());
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
+}
+
+TEST_F(UndoJournalTest, IsForOneAtATime) {
+  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime::currentDateTime());
+  const App::ServiceScope<App::IClock> scope(clock);
+  try {
+    const UndoJournal second(catalogue_, *locker_);
+    ADD_FAILURE() << "two journals at once";
+  } catch (const HostError& failure) {
+    EXPECT_NE(std::string(failure.what()).find("try again"), std::string::npos) << failure.what();
+  }
+  EXPECT_FALSE(clock->sleeps.empty());
+}
+
+TEST_F(UndoJournalTest, ListsItsStepsTheLatestFirst) {
+  const ioPath photo = Make("a.jpg", "12345");
+  Edit({photo}, "2");
+  Rename({{"a.jpg", "b.jpg"}});
+  journal_->UndoLast(never_, nullptr);
+  const auto steps = journal_->Steps();
+  ASSERT_EQ(steps.size(), 2U);
+  EXPECT_EQ(steps[0].name, QStringLiteral("rename"));
+  EXPECT_TRUE(steps[0].undone);
+  EXPECT_EQ(steps[0].files, 1U);
+  EXPECT_EQ(steps[0].keptBytes, 0U);
+  EXPECT_EQ(steps[1].name, QStringLiteral("edit"));
+  EXPECT_FALSE(steps[1].undone);
+  EXPECT_EQ(steps[1].keptBytes, 5U);
+  EXPECT_LT(steps[1].number, steps[0].number);
+  EXPECT_EQ(steps[1].begun.timeSpec(), Qt::UTC);
+}
+
+TEST_F(UndoJournalTest, ForgetsWhatIsTooOldOrTooMuch) {
+  const ioPath photo = Make("a.jpg", std::string(1000, 'x'));
+  Edit({photo}, std::string(1000, 'y'));
+  Edit({photo}, std::string(1000, 'z'));
+  const QDateTime now = QDateTime::currentDateTimeUtc();
+  UndoLimits limits;
+  EXPECT_EQ(journal_->Prune(limits, now), 0U);
+  limits.bytes = 1500;
+  EXPECT_EQ(journal_->Prune(limits, now), 1U);
+  EXPECT_EQ(journal_->Steps().size(), 1U);
+  EXPECT_EQ(KeptFiles(), 1U);
+  limits.days = 1;
+  EXPECT_EQ(journal_->Prune(limits, now.addDays(2)), 1U);
+  EXPECT_EQ(KeptFiles(), 0U);
+  EXPECT_EQ(ReadFile(photo), std::string(1000, 'z'));
+}
+
+// --- What was under way when the program stopped
+
+TEST_F(UndoJournalTest, FinishesARenameThatWasBrokenOff) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  // As it was after each of the moves.
+  const std::vector<std::pair<std::string, std::string>> back = {
+      {"b.jpg", ".lumidex-t.jpg"}, {"a.jpg", "b.jpg"}, {".lumidex-t.jpg", "a.jpg"}};
+  for (std::size_t taken = 0; taken <= back.size(); ++taken) {
+    for (std::size_t i = 0; i < taken; ++i) {
+      ASSERT_TRUE(Photo(back[i].first).rename(Photo(back[i].second)));
+    }
+    journal_.reset();
+    Sql("UPDATE steps SET state = 1");
+    EXPECT_TRUE(NeedsRecovery(catalogue_));
+    Open();
+    EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
+    EXPECT_EQ(Folder(), (Files{{"a.jpg", "B"}, {"b.jpg", "A"}})) << taken;
+    EXPECT_FALSE(NeedsRecovery(catalogue_));
+  }
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
+}
+
+TEST_F(UndoJournalTest, FinishesATakingBackThatWasBrokenOff) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Rename({{"a.jpg", "x.jpg"}, {"b.jpg", "y.jpg"}});
+  ASSERT_TRUE(Photo("y.jpg").rename(Photo("b.jpg")));
+  journal_.reset();
+  Sql("UPDATE steps SET state = 3");
+  Open();
+  EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
+  EXPECT_TRUE(journal_->Steps().at(0).undone);
+}
+
+TEST_F(UndoJournalTest, TakesBackARenameThatCannotBeFinished) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Rename({{"a.jpg", "x.jpg"}, {"b.jpg", "y.jpg"}});
+  ASSERT_TRUE(Photo("y.jpg").rename(Photo("b.jpg")));
+  Make("y.jpg", "of others");
+  journal_.reset();
+  Sql("UPDATE steps SET state = 1");
+  Open();
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}, {"y.jpg", "of others"}}));
+  ASSERT_EQ(journal_->RecoveryNotes().size(), 1U);
+  EXPECT_NE(journal_->RecoveryNotes()[0].find("as before"), std::string::npos);
+  EXPECT_TRUE(journal_->Steps().empty());
+}
+
+TEST_F(UndoJournalTest, ForgetsAnEditThatHadNotBegunToReplace) {
+  const ioPath photo = Make("a.jpg", "1");
+  journal_->BeginStep(QStringLiteral("edit"));
+  const ioPath side = journal_->PlanEdit(photo);
+  WriteBytes(side, "half");
+  Open();
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
+  EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
+  EXPECT_TRUE(journal_->Steps().empty());
+}
+
+TEST_F(UndoJournalTest, ForgetsAnEditThatHadNotReplacedYet) {
+  const ioPath photo = Make("a.jpg", "1");
+  journal_->BeginStep(QStringLiteral("edit"));
+  const ioPath side = journal_->PlanEdit(photo);
+  WriteBytes(side, "2");
+  DataModel item;
+  item.SetPath(photo);
+  journal_->RegisterFileChange(item, photo);
+  Open();
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
+  EXPECT_EQ(KeptFiles(), 0U);
+}
+
+TEST_F(UndoJournalTest, KnowsAnEditThatHadReplaced) {
+  const ioPath photo = Make("a.jpg", "1");
+  journal_->BeginStep(QStringLiteral("edit"));
+  const ioPath side = journal_->PlanEdit(photo);
+  WriteBytes(side, "2");
+  DataModel item;
+  item.SetPath(photo);
+  journal_->RegisterFileChange(item, photo);
+  ASSERT_TRUE(side.rename(photo));
+  Open();
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
+  EXPECT_EQ(journal_->Steps().size(), 1U);
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
+}
+
+TEST_F(UndoJournalTest, FinishesAnExchangeThatWasBrokenOffOnEitherSide) {
+  for (const bool exchanged : {false, true}) {
+    const ioPath photo = Make("a.jpg", "1");
+    Edit({photo}, "2");
+    const std::int64_t number = journal_->Steps().at(0).number;
+    // Both versions are kept, and the photo is one of them.
+    const ioPath kept = tree_.Path("catalogue.sqlite.undo");
+    ioPath before;
+    for (const auto& entry : std::filesystem::directory_iterator(kept.native())) {
+      if (entry.path().filename() != "lock") {
+        before = ioPath(entry.path());
+      }
+    }
+    std::string after = before.utf8string();
+    after.replace(after.rfind("-before"), 7, "-after");
+    WriteBytes(ioPath(after), "2");
+    if (exchanged) {
+      WriteBytes(photo, "1");
+    }
+    journal_.reset();
+    Sql("UPDATE steps SET state = 3 WHERE number = " + std::to_string(number));
+    Sql("UPDATE changes SET state = 3 WHERE step = " + std::to_string(number));
+    Open();
+    EXPECT_EQ(ReadFile(photo), "1");
+    EXPECT_EQ(KeptFiles(), 1U);
+    journal_->RedoLast(never_, nullptr);
+    EXPECT_EQ(ReadFile(photo), "2");
+    journal_->UndoLast(never_, nullptr);
+  }
+}
+
+TEST_F(UndoJournalTest, SweepsAwayWhatNothingSpeaksOf) {
+  WriteBytes(tree_.Path("catalogue.sqlite.undo/99-before.jpg"), "left over");
+  Open();
+  EXPECT_EQ(KeptFiles(), 0U);
+}
+
+TEST(NeedsRecoveryOf, ACatalogueThatIsNotThereIsFalse) {
+  const Zenvora::Test::TempTree tree;
+  EXPECT_FALSE(NeedsRecovery(tree.Path("catalogue.sqlite")));
+  EXPECT_FALSE(tree.Path("catalogue.sqlite").exists());
+  EXPECT_FALSE(NeedsRecovery(tree.Write("no.sqlite", "no catalogue")));
+}
+
+}  // namespace
+}  // namespace Zenvora::Lumidex::Host
