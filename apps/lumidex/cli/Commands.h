@@ -6,7 +6,8 @@
 
 namespace Zenvora::Lumidex::Cli {
 
-/// Each adds one command, or some of a kind, to the program. Parsing one puts what is to be done into `chosen`.
+/// Each adds one command, or some of a kind, to the program. Parsing one puts what is to be done into
+/// `chosen`.
 void AddScanCommand(CLI::App& program, Action& chosen);
 void AddAlbumsCommand(CLI::App& program, Action& chosen);
 void AddRenameCommand(CLI::App& program, Action& chosen);

@@ -2,9 +2,8 @@
 
 #include "UndoSettings.h"
 
-#include <host/HostError.h>
-
 #include <LumidexUtil/FileAccessLocker.h>
+#include <host/HostError.h>
 
 #include <zenvora/app/Application.h>
 

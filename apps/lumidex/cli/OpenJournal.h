@@ -35,8 +35,8 @@ class OpenJournal {
   std::unique_ptr<Host::UndoJournal> journal_;
 };
 
-/// For commands that use the catalogue but not its journal: finishes or takes back what a former run left half
-/// done. When another program has the journal open, it is at work, and this goes on without.
+/// For commands that use the catalogue but not its journal: finishes or takes back what a former run left
+/// half done. When another program has the journal open, it is at work, and this goes on without.
 void RecoverIfNeeded(Session& session);
 
 }  // namespace Zenvora::Lumidex::Cli

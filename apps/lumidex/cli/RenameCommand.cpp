@@ -80,8 +80,7 @@ Host::RenameOptions OptionsOf(const RenameArguments& arguments) {
                   : arguments.order == "name" ? Host::RenameOrder::ByName
                                               : Host::RenameOrder::AsGiven;
   options.start = arguments.start;
-  options.onProblem =
-      arguments.skipProblems ? Host::RenameFailing::Others : Host::RenameFailing::Nothing;
+  options.onProblem = arguments.skipProblems ? Host::RenameFailing::Others : Host::RenameFailing::Nothing;
   options.token = Tavolin::GenerateUuid().toStdString();
   return options;
 }

@@ -88,8 +88,8 @@ std::string NotesText(const RenameView& view) {
 
 std::string RefusedText(const RenameView& view) {
   const std::size_t problems = view.plan.problems.size();
-  return "Nothing " + std::string(view.dryRun ? "would be" : "was") + " renamed: " +
-         GroupDigits(problems) + " of " + Counted(view.shots, "photo") +
+  return "Nothing " + std::string(view.dryRun ? "would be" : "was") + " renamed: " + GroupDigits(problems) +
+         " of " + Counted(view.shots, "photo") +
          " cannot have the new name. With --skip-problems the\nothers are renamed.\n";
 }
 
@@ -106,6 +106,9 @@ std::string OutcomeText(const RenameView& view) {
   }
   if (view.result.files == 0) {
     return "Nothing was renamed.\n";
+  }
+  if (!view.result.findings.empty()) {
+    return Counted(view.result.files, "file") + " could not be given back the old name.\n";
   }
   return what + " renamed" + (view.canBeUndone ? "; \"lumidex undo\" takes it back.\n" : ".\n");
 }
@@ -137,6 +140,7 @@ std::string PhotosAndFiles(std::size_t photos, std::size_t files) {
 
 std::string RenameDocument(const RenameView& view) {
   const bool done = view.dryRun || view.result.files > 0;
+  const std::size_t files = view.result.findings.empty() ? view.plan.renames.size() : view.result.files;
   JsonWriter json("lumidex.rename", 1);
   json.Path("catalogue", view.catalogue);
   json.Truth("dryRun", view.dryRun);
@@ -144,7 +148,7 @@ std::string RenameDocument(const RenameView& view) {
   json.Truth("refused", view.refused);
   json.Number("photos", static_cast<long long>(view.shots));
   json.Number("photosRenamed", static_cast<long long>(done ? view.planned : 0));
-  json.Number("filesRenamed", static_cast<long long>(done ? view.plan.renames.size() : 0));
+  json.Number("filesRenamed", static_cast<long long>(done ? files : 0));
   json.Number("filesUnchanged", static_cast<long long>(view.plan.unchanged));
   json.Number("fileTimes", static_cast<long long>(view.fileTimes));
   json.BeginArray("renames");

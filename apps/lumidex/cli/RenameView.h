@@ -15,9 +15,9 @@ namespace Zenvora::Lumidex::Cli {
 struct RenameView {
   ioPath catalogue;
   bool dryRun = false;
-  bool refused = false;      ///< There are problems, and nothing is renamed because of them.
-  std::size_t shots = 0;     ///< Photos that were looked at; one in several formats counts once.
-  std::size_t fileTimes = 0; ///< Of these: named by the file's time, for want of a date of their own.
+  bool refused = false;       ///< There are problems, and nothing is renamed because of them.
+  std::size_t shots = 0;      ///< Photos that were looked at; one in several formats counts once.
+  std::size_t fileTimes = 0;  ///< Of these: named by the file's time, for want of a date of their own.
   Host::RenamePlan plan;
   std::size_t planned = 0;  ///< Photos that the plan renames.
   Host::UndoResult result;  ///< Of the run; of a dry run empty.
