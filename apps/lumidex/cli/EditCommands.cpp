@@ -28,7 +28,7 @@ constexpr char kShiftDescription[] =
     "Correct the dates of photos whose camera's clock was wrong.\n"
     "\n"
     "OFFSET is added to the dates: +1h, -2d3h, +90m, or by the clock +1:30 and\n"
-    "-0:00:45. All of a photo's dates move alike, those in its XMP and IPTC data too.\n"
+    "-0:00:45. All of a photo's dates move alike, also those in XMP and IPTC data.\n"
     "\"lumidex undo\" takes it back.";
 
 constexpr char kSetDescription[] =
@@ -55,7 +55,7 @@ constexpr char kShiftExamples[] =
     R"(
 Examples:
   lumidex shift-date +1h ~/Pictures/trip        the clock was an hour slow
-  lumidex shift-date -- -2d3h IMG_1.jpg         it was two days and 3 hours fast
+  lumidex shift-date -2d3h IMG_1.jpg            it was days fast
   lumidex shift-date --dry-run +1:30 *.jpg
 )";
 

@@ -34,13 +34,13 @@ constexpr char kFooter[] =
   {number}  {number:4}             a number, with at least so many digits
   {date}  {date:yyyy-MM-dd}        the day: letters d, M and y
   {datetime}                       yyyy-MM-dd_HH-mm-ss, the day and the time
-  {datetime:yyyyMMdd_HHmmss}       the same in other words: also h, H, m, s, z, AP
+  {datetime:yyyyMMdd_HHmmss}       the same in other words; h, H, m, s, z, AP
   {name}                           the old name without its extension
   {{  }}                           one brace
 
-A folder stands for the photos in it, not for those below. When one photo cannot
-have its new name, because it is taken or no system should have such a name,
-nothing is renamed and every such photo is listed. Dates are those of the
+A folder stands for the photos in it, not for those below. When one photo
+cannot have its new name, because it is taken or no system should have such a
+name, nothing is renamed and every such photo is listed. Dates are those of the
 camera; of a photo without one the file's time is used, which is told.
 
 Examples:
@@ -50,8 +50,8 @@ Examples:
   lumidex rename --pattern "{datetime} {name}" --skip-problems *.jpg
 
 Exit codes: 0 done; 1 nothing was renamed because of problems, or there are no
-photos; 3 some photos were left out because of problems; 4 a file is missing, or
-could not be renamed: then none was; 130 interrupted, none was renamed.)";
+photos; 3 some photos were left out because of problems; 4 a file is missing,
+or could not be renamed: then none was; 130 interrupted, none was renamed.)";
 
 struct RenameArguments {
   std::vector<std::string> files;

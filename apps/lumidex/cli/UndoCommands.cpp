@@ -2,6 +2,7 @@
 #include "OpenJournal.h"
 #include "Options.h"
 #include "Progress.h"
+#include "TerminalText.h"
 #include "UndoSettings.h"
 #include "UndoView.h"
 #include "ValueTexts.h"
@@ -85,9 +86,7 @@ class UndoRun {
     }
     view_.recovered = session_.recovered;
     session_.output.Print(session_.globals.json ? UndoDocument(view_) : UndoText(view_));
-    if (view_.interrupted) {
-      session_.console.Note("Interrupted. What was done so far stays so.");
-    }
+    Note();
     return view_.limits || view_.steps ? ExitCode::Done : Judge();
   }
 
@@ -127,6 +126,17 @@ class UndoRun {
     return whole;
   }
 
+  bool AreFewer() const { return view_.done.size() < static_cast<std::size_t>(arguments_.last); }
+
+  void Note() const {
+    if (view_.interrupted) {
+      session_.console.Note("Interrupted. What was done so far stays so.");
+    } else if (!view_.done.empty() && AreFewer()) {
+      session_.console.Note("Only " + Counted(view_.done.size(), "step") + " of the " +
+                            std::to_string(arguments_.last) + " asked for.");
+    }
+  }
+
   ExitCode Judge() const {
     if (view_.interrupted) {
       return ExitCode::Interrupted;
@@ -140,8 +150,7 @@ class UndoRun {
     if (anyFinding) {
       return anyFile ? ExitCode::Partly : ExitCode::Failed;
     }
-    return view_.done.size() < static_cast<std::size_t>(arguments_.last) ? ExitCode::Findings
-                                                                         : ExitCode::Done;
+    return AreFewer() ? ExitCode::Findings : ExitCode::Done;
   }
 
   const UndoArguments& arguments_;
