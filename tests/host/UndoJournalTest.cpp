@@ -6,9 +6,12 @@
 #include <host/Scanner.h>
 #include <host/UndoJournal.h>
 #include <support/Doubles.h>
+#include <support/LeftOut.h>
+#include <support/SmallDisk.h>
 #include <support/TempTree.h>
 
 #include <zenvora/core/FileState.h>
+#include <zenvora/core/NewFile.h>
 
 #include <gtest/gtest.h>
 
@@ -533,6 +536,84 @@ TEST_F(UndoJournalTest, SweepsAwayWhatNothingSpeaksOf) {
   Open();
   EXPECT_EQ(KeptFiles(), 0U);
 }
+
+// --- Volumes
+
+#ifdef _WIN32
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, LosesNothingWhenThePhotosDiskIsFull,
+                              Zenvora::Test::kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, LosesNothingWhenTheJournalsDiskIsFull,
+                              Zenvora::Test::kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, KeepsPhotosOfAnotherVolume, Zenvora::Test::kNoSizeLimit);
+#else
+constexpr std::size_t kSmall = std::size_t{1} << 20U;
+
+#define LUMIDEX_DISK_OR_SKIP(disk)                                 \
+  if (!(disk).IsThere()) {                                         \
+    GTEST_SKIP() << "only the superuser can mount a small volume"; \
+  }                                                                \
+  static_assert(true)
+
+/// Writes the side file as an edit does, and fails as one.
+void WriteSide(const ioPath& side, const std::string& content) {
+  NewFile file;
+  std::error_code error = file.Create(side);
+  error = error ? error : file.Write(content.data(), content.size());
+  error = error ? error : file.Close(true);
+  if (error) {
+    throw std::runtime_error(error.message());
+  }
+  file.Release();
+}
+
+TEST_F(UndoJournalTest, LosesNothingWhenThePhotosDiskIsFull) {
+  const Zenvora::Test::SmallDisk disk(folder_, kSmall);
+  LUMIDEX_DISK_OR_SKIP(disk);
+  const std::string old(kSmall / 2, 'x');
+  const ioPath photo = Make("a.jpg", old);
+  const ioPath small = Make("b.jpg", "small");
+  const UndoResult result = EditPhotos(
+      *journal_, *locker_, QStringLiteral("edit"), {photo, small},
+      [&](const ioPath& file, const ioPath& side) {
+        WriteSide(side, file == photo ? std::string(kSmall, 'y') : "other");
+      },
+      never_, nullptr);
+  EXPECT_EQ(result.files, 1U);
+  ASSERT_EQ(result.findings.size(), 1U);
+  EXPECT_EQ(result.findings[0].file, photo);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", old}, {"b.jpg", "other"}}));
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", old}, {"b.jpg", "small"}}));
+}
+
+TEST_F(UndoJournalTest, LosesNothingWhenTheJournalsDiskIsFull) {
+  const ioPath place = tree_.MakeFolder("small");
+  const Zenvora::Test::SmallDisk disk(place, kSmall);
+  LUMIDEX_DISK_OR_SKIP(disk);
+  const ioPath photo = Make("a.jpg", std::string(kSmall, 'x'));
+  UndoJournal journal(place / "catalogue.sqlite", *locker_);
+  const UndoResult result = EditPhotos(
+      journal, *locker_, QStringLiteral("edit"), {photo},
+      [](const ioPath&, const ioPath& side) { WriteSide(side, "edited"); }, never_, nullptr);
+  EXPECT_EQ(result.files, 0U);
+  EXPECT_EQ(result.findings.size(), 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", std::string(kSmall, 'x')}}));
+  EXPECT_TRUE(journal.Steps().empty());
+}
+
+TEST_F(UndoJournalTest, KeepsPhotosOfAnotherVolume) {
+  const Zenvora::Test::SmallDisk disk(folder_, kSmall);
+  LUMIDEX_DISK_OR_SKIP(disk);
+  const ioPath photo = Make("a.jpg", "old");
+  const FileState before = QueryFile(photo);
+  Edit({photo}, "edited");
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "old"}}));
+  EXPECT_EQ(QueryFile(photo).modifiedNs, before.modifiedNs);
+  EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "edited"}}));
+}
+#endif
 
 TEST(NeedsRecoveryOf, ACatalogueThatIsNotThereIsFalse) {
   const Zenvora::Test::TempTree tree;

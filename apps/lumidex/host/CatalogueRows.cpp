@@ -6,11 +6,13 @@
 
 namespace Zenvora::Lumidex::Host {
 
-namespace fs = std::filesystem;
-
 QByteArray PathBytes(const ioPath& path) {
-  fs::path plain = path.native();
+#ifdef _WIN32
+  std::filesystem::path plain = path.native();
   return QByteArray::fromStdString(ioPath(plain.make_preferred()).utf8string());
+#else
+  return QByteArray::fromStdString(path.native().native());
+#endif
 }
 
 ioPath PathOf(const QVariant& bytes) {

@@ -10,6 +10,7 @@
 
 #include <QDataStream>
 
+#include <filesystem>
 #include <set>
 #include <string>
 #include <unordered_map>
@@ -59,11 +60,11 @@ void MovePatiently(IFileAccessLocker& locker, const ioPath& from, const ioPath& 
 std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps) {
   std::vector<FileMove> moves;
   moves.reserve(steps.size());
-  // Where the moves so far have put what.
-  std::unordered_map<ioPath, std::size_t> arrived;
+  // Where the moves so far have put what. By the name's bytes: a path takes its time to hash.
+  std::unordered_map<std::filesystem::path::string_type, std::size_t> arrived;
   for (const RenameMove& step : steps) {
     FileMove move{step.from, step.to};
-    const auto before = arrived.find(step.from);
+    const auto before = arrived.find(step.from.native().native());
     if (before != arrived.end()) {
       move = moves[before->second];
       move.from = step.from;
@@ -79,7 +80,7 @@ std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps) {
       move.size = state.size;
       move.modifiedNs = state.modifiedNs;
     }
-    arrived[step.to] = moves.size();
+    arrived[step.to.native().native()] = moves.size();
     moves.push_back(std::move(move));
   }
   return moves;
@@ -145,12 +146,22 @@ void MoveFile(IFileAccessLocker& locker, const ioPath& from, const ioPath& to) {
 
 void SyncFoldersOf(const std::vector<FileMove>& moves) {
   std::set<ioPath> folders;
-  for (const FileMove& move : moves) {
-    for (const ioPath& file : {move.from, move.to}) {
-      if (folders.insert(file.parent_path()).second) {
+  std::filesystem::path::string_type last;
+  const auto sync = [&](const ioPath& file) {
+    const auto& name = file.native().native();
+    // As a rule they are all in one.
+    if (last.empty() || name.compare(0, last.size(), last) != 0 ||
+        name.find(std::filesystem::path::preferred_separator, last.size() + 1) != name.npos) {
+      const ioPath folder = file.parent_path();
+      last = folder.native().native();
+      if (folders.insert(folder).second) {
         SyncFolderOf(file);
       }
     }
+  };
+  for (const FileMove& move : moves) {
+    sync(move.from);
+    sync(move.to);
   }
 }
 
