@@ -2,12 +2,15 @@
 
 #include <host/Catalogue.h>
 #include <support/LeftOut.h>
+#include <support/SmallDisk.h>
 
 #include <zenvora/core/FileState.h>
 
 #include <QJsonArray>
 
 #include <filesystem>
+#include <optional>
+#include <system_error>
 
 namespace Zenvora::Test {
 namespace {
@@ -351,18 +354,31 @@ TEST_F(RenameCommand, RenamesFilesWhoseNamesAreNoText) {
 }
 
 TEST_F(RenameCommand, LeavesAFolderAloneThatCannotBeWritten) {
-  if (IsSuperuser()) {
-    GTEST_SKIP() << "the superuser may write into every folder";
+  std::error_code ignored;
+  // No permission stops the superuser.
+  const bool mounts = IsSuperuser();
+  std::optional<SmallDisk> disk;
+  if (mounts) {
+    disk.emplace(Photos(), 1U << 20U);
   }
   Photo("a.jpg");
+  Photo("b.jpg");
+  if (mounts && !disk->MakeReadOnly()) {
+    GTEST_SKIP() << "no volume can be mounted here, and no folder is closed to the superuser";
+  }
   std::filesystem::permissions(Photos().native(), std::filesystem::perms::owner_write,
-                               std::filesystem::perm_options::remove);
+                               std::filesystem::perm_options::remove, ignored);
   const Ran ran = Rename("x{number}");
+  const Ran edit = Run({"rotate", "right", "photos"});
   std::filesystem::permissions(Photos().native(), std::filesystem::perms::owner_write,
-                               std::filesystem::perm_options::add);
+                               std::filesystem::perm_options::add, ignored);
   EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_THAT(ran.out, HasSubstr("Cannot rename " + (Photos() / "a.jpg").utf8string()));
   EXPECT_THAT(ran.out, HasSubstr("Nothing was renamed."));
-  EXPECT_THAT(Names(), ElementsAre("a.jpg"));
+  EXPECT_EQ(edit.exitCode, 4);
+  EXPECT_THAT(edit.out, HasSubstr("Nothing was changed."));
+  EXPECT_THAT(Names(), ElementsAre("a.jpg", "b.jpg"));
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
 }
 
 #else

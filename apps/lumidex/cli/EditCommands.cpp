@@ -11,7 +11,10 @@
 
 #include <zenvora/strandel/PhotoEdit.h>
 
+#include <glog/logging.h>
+
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace Zenvora::Lumidex::Cli {
@@ -135,8 +138,9 @@ class EditRun {
   }
 
   ExitCode Run() {
-    if (!arguments_.dryRun) {
-      RecoverIfNeeded(session_);
+    // What a former run left half done changes what there is to choose from.
+    if (!arguments_.dryRun && Host::NeedsRecovery(view_.catalogue)) {
+      journal_.emplace(session_);
     }
     Choose();
     if (arguments_.dryRun) {
@@ -181,13 +185,16 @@ class EditRun {
   }
 
   void Edit() {
-    OpenJournal journal(session_);
+    VLOG(1) << "editing " << photos_.size() << " photos";
+    if (!journal_) {
+      journal_.emplace(session_);
+    }
     const std::string step = order_.step + ": " + Counted(photos_.size(), "photo");
     Host::UndoResult result;
     {
       Progress progress(session_.console, "Editing", "photos");
       result = Host::EditPhotos(
-          journal.Get(), journal.Locker(), QString::fromStdString(step), photos_,
+          journal_->Get(), journal_->Locker(), QString::fromStdString(step), photos_,
           [this](const ioPath& photo, const ioPath& side) {
             Strandel::WriteEdited(photo, side, order_.edit);
           },
@@ -198,8 +205,8 @@ class EditRun {
     view_.interrupted = result.cancelled;
     view_.findings.insert(view_.findings.end(), result.findings.begin(), result.findings.end());
     if (result.files > 0) {
-      journal.Prune();
-      view_.canBeUndone = journal.CanUndoLast();
+      journal_->Prune();
+      view_.canBeUndone = journal_->CanUndoLast();
     }
   }
 
@@ -225,6 +232,7 @@ class EditRun {
   const EditArguments& arguments_;
   const Order order_;
   Session& session_;
+  std::optional<OpenJournal> journal_;
   std::vector<ioPath> photos_;
   EditView view_;
 };

@@ -13,6 +13,8 @@
 
 #include <zenvora/tavolin/Uuid.h>
 
+#include <glog/logging.h>
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -169,6 +171,7 @@ class RenameRun {
   }
 
   void Rename() {
+    VLOG(1) << "renaming " << view_.plan.renames.size() << " files";
     if (!journal_) {
       journal_.emplace(session_);
     }
