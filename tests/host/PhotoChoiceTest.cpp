@@ -14,6 +14,7 @@
 namespace Zenvora::Lumidex::Host {
 namespace {
 
+using Test::Pipe;
 using Test::TempTree;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -80,7 +81,7 @@ TEST(PhotoChoice, KnowsNoHalfPlans) {
   EXPECT_EQ(Cause(tree, "gone.jpg"),
             "Nothing was renamed: " + tree.Path("gone.jpg").utf8string() + " does not exist.");
   EXPECT_NE(Cause(tree, "a.jpg/b.jpg"), "");
-  const Test::Pipe pipe(tree.Path("pipe.jpg"));
+  const Pipe pipe(tree.Path("pipe.jpg"));
   EXPECT_THROW(ChooseForRename({pipe.Path()}), HostError);
   LUMIDEX_LINK_OR_SKIP("loop.jpg", tree.Path("loop.jpg"));
   EXPECT_EQ(Cause(tree, "loop.jpg"), "Nothing was renamed: " + tree.Path("loop.jpg").utf8string() +
@@ -95,7 +96,7 @@ TEST(PhotoChoice, RefusesOneByOneWhatCannotBeEdited) {
   tree.Write("d/notes.txt", "");
   const std::string d = tree.Path("d").utf8string();
   const ioPath in = tree.Path("d");
-  const Test::Pipe pipe(tree.Path("d/pipe.jpg"));
+  const Pipe pipe(tree.Path("d/pipe.jpg"));
   const EditChoice choice =
       ChooseForEdit({in / "notes.txt", in / "b.jpg", in / ".hidden.jpg", in, in / "gone.jpg", pipe.Path()});
   EXPECT_THAT(choice.photos, ElementsAre(in / "b.jpg", in / "a.jpg"));

@@ -13,7 +13,9 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 using Test::PhotoTags;
+using Test::ReadFile;
 using Test::TempTree;
+using Test::WriteJpeg;
 
 constexpr std::size_t kFew = 1;
 constexpr std::size_t kMany = 1'000;
@@ -29,13 +31,13 @@ ShotSet Shot(const std::vector<ioPath>& files) {
 ioPath Original(const ioPath& file, const char* date = "2021:05:01 10:20:30") {
   PhotoTags tags;
   tags.dateTimeOriginal = date;
-  return Test::WriteJpeg(file, tags);
+  return WriteJpeg(file, tags);
 }
 
 ioPath Digitised(const ioPath& file) {
   PhotoTags tags;
   tags.dateTimeDigitized = "2022:05:01 10:20:30";
-  return Test::WriteJpeg(file, tags);
+  return WriteJpeg(file, tags);
 }
 
 std::string Day(const ShotDate& date) {
@@ -47,7 +49,7 @@ TEST(ShotDates, AreTheBestOfAllFilesOfTheShot) {
   const ioPath original = Original(tree.Path("a.jpg"));
   const ioPath later = Original(tree.Path("b.jpg"), "2023:01:01 00:00:00");
   const ioPath digitised = Digitised(tree.Path("c.jpg"));
-  const ioPath silent = Test::WriteJpeg(tree.Path("d.jpg"));
+  const ioPath silent = WriteJpeg(tree.Path("d.jpg"));
   const ioPath fake = tree.Write("e.jpg", "this is no image");
   const ioPath settings = tree.Write("f.xmp", "");
   const ShotDates dates(tree.Path("none.sqlite"), kMany);
@@ -107,7 +109,7 @@ TEST(ShotDates, DoWithoutACatalogueThatCannotBeRead) {
   const ioPath catalogue = tree.Write("catalogue.sqlite", nonsense);
   const ShotDates dates(catalogue, kMany);
   EXPECT_EQ(Day(dates.Of(Shot({Original(tree.Path("a.jpg"))}))), "2021-05-01");
-  EXPECT_EQ(Test::ReadFile(catalogue), nonsense);
+  EXPECT_EQ(ReadFile(catalogue), nonsense);
 }
 
 }  // namespace
