@@ -9,7 +9,9 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
+#include <zenvora/strandel/EditRules.h>
 #include <zenvora/strandel/PhotoEdit.h>
+#include <zenvora/strandel/PhotoFacts.h>
 
 #include <exiv2/exiv2.hpp>
 
@@ -226,6 +228,58 @@ void WriteNew(const ioPath& side, const ioPath& photo, const Content& content, c
   file.Release();
 }
 
+/// How a photo is shown and sorted.
+struct Shown {
+  int orientation = 1;
+  QDateTime taken;
+};
+
+std::string TextOf(const Exiv2::ExifData& exif, const char* key) {
+  const auto found = exif.findKey(Exiv2::ExifKey(key));
+  return found == exif.end() ? std::string() : found->toString();
+}
+
+Shown ShownBy(const Exiv2::ExifData& exif) {
+  Shown shown;
+  const auto orientation = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
+  if (orientation != exif.end() && orientation->count() > 0) {
+    // What makes no sense counts as upright.
+    shown.orientation = TurnedOrientation(static_cast<int>(orientation->toLong()), Turn::None);
+  }
+  shown.taken = ParseExifDateTime(TextOf(exif, "Exif.Photo.DateTimeOriginal"),
+                                  TextOf(exif, "Exif.Photo.SubSecTimeOriginal"));
+  if (!shown.taken.isValid()) {
+    shown.taken = ParseExifDateTime(TextOf(exif, "Exif.Photo.DateTimeDigitized"),
+                                    TextOf(exif, "Exif.Photo.SubSecTimeDigitized"));
+  }
+  return shown;
+}
+
+Shown ReadShown(const std::string& bytes) {
+  const auto lock = LockExiv();
+  try {
+    return ShownBy(ReadMetadata(bytes)->exifData());
+  } catch (const Exiv2::AnyError& error) {
+    throw EditRefusal(std::string("it is damaged: ") + error.what());
+  }
+}
+
+/// Whatever goes wrong in the work becomes an error that names the photo.
+template <class Work>
+void Explaining(const ioPath& photo, const Work& work) {
+  try {
+    work();
+  } catch (const EditRefusal& refusal) {
+    Throw(photo, refusal.what());
+  } catch (const std::bad_alloc&) {
+    Throw(photo, "editing it takes more memory than there is");
+  } catch (const Exception&) {
+    throw;
+  } catch (const std::exception& error) {
+    Throw(photo, std::string("it is damaged: ") + error.what());
+  }
+}
+
 }  // namespace
 
 std::string WhyNotEditable(const ioPath& photo) {
@@ -241,19 +295,23 @@ std::string WhyNotEditable(const ioPath& photo) {
 }
 
 void WriteEdited(const ioPath& photo, const ioPath& side, const PhotoEdit& edit) {
-  try {
+  Explaining(photo, [&] {
     CheckEdit(edit);
     const Content content = ReadWhole(photo);
     WriteNew(side, photo, content, Edited(content, edit));
-  } catch (const EditRefusal& refusal) {
-    Throw(photo, refusal.what());
-  } catch (const std::bad_alloc&) {
-    Throw(photo, "editing it takes more memory than there is");
-  } catch (const Exception&) {
-    throw;
-  } catch (const std::exception& error) {
-    Throw(photo, std::string("it is damaged: ") + error.what());
-  }
+  });
+}
+
+EditEffect TryEdit(const ioPath& photo, const PhotoEdit& edit) {
+  EditEffect effect;
+  Explaining(photo, [&] {
+    CheckEdit(edit);
+    const Content content = ReadWhole(photo);
+    const Shown before = ReadShown(content.bytes);
+    const Shown after = ReadShown(Edited(content, edit));
+    effect = {before.orientation, after.orientation, before.taken, after.taken};
+  });
+  return effect;
 }
 
 }  // namespace Zenvora::Strandel

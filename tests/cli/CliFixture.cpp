@@ -8,8 +8,10 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
 
 namespace Zenvora::Test {
 
@@ -124,6 +126,26 @@ WriteLock::~WriteLock() {
     database.close();
   }
   QSqlDatabase::removeDatabase(kLockName);
+}
+
+void ChangeCatalogue(const ioPath& catalogue, const char* sql) {
+  const QString name = QStringLiteral("change");
+  {
+    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+    database.setDatabaseName(catalogue.qstring());
+    EXPECT_TRUE(database.open());
+    EXPECT_TRUE(QSqlQuery(database).exec(QString::fromLatin1(sql))) << sql;
+  }
+  QSqlDatabase::removeDatabase(name);
+}
+
+std::vector<std::string> NamesIn(const ioPath& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder.native())) {
+    names.push_back(ioPath(entry.path().filename()).utf8string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 std::string IntegrityOf(const ioPath& catalogue) {

@@ -15,6 +15,7 @@
 #include <QStringList>
 
 #include <string>
+#include <vector>
 
 namespace Zenvora::Test {
 
@@ -66,6 +67,12 @@ class WriteLock {
   WriteLock(const WriteLock&) = delete;
   WriteLock& operator=(const WriteLock&) = delete;
 };
+
+/// Runs one statement on the catalogue.
+void ChangeCatalogue(const ioPath& catalogue, const char* sql);
+
+/// Names in a folder, hidden ones too, in order.
+std::vector<std::string> NamesIn(const ioPath& folder);
 
 /// "ok" from SQLite's integrity check, else what it says.
 std::string IntegrityOf(const ioPath& catalogue);

@@ -25,7 +25,8 @@ class InterruptedScan : public CliTest {
   }
 
   /// Starts a scan and waits until it is at work. The log tells: it is written once the handlers stand.
-  void StartScan(QProcess& process, const QString& program, const QStringList& arguments) const {
+  void StartScan(QProcess& process, const QString& program, const QStringList& arguments,
+                 const char* sign = "scanning into") const {
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(Text(tree.Path()));
 #ifdef _WIN32
@@ -36,7 +37,7 @@ class InterruptedScan : public CliTest {
 #endif
     process.start(program, arguments);
     QByteArray log;
-    while (!log.contains("scanning into")) {
+    while (!log.contains(sign)) {
       ASSERT_TRUE(process.waitForReadyRead(kHangMs)) << log.toStdString();
       log += process.readAllStandardError();
     }
@@ -137,6 +138,42 @@ TEST_F(InterruptedScan, GoesOnWhenTheCallerIgnoresTheSignal) {
   const Ran ran = Finish(process);
   EXPECT_EQ(ran.exitCode, 0);
   EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 31);
+}
+
+class InterruptedChange : public InterruptedScan {
+ protected:
+  /// Interrupts a command that changes the photos of folder "a", before its first change.
+  Ran Interrupt(const QStringList& arguments, const char* sign) const {
+    QProcess process;
+    process.setReadChannel(QProcess::StandardError);
+    {
+      const WriteLock lock(DefaultCatalogue());
+      StartScan(process, QStringLiteral(LUMIDEX_PROGRAM), QStringList{"-v", "--json"} + arguments, sign);
+      EXPECT_TRUE(Send(process, SIGINT));
+    }
+    return Finish(process);
+  }
+};
+
+TEST_F(InterruptedChange, RenamesNothing) {
+  const Ran ran = Interrupt({"rename", "--pattern", "x{number}", "photos/a"}, "renaming 1 files");
+  EXPECT_EQ(ran.exitCode, 130) << ran.err;
+  EXPECT_TRUE(ran.Json()["interrupted"].toBool());
+  EXPECT_EQ(ran.Json()["filesRenamed"].toInt(-1), 0);
+  EXPECT_THAT(ran.err, HasSubstr("Interrupted. Nothing was renamed."));
+  EXPECT_THAT(NamesIn(Photos() / "a"), ::testing::ElementsAre("img0.jpg"));
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
+}
+
+TEST_F(InterruptedChange, KeepsWhatIsEdited) {
+  const std::string before = ReadFile(Photos() / "a" / "img0.jpg");
+  const Ran ran = Interrupt({"rotate", "right", "photos/a"}, "editing 1 photos");
+  EXPECT_EQ(ran.exitCode, 130) << ran.err;
+  EXPECT_TRUE(ran.Json()["interrupted"].toBool());
+  EXPECT_EQ(ran.Json()["edited"].toInt(-1), 0);
+  EXPECT_THAT(ran.err, HasSubstr("Interrupted. The photos edited so far stay so."));
+  EXPECT_EQ(ReadFile(Photos() / "a" / "img0.jpg"), before);
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
 }
 
 }  // namespace

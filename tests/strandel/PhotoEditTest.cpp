@@ -170,6 +170,64 @@ std::vector<Bare> PhotosWithoutExif() {
           {"lossless WebP", LosslessWebP()}};
 }
 
+// --- Trying ---
+
+TEST(PhotoEdit, TellsWhatItWouldChangeAndWritesNothing) {
+  const TempTree tree;
+  for (const std::string& bytes : {MakeJpeg(Tags(8)), MakePng(Tags(8)), MakeTiff(Tags(8))}) {
+    const ioPath photo = tree.Write("photo", bytes);
+    const EditEffect turned = TryEdit(photo, Turned(Turn::Right));
+    EXPECT_EQ(turned.orientationBefore, 8);
+    EXPECT_EQ(turned.orientationAfter, 1);
+    EXPECT_EQ(turned.takenBefore, turned.takenAfter);
+    const EditEffect shifted = TryEdit(photo, ShiftedBy(hours(-2)));
+    EXPECT_EQ(shifted.orientationBefore, 8);
+    EXPECT_EQ(shifted.orientationAfter, 8);
+    EXPECT_EQ(shifted.takenBefore, QDateTime(QDate(2021, 5, 1), QTime(10, 20, 30, 250)));
+    EXPECT_EQ(shifted.takenAfter, QDateTime(QDate(2021, 5, 1), QTime(8, 20, 30, 250)));
+    EXPECT_EQ(TryEdit(photo, SetTo()).takenAfter, QDateTime(QDate(2003, 2, 1), QTime(4, 5, 6)));
+    EXPECT_EQ(ReadFile(photo), bytes);
+    std::filesystem::directory_iterator files(tree.Path().native());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1);
+  }
+}
+
+TEST(PhotoEdit, TriesPhotosThatSayNothing) {
+  const TempTree tree;
+  PhotoTags digitised;
+  digitised.dateTimeDigitized = "2021:05:01 10:20:31";
+  digitised.orientation = 9;
+  const ioPath photo = tree.Write("photo", MakeJpeg(digitised));
+  const EditEffect effect = TryEdit(photo, Turned(Turn::Half));
+  EXPECT_EQ(effect.orientationBefore, 1);
+  EXPECT_EQ(effect.orientationAfter, 3);
+  EXPECT_EQ(effect.takenBefore, QDateTime(QDate(2021, 5, 1), QTime(10, 20, 31)));
+  EXPECT_FALSE(TryEdit(tree.Write("bare", MakeJpeg(PhotoTags())), Turned(Turn::Left)).takenBefore.isValid());
+}
+
+TEST(PhotoEdit, TriesInVainWhatCannotBeEdited) {
+  const TempTree tree;
+  const struct {
+    std::string bytes;
+    PhotoEdit edit;
+  } rows[] = {{"no picture", Turned(Turn::Half)},
+              {"", Turned(Turn::Half)},
+              {MakeJpeg(Tags()).substr(0, 30), Turned(Turn::Half)},
+              {MakeJpeg(PhotoTags()), ShiftedBy(hours(1))},
+              {MakeJpeg(Tags()), PhotoEdit()}};
+  for (const auto& row : rows) {
+    const std::string refusal = Refusal(row.bytes, row.edit);
+    EXPECT_NE(refusal, "");
+    const ioPath photo = tree.Write("photo", row.bytes);
+    try {
+      TryEdit(photo, row.edit);
+      ADD_FAILURE() << "not refused: " << refusal;
+    } catch (const PhotoEditError& error) {
+      EXPECT_EQ(error.what(), "Cannot edit " + photo.utf8string() + ": " + refusal);
+    }
+  }
+}
+
 // --- Turning ---
 
 TEST(PhotoEdit, TurnsPhotosOfAnyOrientation) {

@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "Failure.h"
 #include "Interrupt.h"
+#include "OpenJournal.h"
 #include "Options.h"
 #include "Progress.h"
 #include "ReportTarget.h"
@@ -329,6 +330,7 @@ ExitCode RunAlbums(const AlbumsArguments& arguments, Session& session) {
   if (!arguments.report.empty()) {
     RequireReportName(AbsolutePath(arguments.report), session.CatalogueFile());
   }
+  RecoverIfNeeded(session);
   return AlbumsRun(arguments, session).Run();
 }
 

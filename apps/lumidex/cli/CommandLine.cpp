@@ -14,8 +14,9 @@ namespace {
 using Words = std::vector<std::string>;
 
 constexpr char kDescription[] =
-    "Lumidex keeps track of your photos and proposes albums for holidays and\n"
-    "weekends. It reads your photos and never changes, moves or deletes one.";
+    "Lumidex keeps track of your photos, proposes albums for holidays and weekends,\n"
+    "and renames, turns and redates photos. Whatever it changes can be undone, and\n"
+    "it never deletes a photo.";
 
 constexpr char kFooter[] =
     R"(Examples:
@@ -23,6 +24,8 @@ constexpr char kFooter[] =
   lumidex albums                       see which albums they would make
   lumidex albums --accept "Christmas, December 2023"
   lumidex albums --report albums.html  the same as a page with pictures
+  lumidex rename --pattern "{date}_{number:3}" ~/Pictures/trip
+  lumidex undo                         take that back
   lumidex sample /tmp/demo             make photos to try things out on
 
 "lumidex help COMMAND" has the options and examples of a command.
@@ -56,6 +59,9 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
       ->disable_flag_override();
   AddScanCommand(*program, chosen);
   AddAlbumsCommand(*program, chosen);
+  AddRenameCommand(*program, chosen);
+  AddEditCommands(*program, chosen);
+  AddUndoCommands(*program, chosen);
   AddCalendarCommand(*program, chosen);
   AddSampleCommand(*program, chosen);
   return program;

@@ -6,9 +6,15 @@
 
 namespace Zenvora::Lumidex::Cli {
 
-/// Each adds one command to the program. Parsing it puts what is to be done into `chosen`.
+/// Each adds one command, or some of a kind, to the program. Parsing one puts what is to be done into
+/// `chosen`.
 void AddScanCommand(CLI::App& program, Action& chosen);
 void AddAlbumsCommand(CLI::App& program, Action& chosen);
+void AddRenameCommand(CLI::App& program, Action& chosen);
+/// `rotate`, `shift-date` and `set-date`.
+void AddEditCommands(CLI::App& program, Action& chosen);
+/// `undo` and `redo`.
+void AddUndoCommands(CLI::App& program, Action& chosen);
 void AddCalendarCommand(CLI::App& program, Action& chosen);
 void AddSampleCommand(CLI::App& program, Action& chosen);
 

@@ -2,8 +2,10 @@
 
 #include <zenvora/app/RealServices.h>
 
+#include <algorithm>
 #include <charconv>
 #include <system_error>
+#include <utility>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -54,6 +56,17 @@ CLI::Validator WholeNumber(long long least, long long most) {
             }
             return "needs a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
                    ", not \"" + text + "\"";
+          },
+          ""};
+}
+
+CLI::Validator OneOf(std::vector<std::string> words) {
+  return {[words = std::move(words)](std::string& marked) {
+            const std::string text = Unmarked(marked);
+            if (std::find(words.begin(), words.end(), text) != words.end()) {
+              return std::string();
+            }
+            return "must be one of " + CLI::detail::join(words, ", ") + ", not \"" + text + '"';
           },
           ""};
 }

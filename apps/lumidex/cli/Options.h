@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -25,6 +26,9 @@ CLI::Validator Text();
 
 /// Refuses everything but decimal digits that make a number in the range.
 CLI::Validator WholeNumber(long long least, long long most);
+
+/// Refuses every other word.
+CLI::Validator OneOf(std::vector<std::string> words);
 
 /// The option `--locale`: another interface language while it lives.
 class LocaleScope {

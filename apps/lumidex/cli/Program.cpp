@@ -121,7 +121,7 @@ ExitCode RunCommand(const ParsedCommandLine& parsed, Output& output, Console& co
   App::ApplicationOf<QCoreApplication> application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("lumidex"));
   QCoreApplication::setApplicationVersion(QStringLiteral(LUMIDEX_VERSION));
-  Session session{parsed.globals, output, console, Interrupted()};
+  Session session{parsed.globals, output, console, Interrupted(), {}};
   return parsed.action(session);
 }
 

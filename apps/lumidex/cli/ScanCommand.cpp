@@ -2,6 +2,7 @@
 #include "Failure.h"
 #include "Interrupt.h"
 #include "JsonWriter.h"
+#include "OpenJournal.h"
 #include "Options.h"
 #include "Progress.h"
 #include "TerminalText.h"
@@ -220,6 +221,9 @@ ExitCode RunScan(const ScanArguments& arguments, Session& session) {
     RequireFolder(roots.back());
   }
   const ioPath file = session.CatalogueFile();
+  if (!arguments.dryRun) {
+    RecoverIfNeeded(session);
+  }
   OpenCatalogue catalogue(file, arguments.dryRun);
   VLOG(1) << "scanning into " << file;
 

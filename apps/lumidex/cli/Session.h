@@ -28,6 +28,8 @@ struct Session {
   Output& output;
   Console& console;
   const std::atomic<bool>& interrupted;
+  /// What was finished or taken back of former runs that stopped half way, in sentences.
+  std::vector<std::string> recovered;
 
   /// The catalogue's file, absolute.
   ioPath CatalogueFile() const;

@@ -50,7 +50,7 @@ std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice cho
     const std::wstring_view name = found.cFileName;
     const bool hidden = name[0] == L'.' || (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
     if (name != L"." && name != L".." && !(hidden && choice == EntryChoice::NotHidden)) {
-      entries.push_back({ioPath(fs::path(found.cFileName)), KindOf(found)});
+      entries.push_back({ioPath(fs::path(found.cFileName)), KindOf(found), hidden});
     }
   } while (FindNextFileW(search, &found));
   if (GetLastError() != ERROR_NO_MORE_FILES) {
@@ -67,7 +67,8 @@ std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice cho
   fs::directory_iterator entry(folder.native(), error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
     FolderEntry found{ioPath(entry->path().filename()), FolderEntry::Kind::Other};
-    if (choice == EntryChoice::NotHidden && found.name.native().native().front() == '.') {
+    found.hidden = found.name.native().native().front() == '.';
+    if (choice == EntryChoice::NotHidden && found.hidden) {
       continue;
     }
     std::error_code unknown;

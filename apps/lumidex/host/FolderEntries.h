@@ -17,11 +17,13 @@ struct FolderEntry {
   ioPath name;
   /// File where the system does not tell.
   Kind kind = Kind::File;
+  /// Its name begins with a dot or, on Windows, it has the attribute.
+  bool hidden = false;
 };
 
 enum class EntryChoice {
   All,
-  NotHidden,  ///< Without names that begin with a dot and, on Windows, what has the attribute.
+  NotHidden,
 };
 
 /// What is in the folder, in no order, links not followed. What could be read before an error stays.

@@ -25,6 +25,11 @@ class SmallDisk {
   SmallDisk& operator=(const SmallDisk&) = delete;
 
   bool IsThere() const { return mounted_; }
+  /// From now on nothing can be written on it.
+  bool MakeReadOnly() const {
+    return mounted_ &&
+           mount(nullptr, folder_.native().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) == 0;
+  }
 
  private:
   const ioPath folder_;

@@ -23,6 +23,10 @@ namespace SettingsKey {
 inline constexpr char kLanguage[] = "Interface/Language";
 /// Base URL (http, https or file) of downloadable resources; empty or absent: no network is touched.
 inline constexpr char kDownloadBaseUrl[] = "Download/BaseUrl";
+/// For how many days changes of photos can be undone; absent: 90.
+inline constexpr char kUndoDays[] = "Undo/Days";
+/// How much is kept for that, such as 500M or 5G; absent: 5G.
+inline constexpr char kUndoSize[] = "Undo/Size";
 }  // namespace SettingsKey
 
 }  // namespace Zenvora::App

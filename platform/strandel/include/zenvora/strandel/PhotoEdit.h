@@ -41,6 +41,14 @@ class ZENVORA_STRANDEL_EXPORT PhotoEditError : public Exception {
   ~PhotoEditError() noexcept override;
 };
 
+/// What an edit changes in how a photo is shown and sorted.
+struct EditEffect {
+  int orientationBefore = 1;  ///< EXIF Orientation, 1..8; 1 also when none is there.
+  int orientationAfter = 1;
+  QDateTime takenBefore;  ///< The original date, else the digitised one, as `PhotoFacts`; invalid: none.
+  QDateTime takenAfter;
+};
+
 /// Why no photo of this file's format can be edited, by its content and not by its name; in English, without
 /// the file's name. Empty: its format can be edited, which says nothing yet of this one file. Blocks on the
 /// disk; safe from any thread.
@@ -56,5 +64,10 @@ ZENVORA_STRANDEL_EXPORT std::string WhyNotEditable(const ioPath& photo);
 /// Then there is no new file. Blocks on the disk; takes memory of a few times the photo's size. Safe from any
 /// thread, but one photo at a time is edited.
 ZENVORA_STRANDEL_EXPORT void WriteEdited(const ioPath& photo, const ioPath& side, const PhotoEdit& edit);
+
+/// What `WriteEdited` would change, found by doing all of its work but the writing. Throws `PhotoEditError`
+/// for every photo that `WriteEdited` would refuse. Blocks on the disk, takes as much memory; safe from any
+/// thread, but one photo at a time is edited.
+ZENVORA_STRANDEL_EXPORT EditEffect TryEdit(const ioPath& photo, const PhotoEdit& edit);
 
 }  // namespace Zenvora::Strandel

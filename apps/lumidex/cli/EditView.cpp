@@ -1,0 +1,92 @@
+#include "EditView.h"
+
+#include "JournalView.h"
+#include "JsonWriter.h"
+#include "TerminalText.h"
+#include "TextTable.h"
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+std::string OrientationText(int orientation) {
+  constexpr const char* kShown[] = {"upright",
+                                    "mirrored",
+                                    "upside down",
+                                    "upside down, mirrored",
+                                    "turned left, mirrored",
+                                    "turned right",
+                                    "turned right, mirrored",
+                                    "turned left"};
+  return kShown[orientation - 1];
+}
+
+std::string DateText(const QDateTime& date) {
+  return date.isValid() ? date.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString() : "no date";
+}
+
+std::string TriedText(const EditView& view) {
+  if (view.tried.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}, {}, {}});
+  for (const TriedEdit& tried : view.tried) {
+    const Strandel::EditEffect& effect = tried.effect;
+    table.AddRow({tried.photo.utf8string(),
+                  view.turns ? OrientationText(effect.orientationBefore) : DateText(effect.takenBefore), "->",
+                  view.turns ? OrientationText(effect.orientationAfter) : DateText(effect.takenAfter)});
+  }
+  return table.Text() + '\n';
+}
+
+std::string OutcomeText(const EditView& view) {
+  if (view.dryRun) {
+    return Counted(view.edited, "photo") + " would be edited. This was a dry run: nothing was changed.\n";
+  }
+  if (view.edited == 0) {
+    return "Nothing was changed.\n";
+  }
+  return Counted(view.edited, "photo") + " edited" +
+         (view.canBeUndone ? "; \"lumidex undo\" takes it back.\n" : ".\n");
+}
+
+void WriteTried(JsonWriter& json, const std::vector<TriedEdit>& tried) {
+  json.BeginArray("changes");
+  for (const TriedEdit& edit : tried) {
+    json.BeginObject();
+    json.Path("path", edit.photo);
+    json.Number("orientationBefore", edit.effect.orientationBefore);
+    json.Number("orientationAfter", edit.effect.orientationAfter);
+    json.Moment("takenBefore", edit.effect.takenBefore);
+    json.Moment("takenAfter", edit.effect.takenAfter);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+}  // namespace
+
+std::string EditDocument(const EditView& view) {
+  JsonWriter json("lumidex.edit", 1);
+  json.Path("catalogue", view.catalogue);
+  json.Text("command", view.command);
+  json.Text("argument", view.argument);
+  json.Truth("dryRun", view.dryRun);
+  json.Truth("interrupted", view.interrupted);
+  json.Number("photos", static_cast<long long>(view.photos));
+  json.Number("edited", static_cast<long long>(view.edited));
+  if (view.dryRun) {
+    WriteTried(json, view.tried);
+  }
+  WriteFindings(json, view.findings);
+  json.Truth("canBeUndone", view.canBeUndone);
+  WriteRecovered(json, view.recovered);
+  return json.Finish();
+}
+
+std::string EditText(const EditView& view) {
+  return FindingsText(view.dryRun ? "Cannot be edited" : "Not edited", view.findings) + TriedText(view) +
+         OutcomeText(view);
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <host/UndoJournal.h>
+
+#include <zenvora/core/ioPath.h>
+#include <zenvora/strandel/PhotoEdit.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Cli {
+
+/// What a dry run found out about one photo.
+struct TriedEdit {
+  ioPath photo;
+  Strandel::EditEffect effect;
+};
+
+/// All that one edit, or its dry run, shows.
+struct EditView {
+  ioPath catalogue;
+  std::string command;   ///< "rotate"
+  std::string argument;  ///< As given.
+  bool dryRun = false;
+  bool interrupted = false;
+  std::size_t photos = 0;  ///< That were named, without those that cannot be edited by their names.
+  std::size_t edited = 0;  ///< Of a dry run: that could be.
+  bool turns = false;      ///< The orientation is what changes, not the date.
+  std::vector<TriedEdit> tried;
+  std::vector<Host::UndoFinding> findings;
+  bool canBeUndone = false;
+  std::vector<std::string> recovered;
+};
+
+/// docs/formats/json-output.md, lumidex.edit.
+std::string EditDocument(const EditView& view);
+std::string EditText(const EditView& view);
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,225 @@
+#include "Commands.h"
+#include "OpenJournal.h"
+#include "Options.h"
+#include "Progress.h"
+#include "TerminalText.h"
+#include "UndoSettings.h"
+#include "UndoView.h"
+#include "ValueTexts.h"
+
+#include <memory>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+constexpr int kMostSteps = 1'000;
+
+constexpr char kUndoDescription[] =
+    "Take back what was done to photos: renames, turns, dates.\n"
+    "\n"
+    "Without an option, the last step. The photos get back their names and every\n"
+    "byte of what they were. A photo that was changed since by others is left as it\n"
+    "is, and listed.";
+
+constexpr char kUndoFooter[] =
+    R"(What was taken back can be done again with "lumidex redo", until something new
+is done. The originals of edited photos are kept beside the catalogue: usually
+for 90 days, and no more than 5 GiB of them.
+
+Examples:
+  lumidex undo
+  lumidex undo --list                    what could be taken back
+  lumidex undo --last 3                  the last three steps
+  lumidex undo --keep-days 365 --keep-size 20G
+  lumidex undo --keep-size 0             keep no originals at all
+
+Exit codes: 0 done; 1 there is nothing to take back, or less than asked for;
+3 some files were left as they are; 4 all of them were, or the catalogue cannot
+be written; 130 interrupted, what was taken back so far stays so.)";
+
+constexpr char kRedoDescription[] =
+    "Do again what \"lumidex undo\" took back.\n"
+    "\n"
+    "Without an option, the step taken back last. It is possible until something new\n"
+    "is done to photos.";
+
+constexpr char kRedoFooter[] =
+    R"(Examples:
+  lumidex redo
+  lumidex redo --last 3
+
+Exit codes: 0 done; 1 there is nothing to do again, or less than asked for;
+3 some files were left as they are; 4 all of them were, or the catalogue cannot
+be written; 130 interrupted, what was done so far stays so.)";
+
+struct UndoArguments {
+  bool redo = false;
+  bool list = false;
+  int last = 1;
+  int keepDays = -1;
+  std::string keepSize;
+
+  bool SetsLimits() const { return keepDays >= 0 || !keepSize.empty(); }
+};
+
+/// One run of one of the commands.
+class UndoRun {
+ public:
+  UndoRun(const UndoArguments& arguments, Session& session) : arguments_(arguments), session_(session) {
+    view_.catalogue = session.CatalogueFile();
+    view_.redo = arguments.redo;
+  }
+
+  ExitCode Run() {
+    if (arguments_.SetsLimits()) {
+      StoreLimits(Wish());
+      view_.limits = StoredLimits(session_.console);
+    }
+    if (arguments_.list) {
+      view_.steps.emplace();
+    }
+    // Without a catalogue nothing was ever done, and none is made for finding that out.
+    if (view_.catalogue.exists()) {
+      OpenJournal journal(session_);
+      Work(journal);
+    }
+    view_.recovered = session_.recovered;
+    session_.output.Print(session_.globals.json ? UndoDocument(view_) : UndoText(view_));
+    Note();
+    return view_.limits || view_.steps ? ExitCode::Done : Judge();
+  }
+
+ private:
+  LimitsWish Wish() const {
+    LimitsWish wish;
+    if (arguments_.keepDays >= 0) {
+      wish.days = arguments_.keepDays;
+    }
+    wish.size = arguments_.keepSize;
+    return wish;
+  }
+
+  void Work(OpenJournal& journal) {
+    if (view_.limits) {
+      view_.forgotten = journal.Prune();
+    } else if (view_.steps) {
+      view_.steps = journal.Get().Steps();
+    } else {
+      for (int i = 0; i < arguments_.last && TakeStep(journal.Get()); ++i) {
+      }
+    }
+  }
+
+  /// False when no further step should be taken: an older one must not go before a newer one has gone whole.
+  bool TakeStep(Host::UndoJournal& journal) {
+    Progress progress(session_.console, view_.redo ? "Doing again" : "Taking back", "files");
+    const auto show = [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); };
+    Host::UndoResult result = view_.redo ? journal.RedoLast(session_.interrupted, show)
+                                         : journal.UndoLast(session_.interrupted, show);
+    if (result.name.isEmpty()) {
+      return false;
+    }
+    view_.interrupted = result.cancelled;
+    const bool whole = result.findings.empty() && !result.cancelled;
+    view_.done.push_back(std::move(result));
+    return whole;
+  }
+
+  bool AreFewer() const { return view_.done.size() < static_cast<std::size_t>(arguments_.last); }
+
+  void Note() const {
+    if (view_.interrupted) {
+      session_.console.Note("Interrupted. What was done so far stays so.");
+    } else if (!view_.done.empty() && AreFewer()) {
+      session_.console.Note("Only " + Counted(view_.done.size(), "step") + " of the " +
+                            std::to_string(arguments_.last) + " asked for.");
+    }
+  }
+
+  ExitCode Judge() const {
+    if (view_.interrupted) {
+      return ExitCode::Interrupted;
+    }
+    bool anyFile = false;
+    bool anyFinding = false;
+    for (const Host::UndoResult& result : view_.done) {
+      anyFile = anyFile || result.files > 0;
+      anyFinding = anyFinding || !result.findings.empty();
+    }
+    if (anyFinding) {
+      return anyFile ? ExitCode::Partly : ExitCode::Failed;
+    }
+    return AreFewer() ? ExitCode::Findings : ExitCode::Done;
+  }
+
+  const UndoArguments& arguments_;
+  Session& session_;
+  UndoView view_;
+};
+
+CLI::Validator Size() {
+  return {[](std::string& text) {
+            text = Unmarked(text);
+            std::string fault;
+            return ParseSize(text, fault) ? std::string() : "needs " + fault;
+          },
+          ""};
+}
+
+CLI::Option* AddLast(CLI::App& command, UndoArguments& arguments) {
+  return command.add_option("--last", arguments.last, "So many steps, 1 to 1000. Usual: 1.")
+      ->option_text("N")
+      ->check(WholeNumber(1, kMostSteps));
+}
+
+void Choose(CLI::App& command, const std::shared_ptr<UndoArguments>& arguments, Action& chosen) {
+  command.callback([arguments, &chosen] {
+    chosen = [arguments](Session& session) { return UndoRun(*arguments, session).Run(); };
+  });
+}
+
+void AddUndoCommand(CLI::App& program, Action& chosen) {
+  CLI::App* const command = program.add_subcommand("undo", kUndoDescription);
+  const auto arguments = std::make_shared<UndoArguments>();
+  command->footer(kUndoFooter);
+  CLI::Option* const last = AddLast(*command, *arguments);
+  CLI::Option* const list =
+      command->add_flag("--list", arguments->list, "Only list the steps, the latest first.")
+          ->disable_flag_override()
+          ->excludes(last);
+  command
+      ->add_option("--keep-days", arguments->keepDays,
+                   "From now on, keep steps for so many days, 0 to 36500; take nothing back.")
+      ->option_text("N")
+      ->check(WholeNumber(0, kMostDays))
+      ->excludes(last)
+      ->excludes(list);
+  command
+      ->add_option("--keep-size", arguments->keepSize,
+                   "From now on, keep no more than that of originals, such as 500M, 5G or 0; take nothing "
+                   "back.")
+      ->option_text("SIZE")
+      ->transform(Size())
+      ->excludes(last)
+      ->excludes(list);
+  Choose(*command, arguments, chosen);
+}
+
+void AddRedoCommand(CLI::App& program, Action& chosen) {
+  CLI::App* const command = program.add_subcommand("redo", kRedoDescription);
+  const auto arguments = std::make_shared<UndoArguments>();
+  arguments->redo = true;
+  command->footer(kRedoFooter);
+  AddLast(*command, *arguments);
+  Choose(*command, arguments, chosen);
+}
+
+}  // namespace
+
+void AddUndoCommands(CLI::App& program, Action& chosen) {
+  AddUndoCommand(program, chosen);
+  AddRedoCommand(program, chosen);
+}
+
+}  // namespace Zenvora::Lumidex::Cli

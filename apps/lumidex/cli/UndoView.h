@@ -1,0 +1,32 @@
+#pragma once
+
+#include <host/UndoJournal.h>
+
+#include <zenvora/core/ioPath.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Cli {
+
+/// All that one run of `undo` or `redo` shows.
+struct UndoView {
+  ioPath catalogue;
+  bool redo = false;
+  bool interrupted = false;
+  std::vector<Host::UndoResult> done;  ///< In the order in which it was done.
+  /// With `--list`: all steps, the latest first.
+  std::optional<std::vector<Host::UndoStep>> steps;
+  /// With `--keep-days` and `--keep-size`: what holds now, and how many steps were forgotten for it.
+  std::optional<Host::UndoLimits> limits;
+  std::size_t forgotten = 0;
+  std::vector<std::string> recovered;
+};
+
+/// docs/formats/json-output.md, lumidex.undo.
+std::string UndoDocument(const UndoView& view);
+std::string UndoText(const UndoView& view);
+
+}  // namespace Zenvora::Lumidex::Cli

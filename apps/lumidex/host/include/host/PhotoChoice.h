@@ -1,0 +1,43 @@
+#pragma once
+
+#include <host/HostError.h>
+#include <host/UndoJournal.h>
+
+#include <zenvora/core/ioPath.h>
+
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// What a batch rename is made of.
+struct RenameChoice {
+  /// The files to be renamed, each once, in the order in which they were named: folders spelled in one way,
+  /// names as on the disk.
+  std::vector<ioPath> named;
+  /// All files in their folders, hidden ones and links to files too; for `GroupShots`.
+  std::vector<ioPath> files;
+  /// Everything in their folders; for `MakeRenamePlan`.
+  std::vector<ioPath> entries;
+};
+
+/// Reads the folders of what a person named (absolute paths) once each. A file stands for itself, a folder
+/// for its own photos that are not hidden, by name, digits by their value; what is below it stays out. A link
+/// to a file is a name like any other: it would be renamed, not the file.
+///
+/// Throws `HostError` when one of the names is of no file and no folder, or a folder cannot be read: a plan
+/// that knows half a folder is none. Blocks on the disk.
+RenameChoice ChooseForRename(const std::vector<ioPath>& arguments);
+
+/// Photos whose content is to be changed.
+struct EditChoice {
+  /// Each once, by its one true name: where a link was named, the photo that it leads to.
+  std::vector<ioPath> photos;
+  std::vector<UndoFinding> refused;
+};
+
+/// As above, but what cannot be taken is refused with its cause instead: what is missing, hidden, no file,
+/// not named like a photo, or in a folder that cannot be read. Does not look into the files. Blocks on the
+/// disk.
+EditChoice ChooseForEdit(const std::vector<ioPath>& arguments);
+
+}  // namespace Zenvora::Lumidex::Host

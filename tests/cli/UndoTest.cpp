@@ -1,0 +1,299 @@
+#include "CliFixture.h"
+
+#include <LumidexUtil/FileAccessLocker.h>
+#include <host/UndoJournal.h>
+
+#include <zenvora/core/FileState.h>
+
+#include <QJsonArray>
+#include <QRegularExpression>
+
+namespace Zenvora::Test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+class UndoCommand : public CliTest {
+ protected:
+  ioPath Photo(const std::string& name) const {
+    PhotoTags tags;
+    tags.dateTimeOriginal = "2024:05:17 10:00:00";
+    tags.orientation = 1;
+    tags.model = name;
+    return WriteJpeg(Photos() / name, tags);
+  }
+  std::vector<std::string> Names() const { return NamesIn(Photos()); }
+  std::string Settings() const { return ReadText(tree.Path("config/lumidex/lumidex.ini")); }
+
+  /// A rename of a.jpg and b.jpg to x1.jpg and x2.jpg that stopped after the first of them.
+  void BreakOffARename() const {
+    Photo("a.jpg");
+    Photo("b.jpg");
+    ASSERT_EQ(Run({"rename", "--pattern", "x{number}", "photos"}).exitCode, 0);
+    ChangeCatalogue(DefaultCatalogue(), "UPDATE steps SET state = 1");
+    ASSERT_TRUE((Photos() / "x2.jpg").rename(Photos() / "b.jpg"));
+  }
+};
+
+TEST_F(UndoCommand, TakesStepsBackInTheirOrderAndDoesThemAgain) {
+  const ioPath photo = Photo("a.jpg");
+  const std::string before = ReadFile(photo);
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ASSERT_EQ(Run({"shift-date", "+1h", "photos"}).exitCode, 0);
+  const std::string after = ReadFile(photo);
+  ASSERT_EQ(Run({"rename", "--pattern", "x{number}", "photos"}).exitCode, 0);
+
+  const Ran undo = Run({"undo", "--last", "3"});
+  EXPECT_EQ(undo.exitCode, 0);
+  EXPECT_EQ(undo.out,
+            "Taken back: rename 1 photo.\n"
+            "Taken back: shift dates by +1h: 1 photo.\n"
+            "Taken back: rotate right: 1 photo.\n");
+  EXPECT_EQ(ReadFile(photo), before);
+  const Ran redo = Run({"redo", "--last", "2"});
+  EXPECT_EQ(redo.exitCode, 0);
+  EXPECT_EQ(redo.out, "Done again: rotate right: 1 photo.\nDone again: shift dates by +1h: 1 photo.\n");
+  EXPECT_EQ(ReadFile(photo), after);
+  EXPECT_EQ(Run({"redo"}).exitCode, 0);
+  EXPECT_THAT(Names(), ElementsAre("x1.jpg"));
+}
+
+TEST_F(UndoCommand, ListsTheSteps) {
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ASSERT_EQ(Run({"rename", "--pattern", "x{number}", "photos"}).exitCode, 0);
+  ASSERT_EQ(Run({"undo"}).exitCode, 0);
+  const Ran text = Run({"undo", "--list"});
+  EXPECT_EQ(text.exitCode, 0);
+  const QRegularExpression table(
+      QStringLiteral("^WHEN +WHAT +FILES +KEPT\n"
+                     "[-0-9]{10} [0-9:]{5}  rename 1 photo +1 +0 B  undone\n"
+                     "[-0-9]{10} [0-9:]{5}  rotate right: 1 photo +1 +[0-9]+ B\n$"));
+  EXPECT_TRUE(table.match(QString::fromStdString(text.out)).hasMatch()) << text.out;
+  const QJsonObject document = Run({"undo", "--list", "--json"}).Json();
+  EXPECT_EQ(document["format"].toString(), QStringLiteral("lumidex.undo"));
+  EXPECT_EQ(document["kind"].toString(), QStringLiteral("list"));
+  const QJsonArray steps = document["steps"].toArray();
+  ASSERT_EQ(steps.size(), 2);
+  const QJsonObject last = steps[0].toObject();
+  EXPECT_EQ(last["name"].toString(), QStringLiteral("rename 1 photo"));
+  EXPECT_TRUE(last["undone"].toBool());
+  EXPECT_EQ(last["files"].toInt(), 1);
+  EXPECT_EQ(last["keptBytes"].toInt(-1), 0);
+  EXPECT_TRUE(QDateTime::fromString(last["begun"].toString(), Qt::ISODate).isValid());
+  EXPECT_TRUE(last["begun"].toString().endsWith(QLatin1Char('Z')));
+  const QJsonObject first = steps[1].toObject();
+  EXPECT_FALSE(first["undone"].toBool(true));
+  EXPECT_GT(first["keptBytes"].toInt(), 0);
+  EXPECT_LT(first["number"].toInt(), last["number"].toInt());
+}
+
+TEST_F(UndoCommand, WritesOneDocumentWithAllItsMembers) {
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  for (const char* const command : {"undo", "redo"}) {
+    const QJsonObject document = Run({command, "--json"}).Json();
+    EXPECT_EQ(document["format"].toString(), QStringLiteral("lumidex.undo"));
+    EXPECT_EQ(document["version"].toInt(), 1);
+    EXPECT_EQ(document["catalogue"].toString(), Text(DefaultCatalogue()));
+    EXPECT_EQ(document["kind"].toString(), QLatin1String(command));
+    EXPECT_FALSE(document["interrupted"].toBool(true));
+    EXPECT_TRUE(document["recovered"].toArray().isEmpty());
+    ASSERT_EQ(document["done"].toArray().size(), 1) << command;
+    const QJsonObject done = document["done"].toArray()[0].toObject();
+    EXPECT_EQ(done["name"].toString(), QStringLiteral("rotate right: 1 photo"));
+    EXPECT_EQ(done["files"].toInt(), 1);
+    EXPECT_TRUE(done["findings"].toArray().isEmpty());
+  }
+}
+
+TEST_F(UndoCommand, TellsWhenThereIsNothingToTakeBack) {
+  const Ran none = Run({"undo"});
+  EXPECT_EQ(none.exitCode, 1);
+  EXPECT_EQ(none.out, "There is nothing to take back.\n");
+  EXPECT_EQ(Run({"redo"}).exitCode, 1);
+  const Ran list = Run({"undo", "--list"});
+  EXPECT_EQ(list.exitCode, 0);
+  EXPECT_EQ(list.out, "There is nothing that could be undone.\n");
+  EXPECT_FALSE(tree.Path("data").exists());
+
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  const Ran fewer = Run({"undo", "--last", "3"});
+  EXPECT_EQ(fewer.exitCode, 1);
+  EXPECT_THAT(fewer.out, HasSubstr("Taken back: rotate right"));
+  EXPECT_THAT(fewer.err, HasSubstr("Only 1 step of the 3 asked for."));
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
+}
+
+TEST_F(UndoCommand, ForgetsWhatWasTakenBackWhenSomethingNewIsDone) {
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ASSERT_EQ(Run({"undo"}).exitCode, 0);
+  ASSERT_EQ(Run({"rotate", "left", "photos"}).exitCode, 0);
+  EXPECT_EQ(Run({"redo"}).exitCode, 1);
+}
+
+TEST_F(UndoCommand, LeavesWhatOthersHaveChangedSince) {
+  const ioPath photo = Photo("a.jpg");
+  const std::string before = ReadFile(photo);
+  Photo("b.jpg");
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ASSERT_EQ(Run({"rotate", "right", "photos/a.jpg"}).exitCode, 0);
+  tree.Write("photos/b.jpg", "changed by others");
+  const Ran partly = Run({"undo", "--last", "2"});
+  EXPECT_EQ(partly.exitCode, 3) << partly.out;
+  EXPECT_THAT(partly.out, HasSubstr("Left as they are:\n  " + (Photos() / "b.jpg").utf8string()));
+  EXPECT_EQ(ReadFile(photo), before);
+  EXPECT_EQ(ReadFile(Photos() / "b.jpg"), "changed by others");
+  const Ran failed = Run({"undo"});
+  EXPECT_EQ(failed.exitCode, 4);
+  EXPECT_THAT(failed.out, HasSubstr("Nothing of \"rotate right: 2 photos\" was taken back."));
+}
+
+TEST_F(UndoCommand, TellsOfPhotosThatAreGone) {
+  const ioPath photo = Photo("a.jpg");
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ASSERT_TRUE(photo.remove());
+  const Ran ran = Run({"undo", "--json"});
+  EXPECT_EQ(ran.exitCode, 4);
+  const QJsonObject done = ran.Json()["done"].toArray()[0].toObject();
+  EXPECT_EQ(done["files"].toInt(-1), 0);
+  EXPECT_EQ(done["findings"].toArray()[0].toObject()["path"].toString(), Text(photo));
+}
+
+TEST_F(UndoCommand, KeepsNoMoreThanTheLimits) {
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  const Ran set = Run({"undo", "--keep-size", "1K", "--keep-days", "10"});
+  EXPECT_EQ(set.exitCode, 0);
+  EXPECT_THAT(set.out, HasSubstr("Steps can be undone within 10 days and 1 KiB."));
+  EXPECT_THAT(Settings(), HasSubstr("Days=10"));
+  EXPECT_THAT(Settings(), HasSubstr("Size=1K"));
+
+  const QJsonObject none = Run({"undo", "--keep-size", "0", "--json"}).Json();
+  EXPECT_EQ(none["kind"].toString(), QStringLiteral("limits"));
+  EXPECT_EQ(none["limits"].toObject()["days"].toInt(), 10);
+  EXPECT_EQ(none["limits"].toObject()["bytes"].toInt(-1), 0);
+  EXPECT_TRUE(none["forgotten"].isDouble());
+  EXPECT_TRUE(Run({"undo", "--list", "--json"}).Json()["steps"].toArray().isEmpty());
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
+
+  // Then an edit cannot promise to be undone, but a rename can: it keeps nothing.
+  const Ran edit = Run({"rotate", "right", "photos"});
+  EXPECT_EQ(edit.out, "1 photo edited.\n");
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
+  EXPECT_THAT(Run({"rename", "--pattern", "x", "photos"}).out, HasSubstr("takes it back"));
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+}
+
+TEST_F(UndoCommand, ForgetsOldSteps) {
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ChangeCatalogue(DefaultCatalogue(), "UPDATE steps SET begun = '2001-01-01T00:00:00Z'");
+  EXPECT_EQ(Run({"undo", "--list", "--json"}).Json()["steps"].toArray().size(), 1);
+  const Ran ran = Run({"undo", "--keep-days", "365"});
+  EXPECT_EQ(ran.exitCode, 0);
+  EXPECT_EQ(ran.out,
+            "Steps can be undone within 365 days and 5 GiB. 1 older step cannot be undone any more.\n");
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
+}
+
+TEST_F(UndoCommand, RefusesLimitsAndNumbersThatMakeNoSense) {
+  for (const QStringList& line : std::vector<QStringList>{{"undo", "--keep-size", "5X"},
+                                                          {"undo", "--keep-size", ""},
+                                                          {"undo", "--keep-size", "-1"},
+                                                          {"undo", "--keep-days", "-1"},
+                                                          {"undo", "--keep-days", "36501"},
+                                                          {"undo", "--keep-days", "x"},
+                                                          {"undo", "--last", "0"},
+                                                          {"undo", "--last", "1001"},
+                                                          {"undo", "--last", "2", "--list"},
+                                                          {"undo", "--keep-days", "1", "--list"},
+                                                          {"undo", "--keep-size", "1", "--last", "2"},
+                                                          {"undo", "photos"},
+                                                          {"redo", "--list"},
+                                                          {"redo", "--last", "x"}}) {
+    EXPECT_EQ(Run(line).exitCode, 2) << line.join(QLatin1Char(' ')).toStdString();
+  }
+  EXPECT_FALSE(tree.Path("config").exists());
+}
+
+TEST_F(UndoCommand, SaysWhenTheLimitsCannotBeStored) {
+  tree.MakeFolder("config/lumidex/lumidex.ini");
+  const Ran ran = Run({"undo", "--keep-days", "10"});
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_THAT(ran.err, HasSubstr("cannot be written"));
+  EXPECT_FALSE(tree.Path("data").exists());
+}
+
+TEST_F(UndoCommand, TakesLimitsThatMakeNoSenseForTheUsualOnes) {
+  tree.Write("config/lumidex/lumidex.ini", "[Undo]\nDays=soon\nSize=lots\n");
+  Photo("a.jpg");
+  const Ran ran = Run({"rotate", "right", "photos"});
+  EXPECT_EQ(ran.exitCode, 0);
+  EXPECT_THAT(ran.err, HasSubstr("Undo/Days makes no sense (soon)"));
+  EXPECT_THAT(ran.err, HasSubstr("Undo/Size makes no sense (lots)"));
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+}
+
+TEST_F(UndoCommand, FinishesWhatWasBrokenOffBeforeAnythingElse) {
+  const std::vector<QStringList> commands = {{"scan", "photos"},
+                                             {"albums"},
+                                             {"rotate", "--json", "left", "photos"},
+                                             {"rename", "--json", "--pattern", "y{number}", "photos"},
+                                             {"undo", "--json", "--list"}};
+  for (const QStringList& command : commands) {
+    for (const std::string& name : Names()) {
+      ASSERT_TRUE((Photos() / name).remove());
+    }
+    BreakOffARename();
+    const Ran ran = Run(command);
+    EXPECT_THAT(ran.err, HasSubstr("\"rename 2 photos\" had been broken off and is finished now."))
+        << command[0].toStdString();
+    EXPECT_FALSE((Photos() / "b.jpg").exists());
+    if (command.contains(QStringLiteral("--json"))) {
+      EXPECT_EQ(ran.Json()["recovered"].toArray().size(), 1);
+    }
+    EXPECT_THAT(Run(command).err, Not(HasSubstr("broken off")));
+    ASSERT_EQ(Run({"undo", "--keep-days", "0"}).exitCode, 0);
+    ASSERT_TRUE(tree.Path("config/lumidex/lumidex.ini").remove());
+  }
+}
+
+TEST_F(UndoCommand, LeavesWhatWasBrokenOffAloneInADryRun) {
+  BreakOffARename();
+  for (const QStringList& command :
+       std::vector<QStringList>{{"scan", "--dry-run", "photos"},
+                                {"rename", "--dry-run", "--pattern", "y{number}", "photos"},
+                                {"rotate", "--dry-run", "left", "photos"}}) {
+    EXPECT_THAT(Run(command).err, IsEmpty()) << command[0].toStdString();
+    EXPECT_THAT(Names(), ElementsAre("b.jpg", "x1.jpg"));
+  }
+}
+
+TEST_F(UndoCommand, WaitsForNoOtherProgramForLong) {
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"scan", "photos"}).exitCode, 0);
+  const auto locker = Lumidex::FileAccessLocker::Create();
+  Lumidex::Host::UndoJournal other(DefaultCatalogue(), *locker);
+  other.BeginStep(QStringLiteral("long work"));
+  for (const QStringList& command : std::vector<QStringList>{
+           {"rename", "--pattern", "x", "photos"}, {"rotate", "left", "photos"}, {"undo"}}) {
+    const Ran ran = Run(command);
+    EXPECT_EQ(ran.exitCode, 4) << command[0].toStdString();
+    EXPECT_THAT(ran.err, HasSubstr("another program"));
+  }
+  // What does not need the journal does not need to recover it either.
+  const Ran scan = Run({"scan", "photos"});
+  EXPECT_EQ(scan.exitCode, 0);
+  EXPECT_THAT(scan.err, IsEmpty());
+  EXPECT_THAT(Names(), ElementsAre("a.jpg"));
+}
+
+}  // namespace
+}  // namespace Zenvora::Test
