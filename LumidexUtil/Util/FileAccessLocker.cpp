@@ -69,13 +69,18 @@ class FileAccessLocker::Impl {
 
   std::mutex& MutexOf(const ioPath& path) {
     const std::lock_guard<std::mutex> lock(tableMutex_);
-    return table_.try_emplace(path).first->second;
+    // Who gives a path back mostly asked for it last.
+    if (last_ == table_.end() || last_->first != path) {
+      last_ = table_.try_emplace(path).first;
+    }
+    return last_->second;
   }
 
  private:
   std::mutex tableMutex_;
   // Entries stay, and so do their addresses.
   std::map<ioPath, std::mutex> table_;
+  std::map<ioPath, std::mutex>::iterator last_ = table_.end();
 };
 
 boost::intrusive_ptr<IFileAccessLocker> FileAccessLocker::Create() {

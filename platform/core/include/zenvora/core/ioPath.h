@@ -32,12 +32,14 @@ class ZENVORA_CORE_EXPORT ioPath {
   explicit ioPath(const QString& text);
   explicit ioPath(std::filesystem::path native);
 
-  bool operator==(const ioPath& other) const { return path_ == other.path_; }
-  bool operator!=(const ioPath& other) const { return path_ != other.path_; }
+  bool operator==(const ioPath& other) const {
+    // One look at the bytes tells as a rule.
+    return path_.native() == other.path_.native() || path_ == other.path_;
+  }
+  bool operator!=(const ioPath& other) const { return !(*this == other); }
   /// Element by element, so that a folder's files stand together. A strict weak order for maps; not for
   /// people.
   bool operator<(const ioPath& other) const {
-    // What a map compares most is a key with itself, and that is one look at its bytes.
     return path_.native() != other.path_.native() && path_ < other.path_;
   }
 
