@@ -52,6 +52,7 @@ FileState AskSystem(const ioPath& file) {
                           join(facts.ftLastWriteTime.dwHighDateTime, facts.ftLastWriteTime.dwLowDateTime)) -
                       kStepsTo1970) *
                      100;
+  state.names = facts.nNumberOfLinks;
   state.identity = {facts.dwVolumeSerialNumber, join(facts.nFileIndexHigh, facts.nFileIndexLow)};
   return state;
 }
@@ -84,6 +85,7 @@ FileState AskSystem(const ioPath& file) {
       __builtin_add_overflow(state.modifiedNs, facts.st_mtim.tv_nsec, &state.modifiedNs)) {
     state.modifiedNs = 0;
   }
+  state.names = facts.st_nlink;
   state.identity = {facts.st_dev, facts.st_ino};
   return state;
 }

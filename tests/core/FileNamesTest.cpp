@@ -84,6 +84,10 @@ TEST_F(FileNames, GivesAFileASecondName) {
   const ioPath second = tree_.Path("b.jpg");
   EXPECT_FALSE(AddName(file, second));
   EXPECT_TRUE(IsSameFile(file, second));
+  EXPECT_EQ(QueryFile(file).names, 2U);
+  EXPECT_TRUE(second.remove());
+  EXPECT_EQ(QueryFile(file).names, 1U);
+  EXPECT_FALSE(AddName(file, second));
   EXPECT_EQ(ReadFile(second), "A");
 }
 

@@ -73,10 +73,6 @@ bool ShareBlocks(const ioPath& /*from*/, const ioPath& /*to*/) {
   return false;
 }
 
-bool HasOneName(const ioPath& /*file*/) {
-  return true;
-}
-
 #else
 
 /// False where the file system cannot, and then there is no new file.
@@ -103,16 +99,15 @@ bool ShareBlocks(const ioPath& from, const ioPath& to) {
   return done;
 }
 
-/// Who else has the file under another name might change it where it lies.
-bool HasOneName(const ioPath& file) {
-  struct stat facts = {};
-  return stat(file.native().c_str(), &facts) == 0 && facts.st_nlink == 1;
-}
-
 #endif
 
 void Reproduce(const ioPath& from, const ioPath& to) {
-  if (!ShareBlocks(from, to) && !(HasOneName(from) && !AddName(from, to))) {
+  if (ShareBlocks(from, to)) {
+    return SyncFolderOf(to);
+  }
+  // Who has the file under another name might change it where it lies.
+  const bool isAlone = QueryFile(from).names == 1;
+  if (!isAlone || AddName(from, to)) {
     Copy(from, to);
   }
   SyncFolderOf(to);

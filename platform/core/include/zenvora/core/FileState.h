@@ -24,6 +24,8 @@ struct FileState {
   std::int64_t modifiedNs = 0;  ///< Nanoseconds since 1970-01-01 UTC.
   /// Equal for two names of one file or folder.
   std::pair<std::uint64_t, std::uint64_t> identity;
+  /// How many names the file has (hard links), this one counted.
+  std::uint64_t names = 0;
   std::error_code error;
 };
 
