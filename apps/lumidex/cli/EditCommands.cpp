@@ -3,7 +3,6 @@
 #include "OpenJournal.h"
 #include "Options.h"
 #include "Progress.h"
-#include "TerminalText.h"
 #include "ValueTexts.h"
 
 #include <host/PhotoChoice.h>
@@ -86,7 +85,7 @@ struct EditArguments {
 struct Order {
   const char* command;
   std::string argument;
-  std::string step;  ///< Its name in the journal, to be followed by the number of photos.
+  std::string step;  ///< Its name in the journal.
   Strandel::PhotoEdit edit;
 };
 
@@ -189,12 +188,11 @@ class EditRun {
     if (!journal_) {
       journal_.emplace(session_);
     }
-    const std::string step = order_.step + ": " + Counted(photos_.size(), "photo");
     Host::UndoResult result;
     {
       Progress progress(session_.console, "Editing", "photos");
       result = Host::EditPhotos(
-          journal_->Get(), journal_->Locker(), QString::fromStdString(step), photos_,
+          journal_->Get(), journal_->Locker(), QString::fromStdString(order_.step), photos_,
           [this](const ioPath& photo, const ioPath& side) {
             Strandel::WriteEdited(photo, side, order_.edit);
           },

@@ -34,7 +34,9 @@ std::string ResultText(const UndoResult& result, bool redo) {
   if (result.files == 0) {
     return text + "Nothing of \"" + name + "\" was " + (redo ? "done again" : "taken back") + ".\n";
   }
-  return text + (redo ? "Done again: " : "Taken back: ") + name + ".\n";
+  const std::string left =
+      result.findings.empty() ? "" : ", but for " + Counted(result.findings.size(), "file");
+  return text + (redo ? "Done again: " : "Taken back: ") + name + left + ".\n";
 }
 
 std::string LimitsLine(const UndoView& view) {

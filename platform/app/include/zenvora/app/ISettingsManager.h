@@ -17,7 +17,7 @@ class ISettingsManager {
   virtual void SetString(const std::string& key, const std::string& value) = 0;
 };
 
-/// Keys that more than one room reads.
+/// The keys of all rooms.
 namespace SettingsKey {
 /// Interface language, such as de_DE; empty or absent: the system's.
 inline constexpr char kLanguage[] = "Interface/Language";
