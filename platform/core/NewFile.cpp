@@ -106,7 +106,9 @@ void NewFile::TakeRightsOf(const ioPath& file) {
   const DWORD from = GetFileAttributesW(file.for_system().c_str());
   const DWORD own = GetFileAttributesW(file_.for_system().c_str());
   if (from != INVALID_FILE_ATTRIBUTES && own != INVALID_FILE_ATTRIBUTES) {
-    SetFileAttributesW(file_.for_system().c_str(), own | (from & FILE_ATTRIBUTE_HIDDEN));
+    // Also taken off: some systems give it to names with a leading dot, and it would stay with the photo.
+    SetFileAttributesW(file_.for_system().c_str(),
+                       (own & ~DWORD{FILE_ATTRIBUTE_HIDDEN}) | (from & FILE_ATTRIBUTE_HIDDEN));
   }
 }
 
