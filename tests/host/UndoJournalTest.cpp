@@ -24,6 +24,10 @@
 #include <string>
 #include <vector>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 namespace Zenvora::Lumidex::Host {
 namespace {
 
@@ -757,7 +761,19 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, LosesNothingWhenThePhotosDiskIsFu
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, LosesNothingWhenTheJournalsDiskIsFull,
                               Zenvora::Test::kNoSizeLimit);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, KeepsPhotosOfAnotherVolume, Zenvora::Test::kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, DoesNotWaitForThePartnerOfAPipe,
+                              Zenvora::Test::kNoPipesInFolders);
 #else
+TEST_F(UndoJournalTest, DoesNotWaitForThePartnerOfAPipe) {
+  const ioPath pipe = Photo("a.jpg");
+  ASSERT_EQ(mkfifo(pipe.native().c_str(), 0600), 0);
+  const UndoResult result = Edit({pipe}, "edited");
+  EXPECT_EQ(result.files, 0U);
+  EXPECT_EQ(result.findings.size(), 1U);
+  EXPECT_TRUE(std::filesystem::is_fifo(pipe.native()));
+  EXPECT_EQ(KeptFiles(), 0U);
+}
+
 constexpr std::size_t kSmall = std::size_t{1} << 20U;
 
 #define LUMIDEX_DISK_OR_SKIP(disk)                                 \

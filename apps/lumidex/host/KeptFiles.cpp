@@ -35,15 +35,19 @@ constexpr std::size_t kPiece = std::size_t{256} * 1024;
   ThrowHostError(file.utf8string(), what + ' ' + file.utf8string() + ": " + ErrorText(error));
 }
 
-/// Hands the content of a file on, piece by piece.
-template <class Take>
-void ReadAll(const ioPath& file, const Take& take) {
-  // Opening what is no file could wait for ever.
+/// Opening what is no file could wait for ever.
+void RequireFile(const ioPath& file) {
   const FileState state = QueryFile(file);
   if (state.kind != FileState::Kind::File) {
     Fail(file, "Cannot read",
          state.error ? state.error : std::make_error_code(std::errc::no_such_file_or_directory));
   }
+}
+
+/// Hands the content of a file on, piece by piece.
+template <class Take>
+void ReadAll(const ioPath& file, const Take& take) {
+  RequireFile(file);
   std::ifstream stream(file.for_system(), std::ios::binary);
   std::vector<char> piece(kPiece);
   while (stream) {
@@ -121,6 +125,7 @@ std::int64_t NumberOf(const std::string& name) {
 }
 
 void Reproduce(const ioPath& from, const ioPath& to) {
+  RequireFile(from);
   if (ShareBlocks(from, to)) {
     return SyncFolderOf(to);
   }
