@@ -24,6 +24,10 @@
 #include <string>
 #include <vector>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 namespace Zenvora::Lumidex::Host {
 namespace {
 
@@ -90,6 +94,17 @@ class UndoJournalTest : public ::testing::Test {
       count += entry.path().filename() != "lock" ? 1 : 0;
     }
     return count;
+  }
+
+  ioPath OnlyKeptFile() const {
+    EXPECT_EQ(KeptFiles(), 1U);
+    for (const auto& entry :
+         std::filesystem::directory_iterator(tree_.Path("catalogue.sqlite.undo").native())) {
+      if (entry.path().filename() != "lock") {
+        return ioPath(entry.path());
+      }
+    }
+    return {};
   }
 
   void Sql(const std::string& statement) const { Zenvora::Test::RunSql(catalogue_, {statement}); }
@@ -532,9 +547,210 @@ TEST_F(UndoJournalTest, FinishesAnExchangeThatWasBrokenOffOnEitherSide) {
 }
 
 TEST_F(UndoJournalTest, SweepsAwayWhatNothingSpeaksOf) {
-  WriteBytes(tree_.Path("catalogue.sqlite.undo/99-before.jpg"), "left over");
+  const ioPath photo = Make("a.jpg", "1");
+  Edit({photo}, "2");
+  const ioPath kept = OnlyKeptFile();
+  std::string leftOver = kept.utf8string();
+  leftOver.replace(leftOver.rfind("-before"), 7, "-after");
+  WriteBytes(ioPath(leftOver), "left over");
   Open();
-  EXPECT_EQ(KeptFiles(), 0U);
+  EXPECT_EQ(OnlyKeptFile(), kept);
+}
+
+// --- What must not be lost on the way
+
+TEST_F(UndoJournalTest, KeepsBothVersionsOfAPhotoOutOfReach) {
+  for (const bool redo : {false, true}) {
+    const ioPath photo = Make("a.jpg", "1");
+    Edit({photo}, "2");
+    const ioPath before = OnlyKeptFile();
+    if (redo) {
+      journal_->UndoLast(never_, nullptr);
+      WriteBytes(before, "1");
+    } else {
+      std::string after = before.utf8string();
+      after.replace(after.rfind("-before"), 7, "-after");
+      WriteBytes(ioPath(after), "2");
+    }
+    // The photo was exchanged, then the machine stopped, and comes back without the volume.
+    WriteBytes(photo, redo ? "2" : "1");
+    journal_.reset();
+    Sql(redo ? "UPDATE steps SET state = 5" : "UPDATE steps SET state = 3");
+    Sql(redo ? "UPDATE changes SET state = 5" : "UPDATE changes SET state = 3");
+    ASSERT_TRUE(folder_.rename(tree_.Path("away")));
+    Open();
+    EXPECT_EQ(KeptFiles(), 2U) << redo;
+    Open();
+    EXPECT_EQ(KeptFiles(), 2U) << redo;
+    ASSERT_TRUE(tree_.Path("away").rename(folder_));
+    EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U) << redo;
+    EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}})) << redo;
+    EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U) << redo;
+    EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}})) << redo;
+    EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U) << redo;
+  }
+}
+
+TEST_F(UndoJournalTest, KeepsTheOriginalsOfWhatWasDoneAgainInPart) {
+  const ioPath photo = Make("a.jpg", "1");
+  const ioPath second = Make("b.jpg", "1");
+  const ioPath third = Make("c.jpg", "1");
+  Edit({photo, second}, "2");
+  journal_->UndoLast(never_, nullptr);
+  WriteBytes(second, "by others");
+  EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(ReadFile(photo), "2");
+  Edit({third}, "3");
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}, {"b.jpg", "by others"}, {"c.jpg", "1"}}));
+}
+
+TEST_F(UndoJournalTest, LeavesWhatAnotherCatalogueKept) {
+  const ioPath photo = Make("a.jpg", "1");
+  Edit({photo}, "2");
+  const ioPath kept = OnlyKeptFile().filename();
+  journal_.reset();
+  ASSERT_TRUE(catalogue_.remove());
+  const ioPath foreign = tree_.Write("catalogue.sqlite.undo/holiday.jpg", "not ours");
+  Open();
+  EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
+  Edit({photo}, "3");
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
+  Open();
+  EXPECT_TRUE(journal_->RecoveryNotes().empty());
+  EXPECT_EQ(ReadFile(foreign), "not ours");
+  std::vector<std::string> same;
+  for (const auto& entry :
+       std::filesystem::recursive_directory_iterator(tree_.Path("catalogue.sqlite.undo").native())) {
+    if (ioPath(entry.path().filename()) == kept) {
+      same.push_back(ReadFile(ioPath(entry.path())));
+    }
+  }
+  EXPECT_EQ(same, (std::vector<std::string>{"1"}));
+}
+
+/// Moves the file itself as soon as it is to be locked: what a server does whose answer is lost.
+class MovingLocker : public Zenvora::Test::FakeLocker {
+ public:
+  explicit MovingLocker(const ioPath& target) : target_(target) {}
+  void Lock(const ioPath& path) override {
+    FakeLocker::Lock(path);
+    EXPECT_TRUE(path.rename(target_));
+  }
+
+ private:
+  const ioPath target_;
+};
+
+TEST_F(UndoJournalTest, KeepsTheOriginalWhenAReplacementOnlySeemsToFail) {
+  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime::currentDateTime());
+  const App::ServiceScope<App::IClock> scope(clock);
+  const ioPath photo = Make("a.jpg", "1");
+  MovingLocker locker(photo);
+  const UndoResult result = EditPhotos(
+      *journal_, locker, QStringLiteral("edit"), {photo},
+      [](const ioPath&, const ioPath& side) { WriteBytes(side, "2"); }, never_, nullptr);
+  EXPECT_EQ(result.findings.size(), 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
+}
+
+TEST_F(UndoJournalTest, RemovesTheSideFileOfAFailedEdit) {
+  const ioPath photo = Make("a.jpg", "1");
+  EditPhotos(
+      *journal_, *locker_, QStringLiteral("edit"), {photo},
+      [](const ioPath&, const ioPath& side) {
+        WriteBytes(side, "half");
+        throw std::runtime_error("no");
+      },
+      never_, nullptr);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
+}
+
+TEST_F(UndoJournalTest, TellsPhotosOfOneSizeAndTimeApart) {
+  const ioPath first = Make("a.jpg", "A");
+  const ioPath second = Make("b.jpg", "B");
+  std::filesystem::last_write_time(second.native(), std::filesystem::last_write_time(first.native()));
+  Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  journal_->UndoLast(never_, nullptr);
+  journal_.reset();
+  // It stopped before the first move.
+  Sql("UPDATE steps SET state = 1");
+  Open();
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "B"}, {"b.jpg", "A"}}));
+}
+
+TEST_F(UndoJournalTest, WaitsForTheFolderOfARenameThatWasBrokenOff) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  for (const int state : {1, 3}) {
+    // One photo is between its names.
+    ASSERT_TRUE(Photo("b.jpg").rename(Photo(".lumidex-t.jpg")));
+    journal_.reset();
+    Sql("UPDATE steps SET state = " + std::to_string(state));
+    ASSERT_TRUE(folder_.rename(tree_.Path("away")));
+    Open();
+    EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
+    EXPECT_TRUE(NeedsRecovery(catalogue_));
+    // As a volume's folder is while nothing is mounted there.
+    tree_.MakeFolder("photos");
+    Open();
+    EXPECT_TRUE(NeedsRecovery(catalogue_));
+    ASSERT_TRUE(folder_.remove());
+    ASSERT_TRUE(tree_.Path("away").rename(folder_));
+    Open();
+    EXPECT_FALSE(NeedsRecovery(catalogue_));
+    const Files swapped{{"a.jpg", "B"}, {"b.jpg", "A"}};
+    const Files former{{"a.jpg", "A"}, {"b.jpg", "B"}};
+    EXPECT_EQ(Folder(), state == 1 ? swapped : former) << state;
+  }
+}
+
+TEST_F(UndoJournalTest, EditsThePhotoThatALinkLeadsTo) {
+  const ioPath photo = Make("a.jpg", "1");
+  std::error_code error;
+  std::filesystem::create_symlink("a.jpg", Photo("link.jpg").native(), error);
+  if (error) {
+    GTEST_SKIP() << "no symbolic links can be made here";
+  }
+  EXPECT_EQ(Edit({Photo("link.jpg")}, "2").files, 1U);
+  EXPECT_TRUE(std::filesystem::is_symlink(Photo("link.jpg").native()));
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}, {"link.jpg", "2"}}));
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_TRUE(std::filesystem::is_symlink(Photo("link.jpg").native()));
+  EXPECT_EQ(ReadFile(photo), "1");
+}
+
+TEST_F(UndoJournalTest, GoesOnToOlderStepsWhenAnOriginalIsGone) {
+  const ioPath photo = Make("a.jpg", "1");
+  Rename({{"a.jpg", "b.jpg"}});
+  Edit({Photo("b.jpg")}, "2");
+  journal_.reset();
+  std::filesystem::remove_all(tree_.Path("catalogue.sqlite.undo").native());
+  Open();
+  const UndoResult result = journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(result.files, 0U);
+  EXPECT_EQ(result.findings.size(), 1U);
+  EXPECT_EQ(Folder(), (Files{{"b.jpg", "2"}}));
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
+}
+
+TEST_F(UndoJournalTest, KeepsWhatCanBeDoneAgainWhenNothingNewIsDone) {
+  const ioPath photo = Make("a.jpg", "1");
+  const ioPath second = Make("b.jpg", "1");
+  Edit({photo}, "2");
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(Rename({{"a.jpg", "b.jpg"}}).files, 0U);
+  EditPhotos(
+      *journal_, *locker_, QStringLiteral("edit"), {second},
+      [](const ioPath&, const ioPath&) { throw std::runtime_error("no"); }, never_, nullptr);
+  EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}, {"b.jpg", "1"}}));
 }
 
 // --- Volumes
@@ -545,7 +761,19 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, LosesNothingWhenThePhotosDiskIsFu
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, LosesNothingWhenTheJournalsDiskIsFull,
                               Zenvora::Test::kNoSizeLimit);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, KeepsPhotosOfAnotherVolume, Zenvora::Test::kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, DoesNotWaitForThePartnerOfAPipe,
+                              Zenvora::Test::kNoPipesInFolders);
 #else
+TEST_F(UndoJournalTest, DoesNotWaitForThePartnerOfAPipe) {
+  const ioPath pipe = Photo("a.jpg");
+  ASSERT_EQ(mkfifo(pipe.native().c_str(), 0600), 0);
+  const UndoResult result = Edit({pipe}, "edited");
+  EXPECT_EQ(result.files, 0U);
+  EXPECT_EQ(result.findings.size(), 1U);
+  EXPECT_TRUE(std::filesystem::is_fifo(pipe.native()));
+  EXPECT_EQ(KeptFiles(), 0U);
+}
+
 constexpr std::size_t kSmall = std::size_t{1} << 20U;
 
 #define LUMIDEX_DISK_OR_SKIP(disk)                                 \

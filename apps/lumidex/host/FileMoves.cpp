@@ -11,6 +11,7 @@
 #include <QDataStream>
 
 #include <filesystem>
+#include <map>
 #include <set>
 #include <string>
 #include <unordered_map>
@@ -19,14 +20,45 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-bool Holds(const ioPath& name, const FileMove& move) {
+bool IsNumbered(const FileState& state, const FileMove& move) {
+  return state.identity == std::make_pair(move.device, move.inode);
+}
+
+bool LooksAlike(const FileState& state, const FileMove& move) {
+  return state.size == move.size && state.modifiedNs == move.modifiedNs;
+}
+
+/// The volumes whose files still have the numbers that they had; some number them anew whenever they are
+/// mounted.
+std::set<std::uint64_t> FindSteadyVolumes(const std::vector<FileMove>& moves) {
+  std::set<std::uint64_t> steady;
+  for (const FileMove& move : moves) {
+    for (const ioPath* name : {&move.from, &move.to}) {
+      if (steady.count(move.device) == 0) {
+        const FileState state = QueryFile(*name);
+        if (state.kind == FileState::Kind::File && IsNumbered(state, move) && LooksAlike(state, move)) {
+          steady.insert(move.device);
+        }
+      }
+    }
+  }
+  return steady;
+}
+
+bool Holds(const ioPath& name, const FileMove& move, const std::set<std::uint64_t>& steady) {
   const FileState state = QueryFile(name);
   if (state.kind != FileState::Kind::File) {
     return false;
   }
-  // Some file systems number their files anew whenever they are mounted.
-  return state.identity == std::make_pair(move.device, move.inode) ||
-         (state.size == move.size && state.modifiedNs == move.modifiedNs);
+  // Photos of one size and time are not rare.
+  return IsNumbered(state, move) || (steady.count(move.device) == 0 && LooksAlike(state, move));
+}
+
+/// What a volume that is not there leaves of its folders.
+bool IsOutOfReach(const ioPath& folder) {
+  std::error_code error;
+  const std::filesystem::directory_iterator first(folder.for_system(), error);
+  return error || first == std::filesystem::directory_iterator();
 }
 
 [[noreturn]] void Fail(const ioPath& from, const ioPath& to, const std::string& cause) {
@@ -120,13 +152,32 @@ std::vector<FileMove> UnpackMoves(const QByteArray& bytes) {
 
 std::size_t CountDone(const std::vector<FileMove>& moves) {
   // A target is free until its move; from the last move on, the first that is taken tells.
+  const std::set<std::uint64_t> steady = FindSteadyVolumes(moves);
   for (std::size_t i = moves.size(); i > 0; --i) {
     const FileMove& move = moves[i - 1];
-    if (Holds(move.to, move) && !Holds(move.from, move)) {
+    if (Holds(move.to, move, steady) && !Holds(move.from, move, steady)) {
       return i;
     }
   }
   return 0;
+}
+
+std::optional<ioPath> FindFolderOutOfReach(const std::vector<FileMove>& moves) {
+  std::map<ioPath, bool> known;
+  const auto isAway = [&known](const ioPath& folder) {
+    const auto [place, isNew] = known.try_emplace(folder, false);
+    if (isNew) {
+      place->second = IsOutOfReach(folder);
+    }
+    return place->second;
+  };
+  for (const FileMove& move : moves) {
+    // A folder that all photos leave is empty afterwards.
+    if (isAway(move.from.parent_path()) && isAway(move.to.parent_path())) {
+      return move.from.parent_path();
+    }
+  }
+  return std::nullopt;
 }
 
 void MoveFile(IFileAccessLocker& locker, const ioPath& from, const ioPath& to) {

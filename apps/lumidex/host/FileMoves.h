@@ -8,6 +8,7 @@
 #include <QByteArray>
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -31,6 +32,9 @@ std::vector<FileMove> UnpackMoves(const QByteArray& bytes);
 /// How many of the moves, from the first on, were done when the work on them was broken off, in whichever
 /// direction it went.
 std::size_t CountDone(const std::vector<FileMove>& moves);
+
+/// A folder that is missing or empty although photos of the moves must be there: its volume is not mounted.
+std::optional<ioPath> FindFolderOutOfReach(const std::vector<FileMove>& moves);
 
 /// Gives a file a name that nothing has, trying for a while where another program keeps it open. Throws
 /// `HostError` with both names and the cause; then nothing has changed.

@@ -6,12 +6,15 @@
 #include <zenvora/core/FileNames.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
+#include <zenvora/tavolin/Uuid.h>
 
 #include <QCryptographicHash>
 
-#include <array>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <string>
+#include <vector>
 
 #ifndef _WIN32
 #include <fcntl.h>
@@ -25,21 +28,26 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
+constexpr int kTokenLength = 13;
 constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
 [[noreturn]] void Fail(const ioPath& file, const std::string& what, const std::error_code& error) {
   ThrowHostError(file.utf8string(), what + ' ' + file.utf8string() + ": " + ErrorText(error));
 }
 
-/// Hands the content of a file on, piece by piece.
-template <class Take>
-void ReadAll(const ioPath& file, const Take& take) {
-  // Opening what is no file could wait for ever.
+/// Opening what is no file could wait for ever.
+void RequireFile(const ioPath& file) {
   const FileState state = QueryFile(file);
   if (state.kind != FileState::Kind::File) {
     Fail(file, "Cannot read",
          state.error ? state.error : std::make_error_code(std::errc::no_such_file_or_directory));
   }
+}
+
+/// Hands the content of a file on, piece by piece.
+template <class Take>
+void ReadAll(const ioPath& file, const Take& take) {
+  RequireFile(file);
   std::ifstream stream(file.for_system(), std::ios::binary);
   std::vector<char> piece(kPiece);
   while (stream) {
@@ -101,12 +109,31 @@ bool ShareBlocks(const ioPath& from, const ioPath& to) {
 
 #endif
 
+void Require(const std::error_code& error, const ioPath& file) {
+  if (error) {
+    Fail(file, "Cannot set aside", error);
+  }
+}
+
+/// 0 for what is no name of a version.
+std::int64_t NumberOf(const std::string& name) {
+  // No catalogue gets further.
+  constexpr std::size_t kMostDigits = 15;
+  const std::size_t digits = std::min(name.find_first_not_of("0123456789"), name.size());
+  const bool isVersion = name.compare(digits, 7, "-before") == 0 || name.compare(digits, 6, "-after") == 0;
+  return isVersion && digits > 0 && digits <= kMostDigits ? std::stoll(name.substr(0, digits)) : 0;
+}
+
 void Reproduce(const ioPath& from, const ioPath& to) {
+  RequireFile(from);
   if (ShareBlocks(from, to)) {
     return SyncFolderOf(to);
   }
-  // Who has the file under another name might change it where it lies.
-  const bool isAlone = QueryFile(from).names == 1;
+  // Who has the file under another name might change it where it lies; a link's second name would lead there,
+  // too, or nowhere.
+  std::error_code error;
+  const bool isLink = std::filesystem::is_symlink(std::filesystem::symlink_status(from.for_system(), error));
+  const bool isAlone = !isLink && QueryFile(from).names == 1;
   if (!isAlone || AddName(from, to)) {
     Copy(from, to);
   }
@@ -135,18 +162,36 @@ void KeptFiles::Remove(const std::string& name) const {
   PathOf(name).remove();
 }
 
+std::vector<ioPath> KeptFiles::Names() const {
+  std::error_code error;
+  std::vector<ioPath> names;
+  for (std::filesystem::directory_iterator entry(folder_.for_system(), error), end; !error && entry != end;
+       entry.increment(error)) {
+    names.emplace_back(entry->path().filename());
+  }
+  return names;
+}
+
 void KeptFiles::RemoveOthers(const std::set<std::string>& wanted) const {
-  std::error_code ignored;
-  std::vector<ioPath> others;
-  for (const auto& entry : std::filesystem::directory_iterator(folder_.for_system(), ignored)) {
-    const ioPath name(entry.path().filename());
-    if (wanted.count(name.utf8string()) == 0) {
-      others.push_back(folder_ / name);
+  for (const ioPath& name : Names()) {
+    if (NumberOf(name.utf8string()) > 0 && wanted.count(name.utf8string()) == 0) {
+      (folder_ / name).remove();
     }
   }
-  for (const ioPath& other : others) {
-    other.remove();
+}
+
+ioPath KeptFiles::SetAside(std::int64_t last) const {
+  ioPath aside;
+  for (const ioPath& name : Names()) {
+    if (NumberOf(name.utf8string()) > last) {
+      if (aside.empty()) {
+        aside = folder_ / ioPath("others-" + Tavolin::GenerateUuid().left(kTokenLength).toStdString());
+        Require(MakeFolders(aside), aside);
+      }
+      Require(MoveToFreeName(folder_ / name, aside / name), folder_ / name);
+    }
   }
+  return aside;
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -4,8 +4,10 @@
 
 #include <QByteArray>
 
+#include <cstdint>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -27,10 +29,15 @@ class KeptFiles {
   void PutBeside(const std::string& name, const ioPath& side) const;
   /// Whether it was there does not matter.
   void Remove(const std::string& name) const;
-  /// Removes what has none of these names.
+  /// Removes the versions that have none of these names. Whatever else lies there is somebody else's.
   void RemoveOthers(const std::set<std::string>& wanted) const;
+  /// Moves the versions with numbers beyond `last` to a new folder within this one, so that no version to
+  /// come takes their names. Returns that folder; empty: there were none.
+  ioPath SetAside(std::int64_t last) const;
 
  private:
+  std::vector<ioPath> Names() const;
+
   const ioPath folder_;
 };
 

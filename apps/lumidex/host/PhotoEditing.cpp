@@ -1,9 +1,24 @@
 #include <LumidexUtil/UndoFileHolder.h>
 #include <host/PhotoEditing.h>
 
-#include <zenvora/core/FileState.h>
+#include <filesystem>
+#include <system_error>
 
 namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+/// The file itself where the photo is a link, which is not to be replaced.
+ioPath FileOf(const ioPath& photo) {
+  std::error_code error;
+  if (!std::filesystem::is_symlink(std::filesystem::symlink_status(photo.for_system(), error))) {
+    return photo;
+  }
+  const ioPath file = photo.canonical(error);
+  return error ? photo : file;
+}
+
+}  // namespace
 
 UndoResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QString& name,
                       const std::vector<ioPath>& photos,
@@ -18,13 +33,14 @@ UndoResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QSt
       result.cancelled = true;
       break;
     }
-    const ioPath side = journal.PlanEdit(photo);
+    const ioPath file = FileOf(photo);
+    const ioPath side = journal.PlanEdit(file);
     bool replaced = false;
     try {
-      write(photo, side);
+      write(file, side);
       DataModel item;
-      item.SetPath(photo);
-      item.SetSize(photo.file_size());
+      item.SetPath(file);
+      item.SetSize(file.file_size());
       UndoFileHolder holder(&journal, locker, item, side, false);
       holder.Process();
       replaced = true;

@@ -29,7 +29,15 @@ constexpr std::chrono::milliseconds kBusyPause(50);
 constexpr int kBusyAttempts = 40;
 
 /// Of steps and of their changes. The numbers are stored.
-enum class State : int { Planned = 0, Doing = 1, Done = 2, Undoing = 3, Undone = 4, Redoing = 5 };
+enum class State : int {
+  Planned = 0,
+  Doing = 1,
+  Done = 2,
+  Undoing = 3,
+  Undone = 4,
+  Redoing = 5,
+  GivenUp = 6
+};
 
 bool IsUnderWay(State state) {
   return state == State::Doing || state == State::Undoing || state == State::Redoing;
@@ -106,6 +114,7 @@ class UndoJournal::Impl {
 
   void TakeLock(const ioPath& folder);
   void Recover();
+  void SweepKept(const std::set<std::string>& wanted);
   void RecoverMoves(StepRow& step);
   void RecoverChanges(StepRow& step);
   bool SettleChange(ChangeRow& change);
@@ -120,7 +129,9 @@ class UndoJournal::Impl {
                           const UndoProgress& progress);
   UndoResult ReverseChanges(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                             const UndoProgress& progress);
+  bool IsKept(const ChangeRow& change, bool redo) const;
   void PutBack(ChangeRow& change, bool redo);
+  State StateInPart(qlonglong step, bool anyHope) const;
   void FinishReversal(ChangeRow& change, bool redo);
   void Exchange(ChangeRow& change, bool redo);
 
@@ -376,6 +387,9 @@ void UndoJournal::Impl::SettleMoves(StepRow& step, std::size_t at) {
     SetState("steps", step.number, State::Done);
   }
   transaction.Commit();
+  if (at > 0 && step.state == State::Doing) {
+    DropUndone();
+  }
 }
 
 UndoResult UndoJournal::Impl::Rename(const QString& name, const RenamePlan& plan,
@@ -387,7 +401,6 @@ UndoResult UndoJournal::Impl::Rename(const QString& name, const RenamePlan& plan
   }
   StepRow step;
   step.moves = IdentifyMoves(plan.steps);
-  DropUndone();
   step.number = InsertStep(name, plan.renames.size(), PackMoves(step.moves));
   const std::size_t reached = DriveOrReturn(step, 0, step.moves.size(), cancelled, progress, result);
   result.files = reached == step.moves.size() ? plan.renames.size() : reached;
@@ -434,7 +447,6 @@ void UndoJournal::Impl::BeginStep(const QString& name) {
   if (step_ != 0) {
     EndStep();
   }
-  DropUndone();
   step_ = InsertStep(name, 0, {});
 }
 
@@ -462,8 +474,8 @@ void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPat
     edit_->side.clear();
   }
   ChangeRow& change = *edit_;
-  change.state = State::Doing;
   if (newPath != change.path) {
+    change.state = State::Doing;
     change.adopted = true;
     change.side = newPath;
     StoreChange(change, 0);
@@ -474,6 +486,7 @@ void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPat
   if (!change.side.empty()) {
     change.digestAfter = DigestOf(change.side);
   }
+  change.state = State::Doing;
   StoreChange(change, kept_.PathOf(change.KeptBefore()).file_size());
 }
 
@@ -493,8 +506,9 @@ void UndoJournal::Impl::FinishEdit() {
 
 void UndoJournal::Impl::DropEdit() {
   if (edit_) {
-    DropChange(*edit_);
-    edit_.reset();
+    // Not on the caller's word: the answer of a server can be lost, and the photo be replaced all the same.
+    ChangeRow change = *std::exchange(edit_, std::nullopt);
+    SettleChange(change);
   }
 }
 
@@ -523,6 +537,7 @@ void UndoJournal::Impl::SettleStep(const StepRow& step) {
   query.addBindValue(static_cast<qlonglong>(files));
   query.addBindValue(step.number);
   database_.Run(query);
+  DropUndone();
 }
 
 /// True when the photo is the edited one; false when it is not, and then nothing is left of the edit.
@@ -603,29 +618,61 @@ void UndoJournal::Impl::FinishReversal(ChangeRow& change, bool redo) {
   }
 }
 
-/// Nothing has changed when it throws, and nothing is left of the attempt.
+bool UndoJournal::Impl::IsKept(const ChangeRow& change, bool redo) const {
+  return QueryFile(kept_.PathOf(redo ? change.KeptAfter() : change.KeptBefore())).kind !=
+         FileState::Kind::Missing;
+}
+
+/// Nothing has changed when it throws. Nothing is left of the attempt either, except while nobody can tell
+/// which version the photo is: then both stay.
 void UndoJournal::Impl::PutBack(ChangeRow& change, bool redo) {
-  const State former = redo ? State::Undone : State::Done;
-  try {
-    const QByteArray now = DigestOf(change.path);
-    const QByteArray& wanted = redo ? change.digestAfter : change.digestBefore;
-    if (IsUnderWay(change.state) && now == wanted) {
-      // Broken off after the exchange: only the last notes are missing.
-      return;
-    }
-    if (now != (redo ? change.digestBefore : change.digestAfter)) {
-      ThrowHostError(change.path.utf8string(),
-                     change.path.utf8string() + " has been changed since and is left as it is");
-    }
-    Exchange(change, redo);
-  } catch (const Exception&) {
-    kept_.Remove(redo ? change.KeptBefore() : change.KeptAfter());
+  const QByteArray& wanted = redo ? change.digestAfter : change.digestBefore;
+  const QByteArray& current = redo ? change.digestBefore : change.digestAfter;
+  const QByteArray now = DigestOf(change.path);
+  if (now == wanted && (IsUnderWay(change.state) || now != current)) {
+    // Broken off after the exchange, or others were faster: only the last notes are missing.
     if (!change.side.empty()) {
       change.side.remove();
     }
-    SetState("changes", change.number, former);
+    return;
+  }
+  if (now != current) {
+    ThrowHostError(change.path.utf8string(),
+                   change.path.utf8string() + " has been changed since and is left as it is");
+  }
+  if (!IsKept(change, redo)) {
+    ThrowHostError(change.path.utf8string(),
+                   change.path.utf8string() + " is left as it is: its other version is not kept any more");
+  }
+  try {
+    Exchange(change, redo);
+  } catch (const Exception&) {
+    const QByteArray then = DigestOf(change.path);
+    if (then == wanted) {
+      return;
+    }
+    if (then == current) {
+      kept_.Remove(redo ? change.KeptBefore() : change.KeptAfter());
+      if (!change.side.empty()) {
+        change.side.remove();
+      }
+      SetState("changes", change.number, redo ? State::Undone : State::Done);
+    }
     throw;
   }
+}
+
+/// Of a step of which something could not be taken back or done again.
+State UndoJournal::Impl::StateInPart(qlonglong step, bool anyHope) const {
+  if (!anyHope) {
+    // Else no older step could ever be taken back.
+    return State::GivenUp;
+  }
+  const std::vector<ChangeRow> changes = ReadChanges(step);
+  // What was taken back goes with the next step: only where no photo needs its original.
+  const bool allUndone = std::all_of(changes.begin(), changes.end(),
+                                     [](const ChangeRow& change) { return change.state == State::Undone; });
+  return allUndone ? State::Undone : State::Done;
 }
 
 UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
@@ -641,11 +688,13 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
   }
   std::size_t looked = 0;
   bool anyLeft = false;
+  bool anyHope = false;
   for (ChangeRow& change : changes) {
     if (change.state != goal) {
       if (cancelled) {
         result.cancelled = true;
         anyLeft = true;
+        anyHope = true;
         break;
       }
       bool possible = true;
@@ -656,6 +705,7 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
       } catch (const Exception& failure) {
         possible = false;
         anyLeft = true;
+        anyHope = anyHope || IsKept(change, redo);
         result.findings.push_back({change.path, failure.what()});
       }
       if (possible) {
@@ -667,15 +717,16 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
       progress(++looked, changes.size());
     }
   }
-  // What could not be taken back can be tried again.
-  SetState("steps", step.number, anyLeft ? (redo ? State::Undone : State::Done) : goal);
+  SetState("steps", step.number, anyLeft ? StateInPart(step.number, anyHope) : goal);
   return result;
 }
 
 UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancelled,
                                       const UndoProgress& progress) {
-  std::vector<StepRow> steps =
-      ReadSteps(redo ? "state = 4 ORDER BY number LIMIT 1" : "state = 2 ORDER BY number DESC LIMIT 1", true);
+  std::vector<StepRow> steps = ReadSteps(redo ? "state = 4 AND number > (SELECT coalesce(max(number), 0) "
+                                                "FROM steps WHERE state = 2) ORDER BY number LIMIT 1"
+                                              : "state = 2 ORDER BY number DESC LIMIT 1",
+                                         true);
   if (steps.empty()) {
     return {};
   }
@@ -697,19 +748,43 @@ void UndoJournal::Impl::Recover() {
   std::set<std::string> wanted = {kLockName};
   for (const StepRow& step : ReadSteps("moves IS NULL", false)) {
     for (const ChangeRow& change : ReadChanges(step.number)) {
-      wanted.insert(change.state == State::Undone ? change.KeptAfter() : change.KeptBefore());
+      if (change.state == State::Undone || IsUnderWay(change.state)) {
+        wanted.insert(change.KeptAfter());
+      }
+      if (change.state != State::Undone) {
+        wanted.insert(change.KeptBefore());
+      }
     }
+  }
+  SweepKept(wanted);
+}
+
+/// A catalogue that was lost, or put back from a copy, must not take the originals of another with it, nor
+/// write over them.
+void UndoJournal::Impl::SweepKept(const std::set<std::string>& wanted) {
+  const qlonglong last =
+      database_.Value("SELECT seq FROM sqlite_sequence WHERE name = 'changes'").toLongLong();
+  const ioPath aside = kept_.SetAside(last);
+  if (!aside.empty()) {
+    notes.push_back("Originals that this catalogue does not know were moved to " + aside.utf8string() + ".");
   }
   kept_.RemoveOthers(wanted);
 }
 
 void UndoJournal::Impl::RecoverMoves(StepRow& step) {
+  const std::string name = "\"" + step.name.toStdString() + "\"";
+  if (const std::optional<ioPath> away = FindFolderOutOfReach(step.moves)) {
+    // How far it was can only be seen there.
+    notes.push_back(name + " had been broken off and is finished once " + away->utf8string() +
+                    " can be reached again.");
+    return;
+  }
   const std::atomic<bool> never{false};
   const std::size_t all = step.moves.size();
   const std::size_t found = CountDone(step.moves);
   const std::size_t goal = step.state == State::Undoing ? 0 : all;
   Drive drive = DriveMoves(step.moves, found, goal, never, nullptr);
-  std::string note = "\"" + step.name.toStdString() + "\" had been broken off";
+  std::string note = name + " had been broken off";
   if (drive.at == goal) {
     note += goal == 0 ? " while it was taken back; now it is." : " and is finished now.";
   } else {

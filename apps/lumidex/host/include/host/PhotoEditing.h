@@ -13,7 +13,8 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// Edits photos one after the other as one step of the journal. `write(photo, side)` makes the side file with
+/// Edits photos one after the other as one step of the journal; of a link, the file that it leads to.
+/// `write(photo, side)` makes the side file with
 /// the edited photo, and throws what derives from `std::exception` when it cannot. Each photo is replaced in
 /// one moment by a file that is on the disk already; until then nothing of it changes. What fails for one
 /// photo is a finding, and the others are edited; on `cancelled` those edited before stay edited.

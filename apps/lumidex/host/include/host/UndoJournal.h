@@ -59,7 +59,8 @@ using UndoProgress = std::function<void(std::size_t, std::size_t)>;
 /// they are too old or too many. docs/decisions/undo.md tells how, docs/formats/catalogue.md has the tables.
 ///
 /// Whatever was under way when the program or the machine stopped is finished or taken back when the next
-/// journal is opened. One journal of a catalogue can be open at a time, in all processes.
+/// journal is opened, as soon as its photos can be reached. One journal of a catalogue can be open at a time,
+/// in all processes.
 ///
 /// All functions block on the disk and throw `HostError` naming file and cause. An object belongs to the
 /// thread that opened it.
@@ -86,7 +87,7 @@ class UndoJournal : public IUndo {
   ioPath PlanEdit(const ioPath& photo);
   /// The edit planned last is in place: `RegisterFileChange` was called and the photo replaced.
   void FinishEdit();
-  /// The edit planned last did not happen.
+  /// The edit planned last did not happen: nothing is left of it, unless the photo says otherwise.
   void DropEdit();
 
   void BeginStep(const QString& name) override;
@@ -97,7 +98,7 @@ class UndoJournal : public IUndo {
   void RegisterFileChange(DataModel& item, const ioPath& newPath) override;
 
   /// Takes back the last step that stands. A photo that others changed since is left as it is, with a
-  /// finding.
+  /// finding, and can be tried again; a step of which no other version is kept is given up, with findings.
   UndoResult UndoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
   /// Does again what was taken back last.
   UndoResult RedoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
