@@ -83,7 +83,15 @@ void MovePatiently(IFileAccessLocker& locker, const ioPath& from, const ioPath& 
     Fail(from, to, CauseOf(error));
   }
   place.Close(false);
-  Util::Rename(locker, from, to);
+  try {
+    Util::Rename(locker, from, to);
+  } catch (...) {
+    // A network disk can report a failure of what it did: then it is the photo that has the name.
+    if (QueryFile(to).size > 0 || QueryFile(from).kind == FileState::Kind::Missing) {
+      place.Release();
+    }
+    throw;
+  }
   place.Release();
 }
 
