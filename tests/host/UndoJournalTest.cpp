@@ -460,6 +460,34 @@ TEST_F(UndoJournalTest, FinishesATakingBackThatWasBrokenOff) {
   EXPECT_TRUE(journal_->Steps().at(0).undone);
 }
 
+TEST_F(UndoJournalTest, FinishesOverPhotosThatWerePutBackFromACopy) {
+  for (const int state : {1, 3}) {
+    for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) {
+      Make(name, name);
+    }
+    Rename({{"a.jpg", "x.jpg"}, {"b.jpg", "y.jpg"}, {"c.jpg", "z.jpg"}});
+    ASSERT_TRUE(Photo("z.jpg").rename(Photo("c.jpg")));
+    // The copies have other numbers; one photo, by chance, has that of before.
+    for (const char* name : {"y.jpg", "c.jpg"}) {
+      const auto time = std::filesystem::last_write_time(Photo(name).native());
+      std::filesystem::copy_file(Photo(name).native(), Photo("copy").native());
+      ASSERT_TRUE(Photo(name).remove());
+      ASSERT_TRUE(Photo("copy").rename(Photo(name)));
+      std::filesystem::last_write_time(Photo(name).native(), time);
+    }
+    journal_.reset();
+    Sql("UPDATE steps SET state = " + std::to_string(state));
+    Open();
+    const Files former{{"a.jpg", "a.jpg"}, {"b.jpg", "b.jpg"}, {"c.jpg", "c.jpg"}};
+    EXPECT_EQ(Folder(),
+              state == 3 ? former : (Files{{"x.jpg", "a.jpg"}, {"y.jpg", "b.jpg"}, {"z.jpg", "c.jpg"}}));
+    if (state == 1) {
+      journal_->UndoLast(never_, nullptr);
+    }
+    EXPECT_EQ(Folder(), former);
+  }
+}
+
 TEST_F(UndoJournalTest, TakesBackARenameThatCannotBeFinished) {
   Make("a.jpg", "A");
   Make("b.jpg", "B");

@@ -14,45 +14,88 @@
 #include <map>
 #include <set>
 #include <string>
+#include <tuple>
 #include <unordered_map>
+#include <utility>
 
 namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-bool IsNumbered(const FileState& state, const FileMove& move) {
-  return state.identity == std::make_pair(move.device, move.inode);
-}
+/// How much of what a number of moves leaves is there. Size and time come first: file numbers are given anew
+/// when some volumes are mounted or a photo is put back from a copy, and may then be those of another photo.
+/// But photos of one size and time are not rare, so that the numbers decide between them.
+struct Agreement {
+  std::int64_t alike = 0;
+  std::int64_t numbered = 0;
 
-bool LooksAlike(const FileState& state, const FileMove& move) {
-  return state.size == move.size && state.modifiedNs == move.modifiedNs;
-}
+  bool operator<(const Agreement& other) const {
+    return std::tie(alike, numbered) < std::tie(other.alike, other.numbered);
+  }
+};
 
-/// The volumes whose files still have the numbers that they had; some number them anew whenever they are
-/// mounted.
-std::set<std::uint64_t> FindSteadyVolumes(const std::vector<FileMove>& moves) {
-  std::set<std::uint64_t> steady;
-  for (const FileMove& move : moves) {
-    for (const ioPath* name : {&move.from, &move.to}) {
-      if (steady.count(move.device) == 0) {
-        const FileState state = QueryFile(*name);
-        if (state.kind == FileState::Kind::File && IsNumbered(state, move) && LooksAlike(state, move)) {
-          steady.insert(move.device);
-        }
-      }
+/// The names that a batch takes and frees: what has them, and what should have them after its first moves.
+class NamesOfMoves {
+ public:
+  /// Before the first move.
+  explicit NamesOfMoves(const std::vector<FileMove>& moves) : moves_(moves) {
+    for (const FileMove& move : moves) {
+      const std::size_t from = Find(move.from, &move);
+      ends_.emplace_back(from, Find(move.to, nullptr));
+    }
+    for (const Name& name : names_) {
+      Count(name, 1);
     }
   }
-  return steady;
-}
 
-bool Holds(const ioPath& name, const FileMove& move, const std::set<std::uint64_t>& steady) {
-  const FileState state = QueryFile(name);
-  if (state.kind != FileState::Kind::File) {
-    return false;
+  void DoNext() {
+    const auto [from, to] = ends_[done_];
+    Give(names_[from], nullptr);
+    Give(names_[to], &moves_[done_]);
+    ++done_;
   }
-  // Photos of one size and time are not rare.
-  return IsNumbered(state, move) || (steady.count(move.device) == 0 && LooksAlike(state, move));
-}
+
+  Agreement Agreed() const { return agreed_; }
+
+ private:
+  struct Name {
+    FileState state;
+    /// Known by any of its moves; null: nothing.
+    const FileMove* holder;
+  };
+
+  std::size_t Find(const ioPath& path, const FileMove* firstHolder) {
+    const auto [place, isNew] = places_.try_emplace(path.native().native(), names_.size());
+    if (isNew) {
+      names_.push_back({QueryFile(path), firstHolder});
+    }
+    return place->second;
+  }
+
+  void Give(Name& name, const FileMove* holder) {
+    Count(name, -1);
+    name.holder = holder;
+    Count(name, 1);
+  }
+
+  void Count(const Name& name, int sign) {
+    const FileState& state = name.state;
+    if (name.holder == nullptr) {
+      agreed_.alike += state.kind == FileState::Kind::Missing ? sign : 0;
+    } else if (state.kind == FileState::Kind::File) {
+      const FileMove& file = *name.holder;
+      agreed_.alike += state.size == file.size && state.modifiedNs == file.modifiedNs ? sign : 0;
+      agreed_.numbered += state.identity == std::make_pair(file.device, file.inode) ? sign : 0;
+    }
+  }
+
+  const std::vector<FileMove>& moves_;
+  std::vector<Name> names_;
+  std::unordered_map<std::filesystem::path::string_type, std::size_t> places_;
+  std::vector<std::pair<std::size_t, std::size_t>> ends_;
+  std::size_t done_ = 0;
+  Agreement agreed_;
+};
 
 /// What a volume that is not there leaves of its folders.
 bool IsOutOfReach(const ioPath& folder) {
@@ -158,16 +201,20 @@ std::vector<FileMove> UnpackMoves(const QByteArray& bytes) {
   return moves;
 }
 
-std::size_t CountDone(const std::vector<FileMove>& moves) {
-  // A target is free until its move; from the last move on, the first that is taken tells.
-  const std::set<std::uint64_t> steady = FindSteadyVolumes(moves);
-  for (std::size_t i = moves.size(); i > 0; --i) {
-    const FileMove& move = moves[i - 1];
-    if (Holds(move.to, move, steady) && !Holds(move.from, move, steady)) {
-      return i;
+std::size_t CountDone(const std::vector<FileMove>& moves, bool backwards) {
+  NamesOfMoves names(moves);
+  Agreement best = names.Agreed();
+  std::size_t done = 0;
+  for (std::size_t i = 0; i < moves.size(); ++i) {
+    names.DoNext();
+    const Agreement agreed = names.Agreed();
+    // Where nothing tells, the move is tried: it replaces nothing.
+    if (best < agreed || (backwards && !(agreed < best))) {
+      best = agreed;
+      done = i + 1;
     }
   }
-  return 0;
+  return done;
 }
 
 std::optional<ioPath> FindFolderOutOfReach(const std::vector<FileMove>& moves) {

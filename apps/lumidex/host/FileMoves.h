@@ -29,9 +29,9 @@ std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps);
 QByteArray PackMoves(const std::vector<FileMove>& moves);
 std::vector<FileMove> UnpackMoves(const QByteArray& bytes);
 
-/// How many of the moves, from the first on, were done when the work on them was broken off, in whichever
-/// direction it went.
-std::size_t CountDone(const std::vector<FileMove>& moves);
+/// How many of the moves, from the first on, stand after the work on them was broken off: the number that
+/// agrees best with what is on the disk. `backwards`: they were being taken back.
+std::size_t CountDone(const std::vector<FileMove>& moves, bool backwards);
 
 /// A folder that is missing or empty although photos of the moves must be there: its volume is not mounted.
 std::optional<ioPath> FindFolderOutOfReach(const std::vector<FileMove>& moves);

@@ -781,8 +781,9 @@ void UndoJournal::Impl::RecoverMoves(StepRow& step) {
   }
   const std::atomic<bool> never{false};
   const std::size_t all = step.moves.size();
-  const std::size_t found = CountDone(step.moves);
-  const std::size_t goal = step.state == State::Undoing ? 0 : all;
+  const bool backwards = step.state == State::Undoing;
+  const std::size_t found = CountDone(step.moves, backwards);
+  const std::size_t goal = backwards ? 0 : all;
   Drive drive = DriveMoves(step.moves, found, goal, never, nullptr);
   std::string note = name + " had been broken off";
   if (drive.at == goal) {
