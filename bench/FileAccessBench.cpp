@@ -90,6 +90,7 @@ void LockAmongMany(benchmark::State& state) {
     locker->Unlock(path);
   }
   std::vector<ioPath> paths;
+  paths.reserve(1000);
   for (int i = 0; i < 1000; ++i) {
     paths.push_back(Spelling(file, i * state.range(0) / 1000));
   }

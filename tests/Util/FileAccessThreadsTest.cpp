@@ -36,6 +36,7 @@ TEST(FileAccessOnManyThreads, LetsOneThreadAtATimeHoldAPath) {
   const Zenvora::Test::TempTree tree;
   const auto locker = FileAccessLocker::Create();
   std::vector<ioPath> paths;
+  paths.reserve(kPaths);
   for (int i = 0; i < kPaths; ++i) {
     paths.push_back(tree.Write(std::to_string(i), ""));
   }

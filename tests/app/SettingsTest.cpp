@@ -18,7 +18,6 @@ namespace Zenvora::App {
 namespace {
 
 namespace fs = std::filesystem;
-using Zenvora::Test::kNoSizeLimit;
 using Zenvora::Test::LogCapture;
 using Zenvora::Test::Pipe;
 using Zenvora::Test::ReadText;
@@ -180,7 +179,7 @@ TEST(Settings, SurviveAFullDisk) {
   EXPECT_EQ(ReadText(file), "[General]\nkey=new and longer\nother=more\n");
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(Settings, SurviveAFullDisk, kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(Settings, SurviveAFullDisk, Zenvora::Test::kNoSizeLimit);
 #endif
 
 struct Damage {

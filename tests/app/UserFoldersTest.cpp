@@ -13,7 +13,6 @@
 namespace Zenvora::App {
 namespace {
 
-using Test::kNamesAreText;
 using Test::TempTree;
 
 /// An environment variable with another value, or with none, for a scope.
@@ -83,7 +82,7 @@ TEST_P(UserFolders, KnowTheHomeFolderWithoutItsVariable) {
   EXPECT_NE(folder, ioPath("/") / GetParam().belowHome);
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_P(UserFolders, KeepEveryByteOfTheirNames, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_P(UserFolders, KeepEveryByteOfTheirNames, Zenvora::Test::kNamesAreText);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_P(UserFolders, AreBelowTheHomeFolderOtherwise,
                               "the system itself knows the user's folders there");
 LUMIDEX_LEFT_OUT_ON_WINDOWS_P(UserFolders, KnowTheHomeFolderWithoutItsVariable,

@@ -1,4 +1,4 @@
-#include "CliFixture.h"
+#include "ChangeFixture.h"
 
 #include <support/LeftOut.h>
 
@@ -13,21 +13,8 @@
 namespace Zenvora::Test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
-
-class EditCommands : public CliTest {
+class EditCommands : public ChangeTest {
  protected:
-  ioPath Photo(const std::string& name, int orientation = 1) const {
-    PhotoTags tags;
-    tags.dateTimeOriginal = "2024:05:17 10:00:00";
-    tags.dateTimeDigitized = "2024:05:17 10:00:01";
-    tags.model = "Model";
-    tags.orientation = orientation;
-    return WriteJpeg(Photos() / name, tags);
-  }
   static std::string Taken(const ioPath& photo) {
     return Strandel::ReadPhotoFacts(photo)
         .original.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))
@@ -125,7 +112,7 @@ TEST_F(EditCommands, RefuseWhatMakesNoSense) {
 }
 
 TEST_F(EditCommands, TellInADryRunWhatTheRunDoes) {
-  const ioPath photo = Photo("a.jpg", 6);
+  const ioPath photo = Photo("a.jpg", "2024:05:17 10:00:00", 6);
   tree.Write("photos/fake.jpg", "this is no image");
   const std::string before = ReadFile(photo);
   const Ran turned = Run({"rotate", "--dry-run", "right", "photos"});
@@ -255,13 +242,14 @@ TEST_F(EditCommands, DoNothingWithoutAUsableCatalogue) {
 TEST_F(EditCommands, TakeNamesThatAreNoText) {
   const std::string odd = "a\n\x1b[31m\xFF.jpg";
   const ioPath photo = Photo(odd);
+  const std::string before = ReadFile(photo);
   const Ran shown = Run({"rotate", "--dry-run", "right", "photos"});
   EXPECT_THAT(shown.out, HasSubstr("a\\n\\x1b[31m\\xff.jpg"));
   EXPECT_THAT(shown.out, Not(HasSubstr("\x1b")));
   EXPECT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
-  EXPECT_NE(ReadFile(photo), ReadFile(Photo("plain.jpg")));
+  EXPECT_NE(ReadFile(photo), before);
   EXPECT_EQ(Run({"undo"}).exitCode, 0);
-  EXPECT_EQ(ReadFile(photo), ReadFile(Photos() / "plain.jpg"));
+  EXPECT_EQ(ReadFile(photo), before);
 }
 
 #else

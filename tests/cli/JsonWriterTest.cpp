@@ -11,8 +11,6 @@
 namespace Zenvora::Lumidex::Cli {
 namespace {
 
-using Test::kNamesAreText;
-
 TEST(JsonWriter, QuotesTexts) {
   struct Row {
     std::string text;
@@ -74,7 +72,7 @@ TEST(JsonWriter, GivesTheBytesOfNamesThatAreNotText) {
   EXPECT_EQ(QByteArray::fromBase64(read["badBytes"].toString().toLatin1()), QByteArray("/a/\xE9"));
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(JsonWriter, GivesTheBytesOfNamesThatAreNotText, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(JsonWriter, GivesTheBytesOfNamesThatAreNotText, Zenvora::Test::kNamesAreText);
 #endif
 
 TEST(JsonWriter, WritesDaysAndMoments) {

@@ -1,4 +1,4 @@
-#include "CliFixture.h"
+#include "ChangeFixture.h"
 
 #include <host/Catalogue.h>
 #include <support/LeftOut.h>
@@ -15,24 +15,7 @@
 namespace Zenvora::Test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
-
-class RenameCommand : public CliTest {
- protected:
-  ioPath Photo(const std::string& name, const std::string& date = "2024:05:17 10:00:00") const {
-    PhotoTags tags;
-    tags.dateTimeOriginal = date;
-    tags.model = name;  // No two photos are alike.
-    return WriteJpeg(Photos() / name, tags);
-  }
-  Ran Rename(const QString& pattern, const QStringList& more = {QStringLiteral("photos")}) const {
-    return Run(QStringList{"rename", "--pattern", pattern} + more);
-  }
-  std::vector<std::string> Names() const { return NamesIn(Photos()); }
-};
+class RenameCommand : public ChangeTest {};
 
 TEST_F(RenameCommand, GivesNewNamesAndTakesThemBack) {
   const std::string first = ReadFile(Photo("b.jpg", "2024:05:18 10:00:00"));
@@ -73,7 +56,7 @@ TEST_F(RenameCommand, ShowsInADryRunWhatTheRunDoes) {
                                  "filesUnchanged", "fileTimes", "refused", "catalogue"}) {
     EXPECT_EQ(dry[same], wet[same]) << same;
   }
-  for (const QJsonValue& move : wet["renames"].toArray()) {
+  for (const auto& move : wet["renames"].toArray()) {
     EXPECT_FALSE(ioPath(move.toObject()["from"].toString()).exists());
     EXPECT_TRUE(ioPath(move.toObject()["to"].toString()).exists());
   }

@@ -1,4 +1,4 @@
-#include "CliFixture.h"
+#include "ChangeFixture.h"
 
 #include <LumidexUtil/FileAccessLocker.h>
 #include <host/UndoJournal.h>
@@ -11,28 +11,15 @@
 namespace Zenvora::Test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
-
-class UndoCommand : public CliTest {
+class UndoCommand : public ChangeTest {
  protected:
-  ioPath Photo(const std::string& name) const {
-    PhotoTags tags;
-    tags.dateTimeOriginal = "2024:05:17 10:00:00";
-    tags.orientation = 1;
-    tags.model = name;
-    return WriteJpeg(Photos() / name, tags);
-  }
-  std::vector<std::string> Names() const { return NamesIn(Photos()); }
   std::string Settings() const { return ReadText(tree.Path("config/lumidex/lumidex.ini")); }
 
   /// A rename of a.jpg and b.jpg to x1.jpg and x2.jpg that stopped after the first of them.
   void BreakOffARename() const {
     Photo("a.jpg");
     Photo("b.jpg");
-    ASSERT_EQ(Run({"rename", "--pattern", "x{number}", "photos"}).exitCode, 0);
+    ASSERT_EQ(Rename("x{number}").exitCode, 0);
     ChangeCatalogue(DefaultCatalogue(), "UPDATE steps SET state = 1");
     ASSERT_TRUE((Photos() / "x2.jpg").rename(Photos() / "b.jpg"));
   }
@@ -44,7 +31,7 @@ TEST_F(UndoCommand, TakesStepsBackInTheirOrderAndDoesThemAgain) {
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
   ASSERT_EQ(Run({"shift-date", "+1h", "photos"}).exitCode, 0);
   const std::string after = ReadFile(photo);
-  ASSERT_EQ(Run({"rename", "--pattern", "x{number}", "photos"}).exitCode, 0);
+  ASSERT_EQ(Rename("x{number}").exitCode, 0);
 
   const Ran undo = Run({"undo", "--last", "3"});
   EXPECT_EQ(undo.exitCode, 0);
@@ -64,7 +51,7 @@ TEST_F(UndoCommand, TakesStepsBackInTheirOrderAndDoesThemAgain) {
 TEST_F(UndoCommand, ListsTheSteps) {
   Photo("a.jpg");
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
-  ASSERT_EQ(Run({"rename", "--pattern", "x{number}", "photos"}).exitCode, 0);
+  ASSERT_EQ(Rename("x{number}").exitCode, 0);
   ASSERT_EQ(Run({"undo"}).exitCode, 0);
   const Ran text = Run({"undo", "--list"});
   EXPECT_EQ(text.exitCode, 0);
@@ -188,7 +175,7 @@ TEST_F(UndoCommand, KeepsNoMoreThanTheLimits) {
   const Ran edit = Run({"rotate", "right", "photos"});
   EXPECT_EQ(edit.out, "1 photo edited.\n");
   EXPECT_EQ(Run({"undo"}).exitCode, 1);
-  EXPECT_THAT(Run({"rename", "--pattern", "x", "photos"}).out, HasSubstr("takes it back"));
+  EXPECT_THAT(Rename("x").out, HasSubstr("takes it back"));
   EXPECT_EQ(Run({"undo"}).exitCode, 0);
 }
 

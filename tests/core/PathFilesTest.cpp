@@ -20,7 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Zenvora::Test::IsSuperuser;
-using Zenvora::Test::kAccessLists;
 using Zenvora::Test::Pipe;
 using Zenvora::Test::ReadFile;
 using Zenvora::Test::TempTree;
@@ -288,7 +287,7 @@ TEST(Exists, DoesNotHoldForLinksToNothing) {
 
 TEST(Exists, DoesNotHoldBehindAClosedFolder) {
 #ifdef _WIN32
-  GTEST_SKIP() << kAccessLists;
+  GTEST_SKIP() << Zenvora::Test::kAccessLists;
 #endif
   if (IsSuperuser()) {
     GTEST_SKIP() << "permissions do not stop the superuser";

@@ -15,7 +15,6 @@
 namespace Zenvora {
 namespace {
 
-using Test::kNamesAreText;
 using Test::Slashes;
 using namespace std::string_literals;  // NOLINT(google-build-using-namespace): names with NUL need their
                                        // length
@@ -63,8 +62,8 @@ TEST(PathName, TellsBytesThatAreNotUtf8Apart) {
 }
 
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(PathName, KeepsBytesThatAreNotUtf8ButQtTextDoesNot, kNamesAreText);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(PathName, TellsBytesThatAreNotUtf8Apart, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(PathName, KeepsBytesThatAreNotUtf8ButQtTextDoesNot, Zenvora::Test::kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(PathName, TellsBytesThatAreNotUtf8Apart, Zenvora::Test::kNamesAreText);
 #endif
 
 TEST(PathName, GivesWideTextByCodePoint) {
@@ -211,7 +210,7 @@ TEST(PathName, FindsPartsAmongBytesThatAreNotUtf8) {
   EXPECT_EQ(path.extension().utf8string(), ".jpg");
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(PathName, FindsPartsAmongBytesThatAreNotUtf8, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(PathName, FindsPartsAmongBytesThatAreNotUtf8, Zenvora::Test::kNamesAreText);
 #endif
 
 struct Joined {

@@ -27,8 +27,6 @@ namespace fs = std::filesystem;
 using Test::Closed;
 using Test::ErrorOf;
 using Test::IsSuperuser;
-using Test::kNamesAreText;
-using Test::kNoSizeLimit;
 using Test::Photo;
 using Test::Photos;
 using Test::Pipe;
@@ -301,7 +299,8 @@ TEST_F(CatalogueFile, KeepsWhatWasStoredWhenTheDiskIsFull) {
   EXPECT_EQ(RunSql(file_, {"PRAGMA integrity_check"}).toString(), QStringLiteral("ok"));
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CatalogueFile, KeepsWhatWasStoredWhenTheDiskIsFull, kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CatalogueFile, KeepsWhatWasStoredWhenTheDiskIsFull,
+                              Zenvora::Test::kNoSizeLimit);
 #endif
 
 TEST_F(CatalogueFile, KeepsWholeBatchesWhenItsWriterIsKilled) {
@@ -357,7 +356,7 @@ TEST(SqliteUri, NamesDrivesAndShares) {
   EXPECT_EQ(SqliteUri("C:\\a b\\c.sqlite", "mode=ro").toStdString(), "file:///C%3A/a%20b/c.sqlite?mode=ro");
   EXPECT_EQ(SqliteUri("\\\\srv\\sh\\c.sqlite", "mode=ro").toStdString(), "file:////srv/sh/c.sqlite?mode=ro");
 }
-LUMIDEX_LEFT_OUT_ON_WINDOWS(SqliteUri, KeepsEveryByteOfAPath, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(SqliteUri, KeepsEveryByteOfAPath, Zenvora::Test::kNamesAreText);
 #else
 TEST(SqliteUri, KeepsEveryByteOfAPath) {
   EXPECT_EQ(SqliteUri("/a b/\xFF?#%.sqlite", "mode=ro").toStdString(),

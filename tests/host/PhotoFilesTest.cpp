@@ -23,7 +23,6 @@ namespace {
 
 using Test::Closed;
 using Test::IsSuperuser;
-using Test::kNamesAreText;
 using Test::PhotoTags;
 using Test::Pipe;
 using Test::ReadFile;
@@ -169,7 +168,7 @@ TEST(LoadThumbnail, OpensNamesThatAreNoUtf8) {
   EXPECT_FALSE(LoadThumbnail(file, 240).isNull());
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(LoadThumbnail, OpensNamesThatAreNoUtf8, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(LoadThumbnail, OpensNamesThatAreNoUtf8, Zenvora::Test::kNamesAreText);
 #endif
 
 TEST(LoadThumbnail, ShowsWhatIsThereOfATruncatedJpeg) {

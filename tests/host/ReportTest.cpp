@@ -23,11 +23,7 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 namespace fs = std::filesystem;
-using Test::Closed;
 using Test::IsSuperuser;
-using Test::kAccessLists;
-using Test::kNamesAreText;
-using Test::kNoSizeLimit;
 using Test::PhotoTags;
 using Test::Pipe;
 using Test::ReadFile;
@@ -237,8 +233,8 @@ TEST_F(Report, IsWrittenUnderNamesThatAreNoUtf8) {
   EXPECT_EQ(Write({Album(QStringLiteral("Bytes"), 1)}).pictures, 1);
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Report, ShowsPhotosWhoseNamesAreNoUtf8, kNamesAreText);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Report, IsWrittenUnderNamesThatAreNoUtf8, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Report, ShowsPhotosWhoseNamesAreNoUtf8, Zenvora::Test::kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Report, IsWrittenUnderNamesThatAreNoUtf8, Zenvora::Test::kNamesAreText);
 #endif
 
 TEST_F(Report, CountsWhatItDoesNotShow) {
@@ -493,12 +489,12 @@ TEST_F(Report, KeepsTheOldPageOnAFullDisk) {
   EXPECT_EQ(Names(), (std::vector<std::string>{"albums.html"}));
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Report, KeepsTheOldPageOnAFullDisk, kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Report, KeepsTheOldPageOnAFullDisk, Zenvora::Test::kNoSizeLimit);
 
 TEST_F(Report, KeepsTheOldPageWhileSomebodyHoldsIt) {
   tree.Write("out/albums.html", "old");
   {
-    const Closed held(file);
+    const Zenvora::Test::Closed held(file);
     const std::string message = MessageFor(file, {Album(QStringLiteral("New"), 1)});
     EXPECT_EQ(message.rfind("Cannot write " + file.utf8string() + ": ", 0), 0U) << message;
   }
@@ -532,7 +528,7 @@ TEST_F(Report, RefusesLinksInACircle) {
 
 TEST_F(Report, CannotBeWrittenIntoAReadOnlyFolder) {
 #ifdef _WIN32
-  GTEST_SKIP() << kAccessLists;
+  GTEST_SKIP() << Zenvora::Test::kAccessLists;
 #endif
   if (IsSuperuser()) {
     GTEST_SKIP() << "the superuser may write anywhere";

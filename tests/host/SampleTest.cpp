@@ -26,7 +26,6 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 namespace fs = std::filesystem;
-using Test::kNoSizeLimit;
 using Test::ReadFile;
 using Test::TempTree;
 #ifndef _WIN32
@@ -348,7 +347,7 @@ TEST(Sample, NamesTheFileAndLeavesNoPartOfItOnAFullDisk) {
   EXPECT_TRUE(Contents(tree.Path("s")).empty());
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(Sample, NamesTheFileAndLeavesNoPartOfItOnAFullDisk, kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(Sample, NamesTheFileAndLeavesNoPartOfItOnAFullDisk, Zenvora::Test::kNoSizeLimit);
 #endif
 
 }  // namespace

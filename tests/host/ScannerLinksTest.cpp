@@ -20,7 +20,6 @@ using Test::Slashes;
 using Test::TempTree;
 using Test::WriteJpeg;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 using Kind = ScanFinding::Kind;

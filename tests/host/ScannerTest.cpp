@@ -27,7 +27,6 @@ namespace fs = std::filesystem;
 using Test::Closed;
 using Test::ErrorOf;
 using Test::IsSuperuser;
-using Test::kNoPipesInFolders;
 using Test::MakeJpeg;
 using Test::Photo;
 using Test::PhotoTags;
@@ -435,7 +434,7 @@ TEST_F(Scanner, PassesOverPipesAndDevices) {
   EXPECT_THAT(result.findings, IsEmpty());
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Scanner, PassesOverPipesAndDevices, kNoPipesInFolders);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Scanner, PassesOverPipesAndDevices, Zenvora::Test::kNoPipesInFolders);
 #endif
 
 TEST_F(Scanner, RefusesAPipeInPlaceOfAFolder) {

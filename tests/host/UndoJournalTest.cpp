@@ -18,6 +18,7 @@
 #include <atomic>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -43,6 +44,12 @@ class UndoJournalTest : public ::testing::Test {
     journal_ = std::make_unique<UndoJournal>(catalogue_, *locker_);
   }
 
+  /// Ends the journal as if all its steps had been in `state` when the program stopped.
+  void StopIn(int state) {
+    journal_.reset();
+    Sql("UPDATE steps SET state = " + std::to_string(state));
+  }
+
   ioPath Photo(const std::string& name) const { return tree_.Path("photos") / ioPath(name); }
   ioPath Make(const std::string& name, const std::string& content) const {
     return tree_.Write("photos/" + name, content);
@@ -63,14 +70,34 @@ class UndoJournalTest : public ::testing::Test {
 
   /// Puts new content into the photos, as an edit does.
   UndoResult Edit(const std::vector<ioPath>& photos, const std::string& content) {
-    return EditPhotos(
-        *journal_, *locker_, QStringLiteral("edit"), photos,
-        [&](const ioPath& photo, const ioPath& side) {
-          EXPECT_EQ(side.parent_path(), photo.parent_path());
-          EXPECT_EQ(side.filename().utf8string().front(), '.');
-          WriteBytes(side, content);
-        },
-        never_, nullptr);
+    return Edit(photos, [&](const ioPath& photo, const ioPath& side) {
+      EXPECT_EQ(side.parent_path(), photo.parent_path());
+      EXPECT_EQ(side.filename().utf8string().front(), '.');
+      WriteBytes(side, content);
+    });
+  }
+  UndoResult Edit(const std::vector<ioPath>& photos,
+                  const std::function<void(const ioPath& photo, const ioPath& side)>& write) {
+    return EditPhotos(*journal_, *locker_, QStringLiteral("edit"), photos, write, never_, nullptr);
+  }
+
+  /// Two photos change names.
+  UndoResult Swap() {
+    return Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  }
+
+  void Register(const ioPath& from, const ioPath& to) {
+    DataModel item;
+    item.SetPath(from);
+    journal_->RegisterFileChange(item, to);
+  }
+
+  /// An edit up to the moment before the side file replaces the photo. Returns the side file.
+  ioPath BeginEdit(const ioPath& photo, const std::string& content) {
+    journal_->BeginStep(QStringLiteral("edit"));
+    ioPath side = journal_->PlanEdit(photo);
+    WriteBytes(side, content);
+    return side;
   }
 
   static void WriteBytes(const ioPath& file, const std::string& content) {
@@ -87,30 +114,33 @@ class UndoJournalTest : public ::testing::Test {
     return files;
   }
 
-  std::size_t KeptFiles() const {
-    std::size_t count = 0;
-    for (const auto& entry :
-         std::filesystem::directory_iterator(tree_.Path("catalogue.sqlite.undo").native())) {
-      count += entry.path().filename() != "lock" ? 1 : 0;
-    }
-    return count;
-  }
-
-  ioPath OnlyKeptFile() const {
-    EXPECT_EQ(KeptFiles(), 1U);
-    for (const auto& entry :
-         std::filesystem::directory_iterator(tree_.Path("catalogue.sqlite.undo").native())) {
+  std::vector<ioPath> KeptPaths() const {
+    std::vector<ioPath> paths;
+    for (const auto& entry : std::filesystem::directory_iterator(keptFolder_.native())) {
       if (entry.path().filename() != "lock") {
-        return ioPath(entry.path());
+        paths.emplace_back(entry.path());
       }
     }
-    return {};
+    return paths;
+  }
+  std::size_t KeptFiles() const { return KeptPaths().size(); }
+  ioPath OnlyKeptFile() const {
+    const std::vector<ioPath> paths = KeptPaths();
+    EXPECT_EQ(paths.size(), 1U);
+    return paths.empty() ? ioPath() : paths.front();
+  }
+  /// Where the version after the edit is kept whose version before is `before`.
+  static ioPath AfterOf(const ioPath& before) {
+    std::string after = before.utf8string();
+    after.replace(after.rfind("-before"), 7, "-after");
+    return ioPath(after);
   }
 
   void Sql(const std::string& statement) const { Zenvora::Test::RunSql(catalogue_, {statement}); }
 
   const Zenvora::Test::TempTree tree_;
   const ioPath catalogue_ = tree_.Path("catalogue.sqlite");
+  const ioPath keptFolder_ = tree_.Path("catalogue.sqlite.undo");
   const ioPath folder_ = tree_.MakeFolder("photos");
   const boost::intrusive_ptr<IFileAccessLocker> locker_ = FileAccessLocker::Create();
   const std::atomic<bool> never_{false};
@@ -135,7 +165,7 @@ TEST_F(UndoJournalTest, RenamesAndTakesItBack) {
 TEST_F(UndoJournalTest, SwapsNamesThroughATemporaryOne) {
   Make("a.jpg", "A");
   Make("b.jpg", "B");
-  Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  Swap();
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "B"}, {"b.jpg", "A"}}));
   journal_->UndoLast(never_, nullptr);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
@@ -302,16 +332,13 @@ TEST_F(UndoJournalTest, LeavesAPhotoThatOthersChangedSince) {
 TEST_F(UndoJournalTest, EditsTheOthersWhenOneFails) {
   const ioPath photo = Make("a.jpg", "1");
   const ioPath second = Make("b.jpg", "1");
-  const UndoResult result = EditPhotos(
-      *journal_, *locker_, QStringLiteral("edit"), {photo, second},
-      [&](const ioPath& file, const ioPath& side) {
-        WriteBytes(side, "2");
-        if (file == photo) {
-          side.remove();
-          throw std::runtime_error("a.jpg is damaged");
-        }
-      },
-      never_, nullptr);
+  const UndoResult result = Edit({photo, second}, [&](const ioPath& file, const ioPath& side) {
+    WriteBytes(side, "2");
+    if (file == photo) {
+      side.remove();
+      throw std::runtime_error("a.jpg is damaged");
+    }
+  });
   EXPECT_EQ(result.files, 1U);
   ASSERT_EQ(result.findings.size(), 1U);
   EXPECT_EQ(result.findings[0].cause, "a.jpg is damaged");
@@ -321,9 +348,7 @@ TEST_F(UndoJournalTest, EditsTheOthersWhenOneFails) {
 
 TEST_F(UndoJournalTest, ForgetsAStepInWhichNothingWasDone) {
   const ioPath photo = Make("a.jpg", "1");
-  EditPhotos(
-      *journal_, *locker_, QStringLiteral("edit"), {photo},
-      [](const ioPath&, const ioPath&) { throw std::runtime_error("no"); }, never_, nullptr);
+  Edit({photo}, [](const ioPath&, const ioPath&) { throw std::runtime_error("no"); });
   EXPECT_TRUE(journal_->Steps().empty());
   EXPECT_EQ(KeptFiles(), 0U);
 }
@@ -351,10 +376,8 @@ TEST_F(UndoJournalTest, PointsAnAdoptedPhotoBack) {
     photo.path = Photo("b.jpg");
     catalogue.Store({photo});
   }
-  DataModel item;
-  item.SetPath(Photo("a.jpg"));
   journal_->BeginStep(QStringLiteral("adopt"));
-  journal_->RegisterFileChange(item, Photo("b.jpg"));
+  Register(Photo("a.jpg"), Photo("b.jpg"));
   journal_->FinishEdit();
   journal_->EndStep();
   EXPECT_TRUE(journal_->Undo());
@@ -366,9 +389,7 @@ TEST_F(UndoJournalTest, PointsAnAdoptedPhotoBack) {
 
 TEST_F(UndoJournalTest, SeesToAChangeThatNobodyAnnounced) {
   const ioPath photo = Make("a.jpg", "1");
-  DataModel item;
-  item.SetPath(photo);
-  journal_->RegisterFileChange(item, photo);
+  Register(photo, photo);
   WriteBytes(Photo("side"), "2");
   ASSERT_TRUE(Photo("side").rename(photo));
   EXPECT_TRUE(journal_->Undo());
@@ -427,7 +448,7 @@ TEST_F(UndoJournalTest, ForgetsWhatIsTooOldOrTooMuch) {
 TEST_F(UndoJournalTest, FinishesARenameThatWasBrokenOff) {
   Make("a.jpg", "A");
   Make("b.jpg", "B");
-  Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  Swap();
   // As it was after each of the moves.
   const std::vector<std::pair<std::string, std::string>> back = {
       {"b.jpg", ".lumidex-t.jpg"}, {"a.jpg", "b.jpg"}, {".lumidex-t.jpg", "a.jpg"}};
@@ -435,8 +456,7 @@ TEST_F(UndoJournalTest, FinishesARenameThatWasBrokenOff) {
     for (std::size_t i = 0; i < taken; ++i) {
       ASSERT_TRUE(Photo(back[i].first).rename(Photo(back[i].second)));
     }
-    journal_.reset();
-    Sql("UPDATE steps SET state = 1");
+    StopIn(1);
     EXPECT_TRUE(NeedsRecovery(catalogue_));
     Open();
     EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
@@ -452,8 +472,7 @@ TEST_F(UndoJournalTest, FinishesATakingBackThatWasBrokenOff) {
   Make("b.jpg", "B");
   Rename({{"a.jpg", "x.jpg"}, {"b.jpg", "y.jpg"}});
   ASSERT_TRUE(Photo("y.jpg").rename(Photo("b.jpg")));
-  journal_.reset();
-  Sql("UPDATE steps SET state = 3");
+  StopIn(3);
   Open();
   EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
@@ -494,8 +513,7 @@ TEST_F(UndoJournalTest, TakesBackARenameThatCannotBeFinished) {
   Rename({{"a.jpg", "x.jpg"}, {"b.jpg", "y.jpg"}});
   ASSERT_TRUE(Photo("y.jpg").rename(Photo("b.jpg")));
   Make("y.jpg", "of others");
-  journal_.reset();
-  Sql("UPDATE steps SET state = 1");
+  StopIn(1);
   Open();
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}, {"y.jpg", "of others"}}));
   ASSERT_EQ(journal_->RecoveryNotes().size(), 1U);
@@ -505,9 +523,7 @@ TEST_F(UndoJournalTest, TakesBackARenameThatCannotBeFinished) {
 
 TEST_F(UndoJournalTest, ForgetsAnEditThatHadNotBegunToReplace) {
   const ioPath photo = Make("a.jpg", "1");
-  journal_->BeginStep(QStringLiteral("edit"));
-  const ioPath side = journal_->PlanEdit(photo);
-  WriteBytes(side, "half");
+  BeginEdit(photo, "half");
   Open();
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
   EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
@@ -516,12 +532,8 @@ TEST_F(UndoJournalTest, ForgetsAnEditThatHadNotBegunToReplace) {
 
 TEST_F(UndoJournalTest, ForgetsAnEditThatHadNotReplacedYet) {
   const ioPath photo = Make("a.jpg", "1");
-  journal_->BeginStep(QStringLiteral("edit"));
-  const ioPath side = journal_->PlanEdit(photo);
-  WriteBytes(side, "2");
-  DataModel item;
-  item.SetPath(photo);
-  journal_->RegisterFileChange(item, photo);
+  BeginEdit(photo, "2");
+  Register(photo, photo);
   Open();
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
   EXPECT_EQ(KeptFiles(), 0U);
@@ -529,12 +541,8 @@ TEST_F(UndoJournalTest, ForgetsAnEditThatHadNotReplacedYet) {
 
 TEST_F(UndoJournalTest, KnowsAnEditThatHadReplaced) {
   const ioPath photo = Make("a.jpg", "1");
-  journal_->BeginStep(QStringLiteral("edit"));
-  const ioPath side = journal_->PlanEdit(photo);
-  WriteBytes(side, "2");
-  DataModel item;
-  item.SetPath(photo);
-  journal_->RegisterFileChange(item, photo);
+  const ioPath side = BeginEdit(photo, "2");
+  Register(photo, photo);
   ASSERT_TRUE(side.rename(photo));
   Open();
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
@@ -549,16 +557,7 @@ TEST_F(UndoJournalTest, FinishesAnExchangeThatWasBrokenOffOnEitherSide) {
     Edit({photo}, "2");
     const std::int64_t number = journal_->Steps().at(0).number;
     // Both versions are kept, and the photo is one of them.
-    const ioPath kept = tree_.Path("catalogue.sqlite.undo");
-    ioPath before;
-    for (const auto& entry : std::filesystem::directory_iterator(kept.native())) {
-      if (entry.path().filename() != "lock") {
-        before = ioPath(entry.path());
-      }
-    }
-    std::string after = before.utf8string();
-    after.replace(after.rfind("-before"), 7, "-after");
-    WriteBytes(ioPath(after), "2");
+    WriteBytes(AfterOf(OnlyKeptFile()), "2");
     if (exchanged) {
       WriteBytes(photo, "1");
     }
@@ -578,9 +577,7 @@ TEST_F(UndoJournalTest, SweepsAwayWhatNothingSpeaksOf) {
   const ioPath photo = Make("a.jpg", "1");
   Edit({photo}, "2");
   const ioPath kept = OnlyKeptFile();
-  std::string leftOver = kept.utf8string();
-  leftOver.replace(leftOver.rfind("-before"), 7, "-after");
-  WriteBytes(ioPath(leftOver), "left over");
+  WriteBytes(AfterOf(kept), "left over");
   Open();
   EXPECT_EQ(OnlyKeptFile(), kept);
 }
@@ -596,14 +593,11 @@ TEST_F(UndoJournalTest, KeepsBothVersionsOfAPhotoOutOfReach) {
       journal_->UndoLast(never_, nullptr);
       WriteBytes(before, "1");
     } else {
-      std::string after = before.utf8string();
-      after.replace(after.rfind("-before"), 7, "-after");
-      WriteBytes(ioPath(after), "2");
+      WriteBytes(AfterOf(before), "2");
     }
     // The photo was exchanged, then the machine stopped, and comes back without the volume.
     WriteBytes(photo, redo ? "2" : "1");
-    journal_.reset();
-    Sql(redo ? "UPDATE steps SET state = 5" : "UPDATE steps SET state = 3");
+    StopIn(redo ? 5 : 3);
     Sql(redo ? "UPDATE changes SET state = 5" : "UPDATE changes SET state = 3");
     ASSERT_TRUE(folder_.rename(tree_.Path("away")));
     Open();
@@ -650,8 +644,7 @@ TEST_F(UndoJournalTest, LeavesWhatAnotherCatalogueKept) {
   EXPECT_TRUE(journal_->RecoveryNotes().empty());
   EXPECT_EQ(ReadFile(foreign), "not ours");
   std::vector<std::string> same;
-  for (const auto& entry :
-       std::filesystem::recursive_directory_iterator(tree_.Path("catalogue.sqlite.undo").native())) {
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(keptFolder_.native())) {
     if (ioPath(entry.path().filename()) == kept) {
       same.push_back(ReadFile(ioPath(entry.path())));
     }
@@ -688,13 +681,10 @@ TEST_F(UndoJournalTest, KeepsTheOriginalWhenAReplacementOnlySeemsToFail) {
 
 TEST_F(UndoJournalTest, RemovesTheSideFileOfAFailedEdit) {
   const ioPath photo = Make("a.jpg", "1");
-  EditPhotos(
-      *journal_, *locker_, QStringLiteral("edit"), {photo},
-      [](const ioPath&, const ioPath& side) {
-        WriteBytes(side, "half");
-        throw std::runtime_error("no");
-      },
-      never_, nullptr);
+  Edit({photo}, [](const ioPath&, const ioPath& side) {
+    WriteBytes(side, "half");
+    throw std::runtime_error("no");
+  });
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
 }
 
@@ -702,11 +692,10 @@ TEST_F(UndoJournalTest, TellsPhotosOfOneSizeAndTimeApart) {
   const ioPath first = Make("a.jpg", "A");
   const ioPath second = Make("b.jpg", "B");
   std::filesystem::last_write_time(second.native(), std::filesystem::last_write_time(first.native()));
-  Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  Swap();
   journal_->UndoLast(never_, nullptr);
-  journal_.reset();
   // It stopped before the first move.
-  Sql("UPDATE steps SET state = 1");
+  StopIn(1);
   Open();
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "B"}, {"b.jpg", "A"}}));
 }
@@ -714,12 +703,11 @@ TEST_F(UndoJournalTest, TellsPhotosOfOneSizeAndTimeApart) {
 TEST_F(UndoJournalTest, WaitsForTheFolderOfARenameThatWasBrokenOff) {
   Make("a.jpg", "A");
   Make("b.jpg", "B");
-  Rename({{"a.jpg", ".lumidex-t.jpg"}, {"b.jpg", "a.jpg"}, {".lumidex-t.jpg", "b.jpg"}});
+  Swap();
   for (const int state : {1, 3}) {
     // One photo is between its names.
     ASSERT_TRUE(Photo("b.jpg").rename(Photo(".lumidex-t.jpg")));
-    journal_.reset();
-    Sql("UPDATE steps SET state = " + std::to_string(state));
+    StopIn(state);
     ASSERT_TRUE(folder_.rename(tree_.Path("away")));
     Open();
     EXPECT_EQ(journal_->RecoveryNotes().size(), 1U);
@@ -758,7 +746,7 @@ TEST_F(UndoJournalTest, GoesOnToOlderStepsWhenAnOriginalIsGone) {
   Rename({{"a.jpg", "b.jpg"}});
   Edit({Photo("b.jpg")}, "2");
   journal_.reset();
-  std::filesystem::remove_all(tree_.Path("catalogue.sqlite.undo").native());
+  std::filesystem::remove_all(keptFolder_.native());
   Open();
   const UndoResult result = journal_->UndoLast(never_, nullptr);
   EXPECT_EQ(result.files, 0U);
@@ -774,9 +762,7 @@ TEST_F(UndoJournalTest, KeepsWhatCanBeDoneAgainWhenNothingNewIsDone) {
   Edit({photo}, "2");
   journal_->UndoLast(never_, nullptr);
   EXPECT_EQ(Rename({{"a.jpg", "b.jpg"}}).files, 0U);
-  EditPhotos(
-      *journal_, *locker_, QStringLiteral("edit"), {second},
-      [](const ioPath&, const ioPath&) { throw std::runtime_error("no"); }, never_, nullptr);
+  Edit({second}, [](const ioPath&, const ioPath&) { throw std::runtime_error("no"); });
   EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}, {"b.jpg", "1"}}));
 }
@@ -828,12 +814,9 @@ TEST_F(UndoJournalTest, LosesNothingWhenThePhotosDiskIsFull) {
   const std::string old(kSmall / 2, 'x');
   const ioPath photo = Make("a.jpg", old);
   const ioPath small = Make("b.jpg", "small");
-  const UndoResult result = EditPhotos(
-      *journal_, *locker_, QStringLiteral("edit"), {photo, small},
-      [&](const ioPath& file, const ioPath& side) {
-        WriteSide(side, file == photo ? std::string(kSmall, 'y') : "other");
-      },
-      never_, nullptr);
+  const UndoResult result = Edit({photo, small}, [&](const ioPath& file, const ioPath& side) {
+    WriteSide(side, file == photo ? std::string(kSmall, 'y') : "other");
+  });
   EXPECT_EQ(result.files, 1U);
   ASSERT_EQ(result.findings.size(), 1U);
   EXPECT_EQ(result.findings[0].file, photo);

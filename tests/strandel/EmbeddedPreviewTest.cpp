@@ -22,7 +22,6 @@ namespace {
 using Test::BytesRead;
 using Test::Closed;
 using Test::IsSuperuser;
-using Test::kNamesAreText;
 using Test::LogCapture;
 using Test::MakeJpeg;
 using Test::MakePng;
@@ -270,7 +269,8 @@ TEST(EmbeddedPreview, IsReadFromFilesWhoseNamesAreNoText) {
   EXPECT_FALSE(ReadEmbeddedPreview(tree.Write("a\xFF\n.jpg", bytes), 100).bytes.isEmpty());
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(EmbeddedPreview, IsReadFromFilesWhoseNamesAreNoText, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(EmbeddedPreview, IsReadFromFilesWhoseNamesAreNoText,
+                            Zenvora::Test::kNamesAreText);
 #endif
 
 }  // namespace

@@ -21,7 +21,6 @@ namespace {
 
 using Test::Closed;
 using Test::IsSuperuser;
-using Test::kNamesAreText;
 using Test::LogCapture;
 using Test::MakeJpeg;
 using Test::MakePng;
@@ -154,7 +153,7 @@ TEST(PhotoFacts, ReadFilesWhoseNamesAreNoText) {
   EXPECT_EQ(ReadPhotoFacts(WriteJpeg(tree.Path("a\xFF\n.jpg"), FullTags())).status, Status::Read);
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(PhotoFacts, ReadFilesWhoseNamesAreNoText, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(PhotoFacts, ReadFilesWhoseNamesAreNoText, Zenvora::Test::kNamesAreText);
 #endif
 
 class NoImages : public testing::TestWithParam<std::string> {};

@@ -26,9 +26,6 @@ namespace Zenvora::Tavolin {
 namespace {
 
 using Zenvora::Test::IsSuperuser;
-using Zenvora::Test::kAccessLists;
-using Zenvora::Test::kNoPipesInFolders;
-using Zenvora::Test::kNoSizeLimit;
 
 using namespace std::chrono_literals;
 
@@ -250,7 +247,8 @@ TEST_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace) {
   ExpectEnded(resource, Status::Failed);
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace, kNoPipesInFolders);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace,
+                              Zenvora::Test::kNoPipesInFolders);
 #endif
 
 // ---- Entity tags
@@ -594,7 +592,7 @@ TEST_F(ResourceTest, GivesUpOnACopyThatIsHeldForGood) {
 
 TEST_F(ResourceTest, ServesTheFormerCopyFromAFolderWithoutPermission) {
 #ifdef _WIN32
-  GTEST_SKIP() << kAccessLists;
+  GTEST_SKIP() << Zenvora::Test::kAccessLists;
 #endif
   if (IsSuperuser()) {
     GTEST_SKIP() << "permissions do not bind the superuser";
@@ -636,7 +634,8 @@ TEST_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull) {
   EXPECT_EQ(folder.entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull, kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull,
+                              Zenvora::Test::kNoSizeLimit);
 #endif
 
 // ---- The handler

@@ -15,7 +15,9 @@ class Closed {
 
  private:
   const ioPath path_;
+#ifdef _WIN32
   void* handle_ = nullptr;
+#endif
 };
 
 /// A pipe that nobody ever writes into: whoever reads it waits for ever.
