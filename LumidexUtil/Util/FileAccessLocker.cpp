@@ -4,8 +4,14 @@
 
 #include <glog/logging.h>
 
+#include <algorithm>
+#include <array>
+#include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <map>
 #include <mutex>
 
@@ -68,19 +74,35 @@ class FileAccessLocker::Impl {
   }
 
   std::mutex& MutexOf(const ioPath& path) {
-    const std::lock_guard<std::mutex> lock(tableMutex_);
-    // Who gives a path back mostly asked for it last.
-    if (last_ == table_.end() || last_->first != path) {
-      last_ = table_.try_emplace(path).first;
+    std::atomic<Table::value_type*>& recent = recent_[SlotOf(path)];
+    // Who gives a path back mostly asked for it last, and then need not wait for the table.
+    Table::value_type* entry = recent.load(std::memory_order_acquire);
+    if (entry == nullptr || entry->first != path) {
+      const std::lock_guard<std::mutex> lock(tableMutex_);
+      entry = &*table_.try_emplace(path).first;
+      recent.store(entry, std::memory_order_release);
     }
-    return last_->second;
+    return entry->second;
   }
 
  private:
+  /// Entries stay, and so do their addresses and keys.
+  using Table = std::map<ioPath, std::mutex>;
+
+  static constexpr unsigned int SLOT_BITS = 6;
+
+  /// By the end of the name: photos of one folder differ there.
+  static std::size_t SlotOf(const ioPath& path) {
+    const auto& name = path.native().native();
+    std::uint64_t end = name.size();
+    const std::size_t length = std::min(name.size() * sizeof(name[0]), sizeof end);
+    std::memcpy(&end, reinterpret_cast<const char*>(name.data() + name.size()) - length, length);
+    return (end * 0x9E3779B97F4A7C15U) >> (64 - SLOT_BITS);
+  }
+
   std::mutex tableMutex_;
-  // Entries stay, and so do their addresses.
-  std::map<ioPath, std::mutex> table_;
-  std::map<ioPath, std::mutex>::iterator last_ = table_.end();
+  Table table_;
+  std::array<std::atomic<Table::value_type*>, 1U << SLOT_BITS> recent_ = {};
 };
 
 boost::intrusive_ptr<IFileAccessLocker> FileAccessLocker::Create() {
