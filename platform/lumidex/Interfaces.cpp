@@ -1,10 +1,15 @@
 #include <zenvora/lumidex/IFileAccessLocker.h>
+#include <zenvora/lumidex/ISimilarDataSource.h>
+#include <zenvora/lumidex/ITransactionManager.h>
 #include <zenvora/lumidex/IUndo.h>
 
 namespace Zenvora::Lumidex {
 
 // Here, so that their type information lies in one library.
 IFileAccessLocker::~IFileAccessLocker() = default;
+ISimilarDataSource::~ISimilarDataSource() = default;
+ITransaction::~ITransaction() = default;
+ITransactionManager::~ITransactionManager() = default;
 IUndo::~IUndo() = default;
 
 }  // namespace Zenvora::Lumidex

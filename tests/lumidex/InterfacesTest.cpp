@@ -1,3 +1,4 @@
+#include <support/SimilarDoubles.h>
 #include <support/Slots.h>
 
 #include <zenvora/lumidex/IFileAccessLocker.h>
@@ -73,6 +74,38 @@ TEST(IUndo, HearsOfChangesThroughItsFifthSlot) {
   constexpr std::size_t kFifth = 4;
   SlotOf<void (*)(IUndo*, DataModel&, const ioPath&)>(undo, kFifth)(&undo, item, path);
   EXPECT_EQ(object.called, "RegisterFileChange");
+}
+
+TEST(ISimilarDataSource, HasItsOperationsInTheirSlots) {
+  Zenvora::Test::SimilarStore store;
+  Zenvora::Test::FakeSimilarSource object(store);
+  ISimilarDataSource& source = object;
+  const Cluster cluster({1, 2}, 3);
+  const std::vector<QString> ids;
+  EXPECT_TRUE(source.GetClusters().empty());
+  // A result of more than a register is handed over behind the object's back: its slot is that before these.
+  EXPECT_EQ(SlotOf<int (*)(ISimilarDataSource*, const Cluster&, const std::vector<QString>&)>(source, 1)(
+                &source, cluster, ids),
+            1);
+  SlotOf<void (*)(ISimilarDataSource*, const Cluster&, const std::vector<QString>&)>(source, 2)(&source,
+                                                                                                cluster, ids);
+  EXPECT_EQ(store.events, (std::vector<std::string>{"read", "add", "update"}));
+}
+
+TEST(ITransactionManager, HasItsOperationsInTheirSlots) {
+  Zenvora::Test::SimilarStore store;
+  Zenvora::Test::FakeTransactions manager(store);
+  const auto transaction = static_cast<ITransactionManager&>(manager).BeginTransaction("a");
+  SlotOf<void (*)(ITransaction*)>(*transaction, 0)(transaction.get());
+  SlotOf<void (*)(ITransaction*)>(*transaction, 1)(transaction.get());
+  EXPECT_EQ(store.events, (std::vector<std::string>{"begin a", "rollback", "commit"}));
+}
+
+TEST(Cluster, IsNotStoredAtFirst) {
+  const Cluster cluster({1, 2}, 3);
+  EXPECT_EQ(cluster.id, 0);
+  EXPECT_EQ(cluster.centre, (std::vector<float>{1, 2}));
+  EXPECT_EQ(cluster.count, 3);
 }
 
 }  // namespace

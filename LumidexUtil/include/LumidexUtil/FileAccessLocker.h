@@ -40,7 +40,7 @@ class LUMIDEXUTIL_EXPORT FileAccessLocker : public virtual IRefCountable, public
   void Unlock(const ioPath& path) override;
 
  private:
-  class Impl;
+  class LUMIDEXUTIL_NO_EXPORT Impl;
 
   FileAccessLocker();
   ~FileAccessLocker() override;
