@@ -324,21 +324,14 @@ std::size_t Catalogue::CountPhotos() const {
 
 std::vector<PhotoRecord> Catalogue::Photos() const {
   const CatalogueDatabase& database = impl_->Database();
-  QSqlQuery query = database.Prepare(
-      "SELECT id, path, size, modified_ns, taken, taken_source, camera FROM photos WHERE lost = 0"
-      " ORDER BY taken IS NULL, taken, path");
+  QSqlQuery query =
+      database.Prepare((std::string("SELECT ") + kPhotoColumns +
+                        " FROM photos p WHERE p.lost = 0 ORDER BY p.taken IS NULL, p.taken, p.path")
+                           .c_str());
   database.Run(query);
   std::vector<PhotoRecord> photos;
   while (database.Next(query)) {
-    PhotoRecord photo;
-    photo.id = query.value(0).toString();
-    photo.path = PathOf(query.value(1));
-    photo.size = query.value(2).toULongLong();
-    photo.modifiedNs = query.value(3).toLongLong();
-    photo.taken = TakenOf(query.value(4).toString());
-    photo.takenSource = static_cast<DateSource>(query.value(5).toInt());
-    photo.camera = query.value(6).toString();
-    photos.push_back(std::move(photo));
+    photos.push_back(PhotoOf(query));
   }
   return photos;
 }

@@ -37,6 +37,18 @@ QString NotNull(const QString& text) {
   return text.isNull() ? QStringLiteral("") : text;
 }
 
+PhotoRecord PhotoOf(const QSqlQuery& row) {
+  PhotoRecord photo;
+  photo.id = row.value(0).toString();
+  photo.path = PathOf(row.value(1));
+  photo.size = row.value(2).toULongLong();
+  photo.modifiedNs = row.value(3).toLongLong();
+  photo.taken = TakenOf(row.value(4).toString());
+  photo.takenSource = static_cast<DateSource>(row.value(5).toInt());
+  photo.camera = row.value(6).toString();
+  return photo;
+}
+
 PhotoPathUpdate::PhotoPathUpdate(const CatalogueDatabase& database)
     : database_(database), set_(database.Prepare("UPDATE OR IGNORE photos SET path = ? WHERE path = ?")) {}
 

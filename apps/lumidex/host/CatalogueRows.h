@@ -20,6 +20,12 @@ QDateTime TakenOf(const QString& text);
 /// A null text would be NULL, which the tables do not take.
 QString NotNull(const QString& text);
 
+/// The columns of a photo that `PhotoOf` reads, of the table `photos` as `p`.
+constexpr char kPhotoColumns[] = "p.id, p.path, p.size, p.modified_ns, p.taken, p.taken_source, p.camera";
+constexpr int kPhotoColumnCount = 7;
+/// A photo that is not lost, from the current row, whose first columns are those.
+PhotoRecord PhotoOf(const QSqlQuery& row);
+
 /// Gives photos new paths, one after the other, within the caller's transaction. What is not in the catalogue
 /// is passed over. A lost photo that the catalogue has under a new path gets the path that became free.
 class PhotoPathUpdate {

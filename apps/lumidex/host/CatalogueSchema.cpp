@@ -70,6 +70,37 @@ const Statements& Migration(int fromVersion) {
           " digest_after BLOB)",
           "CREATE INDEX changes_by_step ON changes (step)",
       },
+      {
+          "CREATE TABLE analysers ("
+          " number INTEGER PRIMARY KEY,"
+          " name TEXT NOT NULL,"
+          " version INTEGER NOT NULL,"
+          " length INTEGER NOT NULL,"
+          " UNIQUE (name, version, length))",
+          "CREATE TABLE features ("
+          " photo INTEGER NOT NULL REFERENCES photos (number),"
+          " analyser INTEGER NOT NULL REFERENCES analysers (number) ON DELETE CASCADE,"
+          " size INTEGER NOT NULL,"
+          " modified_ns INTEGER NOT NULL,"
+          " vector BLOB,"
+          " problem TEXT NOT NULL,"
+          " width INTEGER NOT NULL,"
+          " height INTEGER NOT NULL,"
+          " sharpness REAL NOT NULL,"
+          " PRIMARY KEY (photo, analyser))",
+          "CREATE TABLE clusters ("
+          " id INTEGER PRIMARY KEY,"
+          " analyser INTEGER NOT NULL REFERENCES analysers (number) ON DELETE CASCADE,"
+          " count INTEGER NOT NULL CHECK (count > 0),"
+          " centre BLOB NOT NULL)",
+          "CREATE INDEX clusters_by_analyser ON clusters (analyser)",
+          "CREATE TABLE cluster_photos ("
+          " cluster INTEGER NOT NULL REFERENCES clusters (id) ON DELETE CASCADE,"
+          " arrival INTEGER NOT NULL,"
+          " photo INTEGER NOT NULL REFERENCES photos (number),"
+          " PRIMARY KEY (cluster, arrival)) WITHOUT ROWID",
+          "CREATE INDEX cluster_photos_by_photo ON cluster_photos (photo)",
+      },
   };
   static_assert(kCatalogueApplicationId == 1280132184, "the first migration writes it");
   CHECK_EQ(migrations.size(), static_cast<std::size_t>(Catalogue::kSchemaVersion));

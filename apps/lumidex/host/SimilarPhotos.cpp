@@ -1,0 +1,379 @@
+#include "CatalogueDatabase.h"
+#include "CatalogueRows.h"
+#include "SimilarReplay.h"
+#include "SimilarStore.h"
+
+#include <LumidexUtil/SimilarDataManager.h>
+#include <host/SimilarPhotos.h>
+
+#include <zenvora/quillet/MatchTemplate.h>
+
+#include <boost/smart_ptr/intrusive_ptr.hpp>
+
+#include <algorithm>
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+/// A transaction each: enough for the index to see many at once, and little to do again after a kill.
+constexpr std::size_t kBatch = 2000;
+
+constexpr char kByDate[] = " ORDER BY p.taken IS NULL, p.taken, p.path";
+
+std::string PhotosWhere(const std::string& condition) {
+  return std::string("SELECT ") + kPhotoColumns + " FROM photos p WHERE " + condition + kByDate;
+}
+
+/// The columns of `features` as `f` that `FeaturesOf` reads.
+constexpr char kFeatureColumns[] = "f.vector, f.problem, f.width, f.height, f.sharpness";
+
+PhotoFeatures FeaturesOf(const QSqlQuery& row, int first) {
+  PhotoFeatures features;
+  features.vector = VectorOf(row.value(first).toByteArray());
+  features.problem = row.value(first + 1).toString().toStdString();
+  features.width = row.value(first + 2).toInt();
+  features.height = row.value(first + 3).toInt();
+  features.sharpness = row.value(first + 4).toDouble();
+  return features;
+}
+
+/// A photo in a cluster, as `Explain` needs it.
+struct Place {
+  std::int64_t cluster = 0;
+  std::vector<float> vector;
+  std::vector<float> centre;
+};
+
+}  // namespace
+
+class SimilarPhotos::Impl {
+ public:
+  Impl(const ioPath& catalogue, const AnalyserName& analyser);
+
+  std::vector<PhotoRecord> Pending() const;
+  void Store(const std::vector<AnalysedPhoto>& photos);
+  std::vector<std::pair<PhotoRecord, std::string>> Problems() const;
+  std::size_t AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress);
+  void ClearClusters();
+  std::vector<SimilarGroup> Groups(std::size_t least) const;
+  std::optional<Place> Find(const ioPath& photo) const;
+  std::vector<std::string> Check() const;
+
+ private:
+  using Item = std::pair<QString, std::vector<float>>;
+
+  qlonglong TakeAnalyser(const AnalyserName& analyser) const;
+  /// `sql` has one place for the analyser's number.
+  QSqlQuery RunFor(const std::string& sql) const;
+  bool ChangesACluster(const AnalysedPhoto& photo) const;
+  void DeleteClusters() const;
+  void AddBatch(const std::vector<Item>& items);
+
+  const Catalogue catalogue_;
+  const CatalogueDatabase database_;
+  const std::size_t length_;
+  const qlonglong analyser_;
+  const std::shared_ptr<CatalogueTransactions> transactions_;
+  const std::shared_ptr<SimilarStore> store_;
+  /// Made when it is needed; none after a failure, for it then knows what the store does not.
+  boost::intrusive_ptr<ISimilarDataManager> manager_;
+};
+
+SimilarPhotos::Impl::Impl(const ioPath& catalogue, const AnalyserName& analyser)
+    // Makes or updates it.
+    : catalogue_(catalogue, Catalogue::Mode::ReadWrite),
+      database_(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
+      length_(analyser.length),
+      analyser_(TakeAnalyser(analyser)),
+      transactions_(std::make_shared<CatalogueTransactions>(database_)),
+      store_(std::make_shared<SimilarStore>(database_, *transactions_, analyser_)) {}
+
+qlonglong SimilarPhotos::Impl::TakeAnalyser(const AnalyserName& analyser) const {
+  const auto bind = [&analyser](QSqlQuery& query) {
+    query.addBindValue(NotNull(analyser.name));
+    query.addBindValue(analyser.version);
+    query.addBindValue(static_cast<qlonglong>(analyser.length));
+  };
+  const auto find = [&] {
+    QSqlQuery query =
+        database_.Prepare("SELECT number FROM analysers WHERE name = ? AND version = ? AND length = ?");
+    bind(query);
+    database_.Run(query);
+    return database_.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
+  };
+  if (const auto known = find()) {
+    return *known;
+  }
+  WriteTransaction transaction(database_);
+  if (const auto known = find()) {
+    // Another process was faster.
+    return *known;
+  }
+  QSqlQuery former = database_.Prepare("DELETE FROM analysers WHERE name = ?");
+  former.addBindValue(NotNull(analyser.name));
+  database_.Run(former);
+  QSqlQuery query = database_.Prepare("INSERT INTO analysers (name, version, length) VALUES (?, ?, ?)");
+  bind(query);
+  database_.Run(query);
+  const qlonglong number = query.lastInsertId().toLongLong();
+  transaction.Commit();
+  return number;
+}
+
+QSqlQuery SimilarPhotos::Impl::RunFor(const std::string& sql) const {
+  QSqlQuery query = database_.Prepare(sql.c_str());
+  query.addBindValue(analyser_);
+  database_.Run(query);
+  return query;
+}
+
+std::vector<PhotoRecord> SimilarPhotos::Impl::Pending() const {
+  QSqlQuery query = RunFor(PhotosWhere(
+      "p.lost = 0 AND NOT EXISTS (SELECT 1 FROM features f WHERE f.photo = p.number AND f.analyser"
+      " = ? AND f.size = p.size AND f.modified_ns = p.modified_ns)"));
+  std::vector<PhotoRecord> photos;
+  while (database_.Next(query)) {
+    photos.push_back(PhotoOf(query));
+  }
+  return photos;
+}
+
+/// True when the photo is in a cluster with another vector.
+bool SimilarPhotos::Impl::ChangesACluster(const AnalysedPhoto& photo) const {
+  QSqlQuery query = database_.Prepare(
+      "SELECT f.vector FROM features f JOIN photos p ON p.number = f.photo WHERE f.analyser = ? AND p.id = ?"
+      " AND EXISTS (SELECT 1 FROM cluster_photos m JOIN clusters c ON c.id = m.cluster"
+      " WHERE m.photo = p.number AND c.analyser = f.analyser)");
+  query.addBindValue(analyser_);
+  query.addBindValue(photo.id);
+  database_.Run(query);
+  return database_.Next(query) && query.value(0).toByteArray() != VectorBytes(photo.features.vector);
+}
+
+void SimilarPhotos::Impl::Store(const std::vector<AnalysedPhoto>& photos) {
+  WriteTransaction transaction(database_);
+  bool clustersStand = true;
+  QSqlQuery query = database_.Prepare(
+      "INSERT OR REPLACE INTO features (photo, analyser, size, modified_ns, vector, problem, width, height,"
+      " sharpness) SELECT number, ?, ?, ?, ?, ?, ?, ?, ? FROM photos WHERE id = ?");
+  for (const AnalysedPhoto& photo : photos) {
+    const PhotoFeatures& features = photo.features;
+    if (!features.vector.empty() && features.vector.size() != length_) {
+      database_.Fail("a feature vector of " + std::to_string(features.vector.size()) +
+                     " numbers is none of " + std::to_string(length_));
+    }
+    clustersStand = clustersStand && !ChangesACluster(photo);
+    query.addBindValue(analyser_);
+    query.addBindValue(static_cast<qlonglong>(photo.stamp.size));
+    query.addBindValue(static_cast<qlonglong>(photo.stamp.modifiedNs));
+    query.addBindValue(features.vector.empty() ? QVariant(QVariant::ByteArray)
+                                               : QVariant(VectorBytes(features.vector)));
+    query.addBindValue(NotNull(QString::fromStdString(features.problem)));
+    query.addBindValue(features.width);
+    query.addBindValue(features.height);
+    query.addBindValue(features.sharpness);
+    query.addBindValue(photo.id);
+    database_.Run(query);
+    if (query.numRowsAffected() != 1) {
+      database_.Fail("it knows no photo with the id \"" + photo.id.toStdString() + "\"");
+    }
+  }
+  if (!clustersStand) {
+    DeleteClusters();
+  }
+  transaction.Commit();
+  if (!clustersStand) {
+    manager_.reset();
+  }
+}
+
+std::vector<std::pair<PhotoRecord, std::string>> SimilarPhotos::Impl::Problems() const {
+  QSqlQuery query =
+      RunFor(std::string("SELECT ") + kPhotoColumns +
+             ", f.problem FROM features f JOIN photos p ON p.number = f.photo WHERE f.analyser = ?"
+             " AND f.vector IS NULL AND p.lost = 0 ORDER BY p.path");
+  std::vector<std::pair<PhotoRecord, std::string>> problems;
+  while (database_.Next(query)) {
+    problems.emplace_back(PhotoOf(query), query.value(kPhotoColumnCount).toString().toStdString());
+  }
+  return problems;
+}
+
+std::size_t SimilarPhotos::Impl::AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress) {
+  std::vector<QString> waiting;
+  {
+    QSqlQuery query = RunFor(
+        "SELECT p.id FROM features f JOIN photos p ON p.number = f.photo WHERE f.analyser = ? AND f.vector "
+        "IS NOT"
+        " NULL AND p.lost = 0 AND NOT EXISTS (SELECT 1 FROM cluster_photos m JOIN clusters c ON c.id = "
+        "m.cluster"
+        " WHERE m.photo = p.number AND c.analyser = f.analyser)" +
+        std::string(kByDate));
+    while (database_.Next(query)) {
+      waiting.push_back(query.value(0).toString());
+    }
+  }
+  QSqlQuery read = database_.Prepare(
+      "SELECT f.vector FROM features f JOIN photos p ON p.number = f.photo WHERE f.analyser = ? AND p.id = "
+      "?");
+  std::size_t done = 0;
+  while (done < waiting.size() && !cancelled) {
+    std::vector<Item> items;
+    for (const std::size_t end = std::min(waiting.size(), done + kBatch); done < end; ++done) {
+      read.addBindValue(analyser_);
+      read.addBindValue(waiting[done]);
+      database_.Run(read);
+      if (database_.Next(read)) {
+        items.emplace_back(waiting[done], VectorOf(read.value(0).toByteArray()));
+      }
+    }
+    read.finish();
+    AddBatch(items);
+    if (progress) {
+      progress(done, waiting.size());
+    }
+  }
+  return done;
+}
+
+void SimilarPhotos::Impl::AddBatch(const std::vector<Item>& items) {
+  std::vector<QString> ids;
+  ids.reserve(items.size());
+  for (const Item& item : items) {
+    ids.push_back(item.first);
+  }
+  try {
+    if (!manager_) {
+      manager_.reset(new SimilarDataManager(store_, transactions_));
+    }
+    store_->ExpectArrivals(ids);
+    manager_->AddToStorage(items);
+  } catch (...) {
+    manager_.reset();
+    throw;
+  }
+}
+
+void SimilarPhotos::Impl::DeleteClusters() const {
+  RunFor("DELETE FROM clusters WHERE analyser = ?");
+}
+
+void SimilarPhotos::Impl::ClearClusters() {
+  manager_.reset();
+  WriteTransaction transaction(database_);
+  DeleteClusters();
+  transaction.Commit();
+}
+
+std::vector<SimilarGroup> SimilarPhotos::Impl::Groups(std::size_t least) const {
+  QSqlQuery query = database_.Prepare(
+      (std::string("SELECT ") + kPhotoColumns + ", " + kFeatureColumns +
+       ", c.id, c.centre FROM clusters c JOIN cluster_photos m ON m.cluster = c.id"
+       " JOIN photos p ON p.number = m.photo JOIN features f ON f.photo = p.number AND f.analyser = "
+       "c.analyser"
+       " WHERE c.analyser = ? AND p.lost = 0 AND (SELECT count(*) FROM cluster_photos n JOIN photos q ON"
+       " q.number = n.photo WHERE n.cluster = c.id AND q.lost = 0) >= ?"
+       " ORDER BY c.id, p.taken IS NULL, p.taken, p.path")
+          .c_str());
+  query.addBindValue(analyser_);
+  query.addBindValue(static_cast<qlonglong>(least));
+  database_.Run(query);
+  std::vector<SimilarGroup> groups;
+  while (database_.Next(query)) {
+    const std::int64_t id = query.value(kPhotoColumnCount + 5).toLongLong();
+    if (groups.empty() || groups.back().cluster != id) {
+      groups.push_back({id, VectorOf(query.value(kPhotoColumnCount + 6).toByteArray()), {}});
+    }
+    SimilarGroup& group = groups.back();
+    SimilarMember member{PhotoOf(query), FeaturesOf(query, kPhotoColumnCount), 0};
+    member.score = Quillet::MatchTemplate(member.features.vector, group.centre);
+    group.members.push_back(std::move(member));
+  }
+  std::stable_sort(groups.begin(), groups.end(), [](const SimilarGroup& left, const SimilarGroup& right) {
+    return left.members.size() > right.members.size();
+  });
+  return groups;
+}
+
+std::optional<Place> SimilarPhotos::Impl::Find(const ioPath& photo) const {
+  QSqlQuery query = database_.Prepare(
+      "SELECT c.id, c.centre, f.vector FROM photos p JOIN cluster_photos m ON m.photo = p.number"
+      " JOIN clusters c ON c.id = m.cluster JOIN features f ON f.photo = p.number AND f.analyser = c.analyser"
+      " WHERE c.analyser = ? AND p.path = ?");
+  query.addBindValue(analyser_);
+  query.addBindValue(PathBytes(photo));
+  database_.Run(query);
+  if (!database_.Next(query)) {
+    return std::nullopt;
+  }
+  return Place{query.value(0).toLongLong(), VectorOf(query.value(2).toByteArray()),
+               VectorOf(query.value(1).toByteArray())};
+}
+
+std::vector<std::string> SimilarPhotos::Impl::Check() const {
+  SimilarReplay replay;
+  QSqlQuery members = RunFor(
+      "SELECT m.cluster, m.photo, f.vector FROM cluster_photos m JOIN clusters c ON c.id = m.cluster"
+      " LEFT JOIN features f ON f.photo = m.photo AND f.analyser = c.analyser WHERE c.analyser = ?"
+      " ORDER BY m.arrival");
+  while (database_.Next(members)) {
+    replay.Add(members.value(0).toLongLong(), members.value(1).toString(),
+               VectorOf(members.value(2).toByteArray()));
+  }
+  return replay.Compare(store_->GetClusters());
+}
+
+// --- The class
+
+SimilarPhotos::SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser)
+    : impl_(std::make_unique<Impl>(catalogue, analyser)) {}
+
+SimilarPhotos::~SimilarPhotos() = default;
+
+std::vector<PhotoRecord> SimilarPhotos::Pending() const {
+  return impl_->Pending();
+}
+
+void SimilarPhotos::Store(const std::vector<AnalysedPhoto>& photos) {
+  impl_->Store(photos);
+}
+
+std::vector<std::pair<PhotoRecord, std::string>> SimilarPhotos::Problems() const {
+  return impl_->Problems();
+}
+
+std::size_t SimilarPhotos::AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress) {
+  return impl_->AddToClusters(cancelled, progress);
+}
+
+void SimilarPhotos::ClearClusters() {
+  impl_->ClearClusters();
+}
+
+std::vector<SimilarGroup> SimilarPhotos::Groups(std::size_t least) const {
+  return impl_->Groups(least);
+}
+
+std::optional<SimilarityFacts> SimilarPhotos::Explain(const ioPath& first, const ioPath& second) const {
+  const std::optional<Place> a = impl_->Find(first);
+  const std::optional<Place> b = impl_->Find(second);
+  if (!a || !b) {
+    return std::nullopt;
+  }
+  using Quillet::MatchTemplate;
+  return SimilarityFacts{MatchTemplate(a->vector, b->vector),
+                         a->cluster,
+                         b->cluster,
+                         MatchTemplate(a->vector, a->centre),
+                         MatchTemplate(a->vector, b->centre),
+                         MatchTemplate(b->vector, a->centre),
+                         MatchTemplate(b->vector, b->centre)};
+}
+
+std::vector<std::string> SimilarPhotos::Check() const {
+  return impl_->Check();
+}
+
+}  // namespace Zenvora::Lumidex::Host
