@@ -1,0 +1,116 @@
+#include <host/SimilarKeeper.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// 40 by 30 pixels, without a date or a camera.
+SimilarMember Member(const std::string& name) {
+  SimilarMember member;
+  member.photo.path = ioPath("/p/" + name);
+  member.features.width = 40;
+  member.features.height = 30;
+  member.features.sharpness = 10;
+  return member;
+}
+
+SimilarMember Sized(const std::string& name, int width, int height) {
+  SimilarMember member = Member(name);
+  member.features.width = width;
+  member.features.height = height;
+  return member;
+}
+
+SimilarMember Sharp(const std::string& name, double sharpness) {
+  SimilarMember member = Member(name);
+  member.features.sharpness = sharpness;
+  return member;
+}
+
+SimilarMember Taken(const std::string& name, const QDate& day, DateSource source) {
+  SimilarMember member = Member(name);
+  member.photo.taken = QDateTime(day, QTime(12, 0));
+  member.photo.takenSource = source;
+  return member;
+}
+
+TEST(SimilarKeeper, IsTheLargest) {
+  const KeeperChoice choice = SuggestKeeper({Sized("a", 40, 30), Sized("b", 30, 60), Sized("c", 0, 0)});
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::Largest));
+}
+
+TEST(SimilarKeeper, CountsMorePixelsThanAnIntHolds) {
+  EXPECT_EQ(SuggestKeeper({Sized("a", 60'000, 60'000), Sized("b", 70'000, 60'000)}).index, 1U);
+}
+
+TEST(SimilarKeeper, IsTheSharpestOfTheLargest) {
+  std::vector<SimilarMember> members{Sharp("a", 10), Sharp("b", 12), Sized("c", 1, 1)};
+  members[2].features.sharpness = 99;
+  const KeeperChoice choice = SuggestKeeper(members);
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::Largest, KeeperReason::Sharpest));
+}
+
+TEST(SimilarKeeper, MakesNothingOfASmallDifferenceInSharpness) {
+  const KeeperChoice choice = SuggestKeeper({Sharp("a", 9.1), Sharp("b", 10)});
+  EXPECT_EQ(choice.index, 0U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::FirstName));
+}
+
+TEST(SimilarKeeper, HasWhatTheCameraWrote) {
+  SimilarMember camera = Member("z");
+  camera.photo.camera = QStringLiteral("Model X");
+  EXPECT_EQ(SuggestKeeper({Member("a"), camera}).index, 1U);
+  const QDate day(2021, 1, 1);
+  for (const DateSource source : {DateSource::Original, DateSource::Digitised}) {
+    const KeeperChoice choice =
+        SuggestKeeper({Taken("a", day.addDays(-1), DateSource::FileTime), Taken("z", day, source)});
+    EXPECT_EQ(choice.index, 1U);
+    EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::CameraData));
+  }
+}
+
+TEST(SimilarKeeper, IsTheEarliest) {
+  const QDate day(2021, 1, 2);
+  const KeeperChoice choice =
+      SuggestKeeper({Taken("a", day, DateSource::Original), Taken("b", day.addDays(-1), DateSource::Original),
+                     Taken("c", day.addDays(1), DateSource::Original)});
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::Earliest));
+}
+
+TEST(SimilarKeeper, PrefersAnyDateToNone) {
+  EXPECT_EQ(SuggestKeeper({Member("a"), Taken("b", QDate(1800, 1, 1), DateSource::FileTime)}).index, 1U);
+}
+
+TEST(SimilarKeeper, IsTheFirstByNameOfEquals) {
+  const KeeperChoice choice = SuggestKeeper({Member("c"), Member("a"), Member("b")});
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::FirstName));
+}
+
+TEST(SimilarKeeper, NeedsNoReasonWhenItIsAlone) {
+  const KeeperChoice choice = SuggestKeeper({Member("a")});
+  EXPECT_EQ(choice.index, 0U);
+  EXPECT_THAT(choice.reasons, IsEmpty());
+}
+
+TEST(SimilarKeeper, NamesItsReasons) {
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::Largest), "largest");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::Sharpest), "sharpest");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraData), "has camera data");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::Earliest), "earliest");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::FirstName), "first by name");
+}
+
+}  // namespace
+}  // namespace Zenvora::Lumidex::Host
