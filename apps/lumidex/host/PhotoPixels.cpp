@@ -15,8 +15,10 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-/// Decoders that must hold the whole picture take about 4 bytes a pixel, JPEG's far fewer.
+/// Of pictures that the decoder holds whole, also where a pixel is but a bit: scaling makes bytes of them.
 constexpr std::int64_t kMostPixels = 100'000'000;
+constexpr std::int64_t kMostBytes = 400'000'000;
+/// JPEG is decoded row by row, but for progressive ones.
 constexpr std::int64_t kMostJpegPixels = 300'000'000;
 /// From here on one picture at a time, whatever the number of threads.
 constexpr std::int64_t kLargePixels = 40'000'000;
@@ -31,6 +33,70 @@ bool IsPhotoFormat(const QByteArray& format) {
                                    "gif",  "bmp", "jp2", "heic", "heif", "avif"};
   return std::any_of(kFormats.begin(), kFormats.end(),
                      [&format](const char* known) { return format == known; });
+}
+
+int ByteAt(QIODevice& device) {
+  char byte = 0;
+  return device.getChar(&byte) ? static_cast<unsigned char>(byte) : -1;
+}
+
+/// True for a JPEG stream whose decoder keeps the whole picture, or whose kind is not to be found out.
+bool IsHeldWhole(QIODevice& device) {
+  constexpr int kMostSegments = 5000;
+  device.seek(2);
+  for (int i = 0; i < kMostSegments; ++i) {
+    if (ByteAt(device) != 0xFF) {
+      return true;
+    }
+    int marker = 0xFF;
+    while (marker == 0xFF) {
+      marker = ByteAt(device);
+    }
+    if (marker == 0xC0 || marker == 0xC1) {
+      return false;
+    }
+    const int high = ByteAt(device);
+    const int low = ByteAt(device);
+    const int length = high * 256 + low;
+    const bool otherFrame =
+        marker >= 0xC2 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+    if (otherFrame || marker < 0 || high < 0 || low < 0 || length < 2 ||
+        !device.seek(device.pos() + length - 2)) {
+      return true;
+    }
+  }
+  return true;
+}
+
+bool IsTooLarge(QImageReader& reader, QIODevice& device, std::int64_t pixels) {
+  if (IsJpeg(reader.format())) {
+    if (pixels <= kMostPixels) {
+      return false;
+    }
+    const qint64 before = device.pos();
+    const bool tooLarge = pixels > kMostJpegPixels || IsHeldWhole(device);
+    device.seek(before);
+    return tooLarge;
+  }
+  const int bits = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
+  return pixels > kMostPixels || pixels * std::max(bits, 8) / 8 > kMostBytes;
+}
+
+/// A JPEG decoder makes all that it cannot read mid-grey. A sliver above that is no picture either.
+bool IsFill(const QImage& image) {
+  constexpr QRgb kFill = qRgb(128, 128, 128);
+  constexpr double kLeastShown = 0.05;
+  const double most = kLeastShown * image.width() * image.height();
+  std::int64_t shown = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      shown += image.pixel(x, y) != kFill ? 1 : 0;
+    }
+    if (static_cast<double>(shown) > most) {
+      return false;
+    }
+  }
+  return true;
 }
 
 QImage InSrgb(QImage image) {
@@ -54,17 +120,25 @@ QSize FittedSize(const QSize& size, int longerSide) {
           std::max(1, static_cast<int>(std::lround(size.height() * scale)))};
 }
 
-QImage DecodePicture(QIODevice& device, int longerSide, bool upright) {
+DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);
-  if (!reader.canRead()) {
-    return {};
+  if (!reader.canRead() || !IsPhotoFormat(reader.format())) {
+    return {{}, {}, "its content is no picture of a known format"};
   }
-  const QByteArray format = reader.format();
   const QSize size = reader.size();
+  if (size.isEmpty()) {
+    return {{}, {}, "the head of the picture is damaged"};
+  }
+  const bool jpeg = IsJpeg(reader.format());
+  const bool turned = upright && reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+  DecodedPicture result;
+  result.size = turned ? size.transposed() : size;
   const std::int64_t pixels = static_cast<std::int64_t>(size.width()) * size.height();
-  if (!IsPhotoFormat(format) || size.isEmpty() || pixels > (IsJpeg(format) ? kMostJpegPixels : kMostPixels)) {
-    return {};
+  if (IsTooLarge(reader, device, pixels)) {
+    result.cause = "the picture is too large: " + std::to_string(size.width()) + " x " +
+                   std::to_string(size.height()) + " pixels";
+    return result;
   }
   static std::mutex largeOnes;
   std::unique_lock<std::mutex> oneAtATime(largeOnes, std::defer_lock);
@@ -73,24 +147,26 @@ QImage DecodePicture(QIODevice& device, int longerSide, bool upright) {
   }
   reader.setAutoTransform(upright);
   const QSize wished = FittedSize(size, longerSide);
-  if (IsJpeg(format) && wished != size) {
+  if (jpeg && wished != size) {
     reader.setScaledSize(wished);
   }
   QImage image = reader.read();
-  if (image.isNull()) {
-    return {};
+  if (image.isNull() || (jpeg && IsFill(image))) {
+    result.cause = "nothing of the picture can be decoded";
+    return result;
   }
   const QSize fitted = FittedSize(image.size(), longerSide);
   if (fitted != image.size()) {
     image = image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   }
-  return InSrgb(image);
+  result.image = InSrgb(image);
+  return result;
 }
 
 QImage DecodeBytes(const QByteArray& bytes, int longerSide) {
   QBuffer buffer;
   buffer.setData(bytes);
-  return buffer.open(QIODevice::ReadOnly) ? DecodePicture(buffer, longerSide, false) : QImage();
+  return buffer.open(QIODevice::ReadOnly) ? DecodePicture(buffer, longerSide, false).image : QImage();
 }
 
 QImage Turned(const QImage& stored, int orientation) {

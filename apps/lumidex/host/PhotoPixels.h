@@ -3,14 +3,26 @@
 #include <QByteArray>
 #include <QIODevice>
 #include <QImage>
+#include <QSize>
+
+#include <string>
 
 namespace Zenvora::Lumidex::Host {
 
+/// What decoding a picture gave.
+struct DecodedPicture {
+  QImage image;  ///< Null when there is a cause.
+  /// The whole picture's, turned as the image is; empty when its head cannot be read.
+  QSize size;
+  std::string cause;  ///< In English, without the file's name.
+};
+
 /// Decodes a picture in one of the formats that photos come in, no larger than `longerSide`, in sRGB, turned
-/// upright when `upright`. Null for other formats, huge pictures and ones too damaged to give any pixels. The
-/// device must be open and able to seek.
-QImage DecodePicture(QIODevice& device, int longerSide, bool upright);
-/// The same for bytes in memory; never turned.
+/// upright when `upright`. No image for other formats, for pictures that would take too much memory, which is
+/// found out before it is taken, and for ones too damaged to give any pixels. The device must be open and
+/// able to seek.
+DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright);
+/// The picture alone, from bytes in memory; never turned.
 QImage DecodeBytes(const QByteArray& bytes, int longerSide);
 
 /// The picture as EXIF's orientation (1..8; others change nothing) says. Pure.

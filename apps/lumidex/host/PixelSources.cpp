@@ -1,0 +1,167 @@
+#include "PixelSources.h"
+
+#include "FileDevice.h"
+#include "PhotoPixels.h"
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+#include <zenvora/strandel/EmbeddedPreview.h>
+
+#include <QImageReader>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+constexpr std::uint64_t kMostFileBytes = 512ULL * 1024 * 1024;
+
+int LongerSide(const QImage& image) {
+  return std::max(image.width(), image.height());
+}
+
+/// Why the file is not to be opened at all; empty: it may be. Waiting on a pipe or reading a device would
+/// never end.
+std::string Refusal(const ioPath& file) {
+  const FileState state = QueryFile(file);
+  switch (state.kind) {
+    case FileState::Kind::Missing:
+      return "there is no such file";
+    case FileState::Kind::Loop:
+    case FileState::Kind::Unknown:
+      return ErrorText(state.error);
+    case FileState::Kind::Folder:
+    case FileState::Kind::Other:
+      return "it is no regular file";
+    case FileState::Kind::File:
+      break;
+  }
+  if (state.size == 0) {
+    return "the file is empty";
+  }
+  return state.size > kMostFileBytes ? "the file is larger than 512 MiB" : "";
+}
+
+/// The previews of other shapes that will do.
+enum class OtherShapes {
+  BetweenBars,  ///< Where the bars that fill a fixed frame can be cut off.
+  All,          ///< For files that nothing else here can show.
+};
+
+QImage PreviewOf(const ioPath& file, int longerSide, const QSize& picture, OtherShapes others) {
+  const Strandel::EmbeddedPreview preview = Strandel::ReadEmbeddedPreview(file, longerSide);
+  if (preview.bytes.isEmpty()) {
+    return {};
+  }
+  QImage image = DecodeBytes(preview.bytes, longerSide);
+  if (!preview.sameShape && others == OtherShapes::BetweenBars && !image.isNull()) {
+    image = BetweenDarkBars(image, picture);
+  }
+  return image.isNull() ? image : Turned(image, preview.orientation);
+}
+
+/// Pixels of a JPEG file as stored; empty when its head is damaged.
+QSize JpegSize(QIODevice& device) {
+  const QSize size = QImageReader(&device, "jpeg").size();
+  device.seek(0);
+  return size;
+}
+
+FoundPixels FromPreview(QImage preview, const QSize& stored) {
+  FoundPixels found;
+  found.source = PixelSource::Preview;
+  const bool turned = !stored.isEmpty() && stored.width() != stored.height() &&
+                      (stored.width() > stored.height()) != (preview.width() > preview.height());
+  found.size = turned ? stored.transposed() : stored;
+  found.image = std::move(preview);
+  return found;
+}
+
+bool IsBrightIn(const QImage& image, const QRect& part) {
+  // JPEG leaves dirt in black.
+  constexpr int kDark = 40;
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    for (int x = part.left(); x <= part.right(); ++x) {
+      if (qGray(image.pixel(x, y)) > kDark) {
+        return true;
+      }
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+QImage BetweenDarkBars(const QImage& preview, const QSize& picture) {
+  if (preview.isNull() || picture.isEmpty()) {
+    return {};
+  }
+  const double shape = static_cast<double>(picture.width()) / picture.height();
+  const bool atTopAndBottom = preview.width() < shape * preview.height();
+  const int whole = atTopAndBottom ? preview.height() : preview.width();
+  const double shown = atTopAndBottom ? preview.width() / shape : preview.height() * shape;
+  const int bar = static_cast<int>(std::floor((whole - shown) / 2));
+  // The rows of the edge are a mixture, and cameras round as they please.
+  constexpr int kEdge = 2;
+  if (bar <= kEdge || bar > whole / 3) {
+    return {};
+  }
+  const int dark = bar - kEdge;
+  const QRect all = preview.rect();
+  const QRect first =
+      atTopAndBottom ? all.adjusted(0, 0, 0, dark - whole) : all.adjusted(0, 0, dark - whole, 0);
+  const QRect last =
+      atTopAndBottom ? all.adjusted(0, whole - dark, 0, 0) : all.adjusted(whole - dark, 0, 0, 0);
+  if (IsBrightIn(preview, first) || IsBrightIn(preview, last)) {
+    return {};
+  }
+  const int cut = bar + kEdge;
+  return preview.copy(atTopAndBottom ? all.adjusted(0, cut, 0, -cut) : all.adjusted(cut, 0, -cut, 0));
+}
+
+FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previewsFrom) {
+  FoundPixels found;
+  found.cause = Refusal(file);
+  if (!found.cause.empty()) {
+    return found;
+  }
+  FileDevice device(file);
+  if (!device.isOpen()) {
+    found.cause = "the file cannot be opened";
+    return found;
+  }
+  const QByteArray head = device.peek(2);
+  const bool tiff = head == "II" || head == "MM";
+  QImage best;
+  QSize stored;
+  if (head == "\xFF\xD8") {
+    stored = JpegSize(device);
+    if (static_cast<std::int64_t>(stored.width()) * stored.height() >= previewsFrom) {
+      best = PreviewOf(file, longerSide, stored, OtherShapes::BetweenBars);
+    }
+  } else if (tiff) {
+    // Most raw formats are TIFF files whose first picture is tiny: their previews come first.
+    best = PreviewOf(file, longerSide, {}, OtherShapes::All);
+  }
+  if (LongerSide(best) >= longerSide) {
+    return FromPreview(std::move(best), stored);
+  }
+  DecodedPicture decoded = DecodePicture(device, longerSide, true);
+  if (!decoded.image.isNull() && LongerSide(decoded.image) >= LongerSide(best)) {
+    return {std::move(decoded.image), PixelSource::Picture, decoded.size, {}};
+  }
+  if (best.isNull() && !tiff) {
+    best = PreviewOf(file, longerSide, stored, OtherShapes::All);
+  }
+  if (best.isNull()) {
+    found.size = decoded.size;
+    found.cause = decoded.cause;
+    return found;
+  }
+  return FromPreview(std::move(best), stored);
+}
+
+}  // namespace Zenvora::Lumidex::Host
