@@ -8,6 +8,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <limits>
+
 namespace Zenvora::Lumidex::Cli {
 namespace {
 
@@ -88,6 +90,19 @@ TEST(JsonWriter, WritesDaysAndMoments) {
   EXPECT_EQ(read["whole"].toString(), QStringLiteral("2023-12-24T08:05:01"));
   EXPECT_EQ(read["part"].toString(), QStringLiteral("2023-12-24T08:05:01.020"));
   EXPECT_TRUE(read["none"].isNull());
+}
+
+TEST(JsonWriter, WritesTheShortestNumberThatReadsBack) {
+  JsonWriter json("f", 1);
+  for (const float number : {0.91F, 1.0F, -0.5F, 1e-7F, 0.3F}) {
+    json.Real("x", number);
+  }
+  json.Real("x", std::numeric_limits<float>::quiet_NaN());
+  json.Real("x", std::numeric_limits<float>::infinity());
+  EXPECT_EQ(json.Finish(),
+            "{\n  \"format\": \"f\",\n  \"version\": 1,\n  \"x\": 0.91,\n  \"x\": 1,\n  \"x\": -0.5,\n  "
+            "\"x\": 1e-07,\n"
+            "  \"x\": 0.3,\n  \"x\": null,\n  \"x\": null\n}\n");
 }
 
 }  // namespace

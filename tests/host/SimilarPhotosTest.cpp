@@ -150,7 +150,9 @@ TEST_F(SimilarPhotosTest, TellsWhatCannotBeAnalysed) {
 TEST_F(SimilarPhotosTest, LeavesLostPhotosOutOfTheGroups) {
   AddPhotos({{1, 0}, {1, 0.1F}, {1, 0.2F}});
   Cluster();
+  EXPECT_EQ(similar_->CountClustered(), 3U);
   catalogue_.MarkLost({"/p/1"});
+  EXPECT_EQ(similar_->CountClustered(), 2U);
   EXPECT_THAT(Groups(), ElementsAre(ElementsAre("/p/0", "/p/2")));
   EXPECT_THAT(Groups(3), IsEmpty());
   // The centre still knows it.

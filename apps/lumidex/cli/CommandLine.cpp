@@ -59,6 +59,7 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
       ->disable_flag_override();
   AddScanCommand(*program, chosen);
   AddAlbumsCommand(*program, chosen);
+  AddSimilarCommand(*program, chosen);
   AddRenameCommand(*program, chosen);
   AddEditCommands(*program, chosen);
   AddUndoCommands(*program, chosen);

@@ -5,6 +5,9 @@
 #include <QByteArray>
 
 #include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
 #include <cstdio>
 
 namespace Zenvora::Lumidex::Cli {
@@ -87,6 +90,18 @@ void JsonWriter::Text(std::string_view name, const QString& text) {
 void JsonWriter::Number(std::string_view name, long long number) {
   Next(name);
   text_ += std::to_string(number);
+}
+
+void JsonWriter::Real(std::string_view name, float number) {
+  Next(name);
+  if (!std::isfinite(number)) {
+    text_ += "null";
+    return;
+  }
+  constexpr std::size_t kLongest = 32;
+  char digits[kLongest];
+  const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+  text_.append(digits, end);
 }
 
 void JsonWriter::Truth(std::string_view name, bool value) {

@@ -56,6 +56,7 @@ class SimilarPhotos::Impl {
   void Store(const std::vector<AnalysedPhoto>& photos);
   std::vector<std::pair<PhotoRecord, std::string>> Problems() const;
   std::size_t AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress);
+  std::size_t CountClustered() const;
   void ClearClusters();
   std::vector<SimilarGroup> Groups(std::size_t least) const;
   std::optional<Place> Find(const ioPath& photo) const;
@@ -256,6 +257,14 @@ void SimilarPhotos::Impl::AddBatch(const std::vector<Item>& items) {
   }
 }
 
+std::size_t SimilarPhotos::Impl::CountClustered() const {
+  QSqlQuery query = RunFor(
+      "SELECT count(*) FROM cluster_photos m JOIN clusters c ON c.id = m.cluster JOIN photos p ON p.number ="
+      " m.photo WHERE c.analyser = ? AND p.lost = 0");
+  database_.Next(query);
+  return static_cast<std::size_t>(query.value(0).toULongLong());
+}
+
 void SimilarPhotos::Impl::DeleteClusters() const {
   RunFor("DELETE FROM clusters WHERE analyser = ?");
 }
@@ -346,6 +355,10 @@ std::vector<std::pair<PhotoRecord, std::string>> SimilarPhotos::Problems() const
 
 std::size_t SimilarPhotos::AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress) {
   return impl_->AddToClusters(cancelled, progress);
+}
+
+std::size_t SimilarPhotos::CountClustered() const {
+  return impl_->CountClustered();
 }
 
 void SimilarPhotos::ClearClusters() {

@@ -2,7 +2,6 @@
 
 #include <zenvora/core/ioPath.h>
 
-#include <QImage>
 #include <QSize>
 
 #include <atomic>
@@ -10,6 +9,8 @@
 #include <functional>
 #include <string>
 #include <vector>
+
+class QImage;
 
 namespace Zenvora::Lumidex::Host {
 

@@ -15,6 +15,9 @@
 
 namespace Zenvora::Lumidex::Host {
 
+/// Photos join a group whose centre they score above this against.
+constexpr float kSameGroupScore = 0.91F;
+
 /// What makes feature vectors. Vectors of different analysers, versions or lengths say nothing of each other.
 struct AnalyserName {
   QString name;
@@ -91,6 +94,8 @@ class SimilarPhotos {
   /// Puts the analysed photos that are in no cluster yet into clusters, some thousands in one transaction.
   /// Returns how many. What is committed when `cancelled` becomes true stays.
   std::size_t AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress);
+  /// Photos that are in a cluster and not lost.
+  std::size_t CountClustered() const;
   /// Takes all photos out of their clusters, as when clusters are to be made from nothing.
   void ClearClusters();
 

@@ -1,0 +1,262 @@
+#include "Commands.h"
+#include "Failure.h"
+#include "Interrupt.h"
+#include "OpenJournal.h"
+#include "Options.h"
+#include "Progress.h"
+#include "ReportTarget.h"
+#include "SimilarView.h"
+#include "TerminalText.h"
+
+#include <host/Catalogue.h>
+#include <host/PhotoAnalysis.h>
+#include <host/Report.h>
+#include <host/SimilarUpdate.h>
+
+#include <zenvora/app/Application.h>
+
+#include <memory>
+#include <optional>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+constexpr char kDescription[] =
+    "Show groups of similar photos: the same picture, or the same moment.\n"
+    "\n"
+    "Looks at the photos of the catalogue that are new or changed, puts each into\n"
+    "the first group that it is like, and tells which photo of a group to keep. A\n"
+    "run that is interrupted goes on where it stopped when repeated. Your files are\n"
+    "only read.";
+
+constexpr char kFooter[] =
+    R"(The numbers before a photo are its score against the middle of its group (1 is
+the most, above 0.91 is similar), its pixels and its bytes. Suggested to keep is
+the largest picture; of equally large ones the sharpest, then one with the
+camera's data, then the earliest.
+
+Examples:
+  lumidex similar
+  lumidex similar --min 5                only groups of five and more
+  lumidex similar --report similar.html  a page with the pictures side by side
+  lumidex similar --explain a.jpg b.jpg  why they are together, or not
+  lumidex similar --check                is the catalogue as matching made it?
+
+Exit codes: 0 done; 1 the catalogue holds no photos, or --check finds something;
+3 some photos cannot be compared, or pictures are missing in the report; 4 there
+is no catalogue, it cannot be written, a photo of --explain is not in it, or the
+report cannot be written; 130 interrupted.)";
+
+struct SimilarArguments {
+  int least = 2;
+  std::string report;
+  std::vector<std::string> explain;
+  bool check = false;
+  bool anew = false;
+  int threads = 0;
+};
+
+std::string FileName(const Host::SimilarMember& member) {
+  return member.photo.path.filename().utf8string();
+}
+
+/// One run of the command.
+class SimilarRun {
+ public:
+  SimilarRun(const SimilarArguments& arguments, Session& session)
+      : arguments_(arguments), session_(session), similar_(OpenCatalogue(session), Host::NameOf(analyser_)) {
+    view_.catalogue = session.CatalogueFile();
+    view_.recovered = session.recovered;
+  }
+
+  ExitCode Run() {
+    if (arguments_.check) {
+      return Check();
+    }
+    if (arguments_.anew) {
+      similar_.ClearClusters();
+    }
+    Update();
+    if (!arguments_.explain.empty()) {
+      return Explain();
+    }
+    Gather();
+    Report();
+    session_.output.Print(session_.globals.json ? SimilarDocument(view_) : SimilarText(view_));
+    if (view_.cancelled) {
+      session_.console.Note("Interrupted. The same command goes on from there.");
+      return ExitCode::Interrupted;
+    }
+    return Judge();
+  }
+
+ private:
+  static ioPath OpenCatalogue(Session& session) {
+    const ioPath file = session.CatalogueFile();
+    if (!file.exists()) {
+      throw Failure("no-catalogue",
+                    "There is no catalogue " + file.utf8string() + " yet. Run: lumidex scan DIR");
+    }
+    return file;
+  }
+
+  void Update() {
+    Host::AnalysisOptions options;
+    options.threads = arguments_.threads;
+    options.cancel = &session_.interrupted;
+    std::optional<Progress> progress;
+    Host::SimilarProgress last;
+    const Host::SimilarUpdateResult result =
+        Host::UpdateSimilar(similar_, analyser_, options, [&](const Host::SimilarProgress& now) {
+          if (!progress || now.step != last.step) {
+            const bool analysing = now.step == Host::SimilarProgress::Step::Analysing;
+            progress.emplace(session_.console, analysing ? "Looking at" : "Grouping", "photos");
+          }
+          last = now;
+          progress->Update(now.done, now.total);
+        });
+    view_.analysed = result.analysed;
+    view_.cancelled = result.cancelled;
+    view_.problems = result.unreadable;
+  }
+
+  void Gather() {
+    view_.photos = similar_.CountClustered();
+    for (const auto& [photo, problem] : similar_.Problems()) {
+      view_.problems.emplace_back(photo.path, problem);
+    }
+    for (Host::SimilarGroup& group : similar_.Groups(static_cast<std::size_t>(arguments_.least))) {
+      const Host::KeeperChoice keeper = Host::SuggestKeeper(group.members);
+      view_.groups.push_back({std::move(group), keeper});
+    }
+  }
+
+  void Report() {
+    if (arguments_.report.empty() || view_.cancelled) {
+      return;
+    }
+    const ioPath report = AbsolutePath(arguments_.report);
+    std::vector<Host::ReportAlbum> groups;
+    std::vector<Host::PhotoRecord> photos;
+    for (const SimilarView::Group& shown : view_.groups) {
+      const std::vector<Host::SimilarMember>& members = shown.group.members;
+      const Host::SimilarMember& keeper = members[shown.keeper.index];
+      Host::ReportAlbum group;
+      group.name = QString::fromStdString(Counted(members.size(), "photo") + " like " + FileName(keeper));
+      group.firstDay = keeper.photo.taken.date();
+      group.photos.push_back(keeper.photo);
+      for (const Host::SimilarMember& member : members) {
+        photos.push_back(member.photo);
+        if (&member != &keeper) {
+          group.photos.push_back(member.photo);
+        }
+      }
+      groups.push_back(std::move(group));
+    }
+    RequireReplaceable(report, photos);
+    Host::ReportOptions options;
+    options.locale = QString::fromStdString(App::GetCurrentLocale());
+    options.title = QStringLiteral("Similar photos");
+    options.cancel = &session_.interrupted;
+    Progress progress(session_.console, "Drawing", "pictures");
+    view_.missingPictures = Host::WriteReport(report, groups, options, [&progress](int done, int total) {
+      progress.Update(static_cast<std::uint64_t>(done), static_cast<std::uint64_t>(total));
+    });
+    view_.report = report;
+  }
+
+  ExitCode Explain() {
+    if (view_.cancelled) {
+      ThrowIfInterrupted("Interrupted. The same command goes on from there.");
+    }
+    const ioPath first = AbsolutePath(arguments_.explain[0]);
+    const ioPath second = AbsolutePath(arguments_.explain[1]);
+    for (const ioPath& photo : {first, second}) {
+      if (!similar_.Explain(photo, photo)) {
+        throw Failure("unknown-photo",
+                      photo.utf8string() +
+                          " is not among the photos that are compared. \"lumidex scan\" takes "
+                          "photos in, and \"lumidex similar\" tells which cannot be compared.");
+      }
+    }
+    const ExplainView view{first, second, *similar_.Explain(first, second)};
+    session_.output.Print(session_.globals.json ? ExplainDocument(view) : ExplainText(view));
+    return ExitCode::Done;
+  }
+
+  ExitCode Check() {
+    const std::vector<std::string> differences = similar_.Check();
+    session_.output.Print(session_.globals.json ? CheckDocument(view_.catalogue, differences)
+                                                : CheckText(differences));
+    return differences.empty() ? ExitCode::Done : ExitCode::Findings;
+  }
+
+  ExitCode Judge() const {
+    if (view_.photos == 0 && view_.problems.empty()) {
+      session_.console.Note("The catalogue holds no photos yet. Run: lumidex scan DIR");
+      return ExitCode::Findings;
+    }
+    return view_.problems.empty() && view_.missingPictures == 0 ? ExitCode::Done : ExitCode::Partly;
+  }
+
+  const SimilarArguments& arguments_;
+  Session& session_;
+  const Host::LayoutAnalyser analyser_;
+  Host::SimilarPhotos similar_;
+  SimilarView view_;
+};
+
+ExitCode RunSimilar(const SimilarArguments& arguments, Session& session) {
+  if (!arguments.report.empty()) {
+    RequireReportName(AbsolutePath(arguments.report), session.CatalogueFile());
+  }
+  RecoverIfNeeded(session);
+  return SimilarRun(arguments, session).Run();
+}
+
+}  // namespace
+
+void AddSimilarCommand(CLI::App& program, Action& chosen) {
+  CLI::App* const command = program.add_subcommand("similar", kDescription);
+  const auto arguments = std::make_shared<SimilarArguments>();
+  command->footer(kFooter);
+  command
+      ->add_option("--min", arguments->least,
+                   "Photos that a group needs to be shown, 1 to 1000000. Usual: 2.")
+      ->option_text("N")
+      ->check(WholeNumber(1, 1'000'000));
+  auto* const report =
+      command
+          ->add_option("--report", arguments->report, "Write the groups as an HTML page with their pictures.")
+          ->option_text("FILE")
+          ->transform(Text());
+  auto* const explain = command
+                            ->add_option("--explain", arguments->explain,
+                                         "Tell how two photos score, and why they are together or not.")
+                            ->option_text("A B")
+                            ->expected(2)
+                            ->excludes(report)
+                            ->transform(Text());
+  auto* const anew = command
+                         ->add_flag("--anew", arguments->anew,
+                                    "Make all groups from nothing; photos are not looked at again.")
+                         ->disable_flag_override();
+  command
+      ->add_flag("--check", arguments->check,
+                 "Match all photos again, in memory, and compare; change nothing.")
+      ->disable_flag_override()
+      ->excludes(report)
+      ->excludes(explain)
+      ->excludes(anew);
+  command
+      ->add_option("--threads", arguments->threads,
+                   "Photos looked at at a time, 1 to 64. Usual: one for each core, at most 8.")
+      ->option_text("N")
+      ->check(WholeNumber(1, 64));
+  command->callback([arguments, &chosen] {
+    chosen = [arguments](Session& session) { return RunSimilar(*arguments, session); };
+  });
+}
+
+}  // namespace Zenvora::Lumidex::Cli

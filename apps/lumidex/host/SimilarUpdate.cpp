@@ -1,0 +1,116 @@
+#include <host/SimilarUpdate.h>
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+
+#include <fstream>
+#include <optional>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+/// Little is lost with a kill, and the catalogue is not written to all the time.
+constexpr std::size_t kBatch = 256;
+
+/// Why the file cannot be read at all; empty: it can.
+std::string WhyUnreadable(const ioPath& file) {
+  const FileState state = QueryFile(file);
+  if (state.kind == FileState::Kind::Missing) {
+    return "it is not there any more";
+  }
+  if (state.kind != FileState::Kind::File) {
+    return state.error ? ErrorText(state.error) : "it is no file any more";
+  }
+  return std::ifstream(file.for_system(), std::ios::binary).is_open() ? "" : "it cannot be opened";
+}
+
+/// Gathers what was found out and stores it piece by piece.
+class Gathering {
+ public:
+  Gathering(SimilarPhotos& similar, const std::vector<PhotoRecord>& photos, SimilarUpdateResult& result)
+      : similar_(similar), photos_(photos), result_(result) {}
+
+  void Take(std::size_t index, PhotoDescription&& found) {
+    ++result_.analysed;
+    const PhotoRecord& photo = photos_[index];
+    if (found.descriptor.empty()) {
+      // Only what is known of the content is worth remembering.
+      const std::string cause = WhyUnreadable(photo.path);
+      if (!cause.empty()) {
+        result_.unreadable.emplace_back(photo.path, cause);
+        return;
+      }
+    }
+    AnalysedPhoto analysed;
+    analysed.id = photo.id;
+    analysed.stamp = {photo.size, photo.modifiedNs, false};
+    analysed.features.vector = std::move(found.descriptor);
+    analysed.features.problem = found.cause;
+    analysed.features.width = found.size.width();
+    analysed.features.height = found.size.height();
+    batch_.push_back(std::move(analysed));
+    if (batch_.size() >= kBatch) {
+      Flush();
+    }
+  }
+
+  void Flush() {
+    if (!batch_.empty()) {
+      similar_.Store(batch_);
+      batch_.clear();
+    }
+  }
+
+ private:
+  SimilarPhotos& similar_;
+  const std::vector<PhotoRecord>& photos_;
+  SimilarUpdateResult& result_;
+  std::vector<AnalysedPhoto> batch_;
+};
+
+void Analyse(SimilarPhotos& similar, const PhotoAnalyser& analyser, const AnalysisOptions& options,
+             const SimilarProgressHandler& progress, SimilarUpdateResult& result) {
+  const std::vector<PhotoRecord> photos = similar.Pending();
+  std::vector<ioPath> files;
+  files.reserve(photos.size());
+  for (const PhotoRecord& photo : photos) {
+    files.push_back(photo.path);
+  }
+  Gathering gathering(similar, photos, result);
+  DescribePhotos(files, analyser, options, [&](std::size_t index, PhotoDescription&& found) {
+    gathering.Take(index, std::move(found));
+    if (progress) {
+      progress({SimilarProgress::Step::Analysing, result.analysed, photos.size()});
+    }
+  });
+  gathering.Flush();
+  result.cancelled = result.analysed < photos.size();
+}
+
+}  // namespace
+
+AnalyserName NameOf(const PhotoAnalyser& analyser) {
+  return {QString::fromStdString(analyser.Name()), analyser.Version(),
+          static_cast<std::size_t>(analyser.Size())};
+}
+
+SimilarUpdateResult UpdateSimilar(SimilarPhotos& similar, const PhotoAnalyser& analyser,
+                                  const AnalysisOptions& options, const SimilarProgressHandler& progress) {
+  SimilarUpdateResult result;
+  Analyse(similar, analyser, options, progress, result);
+  if (result.cancelled) {
+    return result;
+  }
+  static const std::atomic<bool> never{false};
+  const std::atomic<bool>& cancelled = options.cancel != nullptr ? *options.cancel : never;
+  result.clustered = similar.AddToClusters(cancelled, [&progress](std::size_t done, std::size_t total) {
+    if (progress) {
+      progress({SimilarProgress::Step::Grouping, done, total});
+    }
+  });
+  result.cancelled = cancelled;
+  return result;
+}
+
+}  // namespace Zenvora::Lumidex::Host
