@@ -16,6 +16,7 @@ const std::vector<QStringList>& Commands() {
                                                     {"scan"},
                                                     {"albums"},
                                                     {"rename"},
+                                                    {"similar"},
                                                     {"rotate"},
                                                     {"shift-date"},
                                                     {"set-date"},

@@ -88,8 +88,18 @@ TEST(SimilarKeeper, IsTheEarliest) {
   EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::Earliest));
 }
 
-TEST(SimilarKeeper, PrefersAnyDateToNone) {
-  EXPECT_EQ(SuggestKeeper({Member("a"), Taken("b", QDate(1800, 1, 1), DateSource::FileTime)}).index, 1U);
+TEST(SimilarKeeper, PrefersAnyDateOfTheCameraToNone) {
+  SimilarMember undated = Member("a");
+  undated.photo.camera = QStringLiteral("Model X");
+  EXPECT_EQ(SuggestKeeper({undated, Taken("b", QDate(1800, 1, 1), DateSource::Original)}).index, 1U);
+}
+
+TEST(SimilarKeeper, MakesNothingOfTheTimesOfFiles) {
+  const QDate day(2021, 1, 1);
+  const KeeperChoice choice = SuggestKeeper(
+      {Taken("b", day, DateSource::FileTime), Taken("a", day.addDays(1), DateSource::FileTime)});
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::FirstName));
 }
 
 TEST(SimilarKeeper, IsTheFirstByNameOfEquals) {

@@ -32,9 +32,9 @@ constexpr char kDescription[] =
 
 constexpr char kFooter[] =
     R"(The numbers before a photo are its score against the middle of its group (1 is
-the most, above 0.91 is similar), its pixels and its bytes. Suggested to keep is
-the largest picture; of equally large ones the sharpest, then one with the
-camera's data, then the earliest.
+the most; above 0.91 is similar), its pixels and its bytes. Suggested to keep
+is the largest picture; of equally large ones one with the camera's data, then
+the earliest.
 
 Examples:
   lumidex similar
@@ -43,10 +43,10 @@ Examples:
   lumidex similar --explain a.jpg b.jpg  why they are together, or not
   lumidex similar --check                is the catalogue as matching made it?
 
-Exit codes: 0 done; 1 the catalogue holds no photos, or --check finds something;
-3 some photos cannot be compared, or pictures are missing in the report; 4 there
-is no catalogue, it cannot be written, a photo of --explain is not in it, or the
-report cannot be written; 130 interrupted.)";
+Exit codes: 0 done; 1 the catalogue holds no photos, or --check finds a
+difference; 3 some photos cannot be compared, or pictures are missing in the
+report; 4 there is no catalogue, it cannot be written, a photo of --explain is
+not in it, or the report cannot be written; 130 interrupted.)";
 
 struct SimilarArguments {
   int least = 2;

@@ -20,9 +20,13 @@ std::int64_t PixelsOf(const SimilarMember& member) {
   return std::int64_t{member.features.width} * member.features.height;
 }
 
-bool HasCameraData(const SimilarMember& member) {
+bool HasCameraDate(const SimilarMember& member) {
   return member.photo.takenSource == DateSource::Original ||
-         member.photo.takenSource == DateSource::Digitised || !member.photo.camera.isEmpty();
+         member.photo.takenSource == DateSource::Digitised;
+}
+
+bool HasCameraData(const SimilarMember& member) {
+  return HasCameraDate(member) || !member.photo.camera.isEmpty();
 }
 
 /// Those that are left, of a group.
@@ -102,10 +106,10 @@ KeeperChoice SuggestKeeper(const std::vector<SimilarMember>& members) {
     return member.features.sharpness >= most * kAsSharp;
   });
   candidates.Weigh(KeeperReason::CameraData, HasCameraData);
-  // Undated photos come last.
+  // The times of files say when they were copied. Undated photos come last.
   const auto earliness = [](const SimilarMember& member) {
-    return member.photo.taken.isValid() ? -member.photo.taken.toMSecsSinceEpoch()
-                                        : std::numeric_limits<qint64>::min();
+    return HasCameraDate(member) ? -member.photo.taken.toMSecsSinceEpoch()
+                                 : std::numeric_limits<qint64>::min();
   };
   candidates.Weigh(KeeperReason::Earliest,
                    [&, most = candidates.Most(earliness)](const SimilarMember& member) {

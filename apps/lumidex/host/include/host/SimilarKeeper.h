@@ -13,7 +13,7 @@ enum class KeeperReason {
   Largest,     ///< The most pixels.
   Sharpest,    ///< The most detail; less than a tenth more does not count.
   CameraData,  ///< It has the date or the camera that the camera wrote.
-  Earliest,    ///< Taken before the others.
+  Earliest,    ///< Taken before the others, by the camera's clock.
   FirstName,   ///< They differ in nothing but their names.
 };
 

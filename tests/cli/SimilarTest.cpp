@@ -1,0 +1,238 @@
+#include "CliFixture.h"
+
+#include <zenvora/core/FileState.h>
+
+#include <QImage>
+#include <QJsonArray>
+#include <QPainter>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace Zenvora::Test {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+/// A picture of its own for each number.
+QImage Scene(int number) {
+  QImage image(480, 360, QImage::Format_RGB32);
+  QLinearGradient ground(0, 0, 480, 360);
+  ground.setColorAt(0, QColor::fromHsv(number * 97 % 360, 120, 240));
+  ground.setColorAt(1, QColor::fromHsv(number * 197 % 360, 160, 60));
+  QPainter painter(&image);
+  painter.fillRect(image.rect(), ground);
+  for (int i = 0; i < 9; ++i) {
+    painter.setBrush(QColor::fromHsv((number * 61 + i * 83) % 360, 220, 40 + (i * 71 + number * 29) % 200));
+    painter.setPen(Qt::NoPen);
+    const int x = (number * 131 + i * 173) % 400;
+    const int y = (number * 57 + i * 117) % 290;
+    if ((i + number) % 2 == 0) {
+      painter.drawEllipse(x, y, 60 + i * 9, 50 + number * 7 % 40);
+    } else {
+      painter.drawRect(x, y, 40 + number * 11 % 60, 30 + i * 12);
+    }
+  }
+  return image;
+}
+
+class SimilarCommand : public CliTest {
+ protected:
+  ioPath Save(const std::string& name, const QImage& image, int quality = 92) const {
+    std::filesystem::create_directories(Photos().native());
+    const ioPath file = Photos() / ioPath(name);
+    EXPECT_TRUE(image.save(Text(file), nullptr, quality));
+    return file;
+  }
+  /// One scene in three files, another in two, a third in one.
+  void MakeGroups() const {
+    Save("a1.jpg", Scene(1));
+    Save("a2.jpg", Scene(1).scaledToWidth(240, Qt::SmoothTransformation));
+    Save("a3.png", Scene(1));
+    Save("b1.jpg", Scene(2), 40);
+    Save("b2.jpg", Scene(2));
+    Save("c.jpg", Scene(3));
+  }
+  void Scan() const { Run({"scan", Text(Photos())}); }
+
+  /// Names of the members of each group, the one to keep marked.
+  std::vector<std::string> Groups(const Ran& ran) const {
+    std::vector<std::string> groups;
+    for (const QJsonValue group : ran.Json()["groups"].toArray()) {
+      std::string names;
+      for (const QJsonValue member : group.toObject()["members"].toArray()) {
+        const ioPath path(member.toObject()["path"].toString().toStdString());
+        names += (names.empty() ? "" : " ") + path.filename().utf8string() +
+                 (member.toObject()["keep"].toBool() ? "*" : "");
+      }
+      groups.push_back(names);
+    }
+    return groups;
+  }
+};
+
+TEST_F(SimilarCommand, NeedsACatalogueWithPhotos) {
+  const Ran none = Run({"similar"});
+  EXPECT_EQ(none.exitCode, 4);
+  EXPECT_THAT(none.err, HasSubstr("lumidex scan DIR"));
+  std::filesystem::create_directories(Photos().native());
+  Scan();
+  const Ran empty = Run({"similar"});
+  EXPECT_EQ(empty.exitCode, 1);
+  EXPECT_THAT(empty.err, HasSubstr("holds no photos yet"));
+}
+
+TEST_F(SimilarCommand, GroupsWhatIsTheSamePicture) {
+  MakeGroups();
+  Scan();
+  const Ran ran = Run({"similar", "--json"});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_THAT(Groups(ran), ::testing::ElementsAre("a1.jpg* a2.jpg a3.png", "b1.jpg* b2.jpg"));
+  const QJsonObject document = ran.Json();
+  EXPECT_EQ(document["format"].toString(), QStringLiteral("lumidex.similar"));
+  EXPECT_EQ(document["photos"].toInt(), 6);
+  EXPECT_EQ(document["analysed"].toInt(), 6);
+  EXPECT_TRUE(document["report"].isNull());
+  const QJsonObject keeper = document["groups"].toArray()[0].toObject()["members"].toArray()[0].toObject();
+  EXPECT_EQ(keeper["width"].toInt(), 480);
+  EXPECT_EQ(keeper["height"].toInt(), 360);
+  EXPECT_GT(keeper["score"].toDouble(), 0.91);
+  EXPECT_EQ(keeper["reasons"].toArray()[0].toString(), QStringLiteral("largest"));
+}
+
+TEST_F(SimilarCommand, PrintsGroupsForPeople) {
+  MakeGroups();
+  Scan();
+  const Ran ran = Run({"similar"});
+  EXPECT_EQ(ran.exitCode, 0);
+  EXPECT_THAT(ran.out, HasSubstr("Group 1, 3 photos:\n  keep  "));
+  EXPECT_THAT(ran.out, HasSubstr("480x360"));
+  EXPECT_THAT(ran.out, HasSubstr((Photos() / "a1.jpg").utf8string() + "  largest"));
+  EXPECT_THAT(ran.out, HasSubstr("2 groups of similar photos among 6 photos; 3 photos ("));
+}
+
+TEST_F(SimilarCommand, LooksAtNewPhotosOnly) {
+  MakeGroups();
+  Scan();
+  Run({"similar"});
+  Save("c2.jpg", Scene(3), 70);
+  Scan();
+  const Ran ran = Run({"similar", "--json"});
+  EXPECT_EQ(ran.Json()["analysed"].toInt(-1), 1);
+  EXPECT_THAT(Groups(ran),
+              ::testing::ElementsAre("a1.jpg* a2.jpg a3.png", "b1.jpg* b2.jpg", "c.jpg* c2.jpg"));
+  EXPECT_EQ(Run({"similar", "--json"}).Json()["analysed"].toInt(-1), 0);
+}
+
+TEST_F(SimilarCommand, ShowsGroupsOfTheSizeAskedFor) {
+  MakeGroups();
+  Scan();
+  EXPECT_EQ(Groups(Run({"similar", "--json", "--min", "3"})).size(), 1U);
+  EXPECT_EQ(Groups(Run({"similar", "--json", "--min", "1"})).size(), 3U);
+  EXPECT_THAT(Run({"similar", "--min", "4"}).out, HasSubstr("No similar photos among 6 photos."));
+  EXPECT_EQ(Run({"similar", "--min", "0"}).exitCode, 2);
+}
+
+TEST_F(SimilarCommand, SaysWhatCannotBeCompared) {
+  MakeGroups();
+  tree.Write("photos/text.jpg", "no picture");
+  // Its head says that it is a picture, and there is none behind it.
+  const std::string whole = ReadFile(Photos() / "b1.jpg");
+  tree.Write("photos/broken.jpg", whole.substr(0, 400));
+  Scan();
+  for (int i = 0; i < 2; ++i) {
+    const Ran ran = Run({"similar"});
+    EXPECT_EQ(ran.exitCode, 3);
+    EXPECT_THAT(ran.out, HasSubstr("Not compared:\n  " + (Photos() / "broken.jpg").utf8string()));
+    EXPECT_THAT(ran.out, HasSubstr("2 groups"));
+  }
+  EXPECT_EQ(Run({"similar", "--json"}).Json()["findings"].toArray().size(), 1);
+}
+
+TEST_F(SimilarCommand, TriesAgainWhatIsNotThere) {
+  MakeGroups();
+  Scan();
+  const ioPath away = tree.Path("away.jpg");
+  ASSERT_TRUE((Photos() / "b2.jpg").rename(away));
+  const Ran without = Run({"similar"});
+  EXPECT_EQ(without.exitCode, 3);
+  EXPECT_THAT(without.out, HasSubstr("it is not there any more"));
+  ASSERT_TRUE(away.rename(Photos() / "b2.jpg"));
+  EXPECT_EQ(Groups(Run({"similar", "--json"})).size(), 2U);
+}
+
+TEST_F(SimilarCommand, ComparesAnEditedPhotoAgain) {
+  MakeGroups();
+  Scan();
+  Run({"similar"});
+  Save("b2.jpg", Scene(7));
+  Scan();
+  const Ran ran = Run({"similar", "--json"});
+  EXPECT_THAT(Groups(ran), ::testing::ElementsAre("a1.jpg* a2.jpg a3.png"));
+  EXPECT_EQ(Run({"similar", "--check"}).exitCode, 0);
+}
+
+TEST_F(SimilarCommand, ExplainsWhyPhotosAreTogetherOrNot) {
+  MakeGroups();
+  Scan();
+  const Ran apart = Run({"similar", "--explain", "photos/a1.jpg", "photos/c.jpg"});
+  EXPECT_EQ(apart.exitCode, 0) << apart.err;
+  EXPECT_THAT(apart.out, HasSubstr("are in different groups"));
+  EXPECT_THAT(apart.out, HasSubstr("TO THE OTHER'S"));
+  const Ran together = Run({"similar", "--json", "--explain", "photos/a1.jpg", "photos/a3.png"});
+  EXPECT_TRUE(together.Json()["together"].toBool());
+  EXPECT_EQ(together.Json()["threshold"].toDouble(), 0.91);
+  EXPECT_GT(together.Json()["score"].toDouble(), 0.91);
+  EXPECT_EQ(together.Json()["photos"].toArray().size(), 2);
+  EXPECT_THAT(Run({"similar", "--explain", "photos/a1.jpg", "photos/a3.png"}).out, HasSubstr("in one group"));
+  const Ran unknown = Run({"similar", "--explain", "photos/a1.jpg", "photos/none.jpg"});
+  EXPECT_EQ(unknown.exitCode, 4);
+  EXPECT_THAT(unknown.err, HasSubstr("none.jpg is not among the photos"));
+  EXPECT_EQ(Run({"similar", "--explain", "photos/a1.jpg"}).exitCode, 2);
+}
+
+TEST_F(SimilarCommand, ChecksWhatTheCatalogueHolds) {
+  MakeGroups();
+  Scan();
+  Run({"similar"});
+  const Ran sound = Run({"similar", "--check"});
+  EXPECT_EQ(sound.exitCode, 0);
+  EXPECT_THAT(sound.out, HasSubstr("as matching all photos again makes them"));
+  ChangeCatalogue(DefaultCatalogue(), "UPDATE clusters SET count = 9 WHERE count = 3");
+  const Ran wrong = Run({"similar", "--check"});
+  EXPECT_EQ(wrong.exitCode, 1);
+  EXPECT_THAT(wrong.out, HasSubstr("counts 9 photos instead of 3"));
+  EXPECT_EQ(Run({"similar", "--check", "--json"}).Json()["differences"].toArray().size(), 1);
+  EXPECT_EQ(Groups(Run({"similar", "--anew", "--json"})).size(), 2U);
+  EXPECT_EQ(Run({"similar", "--check"}).exitCode, 0);
+}
+
+TEST_F(SimilarCommand, WritesAPageWithTheGroups) {
+  MakeGroups();
+  Scan();
+  const Ran ran = Run({"similar", "--report", "similar.html"});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  const std::string page = ReadFile(tree.Path("similar.html"));
+  // The page itself is too long to be shown.
+  EXPECT_NE(page.find("<h1 dir=\"auto\">Similar photos</h1>"), std::string::npos);
+  EXPECT_NE(page.find("3 photos like a1.jpg"), std::string::npos);
+  EXPECT_THAT(ran.out, HasSubstr("Report: " + tree.Path("similar.html").utf8string()));
+  EXPECT_EQ(Run({"similar", "--report", "photos/a1.jpg"}).exitCode, 2);
+  EXPECT_EQ(Run({"similar", "--report", "x.html", "--check"}).exitCode, 2);
+}
+
+TEST_F(SimilarCommand, ReadsFilesOnly) {
+  MakeGroups();
+  const ioPath odd = Save("Пейзаж с пробелами.jpg", Scene(4));
+  Scan();
+  const FileState before = QueryFile(odd);
+  EXPECT_EQ(Run({"similar"}).exitCode, 0);
+  EXPECT_EQ(QueryFile(odd).modifiedNs, before.modifiedNs);
+  EXPECT_EQ(NamesIn(Photos()).size(), 7U);
+}
+
+}  // namespace
+}  // namespace Zenvora::Test
