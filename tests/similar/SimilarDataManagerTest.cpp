@@ -38,8 +38,10 @@ Cluster Stored(std::int64_t id, const Vector& centre, int count) {
 
 /// The bits, so that a mean is compared as it must be.
 std::vector<std::uint32_t> Bits(const Vector& vector) {
-  std::vector<std::uint32_t> bits(vector.size());
-  std::memcpy(bits.data(), vector.data(), vector.size() * sizeof(float));
+  std::vector<std::uint32_t> bits;
+  for (const float element : vector) {
+    std::memcpy(&bits.emplace_back(), &element, sizeof element);
+  }
   return bits;
 }
 

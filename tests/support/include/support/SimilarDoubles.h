@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -21,7 +22,7 @@ struct SimilarStore {
     std::vector<QString> photoIds;
   };
   std::vector<Lumidex::Cluster> clusters;
-  int nextId = 1;
+  std::int64_t nextId = 1;
   std::vector<Write> writes;
   /// "read", "begin <name>", "add", "update", "commit", "rollback", "end": all in their order.
   std::vector<std::string> events;
@@ -49,7 +50,7 @@ class FakeSimilarSource : public Lumidex::ISimilarDataSource {
   int AddCluster(const Lumidex::Cluster& cluster, const std::vector<QString>& photoIds) override {
     store_.Happen("add");
     store_.writes.push_back({"add", cluster, photoIds});
-    return store_.nextId++;
+    return static_cast<int>(store_.nextId++);
   }
   void UpdateCluster(const Lumidex::Cluster& cluster, const std::vector<QString>& photoIds) override {
     store_.Happen("update");
