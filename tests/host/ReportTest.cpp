@@ -137,7 +137,7 @@ class Report : public ::testing::Test {
 
   TempTree tree;
   ioPath file = tree.MakeFolder("out") / ioPath("albums.html");
-  ReportOptions options{QStringLiteral("en_US"), QStringLiteral("Our albums"), 240, 24, nullptr};
+  ReportOptions options{QStringLiteral("en_US"), QStringLiteral("Our albums"), {}, 240, 24, nullptr};
   QByteArray bytes;
   int missing = -1;
 };
@@ -273,6 +273,24 @@ TEST_F(Report, MarksAcceptedAlbumsOnly) {
   accepted.accepted = true;
   EXPECT_EQ(Write({accepted, Album(QStringLiteral("Proposed"), 1)}).text.count(QStringLiteral("Accepted")),
             1);
+}
+
+TEST_F(Report, ShowsOtherSetsThanAlbums) {
+  options.words = {"group", "groups", "Groups by year", "No groups", "Nothing is alike."};
+  auto group = Album(QStringLiteral("2 photos\nKeep the second"), 2);
+  group.captions = {QStringLiteral("a <1>"), QStringLiteral("b.jpg\n640 × 480")};
+  group.chosen = 1;
+  const Page page = Write({group, Album(QStringLiteral("Others"), 1)});
+  EXPECT_TRUE(page.text.contains(QStringLiteral("2 groups")));
+  EXPECT_TRUE(page.text.contains(QStringLiteral("Keep the second")));
+  const QString html = QString::fromStdString(Zenvora::Test::ReadFile(file));
+  EXPECT_TRUE(
+      html.contains(QStringLiteral("<span class=\"line\" dir=\"auto\">a &lt;1&gt;</span></figcaption>")));
+  EXPECT_TRUE(
+      html.contains(QStringLiteral("b.jpg</span><span class=\"line\" dir=\"auto\">640 × 480</span>")));
+  EXPECT_EQ(html.count(QStringLiteral("<li class=\"chosen\"")), 1);
+  EXPECT_TRUE(html.contains(QStringLiteral("aria-label=\"Groups by year\"")));
+  EXPECT_EQ(Write({}).headings, (QStringList{QStringLiteral("No groups")}));
 }
 
 TEST_F(Report, SaysKindlyThatThereAreNoAlbums) {

@@ -7,6 +7,7 @@
 #include "ReportTarget.h"
 #include "SimilarView.h"
 #include "TerminalText.h"
+#include "ValueTexts.h"
 
 #include <host/Catalogue.h>
 #include <host/PhotoAnalysis.h>
@@ -132,6 +133,32 @@ class SimilarRun {
     }
   }
 
+  /// The one to keep first.
+  static Host::ReportAlbum OnPage(const SimilarView::Group& shown) {
+    const std::vector<Host::SimilarMember>& members = shown.group.members;
+    const Host::SimilarMember& keeper = members[shown.keeper.index];
+    Host::ReportAlbum group;
+    const std::string reasons = ReasonsText(shown.keeper);
+    group.name =
+        QString::fromStdString(Counted(members.size(), "photo") + " like " + FileName(keeper) + "\nKeep " +
+                               FileName(keeper) + (reasons.empty() ? "" : ": " + reasons));
+    group.firstDay = keeper.photo.taken.date();
+    group.chosen = 0;
+    const auto add = [&group](const Host::SimilarMember& member) {
+      group.photos.push_back(member.photo);
+      group.captions.push_back(QString::fromStdString(FileName(member) + '\n' + PixelsText(member.features) +
+                                                      ", " + SizeText(member.photo.size) + ", score " +
+                                                      ScoreText(member.score)));
+    };
+    add(keeper);
+    for (const Host::SimilarMember& member : members) {
+      if (&member != &keeper) {
+        add(member);
+      }
+    }
+    return group;
+  }
+
   void Report() {
     if (arguments_.report.empty() || view_.cancelled) {
       return;
@@ -140,24 +167,15 @@ class SimilarRun {
     std::vector<Host::ReportAlbum> groups;
     std::vector<Host::PhotoRecord> photos;
     for (const SimilarView::Group& shown : view_.groups) {
-      const std::vector<Host::SimilarMember>& members = shown.group.members;
-      const Host::SimilarMember& keeper = members[shown.keeper.index];
-      Host::ReportAlbum group;
-      group.name = QString::fromStdString(Counted(members.size(), "photo") + " like " + FileName(keeper));
-      group.firstDay = keeper.photo.taken.date();
-      group.photos.push_back(keeper.photo);
-      for (const Host::SimilarMember& member : members) {
-        photos.push_back(member.photo);
-        if (&member != &keeper) {
-          group.photos.push_back(member.photo);
-        }
-      }
-      groups.push_back(std::move(group));
+      groups.push_back(OnPage(shown));
+      photos.insert(photos.end(), groups.back().photos.begin(), groups.back().photos.end());
     }
     RequireReplaceable(report, photos);
     Host::ReportOptions options;
     options.locale = QString::fromStdString(App::GetCurrentLocale());
     options.title = QStringLiteral("Similar photos");
+    options.words = {"group", "groups", "Groups by year", "No similar photos",
+                     "Groups appear here once the catalogue holds photos that are alike."};
     options.cancel = &session_.interrupted;
     Progress progress(session_.console, "Drawing", "pictures");
     view_.missingPictures = Host::WriteReport(report, groups, options, [&progress](int done, int total) {

@@ -17,22 +17,6 @@ using Host::SimilarMember;
 
 constexpr int kScoreDigits = 3;
 
-std::string ScoreText(float score) {
-  return QString::number(static_cast<double>(score), 'f', kScoreDigits).toStdString();
-}
-
-std::string ReasonsText(const Host::KeeperChoice& keeper) {
-  std::string text;
-  for (const Host::KeeperReason reason : keeper.reasons) {
-    text += (text.empty() ? "" : ", ") + std::string(Host::KeeperReasonName(reason));
-  }
-  return text;
-}
-
-std::string PixelsText(const Host::PhotoFeatures& features) {
-  return features.width == 0 ? "-" : std::to_string(features.width) + "x" + std::to_string(features.height);
-}
-
 std::string TakenText(const SimilarMember& member) {
   const QDateTime& taken = member.photo.taken;
   return taken.isValid() ? taken.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString() : "-";
@@ -130,6 +114,22 @@ void WriteGroups(JsonWriter& json, const SimilarView& view) {
 }
 
 }  // namespace
+
+std::string ScoreText(float score) {
+  return QString::number(static_cast<double>(score), 'f', kScoreDigits).toStdString();
+}
+
+std::string ReasonsText(const Host::KeeperChoice& keeper) {
+  std::string text;
+  for (const Host::KeeperReason reason : keeper.reasons) {
+    text += (text.empty() ? "" : ", ") + std::string(Host::KeeperReasonName(reason));
+  }
+  return text;
+}
+
+std::string PixelsText(const Host::PhotoFeatures& features) {
+  return features.width == 0 ? "-" : std::to_string(features.width) + "x" + std::to_string(features.height);
+}
 
 std::string SimilarDocument(const SimilarView& view) {
   JsonWriter json("lumidex.similar", 1);

@@ -33,6 +33,13 @@ struct SimilarView {
   std::vector<std::string> recovered;
 };
 
+/// Width and height as people write them; "-": unknown.
+std::string PixelsText(const Host::PhotoFeatures& features);
+/// Three digits behind the point.
+std::string ScoreText(float score);
+/// "largest, earliest".
+std::string ReasonsText(const Host::KeeperChoice& keeper);
+
 std::string SimilarDocument(const SimilarView& view);
 std::string SimilarText(const SimilarView& view);
 

@@ -62,7 +62,7 @@ int WriteReport(const ioPath& file, const std::vector<ReportAlbum>& albums, cons
     for (std::size_t i = 0; i < shown; ++i) {
       const ReportThumbnail thumbnail = NextOf(thumbnails, file, options.cancel);
       missing += thumbnail.jpeg.isEmpty() ? 1 : 0;
-      output.Write(page.Photo(album.photos[i], thumbnail));
+      output.Write(page.Photo(album, i, thumbnail));
       ++done;
       if (progress) {
         progress(done, static_cast<int>(files.size()));

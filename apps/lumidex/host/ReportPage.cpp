@@ -135,8 +135,9 @@ QString ReportPage::Totals() const {
       last = std::max(last, year);
     }
   }
-  QStringList parts = {Counted(static_cast<qint64>(albums_.size()), "album", "albums"),
-                       Counted(photos, "photo", "photos")};
+  QStringList parts = {
+      Counted(static_cast<qint64>(albums_.size()), options_.words.noun, options_.words.nouns),
+      Counted(photos, "photo", "photos")};
   if (first != 0) {
     // A year is a name, not a quantity: no separators.
     parts << (first == last ? QString::number(first)
@@ -168,7 +169,7 @@ QString ReportPage::Contents() const {
         locale_.toString(static_cast<qint64>(album.photos.size())) + QLatin1String("</span></a></li>\n");
   }
   QString result = QStringLiteral("<nav class=\"wrap\" aria-label=\"") +
-                   EscapedForPage(Text("Albums by year")) + QLatin1String("\">\n");
+                   EscapedForPage(Text(options_.words.contents)) + QLatin1String("\">\n");
   for (const auto& [year, entries] : years) {
     const QString label = year == kUndated ? Text("Undated") : QString::number(year);
     result += QLatin1String("<div class=\"year\"><p>") + EscapedForPage(label) + QLatin1String("</p><ul>\n") +
@@ -197,11 +198,8 @@ QByteArray ReportPage::Begin() const {
           QLatin1String("Lumidex</p>\n<h1 dir=\"auto\">") + title + QLatin1String("</h1>\n");
   if (albums_.empty()) {
     page += QLatin1String("</header>\n<main class=\"wrap\">\n<section class=\"album empty\">") +
-            QLatin1String(kPictureIcon) + QLatin1String("<h2>") + EscapedForPage(Text("No albums yet")) +
-            QLatin1String("</h2><p>") +
-            EscapedForPage(
-                Text("Albums appear here once there are enough photos of a holiday or of a month's weekends. "
-                     "Scan more folders and try again.")) +
+            QLatin1String(kPictureIcon) + QLatin1String("<h2>") + EscapedForPage(Text(options_.words.none)) +
+            QLatin1String("</h2><p>") + EscapedForPage(Text(options_.words.hint)) +
             QLatin1String("</p></section>\n");
     return page.toUtf8();
   }
@@ -250,15 +248,18 @@ QString ReportPage::TakenText(const QDateTime& taken) const {
          locale_.toString(taken.time(), QLocale::ShortFormat);
 }
 
-QByteArray ReportPage::Photo(const PhotoRecord& photo, const ReportThumbnail& thumbnail) const {
+QByteArray ReportPage::Photo(const ReportAlbum& album, std::size_t index,
+                             const ReportThumbnail& thumbnail) const {
+  const PhotoRecord& photo = album.photos[index];
   const QString name = EscapedForPage(photo.path.filename().qstring());
   const QString tip = EscapedForPage(Tip(photo));
   const QString taken = EscapedForPage(TakenText(photo.taken));
   const bool shown = !thumbnail.jpeg.isEmpty() && !thumbnail.size.isEmpty();
   const double ratio =
       shown ? static_cast<double>(thumbnail.size.width()) / thumbnail.size.height() : 4.0 / 3;
-  QByteArray html = QStringLiteral("<li style=\"--r:%1\"><figure title=\"%2\">")
-                        .arg(QString::number(std::clamp(ratio, kNarrowest, kWidest), 'f', 3), tip)
+  QByteArray html = QStringLiteral("<li%1 style=\"--r:%2\"><figure title=\"%3\">")
+                        .arg(album.chosen == index ? QStringLiteral(" class=\"chosen\"") : QString(),
+                             QString::number(std::clamp(ratio, kNarrowest, kWidest), 'f', 3), tip)
                         .toUtf8();
   if (shown) {
     html += "<img alt=\"" + (name + QLatin1String(", ") + taken).toUtf8() + "\" width=\"" +
@@ -272,6 +273,12 @@ QByteArray ReportPage::Photo(const PhotoRecord& photo, const ReportThumbnail& th
             "</span></div>";
   }
   html += "<figcaption>";
+  if (!album.captions.empty()) {
+    for (const QString& line : album.captions[index].split(QLatin1Char('\n'))) {
+      html += "<span class=\"line\" dir=\"auto\">" + EscapedForPage(line).toUtf8() + "</span>";
+    }
+    return html + "</figcaption></figure></li>\n";
+  }
   html +=
       (photo.taken.isValid() ? QStringLiteral("<time datetime=\"%1\">%2</time>")
                                    .arg(photo.taken.toString(QStringLiteral("yyyy-MM-ddThh:mm:ss")), taken)

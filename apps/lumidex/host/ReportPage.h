@@ -7,6 +7,8 @@
 #include <QSize>
 #include <QString>
 
+#include <cstddef>
+
 namespace Zenvora::Lumidex::Host {
 
 /// A picture as it goes into the page; without bytes: it could not be read.
@@ -25,7 +27,8 @@ class ReportPage {
   QByteArray Begin() const;
   /// `number` counts from 1.
   QByteArray BeginAlbum(const ReportAlbum& album, int number) const;
-  QByteArray Photo(const PhotoRecord& photo, const ReportThumbnail& thumbnail) const;
+  /// The photo with this index, from 0.
+  QByteArray Photo(const ReportAlbum& album, std::size_t index, const ReportThumbnail& thumbnail) const;
   /// `hidden`: photos that are not shown.
   QByteArray EndAlbum(int hidden) const;
   QByteArray End() const;

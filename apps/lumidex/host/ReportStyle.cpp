@@ -67,6 +67,9 @@ figcaption {
   margin-top: .3rem; overflow: hidden; color: var(--soft); font-size: .78rem; line-height: 1.35;
   text-overflow: ellipsis; white-space: nowrap; font-variant-numeric: tabular-nums;
 }
+figcaption .line { display: block; overflow: hidden; text-overflow: ellipsis; }
+.chosen img, .chosen .blank { outline: 3px solid var(--accent); outline-offset: 2px; }
+.chosen figcaption { padding-top: .2rem; color: var(--accent); font-weight: 600; }
 .blank {
   display: flex; flex-direction: column; align-items: center; justify-content: center; gap: .3rem; padding: .5rem;
   overflow: hidden; color: var(--soft); font-size: .78rem; line-height: 1.3; text-align: center;

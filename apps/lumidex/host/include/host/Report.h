@@ -6,17 +6,32 @@
 #include <QString>
 
 #include <atomic>
+#include <cstddef>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
-/// One album as the page shows it.
+/// One album, or another set of photos, as the page shows it.
 struct ReportAlbum {
-  QString name;    ///< May hold line feeds: the first line is the heading.
-  QDate firstDay;  ///< The album's date.
+  QString name;    ///< May hold line feeds: the first line is the heading, the others stand below it.
+  QDate firstDay;  ///< The album's date; stands below the heading when nothing else does.
   bool accepted = false;
-  std::vector<PhotoRecord> photos;  ///< In the order shown.
+  std::vector<PhotoRecord> photos;    ///< In the order shown.
+  std::vector<QString> captions;      ///< One for each photo, with line feeds; empty: their dates.
+  std::optional<std::size_t> chosen;  ///< A photo to point out.
+};
+
+/// What the sets on the page are, in English; the page translates it.
+struct ReportWords {
+  const char* noun = "album";
+  const char* nouns = "albums";
+  const char* contents = "Albums by year";
+  const char* none = "No albums yet";  ///< When there are none.
+  const char* hint =
+      "Albums appear here once there are enough photos of a holiday or of a month's weekends. Scan more "
+      "folders and try again.";
 };
 
 /// Sizes of thumbnails outside these bounds are taken for the nearer bound.
@@ -24,8 +39,9 @@ constexpr int kSmallestThumbnail = 32;
 constexpr int kLargestThumbnail = 1024;
 
 struct ReportOptions {
-  QString locale;           ///< Of month names and numbers, such as en_US.
-  QString title;            ///< Empty: a title is chosen.
+  QString locale;  ///< Of month names and numbers, such as en_US.
+  QString title;   ///< Empty: a title is chosen.
+  ReportWords words;
   int thumbnailSize = 240;  ///< Longer side in pixels.
   int photosPerAlbum = 24;  ///< The rest is counted, not shown. 0 or less: all.
   /// Set from any thread (a signal handler too) to give up.
