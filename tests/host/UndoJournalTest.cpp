@@ -13,6 +13,7 @@
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -257,6 +258,37 @@ TEST_F(UndoJournalTest, KeepsTheRecordsOfRenamedPhotos) {
   EXPECT_EQ(now(), ids);
 }
 
+TEST_F(UndoJournalTest, KeepsTheRecordsOfPhotosAmongFoldersWithoutAny) {
+  for (const char* name : {"none/a.jpg", "none/b.jpg", "some/a.jpg", "other/a.jpg"}) {
+    Make(name, name);
+  }
+  {
+    Catalogue catalogue(catalogue_, Catalogue::Mode::ReadWrite);
+    PhotoRecord photo;
+    photo.path = Photo("some/a.jpg");
+    PhotoRecord gone;
+    gone.path = Photo("some/y.jpg");
+    catalogue.Store({photo, gone});
+  }
+  const auto paths = [&] {
+    std::vector<ioPath> result;
+    for (const PhotoRecord& photo : Catalogue(catalogue_, Catalogue::Mode::ReadOnly).Photos()) {
+      result.push_back(photo.path);
+    }
+    return result;
+  };
+  // Into a folder that had no record and from there on, and to the name of a photo that is gone: its record
+  // comes to a folder that had none.
+  Rename({{"none/a.jpg", "none/x.jpg"},
+          {"some/a.jpg", "other/x.jpg"},
+          {"other/x.jpg", "other/z.jpg"},
+          {"none/x.jpg", "some/y.jpg"},
+          {"none/b.jpg", "none/x.jpg"}});
+  EXPECT_THAT(paths(), ::testing::UnorderedElementsAre(Photo("other/z.jpg"), Photo("none/b.jpg")));
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_THAT(paths(), ::testing::UnorderedElementsAre(Photo("some/a.jpg"), Photo("some/y.jpg")));
+}
+
 TEST_F(UndoJournalTest, EditsAndBringsBackTheExactFile) {
   const ioPath photo = Make("a.jpg", "old");
   std::filesystem::last_write_time(photo.native(),
@@ -494,8 +526,7 @@ TEST_F(UndoJournalTest, FinishesOverPhotosThatWerePutBackFromACopy) {
       ASSERT_TRUE(Photo("copy").rename(Photo(name)));
       std::filesystem::last_write_time(Photo(name).native(), time);
     }
-    journal_.reset();
-    Sql("UPDATE steps SET state = " + std::to_string(state));
+    StopIn(state);
     Open();
     const Files former{{"a.jpg", "a.jpg"}, {"b.jpg", "b.jpg"}, {"c.jpg", "c.jpg"}};
     EXPECT_EQ(Folder(),
