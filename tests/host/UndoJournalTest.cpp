@@ -361,6 +361,87 @@ TEST_F(UndoJournalTest, LeavesAPhotoThatOthersChangedSince) {
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}, {"b.jpg", "1"}}));
 }
 
+TEST_F(UndoJournalTest, GoesOnToOlderStepsWhenOneIsSkipped) {
+  const ioPath photo = Make("a.jpg", "1");
+  const ioPath second = Make("b.jpg", "1");
+  Edit({second}, "2");
+  Edit({photo, second}, "3");
+  WriteBytes(photo, "by others");
+  const UndoResult blocked = journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(blocked.files, 1U);
+  EXPECT_TRUE(blocked.stands);
+  const std::vector<ioPath> kept = KeptPaths();
+
+  const auto skipped = journal_->SkipLast();
+  ASSERT_TRUE(skipped);
+  EXPECT_TRUE(skipped->givenUp);
+  EXPECT_EQ(skipped->number, journal_->Steps().at(0).number);
+  EXPECT_EQ(skipped->keptBytes, 2U);
+  EXPECT_TRUE(journal_->Steps().at(0).givenUp);
+  EXPECT_FALSE(journal_->Steps().at(1).givenUp);
+  // Nothing was touched, and both versions of the step stay over a new start.
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "by others"}, {"b.jpg", "2"}}));
+  Open();
+  EXPECT_THAT(KeptPaths(), ::testing::UnorderedElementsAreArray(kept));
+
+  const UndoResult older = journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(older.files, 1U);
+  EXPECT_FALSE(older.stands);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "by others"}, {"b.jpg", "1"}}));
+  EXPECT_TRUE(journal_->UndoLast(never_, nullptr).name.isEmpty());
+  EXPECT_FALSE(journal_->SkipLast());
+
+  // Only what was taken back is done again, also where the photo is again what the skipped step took.
+  WriteBytes(photo, "3");
+  EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
+  EXPECT_TRUE(journal_->RedoLast(never_, nullptr).name.isEmpty());
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "3"}, {"b.jpg", "2"}}));
+}
+
+TEST_F(UndoJournalTest, SkipsARenameThatCannotBeTakenBack) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Rename({{"b.jpg", "y.jpg"}});
+  Rename({{"a.jpg", "x.jpg"}});
+  Make("a.jpg", "of others");
+  EXPECT_TRUE(journal_->UndoLast(never_, nullptr).stands);
+  EXPECT_TRUE(journal_->SkipLast());
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "of others"}, {"b.jpg", "B"}, {"x.jpg", "A"}}));
+}
+
+TEST_F(UndoJournalTest, KeepsWhatIsKeptOfASkippedStepUntilItIsPruned) {
+  const ioPath photo = Make("a.jpg", std::string(1000, 'x'));
+  Edit({photo}, "2");
+  ASSERT_TRUE(journal_->SkipLast());
+  Edit({photo}, "3");
+  EXPECT_EQ(KeptFiles(), 2U);
+  UndoLimits limits;
+  EXPECT_EQ(journal_->Prune(limits, QDateTime::currentDateTimeUtc()), 0U);
+  limits.bytes = 500;
+  EXPECT_EQ(journal_->Prune(limits, QDateTime::currentDateTimeUtc()), 1U);
+  EXPECT_EQ(KeptFiles(), 1U);
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
+}
+
+TEST_F(UndoJournalTest, LeavesNoSideFileOfASkippedStep) {
+  const ioPath photo = Make("a.jpg", "1");
+  Edit({photo}, "2");
+  // An exchange that was broken off, while another program put something else there.
+  const ioPath side = Make(".lumidex-side.jpg", "1");
+  WriteBytes(AfterOf(OnlyKeptFile()), "2");
+  WriteBytes(photo, "by others");
+  StopIn(3);
+  Sql("UPDATE changes SET state = 3, side = CAST('" + side.utf8string() + "' AS BLOB)");
+  Open();
+  EXPECT_EQ(journal_->RecoveryNotes().size(), 2U);
+  ASSERT_TRUE(journal_->SkipLast());
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "by others"}}));
+  Open();
+  EXPECT_EQ(KeptFiles(), 2U);
+}
+
 TEST_F(UndoJournalTest, EditsTheOthersWhenOneFails) {
   const ioPath photo = Make("a.jpg", "1");
   const ioPath second = Make("b.jpg", "1");
@@ -782,6 +863,8 @@ TEST_F(UndoJournalTest, GoesOnToOlderStepsWhenAnOriginalIsGone) {
   const UndoResult result = journal_->UndoLast(never_, nullptr);
   EXPECT_EQ(result.files, 0U);
   EXPECT_EQ(result.findings.size(), 1U);
+  EXPECT_FALSE(result.stands);
+  EXPECT_TRUE(journal_->Steps().at(0).givenUp);
   EXPECT_EQ(Folder(), (Files{{"b.jpg", "2"}}));
   EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
