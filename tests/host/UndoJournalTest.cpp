@@ -7,6 +7,7 @@
 #include <host/UndoJournal.h>
 #include <support/Doubles.h>
 #include <support/LeftOut.h>
+#include <support/SharingDisk.h>
 #include <support/SmallDisk.h>
 #include <support/TempTree.h>
 
@@ -24,10 +25,13 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #ifndef _WIN32
 #include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 #endif
 
 namespace Zenvora::Lumidex::Host {
@@ -965,6 +969,114 @@ TEST_F(UndoJournalTest, KeepsPhotosOfAnotherVolume) {
   EXPECT_EQ(QueryFile(photo).modifiedNs, before.modifiedNs);
   EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "edited"}}));
+}
+#endif
+
+#ifdef _WIN32
+constexpr char kNoRights[] = "files have no owners and notes here that go along";
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, GivesRightsBackWithAPhoto, kNoRights);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, GivesRightsBackWithACopy, kNoRights);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, GivesRightsBackWithSharedBlocks, kNoRights);
+#else
+/// What a photo has besides its content.
+struct Rights {
+  mode_t mode = 0640;
+  uid_t owner = geteuid();
+  gid_t group = getegid();
+  std::string note;
+
+  bool operator==(const Rights& other) const {
+    return std::tie(mode, owner, group, note) == std::tie(other.mode, other.owner, other.group, other.note);
+  }
+};
+
+std::ostream& operator<<(std::ostream& stream, const Rights& rights) {
+  return stream << std::oct << rights.mode << std::dec << ' ' << rights.owner << ' ' << rights.group << ' '
+                << rights.note;
+}
+
+Rights RightsOf(const ioPath& file) {
+  struct stat facts = {};
+  EXPECT_EQ(stat(file.native().c_str(), &facts), 0);
+  std::string note(20, '\0');
+  const ssize_t length = getxattr(file.native().c_str(), "user.note", note.data(), note.size());
+  note.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
+  return {facts.st_mode & 07777U, facts.st_uid, facts.st_gid, note};
+}
+
+/// As far as this user and the file system can. Returns what the file has then.
+Rights Give(const ioPath& file, const Rights& wanted) {
+  EXPECT_EQ(chown(file.native().c_str(), wanted.owner, wanted.group), 0);
+  EXPECT_EQ(chmod(file.native().c_str(), wanted.mode), 0);
+  static_cast<void>(setxattr(file.native().c_str(), "user.note", wanted.note.data(), wanted.note.size(), 0));
+  return RightsOf(file);
+}
+
+/// Another one may read and write the edited photo, and there is no note of it.
+void ExpectRightsGoAlong(UndoJournal& journal, IFileAccessLocker& locker, const ioPath& photo) {
+  const std::atomic<bool> never{false};
+  Rights wanted;
+  wanted.note = "of my aunt";
+  if (Zenvora::Test::IsSuperuser()) {
+    wanted.owner = 1234;
+    wanted.group = 2345;
+  }
+  const Rights before = Give(photo, wanted);
+  EXPECT_EQ(before.mode, wanted.mode);
+  EXPECT_EQ(before.owner, wanted.owner);
+  Rights after;
+  EditPhotos(
+      journal, locker, QStringLiteral("edit"), {photo},
+      [&after](const ioPath&, const ioPath& side) {
+        std::ofstream(side.native()) << "edited";
+        Rights others;
+        others.mode = 0604;
+        after = Give(side, others);
+      },
+      never, nullptr);
+  ASSERT_EQ(RightsOf(photo), after);
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(journal.UndoLast(never, nullptr).files, 1U);
+    EXPECT_EQ(RightsOf(photo), before);
+    EXPECT_EQ(journal.RedoLast(never, nullptr).files, 1U);
+    EXPECT_EQ(RightsOf(photo), after);
+  }
+  if (before.note.empty()) {
+    GTEST_SKIP() << "all but the notes was tested: this file system keeps none";
+  }
+}
+
+TEST_F(UndoJournalTest, GivesRightsBackWithAPhoto) {
+  ExpectRightsGoAlong(*journal_, *locker_, Make("a.jpg", "1"));
+}
+
+TEST_F(UndoJournalTest, GivesRightsBackWithACopy) {
+  const ioPath photo = Make("a.jpg", "1");
+  // With a second name a photo is copied, as on a file system without them.
+  std::error_code error;
+  std::filesystem::create_hard_link(photo.native(), Photo("same.jpg").native(), error);
+  if (error) {
+    GTEST_SKIP() << "no hard links can be made here";
+  }
+  ExpectRightsGoAlong(*journal_, *locker_, photo);
+}
+
+TEST_F(UndoJournalTest, GivesRightsBackWithSharedBlocks) {
+  const ioPath place = tree_.MakeFolder("sharing");
+  const Zenvora::Test::SharingDisk disk(place);
+  if (!disk.Missing().empty()) {
+    GTEST_SKIP() << disk.Missing();
+  }
+  const ioPath photo = place / "a.jpg";
+  WriteBytes(photo, "1");
+  const FileState before = QueryFile(photo);
+  UndoJournal journal(place / "catalogue.sqlite", *locker_);
+  ExpectRightsGoAlong(journal, *locker_, photo);
+  EXPECT_EQ(journal.UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(ReadFile(photo), "1");
+  // It is not that very file, as it were by a second name.
+  EXPECT_NE(QueryFile(photo).identity, before.identity);
+  EXPECT_EQ(QueryFile(photo).modifiedNs, before.modifiedNs);
 }
 #endif
 
