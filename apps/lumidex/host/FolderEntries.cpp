@@ -78,7 +78,7 @@ FolderEntry::Kind KindOfMode(mode_t mode) {
 FolderEntry::Kind KindOf(int folder, const dirent& entry) {
   // Most file systems tell at once.
   if (entry.d_type != DT_UNKNOWN) {
-    return KindOfMode(DTTOIF(entry.d_type));
+    return KindOfMode(static_cast<mode_t>(DTTOIF(entry.d_type)));
   }
   struct stat facts = {};
   if (fstatat(folder, entry.d_name, &facts, AT_SYMLINK_NOFOLLOW) != 0) {
