@@ -12,6 +12,8 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -112,6 +114,10 @@ void NewFile::TakeRightsOf(const ioPath& file) {
   }
 }
 
+bool NewFile::ShareBlocksOf(const ioPath& /*file*/) {
+  return false;
+}
+
 #else
 
 void NewFile::TakeRightsOf(const ioPath& file) {
@@ -125,6 +131,15 @@ void NewFile::TakeRightsOf(const ioPath& file) {
   static_cast<void>(fchown(handle, static_cast<uid_t>(-1), facts.st_gid));
   TakeAttributes(file.native().c_str(), handle);
   static_cast<void>(fchmod(handle, facts.st_mode & 0777U));
+}
+
+bool NewFile::ShareBlocksOf(const ioPath& file) {
+  const int source = open(file.native().c_str(), O_RDONLY | O_CLOEXEC);
+  const bool shared = source >= 0 && ioctl(fileno(stream_), FICLONE, source) == 0;
+  if (source >= 0) {
+    close(source);
+  }
+  return shared;
 }
 
 #endif

@@ -142,6 +142,65 @@ TEST_F(UndoCommand, LeavesWhatOthersHaveChangedSince) {
   EXPECT_THAT(failed.out, HasSubstr("Nothing of \"rotate right\" was taken back."));
 }
 
+TEST_F(UndoCommand, SkipsWhatCannotBeTakenBack) {
+  const std::string hint = "\"lumidex undo --skip\" leaves it as it is for good.";
+  const std::string before = ReadFile(Photo("b.jpg"));
+  ASSERT_EQ(Run({"rotate", "right", "photos/b.jpg"}).exitCode, 0);
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"rotate", "left", "photos/a.jpg"}).exitCode, 0);
+  tree.Write("photos/a.jpg", "changed by others");
+  for (int i = 0; i < 2; ++i) {
+    const Ran blocked = Run({"undo"});
+    EXPECT_EQ(blocked.exitCode, 4);
+    EXPECT_THAT(blocked.out, HasSubstr(hint));
+  }
+  const Ran skip = Run({"undo", "--skip"});
+  EXPECT_EQ(skip.exitCode, 0);
+  const QRegularExpression text(QStringLiteral(
+      "^Given up: rotate left. What is kept of it \\([0-9.]+ [KM]?i?B\\) stays until it is too "
+      "old or too much.\n$"));
+  EXPECT_TRUE(text.match(QString::fromStdString(skip.out)).hasMatch()) << skip.out;
+  EXPECT_EQ(ReadFile(Photos() / "a.jpg"), "changed by others");
+  const QRegularExpression table(QStringLiteral("rotate left .*  given up\n.*rotate right [^a-z]*\n$"));
+  const Ran list = Run({"undo", "--list"});
+  EXPECT_TRUE(table.match(QString::fromStdString(list.out)).hasMatch()) << list.out;
+
+  const Ran older = Run({"undo"});
+  EXPECT_EQ(older.exitCode, 0);
+  EXPECT_THAT(older.out, Not(HasSubstr(hint)));
+  EXPECT_EQ(ReadFile(Photos() / "b.jpg"), before);
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
+  EXPECT_EQ(Run({"redo"}).out, "Done again: rotate right.\n");
+  EXPECT_EQ(Run({"redo"}).exitCode, 1);
+}
+
+TEST_F(UndoCommand, WritesWhatWasSkipped) {
+  const QJsonObject nothing = Run({"undo", "--skip", "--json"}).Json();
+  EXPECT_EQ(nothing["kind"].toString(), QStringLiteral("skip"));
+  EXPECT_TRUE(nothing["skipped"].isArray());
+  EXPECT_TRUE(nothing["skipped"].toArray().isEmpty());
+  EXPECT_FALSE(tree.Path("data").exists());
+  const Ran none = Run({"undo", "--skip"});
+  EXPECT_EQ(none.exitCode, 1);
+  EXPECT_EQ(none.out, "There is nothing to skip.\n");
+
+  Photo("a.jpg");
+  ASSERT_EQ(Rename("x").exitCode, 0);
+  const Ran ran = Run({"undo", "--skip", "--json"});
+  EXPECT_EQ(ran.exitCode, 0);
+  const QJsonArray skipped = ran.Json()["skipped"].toArray();
+  ASSERT_EQ(skipped.size(), 1);
+  const QJsonObject step = skipped[0].toObject();
+  EXPECT_EQ(step["name"].toString(), QStringLiteral("rename 1 photo"));
+  EXPECT_TRUE(step["givenUp"].toBool());
+  EXPECT_FALSE(step["undone"].toBool(true));
+  EXPECT_EQ(Run({"undo", "--list", "--json"}).Json()["steps"].toArray()[0].toObject(), step);
+  EXPECT_THAT(Names(), ElementsAre("x.jpg"));
+  // A step that keeps nothing has nothing to tell of that.
+  ASSERT_EQ(Rename("y").exitCode, 0);
+  EXPECT_EQ(Run({"undo", "--skip"}).out, "Given up: rename 1 photo.\n");
+}
+
 TEST_F(UndoCommand, TellsOfPhotosThatAreGone) {
   const ioPath photo = Photo("a.jpg");
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
@@ -203,7 +262,12 @@ TEST_F(UndoCommand, RefusesLimitsAndNumbersThatMakeNoSense) {
                                                           {"undo", "--last", "2", "--list"},
                                                           {"undo", "--keep-days", "1", "--list"},
                                                           {"undo", "--keep-size", "1", "--last", "2"},
+                                                          {"undo", "--skip", "--last", "2"},
+                                                          {"undo", "--skip", "--list"},
+                                                          {"undo", "--keep-days", "1", "--skip"},
+                                                          {"undo", "--skip", "--keep-size", "1"},
                                                           {"undo", "photos"},
+                                                          {"redo", "--skip"},
                                                           {"redo", "--list"},
                                                           {"redo", "--last", "x"}}) {
     EXPECT_EQ(Run(line).exitCode, 2) << line.join(QLatin1Char(' ')).toStdString();

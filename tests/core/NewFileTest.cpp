@@ -1,3 +1,4 @@
+#include <support/SharingDisk.h>
 #include <support/TempTree.h>
 #include <support/WriteLimit.h>
 
@@ -22,6 +23,7 @@ using Test::ReadFile;
 using Test::TempTree;
 #ifndef _WIN32
 using Test::IsSuperuser;
+using Test::SharingDisk;
 using Test::WriteLimit;
 #endif
 
@@ -155,6 +157,40 @@ TEST(NewFile, TakesWhatPeopleNotedOfAnother) {
   EXPECT_EQ(getxattr(made.native().c_str(), "user.tags", value.data(), value.size()), 7);
   EXPECT_EQ(value.substr(0, 7), "holiday");
   EXPECT_EQ(getxattr(made.native().c_str(), "user.empty", value.data(), value.size()), 0);
+}
+
+TEST(NewFile, SharesTheBlocksOfAnotherWhereItCan) {
+  const TempTree tree;
+  const ioPath folder = tree.MakeFolder("sharing");
+  const SharingDisk disk(folder);
+  if (!disk.Missing().empty()) {
+    GTEST_SKIP() << disk.Missing();
+  }
+  const std::string content(100'000, 'x');
+  const ioPath model = tree.Write("sharing/model", content);
+  {
+    NewFile file;
+    ASSERT_FALSE(file.Create(folder / "a"));
+    ASSERT_TRUE(file.ShareBlocksOf(model));
+    EXPECT_FALSE(file.Close(true));
+    file.Release();
+  }
+  EXPECT_EQ(ReadFile(folder / "a"), content);
+  // They are two files all the same.
+  tree.Write("sharing/a", "y");
+  EXPECT_EQ(ReadFile(model), content);
+}
+
+TEST(NewFile, SharesNothingAcrossVolumesNorWithWhatIsNotThere) {
+  const TempTree tree;
+  NewFile file;
+  ASSERT_FALSE(file.Create(tree.Path("a")));
+  EXPECT_FALSE(file.ShareBlocksOf(tree.Path("gone")));
+  const ioPath elsewhere("/proc/self/maps");
+  EXPECT_FALSE(file.ShareBlocksOf(elsewhere));
+  EXPECT_FALSE(Put(file, "text"));
+  EXPECT_FALSE(file.Close(true));
+  EXPECT_EQ(ReadFile(tree.Path("a")), "text");
 }
 
 TEST(NewFile, TellsAFullDiskAndLeavesNothing) {

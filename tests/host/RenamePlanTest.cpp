@@ -88,6 +88,7 @@ TEST(RenamePlan, GivesShotsTheirNumbersAndKeepsExtensions) {
                           "e/b.Cr2 -> e/20240501_003.Cr2",         "e/b.xmp -> e/20240501_003.xmp"};
   EXPECT_EQ(Written(plan.renames), expected);
   EXPECT_EQ(Written(plan.steps), expected);
+  EXPECT_EQ(plan.shots, 3U);
   EXPECT_TRUE(plan.problems.empty());
   EXPECT_EQ(plan.unchanged, 0U);
 }
@@ -135,6 +136,7 @@ TEST(RenamePlan, LeavesFilesThatHaveTheirName) {
   const RenamePlan plan = Plan({"x1.jpg", "b.jpg"}, "x{number}", {"x1.jpg", "x1.xmp", "b.jpg"});
   EXPECT_EQ(Written(plan.steps), Lines{"b.jpg -> x2.jpg"});
   EXPECT_EQ(plan.unchanged, 2U);
+  EXPECT_EQ(plan.shots, 1U);
   // Not even names that would be refused as new ones.
   const RenamePlan odd = Plan({".a.jpg", "10:30.jpg", "NUL"}, "{name}");
   EXPECT_TRUE(odd.problems.empty());

@@ -7,12 +7,14 @@
 #include <host/UndoJournal.h>
 #include <support/Doubles.h>
 #include <support/LeftOut.h>
+#include <support/SharingDisk.h>
 #include <support/SmallDisk.h>
 #include <support/TempTree.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -23,10 +25,13 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #ifndef _WIN32
 #include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 #endif
 
 namespace Zenvora::Lumidex::Host {
@@ -257,6 +262,37 @@ TEST_F(UndoJournalTest, KeepsTheRecordsOfRenamedPhotos) {
   EXPECT_EQ(now(), ids);
 }
 
+TEST_F(UndoJournalTest, KeepsTheRecordsOfPhotosAmongFoldersWithoutAny) {
+  for (const char* name : {"none/a.jpg", "none/b.jpg", "some/a.jpg", "other/a.jpg"}) {
+    Make(name, name);
+  }
+  {
+    Catalogue catalogue(catalogue_, Catalogue::Mode::ReadWrite);
+    PhotoRecord photo;
+    photo.path = Photo("some/a.jpg");
+    PhotoRecord gone;
+    gone.path = Photo("some/y.jpg");
+    catalogue.Store({photo, gone});
+  }
+  const auto paths = [&] {
+    std::vector<ioPath> result;
+    for (const PhotoRecord& photo : Catalogue(catalogue_, Catalogue::Mode::ReadOnly).Photos()) {
+      result.push_back(photo.path);
+    }
+    return result;
+  };
+  // Into a folder that had no record and from there on, and to the name of a photo that is gone: its record
+  // comes to a folder that had none.
+  Rename({{"none/a.jpg", "none/x.jpg"},
+          {"some/a.jpg", "other/x.jpg"},
+          {"other/x.jpg", "other/z.jpg"},
+          {"none/x.jpg", "some/y.jpg"},
+          {"none/b.jpg", "none/x.jpg"}});
+  EXPECT_THAT(paths(), ::testing::UnorderedElementsAre(Photo("other/z.jpg"), Photo("none/b.jpg")));
+  journal_->UndoLast(never_, nullptr);
+  EXPECT_THAT(paths(), ::testing::UnorderedElementsAre(Photo("some/a.jpg"), Photo("some/y.jpg")));
+}
+
 TEST_F(UndoJournalTest, EditsAndBringsBackTheExactFile) {
   const ioPath photo = Make("a.jpg", "old");
   std::filesystem::last_write_time(photo.native(),
@@ -327,6 +363,87 @@ TEST_F(UndoJournalTest, LeavesAPhotoThatOthersChangedSince) {
   WriteBytes(photo, "2");
   EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}, {"b.jpg", "1"}}));
+}
+
+TEST_F(UndoJournalTest, GoesOnToOlderStepsWhenOneIsSkipped) {
+  const ioPath photo = Make("a.jpg", "1");
+  const ioPath second = Make("b.jpg", "1");
+  Edit({second}, "2");
+  Edit({photo, second}, "3");
+  WriteBytes(photo, "by others");
+  const UndoResult blocked = journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(blocked.files, 1U);
+  EXPECT_TRUE(blocked.stands);
+  const std::vector<ioPath> kept = KeptPaths();
+
+  const auto skipped = journal_->SkipLast();
+  ASSERT_TRUE(skipped);
+  EXPECT_TRUE(skipped->givenUp);
+  EXPECT_EQ(skipped->number, journal_->Steps().at(0).number);
+  EXPECT_EQ(skipped->keptBytes, 2U);
+  EXPECT_TRUE(journal_->Steps().at(0).givenUp);
+  EXPECT_FALSE(journal_->Steps().at(1).givenUp);
+  // Nothing was touched, and both versions of the step stay over a new start.
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "by others"}, {"b.jpg", "2"}}));
+  Open();
+  EXPECT_THAT(KeptPaths(), ::testing::UnorderedElementsAreArray(kept));
+
+  const UndoResult older = journal_->UndoLast(never_, nullptr);
+  EXPECT_EQ(older.files, 1U);
+  EXPECT_FALSE(older.stands);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "by others"}, {"b.jpg", "1"}}));
+  EXPECT_TRUE(journal_->UndoLast(never_, nullptr).name.isEmpty());
+  EXPECT_FALSE(journal_->SkipLast());
+
+  // Only what was taken back is done again, also where the photo is again what the skipped step took.
+  WriteBytes(photo, "3");
+  EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
+  EXPECT_TRUE(journal_->RedoLast(never_, nullptr).name.isEmpty());
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "3"}, {"b.jpg", "2"}}));
+}
+
+TEST_F(UndoJournalTest, SkipsARenameThatCannotBeTakenBack) {
+  Make("a.jpg", "A");
+  Make("b.jpg", "B");
+  Rename({{"b.jpg", "y.jpg"}});
+  Rename({{"a.jpg", "x.jpg"}});
+  Make("a.jpg", "of others");
+  EXPECT_TRUE(journal_->UndoLast(never_, nullptr).stands);
+  EXPECT_TRUE(journal_->SkipLast());
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "of others"}, {"b.jpg", "B"}, {"x.jpg", "A"}}));
+}
+
+TEST_F(UndoJournalTest, KeepsWhatIsKeptOfASkippedStepUntilItIsPruned) {
+  const ioPath photo = Make("a.jpg", std::string(1000, 'x'));
+  Edit({photo}, "2");
+  ASSERT_TRUE(journal_->SkipLast());
+  Edit({photo}, "3");
+  EXPECT_EQ(KeptFiles(), 2U);
+  UndoLimits limits;
+  EXPECT_EQ(journal_->Prune(limits, QDateTime::currentDateTimeUtc()), 0U);
+  limits.bytes = 500;
+  EXPECT_EQ(journal_->Prune(limits, QDateTime::currentDateTimeUtc()), 1U);
+  EXPECT_EQ(KeptFiles(), 1U);
+  EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
+}
+
+TEST_F(UndoJournalTest, LeavesNoSideFileOfASkippedStep) {
+  const ioPath photo = Make("a.jpg", "1");
+  Edit({photo}, "2");
+  // An exchange that was broken off, while another program put something else there.
+  const ioPath side = Make(".lumidex-side.jpg", "1");
+  WriteBytes(AfterOf(OnlyKeptFile()), "2");
+  WriteBytes(photo, "by others");
+  StopIn(3);
+  Sql("UPDATE changes SET state = 3, side = CAST('" + side.utf8string() + "' AS BLOB)");
+  Open();
+  EXPECT_EQ(journal_->RecoveryNotes().size(), 2U);
+  ASSERT_TRUE(journal_->SkipLast());
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "by others"}}));
+  Open();
+  EXPECT_EQ(KeptFiles(), 2U);
 }
 
 TEST_F(UndoJournalTest, EditsTheOthersWhenOneFails) {
@@ -494,8 +611,7 @@ TEST_F(UndoJournalTest, FinishesOverPhotosThatWerePutBackFromACopy) {
       ASSERT_TRUE(Photo("copy").rename(Photo(name)));
       std::filesystem::last_write_time(Photo(name).native(), time);
     }
-    journal_.reset();
-    Sql("UPDATE steps SET state = " + std::to_string(state));
+    StopIn(state);
     Open();
     const Files former{{"a.jpg", "a.jpg"}, {"b.jpg", "b.jpg"}, {"c.jpg", "c.jpg"}};
     EXPECT_EQ(Folder(),
@@ -751,6 +867,8 @@ TEST_F(UndoJournalTest, GoesOnToOlderStepsWhenAnOriginalIsGone) {
   const UndoResult result = journal_->UndoLast(never_, nullptr);
   EXPECT_EQ(result.files, 0U);
   EXPECT_EQ(result.findings.size(), 1U);
+  EXPECT_FALSE(result.stands);
+  EXPECT_TRUE(journal_->Steps().at(0).givenUp);
   EXPECT_EQ(Folder(), (Files{{"b.jpg", "2"}}));
   EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
@@ -851,6 +969,114 @@ TEST_F(UndoJournalTest, KeepsPhotosOfAnotherVolume) {
   EXPECT_EQ(QueryFile(photo).modifiedNs, before.modifiedNs);
   EXPECT_EQ(journal_->RedoLast(never_, nullptr).files, 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "edited"}}));
+}
+#endif
+
+#ifdef _WIN32
+constexpr char kNoRights[] = "files have no owners and notes here that go along";
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, GivesRightsBackWithAPhoto, kNoRights);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, GivesRightsBackWithACopy, kNoRights);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoJournalTest, GivesRightsBackWithSharedBlocks, kNoRights);
+#else
+/// What a photo has besides its content.
+struct Rights {
+  mode_t mode = 0640;
+  uid_t owner = geteuid();
+  gid_t group = getegid();
+  std::string note;
+
+  bool operator==(const Rights& other) const {
+    return std::tie(mode, owner, group, note) == std::tie(other.mode, other.owner, other.group, other.note);
+  }
+};
+
+std::ostream& operator<<(std::ostream& stream, const Rights& rights) {
+  return stream << std::oct << rights.mode << std::dec << ' ' << rights.owner << ' ' << rights.group << ' '
+                << rights.note;
+}
+
+Rights RightsOf(const ioPath& file) {
+  struct stat facts = {};
+  EXPECT_EQ(stat(file.native().c_str(), &facts), 0);
+  std::string note(20, '\0');
+  const ssize_t length = getxattr(file.native().c_str(), "user.note", note.data(), note.size());
+  note.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
+  return {facts.st_mode & 07777U, facts.st_uid, facts.st_gid, note};
+}
+
+/// As far as this user and the file system can. Returns what the file has then.
+Rights Give(const ioPath& file, const Rights& wanted) {
+  EXPECT_EQ(chown(file.native().c_str(), wanted.owner, wanted.group), 0);
+  EXPECT_EQ(chmod(file.native().c_str(), wanted.mode), 0);
+  static_cast<void>(setxattr(file.native().c_str(), "user.note", wanted.note.data(), wanted.note.size(), 0));
+  return RightsOf(file);
+}
+
+/// Another one may read and write the edited photo, and there is no note of it.
+void ExpectRightsGoAlong(UndoJournal& journal, IFileAccessLocker& locker, const ioPath& photo) {
+  const std::atomic<bool> never{false};
+  Rights wanted;
+  wanted.note = "of my aunt";
+  if (Zenvora::Test::IsSuperuser()) {
+    wanted.owner = 1234;
+    wanted.group = 2345;
+  }
+  const Rights before = Give(photo, wanted);
+  EXPECT_EQ(before.mode, wanted.mode);
+  EXPECT_EQ(before.owner, wanted.owner);
+  Rights after;
+  EditPhotos(
+      journal, locker, QStringLiteral("edit"), {photo},
+      [&after](const ioPath&, const ioPath& side) {
+        std::ofstream(side.native()) << "edited";
+        Rights others;
+        others.mode = 0604;
+        after = Give(side, others);
+      },
+      never, nullptr);
+  ASSERT_EQ(RightsOf(photo), after);
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(journal.UndoLast(never, nullptr).files, 1U);
+    EXPECT_EQ(RightsOf(photo), before);
+    EXPECT_EQ(journal.RedoLast(never, nullptr).files, 1U);
+    EXPECT_EQ(RightsOf(photo), after);
+  }
+  if (before.note.empty()) {
+    GTEST_SKIP() << "all but the notes was tested: this file system keeps none";
+  }
+}
+
+TEST_F(UndoJournalTest, GivesRightsBackWithAPhoto) {
+  ExpectRightsGoAlong(*journal_, *locker_, Make("a.jpg", "1"));
+}
+
+TEST_F(UndoJournalTest, GivesRightsBackWithACopy) {
+  const ioPath photo = Make("a.jpg", "1");
+  // With a second name a photo is copied, as on a file system without them.
+  std::error_code error;
+  std::filesystem::create_hard_link(photo.native(), Photo("same.jpg").native(), error);
+  if (error) {
+    GTEST_SKIP() << "no hard links can be made here";
+  }
+  ExpectRightsGoAlong(*journal_, *locker_, photo);
+}
+
+TEST_F(UndoJournalTest, GivesRightsBackWithSharedBlocks) {
+  const ioPath place = tree_.MakeFolder("sharing");
+  const Zenvora::Test::SharingDisk disk(place);
+  if (!disk.Missing().empty()) {
+    GTEST_SKIP() << disk.Missing();
+  }
+  const ioPath photo = place / "a.jpg";
+  WriteBytes(photo, "1");
+  const FileState before = QueryFile(photo);
+  UndoJournal journal(place / "catalogue.sqlite", *locker_);
+  ExpectRightsGoAlong(journal, *locker_, photo);
+  EXPECT_EQ(journal.UndoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(ReadFile(photo), "1");
+  // It is not that very file, as it were by a second name.
+  EXPECT_NE(QueryFile(photo).identity, before.identity);
+  EXPECT_EQ(QueryFile(photo).modifiedNs, before.modifiedNs);
 }
 #endif
 

@@ -32,7 +32,7 @@ std::size_t OpenJournal::Prune() {
 
 bool OpenJournal::CanUndoLast() const {
   const std::vector<Host::UndoStep> steps = journal_->Steps();
-  return !steps.empty() && !steps.front().undone;
+  return !steps.empty() && !steps.front().undone && !steps.front().givenUp;
 }
 
 void RecoverIfNeeded(Session& session) {

@@ -18,7 +18,6 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <unordered_map>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -87,27 +86,6 @@ Host::RenameOptions OptionsOf(const RenameArguments& arguments) {
   return options;
 }
 
-/// How many shots the renames are of.
-std::size_t CountShots(const std::vector<Host::RenameShot>& shots,
-                       const std::vector<Host::RenameMove>& renames) {
-  std::unordered_map<ioPath, std::size_t> shotOf;
-  for (std::size_t i = 0; i < shots.size(); ++i) {
-    for (const Host::ShotFile& file : shots[i].set.files) {
-      shotOf.emplace(file.path, i);
-    }
-  }
-  std::vector<bool> counted(shots.size());
-  std::size_t count = 0;
-  for (const Host::RenameMove& move : renames) {
-    const auto shot = shotOf.find(move.from);
-    if (shot != shotOf.end() && !counted[shot->second]) {
-      counted[shot->second] = true;
-      ++count;
-    }
-  }
-  return count;
-}
-
 /// One run of the command.
 class RenameRun {
  public:
@@ -142,9 +120,10 @@ class RenameRun {
     for (const std::string& file : arguments_.files) {
       named.push_back(AbsolutePath(file));
     }
-    const Host::RenameChoice choice = Host::ChooseForRename(named);
+    Host::RenameChoice choice = Host::ChooseForRename(named);
     std::vector<Host::RenameShot> shots;
-    for (Host::ShotSet& set : Host::GroupShots(choice.named, choice.files)) {
+    shots.reserve(choice.named.size());
+    for (Host::ShotSet& set : Host::GroupShots(std::move(choice.named), choice.files)) {
       shots.push_back({std::move(set), {}});
     }
     if (pattern_.NeedsDate() || arguments_.order == "date") {
@@ -154,7 +133,6 @@ class RenameRun {
     view_.shots = shots.size();
     view_.plan = Host::MakeRenamePlan(shots, pattern_, choice.entries, OptionsOf(arguments_));
     view_.refused = !view_.plan.problems.empty() && !arguments_.skipProblems;
-    view_.planned = CountShots(shots, view_.plan.renames);
   }
 
   void FindDates(std::vector<Host::RenameShot>& shots) {
@@ -176,7 +154,7 @@ class RenameRun {
       journal_.emplace(session_);
     }
     const QString step =
-        QString::fromStdString("rename " + PhotosAndFiles(view_.planned, view_.plan.renames.size()));
+        QString::fromStdString("rename " + PhotosAndFiles(view_.plan.shots, view_.plan.renames.size()));
     {
       Progress progress(session_.console, "Renaming", "files");
       view_.result = journal_->Get().Rename(

@@ -100,7 +100,7 @@ std::string OutcomeText(const RenameView& view) {
   if (view.plan.renames.empty()) {
     return "Nothing to rename.\n";
   }
-  const std::string what = PhotosAndFiles(view.planned, view.plan.renames.size());
+  const std::string what = PhotosAndFiles(view.plan.shots, view.plan.renames.size());
   if (view.dryRun) {
     return what + " would be renamed. This was a dry run: nothing was changed.\n";
   }
@@ -147,7 +147,7 @@ std::string RenameDocument(const RenameView& view) {
   json.Truth("interrupted", view.result.cancelled);
   json.Truth("refused", view.refused);
   json.Number("photos", static_cast<long long>(view.shots));
-  json.Number("photosRenamed", static_cast<long long>(done ? view.planned : 0));
+  json.Number("photosRenamed", static_cast<long long>(done ? view.plan.shots : 0));
   json.Number("filesRenamed", static_cast<long long>(done ? files : 0));
   json.Number("filesUnchanged", static_cast<long long>(view.plan.unchanged));
   json.Number("fileTimes", static_cast<long long>(view.fileTimes));

@@ -19,7 +19,6 @@ struct RenameView {
   std::size_t shots = 0;      ///< Photos that were looked at; one in several formats counts once.
   std::size_t fileTimes = 0;  ///< Of these: named by the file's time, for want of a date of their own.
   Host::RenamePlan plan;
-  std::size_t planned = 0;  ///< Photos that the plan renames.
   Host::UndoResult result;  ///< Of the run; of a dry run empty.
   bool canBeUndone = false;
   std::vector<std::string> recovered;

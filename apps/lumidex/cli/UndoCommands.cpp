@@ -8,6 +8,7 @@
 #include "ValueTexts.h"
 
 #include <memory>
+#include <optional>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -20,7 +21,7 @@ constexpr char kUndoDescription[] =
     "\n"
     "Without an option, the last step. The photos get back their names and every\n"
     "byte of what they were. A photo that was changed since by others is left as it\n"
-    "is, and listed.";
+    "is, and listed; older steps wait then, until --skip gives this one up.";
 
 constexpr char kUndoFooter[] =
     R"(What was taken back can be done again with "lumidex redo", until something new
@@ -31,6 +32,7 @@ Examples:
   lumidex undo
   lumidex undo --list                    what could be taken back
   lumidex undo --last 3                  the last three steps
+  lumidex undo --skip                    leave the last step as it is, for good
   lumidex undo --keep-days 365 --keep-size 20G
   lumidex undo --keep-size 0             keep no originals at all
 
@@ -56,6 +58,7 @@ be written; 130 interrupted, what was done so far stays so.)";
 struct UndoArguments {
   bool redo = false;
   bool list = false;
+  bool skip = false;
   int last = 1;
   int keepDays = -1;
   std::string keepSize;
@@ -78,6 +81,8 @@ class UndoRun {
     }
     if (arguments_.list) {
       view_.steps.emplace();
+    } else if (arguments_.skip) {
+      view_.skipped.emplace();
     }
     // Without a catalogue nothing was ever done, and none is made for finding that out.
     if (view_.catalogue.exists()) {
@@ -105,6 +110,10 @@ class UndoRun {
       view_.forgotten = journal.Prune();
     } else if (view_.steps) {
       view_.steps = journal.Get().Steps();
+    } else if (view_.skipped) {
+      if (const std::optional<Host::UndoStep> step = journal.Get().SkipLast()) {
+        view_.skipped->push_back(*step);
+      }
     } else {
       for (int i = 0; i < arguments_.last && TakeStep(journal.Get()); ++i) {
       }
@@ -138,6 +147,9 @@ class UndoRun {
   }
 
   ExitCode Judge() const {
+    if (view_.skipped) {
+      return view_.skipped->empty() ? ExitCode::Findings : ExitCode::Done;
+    }
     if (view_.interrupted) {
       return ExitCode::Interrupted;
     }
@@ -188,13 +200,22 @@ void AddUndoCommand(CLI::App& program, Action& chosen) {
       command->add_flag("--list", arguments->list, "Only list the steps, the latest first.")
           ->disable_flag_override()
           ->excludes(last);
+  CLI::Option* const skip =
+      command
+          ->add_flag("--skip", arguments->skip,
+                     "Take nothing back: leave the last step as it is for good, so that the one before it is "
+                     "the next to be taken back.")
+          ->disable_flag_override()
+          ->excludes(last)
+          ->excludes(list);
   command
       ->add_option("--keep-days", arguments->keepDays,
                    "From now on, keep steps for so many days, 0 to 36500; take nothing back.")
       ->option_text("N")
       ->check(WholeNumber(0, kMostDays))
       ->excludes(last)
-      ->excludes(list);
+      ->excludes(list)
+      ->excludes(skip);
   command
       ->add_option("--keep-size", arguments->keepSize,
                    "From now on, keep no more than that of originals, such as 500M, 5G or 0; take nothing "
@@ -202,7 +223,8 @@ void AddUndoCommand(CLI::App& program, Action& chosen) {
       ->option_text("SIZE")
       ->transform(Size())
       ->excludes(last)
-      ->excludes(list);
+      ->excludes(list)
+      ->excludes(skip);
   Choose(*command, arguments, chosen);
 }
 

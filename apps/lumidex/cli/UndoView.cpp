@@ -14,6 +14,14 @@ namespace {
 using Host::UndoResult;
 using Host::UndoStep;
 
+const char* StateText(const UndoStep& step) {
+  return step.undone ? "undone" : step.givenUp ? "given up" : "";
+}
+
+const char* KindName(const UndoView& view) {
+  return view.limits ? "limits" : view.steps ? "list" : view.skipped ? "skip" : view.redo ? "redo" : "undo";
+}
+
 std::string StepsText(const std::vector<UndoStep>& steps) {
   if (steps.empty()) {
     return "There is nothing that could be undone.\n";
@@ -23,7 +31,7 @@ std::string StepsText(const std::vector<UndoStep>& steps) {
   for (const UndoStep& step : steps) {
     const QString when = step.begun.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm"));
     table.AddRow({when.toStdString(), step.name.toStdString(), GroupDigits(step.files),
-                  SizeText(step.keptBytes), step.undone ? "undone" : ""});
+                  SizeText(step.keptBytes), StateText(step)});
   }
   return table.Text();
 }
@@ -32,11 +40,30 @@ std::string ResultText(const UndoResult& result, bool redo) {
   const std::string name = EscapeForTerminal(result.name.toStdString());
   std::string text = FindingsText("Left as they are", result.findings);
   if (result.files == 0) {
-    return text + "Nothing of \"" + name + "\" was " + (redo ? "done again" : "taken back") + ".\n";
+    text += "Nothing of \"" + name + "\" was " + (redo ? "done again" : "taken back") + ".\n";
+  } else {
+    const std::string left =
+        result.findings.empty() ? "" : ", but for " + Counted(result.findings.size(), "file");
+    text += (redo ? "Done again: " : "Taken back: ") + name + left + ".\n";
   }
-  const std::string left =
-      result.findings.empty() ? "" : ", but for " + Counted(result.findings.size(), "file");
-  return text + (redo ? "Done again: " : "Taken back: ") + name + left + ".\n";
+  if (result.stands && !result.findings.empty()) {
+    text += "Older steps wait for it; \"lumidex undo --skip\" leaves it as it is for good.\n";
+  }
+  return text;
+}
+
+std::string SkippedText(const std::vector<UndoStep>& steps) {
+  if (steps.empty()) {
+    return "There is nothing to skip.\n";
+  }
+  std::string text;
+  for (const UndoStep& step : steps) {
+    const std::string kept = step.keptBytes == 0 ? ""
+                                                 : " What is kept of it (" + SizeText(step.keptBytes) +
+                                                       ") stays until it is too old or too much.";
+    text += "Given up: " + EscapeForTerminal(step.name.toStdString()) + "." + kept + '\n';
+  }
+  return text;
 }
 
 std::string LimitsLine(const UndoView& view) {
@@ -45,14 +72,15 @@ std::string LimitsLine(const UndoView& view) {
   return "Steps can be undone within " + LimitsText(*view.limits) + "." + forgotten + '\n';
 }
 
-void WriteSteps(JsonWriter& json, const std::vector<UndoStep>& steps) {
-  json.BeginArray("steps");
+void WriteSteps(JsonWriter& json, const char* name, const std::vector<UndoStep>& steps) {
+  json.BeginArray(name);
   for (const UndoStep& step : steps) {
     json.BeginObject();
     json.Number("number", step.number);
     json.Text("name", step.name);
     json.Text("begun", step.begun.toUTC().toString(Qt::ISODate));
     json.Truth("undone", step.undone);
+    json.Truth("givenUp", step.givenUp);
     json.Number("files", static_cast<long long>(step.files));
     json.Number("keptBytes", static_cast<long long>(step.keptBytes));
     json.EndObject();
@@ -85,12 +113,14 @@ void WriteLimits(JsonWriter& json, const UndoView& view) {
 std::string UndoDocument(const UndoView& view) {
   JsonWriter json("lumidex.undo", 1);
   json.Path("catalogue", view.catalogue);
-  json.Text("kind", view.limits ? "limits" : view.steps ? "list" : view.redo ? "redo" : "undo");
+  json.Text("kind", KindName(view));
   json.Truth("interrupted", view.interrupted);
   if (view.limits) {
     WriteLimits(json, view);
   } else if (view.steps) {
-    WriteSteps(json, *view.steps);
+    WriteSteps(json, "steps", *view.steps);
+  } else if (view.skipped) {
+    WriteSteps(json, "skipped", *view.skipped);
   } else {
     WriteDone(json, view.done);
   }
@@ -104,6 +134,9 @@ std::string UndoText(const UndoView& view) {
   }
   if (view.steps) {
     return StepsText(*view.steps);
+  }
+  if (view.skipped) {
+    return SkippedText(*view.skipped);
   }
   std::string text;
   for (const UndoResult& result : view.done) {

@@ -28,22 +28,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The bytes that the paths of everything below a folder begin with, and the first bytes behind all of those.
-std::pair<QByteArray, QByteArray> RangeBelow(const ioPath& folder) {
-#ifdef _WIN32
-  constexpr char kSeparator = '\\';
-#else
-  constexpr char kSeparator = '/';
-#endif
-  QByteArray first = PathBytes(folder);
-  if (!first.endsWith(kSeparator)) {
-    first += kSeparator;
-  }
-  QByteArray behind = first;
-  behind[behind.size() - 1] = kSeparator + 1;
-  return {first, behind};
-}
-
 /// Refuses names that SQLite would only stumble over, or wait for.
 void RequireUsablePlace(const ioPath& file, Catalogue::Mode mode) {
   if (const std::string fault = file.name_fault(); !fault.empty()) {

@@ -6,6 +6,21 @@
 
 namespace Zenvora::Lumidex::Host {
 
+namespace {
+
+#ifdef _WIN32
+constexpr char kSeparator = '\\';
+#else
+constexpr char kSeparator = '/';
+#endif
+
+/// `start`: with the separator behind the folder.
+bool IsDirectlyIn(const QByteArray& start, const QByteArray& path) {
+  return path.startsWith(start) && path.indexOf(kSeparator, start.size()) < 0;
+}
+
+}  // namespace
+
 QByteArray PathBytes(const ioPath& path) {
 #ifdef _WIN32
   std::filesystem::path plain = path.native();
@@ -17,6 +32,16 @@ QByteArray PathBytes(const ioPath& path) {
 
 ioPath PathOf(const QVariant& bytes) {
   return ioPath(bytes.toByteArray().toStdString());
+}
+
+std::pair<QByteArray, QByteArray> RangeBelow(const ioPath& folder) {
+  QByteArray first = PathBytes(folder);
+  if (!first.endsWith(kSeparator)) {
+    first += kSeparator;
+  }
+  QByteArray behind = first;
+  behind[behind.size() - 1] = kSeparator + 1;
+  return {first, behind};
 }
 
 QVariant TakenText(const QDateTime& taken) {
@@ -55,7 +80,7 @@ PhotoPathUpdate::PhotoPathUpdate(const CatalogueDatabase& database)
 void PhotoPathUpdate::Move(const ioPath& from, const ioPath& to) {
   const QByteArray source = PathBytes(from);
   const QByteArray target = PathBytes(to);
-  if (Set(source, target)) {
+  if (!MayConcern(from, source, target) || Set(source, target)) {
     return;
   }
   // No file had that name when the photo got it, so a record there is of a photo that is gone.
@@ -64,6 +89,27 @@ void PhotoPathUpdate::Move(const ioPath& from, const ioPath& to) {
     Set(source, target);
     Set(aside, source);
   }
+}
+
+bool PhotoPathUpdate::MayConcern(const ioPath& from, const QByteArray& source, const QByteArray& target) {
+  if (!folder_ || !IsDirectlyIn(folder_->start, source)) {
+    folder_ = LookAt(from.parent_path());
+  }
+  if (!IsDirectlyIn(folder_->start, target)) {
+    // It may bring a photo to a folder that had none.
+    folder_.reset();
+    return true;
+  }
+  return folder_->hasPhotos;
+}
+
+PhotoPathUpdate::Folder PhotoPathUpdate::LookAt(const ioPath& folder) const {
+  const auto [first, behind] = RangeBelow(folder);
+  QSqlQuery query = database_.Prepare("SELECT EXISTS (SELECT 1 FROM photos WHERE path >= ? AND path < ?)");
+  query.addBindValue(first);
+  query.addBindValue(behind);
+  database_.Run(query);
+  return {first, database_.Next(query) && query.value(0).toBool()};
 }
 
 bool PhotoPathUpdate::Set(const QByteArray& from, const QByteArray& to) {

@@ -6,12 +6,18 @@
 
 #include <QByteArray>
 
+#include <optional>
+#include <utility>
+
 namespace Zenvora::Lumidex::Host {
 
 /// A path as the tables hold it: bytes, since a file name on Linux need not be text, with one separator, so
 /// that the bytes compare.
 QByteArray PathBytes(const ioPath& path);
 ioPath PathOf(const QVariant& bytes);
+
+/// The bytes that the paths of everything below a folder begin with, and the first bytes behind all of those.
+std::pair<QByteArray, QByteArray> RangeBelow(const ioPath& folder);
 
 /// A date as the tables hold it, NULL when it is invalid. The text of a date sorts as the date does.
 QVariant TakenText(const QDateTime& taken);
@@ -27,17 +33,27 @@ constexpr int kPhotoColumnCount = 7;
 PhotoRecord PhotoOf(const QSqlQuery& row);
 
 /// Gives photos new paths, one after the other, within the caller's transaction. What is not in the catalogue
-/// is passed over. A lost photo that the catalogue has under a new path gets the path that became free.
+/// is passed over; a folder of which it has nothing, at one look. A lost photo that the catalogue has under a
+/// new path gets the path that became free.
 class PhotoPathUpdate {
  public:
   explicit PhotoPathUpdate(const CatalogueDatabase& database);
   void Move(const ioPath& from, const ioPath& to);
 
  private:
+  struct Folder {
+    QByteArray start;  ///< Of the paths in it.
+    bool hasPhotos = false;
+  };
+
+  bool MayConcern(const ioPath& from, const QByteArray& source, const QByteArray& target);
+  Folder LookAt(const ioPath& folder) const;
   bool Set(const QByteArray& from, const QByteArray& to);
 
   const CatalogueDatabase& database_;
   QSqlQuery set_;
+  /// Of the last move: as a rule they are all in one.
+  std::optional<Folder> folder_;
 };
 
 /// Stores what a photo's file says now, if the catalogue has the photo, within the caller's transaction.

@@ -14,6 +14,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <tuple>
 #include <unordered_map>
 #include <utility>
@@ -144,14 +145,17 @@ std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps) {
   std::vector<FileMove> moves;
   moves.reserve(steps.size());
   // Where the moves so far have put what. By the name's bytes: a path takes its time to hash.
-  std::unordered_map<std::filesystem::path::string_type, std::size_t> arrived;
+  std::unordered_map<std::basic_string_view<std::filesystem::path::value_type>, std::size_t> arrived;
+  arrived.reserve(steps.size());
   for (const RenameMove& step : steps) {
     FileMove move{step.from, step.to};
     const auto before = arrived.find(step.from.native().native());
     if (before != arrived.end()) {
-      move = moves[before->second];
-      move.from = step.from;
-      move.to = step.to;
+      const FileMove& first = moves[before->second];
+      move.device = first.device;
+      move.inode = first.inode;
+      move.size = first.size;
+      move.modifiedNs = first.modifiedNs;
       arrived.erase(before);
     } else {
       const FileState state = QueryFile(step.from);
@@ -175,9 +179,11 @@ QByteArray PackMoves(const std::vector<FileMove>& moves) {
   stream.setVersion(QDataStream::Qt_5_15);
   stream << static_cast<quint32>(moves.size());
   for (const FileMove& move : moves) {
-    stream << QByteArray::fromStdString(move.from.utf8string())
-           << QByteArray::fromStdString(move.to.utf8string()) << quint64{move.device} << quint64{move.inode}
-           << quint64{move.size} << qint64{move.modifiedNs};
+    for (const ioPath* const path : {&move.from, &move.to}) {
+      const std::string name = path->utf8string();
+      stream.writeBytes(name.data(), static_cast<uint>(name.size()));
+    }
+    stream << quint64{move.device} << quint64{move.inode} << quint64{move.size} << qint64{move.modifiedNs};
   }
   return bytes;
 }

@@ -2,16 +2,20 @@
 
 #include <zenvora/core/ErrorText.h>
 
-#include <filesystem>
+#include <memory>
+#include <string_view>
 
 #ifdef _WIN32
-#include <string_view>
+#include <filesystem>
 #include <windows.h>
+#else
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #endif
 
 namespace Zenvora::Lumidex::Host {
-
-namespace fs = std::filesystem;
 
 #ifdef _WIN32
 
@@ -50,7 +54,7 @@ std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice cho
     const std::wstring_view name = found.cFileName;
     const bool hidden = name[0] == L'.' || (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
     if (name != L"." && name != L".." && !(hidden && choice == EntryChoice::NotHidden)) {
-      entries.push_back({ioPath(fs::path(found.cFileName)), KindOf(found), hidden});
+      entries.push_back({ioPath(std::filesystem::path(found.cFileName)), KindOf(found), hidden});
     }
   } while (FindNextFileW(search, &found));
   if (GetLastError() != ERROR_NO_MORE_FILES) {
@@ -62,31 +66,47 @@ std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice cho
 
 #else
 
+namespace {
+
+FolderEntry::Kind KindOfMode(mode_t mode) {
+  return S_ISREG(mode)   ? FolderEntry::Kind::File
+         : S_ISDIR(mode) ? FolderEntry::Kind::Folder
+         : S_ISLNK(mode) ? FolderEntry::Kind::Link
+                         : FolderEntry::Kind::Other;
+}
+
+FolderEntry::Kind KindOf(int folder, const dirent& entry) {
+  // Most file systems tell at once.
+  if (entry.d_type != DT_UNKNOWN) {
+    return KindOfMode(static_cast<mode_t>(DTTOIF(entry.d_type)));
+  }
+  struct stat facts = {};
+  if (fstatat(folder, entry.d_name, &facts, AT_SYMLINK_NOFOLLOW) != 0) {
+    return errno == ENOENT ? FolderEntry::Kind::Other : FolderEntry::Kind::File;
+  }
+  return KindOfMode(facts.st_mode);
+}
+
+}  // namespace
+
+// Not by the standard library, which joins each name with the folder's.
 std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice choice, std::error_code& error) {
   std::vector<FolderEntry> entries;
-  fs::directory_iterator entry(folder.native(), error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    FolderEntry found{ioPath(entry->path().filename()), FolderEntry::Kind::Other};
-    found.hidden = found.name.native().native().front() == '.';
-    if (choice == EntryChoice::NotHidden && found.hidden) {
-      continue;
+  error.clear();
+  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.native().c_str()), closedir);
+  if (!stream) {
+    error = LastSystemError();
+    return entries;
+  }
+  for (errno = 0; const dirent* const entry = readdir(stream.get()); errno = 0) {
+    const std::string_view name = entry->d_name;
+    const bool hidden = name.front() == '.';
+    if (name != "." && name != ".." && !(hidden && choice == EntryChoice::NotHidden)) {
+      entries.push_back({ioPath(entry->d_name), KindOf(dirfd(stream.get()), *entry), hidden});
     }
-    std::error_code unknown;
-    switch (entry->symlink_status(unknown).type()) {
-      case fs::file_type::directory:
-        found.kind = FolderEntry::Kind::Folder;
-        break;
-      case fs::file_type::symlink:
-        found.kind = FolderEntry::Kind::Link;
-        break;
-      case fs::file_type::regular:
-      case fs::file_type::none:
-        found.kind = FolderEntry::Kind::File;
-        break;
-      default:
-        break;
-    }
-    entries.push_back(found);
+  }
+  if (errno != 0) {
+    error = LastSystemError();
   }
   return entries;
 }

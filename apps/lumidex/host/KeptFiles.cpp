@@ -16,14 +16,6 @@
 #include <string>
 #include <vector>
 
-#ifndef _WIN32
-#include <fcntl.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
-
 namespace Zenvora::Lumidex::Host {
 
 namespace {
@@ -59,55 +51,40 @@ void ReadAll(const ioPath& file, const Take& take) {
   }
 }
 
+/// The last of a new file that has its content.
+std::error_code Finish(NewFile& file, std::int64_t modifiedNs) {
+  std::error_code error = file.SetModified(modifiedNs);
+  error = error ? error : file.Close(true);
+  if (!error) {
+    file.Release();
+  }
+  return error;
+}
+
+/// False where the file system cannot, and then there is no new file.
+bool ShareBlocks(const ioPath& from, const ioPath& to) {
+  const FileState state = QueryFile(from);
+  NewFile twin;
+  if (!NewFile::kMayShareBlocks || twin.Create(to)) {
+    return false;
+  }
+  twin.TakeRightsOf(from);
+  return twin.ShareBlocksOf(from) && !Finish(twin, state.modifiedNs);
+}
+
 void Copy(const ioPath& from, const ioPath& to) {
-  NewFile copy;
   const auto require = [&to](const std::error_code& error) {
     if (error) {
       Fail(to, "Cannot write", error);
     }
   };
   const FileState state = QueryFile(from);
+  NewFile copy;
   require(copy.Create(to));
   copy.TakeRightsOf(from);
   ReadAll(from, [&](const char* bytes, std::size_t count) { require(copy.Write(bytes, count)); });
-  require(copy.SetModified(state.modifiedNs));
-  require(copy.Close(true));
-  copy.Release();
+  require(Finish(copy, state.modifiedNs));
 }
-
-#ifdef _WIN32
-
-bool ShareBlocks(const ioPath& /*from*/, const ioPath& /*to*/) {
-  return false;
-}
-
-#else
-
-/// False where the file system cannot, and then there is no new file.
-bool ShareBlocks(const ioPath& from, const ioPath& to) {
-  const int source = open(from.native().c_str(), O_RDONLY | O_CLOEXEC);
-  if (source < 0) {
-    return false;
-  }
-  struct stat facts = {};
-  const int target = open(to.native().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-  bool done = false;
-  if (target >= 0) {
-    done = fstat(source, &facts) == 0 && ioctl(target, FICLONE, source) == 0;
-    if (done) {
-      const timespec times[2] = {facts.st_atim, facts.st_mtim};
-      done = fchmod(target, facts.st_mode & 07777) == 0 && futimens(target, times) == 0 && fsync(target) == 0;
-    }
-    close(target);
-    if (!done) {
-      to.remove();
-    }
-  }
-  close(source);
-  return done;
-}
-
-#endif
 
 void Require(const std::error_code& error, const ioPath& file) {
   if (error) {

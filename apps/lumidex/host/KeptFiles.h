@@ -21,9 +21,10 @@ class KeptFiles {
   explicit KeptFiles(const ioPath& folder) : folder_(folder) {}
 
   ioPath PathOf(const std::string& name) const { return folder_ / ioPath(name); }
-  /// Keeps what `file` holds now, with its time, safe on the disk when this returns: its blocks are shared
-  /// where the file system can, or the file gets a second name, else it is copied. What was kept under the
-  /// name before is replaced.
+  /// Keeps what `file` holds now, with its time and, as far as the system lets us, its rights, its owner and
+  /// what people noted of it (`NewFile::TakeRightsOf`), safe on the disk when this returns: its blocks are
+  /// shared where the file system can, or the file gets a second name, else it is copied. What was kept under
+  /// the name before is replaced.
   void Keep(const ioPath& file, const std::string& name) const;
   /// Makes the new file `side` of what is kept, likewise.
   void PutBeside(const std::string& name, const ioPath& side) const;

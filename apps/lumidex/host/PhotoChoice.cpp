@@ -9,6 +9,7 @@
 #include <zenvora/core/FileState.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <unordered_map>
@@ -30,21 +31,26 @@ bool IsFile(const ioPath& folder, const FolderEntry& entry) {
          (entry.kind == Kind::Link && QueryFile(folder / entry.name).kind == FileState::Kind::File);
 }
 
-/// The photos among what is in a folder, as people sort names.
-std::vector<ioPath> PhotosOf(const ioPath& folder, const std::vector<FolderEntry>& entries) {
-  std::vector<std::pair<std::string, ioPath>> photos;
-  for (const FolderEntry& entry : entries) {
+/// Which of the entries of a folder are photos, as people sort names.
+std::vector<std::size_t> PhotosOf(const ioPath& folder, const std::vector<FolderEntry>& entries) {
+  std::vector<std::pair<std::string, std::size_t>> photos;
+  photos.reserve(entries.size());
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const FolderEntry& entry = entries[i];
     if (!entry.hidden && IsPhotoName(entry.name) && IsFile(folder, entry)) {
-      photos.emplace_back(NaturalKey(entry.name.utf8string()), folder / entry.name);
+      photos.emplace_back(NaturalKey(entry.name.utf8string()), i);
     }
   }
-  std::sort(photos.begin(), photos.end());
-  std::vector<ioPath> paths;
-  paths.reserve(photos.size());
-  for (auto& photo : photos) {
-    paths.push_back(std::move(photo.second));
+  std::sort(photos.begin(), photos.end(), [&entries](const auto& left, const auto& right) {
+    const int order = left.first.compare(right.first);
+    return order != 0 ? order < 0 : entries[left.second].name < entries[right.second].name;
+  });
+  std::vector<std::size_t> places;
+  places.reserve(photos.size());
+  for (const auto& photo : photos) {
+    places.push_back(photo.second);
   }
-  return paths;
+  return places;
 }
 
 std::string WhatIsWrong(const FileState& state) {
@@ -70,13 +76,13 @@ class RenameChooser {
   void Add(const ioPath& argument) {
     const FileState state = QueryFile(argument);
     if (state.kind == FileState::Kind::Folder) {
-      const Folder& folder = Read(argument);
-      for (const ioPath& photo : PhotosOf(folder.path, folder.entries)) {
-        Take(photo);
+      Folder& folder = Read(argument);
+      for (const std::size_t photo : PhotosOf(folder.path, folder.entries)) {
+        Take(folder, photo);
       }
     } else if (state.kind == FileState::Kind::File) {
-      const Folder& folder = Read(argument.parent_path());
-      Take(folder.path / SpelledOnDisk(folder, argument));
+      Folder& folder = Read(argument.parent_path());
+      Take(folder, Find(folder, argument));
     } else {
       ThrowCannotRename(argument, WhatIsWrong(state));
     }
@@ -84,10 +90,9 @@ class RenameChooser {
 
   RenameChoice Finish() {
     for (const auto& [path, folder] : folders_) {
-      for (const FolderEntry& entry : folder.entries) {
-        choice_.entries.push_back(folder.path / entry.name);
-        if (IsFile(folder.path, entry)) {
-          choice_.files.push_back(choice_.entries.back());
+      for (std::size_t i = 0; i < folder.entries.size(); ++i) {
+        if (!folder.isNamed[i]) {
+          AddOther(folder.path, folder.entries[i]);
         }
       }
     }
@@ -98,16 +103,26 @@ class RenameChooser {
   struct Folder {
     ioPath path;
     std::vector<FolderEntry> entries;
-    std::unordered_set<ioPath> names;
+    std::vector<bool> isNamed;
+    /// Of the entries, by name; empty until a file is looked up.
+    std::unordered_map<std::filesystem::path::string_type, std::size_t> places;
   };
 
-  void Take(const ioPath& file) {
-    if (known_.insert(file).second) {
-      choice_.named.push_back(file);
+  void Take(Folder& folder, std::size_t entry) {
+    if (!folder.isNamed[entry]) {
+      folder.isNamed[entry] = true;
+      choice_.named.push_back(folder.path / folder.entries[entry].name);
     }
   }
 
-  const Folder& Read(const ioPath& spelled) {
+  void AddOther(const ioPath& folder, const FolderEntry& entry) {
+    choice_.entries.push_back(folder / entry.name);
+    if (IsFile(folder, entry)) {
+      choice_.files.push_back(choice_.entries.back());
+    }
+  }
+
+  Folder& Read(const ioPath& spelled) {
     const auto spelling = spellings_.find(spelled);
     if (spelling != spellings_.end()) {
       return *spelling->second;
@@ -125,33 +140,40 @@ class RenameChooser {
       if (error) {
         ThrowCannotRename(path, "cannot be read: " + ErrorText(error));
       }
-      for (const FolderEntry& entry : folder.entries) {
-        folder.names.insert(entry.name);
-      }
+      folder.isNamed.resize(folder.entries.size());
     }
     spellings_.emplace(spelled, &folder);
     return folder;
   }
 
   /// Where case does not count, a person need not write a name as the disk does.
-  static ioPath SpelledOnDisk(const Folder& folder, const ioPath& file) {
-    const ioPath name = file.filename();
-    if (folder.names.count(name) > 0) {
-      return name;
-    }
-    const std::string key = NameKey(name.utf8string());
-    for (const FolderEntry& entry : folder.entries) {
-      if (NameKey(entry.name.utf8string()) == key && IsSameFile(folder.path / entry.name, file)) {
-        return entry.name;
+  static std::size_t Find(Folder& folder, const ioPath& file) {
+    if (folder.places.empty()) {
+      for (std::size_t i = 0; i < folder.entries.size(); ++i) {
+        folder.places.emplace(folder.entries[i].name.native().native(), i);
       }
     }
-    return name;
+    const ioPath name = file.filename();
+    const auto place = folder.places.find(name.native().native());
+    if (place != folder.places.end()) {
+      return place->second;
+    }
+    const std::string key = NameKey(name.utf8string());
+    for (std::size_t i = 0; i < folder.entries.size(); ++i) {
+      const ioPath& other = folder.entries[i].name;
+      if (NameKey(other.utf8string()) == key && IsSameFile(folder.path / other, file)) {
+        return i;
+      }
+    }
+    // It came up since the folder was read.
+    folder.entries.push_back({name});
+    folder.isNamed.push_back(false);
+    return folder.places.emplace(name.native().native(), folder.entries.size() - 1).first->second;
   }
 
   /// Ordered, so that the same folders give the same choice. References into it stay.
   std::map<ioPath, Folder> folders_;
-  std::unordered_map<ioPath, const Folder*> spellings_;
-  std::unordered_set<ioPath> known_;
+  std::unordered_map<ioPath, Folder*> spellings_;
   RenameChoice choice_;
 };
 
@@ -181,8 +203,8 @@ class EditChooser {
     if (error) {
       Refuse(folder, "cannot be read: " + ErrorText(error));
     }
-    for (const ioPath& photo : PhotosOf(folder, entries)) {
-      Take(photo);
+    for (const std::size_t photo : PhotosOf(folder, entries)) {
+      Take(folder / entries[photo].name);
     }
   }
 

@@ -17,7 +17,7 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-std::optional<QString> FromUtf8(const std::string& bytes) {
+std::optional<QString> FromUtf8(std::string_view bytes) {
   const int length = static_cast<int>(bytes.size());
   QString text = QString::fromUtf8(bytes.data(), length);
   // Qt replaces what it cannot read and drops a byte order mark.
@@ -27,7 +27,7 @@ std::optional<QString> FromUtf8(const std::string& bytes) {
   return text;
 }
 
-bool IsAscii(const std::string& text) {
+bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
@@ -35,7 +35,8 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-std::string LowerAscii(std::string text) {
+std::string LowerAscii(std::string_view name) {
+  std::string text(name);
   for (char& c : text) {
     if (c >= 'A' && c <= 'Z') {
       c = static_cast<char>(c - 'A' + 'a');
@@ -104,7 +105,7 @@ std::string FindNewNameFault(const std::string& fileName) {
   return fault.empty() ? WindowsNames::FindFault(text->toStdWString()) : fault;
 }
 
-std::string NameKey(const std::string& name) {
+std::string NameKey(std::string_view name) {
   if (IsAscii(name)) {
     return LowerAscii(name);
   }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -17,7 +19,7 @@ std::string FindNewNameFault(const std::string& fileName);
 
 /// Equal for names that some file system takes for one: case and Unicode form do not count. A name that is no
 /// UTF-8 is told apart by its bytes; only the case of ASCII letters does not count then.
-std::string NameKey(const std::string& name);
+std::string NameKey(std::string_view name);
 
 /// Compares, byte by byte, as people sort names: digits by their value, case last. Names that differ may
 /// have the same key.

@@ -13,7 +13,7 @@ constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
 class Sequence {
  public:
-  Sequence(const std::vector<KeyedMove>& moves, const std::function<ioPath(const KeyedMove&)>& temporary)
+  Sequence(const std::vector<KeyedMove>& moves, const std::function<ioPath(const RenameMove&)>& temporary)
       : moves_(moves),
         temporary_(temporary),
         waitsFor_(moves.size(), 0),
@@ -22,6 +22,7 @@ class Sequence {
 
   std::vector<RenameMove> Run() {
     Link();
+    steps_.reserve(moves_.size());
     FollowChains();
     // What is left goes in circles. Each of them opens at the first of its moves.
     for (std::size_t i = 0; i < moves_.size(); ++i) {
@@ -35,7 +36,8 @@ class Sequence {
 
  private:
   void Link() {
-    std::unordered_map<std::string, std::size_t> byTarget;
+    std::unordered_map<std::string_view, std::size_t> byTarget;
+    byTarget.reserve(moves_.size());
     for (std::size_t i = 0; i < moves_.size(); ++i) {
       byTarget.emplace(moves_[i].toKey, i);
     }
@@ -60,17 +62,17 @@ class Sequence {
       done_[i] = true;
       const auto parked = parked_.find(i);
       if (parked != parked_.end()) {
-        steps_.push_back({parked->second, moves_[i].to});
+        steps_.push_back({std::move(parked->second), moves_[i].move->to});
       } else {
-        steps_.push_back({moves_[i].from, moves_[i].to});
+        steps_.push_back(*moves_[i].move);
         FreeSource(i);
       }
     }
   }
 
   void OpenCircle(std::size_t i) {
-    const ioPath& aside = parked_.emplace(i, temporary_(moves_[i])).first->second;
-    steps_.push_back({moves_[i].from, aside});
+    const ioPath& aside = parked_.emplace(i, temporary_(*moves_[i].move)).first->second;
+    steps_.push_back({moves_[i].move->from, aside});
     FreeSource(i);
   }
 
@@ -81,7 +83,7 @@ class Sequence {
   }
 
   const std::vector<KeyedMove>& moves_;
-  const std::function<ioPath(const KeyedMove&)>& temporary_;
+  const std::function<ioPath(const RenameMove&)>& temporary_;
   /// How many sources must go before the target is free. More than one where names differ by case only.
   std::vector<std::size_t> waitsFor_;
   /// The one move that waits for the source to go: targets are unique.
@@ -95,7 +97,7 @@ class Sequence {
 }  // namespace
 
 std::vector<RenameMove> SequenceMoves(const std::vector<KeyedMove>& moves,
-                                      const std::function<ioPath(const KeyedMove&)>& temporary) {
+                                      const std::function<ioPath(const RenameMove&)>& temporary) {
   return Sequence(moves, temporary).Run();
 }
 

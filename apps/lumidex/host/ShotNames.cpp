@@ -8,6 +8,7 @@
 #include <array>
 #include <filesystem>
 #include <string_view>
+#include <utility>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -20,14 +21,20 @@ constexpr const char* kSeparators = "/";
 #endif
 constexpr std::size_t kVersionLength = 3;  // "_01"
 
-bool IsCompanion(const ioPath& name) {
+/// As `ioPath::extension`.
+std::string_view ExtensionOf(std::string_view name) {
+  const std::size_t dot = name.rfind('.');
+  return dot == std::string_view::npos || dot == 0 || name == ".." ? std::string_view() : name.substr(dot);
+}
+
+bool IsCompanion(std::string_view name) {
   // Settings of raw developers and of cameras, thumbnails, spoken notes, and films: short ones that are part
   // of a photo, and those whose thumbnails lie beside them.
   static constexpr std::array<std::string_view, 29> kExtensions = {
       ".xmp", ".pp3", ".arp", ".dop", ".on1", ".vrd",  ".dr4", ".nksc", ".cos", ".json",
       ".aae", ".thm", ".lrv", ".wav", ".m4a", ".mp3",  ".srt", ".xml",  ".mov", ".mp4",
       ".m4v", ".avi", ".mts", ".3gp", ".mpg", ".insv", ".psd", ".psb",  ".xcf"};
-  const std::string extension = NameKey(name.extension().utf8string());
+  const std::string extension = NameKey(ExtensionOf(name));
   return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
 }
 
@@ -45,37 +52,35 @@ bool EndsInVersion(const std::string& base) {
 
 }  // namespace
 
-FileName SplitFolder(const ioPath& file) {
-  const std::string path = file.utf8string();
-  const std::size_t name = path.find_last_of(kSeparators) + 1;
-  return {path.substr(0, name), path.substr(name)};
+FileName::FileName(const ioPath& file)
+    : text_(file.utf8string()), name_(text_.find_last_of(kSeparators) + 1) {}
+
+std::string KeyOf(std::string_view folder, std::string_view name) {
+  return std::string(folder) += NameKey(name);
 }
 
 ioPath Sibling(const ioPath& file, const std::string& name) {
   // Not by way of UTF-8, in which Windows' names need not go.
   const auto& path = file.native().native();
   const std::filesystem::path separators(kSeparators);
-  const std::size_t end = path.find_last_of(separators.native()) + 1;
-  return ioPath(std::filesystem::path(path.substr(0, end) + ioPath(name).native().native()));
+  std::filesystem::path::string_type sibling(path, 0, path.find_last_of(separators.native()) + 1);
+  sibling += ioPath(name).native().native();
+  return ioPath(std::filesystem::path(std::move(sibling)));
 }
 
-ShotName SplitShotName(const std::string& name) {
-  const ioPath path(name);
-  const std::string last = path.extension().utf8string();
-  ShotName result{name.substr(0, name.size() - last.size()), last};
-  if (!IsCompanion(path)) {
-    return result;
+ShotName SplitShotName(std::string_view name) {
+  const auto split = [name](std::string_view base) {
+    return ShotName{std::string(base), std::string(name.substr(base.size()))};
+  };
+  const std::string_view base = name.substr(0, name.size() - ExtensionOf(name).size());
+  if (!IsCompanion(name) || !IsShotFile(base)) {
+    return split(base);
   }
-  const ioPath owner(result.base);
-  const std::string inner = owner.extension().utf8string();
-  if (IsShotFile(owner)) {
-    result = {result.base.substr(0, result.base.size() - inner.size()), inner + last};
-  }
-  return result;
+  return split(base.substr(0, base.size() - ExtensionOf(base).size()));
 }
 
-bool IsShotFile(const ioPath& name) {
-  return IsPhotoName(name) || IsCompanion(name);
+bool IsShotFile(std::string_view name) {
+  return IsPhotoName(ioPath(std::string(name))) || IsCompanion(name);
 }
 
 std::string VersionOwner(const ShotName& name) {

@@ -2,7 +2,9 @@
 
 #include <zenvora/core/ioPath.h>
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -12,13 +14,22 @@ struct ShotName {
   std::string suffix;
 };
 
-/// A path taken apart as a text: cheaper than element by element.
-struct FileName {
-  std::string folder;  ///< With its separator, as spelled; empty: the current one.
-  std::string name;
+/// A path as UTF-8, taken apart: cheaper than element by element.
+class FileName {
+ public:
+  explicit FileName(const ioPath& file);
+
+  /// With its separator, as spelled; empty: the current one.
+  std::string_view Folder() const { return std::string_view(text_).substr(0, name_); }
+  std::string_view Name() const { return std::string_view(text_).substr(name_); }
+
+ private:
+  std::string text_;
+  std::size_t name_;
 };
 
-FileName SplitFolder(const ioPath& file);
+/// The key of a name in a folder: equal for paths that a file system may take for one.
+std::string KeyOf(std::string_view folder, std::string_view name);
 
 /// The file of that name in the folder of `file`.
 ioPath Sibling(const ioPath& file, const std::string& name);
@@ -26,10 +37,10 @@ ioPath Sibling(const ioPath& file, const std::string& name);
 /// The base is what the files of one shot share, the suffix the extension, or both extensions of what
 /// belongs to one file of a shot ("IMG_1.CR2.xmp"). A name of nothing but a leading dot's extension is all
 /// base.
-ShotName SplitShotName(const std::string& name);
+ShotName SplitShotName(std::string_view name);
 
 /// True for names of photos and of what cameras and programs put beside them, by extension, case ignored.
-bool IsShotFile(const ioPath& name);
+bool IsShotFile(std::string_view name);
 
 /// The name of the file whose settings the file holds for a further version of it ("IMG_1.CR2" for
 /// "IMG_1_02.CR2.xmp"); empty when the name does not look so.

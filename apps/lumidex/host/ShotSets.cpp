@@ -6,6 +6,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <deque>
+#include <filesystem>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -15,62 +18,75 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 struct Candidate {
+  Candidate(ioPath&& file, FileName&& text, bool byName)
+      : path(std::move(file)), spelled(std::move(text)), name(SplitShotName(spelled.Name())), named(byName) {}
+
   ioPath path;
-  std::string folder;
+  FileName spelled;
   ShotName name;
-  bool named = false;
+  bool named;
 };
 
 using Members = std::vector<std::size_t>;  // Indices of candidates, ascending.
 
-bool IsHidden(const std::string& name) {
-  return name.rfind('.', 0) == 0;
+bool IsHidden(std::string_view name) {
+  return name.substr(0, 1) == ".";
 }
 
 class Grouping {
  public:
-  void Add(const ioPath& path, bool named) {
-    const FileName file = SplitFolder(path);
-    const bool joins = named || (!IsHidden(file.name) && IsShotFile(ioPath(file.name)));
-    if (!joins || !known_.insert(file.folder + file.name).second) {
+  explicit Grouping(std::size_t named) { known_.reserve(named); }
+
+  void Add(ioPath path, bool named) {
+    FileName text(path);
+    const bool joins = named || (!IsHidden(text.Name()) && IsShotFile(text.Name()));
+    if (!joins || known_.count(path.native().native()) > 0) {
       return;
     }
-    candidates_.push_back({path, file.folder, SplitShotName(file.name), named});
-    names_.insert(file.folder + NameKey(file.name));
+    const Candidate& candidate = candidates_.emplace_back(std::move(path), std::move(text), named);
+    known_.insert(candidate.path.native().native());
   }
 
+  /// To be called once.
   std::vector<ShotSet> Run() {
     for (Candidate& candidate : candidates_) {
       FindVersion(candidate);
     }
     std::vector<ShotSet> sets;
-    for (const Members& group : GroupBy(AllMembers(), true)) {
-      const bool ambiguous = IsAmbiguous(group);
-      for (const Members& part : ambiguous ? GroupBy(group, false) : std::vector<Members>{group}) {
-        if (candidates_[part.front()].named) {
-          order_.emplace_back(part.front(), sets.size());
-          sets.push_back(MakeSet(part));
+    for (Members& group : GroupBy(AllMembers(), true)) {
+      if (IsAmbiguous(group)) {
+        for (Members& part : GroupBy(group, false)) {
+          AddSet(std::move(part), sets);
         }
+      } else {
+        AddSet(std::move(group), sets);
       }
     }
     return InOrder(sets);
   }
 
  private:
-  void FindVersion(Candidate& candidate) const {
+  void FindVersion(Candidate& candidate) {
     const std::string owner = VersionOwner(candidate.name);
     if (owner.empty()) {
       return;
     }
     const std::size_t last = candidate.name.suffix.find('.', 1);
     const std::string own = candidate.name.base + candidate.name.suffix.substr(0, last);
-    if (IsThere(candidate.folder, owner) && !IsThere(candidate.folder, own)) {
+    const std::string_view folder = candidate.spelled.Folder();
+    if (IsThere(folder, owner) && !IsThere(folder, own)) {
       candidate.name = SplitVersion(candidate.name);
     }
   }
 
-  bool IsThere(const std::string& folder, const std::string& name) const {
-    return names_.count(folder + NameKey(name)) > 0;
+  /// Seldom asked.
+  bool IsThere(std::string_view folder, const std::string& name) {
+    if (keys_.empty()) {
+      for (const Candidate& candidate : candidates_) {
+        keys_.insert(KeyOf(candidate.spelled.Folder(), candidate.spelled.Name()));
+      }
+    }
+    return keys_.count(KeyOf(folder, name)) > 0;
   }
 
   Members AllMembers() const {
@@ -84,11 +100,13 @@ class Grouping {
   std::vector<Members> GroupBy(const Members& members, bool caseIgnored) const {
     std::unordered_map<std::string, std::size_t> places;
     std::vector<Members> groups;
+    places.reserve(members.size());
+    groups.reserve(members.size());
     for (const std::size_t i : members) {
-      const Candidate& candidate = candidates_[i];
-      const std::string& base = candidate.name.base;
+      const std::string_view folder = candidates_[i].spelled.Folder();
+      const std::string& base = candidates_[i].name.base;
       const auto place =
-          places.emplace(candidate.folder + (caseIgnored ? NameKey(base) : base), groups.size());
+          places.emplace(caseIgnored ? KeyOf(folder, base) : std::string(folder) += base, groups.size());
       if (place.second) {
         groups.emplace_back();
       }
@@ -100,20 +118,29 @@ class Grouping {
   /// True when the group cannot be one shot, since it has two files of one kind.
   bool IsAmbiguous(const Members& group) const {
     std::unordered_set<std::string> suffixes;
-    return !std::all_of(group.begin(), group.end(), [&](std::size_t i) {
-      return suffixes.insert(NameKey(candidates_[i].name.suffix)).second;
-    });
+    return group.size() > 1 && !std::all_of(group.begin(), group.end(), [&](std::size_t i) {
+             return suffixes.insert(NameKey(candidates_[i].name.suffix)).second;
+           });
   }
 
-  ShotSet MakeSet(Members members) const {
+  void AddSet(Members members, std::vector<ShotSet>& sets) {
+    if (candidates_[members.front()].named) {
+      order_.emplace_back(members.front(), sets.size());
+      sets.push_back(MakeSet(std::move(members)));
+    }
+  }
+
+  ShotSet MakeSet(Members members) {
     const auto rank = [this](std::size_t i) { return IsPhotoName(candidates_[i].path) ? 0 : 1; };
     std::sort(members.begin(), members.end(), [&](std::size_t a, std::size_t b) {
-      return std::make_pair(rank(a), candidates_[a].path) < std::make_pair(rank(b), candidates_[b].path);
+      const int order = rank(a) - rank(b);
+      return order != 0 ? order < 0 : candidates_[a].path < candidates_[b].path;
     });
     ShotSet set;
     set.name = candidates_[members.front()].name.base;
+    set.files.reserve(members.size());
     for (const std::size_t i : members) {
-      set.files.push_back({candidates_[i].path, candidates_[i].name.suffix});
+      set.files.push_back({std::move(candidates_[i].path), std::move(candidates_[i].name.suffix)});
     }
     return set;
   }
@@ -128,18 +155,19 @@ class Grouping {
     return ordered;
   }
 
-  std::vector<Candidate> candidates_;
-  std::unordered_set<std::string> known_;
-  std::unordered_set<std::string> names_;
+  /// They stay where they are, and so do their paths' bytes.
+  std::deque<Candidate> candidates_;
+  std::unordered_set<std::basic_string_view<std::filesystem::path::value_type>> known_;
+  std::unordered_set<std::string> keys_;
   std::vector<std::pair<std::size_t, std::size_t>> order_;
 };
 
 }  // namespace
 
-std::vector<ShotSet> GroupShots(const std::vector<ioPath>& named, const std::vector<ioPath>& entries) {
-  Grouping grouping;
-  for (const ioPath& path : named) {
-    grouping.Add(path, true);
+std::vector<ShotSet> GroupShots(std::vector<ioPath> named, const std::vector<ioPath>& entries) {
+  Grouping grouping(named.size());
+  for (ioPath& path : named) {
+    grouping.Add(std::move(path), true);
   }
   for (const ioPath& path : entries) {
     grouping.Add(path, false);

@@ -100,7 +100,9 @@ class UndoJournal::Impl {
   void EndStep();
   void RegisterFileChange(DataModel& item, const ioPath& newPath);
   UndoResult Reverse(bool redo, const std::atomic<bool>& cancelled, const UndoProgress& progress);
-  std::vector<UndoStep> Steps() const;
+  std::optional<UndoStep> SkipLast();
+  /// Those of a condition, with the order in which they are wanted.
+  std::vector<UndoStep> Steps(const char* condition = "1 ORDER BY s.number DESC") const;
   std::size_t Prune(const UndoLimits& limits, const QDateTime& now);
 
   std::vector<std::string> notes;
@@ -289,10 +291,13 @@ void UndoJournal::Impl::DropUndone() const {
   }
 }
 
-std::vector<UndoStep> UndoJournal::Impl::Steps() const {
-  QSqlQuery query = database_.Prepare(
-      "SELECT s.number, s.name, s.begun, s.state, s.files, (SELECT total(c.kept_size) FROM changes c WHERE"
-      " c.step = s.number) FROM steps s ORDER BY s.number DESC");
+std::vector<UndoStep> UndoJournal::Impl::Steps(const char* condition) const {
+  const std::string sql = std::string(
+                              "SELECT s.number, s.name, s.begun, s.state, s.files, (SELECT "
+                              "total(c.kept_size) FROM changes c WHERE"
+                              " c.step = s.number) FROM steps s WHERE ") +
+                          condition;
+  QSqlQuery query = database_.Prepare(sql.c_str());
   database_.Run(query);
   std::vector<UndoStep> steps;
   while (database_.Next(query)) {
@@ -300,7 +305,9 @@ std::vector<UndoStep> UndoJournal::Impl::Steps() const {
     step.number = query.value(0).toLongLong();
     step.name = query.value(1).toString();
     step.begun = QDateTime::fromString(query.value(2).toString(), Qt::ISODate);
-    step.undone = static_cast<State>(query.value(3).toInt()) == State::Undone;
+    const auto state = static_cast<State>(query.value(3).toInt());
+    step.undone = state == State::Undone;
+    step.givenUp = state == State::GivenUp;
     step.files = static_cast<std::size_t>(query.value(4).toULongLong());
     step.keptBytes = static_cast<std::uint64_t>(query.value(5).toDouble());
     steps.push_back(std::move(step));
@@ -438,6 +445,7 @@ UndoResult UndoJournal::Impl::ReverseMoves(StepRow& step, bool redo, const std::
   SetState("steps", step.number, step.state);
   const std::size_t reached = DriveOrReturn(step, begin, goal, cancelled, progress, result);
   result.files = reached > begin ? reached - begin : begin - reached;
+  result.stands = !redo && reached > 0;
   return result;
 }
 
@@ -717,7 +725,9 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
       progress(++looked, changes.size());
     }
   }
-  SetState("steps", step.number, anyLeft ? StateInPart(step.number, anyHope) : goal);
+  const State state = anyLeft ? StateInPart(step.number, anyHope) : goal;
+  SetState("steps", step.number, state);
+  result.stands = !redo && state == State::Done;
   return result;
 }
 
@@ -733,6 +743,23 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
   StepRow& step = steps.front();
   return step.moves.empty() ? ReverseChanges(step, redo, cancelled, progress)
                             : ReverseMoves(step, redo, cancelled, progress);
+}
+
+std::optional<UndoStep> UndoJournal::Impl::SkipLast() {
+  std::vector<UndoStep> steps = Steps("s.state = 2 ORDER BY s.number DESC LIMIT 1");
+  if (steps.empty()) {
+    return std::nullopt;
+  }
+  UndoStep& step = steps.front();
+  for (const ChangeRow& change : ReadChanges(step.number)) {
+    // Of an exchange that was broken off out of reach. What it was made from is kept.
+    if (!change.adopted && !change.side.empty()) {
+      change.side.remove();
+    }
+  }
+  SetState("steps", step.number, State::GivenUp);
+  step.givenUp = true;
+  return std::move(step);
 }
 
 // --- Recovery
@@ -872,6 +899,11 @@ void UndoJournal::RegisterFileChange(DataModel& item, const ioPath& newPath) {
 UndoResult UndoJournal::UndoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress) {
   impl_->EndStep();
   return impl_->Reverse(false, cancelled, progress);
+}
+
+std::optional<UndoStep> UndoJournal::SkipLast() {
+  impl_->EndStep();
+  return impl_->SkipLast();
 }
 
 UndoResult UndoJournal::RedoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress) {

@@ -14,9 +14,9 @@ struct RenameChoice {
   /// The files to be renamed, each once, in the order in which they were named: folders spelled in one way,
   /// names as on the disk.
   std::vector<ioPath> named;
-  /// All files in their folders, hidden ones and links to files too; for `GroupShots`.
+  /// The other files in their folders, hidden ones and links to files too; for `GroupShots`.
   std::vector<ioPath> files;
-  /// Everything in their folders; for `MakeRenamePlan`.
+  /// Everything else in their folders, these files too; for `MakeRenamePlan`.
   std::vector<ioPath> entries;
 };
 

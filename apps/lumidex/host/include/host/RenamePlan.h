@@ -74,6 +74,8 @@ struct RenamePlan {
   /// Each file that gets another name, old and new, in the order of the shots. Empty when the plan is
   /// refused.
   std::vector<RenameMove> renames;
+  /// How many shots these files are of.
+  std::size_t shots = 0;
   /// What is to be done, step by step. When a step's turn comes, its source is there and its target free, in
   /// the eyes also of systems that ignore case or Unicode form; so any number of steps can be undone in
   /// reverse order. Files of a circle of names, and those whose name changes in case or Unicode form only,

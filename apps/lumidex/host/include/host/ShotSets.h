@@ -34,6 +34,6 @@ struct ShotSet {
 /// Folders are compared as they are spelled: each must be spelled in one way.
 ///
 /// Pure; names that occur twice count once. docs/decisions/rename.md has the reasons.
-std::vector<ShotSet> GroupShots(const std::vector<ioPath>& named, const std::vector<ioPath>& entries);
+std::vector<ShotSet> GroupShots(std::vector<ioPath> named, const std::vector<ioPath>& entries);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ struct UndoStep {
   QString name;                 ///< What the person did.
   QDateTime begun;              ///< UTC.
   bool undone = false;          ///< Taken back; it can be done again.
+  bool givenUp = false;         ///< Can be neither taken back nor done again.
   std::size_t files = 0;        ///< Photos that it changed or renamed.
   std::uint64_t keptBytes = 0;  ///< What is kept for it, as if nothing were shared with the photos.
 };
@@ -40,6 +42,7 @@ struct UndoResult {
   QString name;           ///< Of the step; empty: there was none.
   std::size_t files = 0;  ///< Changed or renamed.
   bool cancelled = false;
+  bool stands = false;  ///< Of an undo: not all of the step could be taken back, and older ones wait for it.
   std::vector<UndoFinding> findings;
 };
 
@@ -100,6 +103,9 @@ class UndoJournal : public IUndo {
   /// Takes back the last step that stands. A photo that others changed since is left as it is, with a
   /// finding, and can be tried again; a step of which no other version is kept is given up, with findings.
   UndoResult UndoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
+  /// Gives the last step that stands up: it stays as it is for good, and the next undo takes the one before.
+  /// What is kept of it goes when `Prune` forgets it. Returns the step; empty: there was none.
+  std::optional<UndoStep> SkipLast();
   /// Does again what was taken back last.
   UndoResult RedoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
 

@@ -14,6 +14,13 @@ namespace Zenvora {
 /// half written stays behind. An object belongs to one thread; everything blocks on the disk.
 class ZENVORA_CORE_EXPORT NewFile {
  public:
+#ifdef _WIN32
+  static constexpr bool kMayShareBlocks = false;
+#else
+  /// False where no file system can.
+  static constexpr bool kMayShareBlocks = true;
+#endif
+
   NewFile() = default;
   ~NewFile();
   NewFile(const NewFile&) = delete;
@@ -27,6 +34,9 @@ class ZENVORA_CORE_EXPORT NewFile {
   /// attribute; who may use it is up to the folder there.
   void TakeRightsOf(const ioPath& file);
 
+  /// Gives the file, while nothing is written, the content of another by sharing its blocks, which takes
+  /// neither room nor time. False where the file system cannot do it; then nothing has changed.
+  bool ShareBlocksOf(const ioPath& file);
   std::error_code Write(const void* bytes, std::size_t count);
   /// The time of its last change in nanoseconds since 1970-01-01 UTC, 100 of them the least step on Windows.
   /// To be called after all writing.
@@ -34,7 +44,9 @@ class ZENVORA_CORE_EXPORT NewFile {
   /// `durable`: first waits until the bytes are on the disk. No writing afterwards.
   std::error_code Close(bool durable);
   /// The file stays, or has got another name meanwhile.
-  void Release() { file_.clear(); }
+  void Release() {
+    file_.clear();
+  }
 
  private:
   ioPath file_;
