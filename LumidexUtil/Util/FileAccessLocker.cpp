@@ -12,8 +12,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <map>
 #include <mutex>
-#include <unordered_map>
 
 #ifdef _WIN32
 #include <cstdio>
@@ -87,7 +87,7 @@ class FileAccessLocker::Impl {
 
  private:
   /// Entries stay, and so do their addresses and keys.
-  using Table = std::unordered_map<ioPath, std::mutex>;
+  using Table = std::map<ioPath, std::mutex>;
 
   static constexpr unsigned int SLOT_BITS = 6;
 
