@@ -66,7 +66,7 @@ std::size_t FirstFit::MemoryBytes() const noexcept {
              sizeof(std::size_t) +
          queryPairs_.capacity() * sizeof(std::int32_t) +
          (queryRests_.capacity() + activeRests_.capacity()) * sizeof(float) +
-         activePairs_.capacity() * sizeof(const std::int32_t*) + masks_.capacity() * sizeof(std::uint32_t);
+         activePairs_.capacity() * sizeof(std::int32_t) + masks_.capacity() * sizeof(std::uint32_t);
 }
 
 bool FirstFit::Matches(const Query& query, std::size_t position) noexcept {
@@ -145,9 +145,11 @@ bool FirstFit::Ask(Query* queries, std::size_t count, std::size_t from) noexcept
   try {
     queryPairs_.resize(count * code_->PairCount());
     queryRests_.resize(count * code_->Parts().size());
-    activePairs_.resize(count);
-    activeRests_.resize(count);
-    masks_.resize(count * TemplateMirror::kTiles);
+    // Up to a whole group.
+    const std::size_t most = count + tuning_.kernel->group;
+    activePairs_.resize(most * code_->Parts()[0].pairCount);
+    activeRests_.resize(most);
+    masks_.resize(most * TemplateMirror::kTiles);
     active_.resize(count);
   } catch (const std::bad_alloc&) {
     return false;
@@ -173,69 +175,96 @@ bool FirstFit::Ask(Query* queries, std::size_t count, std::size_t from) noexcept
   return true;
 }
 
+/// Lays the first segments of the active queries out as the kernel wants them, filled up with zeros.
+void FirstFit::Pack() {
+  const std::size_t pairCount = code_->Parts()[0].pairCount;
+  const std::size_t group = active_.size() == 1 ? 1 : tuning_.kernel->group;
+  std::fill(activePairs_.begin(), activePairs_.end(), 0);
+  std::fill(activeRests_.begin(), activeRests_.end(), 0.0F);
+  for (std::size_t i = 0; i < active_.size(); ++i) {
+    const std::int32_t* const from = queryPairs_.data() + active_[i] * code_->PairCount();
+    std::int32_t* const to = activePairs_.data() + i / group * group * pairCount + i % group;
+    for (std::size_t j = 0; j < pairCount; ++j) {
+      to[j * group] = from[j];
+    }
+    activeRests_[i] = queryRests_[active_[i] * code_->Parts().size()];
+  }
+}
+
 void FirstFit::Sift(Query* queries, std::size_t from) {
+  constexpr std::size_t kTiles = TemplateMirror::kTiles;
   const std::size_t tileEnd = (mirror_.Coded() + kTile - 1) / kTile;
-  std::size_t tile = from / kTile;
-  while (tile < tileEnd && !active_.empty()) {
-    const std::size_t tiles =
-        std::min(tileEnd, (tile / TemplateMirror::kTiles + 1) * TemplateMirror::kTiles) - tile;
-    for (std::size_t i = 0; i < active_.size(); ++i) {
-      activePairs_[i] = queryPairs_.data() + active_[i] * code_->PairCount();
-      activeRests_[i] = queryRests_[active_[i] * code_->Parts().size()];
+  const std::size_t group = tuning_.kernel->group;
+  bool packed = false;
+  for (std::size_t tile = from / kTile; tile < tileEnd && !active_.empty();) {
+    if (!packed) {
+      Pack();
+      packed = true;
     }
     SiftTask task;
+    task.tiles = std::min(tileEnd, (tile / kTiles + 1) * kTiles) - tile;
     task.pairs = mirror_.Pairs(*code_, tile, 0);
-    task.rests = mirror_.Rests(*code_, tile, 0);
-    task.tiles = tiles;
+    task.rests = mirror_.Rests(tile, 0);
     task.pairCount = code_->Parts()[0].pairCount;
     task.queries = activePairs_.data();
     task.queryRests = activeRests_.data();
-    task.queryCount = active_.size();
+    task.queryCount = active_.size() == 1 ? 1 : (active_.size() + group - 1) / group * group;
     task.scale = code_->Scale();
     task.limit = code_->Limit();
     task.masks = masks_.data();
     tuning_.kernel->sift(task);
-    statistics_.sifted += tiles * kTile * active_.size();
+    statistics_.sifted += task.tiles * kTile * active_.size();
     bool anyFound = false;
-    for (std::size_t t = 0; t < tiles; ++t) {
-      for (std::size_t i = 0; i < active_.size(); ++i) {
-        std::uint32_t mask = masks_[t * active_.size() + i];
-        Query& query = queries[active_[i]];
-        if (mask != 0 && !query.found) {
-          if ((tile + t) * kTile < from) {
-            mask &= ~std::uint32_t{0} << (from % kTile);
-          }
-          TryTile(query, active_[i], tile + t, mask);
-          anyFound = anyFound || query.found;
-        }
-      }
+    for (std::size_t t = 0; t < task.tiles; ++t) {
+      anyFound = TryTile(queries, tile + t, task.masks + t * task.queryCount, from) || anyFound;
     }
     if (anyFound) {
       active_.erase(std::remove_if(active_.begin(), active_.end(),
                                    [queries](std::size_t i) { return queries[i].found.has_value(); }),
                     active_.end());
+      packed = false;
     }
-    tile += tiles;
+    tile += task.tiles;
   }
 }
 
-/// Looks at those of a tile that the first segment did not rule out, first come first.
-void FirstFit::TryTile(Query& query, std::size_t slot, std::size_t tile, std::uint32_t mask) {
-  constexpr std::size_t kMostParts = 16;
-  const std::size_t parts = std::min(code_->Parts().size(), kMostParts);
-  if (parts > 1) {
-    Segment segments[kMostParts];
-    for (std::size_t part = 0; part < parts; ++part) {
-      const TemplateCode::Part& place = code_->Parts()[part];
-      segments[part] = {place.pairCount, place.pairsBegin, mirror_.Pairs(*code_, tile, part),
-                        mirror_.Rests(*code_, tile, part)};
+/// Looks at what the first segment did not rule out. True when a query found its match.
+bool FirstFit::TryTile(Query* queries, std::size_t tile, const std::uint32_t* masks, std::size_t from) {
+  const std::size_t parts = code_->Parts().size();
+  // Nothing before `from`.
+  const std::uint32_t asked = tile * kTile < from ? ~std::uint32_t{0} << (from % kTile) : ~std::uint32_t{0};
+  Segment segments[TemplateCode::kMostParts];
+  bool known = false;
+  bool anyFound = false;
+  for (std::size_t i = 0; i < active_.size(); ++i) {
+    Query& query = queries[active_[i]];
+    std::uint32_t mask = masks[i] & asked;
+    if (mask == 0 || query.found) {
+      continue;
     }
-    ++statistics_.refined;
-    mask = tuning_.kernel->refine(segments, parts, queryPairs_.data() + slot * code_->PairCount(),
-                                  queryRests_.data() + slot * code_->Parts().size(), code_->Scale(),
-                                  code_->Limit(), mask);
+    if (parts > 1) {
+      for (std::size_t part = 0; part < parts && !known; ++part) {
+        const TemplateCode::Part& place = code_->Parts()[part];
+        segments[part] = {place.pairCount, place.pairsBegin, mirror_.Pairs(*code_, tile, part),
+                          mirror_.Rests(tile, part)};
+      }
+      known = true;
+      ++statistics_.refined;
+      mask = tuning_.kernel->refine(segments, parts, queryPairs_.data() + active_[i] * code_->PairCount(),
+                                    queryRests_.data() + active_[i] * parts, code_->Scale(), code_->Limit(),
+                                    mask);
+    }
+    if (mask != 0) {
+      TryRow(query, tile, mask);
+      anyFound = anyFound || query.found;
+    }
   }
-  while (mask != 0) {
+  return anyFound;
+}
+
+/// Compares exactly what no segment ruled out, first come first.
+void FirstFit::TryRow(Query& query, std::size_t tile, std::uint32_t mask) {
+  for (; mask != 0; mask &= mask - 1) {
     const std::size_t position = tile * kTile + static_cast<std::size_t>(__builtin_ctz(mask));
     if (position >= mirror_.Coded()) {
       return;
@@ -244,7 +273,6 @@ void FirstFit::TryTile(Query& query, std::size_t slot, std::size_t tile, std::ui
       query.found = position;
       return;
     }
-    mask &= mask - 1;
   }
 }
 
@@ -278,8 +306,8 @@ bool FirstFit::IsInBlock(std::size_t item, const Template& query) const noexcept
          std::memcmp(block_.values.data() + begin, query.data(), query.size() * sizeof(float)) == 0;
 }
 
-/// The place in the block of what was announced and now is asked for. Others may be asked for between, and some
-/// left out.
+/// The place in the block of what was announced and now is asked for. Others may be asked for between, and
+/// some left out.
 std::optional<std::size_t> FirstFit::Announced(const Query& query) noexcept {
   for (std::size_t item = block_.next; item < block_.end; ++item) {
     if (IsInBlock(item, *query.vector)) {

@@ -16,7 +16,7 @@ namespace Zenvora::Quillet {
 struct FirstFitTuning {
   const MatchKernel* kernel = &BestKernel();
   /// Fewer vectors are scanned.
-  std::size_t mirrorFrom = 2000;
+  std::size_t mirrorFrom = 1000;
   /// Shorter vectors are scanned: beside them a mirror would not be small.
   std::size_t leastSize = 96;
   /// Longer vectors are scanned: learning would take long.
@@ -86,8 +86,10 @@ class FirstFit {
   bool Prepare() noexcept;
   void Learn();
   bool Ask(Query* queries, std::size_t count, std::size_t from) noexcept;
+  void Pack();
   void Sift(Query* queries, std::size_t from);
-  void TryTile(Query& query, std::size_t slot, std::size_t tile, std::uint32_t mask);
+  bool TryTile(Query* queries, std::size_t tile, const std::uint32_t* masks, std::size_t from);
+  void TryRow(Query& query, std::size_t tile, std::uint32_t mask);
   Position FindAlone(const Query& query, std::size_t from) noexcept;
 
   std::optional<std::size_t> Announced(const Query& query) noexcept;
@@ -108,7 +110,7 @@ class FirstFit {
   std::vector<std::int32_t> queryPairs_;
   std::vector<float> queryRests_;
   std::vector<std::size_t> active_;
-  std::vector<const std::int32_t*> activePairs_;
+  std::vector<std::int32_t> activePairs_;
   std::vector<float> activeRests_;
   std::vector<std::uint32_t> masks_;
 };

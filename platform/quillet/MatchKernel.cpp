@@ -31,6 +31,9 @@ LUMIDEX_INLINE Ints NoInts() {
 LUMIDEX_INLINE Ints LoadInts(const std::int32_t* from) {
   return *from;
 }
+LUMIDEX_INLINE Ints AddInts(Ints a, Ints b) {
+  return a + b;
+}
 LUMIDEX_INLINE Ints SpreadInt(std::int32_t value) {
   return value;
 }
@@ -90,6 +93,9 @@ LUMIDEX_INLINE Ints NoInts() {
 LUMIDEX_INLINE Ints LoadInts(const std::int32_t* from) {
   return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
 }
+LUMIDEX_INLINE Ints AddInts(Ints a, Ints b) {
+  return _mm_add_epi32(a, b);
+}
 LUMIDEX_INLINE Ints SpreadInt(std::int32_t value) {
   return _mm_set1_epi32(value);
 }
@@ -148,6 +154,9 @@ LUMIDEX_INLINE Ints NoInts() {
 LUMIDEX_INLINE Ints LoadInts(const std::int32_t* from) {
   return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from));
 }
+LUMIDEX_INLINE Ints AddInts(Ints a, Ints b) {
+  return _mm256_add_epi32(a, b);
+}
 LUMIDEX_INLINE Ints SpreadInt(std::int32_t value) {
   return _mm256_set1_epi32(value);
 }
@@ -198,7 +207,7 @@ using Floats = __m512;
 using Doubles = __m512d;
 constexpr std::size_t kInts = 16;
 constexpr std::size_t kDoubles = 8;
-constexpr std::size_t kQueries = 12;
+constexpr std::size_t kQueries = 8;
 
 LUMIDEX_INLINE Ints NoInts() {
   return _mm512_setzero_si512();
@@ -206,12 +215,17 @@ LUMIDEX_INLINE Ints NoInts() {
 LUMIDEX_INLINE Ints LoadInts(const std::int32_t* from) {
   return _mm512_loadu_si512(from);
 }
+LUMIDEX_INLINE Ints AddInts(Ints a, Ints b) {
+  return _mm512_add_epi32(a, b);
+}
 LUMIDEX_INLINE Ints SpreadInt(std::int32_t value) {
   return _mm512_set1_epi32(value);
 }
 LUMIDEX_INLINE Ints AddProducts(Ints sum, Ints a, Ints b) {
 #if LUMIDEX_KERNEL_LEVEL == 4
-  return _mm512_dpwssd_epi32(sum, a, b);
+  // Compilers copy every sum to and fro around the intrinsic.
+  asm("vpdpwssd %2, %1, %0" : "+v"(sum) : "v"(a), "v"(b));
+  return sum;
 #else
   return _mm512_add_epi32(sum, _mm512_madd_epi16(a, b));
 #endif
@@ -410,14 +424,12 @@ constexpr std::size_t kSide = 2;
 static_assert(kTile % (kSide * kInts) == 0);
 
 template <std::size_t Queries>
-LUMIDEX_INLINE void SiftBlock(const SiftTask& task, const std::int32_t* pairs, const float* rests,
-                              std::size_t firstQuery, std::uint32_t* masks) {
+LUMIDEX_INLINE void SiftBlock(const std::int32_t* pairs, const float* rests, std::size_t pairCount,
+                              const std::int32_t* queries, const float* queryRests, float scale, float limit,
+                              std::uint32_t* masks) {
   for (std::size_t i = 0; i < Queries; ++i) {
     masks[i] = 0;
   }
-  const std::int32_t* const* queries = task.queries + firstQuery;
-  const Floats scale = SpreadFloat(task.scale);
-  const Floats limit = SpreadFloat(task.limit);
   for (std::size_t at = 0; at < kTile; at += kSide * kInts) {
     Ints sums[Queries][kSide];
     LUMIDEX_UNROLL
@@ -427,19 +439,16 @@ LUMIDEX_INLINE void SiftBlock(const SiftTask& task, const std::int32_t* pairs, c
         sums[i][v] = NoInts();
       }
     }
-    for (std::size_t j = 0; j < task.pairCount; ++j) {
-      Ints row[kSide];
-      LUMIDEX_UNROLL
-      for (std::size_t v = 0; v < kSide; ++v) {
-        row[v] = LoadInts(pairs + j * kTile + at + v * kInts);
-      }
+    const std::int32_t* row = pairs + at;
+    const std::int32_t* values = queries;
+    for (std::size_t j = 0; j < pairCount; ++j, row += kTile, values += Queries) {
+      const Ints left = LoadInts(row);
+      const Ints right = LoadInts(row + kInts);
       LUMIDEX_UNROLL
       for (std::size_t i = 0; i < Queries; ++i) {
-        const Ints value = SpreadInt(queries[i][j]);
-        LUMIDEX_UNROLL
-        for (std::size_t v = 0; v < kSide; ++v) {
-          sums[i][v] = AddProducts(sums[i][v], row[v], value);
-        }
+        const Ints value = SpreadInt(values[i]);
+        sums[i][0] = AddProducts(sums[i][0], left, value);
+        sums[i][1] = AddProducts(sums[i][1], right, value);
       }
     }
     LUMIDEX_UNROLL
@@ -447,8 +456,9 @@ LUMIDEX_INLINE void SiftBlock(const SiftTask& task, const std::int32_t* pairs, c
       const Floats rest = LoadFloats(rests + at + v * kInts);
       LUMIDEX_UNROLL
       for (std::size_t i = 0; i < Queries; ++i) {
-        const Floats tail = Mul(rest, SpreadFloat(task.queryRests[firstQuery + i]));
-        masks[i] |= Above(MulAdd(ToFloats(sums[i][v]), scale, tail), limit) << (at + v * kInts);
+        const Floats bound =
+            MulAdd(ToFloats(sums[i][v]), SpreadFloat(scale), Mul(rest, SpreadFloat(queryRests[i])));
+        masks[i] |= Above(bound, SpreadFloat(limit)) << (at + v * kInts);
       }
     }
   }
@@ -459,15 +469,14 @@ void Sift(const SiftTask& task) {
     const std::int32_t* const pairs = task.pairs + tile * task.pairCount * kTile;
     const float* const rests = task.rests + tile * kTile;
     std::uint32_t* const masks = task.masks + tile * task.queryCount;
-    std::size_t done = 0;
-    for (; done + kQueries <= task.queryCount; done += kQueries) {
-      SiftBlock<kQueries>(task, pairs, rests, done, masks + done);
+    if (task.queryCount == 1) {
+      SiftBlock<1>(pairs, rests, task.pairCount, task.queries, task.queryRests, task.scale, task.limit,
+                   masks);
+      continue;
     }
-    for (; done + 3 <= task.queryCount; done += 3) {
-      SiftBlock<3>(task, pairs, rests, done, masks + done);
-    }
-    for (; done < task.queryCount; ++done) {
-      SiftBlock<1>(task, pairs, rests, done, masks + done);
+    for (std::size_t done = 0; done < task.queryCount; done += kQueries) {
+      SiftBlock<kQueries>(pairs, rests, task.pairCount, task.queries + done * task.pairCount,
+                          task.queryRests + done, task.scale, task.limit, masks + done);
     }
   }
 }
@@ -475,24 +484,48 @@ void Sift(const SiftTask& task) {
 std::uint32_t Refine(const Segment* segments, std::size_t count, const std::int32_t* query,
                      const float* queryRests, float scale, float limit, std::uint32_t mask) {
   constexpr std::size_t kVectors = kTile / kInts;
-  Ints sums[kVectors];
-  for (std::size_t v = 0; v < kVectors; ++v) {
-    sums[v] = NoInts();
+  // Where a tile has few vectors a single sum of each would wait for itself.
+  constexpr std::size_t kChains = kVectors < 4 ? 4 : 1;
+  Ints sums[kChains][kVectors];
+  LUMIDEX_UNROLL
+  for (std::size_t c = 0; c < kChains; ++c) {
+    LUMIDEX_UNROLL
+    for (std::size_t v = 0; v < kVectors; ++v) {
+      sums[c][v] = NoInts();
+    }
   }
   for (std::size_t s = 0; s < count; ++s) {
     const Segment& segment = segments[s];
     const std::int32_t* const values = query + segment.pairsBegin;
-    for (std::size_t j = 0; j < segment.pairCount; ++j) {
-      const Ints value = SpreadInt(values[j]);
+    std::size_t j = 0;
+    for (; j + kChains <= segment.pairCount; j += kChains) {
+      LUMIDEX_UNROLL
+      for (std::size_t c = 0; c < kChains; ++c) {
+        const Ints value = SpreadInt(values[j + c]);
+        LUMIDEX_UNROLL
+        for (std::size_t v = 0; v < kVectors; ++v) {
+          const Ints row = LoadInts(segment.pairs + (j + c) * kTile + v * kInts);
+          sums[c][v] = AddProducts(sums[c][v], row, value);
+        }
+      }
+    }
+    for (; j < segment.pairCount; ++j) {
       LUMIDEX_UNROLL
       for (std::size_t v = 0; v < kVectors; ++v) {
-        sums[v] = AddProducts(sums[v], LoadInts(segment.pairs + j * kTile + v * kInts), value);
+        sums[0][v] =
+            AddProducts(sums[0][v], LoadInts(segment.pairs + j * kTile + v * kInts), SpreadInt(values[j]));
       }
     }
     std::uint32_t above = 0;
+    LUMIDEX_UNROLL
     for (std::size_t v = 0; v < kVectors; ++v) {
+      Ints sum = sums[0][v];
+      LUMIDEX_UNROLL
+      for (std::size_t c = 1; c < kChains; ++c) {
+        sum = AddInts(sum, sums[c][v]);
+      }
       const Floats tail = Mul(LoadFloats(segment.rests + v * kInts), SpreadFloat(queryRests[s]));
-      above |= Above(MulAdd(ToFloats(sums[v]), SpreadFloat(scale), tail), SpreadFloat(limit)) << (v * kInts);
+      above |= Above(MulAdd(ToFloats(sum), SpreadFloat(scale), tail), SpreadFloat(limit)) << (v * kInts);
     }
     mask &= above;
     if (mask == 0) {
@@ -506,6 +539,6 @@ std::uint32_t Refine(const Segment* segments, std::size_t count, const std::int3
 
 extern const MatchKernel LUMIDEX_KERNEL;
 const MatchKernel LUMIDEX_KERNEL = {
-    static_cast<InstructionSet>(LUMIDEX_KERNEL_LEVEL), Dot, Dots, Rotate, Sift, Refine};
+    static_cast<InstructionSet>(LUMIDEX_KERNEL_LEVEL), kQueries, Dot, Dots, Rotate, Sift, Refine};
 
 }  // namespace Zenvora::Quillet

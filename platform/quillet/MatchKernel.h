@@ -14,13 +14,14 @@ enum class InstructionSet { Plain, Sse2, Avx2, Avx512, Avx512Vnni };
 /// Vectors that are mirrored side by side.
 constexpr std::size_t kTile = 32;
 
-/// Vectors of whole numbers that a tile is compared with, two coordinates to a word.
+/// Tiles of whole numbers, two coordinates to a word, and the queries that they are compared with.
 struct SiftTask {
   const std::int32_t* pairs;  ///< of `tiles` tiles one after the other: `pairCount` rows of `kTile` words
   const float* rests;         ///< `kTile` of each tile
   std::size_t tiles;
   std::size_t pairCount;
-  const std::int32_t* const* queries;  ///< `pairCount` words each
+  /// One query, or groups of as many as the kernel says: `pairCount` rows of a word of each.
+  const std::int32_t* queries;
   const float* queryRests;
   std::size_t queryCount;
   float scale;           ///< of the whole numbers' product
@@ -38,6 +39,7 @@ struct Segment {
 
 struct MatchKernel {
   InstructionSet set;
+  std::size_t group;  ///< queries that `sift` takes at a time
   /// The sum of products, in the one order that `MatchTemplate` promises.
   double (*dot)(const float* a, const float* b, std::size_t size);
   /// `sums` = a*b, a*a, b*b, each as `dot` has it.

@@ -174,7 +174,7 @@ void TemplateCode::SetParts(std::size_t firstPairs) {
 
 void TemplateCode::ChooseParts(const std::vector<Vector>& sample) {
   constexpr std::size_t kMostRows = 256;
-  constexpr std::size_t kCandidates[] = {4, 8, 12, 16, 24, 32, 48, 64};
+  constexpr std::size_t kCandidates[] = {4, 8, 12, 16, 20, 24, 28, 32, 40, 48, 56, 64};
   SetParts(pairCount_);
   // Neighbours stay neighbours: whole tiles are judged.
   const std::size_t count = std::min(sample.size(), kMostRows);

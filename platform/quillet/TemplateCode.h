@@ -20,6 +20,9 @@ class TemplateCode {
   /// More directions than that are not kept.
   static constexpr std::size_t kMostDirections = 512;
 
+  /// Never reached: segments grow.
+  static constexpr std::size_t kMostParts = 12;
+
   struct Part {
     std::size_t pairsBegin;  ///< in words of two coordinates
     std::size_t pairCount;

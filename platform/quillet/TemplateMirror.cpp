@@ -126,7 +126,7 @@ const std::int32_t* TemplateMirror::Pairs(const TemplateCode& code, std::size_t 
          tile % kTiles * place.pairCount * kTile;
 }
 
-const float* TemplateMirror::Rests(const TemplateCode&, std::size_t tile, std::size_t part) const noexcept {
+const float* TemplateMirror::Rests(std::size_t tile, std::size_t part) const noexcept {
   return chunks_[tile / kTiles]->rests.get() + (part * kTiles + tile % kTiles) * kTile;
 }
 

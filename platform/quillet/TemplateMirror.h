@@ -42,7 +42,7 @@ class TemplateMirror {
   void MarkChanged(std::size_t position) noexcept;
 
   const std::int32_t* Pairs(const TemplateCode& code, std::size_t tile, std::size_t part) const noexcept;
-  const float* Rests(const TemplateCode& code, std::size_t tile, std::size_t part) const noexcept;
+  const float* Rests(std::size_t tile, std::size_t part) const noexcept;
 
   std::size_t MemoryBytes() const noexcept;
 
