@@ -13,7 +13,7 @@ namespace Zenvora::Quillet {
 namespace {
 
 /// Vectors to learn from.
-constexpr std::size_t kSample = 1024;
+constexpr std::size_t kSample = 1280;
 /// Fewer tell nothing.
 constexpr std::size_t kLeastSample = 16;
 
@@ -46,16 +46,17 @@ void FirstFit::Updated(std::size_t position) noexcept {
   }
 }
 
-void FirstFit::Expect(std::vector<const Template*> coming) {
+std::uint64_t FirstFit::Expect(std::vector<const Template*> coming) noexcept {
   coming_ = std::move(coming);
   block_.end = 0;
   block_.End();
+  return ++announcement_;
 }
 
-void FirstFit::ExpectNothing() noexcept {
-  coming_.clear();
-  block_.end = 0;
-  block_.End();
+void FirstFit::Forget(std::uint64_t announcement) noexcept {
+  if (announcement == announcement_) {
+    Expect({});
+  }
 }
 
 std::size_t FirstFit::MemoryBytes() const noexcept {

@@ -50,8 +50,10 @@ class FirstFit {
   void Replace(std::size_t position, const Template& vector) noexcept;
   void Updated(std::size_t position) noexcept;
   Position FindFirst(const Template& query) noexcept;
-  void Expect(std::vector<const Template*> coming);
-  void ExpectNothing() noexcept;
+  /// Returns the announcement's number.
+  std::uint64_t Expect(std::vector<const Template*> coming) noexcept;
+  /// Ends that announcement, unless it has been replaced.
+  void Forget(std::uint64_t announcement) noexcept;
 
   std::size_t Size() const noexcept { return mirror_.Size(); }
   float Threshold() const noexcept { return threshold_; }
@@ -103,6 +105,7 @@ class FirstFit {
   std::unique_ptr<TemplateCode> code_;
   std::size_t learntAt_ = 0;
   std::vector<const Template*> coming_;
+  std::uint64_t announcement_ = 0;
   Block block_;
   FirstFitStatistics statistics_;
 

@@ -66,18 +66,28 @@ TemplateCode::TemplateCode(const MatchKernel& kernel, const std::vector<Vector>&
   const std::size_t stride = RoundUp(size, kWidthStep);
   basis_.size = size;
   normal_.resize(kTogether * size);
-  std::vector<float> normals(sample.size() * stride);
+  // Judged by what it was not learnt from: it fits its own sample too well.
+  constexpr std::size_t kJudgeEvery = 5;
+  std::vector<Vector> judges;
+  std::vector<float> normals;
+  std::size_t learnt = 0;
   for (std::size_t i = 0; i < sample.size(); ++i) {
-    Normalise(sample[i], normals.data() + i * stride);
+    if (i % kJudgeEvery == 0) {
+      judges.push_back(sample[i]);
+    } else {
+      normals.resize((learnt + 1) * stride);
+      Normalise(sample[i], normals.data() + learnt * stride);
+      ++learnt;
+    }
   }
-  basis_ = LearnBasis(kernel, normals, sample.size(), size, stride, kMostDirections);
+  basis_ = LearnBasis(kernel, normals, learnt, size, stride, kMostDirections);
   pairCount_ = (basis_.count + 1) / 2;
   turned_.resize(kTogether * basis_.width);
   for (std::size_t i = 0; i < kTogether; ++i) {
     normalRows_.push_back(normal_.data() + i * size);
   }
   SetMargin(threshold, marginScale);
-  ChooseParts(sample);
+  ChooseParts(judges);
 }
 
 std::size_t TemplateCode::MemoryBytes() const noexcept {
