@@ -52,10 +52,13 @@ class Rows {
   void Settle(std::size_t row, std::mt19937& random) {
     for (;;) {
       const double before = std::sqrt(Dot((*this)[row], (*this)[row], size_));
-      // Twice is enough, unless nothing but rounding is left.
       Clear(row);
-      Clear(row);
-      const double after = std::sqrt(Dot((*this)[row], (*this)[row], size_));
+      double after = std::sqrt(Dot((*this)[row], (*this)[row], size_));
+      // Where little is left, much of it is rounding. Twice is enough.
+      if (after < before / 2) {
+        Clear(row);
+        after = std::sqrt(Dot((*this)[row], (*this)[row], size_));
+      }
       if (after > before * 1e-6 && after > 0) {
         std::for_each((*this)[row], (*this)[row] + size_, [after](double& value) { value /= after; });
         return;

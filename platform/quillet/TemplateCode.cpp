@@ -183,7 +183,7 @@ void TemplateCode::SetParts(std::size_t firstPairs) {
 }
 
 void TemplateCode::ChooseParts(const std::vector<Vector>& sample) {
-  constexpr std::size_t kMostRows = 256;
+  constexpr std::size_t kMostRows = 192;
   constexpr std::size_t kCandidates[] = {4, 8, 12, 16, 20, 24, 28, 32, 40, 48, 56, 64};
   SetParts(pairCount_);
   // Neighbours stay neighbours: whole tiles are judged.
@@ -208,7 +208,7 @@ void TemplateCode::ChooseParts(const std::vector<Vector>& sample) {
 
 double TemplateCode::CostOf(std::size_t firstPairs, const std::vector<std::int32_t>& pairs,
                             std::size_t count) {
-  constexpr std::size_t kQueries = 32;
+  constexpr std::size_t kQueries = 24;
   constexpr double kOverhead = 8;
   constexpr double kRefineOverhead = 40;
   constexpr double kExactCost = 150;

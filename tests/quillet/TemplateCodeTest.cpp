@@ -88,7 +88,7 @@ TEST(TemplateCode, BoundsTheScoreFromAbove) {
     for (const VectorKind kind : {VectorKind::Random, VectorKind::Histogram, VectorKind::Mixed,
                                   VectorKind::Copies, VectorKind::Parallel}) {
       for (const std::size_t size : {1U, 2U, 5U, 17U, 64U, 97U, 256U, 600U}) {
-        if (size > 97 && kind != VectorKind::Mixed) {
+        if (size > 97 && (kind != VectorKind::Mixed || k + 1 < list.count)) {
           continue;
         }
         const double share = LargestShare(*list.kernels[k], MakeVectors(kind, 60, size, kThreshold, 77));
@@ -117,7 +117,7 @@ TEST(TemplateCode, MakesZerosOfWhatHasNoDirection) {
 TEST(TemplateCode, HasSegmentsThatCoverAllCoordinates) {
   const MatchKernel& kernel = BestKernel();
   for (const VectorKind kind : {VectorKind::Histogram, VectorKind::Parallel}) {
-    for (const std::size_t size : {1U, 2U, 3U, 30U, 31U, 256U, 511U, 513U, 900U}) {
+    for (const std::size_t size : {1U, 2U, 3U, 30U, 31U, 257U, 600U}) {
       const auto vectors = MakeVectors(kind, 80, size, kThreshold, 5);
       const TemplateCode code(kernel, WithSquares(vectors, kernel), size, kThreshold, 1);
       EXPECT_EQ(code.PairCount(), (std::min(size, TemplateCode::kMostDirections) + 1) / 2);
