@@ -464,23 +464,6 @@ LUMIDEX_INLINE void SiftBlock(const std::int32_t* pairs, const float* rests, std
   }
 }
 
-void Sift(const SiftTask& task) {
-  for (std::size_t tile = 0; tile < task.tiles; ++tile) {
-    const std::int32_t* const pairs = task.pairs + tile * task.pairCount * kTile;
-    const float* const rests = task.rests + tile * kTile;
-    std::uint32_t* const masks = task.masks + tile * task.queryCount;
-    if (task.queryCount == 1) {
-      SiftBlock<1>(pairs, rests, task.pairCount, task.queries, task.queryRests, task.scale, task.limit,
-                   masks);
-      continue;
-    }
-    for (std::size_t done = 0; done < task.queryCount; done += kQueries) {
-      SiftBlock<kQueries>(pairs, rests, task.pairCount, task.queries + done * task.pairCount,
-                          task.queryRests + done, task.scale, task.limit, masks + done);
-    }
-  }
-}
-
 std::uint32_t Refine(const Segment* segments, std::size_t count, const std::int32_t* query,
                      const float* queryRests, float scale, float limit, std::uint32_t mask) {
   constexpr std::size_t kVectors = kTile / kInts;
@@ -533,6 +516,24 @@ std::uint32_t Refine(const Segment* segments, std::size_t count, const std::int3
     }
   }
   return mask;
+}
+
+void Sift(const SiftTask& task) {
+  for (std::size_t tile = 0; tile < task.tiles; ++tile) {
+    const std::int32_t* const pairs = task.pairs + tile * task.pairCount * kTile;
+    const float* const rests = task.rests + tile * kTile;
+    std::uint32_t* const masks = task.masks + tile * task.queryCount;
+    if (task.queryCount == 1) {
+      const Segment segment = {task.pairCount, 0, pairs, rests};
+      masks[0] =
+          Refine(&segment, 1, task.queries, task.queryRests, task.scale, task.limit, ~std::uint32_t{0});
+      continue;
+    }
+    for (std::size_t done = 0; done < task.queryCount; done += kQueries) {
+      SiftBlock<kQueries>(pairs, rests, task.pairCount, task.queries + done * task.pairCount,
+                          task.queryRests + done, task.scale, task.limit, masks + done);
+    }
+  }
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ class TemplateMirror {
   using Template = std::vector<float>;
 
   /// Tiles that lie together, so that their first segments do.
-  static constexpr std::size_t kTiles = 4;
+  static constexpr std::size_t kTiles = 16;
   static constexpr std::size_t kRows = kTiles * kTile;
 
   struct Row {
