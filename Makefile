@@ -55,6 +55,7 @@ format: setup
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 bench: setup
+	@tools/setup.sh bench
 	cmake --preset release
 	cmake --build --preset release --target lumidex_bench
 	build/release/bin/lumidex_bench

@@ -2,6 +2,7 @@
 # Installs what is missing of tools/packages-debian.txt; does nothing when all is there.
 #   tools/setup.sh            what every build needs
 #   tools/setup.sh windows    what the Windows build needs besides
+#   tools/setup.sh bench      what the benchmarks compare with
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

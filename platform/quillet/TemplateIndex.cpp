@@ -7,11 +7,11 @@
 namespace Zenvora::Quillet {
 
 TemplateIndex::Announcement::Announcement(Announcement&& other) noexcept
-    : owner_(std::exchange(other.owner_, nullptr)) {}
+    : owner_(std::exchange(other.owner_, nullptr)), number_(other.number_) {}
 
 TemplateIndex::Announcement::~Announcement() {
   if (owner_ != nullptr) {
-    owner_->ExpectNothing();
+    owner_->Forget(number_);
   }
 }
 
@@ -35,9 +35,9 @@ std::optional<std::size_t> TemplateIndex::FindFirst(const Template& query) noexc
   return impl_->FindFirst(query);
 }
 
-TemplateIndex::Announcement TemplateIndex::Expect(std::vector<const Template*> coming) {
-  impl_->Expect(std::move(coming));
-  return Announcement(impl_.get());
+TemplateIndex::Announcement TemplateIndex::Expect(std::vector<const Template*> coming) noexcept {
+  const std::uint64_t number = impl_->Expect(std::move(coming));
+  return Announcement(impl_.get(), number);
 }
 
 std::size_t TemplateIndex::Size() const noexcept {

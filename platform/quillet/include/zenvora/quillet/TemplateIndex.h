@@ -3,6 +3,7 @@
 #include <zenvora/quillet/Export.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -16,9 +17,10 @@ class FirstFit;
 /// sooner.
 ///
 /// It refers to the caller's vectors and owns none: every appended vector must keep its address while the
-/// index is asked or changed, and whoever changes one says so with `Updated` before the next question. Beside
-/// them it keeps a mirror of at most 0.6 times their bytes, from about two thousand vectors up, made when it
-/// is first asked. Lack of memory for the mirror makes it slower, never wrong.
+/// index is asked or changed, and whoever changes one says so with `Updated` before the next question. From a
+/// thousand vectors up it keeps a mirror beside them, of at most 0.6 times their bytes, and with it a basis
+/// of four bytes for the square of their length (at most 512 directions). The mirror is made when it is first
+/// asked for. Lack of memory for it makes the index slower, never wrong.
 ///
 /// It starts no thread and is not for several at once: calls must be serialised by the caller.
 class ZENVORA_QUILLET_EXPORT TemplateIndex {
@@ -34,8 +36,9 @@ class ZENVORA_QUILLET_EXPORT TemplateIndex {
 
    private:
     friend class TemplateIndex;
-    explicit Announcement(FirstFit* owner) : owner_(owner) {}
+    Announcement(FirstFit* owner, std::uint64_t number) : owner_(owner), number_(number) {}
     FirstFit* owner_;
+    std::uint64_t number_;
   };
 
   /// Any threshold serves; below 0 and for NaN every question is a plain scan.
@@ -62,8 +65,8 @@ class ZENVORA_QUILLET_EXPORT TemplateIndex {
   /// A hint: `FindFirst` will be asked for these vectors, in this order, with `Append` and `Updated` between.
   /// Many questions at once are answered several times faster than one by one. They must live, unchanged, as
   /// long as the announcement; a new announcement replaces the last. Questions may still differ from what was
-  /// announced: they are answered rightly all the same. Throws `std::bad_alloc`; then nothing is announced.
-  [[nodiscard]] Announcement Expect(std::vector<const Template*> coming);
+  /// announced: they are answered rightly all the same.
+  [[nodiscard]] Announcement Expect(std::vector<const Template*> coming) noexcept;
 
   std::size_t Size() const noexcept;
   float Threshold() const noexcept;

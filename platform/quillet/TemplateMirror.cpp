@@ -1,0 +1,145 @@
+#include "TemplateMirror.h"
+
+#include "MatchScore.h"
+
+#include <algorithm>
+
+namespace Zenvora::Quillet {
+
+namespace {
+
+/// The rest of a row that cannot be ruled out: more than any query's rest can make nothing of.
+constexpr float kEndless = 1e30F;
+
+}  // namespace
+
+template <typename T>
+TemplateMirror::Lines<T> TemplateMirror::MakeLines(std::size_t count) {
+  auto* const memory = static_cast<T*>(::operator new (count * sizeof(T), std::align_val_t{kLine}));
+  std::fill_n(memory, count, T{});
+  return Lines<T>(memory);
+}
+
+void TemplateMirror::Append(const Row& row) {
+  if (size_ == chunks_.size() * kRows) {
+    auto chunk = std::make_unique<Chunk>();
+    chunks_.push_back(std::move(chunk));
+  }
+  chunks_.back()->rows[size_ % kRows] = row;
+  ++size_;
+}
+
+void TemplateMirror::Uncode() noexcept {
+  for (const auto& chunk : chunks_) {
+    chunk->pairs.reset();
+    chunk->rests.reset();
+  }
+  coded_ = 0;
+  changed_.clear();
+}
+
+void TemplateMirror::MakeRoom(const TemplateCode& code, Chunk& chunk) {
+  if (!chunk.rests) {
+    auto pairs = MakeLines<std::int32_t>(kRows * code.PairCount());
+    chunk.rests = MakeLines<float>(kRows * code.Parts().size());
+    chunk.pairs = std::move(pairs);
+  }
+}
+
+void TemplateMirror::CodeMissing(TemplateCode& code) {
+  parts_ = code.Parts().size();
+  pairCount_ = code.PairCount();
+  codedPairs_.resize(TemplateCode::kTogether * pairCount_);
+  codedRests_.resize(TemplateCode::kTogether * parts_);
+  while (!changed_.empty()) {
+    const std::size_t count = std::min(changed_.size(), TemplateCode::kTogether);
+    CodeRows(code, changed_.data() + (changed_.size() - count), count);
+    changed_.resize(changed_.size() - count);
+  }
+  while (coded_ < size_) {
+    std::size_t positions[TemplateCode::kTogether];
+    std::size_t count = 0;
+    for (; count < TemplateCode::kTogether && coded_ + count < size_; ++count) {
+      positions[count] = coded_ + count;
+      MakeRoom(code, *chunks_[positions[count] / kRows]);
+    }
+    CodeRows(code, positions, count);
+    coded_ += count;
+  }
+}
+
+void TemplateMirror::CodeRows(TemplateCode& code, const std::size_t* positions, std::size_t count) {
+  TemplateCode::Vector vectors[TemplateCode::kTogether];
+  for (std::size_t i = 0; i < count; ++i) {
+    const Row& row = (*this)[positions[i]];
+    // Of another length: matches none that is asked for by its code.
+    const bool fits = row.vector->size() == code.Size();
+    vectors[i] = {row.vector->data(), fits ? row.squares : 0};
+  }
+  code.Code(vectors, count, codedPairs_.data(), codedRests_.data());
+  for (std::size_t i = 0; i < count; ++i) {
+    Place(code, positions[i], codedPairs_.data() + i * pairCount_, codedRests_.data() + i * parts_);
+  }
+}
+
+void TemplateMirror::Place(const TemplateCode& code, std::size_t position, const std::int32_t* pairs,
+                           const float* rests) {
+  const Chunk& chunk = *chunks_[position / kRows];
+  const std::size_t tile = position % kRows / kTile;
+  const std::size_t lane = position % kTile;
+  for (std::size_t part = 0; part < parts_; ++part) {
+    const TemplateCode::Part& place = code.Parts()[part];
+    std::int32_t* const to =
+        chunk.pairs.get() + kRows * place.pairsBegin + tile * place.pairCount * kTile + lane;
+    for (std::size_t i = 0; i < place.pairCount; ++i) {
+      to[i * kTile] = pairs[place.pairsBegin + i];
+    }
+    chunk.rests[(part * kTiles + tile) * kTile + lane] = rests[part];
+  }
+}
+
+void TemplateMirror::MarkChanged(std::size_t position) noexcept {
+  if (position >= coded_) {
+    return;
+  }
+  const Chunk& chunk = *chunks_[position / kRows];
+  const std::size_t place = position % kRows;
+  if (chunk.rests[place] == kEndless) {
+    return;
+  }
+  try {
+    changed_.push_back(position);
+  } catch (const std::bad_alloc&) {
+    // Without a note of it the mirror would be wrong for ever.
+    Uncode();
+    return;
+  }
+  for (std::size_t part = 0; part < parts_; ++part) {
+    chunk.rests[part * kRows + place] = kEndless;
+  }
+}
+
+const std::int32_t* TemplateMirror::Pairs(const TemplateCode& code, std::size_t tile,
+                                          std::size_t part) const noexcept {
+  const TemplateCode::Part& place = code.Parts()[part];
+  return chunks_[tile / kTiles]->pairs.get() + kRows * place.pairsBegin +
+         tile % kTiles * place.pairCount * kTile;
+}
+
+const float* TemplateMirror::Rests(std::size_t tile, std::size_t part) const noexcept {
+  return chunks_[tile / kTiles]->rests.get() + (part * kTiles + tile % kTiles) * kTile;
+}
+
+std::size_t TemplateMirror::MemoryBytes() const noexcept {
+  std::size_t bytes = sizeof(*this) + chunks_.capacity() * sizeof(chunks_[0]) +
+                      chunks_.size() * sizeof(Chunk) + changed_.capacity() * sizeof(std::size_t) +
+                      codedPairs_.capacity() * sizeof(std::int32_t) + codedRests_.capacity() * sizeof(float);
+  for (const auto& chunk : chunks_) {
+    if (chunk->rests) {
+      bytes += kRows * (pairCount_ * sizeof(std::int32_t) + parts_ * sizeof(float));
+    }
+  }
+  return bytes;
+}
+
+}  // namespace Zenvora::Quillet

@@ -1,0 +1,163 @@
+#include "Vectors.h"
+
+#include <zenvora/quillet/MatchTemplate.h>
+
+#include <gtest/gtest.h>
+
+#include <FirstFit.h>
+#include <TemplateCode.h>
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+
+namespace Zenvora::Quillet {
+namespace {
+
+using Test::MakeVectors;
+using Test::Template;
+using Test::VectorKind;
+
+constexpr float kThreshold = 0.91F;
+
+std::int32_t Product(const std::int32_t* a, const std::int32_t* b, std::size_t pairs) {
+  const auto low = [](std::int32_t pair) -> std::int32_t { return static_cast<std::int16_t>(pair & 0xFFFF); };
+  std::int32_t sum = 0;
+  for (std::size_t i = 0; i < pairs; ++i) {
+    sum += low(a[i]) * low(b[i]) + (a[i] >> 16) * (b[i] >> 16);
+  }
+  return sum;
+}
+
+struct Coded {
+  std::vector<std::int32_t> pairs;
+  std::vector<float> rests;
+};
+
+std::vector<TemplateCode::Vector> WithSquares(const std::vector<Template>& vectors,
+                                              const MatchKernel& kernel) {
+  std::vector<TemplateCode::Vector> result;
+  for (const Template& vector : vectors) {
+    result.push_back({vector.data(), kernel.dot(vector.data(), vector.data(), vector.size())});
+  }
+  return result;
+}
+
+Coded CodeAll(TemplateCode& code, const std::vector<TemplateCode::Vector>& vectors) {
+  Coded coded;
+  coded.pairs.resize(vectors.size() * code.PairCount());
+  coded.rests.resize(vectors.size() * code.Parts().size());
+  for (std::size_t i = 0; i < vectors.size(); i += TemplateCode::kTogether) {
+    code.Code(vectors.data() + i, std::min(TemplateCode::kTogether, vectors.size() - i),
+              coded.pairs.data() + i * code.PairCount(), coded.rests.data() + i * code.Parts().size());
+  }
+  return coded;
+}
+
+/// How much of the margin the pair that needs most of it takes, with each segment; above 1 the bound is
+/// broken.
+double LargestShare(const MatchKernel& kernel, const std::vector<Template>& vectors) {
+  const auto sample = WithSquares(vectors, kernel);
+  const std::size_t size = vectors[0].size();
+  TemplateCode code(kernel, sample, size, kThreshold, 1);
+  EXPECT_TRUE(code.IsSound());
+  const Coded coded = CodeAll(code, sample);
+  const double margin = static_cast<double>(kThreshold) - static_cast<double>(code.Limit());
+  EXPECT_GT(margin, 0);
+  double most = -1e9;
+  for (std::size_t a = 0; a < vectors.size(); ++a) {
+    for (std::size_t b = a; b < vectors.size(); ++b) {
+      const auto cosine = static_cast<double>(MatchTemplate(vectors[a], vectors[b]));
+      for (std::size_t part = 0; part < code.Parts().size(); ++part) {
+        const std::size_t pairs = code.Parts()[part].pairsBegin + code.Parts()[part].pairCount;
+        const std::int32_t product = Product(coded.pairs.data() + a * code.PairCount(),
+                                             coded.pairs.data() + b * code.PairCount(), pairs);
+        const double bound = static_cast<double>(product) * static_cast<double>(code.Scale()) +
+                             static_cast<double>(coded.rests[a * code.Parts().size() + part]) *
+                                 static_cast<double>(coded.rests[b * code.Parts().size() + part]);
+        most = std::max(most, (cosine - bound) / margin);
+      }
+    }
+  }
+  return most;
+}
+
+TEST(TemplateCode, BoundsTheScoreFromAbove) {
+  const KernelList list = RunnableKernels();
+  double most = -1e9;
+  for (std::size_t k = 0; k < list.count; ++k) {
+    for (const VectorKind kind : {VectorKind::Random, VectorKind::Histogram, VectorKind::Mixed,
+                                  VectorKind::Copies, VectorKind::Parallel}) {
+      for (const std::size_t size : {1U, 2U, 5U, 17U, 64U, 97U, 256U, 600U}) {
+        if (size > 97 && (kind != VectorKind::Mixed || k + 1 < list.count)) {
+          continue;
+        }
+        const double share = LargestShare(*list.kernels[k], MakeVectors(kind, 60, size, kThreshold, 77));
+        EXPECT_LE(share, 1.0) << kind << " of " << size;
+        most = std::max(most, share);
+      }
+    }
+  }
+  // Some of it is needed.
+  EXPECT_GT(most, 0.01);
+  std::cout << "at most " << most << " of the margin was needed\n";
+}
+
+TEST(TemplateCode, MakesZerosOfWhatHasNoDirection) {
+  const auto vectors = MakeVectors(VectorKind::Random, 40, 20, kThreshold, 1);
+  const MatchKernel& kernel = BestKernel();
+  TemplateCode code(kernel, WithSquares(vectors, kernel), 20, kThreshold, 1);
+  const float values[20] = {1e38F, -1e38F, NAN};
+  for (const double squares : {0.0, -0.0, static_cast<double>(INFINITY), static_cast<double>(NAN)}) {
+    const TemplateCode::Vector vector = {values, squares};
+    const Coded coded = CodeAll(code, {vector});
+    EXPECT_EQ(coded.pairs, std::vector<std::int32_t>(code.PairCount(), 0));
+  }
+}
+
+TEST(TemplateCode, HasSegmentsThatCoverAllCoordinates) {
+  const MatchKernel& kernel = BestKernel();
+  for (const VectorKind kind : {VectorKind::Histogram, VectorKind::Parallel}) {
+    for (const std::size_t size : {1U, 2U, 3U, 30U, 31U, 257U, 600U}) {
+      const auto vectors = MakeVectors(kind, 80, size, kThreshold, 5);
+      const TemplateCode code(kernel, WithSquares(vectors, kernel), size, kThreshold, 1);
+      EXPECT_EQ(code.PairCount(), (std::min(size, TemplateCode::kMostDirections) + 1) / 2);
+      std::size_t next = 0;
+      for (const TemplateCode::Part& part : code.Parts()) {
+        EXPECT_EQ(part.pairsBegin, next);
+        EXPECT_GT(part.pairCount, 0U);
+        next += part.pairCount;
+      }
+      EXPECT_EQ(next, code.PairCount());
+      EXPECT_LE(code.Parts().size(), TemplateCode::kMostParts);
+    }
+  }
+}
+
+TEST(LearntBasis, IsAtRightAnglesWhateverTheSample) {
+  const MatchKernel& kernel = BestKernel();
+  for (const std::size_t size : {1U, 7U, 64U, 65U, 300U}) {
+    const std::size_t stride = (size + 63) / 64 * 64;
+    // All alike: only one direction can be learnt.
+    std::vector<float> sample(10 * stride);
+    for (std::size_t i = 0; i < 10; ++i) {
+      sample[i * stride] = 1;
+    }
+    const LearntBasis basis = LearnBasis(kernel, sample, 10, size, stride, 512);
+    EXPECT_EQ(basis.count, size);
+    EXPECT_LT(basis.defect, 1e-4);
+    EXPECT_NEAR(std::fabs(basis.matrix[0]), 1, 1e-5) << "the learnt direction comes first";
+    for (std::size_t a = 0; a < size; ++a) {
+      for (std::size_t b = 0; b <= a; b += 7) {
+        double product = 0;
+        for (std::size_t i = 0; i < size; ++i) {
+          product += static_cast<double>(basis.matrix[i * basis.width + a]) *
+                     static_cast<double>(basis.matrix[i * basis.width + b]);
+        }
+        EXPECT_NEAR(product, a == b ? 1 : 0, basis.defect + 1e-12);
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace Zenvora::Quillet
