@@ -1,5 +1,5 @@
-// Descriptors of camera files beside the bare libraries that do the unavoidable part, on the same warm files, one
-// thread.
+// Descriptors of camera files beside the bare libraries that do the unavoidable part, on the same warm files,
+// one thread.
 
 #include <host/PhotoAnalysis.h>
 #include <host/Sample.h>
@@ -171,9 +171,8 @@ void DescriptorWithoutThumbnails(benchmark::State& state) {
 
 /// The pure rule alone.
 void DescriptorOfPixels(benchmark::State& state) {
-  const QImage picture =
-      QImage(QString::fromStdString(TheFiles().With().front().utf8string()))
-          .scaled(kThumbnail, kThumbnail, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  const QImage picture = QImage(QString::fromStdString(TheFiles().With().front().utf8string()))
+                             .scaled(kThumbnail, kThumbnail, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   for (auto _ : state) {
     benchmark::DoNotOptimize(LayoutAnalyser().Describe(picture));
   }

@@ -8,6 +8,8 @@
 #include <zenvora/strandel/EmbeddedPreview.h>
 #include <zenvora/strandel/JpegHead.h>
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -17,6 +19,13 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 constexpr std::uint64_t kMostFileBytes = 512ULL * 1024 * 1024;
+
+/// Sides beyond that only say that the file lies.
+constexpr quint32 kMostSide = 1'000'000'000;
+
+std::int64_t PixelsOf(const QSize& size) {
+  return static_cast<std::int64_t>(size.width()) * size.height();
+}
 
 int LongerSide(const QImage& image) {
   return std::max(image.width(), image.height());
@@ -79,6 +88,26 @@ QImage PreviewOfShape(const ioPath& file, int longerSide, const Strandel::JpegHe
   return Turned(DecodeBytes(other.bytes, longerSide), other.orientation);
 }
 
+/// The most pixels that a picture within the file claims, when its boxes say so near the beginning. Decoders
+/// of HEIC and its kin tell the size only when they have decoded.
+QSize LargestClaimed(QIODevice& device) {
+  constexpr qint64 kLooked = 1024 * 1024;
+  const QByteArray head = device.peek(kLooked);
+  QSize largest(0, 0);
+  for (int at = head.indexOf("ispe"); at >= 0; at = head.indexOf("ispe", at + 4)) {
+    const QByteArray box = head.mid(at + 8, 8);
+    if (box.size() < 8) {
+      break;
+    }
+    const QSize size(static_cast<int>(std::min(qFromBigEndian<quint32>(box.constData()), kMostSide)),
+                     static_cast<int>(std::min(qFromBigEndian<quint32>(box.constData() + 4), kMostSide)));
+    if (PixelsOf(size) > PixelsOf(largest)) {
+      largest = size;
+    }
+  }
+  return largest;
+}
+
 FoundPixels FromPreview(QImage preview, const QSize& stored) {
   FoundPixels found;
   found.source = PixelSource::Preview;
@@ -94,7 +123,8 @@ bool IsBrightIn(const QImage& image, const QRect& part) {
   constexpr int kDark = 40;
   for (int y = part.top(); y <= part.bottom(); ++y) {
     for (int x = part.left(); x <= part.right(); ++x) {
-      if (qGray(image.pixel(x, y)) > kDark) {
+      const QRgb pixel = image.pixel(x, y);
+      if (std::max({qRed(pixel), qGreen(pixel), qBlue(pixel)}) > kDark) {
         return true;
       }
     }
@@ -144,13 +174,20 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
   }
   const QByteArray mark = device.peek(2);
   const bool tiff = mark == "II" || mark == "MM";
+  if (device.peek(8).mid(4) == "ftyp") {
+    const QSize claimed = LargestClaimed(device);
+    if (PixelsOf(claimed) > kMostPixels) {
+      found.cause = TooLargeText(claimed);
+      return found;
+    }
+  }
   QImage best;
   QSize stored;
   if (mark == "\xFF\xD8" && previewsFrom != kPreviewsNever) {
     const Strandel::JpegHead head = Strandel::ReadJpegHead(device.read(Strandel::kJpegHead));
     device.seek(0);
     stored = head.size;
-    if (static_cast<std::int64_t>(stored.width()) * stored.height() >= previewsFrom) {
+    if (PixelsOf(stored) >= previewsFrom) {
       best = PreviewOfShape(file, longerSide, head);
     }
   } else if (tiff) {
@@ -162,7 +199,7 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
   }
   DecodedPicture decoded = DecodePicture(device, longerSide, true);
   if (!decoded.image.isNull() && LongerSide(decoded.image) >= LongerSide(best)) {
-    return {std::move(decoded.image), PixelSource::Picture, decoded.size, {}};
+    return {std::move(decoded.image), PixelSource::Picture, mark == "\xFF\xD8", decoded.size, {}};
   }
   if (best.isNull() && !tiff) {
     best = AnyPreview(file, longerSide);
