@@ -96,9 +96,10 @@ bool AreInOneGroup(const std::multimap<std::string, int>& groups, const std::str
 }
 
 /// Empty: it is measured.
-std::string WhyPassedOver(const Lumidex::Host::FoundPixels& found) {
-  if (found.image.isNull()) {
-    return found.cause;
+std::string WhyPassedOver(const ioPath& file, const Lumidex::Host::FoundPixels& found) {
+  const auto described = Lumidex::Host::DescribePhoto(file, Lumidex::Host::LayoutAnalyser());
+  if (found.image.isNull() || described.descriptor.empty()) {
+    return described.cause;
   }
   const int shorter = std::min(found.image.width(), found.image.height());
   const int longer = std::max(found.image.width(), found.image.height());
@@ -124,7 +125,7 @@ Photos ChoosePhotos(const PhotoChoice& choice) {
   for (const ioPath& file : FilesBelow(choice.folder)) {
     const auto found = Lumidex::Host::FindPixels(file, kCompared, Lumidex::Host::kPreviewsNever);
     const std::string name = file.filename().utf8string();
-    const std::string cause = WhyPassedOver(found);
+    const std::string cause = WhyPassedOver(file, found);
     if (!cause.empty()) {
       photos.passedOver.push_back(name + ": " + cause);
       continue;

@@ -153,83 +153,107 @@ QImage OnWhite(const QImage& picture) {
 /// For each of `kSide` pixels the source pixels that it is made of.
 struct Filter {
   struct Taps {
-    int first = 0;
-    std::vector<float> weights;
+    std::size_t first = 0;   ///< Source pixel.
+    std::size_t weight = 0;  ///< Index of its weight.
+    std::size_t count = 0;
   };
-  std::vector<Taps> pixels;
+  std::array<Taps, kSide> pixels;
+  std::vector<float> weights;
 };
 
 /// A triangle as wide as two pixels of the coarser side.
 Filter TriangleFilter(int sourceSide) {
-  Filter filter;
+  Filter filter{};
   const double scale = static_cast<double>(sourceSide) / kSide;
   const double reach = std::max(1.0, scale);
   for (int i = 0; i < kSide; ++i) {
     const double centre = (i + 0.5) * scale;
     const int first = std::max(0, static_cast<int>(std::floor(centre - reach + 0.5)));
     const int last = std::min(sourceSide, static_cast<int>(std::floor(centre + reach + 0.5)));
-    Filter::Taps taps;
-    taps.first = first;
-    std::vector<double> weights;
+    const auto weightAt = [&](int source) {
+      return std::max(0.0, 1 - std::abs(source + 0.5 - centre) / reach);
+    };
     double sum = 0;
-    for (int s = first; s < last; ++s) {
-      weights.push_back(std::max(0.0, 1 - std::abs(s + 0.5 - centre) / reach));
-      sum += weights.back();
+    for (int source = first; source < last; ++source) {
+      sum += weightAt(source);
     }
-    for (const double weight : weights) {
-      taps.weights.push_back(static_cast<float>(weight / sum));
+    filter.pixels[static_cast<std::size_t>(i)] = {static_cast<std::size_t>(first), filter.weights.size(),
+                                                  static_cast<std::size_t>(last - first)};
+    for (int source = first; source < last; ++source) {
+      filter.weights.push_back(static_cast<float>(weightAt(source) / sum));
     }
-    filter.pixels.push_back(std::move(taps));
   }
   return filter;
 }
 
-/// One row of the picture in three channels, narrowed to the square's side.
-using Row = std::array<float, 3 * kSide>;
+/// Lines of numbers, one behind the other.
+struct Lines {
+  std::size_t length = 0;
+  std::vector<float> numbers;
 
-Row NarrowedRow(const QRgb* pixels, const Filter& across) {
-  Row row{};
-  for (std::size_t x = 0; x < kSide; ++x) {
-    const Filter::Taps& taps = across.pixels[x];
-    float red = 0;
-    float green = 0;
-    float blue = 0;
-    for (std::size_t i = 0; i < taps.weights.size(); ++i) {
-      const QRgb pixel = pixels[static_cast<std::size_t>(taps.first) + i];
-      red += taps.weights[i] * static_cast<float>(qRed(pixel));
-      green += taps.weights[i] * static_cast<float>(qGreen(pixel));
-      blue += taps.weights[i] * static_cast<float>(qBlue(pixel));
+  Lines(std::size_t count, std::size_t lineLength) : length(lineLength), numbers(count * lineLength) {}
+  float* At(std::size_t line) { return numbers.data() + line * length; }
+  const float* At(std::size_t line) const { return numbers.data() + line * length; }
+};
+
+/// Each row of the picture as a line: its reds, its greens, its blues.
+Lines RowsOf(const QImage& picture, const QRect& part) {
+  const auto width = static_cast<std::size_t>(part.width());
+  Lines rows(static_cast<std::size_t>(part.height()), 3 * width);
+  for (int y = 0; y < part.height(); ++y) {
+    const QRgb* pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(part.top() + y)) + part.left();
+    float* row = rows.At(static_cast<std::size_t>(y));
+    for (std::size_t x = 0; x < width; ++x) {
+      row[x] = static_cast<float>(qRed(pixels[x]));
+      row[width + x] = static_cast<float>(qGreen(pixels[x]));
+      row[2 * width + x] = static_cast<float>(qBlue(pixels[x]));
     }
-    row[x] = red;
-    row[kSide + x] = green;
-    row[2 * kSide + x] = blue;
   }
-  return row;
+  return rows;
+}
+
+/// As many lines as the square has, each made of those around its place.
+Lines Filtered(const Lines& lines, const Filter& filter) {
+  Lines result(kSide, lines.length);
+  for (std::size_t i = 0; i < kSide; ++i) {
+    const Filter::Taps& taps = filter.pixels[i];
+    float* sum = result.At(i);
+    for (std::size_t tap = 0; tap < taps.count; ++tap) {
+      const float weight = filter.weights[taps.weight + tap];
+      const float* line = lines.At(taps.first + tap);
+      for (std::size_t at = 0; at < lines.length; ++at) {
+        sum[at] += weight * line[at];
+      }
+    }
+  }
+  return result;
+}
+
+/// Rows of three channels become columns of three channels.
+Lines ColumnsOf(const Lines& rows) {
+  const std::size_t width = rows.length / 3;
+  Lines columns(width, 3 * kSide);
+  for (std::size_t y = 0; y < kSide; ++y) {
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+      const float* row = rows.At(y) + channel * width;
+      for (std::size_t x = 0; x < width; ++x) {
+        columns.At(x)[channel * kSide + y] = row[x];
+      }
+    }
+  }
+  return columns;
 }
 
 Planes SquareOf(const QImage& picture, const QRect& part) {
-  const Filter across = TriangleFilter(part.width());
-  const Filter down = TriangleFilter(part.height());
-  std::vector<Row> rows;
-  rows.reserve(static_cast<std::size_t>(part.height()));
-  for (int y = 0; y < part.height(); ++y) {
-    rows.push_back(NarrowedRow(
-        reinterpret_cast<const QRgb*>(picture.constScanLine(part.top() + y)) + part.left(), across));
-  }
+  const Lines rows = Filtered(RowsOf(picture, part), TriangleFilter(part.height()));
+  const Lines columns = Filtered(ColumnsOf(rows), TriangleFilter(part.width()));
   Planes planes;
-  for (std::size_t y = 0; y < kSide; ++y) {
-    Row sum{};
-    const Filter::Taps& taps = down.pixels[y];
-    for (std::size_t i = 0; i < taps.weights.size(); ++i) {
-      const Row& row = rows[static_cast<std::size_t>(taps.first) + i];
-      for (std::size_t x = 0; x < row.size(); ++x) {
-        sum[x] += taps.weights[i] * row[x];
-      }
-    }
-    for (std::size_t x = 0; x < kSide; ++x) {
-      const float red = sum[x];
-      const float green = sum[kSide + x];
-      const float blue = sum[2 * kSide + x];
+  for (std::size_t x = 0; x < kSide; ++x) {
+    const float* column = columns.At(x);
+    for (std::size_t y = 0; y < kSide; ++y) {
+      const float red = column[y];
+      const float green = column[kSide + y];
+      const float blue = column[2 * kSide + y];
       const float light = 0.299F * red + 0.587F * green + 0.114F * blue;
       planes.light[y * kSide + x] = light;
       planes.blue[y * kSide + x] = 0.564F * (blue - light);
@@ -277,27 +301,29 @@ void AppendWaves(const Plane& plane, const std::vector<Wave>& waves, std::vector
 }
 
 Plane Blurred(const Plane& plane) {
-  // A bell of one pixel's deviation.
+  // A bell of one pixel's deviation. Beyond the edges the last pixel goes on.
   constexpr std::array kBell = {0.00443305F, 0.05400558F, 0.24203623F, 0.39905028F,
                                 0.24203623F, 0.05400558F, 0.00443305F};
-  constexpr int kReach = 3;
-  const auto nearest = [](int i) { return static_cast<std::size_t>(std::clamp(i, 0, kSide - 1)); };
+  constexpr std::size_t kReach = kBell.size() / 2;
   Plane across{};
-  Plane result{};
-  for (int y = 0; y < kSide; ++y) {
-    for (int x = 0; x < kSide; ++x) {
-      float sum = 0;
-      for (int i = -kReach; i <= kReach; ++i) {
-        sum += kBell[static_cast<std::size_t>(i + kReach)] * plane[nearest(y) * kSide + nearest(x + i)];
+  for (std::size_t y = 0; y < kSide; ++y) {
+    std::array<float, kSide + 2 * kReach> row{};
+    const float* pixels = plane.data() + y * kSide;
+    std::fill_n(row.begin(), kReach, pixels[0]);
+    std::copy_n(pixels, kSide, row.begin() + kReach);
+    std::fill_n(row.begin() + kReach + kSide, kReach, pixels[kSide - 1]);
+    for (std::size_t i = 0; i < kBell.size(); ++i) {
+      for (std::size_t x = 0; x < kSide; ++x) {
+        across[y * kSide + x] += kBell[i] * row[x + i];
       }
-      across[nearest(y) * kSide + nearest(x)] = sum;
     }
   }
-  for (int y = 0; y < kSide; ++y) {
-    for (int i = -kReach; i <= kReach; ++i) {
-      const float weight = kBell[static_cast<std::size_t>(i + kReach)];
+  Plane result{};
+  for (std::size_t y = 0; y < kSide; ++y) {
+    for (std::size_t i = 0; i < kBell.size(); ++i) {
+      const std::size_t from = std::clamp<std::size_t>(y + i, kReach, kSide + kReach - 1) - kReach;
       for (std::size_t x = 0; x < kSide; ++x) {
-        result[nearest(y) * kSide + x] += weight * across[nearest(y + i) * kSide + x];
+        result[y * kSide + x] += kBell[i] * across[from * kSide + x];
       }
     }
   }

@@ -3,6 +3,7 @@
 
 #include <host/PhotoAnalysis.h>
 
+#include <cstdint>
 #include <exception>
 #include <optional>
 #include <utility>
@@ -14,6 +15,23 @@ namespace {
 /// From here on a preview is found and decoded sooner than the picture at reduced size.
 constexpr std::int64_t kWorthLooking = 500'000;
 
+/// A JPEG decoder makes all that it cannot read mid-grey. A sliver above that is no picture either.
+bool ShowsNothingButFill(const QImage& image) {
+  constexpr QRgb kFill = qRgb(128, 128, 128);
+  constexpr double kLeastShown = 0.05;
+  const double most = kLeastShown * image.width() * image.height();
+  std::int64_t shown = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      shown += image.pixel(x, y) != kFill ? 1 : 0;
+    }
+    if (static_cast<double>(shown) > most) {
+      return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
 PhotoDescription DescribePhoto(const ioPath& file, const PhotoAnalyser& analyser,
@@ -24,7 +42,10 @@ PhotoDescription DescribePhoto(const ioPath& file, const PhotoAnalyser& analyser
         FindPixels(file, analyser.LongerSide(), options.usePreviews ? kWorthLooking : kPreviewsNever);
     result.size = found.size;
     result.cause = std::move(found.cause);
-    if (!found.image.isNull()) {
+    if (!found.image.isNull() && found.isJpeg && ShowsNothingButFill(found.image)) {
+      // Such damaged photos would all be alike.
+      result.cause = "nothing of the picture can be decoded";
+    } else if (!found.image.isNull()) {
       result.descriptor = analyser.Describe(found.image);
       result.source = found.source;
     }

@@ -15,8 +15,7 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-/// Of pictures that the decoder holds whole, also where a pixel is but a bit: scaling makes bytes of them.
-constexpr std::int64_t kMostPixels = 100'000'000;
+/// Taken by such a picture, in the form that its decoder gives.
 constexpr std::int64_t kMostBytes = 400'000'000;
 /// JPEG is decoded row by row, but for progressive ones.
 constexpr std::int64_t kMostJpegPixels = 300'000'000;
@@ -82,23 +81,6 @@ bool IsTooLarge(QImageReader& reader, QIODevice& device, std::int64_t pixels) {
   return pixels > kMostPixels || pixels * std::max(bits, 8) / 8 > kMostBytes;
 }
 
-/// A JPEG decoder makes all that it cannot read mid-grey. A sliver above that is no picture either.
-bool IsFill(const QImage& image) {
-  constexpr QRgb kFill = qRgb(128, 128, 128);
-  constexpr double kLeastShown = 0.05;
-  const double most = kLeastShown * image.width() * image.height();
-  std::int64_t shown = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      shown += image.pixel(x, y) != kFill ? 1 : 0;
-    }
-    if (static_cast<double>(shown) > most) {
-      return false;
-    }
-  }
-  return true;
-}
-
 QImage InSrgb(QImage image) {
   const QColorSpace space = image.colorSpace();
   if (space.isValid() && space != QColorSpace(QColorSpace::SRgb)) {
@@ -120,6 +102,11 @@ QSize FittedSize(const QSize& size, int longerSide) {
           std::max(1, static_cast<int>(std::lround(size.height() * scale)))};
 }
 
+std::string TooLargeText(const QSize& size) {
+  return "the picture is too large: " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
+         " pixels";
+}
+
 DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);
@@ -136,8 +123,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   result.size = turned ? size.transposed() : size;
   const std::int64_t pixels = static_cast<std::int64_t>(size.width()) * size.height();
   if (IsTooLarge(reader, device, pixels)) {
-    result.cause = "the picture is too large: " + std::to_string(size.width()) + " x " +
-                   std::to_string(size.height()) + " pixels";
+    result.cause = TooLargeText(size);
     return result;
   }
   static std::mutex largeOnes;
@@ -151,7 +137,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
     reader.setScaledSize(wished);
   }
   QImage image = reader.read();
-  if (image.isNull() || (jpeg && IsFill(image))) {
+  if (image.isNull()) {
     result.cause = "nothing of the picture can be decoded";
     return result;
   }

@@ -5,9 +5,15 @@
 #include <QImage>
 #include <QSize>
 
+#include <cstdint>
 #include <string>
 
 namespace Zenvora::Lumidex::Host {
+
+/// Of pictures that the decoder holds whole, also where a pixel is but a bit: scaling makes bytes of them.
+constexpr std::int64_t kMostPixels = 100'000'000;
+/// The cause for pictures that are beyond such limits.
+std::string TooLargeText(const QSize& size);
 
 /// What decoding a picture gave.
 struct DecodedPicture {

@@ -6,8 +6,9 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/strandel/EmbeddedPreview.h>
+#include <zenvora/strandel/JpegHead.h>
 
-#include <QImageReader>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -18,6 +19,13 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 constexpr std::uint64_t kMostFileBytes = 512ULL * 1024 * 1024;
+
+/// Sides beyond that only say that the file lies.
+constexpr quint32 kMostSide = 1'000'000'000;
+
+std::int64_t PixelsOf(const QSize& size) {
+  return static_cast<std::int64_t>(size.width()) * size.height();
+}
 
 int LongerSide(const QImage& image) {
   return std::max(image.width(), image.height());
@@ -45,29 +53,59 @@ std::string Refusal(const ioPath& file) {
   return state.size > kMostFileBytes ? "the file is larger than 512 MiB" : "";
 }
 
-/// The previews of other shapes that will do.
-enum class OtherShapes {
-  BetweenBars,  ///< Where the bars that fill a fixed frame can be cut off.
-  All,          ///< For files that nothing else here can show.
-};
-
-QImage PreviewOf(const ioPath& file, int longerSide, const QSize& picture, OtherShapes others) {
-  const Strandel::EmbeddedPreview preview = Strandel::ReadEmbeddedPreview(file, longerSide);
-  if (preview.bytes.isEmpty()) {
-    return {};
-  }
-  QImage image = DecodeBytes(preview.bytes, longerSide);
-  if (!preview.sameShape && others == OtherShapes::BetweenBars && !image.isNull()) {
-    image = BetweenDarkBars(image, picture);
-  }
-  return image.isNull() ? image : Turned(image, preview.orientation);
+/// Thumbnails of another shape have bars, or were left over from before an edit.
+bool AreOfOneShape(const QSize& a, const QSize& b) {
+  // Cameras cut a few rows off or round.
+  constexpr double kTolerance = 0.03;
+  return !a.isEmpty() && !b.isEmpty() &&
+         std::abs(static_cast<double>(a.width()) * b.height() /
+                      (static_cast<double>(b.width()) * a.height()) -
+                  1) <= kTolerance;
 }
 
-/// Pixels of a JPEG file as stored; empty when its head is damaged.
-QSize JpegSize(QIODevice& device) {
-  const QSize size = QImageReader(&device, "jpeg").size();
-  device.seek(0);
-  return size;
+/// What the file's previews show, whatever their shape: for files that nothing else here can show.
+QImage AnyPreview(const ioPath& file, int longerSide) {
+  const Strandel::EmbeddedPreview preview = Strandel::ReadEmbeddedPreview(file, longerSide);
+  return preview.bytes.isEmpty() ? QImage()
+                                 : Turned(DecodeBytes(preview.bytes, longerSide), preview.orientation);
+}
+
+/// A preview of the picture's shape that is large enough; null when there is none. The thumbnail of the EXIF
+/// block serves where it can, since it is found at once.
+QImage PreviewOfShape(const ioPath& file, int longerSide, const Strandel::JpegHead& head) {
+  QImage thumbnail = DecodeBytes(head.thumbnail, longerSide);
+  if (!thumbnail.isNull() && !AreOfOneShape(thumbnail.size(), head.size)) {
+    thumbnail = BetweenDarkBars(thumbnail, head.size);
+  }
+  if (LongerSide(thumbnail) >= longerSide) {
+    return Turned(thumbnail, head.orientation);
+  }
+  const Strandel::EmbeddedPreview other = Strandel::ReadEmbeddedPreview(file, longerSide);
+  if (other.bytes.isEmpty() || !other.sameShape ||
+      std::max(other.size.width(), other.size.height()) < longerSide) {
+    return {};
+  }
+  return Turned(DecodeBytes(other.bytes, longerSide), other.orientation);
+}
+
+/// The most pixels that a picture within the file claims, when its boxes say so near the beginning. Decoders
+/// of HEIC and its kin tell the size only when they have decoded.
+QSize LargestClaimed(QIODevice& device) {
+  constexpr qint64 kLooked = 1024 * 1024;
+  const QByteArray head = device.peek(kLooked);
+  QSize largest(0, 0);
+  for (int at = head.indexOf("ispe"); at >= 0; at = head.indexOf("ispe", at + 4)) {
+    const QByteArray box = head.mid(at + 8, 8);
+    if (box.size() < 8) {
+      break;
+    }
+    const QSize size(static_cast<int>(std::min(qFromBigEndian<quint32>(box.constData()), kMostSide)),
+                     static_cast<int>(std::min(qFromBigEndian<quint32>(box.constData() + 4), kMostSide)));
+    if (PixelsOf(size) > PixelsOf(largest)) {
+      largest = size;
+    }
+  }
+  return largest;
 }
 
 FoundPixels FromPreview(QImage preview, const QSize& stored) {
@@ -85,7 +123,8 @@ bool IsBrightIn(const QImage& image, const QRect& part) {
   constexpr int kDark = 40;
   for (int y = part.top(); y <= part.bottom(); ++y) {
     for (int x = part.left(); x <= part.right(); ++x) {
-      if (qGray(image.pixel(x, y)) > kDark) {
+      const QRgb pixel = image.pixel(x, y);
+      if (std::max({qRed(pixel), qGreen(pixel), qBlue(pixel)}) > kDark) {
         return true;
       }
     }
@@ -133,28 +172,37 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
     found.cause = "the file cannot be opened";
     return found;
   }
-  const QByteArray head = device.peek(2);
-  const bool tiff = head == "II" || head == "MM";
+  const QByteArray mark = device.peek(2);
+  const bool tiff = mark == "II" || mark == "MM";
+  if (device.peek(8).mid(4) == "ftyp") {
+    const QSize claimed = LargestClaimed(device);
+    if (PixelsOf(claimed) > kMostPixels) {
+      found.cause = TooLargeText(claimed);
+      return found;
+    }
+  }
   QImage best;
   QSize stored;
-  if (head == "\xFF\xD8") {
-    stored = JpegSize(device);
-    if (static_cast<std::int64_t>(stored.width()) * stored.height() >= previewsFrom) {
-      best = PreviewOf(file, longerSide, stored, OtherShapes::BetweenBars);
+  if (mark == "\xFF\xD8" && previewsFrom != kPreviewsNever) {
+    const Strandel::JpegHead head = Strandel::ReadJpegHead(device.read(Strandel::kJpegHead));
+    device.seek(0);
+    stored = head.size;
+    if (PixelsOf(stored) >= previewsFrom) {
+      best = PreviewOfShape(file, longerSide, head);
     }
   } else if (tiff) {
     // Most raw formats are TIFF files whose first picture is tiny: their previews come first.
-    best = PreviewOf(file, longerSide, {}, OtherShapes::All);
+    best = AnyPreview(file, longerSide);
   }
   if (LongerSide(best) >= longerSide) {
     return FromPreview(std::move(best), stored);
   }
   DecodedPicture decoded = DecodePicture(device, longerSide, true);
   if (!decoded.image.isNull() && LongerSide(decoded.image) >= LongerSide(best)) {
-    return {std::move(decoded.image), PixelSource::Picture, decoded.size, {}};
+    return {std::move(decoded.image), PixelSource::Picture, mark == "\xFF\xD8", decoded.size, {}};
   }
   if (best.isNull() && !tiff) {
-    best = PreviewOf(file, longerSide, stored, OtherShapes::All);
+    best = AnyPreview(file, longerSide);
   }
   if (best.isNull()) {
     found.size = decoded.size;

@@ -16,8 +16,9 @@ namespace Zenvora::Lumidex::Host {
 struct FoundPixels {
   QImage image;  ///< Upright.
   PixelSource source = PixelSource::None;
-  QSize size;         ///< As in `PhotoDescription`.
-  std::string cause;  ///< When the image is null.
+  bool isJpeg = false;  ///< The pixels were decoded from the JPEG file itself.
+  QSize size;           ///< As in `PhotoDescription`.
+  std::string cause;    ///< When the image is null.
 };
 
 /// JPEG pictures with at least so many pixels may be shown by a preview that the file carries.

@@ -74,17 +74,26 @@ QRgb MedianColour(const Strip& strip) {
   return qRgb(medians[0], medians[1], medians[2]);
 }
 
+bool AreAlike(QRgb a, QRgb b) {
+  return std::abs(qRed(a) - qRed(b)) <= kTolerance && std::abs(qGreen(a) - qGreen(b)) <= kTolerance &&
+         std::abs(qBlue(a) - qBlue(b)) <= kTolerance;
+}
+
 double ShareOf(QRgb colour, const Strip& strip, int row) {
   int alike = 0;
   for (int column = 0; column < strip.Columns(); ++column) {
-    const QRgb pixel = strip.At(row, column);
-    alike += std::abs(qRed(pixel) - qRed(colour)) <= kTolerance &&
-                     std::abs(qGreen(pixel) - qGreen(colour)) <= kTolerance &&
-                     std::abs(qBlue(pixel) - qBlue(colour)) <= kTolerance
-                 ? 1
-                 : 0;
+    alike += AreAlike(strip.At(row, column), colour) ? 1 : 0;
   }
   return static_cast<double>(alike) / strip.Columns();
+}
+
+/// Whether the picture changes between these rows, and not little by little, as a sky does.
+bool IsEdge(const Strip& strip, int row, int next) {
+  int alike = 0;
+  for (int column = 0; column < strip.Columns(); ++column) {
+    alike += AreAlike(strip.At(row, column), strip.At(next, column)) ? 1 : 0;
+  }
+  return alike <= kPicture * strip.Columns();
 }
 
 /// How many rows the bar on this side has; 0: there is none.
@@ -106,10 +115,11 @@ int BarOn(const Strip& strip) {
       continue;
     }
     // The row of the edge may be a mixture. One row more goes, which the other side has coloured.
-    if (shares[rows] <= kPicture) {
-      bar = static_cast<int>(rows) + 1;
-    } else if (shares[rows] < kPlain && shares[rows + 1] <= kPicture) {
-      bar = static_cast<int>(rows) + 2;
+    const int last = static_cast<int>(rows) - 1;
+    if (shares[rows] <= kPicture && IsEdge(strip, last, last + 1)) {
+      bar = last + 2;
+    } else if (shares[rows] < kPlain && shares[rows + 1] <= kPicture && IsEdge(strip, last, last + 2)) {
+      bar = last + 3;
     }
   }
   return bar;

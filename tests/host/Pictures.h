@@ -1,0 +1,89 @@
+#pragma once
+
+#include "SampleScenes.h"
+
+#include <support/ExivPath.h>
+#include <support/TempTree.h>
+
+#include <exiv2/exiv2.hpp>
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QImage>
+
+#include <cstdint>
+#include <string>
+
+namespace Zenvora::Lumidex::Host::TestPictures {
+
+inline QImage Scene(SceneKind kind, std::uint32_t seed = 1, QSize size = {640, 480}) {
+  SceneLook look;
+  look.kind = kind;
+  look.seed = seed;
+  look.size = size;
+  return DrawScene(look).convertToFormat(QImage::Format_RGB32);
+}
+
+inline QImage Plain(const QSize& size, const QColor& colour) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(colour);
+  return image;
+}
+
+inline QByteArray Encoded(const QImage& image, const char* format = "JPEG", int quality = 92) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, format, quality);
+  return bytes;
+}
+
+/// A JPEG file with this EXIF thumbnail; null: none.
+inline ioPath WithThumbnail(const Zenvora::Test::TempTree& tree, const std::string& name,
+                            const QImage& picture, const QImage& thumbnail, int orientation = 1) {
+  ioPath file = tree.Write(name, Encoded(picture).toStdString());
+  const auto image = Exiv2::ImageFactory::open(Zenvora::Test::ExivPath(file));
+  Exiv2::ExifData exif;
+  exif["Exif.Image.Orientation"] = static_cast<std::uint16_t>(orientation);
+  if (!thumbnail.isNull()) {
+    const QByteArray small = Encoded(thumbnail);
+    Exiv2::ExifThumb(exif).setJpegThumbnail(reinterpret_cast<const Exiv2::byte*>(small.constData()),
+                                            small.size());
+  }
+  image->setExifData(exif);
+  image->writeMetadata();
+  return file;
+}
+
+/// The head of a PNG file that claims this size and depth, with a right checksum; no pixels follow.
+inline QByteArray PngHead(std::uint32_t width, std::uint32_t height, int bits, int colourType) {
+  QByteArray head("IHDR");
+  for (const std::uint32_t side : {width, height}) {
+    for (int shift = 24; shift >= 0; shift -= 8) {
+      head.append(static_cast<char>(side >> shift & 0xFFU));
+    }
+  }
+  head.append(static_cast<char>(bits));
+  head.append(static_cast<char>(colourType));
+  head.append(3, '\0');
+  std::uint32_t crc = 0xFFFFFFFFU;
+  for (const char c : head) {
+    crc ^= static_cast<unsigned char>(c);
+    for (int bit = 0; bit < 8; ++bit) {
+      crc = (crc >> 1U) ^ ((crc & 1U) != 0 ? 0xEDB88320U : 0U);
+    }
+  }
+  crc ^= 0xFFFFFFFFU;
+  QByteArray png = QByteArray::fromHex("89504e470d0a1a0a0000000d") + head;
+  for (int shift = 24; shift >= 0; shift -= 8) {
+    png.append(static_cast<char>(crc >> shift & 0xFFU));
+  }
+  // An empty IDAT and the end, so that readers look at the head.
+  return png + QByteArray::fromHex(
+                   "0000000049444154"
+                   "35af061e"
+                   "0000000049454e44"
+                   "ae426082");
+}
+
+}  // namespace Zenvora::Lumidex::Host::TestPictures
