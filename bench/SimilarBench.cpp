@@ -366,6 +366,7 @@ void SimilarHostileIndex(benchmark::State& state) {
   index.FindFirst(photos[0]);
   for (auto _ : state) {
     std::vector<const Template*> coming;
+    coming.reserve(photos.size());
     for (const Template& photo : photos) {
       coming.push_back(&photo);
     }

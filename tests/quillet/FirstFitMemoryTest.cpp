@@ -21,6 +21,7 @@ TEST(FirstFit, AnswersRightlyWithoutMemory) {
   constexpr float kThreshold = 0.91F;
   const auto vectors = MakeVectors(VectorKind::Mixed, 320, 24, kThreshold, 9);
   std::vector<const Template*> coming;
+  coming.reserve(vectors.size());
   for (const Template& vector : vectors) {
     coming.push_back(&vector);
   }

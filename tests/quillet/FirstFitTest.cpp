@@ -247,6 +247,7 @@ TEST(FirstFit, ContinuesBehindAMatchThatMovedAway) {
   centres[50] = centres[10];
   const std::vector<Template> queries(5, centres[10]);
   std::vector<const Template*> coming;
+  coming.reserve(queries.size());
   for (const Template& query : queries) {
     coming.push_back(&query);
   }

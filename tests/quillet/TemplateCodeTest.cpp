@@ -36,6 +36,7 @@ struct Coded {
 std::vector<TemplateCode::Vector> WithSquares(const std::vector<Template>& vectors,
                                               const MatchKernel& kernel) {
   std::vector<TemplateCode::Vector> result;
+  result.reserve(vectors.size());
   for (const Template& vector : vectors) {
     result.push_back({vector.data(), kernel.dot(vector.data(), vector.data(), vector.size())});
   }

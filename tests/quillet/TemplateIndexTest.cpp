@@ -21,6 +21,7 @@ constexpr float kThreshold = 0.91F;
 
 std::vector<const Template*> PointersTo(const std::vector<Template>& vectors) {
   std::vector<const Template*> pointers;
+  pointers.reserve(vectors.size());
   for (const Template& vector : vectors) {
     pointers.push_back(&vector);
   }
