@@ -25,7 +25,15 @@ namespace {
 
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
-using namespace Lumidex::Host;
+using Lumidex::Host::DescribePhoto;
+using Lumidex::Host::LayoutAnalyser;
+using Lumidex::Host::MakeSample;
+using Lumidex::Host::PhotoDescription;
+using Lumidex::Host::PhotoRecord;
+using Lumidex::Host::PixelSource;
+using Lumidex::Host::ReadPhoto;
+using Lumidex::Host::SampleOptions;
+using Lumidex::Host::ScanFinding;
 
 constexpr int kDrawn = 50;
 /// As many as fit into memory with ease; they take turns.

@@ -21,9 +21,14 @@ namespace Zenvora::Bench {
 namespace {
 
 namespace fs = std::filesystem;
-using namespace Lumidex::Host;
+using Lumidex::Host::AnalysisOptions;
+using Lumidex::Host::DescribePhoto;
+using Lumidex::Host::LayoutAnalyser;
+using Lumidex::Host::PhotoDescription;
+using Lumidex::Host::PixelSource;
 
 constexpr int kHashed = 256;
+constexpr std::size_t kThreads = 2;
 
 enum class Relation { Own, Different, NotCounted };
 
@@ -160,7 +165,8 @@ std::vector<Sample> MakeSamples(const Photos& photos, const ioPath& work, int lo
   std::exception_ptr failure;
   std::mutex failing;
   std::vector<std::thread> threads;
-  for (int i = 0; i < 2; ++i) {
+  threads.reserve(kThreads);
+  for (std::size_t i = 0; i < kThreads; ++i) {
     threads.emplace_back([&] {
       try {
         for (std::size_t photo = next++; photo < photos.files.size(); photo = next++) {

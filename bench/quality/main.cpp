@@ -67,6 +67,7 @@ void PrintRow(const std::string& name, std::size_t count, const std::vector<doub
 template <typename Value>
 std::vector<double> OfAll(const std::vector<Column>& columns, const Value& value) {
   std::vector<double> values;
+  values.reserve(columns.size());
   for (const Column& column : columns) {
     values.push_back(value(column.score));
   }

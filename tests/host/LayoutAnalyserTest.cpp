@@ -49,6 +49,7 @@ void ExpectUnit(const std::vector<float>& vector, const std::string& what) {
 /// Scenes that nobody would take for one another.
 std::vector<QImage> DifferentScenes() {
   std::vector<QImage> scenes;
+  scenes.reserve(kSceneKinds);
   for (int kind = 0; kind < kSceneKinds; ++kind) {
     scenes.push_back(Scene(static_cast<SceneKind>(kind), 7));
   }

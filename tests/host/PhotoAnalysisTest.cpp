@@ -22,7 +22,6 @@ namespace {
 
 using Test::Closed;
 using Test::IsSuperuser;
-using Test::kNamesAreText;
 using Test::Pipe;
 using Test::ReadFile;
 using Test::TempTree;
@@ -251,7 +250,7 @@ TEST(DescribePhoto, OpensNamesThatAreNoUtf8) {
   EXPECT_GT(Likeness(description, Shown()), 0.98);
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(DescribePhoto, OpensNamesThatAreNoUtf8, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(DescribePhoto, OpensNamesThatAreNoUtf8, Zenvora::Test::kNamesAreText);
 #endif
 
 TEST(DescribePhoto, OpensNamesInOtherScripts) {
