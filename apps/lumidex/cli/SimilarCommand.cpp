@@ -34,8 +34,8 @@ constexpr char kDescription[] =
 constexpr char kFooter[] =
     R"(The numbers before a photo are its score against the middle of its group (1 is
 the most; above 0.91 is similar), its pixels and its bytes. Suggested to keep
-is the largest picture; of equally large ones one with the camera's data, then
-the earliest.
+is the largest picture; of equally large ones the sharpest, then one with the
+camera's data, then the earliest.
 
 Examples:
   lumidex similar
@@ -60,6 +60,18 @@ struct SimilarArguments {
 
 std::string FileName(const Host::SimilarMember& member) {
   return member.photo.path.filename().utf8string();
+}
+
+const char* VerbOf(Host::SimilarProgress::Step step) {
+  switch (step) {
+    case Host::SimilarProgress::Step::Analysing:
+      return "Looking at";
+    case Host::SimilarProgress::Step::Grouping:
+      return "Grouping";
+    case Host::SimilarProgress::Step::Measuring:
+      return "Measuring";
+  }
+  return "";
 }
 
 /// One run of the command.
@@ -111,8 +123,7 @@ class SimilarRun {
     const Host::SimilarUpdateResult result =
         Host::UpdateSimilar(similar_, analyser_, options, [&](const Host::SimilarProgress& now) {
           if (!progress || now.step != last.step) {
-            const bool analysing = now.step == Host::SimilarProgress::Step::Analysing;
-            progress.emplace(session_.console, analysing ? "Looking at" : "Grouping", "photos");
+            progress.emplace(session_.console, VerbOf(now.step), "photos");
           }
           last = now;
           progress->Update(now.done, now.total);

@@ -54,6 +54,7 @@ class SimilarPhotos::Impl {
 
   std::vector<PhotoRecord> Pending() const;
   void Store(const std::vector<AnalysedPhoto>& photos);
+  void StoreSharpness(const std::vector<std::pair<QString, double>>& photos);
   std::vector<std::pair<PhotoRecord, std::string>> Problems() const;
   std::size_t AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress);
   std::size_t CountClustered() const;
@@ -188,6 +189,20 @@ void SimilarPhotos::Impl::Store(const std::vector<AnalysedPhoto>& photos) {
   if (!clustersStand) {
     manager_.reset();
   }
+}
+
+void SimilarPhotos::Impl::StoreSharpness(const std::vector<std::pair<QString, double>>& photos) {
+  WriteTransaction transaction(database_);
+  QSqlQuery query = database_.Prepare(
+      "UPDATE features SET sharpness = ? WHERE analyser = ? AND photo = (SELECT number FROM photos WHERE id "
+      "= ?)");
+  for (const auto& [id, sharpness] : photos) {
+    query.addBindValue(sharpness);
+    query.addBindValue(analyser_);
+    query.addBindValue(id);
+    database_.Run(query);
+  }
+  transaction.Commit();
 }
 
 std::vector<std::pair<PhotoRecord, std::string>> SimilarPhotos::Impl::Problems() const {
@@ -347,6 +362,10 @@ std::vector<PhotoRecord> SimilarPhotos::Pending() const {
 
 void SimilarPhotos::Store(const std::vector<AnalysedPhoto>& photos) {
   impl_->Store(photos);
+}
+
+void SimilarPhotos::StoreSharpness(const std::vector<std::pair<QString, double>>& photos) {
+  impl_->StoreSharpness(photos);
 }
 
 std::vector<std::pair<PhotoRecord, std::string>> SimilarPhotos::Problems() const {

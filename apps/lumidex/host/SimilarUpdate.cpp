@@ -1,10 +1,15 @@
+#include "DetailMeter.h"
+
 #include <host/SimilarUpdate.h>
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 
+#include <algorithm>
+#include <atomic>
+#include <cstdint>
 #include <fstream>
-#include <optional>
+#include <utility>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -88,6 +93,62 @@ void Analyse(SimilarPhotos& similar, const PhotoAnalyser& analyser, const Analys
   result.cancelled = result.analysed < photos.size();
 }
 
+std::int64_t PixelsOf(const SimilarMember& member) {
+  return std::int64_t{member.features.width} * member.features.height;
+}
+
+/// Photos that are no smaller than any of their group, where there are several, and not measured yet.
+std::vector<PhotoRecord> ToMeasure(const SimilarPhotos& similar) {
+  std::vector<PhotoRecord> photos;
+  for (const SimilarGroup& group : similar.Groups(2)) {
+    std::int64_t most = 0;
+    for (const SimilarMember& member : group.members) {
+      most = std::max(most, PixelsOf(member));
+    }
+    std::vector<const SimilarMember*> largest;
+    for (const SimilarMember& member : group.members) {
+      if (PixelsOf(member) == most) {
+        largest.push_back(&member);
+      }
+    }
+    for (const SimilarMember* const member : largest) {
+      if (largest.size() > 1 && member->features.sharpness == 0) {
+        photos.push_back(member->photo);
+      }
+    }
+  }
+  return photos;
+}
+
+void MeasureDetail(SimilarPhotos& similar, AnalysisOptions options, const SimilarProgressHandler& progress,
+                   SimilarUpdateResult& result) {
+  const std::vector<PhotoRecord> photos = ToMeasure(similar);
+  std::vector<ioPath> files;
+  files.reserve(photos.size());
+  for (const PhotoRecord& photo : photos) {
+    files.push_back(photo.path);
+  }
+  // A preview does not show whether the picture is sharp.
+  options.usePreviews = false;
+  std::vector<std::pair<QString, double>> measured;
+  const std::size_t done =
+      DescribePhotos(files, DetailMeter(), options, [&](std::size_t index, PhotoDescription&& found) {
+        if (!found.descriptor.empty()) {
+          measured.emplace_back(photos[index].id, static_cast<double>(found.descriptor.front()));
+        }
+        if (measured.size() >= kBatch) {
+          similar.StoreSharpness(std::exchange(measured, {}));
+        }
+        if (progress) {
+          progress({SimilarProgress::Step::Measuring, index + 1, photos.size()});
+        }
+      });
+  if (!measured.empty()) {
+    similar.StoreSharpness(measured);
+  }
+  result.cancelled = result.cancelled || done < photos.size();
+}
+
 }  // namespace
 
 AnalyserName NameOf(const PhotoAnalyser& analyser) {
@@ -110,6 +171,9 @@ SimilarUpdateResult UpdateSimilar(SimilarPhotos& similar, const PhotoAnalyser& a
     }
   });
   result.cancelled = cancelled;
+  if (!result.cancelled) {
+    MeasureDetail(similar, options, progress, result);
+  }
   return result;
 }
 

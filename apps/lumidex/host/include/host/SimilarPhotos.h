@@ -31,7 +31,7 @@ struct PhotoFeatures {
   std::string problem;
   int width = 0;  ///< Of the picture, upright. 0: unknown.
   int height = 0;
-  /// How much detail it has; only compares photos of one cluster.
+  /// How much detail it has; only compares photos of one cluster. 0: not measured.
   double sharpness = 0;
 };
 
@@ -88,6 +88,9 @@ class SimilarPhotos {
   std::vector<PhotoRecord> Pending() const;
   /// Stores what was found out, in one transaction. Vectors must have the analyser's length.
   void Store(const std::vector<AnalysedPhoto>& photos);
+  /// Stores how much detail photos have, by their ids, in one transaction. A photo that was never analysed is
+  /// passed over.
+  void StoreSharpness(const std::vector<std::pair<QString, double>>& photos);
   /// Photos that cannot be analysed, and why, by path.
   std::vector<std::pair<PhotoRecord, std::string>> Problems() const;
 
