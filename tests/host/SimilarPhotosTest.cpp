@@ -8,11 +8,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cmath>
 #include <limits>
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -295,6 +297,77 @@ TEST_F(SimilarPhotosTest, CanBeUsedOnAfterAFailure) {
   EXPECT_THAT(similar_->Check(), IsEmpty());
 }
 
+// --- Several at one catalogue
+
+TEST_F(SimilarPhotosTest, SeesWhatOthersPutIntoClustersMeanwhile) {
+  AddPhotos(kTwoPairs);
+  Cluster();
+  SimilarPhotos other(file_, kAnalyser);
+  AddPhotos({{1, 0.2F}});
+  EXPECT_EQ(other.AddToClusters(never_, nullptr), 1U);
+  AddPhotos({{1, -0.2F}, {0.2F, 1}});
+  EXPECT_EQ(Cluster(), 2U);
+  AddPhotos({{-1, 0}});
+  EXPECT_EQ(other.AddToClusters(never_, nullptr), 1U);
+  EXPECT_THAT(Groups(), ElementsAre(ElementsAre("/p/0", "/p/2", "/p/4", "/p/5"),
+                                    ElementsAre("/p/1", "/p/3", "/p/6"), ElementsAre("/p/7")));
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, SeesThatOthersMadeTheClustersAnew) {
+  AddPhotos(kTwoPairs);
+  Cluster();
+  SimilarPhotos other(file_, kAnalyser);
+  other.ClearClusters();
+  EXPECT_EQ(Cluster(), 4U);
+  other.ClearClusters();
+  AddPhotos({{1, 0.2F}});
+  EXPECT_EQ(Cluster(), 5U);
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, LeavesAPhotoThatOthersPutIntoAClusterMeanwhile) {
+  constexpr std::size_t kPhotos = 4500;
+  AddPhotos(std::vector<std::vector<float>>(kPhotos, {1, 0}));
+  SimilarPhotos other(file_, kAnalyser);
+  std::size_t byOther = 0;
+  const std::size_t own = similar_->AddToClusters(never_, [&](std::size_t, std::size_t) {
+    if (byOther == 0) {
+      byOther = other.AddToClusters(never_, nullptr);
+    }
+  });
+  EXPECT_GT(own, 0U);
+  EXPECT_GT(byOther, 0U);
+  EXPECT_EQ(own + byOther, kPhotos);
+  EXPECT_EQ(similar_->CountClustered(), kPhotos);
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, GroupsTheSameWithSeveralAtOneTime) {
+  constexpr int kPhotos = 9000;
+  std::vector<std::vector<float>> vectors;
+  for (int i = 0; i < kPhotos; ++i) {
+    const auto angle = static_cast<float>(i * 37 % kPhotos);
+    vectors.push_back({std::cos(angle), std::sin(angle)});
+  }
+  AddPhotos(vectors);
+  Cluster();
+  const auto alone = Groups();
+  ASSERT_GT(alone.size(), 3U);
+  similar_->ClearClusters();
+  std::atomic<std::size_t> added{0};
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 3; ++i) {
+    threads.emplace_back([&] { added += SimilarPhotos(file_, kAnalyser).AddToClusters(never_, nullptr); });
+  }
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+  EXPECT_EQ(added, static_cast<std::size_t>(kPhotos));
+  EXPECT_EQ(Groups(), alone);
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
 // --- The store below
 
 class SimilarStoreTest : public SimilarPhotosTest {
@@ -346,6 +419,37 @@ TEST_F(SimilarStoreTest, RefusesATransactionWithinAnother) {
   }
   EXPECT_THAT(store_.GetClusters(), SizeIs(1));
   EXPECT_NO_THROW(transactions_.BeginTransaction("next"));
+}
+
+TEST_F(SimilarStoreTest, BeginsNoTransactionAfterOthersHaveWritten) {
+  transactions_.RequireState(database_.StateOfOthers());
+  EXPECT_NO_THROW(transactions_.BeginTransaction("own")->Commit());
+  EXPECT_NO_THROW(transactions_.BeginTransaction("own again")->Commit());
+  catalogue_.MarkLost({"/p/a"});
+  EXPECT_THROW(transactions_.BeginTransaction("too late"), WrittenByOthers);
+  // Nothing is left open.
+  EXPECT_NO_THROW(catalogue_.Store({Photo("/p/c")}));
+  transactions_.RequireState(database_.StateOfOthers());
+  EXPECT_NO_THROW(transactions_.BeginTransaction("next"));
+}
+
+TEST_F(SimilarStoreTest, KeepsOthersFromWritingUntilTheReservationEnds) {
+  const CatalogueDatabase other(file_, CatalogueDatabase::Access::ReadWrite, 0);
+  const auto otherWrites = [&] { return ErrorOf([&] { WriteTransaction(other).Commit(); }); };
+  transactions_.Reserve();
+  EXPECT_THAT(otherWrites(), HasSubstr("another program"));
+  transactions_.Unreserve();
+  EXPECT_EQ(otherWrites(), "(no error)");
+  transactions_.Reserve();
+  {
+    const auto transaction = transactions_.BeginTransaction("taken over");
+    transactions_.Unreserve();
+    EXPECT_THAT(otherWrites(), HasSubstr("another program"));
+    store_.AddCluster({{1, 0}, 1}, {Id(0)});
+    transaction->Commit();
+  }
+  EXPECT_EQ(otherWrites(), "(no error)");
+  EXPECT_THAT(store_.GetClusters(), SizeIs(1));
 }
 
 TEST_F(SimilarStoreTest, WritesOnlyWithinATransaction) {
