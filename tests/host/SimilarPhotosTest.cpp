@@ -200,6 +200,38 @@ TEST_F(SimilarPhotosTest, ForgetsWhatAnotherVersionOfTheAnalyserFound) {
   EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM cluster_photos"}).toInt(), 0);
 }
 
+TEST_F(SimilarPhotosTest, StoresNothingForAVersionOfTheAnalyserThatWentMeanwhile) {
+  AddPhotos(kTwoPairs);
+  Cluster();
+  const SimilarPhotos newer(file_, {QStringLiteral("test"), 2, 2});
+  const AnalysedPhoto photo = Analysed(similar_->Pending().at(0), {1, 0.2F});
+  EXPECT_NE(ErrorOf([&] { similar_->Store({photo}); }), "(no error)");
+  EXPECT_EQ(Cluster(), 0U);
+  EXPECT_EQ(newer.CountClustered(), 0U);
+  EXPECT_THAT(newer.Pending(), SizeIs(4));
+}
+
+TEST_F(SimilarPhotosTest, ChangesNothingWhenItIsOpenedForReading) {
+  using Mode = Catalogue::Mode;
+  AddPhotos(kTwoPairs);
+  Cluster();
+  similar_.reset();
+  {
+    const SimilarPhotos same(file_, kAnalyser, Mode::ReadOnly);
+    EXPECT_THAT(same.Groups(2), SizeIs(2));
+    EXPECT_THAT(same.Check(), IsEmpty());
+    EXPECT_TRUE(same.Explain("/p/0", "/p/1"));
+    const SimilarPhotos newer(file_, {QStringLiteral("test"), 2, 2}, Mode::ReadOnly);
+    EXPECT_THAT(newer.Groups(1), IsEmpty());
+    EXPECT_THAT(newer.Check(), IsEmpty());
+    EXPECT_THAT(newer.Pending(), SizeIs(4));
+  }
+  EXPECT_EQ(RunSql(file_, {"SELECT group_concat(version) FROM analysers"}).toString(), QStringLiteral("1"));
+  EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM cluster_photos"}).toInt(), 4);
+  EXPECT_THAT(ErrorOf([&] { SimilarPhotos(tree_.Path("none.sqlite"), kAnalyser, Mode::ReadOnly); }),
+              HasSubstr("does not exist"));
+}
+
 TEST_F(SimilarPhotosTest, KeepsWhatAnotherAnalyserFound) {
   AddPhotos(kTwoPairs);
   Cluster();

@@ -584,6 +584,25 @@ TEST_F(UndoJournalTest, FinishesARenameThatWasBrokenOff) {
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
 }
 
+TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
+  Make("a.jpg", "A");
+  Rename({{"a.jpg", "x.jpg"}});
+  ASSERT_TRUE(Photo("x.jpg").rename(Photo("a.jpg")));
+  StopIn(1);
+  for (const char* const table : {"cluster_photos", "clusters", "features", "analysers"}) {
+    Sql(std::string("DROP TABLE ") + table);
+  }
+  Sql("PRAGMA user_version = 2");
+  EXPECT_TRUE(NeedsRecovery(catalogue_));
+  Open();
+  EXPECT_EQ(Folder(), (Files{{"x.jpg", "A"}}));
+  EXPECT_FALSE(NeedsRecovery(catalogue_));
+  // Nobody knows what a newer one means by its numbers.
+  StopIn(1);
+  Sql("PRAGMA user_version = 99");
+  EXPECT_FALSE(NeedsRecovery(catalogue_));
+}
+
 TEST_F(UndoJournalTest, FinishesATakingBackThatWasBrokenOff) {
   Make("a.jpg", "A");
   Make("b.jpg", "B");

@@ -1,5 +1,6 @@
 #include "CatalogueDatabase.h"
 #include "CatalogueRows.h"
+#include "CatalogueSchema.h"
 #include "SimilarReplay.h"
 #include "SimilarStore.h"
 
@@ -56,7 +57,7 @@ struct Place {
 
 class SimilarPhotos::Impl {
  public:
-  Impl(const ioPath& catalogue, const AnalyserName& analyser);
+  Impl(const ioPath& catalogue, const AnalyserName& analyser, Catalogue::Mode mode);
 
   std::vector<PhotoRecord> Pending() const;
   void Store(const std::vector<AnalysedPhoto>& photos);
@@ -71,6 +72,7 @@ class SimilarPhotos::Impl {
  private:
   using Item = std::pair<QString, std::vector<float>>;
 
+  std::optional<qlonglong> FindAnalyser(const AnalyserName& analyser) const;
   qlonglong TakeAnalyser(const AnalyserName& analyser) const;
   /// `sql` has one place for the analyser's number.
   QSqlQuery RunFor(const std::string& sql) const;
@@ -81,8 +83,8 @@ class SimilarPhotos::Impl {
   std::optional<std::size_t> TryBatch(const std::vector<QString>& ids);
   std::vector<Item> Waiting(const std::vector<QString>& ids) const;
 
-  const Catalogue catalogue_;
-  const CatalogueDatabase database_;
+  const std::unique_ptr<CatalogueDatabase> opened_;
+  const CatalogueDatabase& database_;
   const std::size_t length_;
   const qlonglong analyser_;
   const std::shared_ptr<CatalogueTransactions> transactions_;
@@ -94,33 +96,34 @@ class SimilarPhotos::Impl {
   qlonglong state_ = 0;
 };
 
-SimilarPhotos::Impl::Impl(const ioPath& catalogue, const AnalyserName& analyser)
-    // Makes or updates it.
-    : catalogue_(catalogue, Catalogue::Mode::ReadWrite),
-      database_(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
+/// Of no analyser.
+constexpr qlonglong kNothingYet = 0;
+
+SimilarPhotos::Impl::Impl(const ioPath& catalogue, const AnalyserName& analyser, Catalogue::Mode mode)
+    : opened_(OpenCatalogue(catalogue, mode)),
+      database_(*opened_),
       length_(analyser.length),
-      analyser_(TakeAnalyser(analyser)),
+      analyser_(mode == Catalogue::Mode::ReadOnly ? FindAnalyser(analyser).value_or(kNothingYet)
+                                                  : TakeAnalyser(analyser)),
       transactions_(std::make_shared<CatalogueTransactions>(database_)),
       store_(std::make_shared<SimilarStore>(database_, *transactions_, analyser_)) {}
 
+std::optional<qlonglong> SimilarPhotos::Impl::FindAnalyser(const AnalyserName& analyser) const {
+  QSqlQuery query =
+      database_.Prepare("SELECT number FROM analysers WHERE name = ? AND version = ? AND length = ?");
+  query.addBindValue(NotNull(analyser.name));
+  query.addBindValue(analyser.version);
+  query.addBindValue(static_cast<qlonglong>(analyser.length));
+  database_.Run(query);
+  return database_.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
+}
+
 qlonglong SimilarPhotos::Impl::TakeAnalyser(const AnalyserName& analyser) const {
-  const auto bind = [&analyser](QSqlQuery& query) {
-    query.addBindValue(NotNull(analyser.name));
-    query.addBindValue(analyser.version);
-    query.addBindValue(static_cast<qlonglong>(analyser.length));
-  };
-  const auto find = [&] {
-    QSqlQuery query =
-        database_.Prepare("SELECT number FROM analysers WHERE name = ? AND version = ? AND length = ?");
-    bind(query);
-    database_.Run(query);
-    return database_.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
-  };
-  if (const auto known = find()) {
+  if (const auto known = FindAnalyser(analyser)) {
     return *known;
   }
   WriteTransaction transaction(database_);
-  if (const auto known = find()) {
+  if (const auto known = FindAnalyser(analyser)) {
     // Another process was faster.
     return *known;
   }
@@ -128,7 +131,9 @@ qlonglong SimilarPhotos::Impl::TakeAnalyser(const AnalyserName& analyser) const 
   former.addBindValue(NotNull(analyser.name));
   database_.Run(former);
   QSqlQuery query = database_.Prepare("INSERT INTO analysers (name, version, length) VALUES (?, ?, ?)");
-  bind(query);
+  query.addBindValue(NotNull(analyser.name));
+  query.addBindValue(analyser.version);
+  query.addBindValue(static_cast<qlonglong>(analyser.length));
   database_.Run(query);
   const qlonglong number = query.lastInsertId().toLongLong();
   transaction.Commit();
@@ -389,8 +394,8 @@ std::vector<std::string> SimilarPhotos::Impl::Check() const {
 
 // --- The class
 
-SimilarPhotos::SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser)
-    : impl_(std::make_unique<Impl>(catalogue, analyser)) {}
+SimilarPhotos::SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser, Catalogue::Mode mode)
+    : impl_(std::make_unique<Impl>(catalogue, analyser, mode)) {}
 
 SimilarPhotos::~SimilarPhotos() = default;
 

@@ -926,8 +926,9 @@ bool NeedsRecovery(const ioPath& catalogue) {
   try {
     const CatalogueDatabase database(catalogue, CatalogueDatabase::Access::QueryOnly,
                                      Catalogue::kBusyTimeoutMs);
-    RequireCurrentVersion(database);
-    return database.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state IN (1, 3, 5))").toBool();
+    // Also in a catalogue of a former version: what the former program left must not wait for another run.
+    return HasJournal(database) &&
+           database.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state IN (1, 3, 5))").toBool();
   } catch (const HostError&) {
     // Whoever needs it will say why it cannot be used.
     return false;

@@ -81,8 +81,10 @@ class SimilarPhotos {
  public:
   using Progress = std::function<void(std::size_t done, std::size_t total)>;
 
-  /// Opens the catalogue for writing. What it holds of other versions of the analyser goes.
-  SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser);
+  /// Opens the catalogue for writing, and what it holds of other versions of the analyser goes; or for
+  /// reading, and nothing is changed: then `Store`, `AddToClusters` and `ClearClusters` must not be called.
+  SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser,
+                Catalogue::Mode mode = Catalogue::Mode::ReadWrite);
   ~SimilarPhotos();
   SimilarPhotos(const SimilarPhotos&) = delete;
   SimilarPhotos& operator=(const SimilarPhotos&) = delete;
