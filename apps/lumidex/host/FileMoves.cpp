@@ -188,7 +188,6 @@ void IdentifyAgain(std::vector<FileMove>& moves, bool standing) {
       move.inode = same.inode;
       move.size = same.size;
       move.modifiedNs = same.modifiedNs;
-      left.erase(known);
     } else if (const FileState state = QueryFile(here); state.kind == FileState::Kind::File) {
       move.device = state.identity.first;
       move.inode = state.identity.second;
