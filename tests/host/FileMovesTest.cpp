@@ -193,5 +193,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"gone", Meanwhile::OneGoes, Looks::Differ},
                     Row{"gone, alike", Meanwhile::OneGoes, Looks::Repeat}));
 
+TEST(CountDone, HasMovesTriedWhereNothingTells) {
+  const Zenvora::Test::TempTree tree;
+  const ioPath a = tree.Path("a");
+  const ioPath b = tree.Path("b");
+  // Two photos that look the same change names; then both are others.
+  const FileMove first{a, tree.Path("t"), 1, 1, 5, 7};
+  const FileMove second{b, a, 1, 2, 5, 7};
+  const FileMove third{tree.Path("t"), b, 1, 1, 5, 7};
+  tree.Write("a", "another");
+  tree.Write("b", "another");
+  EXPECT_EQ(CountDone({first, second, third}, false), 0U);
+  EXPECT_EQ(CountDone({first, second, third}, true), 3U);
+}
+
 }  // namespace
 }  // namespace Zenvora::Lumidex::Host
