@@ -194,6 +194,74 @@ TEST_F(SimilarCommand, ExplainsWhyPhotosAreTogetherOrNot) {
   EXPECT_EQ(Run({"similar", "--explain", "photos/a1.jpg"}).exitCode, 2);
 }
 
+TEST_F(SimilarCommand, ExplainsPhotosHoweverTheyAreSpelled) {
+  MakeGroups();
+  Scan();
+  const std::string plain = Run({"similar", "--json", "--explain", "photos/a1.jpg", "photos/c.jpg"}).out;
+  ASSERT_THAT(plain, HasSubstr("lumidex.similar.explain"));
+  for (const char* const spelled : {"./photos/a1.jpg", "photos/../photos/a1.jpg", "photos//a1.jpg"}) {
+    EXPECT_EQ(Run({"similar", "--json", "--explain", spelled, "photos/c.jpg"}).out, plain) << spelled;
+  }
+#ifndef _WIN32
+  std::filesystem::create_directory_symlink(Photos().native(), tree.Path("link").native());
+  std::filesystem::create_symlink((Photos() / "a1.jpg").native(), tree.Path("photo.jpg").native());
+  for (const char* const spelled : {"link/a1.jpg", "photo.jpg"}) {
+    EXPECT_EQ(Run({"similar", "--json", "--explain", spelled, "photos/c.jpg"}).out, plain) << spelled;
+  }
+#endif
+}
+
+TEST_F(SimilarCommand, ExplainsTwoPhotosNoMoreAndNoLess) {
+  EXPECT_THAT(Run({"similar", "--explain", "a.jpg"}).err, HasSubstr("--explain needs 2 values"));
+  EXPECT_THAT(Run({"similar", "--explain", "a.jpg", "b.jpg", "c.jpg"}).err,
+              HasSubstr("--explain needs 2 values"));
+  EXPECT_THAT(Run({"similar", "--min", "2", "--min", "3"}).err, HasSubstr("can be given once only"));
+}
+
+TEST_F(SimilarCommand, ExplainsPhotosThatWereRenamedOrLost) {
+  MakeGroups();
+  Scan();
+  Run({"similar"});
+  Run({"rename", "--pattern", "z_{name}", "photos/a1.jpg"});
+  const Ran renamed = Run({"similar", "--json"});
+  EXPECT_EQ(renamed.Json()["analysed"].toInt(-1), 0);
+  EXPECT_EQ(Run({"similar", "--explain", "photos/z_a1.jpg", "photos/a2.jpg"}).exitCode, 0);
+  ASSERT_TRUE((Photos() / "b1.jpg").rename(tree.Path("away.jpg")));
+  Scan();
+  EXPECT_EQ(Run({"similar", "--explain", "photos/b1.jpg", "photos/b2.jpg"}).exitCode, 0);
+  EXPECT_EQ(Run({"similar", "--explain", "photos/a1.jpg", "photos/b2.jpg"}).exitCode, 4);
+}
+
+TEST_F(SimilarCommand, ComparesATurnedPhotoAgainAndOnceMoreWhenThatIsUndone) {
+  MakeGroups();
+  Scan();
+  const std::vector<std::string> before = Groups(Run({"similar", "--json"}));
+  Run({"rotate", "right", "photos/a1.jpg"});
+  const Ran turned = Run({"similar", "--json"});
+  EXPECT_EQ(turned.Json()["analysed"].toInt(-1), 1);
+  EXPECT_NE(Groups(turned), before);
+  Run({"undo"});
+  const Ran undone = Run({"similar", "--json"});
+  EXPECT_EQ(undone.Json()["analysed"].toInt(-1), 1);
+  EXPECT_EQ(Groups(undone), before);
+  EXPECT_EQ(Run({"similar", "--check"}).exitCode, 0);
+}
+
+TEST_F(SimilarCommand, ChecksWithoutChangingAnything) {
+  MakeGroups();
+  Scan();
+  const ioPath catalogue = DefaultCatalogue();
+  const std::string scanned = ReadFile(catalogue);
+  const Ran unused = Run({"similar", "--check", "--json"});
+  EXPECT_EQ(unused.exitCode, 0) << unused.err;
+  EXPECT_EQ(ReadFile(catalogue), scanned);
+  Run({"similar"});
+  ChangeCatalogue(catalogue, "UPDATE analysers SET version = version + 1");
+  const std::string newer = ReadFile(catalogue);
+  EXPECT_EQ(Run({"similar", "--check"}).exitCode, 0);
+  EXPECT_EQ(ReadFile(catalogue), newer);
+}
+
 TEST_F(SimilarCommand, ChecksWhatTheCatalogueHolds) {
   MakeGroups();
   Scan();

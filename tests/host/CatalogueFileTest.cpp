@@ -13,10 +13,12 @@
 #include <QProcess>
 #include <QSqlDatabase>
 
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <set>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -196,6 +198,106 @@ TEST_F(CatalogueFile, IsNotBroughtUpToDateByReaders) {
               AllOf(HasSubstr("older version"), HasSubstr("run a scan")));
   EXPECT_EQ(ReadFile(file_), before);
 }
+
+/// What later versions added is taken out again.
+void MakeOlder(const ioPath& file, int version) {
+  std::vector<std::string> statements = {"DROP TABLE cluster_photos", "DROP TABLE clusters",
+                                         "DROP TABLE features", "DROP TABLE analysers"};
+  if (version < 2) {
+    statements.insert(statements.end(), {"DROP TABLE changes", "DROP TABLE steps"});
+  }
+  statements.push_back("PRAGMA user_version = " + std::to_string(version));
+  ASSERT_TRUE(RunSql(file, statements).isValid());
+}
+
+/// The whole content of the tables of the first version, then of the second.
+std::string Content(const ioPath& file, int version) {
+  std::string content;
+  for (const char* const rows :
+       {"number || id || hex(path) || size || modified_ns || taken || taken_source || camera || lost FROM "
+        "photos",
+        "number || id || name || first_day FROM albums", "album || position || photo FROM album_photos",
+        "album || attribute || value FROM album_attributes"}) {
+    const std::string columns(rows);
+    const std::size_t from = columns.find(" FROM ");
+    content +=
+        RunSql(file, {"SELECT group_concat(" + columns.substr(0, from) + ", ';')" + columns.substr(from)})
+            .toString()
+            .toStdString() +
+        '\n';
+  }
+  if (version > 1) {
+    content +=
+        RunSql(file, {"SELECT group_concat(number || name || begun || state || files, ';') FROM steps"})
+            .toString()
+            .toStdString();
+  }
+  return content;
+}
+
+class FormerCatalogue : public CatalogueFile, public testing::WithParamInterface<int> {
+ protected:
+  FormerCatalogue() {
+    Catalogue catalogue(file_, Mode::ReadWrite);
+    catalogue.Store(Photos("/p/", 3));
+    catalogue.MarkLost({"/p/1"});
+    DataModel model(QStringLiteral("Trip"), QStringLiteral("proposed"), ItemType::Album);
+    model.SetDateTime(QDateTime(QDate(2021, 5, 1), QTime(0, 0)));
+    const QString first = catalogue.Photos()[0].id;
+    catalogue.AcceptAlbum(Album(model, {first}, {{DataAttributeId::CoverPhoto, first}}));
+    RunSql(file_,
+           {"INSERT INTO steps (number, name, begun, state) VALUES (7, 'x', '2026-01-01T00:00:00Z', 2)"});
+    MakeOlder(file_, GetParam());
+  }
+};
+
+TEST_P(FormerCatalogue, IsBroughtUpToDateWithAllThatItHolds) {
+  const std::string before = Content(file_, GetParam());
+  ASSERT_THAT(before, HasSubstr("Model X"));
+  ASSERT_THAT(before, HasSubstr("Trip"));
+  EXPECT_THAT(OpeningError(file_, Mode::ReadOnly), HasSubstr("older version"));
+  EXPECT_EQ(Catalogue(file_, Mode::ReadWrite).Photos().size(), 2U);
+  EXPECT_EQ(Content(file_, GetParam()), before);
+  EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), Catalogue::kSchemaVersion);
+  EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM cluster_photos"}), QVariant(0));
+  EXPECT_EQ(RunSql(file_, {"PRAGMA foreign_key_check"}), QVariant(true));
+}
+
+TEST_P(FormerCatalogue, IsBroughtUpToDateOnceBySeveralAtOneTime) {
+  const std::string before = Content(file_, GetParam());
+  std::vector<std::thread> threads;
+  std::atomic<int> sound{0};
+  for (int i = 0; i < 6; ++i) {
+    threads.emplace_back([&] {
+      sound +=
+          ErrorOf([&] { EXPECT_EQ(Catalogue(file_, Mode::ReadWrite).CountPhotos(), 3U); }) == "(no error)"
+              ? 1
+              : 0;
+    });
+  }
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+  EXPECT_EQ(sound, 6);
+  EXPECT_EQ(Content(file_, GetParam()), before);
+  EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), Catalogue::kSchemaVersion);
+}
+
+TEST_P(FormerCatalogue, StaysAsItWasWhenItCannotBeBroughtUpToDate) {
+  // A table that the next version wants to make.
+  RunSql(file_, {GetParam() < 2 ? "CREATE TABLE changes (a)" : "CREATE TABLE clusters (a)"});
+  const std::string before = Content(file_, GetParam());
+  EXPECT_THAT(OpeningError(file_, Mode::ReadWrite), HasSubstr("already exists"));
+  EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), GetParam());
+  EXPECT_EQ(Content(file_, GetParam()), before);
+  EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM sqlite_master WHERE name IN ('features', 'steps') AND "
+                           "NOT (name = 'steps' AND " +
+                           std::to_string(GetParam()) + " = 2)"})
+                .toInt(),
+            0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, FormerCatalogue, testing::Values(1, 2));
 
 TEST_F(CatalogueFile, SaysThatItIsDamaged) {
   MakeFilled(2000);

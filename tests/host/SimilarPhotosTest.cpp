@@ -8,11 +8,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cmath>
 #include <limits>
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -198,6 +200,38 @@ TEST_F(SimilarPhotosTest, ForgetsWhatAnotherVersionOfTheAnalyserFound) {
   EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM cluster_photos"}).toInt(), 0);
 }
 
+TEST_F(SimilarPhotosTest, StoresNothingForAVersionOfTheAnalyserThatWentMeanwhile) {
+  AddPhotos(kTwoPairs);
+  Cluster();
+  const SimilarPhotos newer(file_, {QStringLiteral("test"), 2, 2});
+  const AnalysedPhoto photo = Analysed(similar_->Pending().at(0), {1, 0.2F});
+  EXPECT_NE(ErrorOf([&] { similar_->Store({photo}); }), "(no error)");
+  EXPECT_EQ(Cluster(), 0U);
+  EXPECT_EQ(newer.CountClustered(), 0U);
+  EXPECT_THAT(newer.Pending(), SizeIs(4));
+}
+
+TEST_F(SimilarPhotosTest, ChangesNothingWhenItIsOpenedForReading) {
+  using Mode = Catalogue::Mode;
+  AddPhotos(kTwoPairs);
+  Cluster();
+  similar_.reset();
+  {
+    const SimilarPhotos same(file_, kAnalyser, Mode::ReadOnly);
+    EXPECT_THAT(same.Groups(2), SizeIs(2));
+    EXPECT_THAT(same.Check(), IsEmpty());
+    EXPECT_TRUE(same.Explain("/p/0", "/p/1"));
+    const SimilarPhotos newer(file_, {QStringLiteral("test"), 2, 2}, Mode::ReadOnly);
+    EXPECT_THAT(newer.Groups(1), IsEmpty());
+    EXPECT_THAT(newer.Check(), IsEmpty());
+    EXPECT_THAT(newer.Pending(), SizeIs(4));
+  }
+  EXPECT_EQ(RunSql(file_, {"SELECT group_concat(version) FROM analysers"}).toString(), QStringLiteral("1"));
+  EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM cluster_photos"}).toInt(), 4);
+  EXPECT_THAT(ErrorOf([&] { SimilarPhotos(tree_.Path("none.sqlite"), kAnalyser, Mode::ReadOnly); }),
+              HasSubstr("does not exist"));
+}
+
 TEST_F(SimilarPhotosTest, KeepsWhatAnotherAnalyserFound) {
   AddPhotos(kTwoPairs);
   Cluster();
@@ -246,6 +280,9 @@ TEST_F(SimilarPhotosTest, ExplainsWhyPhotosAreTogetherOrNot) {
   ASSERT_TRUE(apart);
   EXPECT_NE(apart->firstCluster, apart->secondCluster);
   EXPECT_EQ(apart->score, 0);
+  EXPECT_LT(apart->firstToFirst, 1);
+  EXPECT_EQ(apart->firstToSecond, 0);
+  EXPECT_GT(apart->secondToFirst, 0.04F);
   EXPECT_LT(apart->secondToFirst, 0.1F);
   EXPECT_EQ(apart->secondToSecond, 1);
   EXPECT_FALSE(similar_->Explain("/p/0", "/p/3"));
@@ -254,6 +291,7 @@ TEST_F(SimilarPhotosTest, ExplainsWhyPhotosAreTogetherOrNot) {
 
 TEST_F(SimilarPhotosTest, CheckFindsWhatIsNotAsItWasMatched) {
   AddPhotos(kTwoPairs);
+  AddPhotos({{-1, 0}});
   Cluster();
   ASSERT_THAT(similar_->Check(), IsEmpty());
   struct Row {
@@ -266,6 +304,9 @@ TEST_F(SimilarPhotosTest, CheckFindsWhatIsNotAsItWasMatched) {
        "counts 3 photos instead of 2"},
       {"UPDATE clusters SET centre = x'0000803f0000803f' WHERE id = 2",
        "UPDATE clusters SET centre = (SELECT centre FROM saved WHERE id = 2) WHERE id = 2", "another centre"},
+      // By the sign of a zero.
+      {"UPDATE clusters SET centre = x'000080bf00000080' WHERE id = 3",
+       "UPDATE clusters SET centre = (SELECT centre FROM saved WHERE id = 3) WHERE id = 3", "another centre"},
       {"INSERT INTO clusters SELECT 9, analyser, 1, centre FROM clusters WHERE id = 1",
        "DELETE FROM clusters WHERE id = 9", "no photo"},
       {"UPDATE cluster_photos SET cluster = 2 WHERE arrival = 3",
@@ -292,6 +333,137 @@ TEST_F(SimilarPhotosTest, CanBeUsedOnAfterAFailure) {
   RunSql(file_, {"DROP TRIGGER stop"});
   EXPECT_EQ(Cluster(), 4U);
   EXPECT_THAT(Groups(2), SizeIs(2));
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, ForgetsWhatItMatchedBeforeAFailure) {
+  catalogue_.Store({Photo("/p/x", QDate(2022, 1, 1))});
+  const PhotoRecord last = similar_->Pending().at(0);
+  similar_->Store({Analysed(last, {})});
+  AddPhotos(kTwoPairs);
+  // Ends without a write by anybody else.
+  RunSql(file_, {"CREATE TRIGGER stop BEFORE INSERT ON cluster_photos WHEN (SELECT count(*) FROM features"
+                 " WHERE vector IS NULL) > 0 BEGIN SELECT RAISE(ABORT, 'stopped'); END"});
+  EXPECT_THAT(ErrorOf([&] { Cluster(); }), HasSubstr("stopped"));
+  similar_->Store({Analysed(last, {1, 0})});
+  EXPECT_EQ(Cluster(), 5U);
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, ForgetsClustersThatItHasTakenApart) {
+  AddPhotos(kTwoPairs);
+  const PhotoRecord last = catalogue_.Photos().back();
+  Cluster();
+  similar_->Store({Analysed(last, {1, 0.2F})});
+  EXPECT_EQ(Cluster(), 4U);
+  EXPECT_THAT(Groups(), ElementsAre(ElementsAre("/p/0", "/p/2", "/p/3"), ElementsAre("/p/1")));
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, ComparesWithOlderClustersFirstWhenItIsOpenedAgain) {
+  // Each fits both of the clusters that come of it.
+  AddPhotos({{1, 0.3F}, {1, 0.3F}, {1, -0.3F}});
+  Cluster();
+  Reopen();
+  AddPhotos({{1, 0}});
+  Cluster();
+  EXPECT_THAT(Groups(), ElementsAre(ElementsAre("/p/0", "/p/1", "/p/3"), ElementsAre("/p/2")));
+}
+
+TEST_F(SimilarPhotosTest, MatchesByDateNotByTheOrderOfTheCatalogue) {
+  catalogue_.Store(
+      {Photo("/p/c", QDate(2021, 1, 3)), Photo("/p/b", QDate(2021, 1, 2)), Photo("/p/a", QDate(2021, 1, 1))});
+  const std::vector<PhotoRecord> photos = similar_->Pending();
+  ASSERT_THAT(photos, SizeIs(3));
+  // In the other order all would be together.
+  similar_->Store(
+      {Analysed(photos[0], {1, 0.7F}), Analysed(photos[1], {1, 0.44F}), Analysed(photos[2], {1, 0})});
+  Cluster();
+  EXPECT_THAT(Groups(), ElementsAre(ElementsAre("/p/a", "/p/b"), ElementsAre("/p/c")));
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+// --- Several at one catalogue
+
+TEST_F(SimilarPhotosTest, SeesWhatOthersPutIntoClustersMeanwhile) {
+  AddPhotos(kTwoPairs);
+  Cluster();
+  SimilarPhotos other(file_, kAnalyser);
+  AddPhotos({{1, 0.2F}});
+  EXPECT_EQ(other.AddToClusters(never_, nullptr), 1U);
+  AddPhotos({{1, -0.2F}, {0.2F, 1}});
+  EXPECT_EQ(Cluster(), 2U);
+  AddPhotos({{-1, 0}});
+  EXPECT_EQ(other.AddToClusters(never_, nullptr), 1U);
+  EXPECT_THAT(Groups(), ElementsAre(ElementsAre("/p/0", "/p/2", "/p/4", "/p/5"),
+                                    ElementsAre("/p/1", "/p/3", "/p/6"), ElementsAre("/p/7")));
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, SeesThatOthersMadeTheClustersAnew) {
+  AddPhotos(kTwoPairs);
+  Cluster();
+  SimilarPhotos other(file_, kAnalyser);
+  other.ClearClusters();
+  EXPECT_EQ(Cluster(), 4U);
+  other.ClearClusters();
+  AddPhotos({{1, 0.2F}});
+  EXPECT_EQ(Cluster(), 5U);
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, LeavesAPhotoThatOthersPutIntoAClusterMeanwhile) {
+  constexpr std::size_t kPhotos = 4500;
+  AddPhotos(std::vector<std::vector<float>>(kPhotos, {1, 0}));
+  SimilarPhotos other(file_, kAnalyser);
+  std::size_t byOther = 0;
+  const std::size_t own = similar_->AddToClusters(never_, [&](std::size_t, std::size_t) {
+    if (byOther == 0) {
+      byOther = other.AddToClusters(never_, nullptr);
+    }
+  });
+  EXPECT_GT(own, 0U);
+  EXPECT_GT(byOther, 0U);
+  EXPECT_EQ(own + byOther, kPhotos);
+  EXPECT_EQ(similar_->CountClustered(), kPhotos);
+  EXPECT_THAT(similar_->Check(), IsEmpty());
+}
+
+TEST_F(SimilarPhotosTest, GroupsTheSameWithSeveralAtOneTime) {
+  constexpr int kPhotos = 9000;
+  std::vector<std::vector<float>> vectors;
+  for (int i = 0; i < kPhotos; ++i) {
+    const auto angle = static_cast<float>(i * 37 % kPhotos);
+    vectors.push_back({std::cos(angle), std::sin(angle)});
+  }
+  AddPhotos(vectors);
+  Cluster();
+  const auto alone = Groups();
+  ASSERT_GT(alone.size(), 3U);
+  similar_->ClearClusters();
+  std::atomic<std::size_t> added{0};
+  std::atomic<bool> ready{false};
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 3; ++i) {
+    threads.emplace_back([&] {
+      const std::string error =
+          ErrorOf([&] { added += SimilarPhotos(file_, kAnalyser).AddToClusters(never_, nullptr); });
+      EXPECT_EQ(error, "(no error)");
+    });
+  }
+  std::thread reader([&] {
+    const SimilarPhotos reading(file_, kAnalyser, Catalogue::Mode::ReadOnly);
+    do {
+      EXPECT_THAT(reading.Check(), IsEmpty());
+    } while (!ready);
+  });
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+  ready = true;
+  reader.join();
+  EXPECT_EQ(added, static_cast<std::size_t>(kPhotos));
+  EXPECT_EQ(Groups(), alone);
   EXPECT_THAT(similar_->Check(), IsEmpty());
 }
 
@@ -348,6 +520,37 @@ TEST_F(SimilarStoreTest, RefusesATransactionWithinAnother) {
   EXPECT_NO_THROW(transactions_.BeginTransaction("next"));
 }
 
+TEST_F(SimilarStoreTest, BeginsNoTransactionAfterOthersHaveWritten) {
+  transactions_.RequireState(database_.StateOfOthers());
+  EXPECT_NO_THROW(transactions_.BeginTransaction("own")->Commit());
+  EXPECT_NO_THROW(transactions_.BeginTransaction("own again")->Commit());
+  catalogue_.MarkLost({"/p/a"});
+  EXPECT_THROW(transactions_.BeginTransaction("too late"), WrittenByOthers);
+  // Nothing is left open.
+  EXPECT_NO_THROW(catalogue_.Store({Photo("/p/c")}));
+  transactions_.RequireState(database_.StateOfOthers());
+  EXPECT_NO_THROW(transactions_.BeginTransaction("next"));
+}
+
+TEST_F(SimilarStoreTest, KeepsOthersFromWritingUntilTheReservationEnds) {
+  const CatalogueDatabase other(file_, CatalogueDatabase::Access::ReadWrite, 0);
+  const auto otherWrites = [&] { return ErrorOf([&] { WriteTransaction(other).Commit(); }); };
+  transactions_.Reserve();
+  EXPECT_THAT(otherWrites(), HasSubstr("another program"));
+  transactions_.Unreserve();
+  EXPECT_EQ(otherWrites(), "(no error)");
+  transactions_.Reserve();
+  {
+    const auto transaction = transactions_.BeginTransaction("taken over");
+    transactions_.Unreserve();
+    EXPECT_THAT(otherWrites(), HasSubstr("another program"));
+    store_.AddCluster({{1, 0}, 1}, {Id(0)});
+    transaction->Commit();
+  }
+  EXPECT_EQ(otherWrites(), "(no error)");
+  EXPECT_THAT(store_.GetClusters(), SizeIs(1));
+}
+
 TEST_F(SimilarStoreTest, WritesOnlyWithinATransaction) {
   EXPECT_THAT(ErrorOf([&] { store_.AddCluster({{1, 0}, 1}, {}); }), HasSubstr("none is open"));
   EXPECT_THAT(ErrorOf([&] { store_.UpdateCluster({{1, 0}, 1}, {}); }), HasSubstr("none is open"));
@@ -358,8 +561,19 @@ TEST_F(SimilarStoreTest, RefusesClustersAndPhotosThatItDoesNotKnow) {
   Lumidex::Cluster cluster({1, 0}, 1);
   cluster.id = 77;
   EXPECT_THAT(ErrorOf([&] { store_.UpdateCluster(cluster, {}); }), HasSubstr("77"));
+  cluster.id = store_.AddCluster(cluster, {Id(0)});
+  EXPECT_NO_THROW(store_.UpdateCluster(cluster, {}));
+  SimilarStore ofAnother(database_, transactions_, 2);
+  EXPECT_THAT(ErrorOf([&] { ofAnother.UpdateCluster(cluster, {}); }), HasSubstr("has no cluster"));
   EXPECT_THAT(ErrorOf([&] { store_.AddCluster(cluster, {QStringLiteral("nobody")}); }),
               HasSubstr("\"nobody\""));
+}
+
+TEST_F(SimilarStoreTest, RefusesClustersWhoseNumbersAreTooLarge) {
+  RunSql(file_, {"INSERT INTO clusters VALUES (2147483646, 1, 1, x'0000803f0000803f')"});
+  const auto transaction = transactions_.BeginTransaction("test");
+  EXPECT_EQ(store_.AddCluster({{1, 0}, 1}, {Id(0)}), std::numeric_limits<int>::max());
+  EXPECT_THAT(ErrorOf([&] { store_.AddCluster({{1, 0}, 1}, {Id(1)}); }), HasSubstr("no number left"));
 }
 
 TEST_F(SimilarStoreTest, WaitsForNobodyWhenAnotherProgramWrites) {

@@ -584,6 +584,69 @@ TEST_F(UndoJournalTest, FinishesARenameThatWasBrokenOff) {
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}}));
 }
 
+TEST_F(UndoJournalTest, FinishesWhatItBrokeOffWithPhotosThatOthersReplacedBefore) {
+  for (const bool redo : {false, true}) {
+    for (int kill = 1; kill <= 6; ++kill) {
+      SCOPED_TRACE(std::to_string(kill) + (redo ? " of redo" : " of undo"));
+      for (const char* const name : {"a", "b", "c", "d"}) {
+        Photo(std::string(name) + ".jpg").remove();
+        Make(std::string(name) + ".jpg", name);
+      }
+      // Two pairs change names, over one name in between.
+      Rename({{"a.jpg", ".lumidex-t.jpg"},
+              {"b.jpg", "a.jpg"},
+              {".lumidex-t.jpg", "b.jpg"},
+              {"c.jpg", ".lumidex-t.jpg"},
+              {"d.jpg", "c.jpg"},
+              {".lumidex-t.jpg", "d.jpg"}});
+      if (redo) {
+        journal_->UndoLast(never_, nullptr);
+      }
+      const Files before = Folder();
+      Files replaced;
+      for (const auto& [name, content] : before) {
+        // As programs do that keep the photo until the new one is whole.
+        const ioPath side = Make("side", content + " of another program");
+        Photo(name).remove();
+        ASSERT_TRUE(side.rename(Photo(name)));
+        replaced[name] = content + " of another program";
+      }
+      ASSERT_NE(replaced, before);
+      Files after = replaced;
+      std::swap(after["a.jpg"], after["b.jpg"]);
+      std::swap(after["c.jpg"], after["d.jpg"]);
+      const auto stop = [kill](std::size_t done, std::size_t) {
+        if (static_cast<int>(done) == kill) {
+          throw std::runtime_error("killed");
+        }
+      };
+      EXPECT_THROW(redo ? journal_->RedoLast(never_, stop) : journal_->UndoLast(never_, stop),
+                   std::runtime_error);
+      Open();
+      EXPECT_EQ(Folder(), after);
+    }
+  }
+}
+
+TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
+  Make("a.jpg", "A");
+  Rename({{"a.jpg", "x.jpg"}});
+  ASSERT_TRUE(Photo("x.jpg").rename(Photo("a.jpg")));
+  StopIn(1);
+  for (const char* const table : {"cluster_photos", "clusters", "features", "analysers"}) {
+    Sql(std::string("DROP TABLE ") + table);
+  }
+  Sql("PRAGMA user_version = 2");
+  EXPECT_TRUE(NeedsRecovery(catalogue_));
+  Open();
+  EXPECT_EQ(Folder(), (Files{{"x.jpg", "A"}}));
+  EXPECT_FALSE(NeedsRecovery(catalogue_));
+  // Nobody knows what a newer one means by its numbers.
+  StopIn(1);
+  Sql("PRAGMA user_version = 99");
+  EXPECT_FALSE(NeedsRecovery(catalogue_));
+}
+
 TEST_F(UndoJournalTest, FinishesATakingBackThatWasBrokenOff) {
   Make("a.jpg", "A");
   Make("b.jpg", "B");

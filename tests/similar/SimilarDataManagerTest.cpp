@@ -203,6 +203,36 @@ TEST_F(SimilarDataManagerTest, ComparesWithTheCentreAsItIsNow) {
   EXPECT_EQ(store_.writes[0].photoIds, Ids({"a", "b"}));
 }
 
+TEST_F(SimilarDataManagerTest, ComparesWithMovedCentresAmongThousandsOfOthers) {
+  constexpr std::size_t kLength = 34;
+  constexpr std::int64_t kOthers = 3000;
+  const auto photo = [](float second) {
+    Vector vector(kLength);
+    vector[0] = 1;
+    vector[1] = second;
+    return vector;
+  };
+  std::mt19937 random(7);
+  std::normal_distribution<float> normal;
+  for (std::int64_t id = 1; id <= kOthers; ++id) {
+    // Like nothing that comes.
+    Vector other(kLength);
+    std::generate(other.begin() + 2, other.end(), [&] { return normal(random); });
+    store_.clusters.push_back(Stored(id, other, 1));
+  }
+  store_.clusters.push_back(Stored(kOthers + 1, photo(0), 1));
+  const auto manager = Make();
+  // In one batch and over two: each fits only the centre that the one before has moved.
+  manager->AddToStorage({Photo("a", photo(0.44F)), Photo("b", photo(0.7F))});
+  manager->AddToStorage({Photo("c", photo(0.87F))});
+  ASSERT_EQ(store_.writes.size(), 2U);
+  EXPECT_EQ(store_.writes[0].photoIds, Ids({"a", "b"}));
+  EXPECT_EQ(store_.writes[1].cluster.id, kOthers + 1);
+  EXPECT_EQ(store_.writes[1].photoIds, Ids({"c"}));
+  EXPECT_LE(Quillet::MatchTemplate(photo(0.7F), photo(0)), 0.91F);
+  EXPECT_LE(Quillet::MatchTemplate(photo(0.87F), photo(0.22F)), 0.91F);
+}
+
 TEST_F(SimilarDataManagerTest, WritesTheClusterThatWasTouchedFirstFirst) {
   store_.clusters = {Stored(1, {1, 0, 0}, 1), Stored(2, {0, 1, 0}, 1)};
   Make()->AddToStorage({Photo("a", {0, 0, 1}), Photo("b", {0, 1, 0}), Photo("c", {1, 0, 0}),

@@ -240,6 +240,10 @@ std::string MismatchText(const std::string& text) {
   if (text.find("flag override") != std::string::npos) {
     return option + " takes no value";
   }
+  const std::size_t count = text.find_first_of("0123456789", option.size());
+  if (count != std::string::npos && text[count] != '1') {
+    return option + " needs " + text.substr(count, text.find(' ', count) - count) + " values";
+  }
   const bool isMissing = text.find("missing") != std::string::npos;
   return option + (isMissing ? " needs a value" : " can be given once only");
 }

@@ -18,6 +18,7 @@
 
 #include <memory>
 #include <optional>
+#include <system_error>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -78,7 +79,10 @@ const char* VerbOf(Host::SimilarProgress::Step step) {
 class SimilarRun {
  public:
   SimilarRun(const SimilarArguments& arguments, Session& session)
-      : arguments_(arguments), session_(session), similar_(OpenCatalogue(session), Host::NameOf(analyser_)) {
+      : arguments_(arguments),
+        session_(session),
+        similar_(ExistingCatalogue(session), Host::NameOf(analyser_),
+                 arguments.check ? Host::Catalogue::Mode::ReadOnly : Host::Catalogue::Mode::ReadWrite) {
     view_.catalogue = session.CatalogueFile();
     view_.recovered = session.recovered;
   }
@@ -105,7 +109,7 @@ class SimilarRun {
   }
 
  private:
-  static ioPath OpenCatalogue(Session& session) {
+  static ioPath ExistingCatalogue(Session& session) {
     const ioPath file = session.CatalogueFile();
     if (!file.exists()) {
       throw Failure("no-catalogue",
@@ -195,21 +199,37 @@ class SimilarRun {
     view_.report = report;
   }
 
+  [[noreturn]] static void ThrowNotCompared(const ioPath& photo) {
+    throw Failure("unknown-photo", photo.utf8string() +
+                                       " is not among the photos that are compared. \"lumidex scan\" takes "
+                                       "photos in, and \"lumidex similar\" tells which cannot be compared.");
+  }
+
+  /// The name by which the catalogue knows the photo: scans follow links to folders, edits also to files.
+  ioPath KnownName(const ioPath& photo) const {
+    std::error_code ignored;
+    const ioPath folder = photo.parent_path().canonical(ignored);
+    for (const ioPath& name :
+         {photo, folder.empty() ? photo : folder / photo.filename(), photo.canonical(ignored)}) {
+      if (!name.empty() && similar_.Explain(name, name)) {
+        return name;
+      }
+    }
+    ThrowNotCompared(photo);
+  }
+
   ExitCode Explain() {
     if (view_.cancelled) {
       ThrowIfInterrupted("Interrupted. The same command goes on from there.");
     }
-    const ioPath first = AbsolutePath(arguments_.explain[0]);
-    const ioPath second = AbsolutePath(arguments_.explain[1]);
-    for (const ioPath& photo : {first, second}) {
-      if (!similar_.Explain(photo, photo)) {
-        throw Failure("unknown-photo",
-                      photo.utf8string() +
-                          " is not among the photos that are compared. \"lumidex scan\" takes "
-                          "photos in, and \"lumidex similar\" tells which cannot be compared.");
-      }
+    const ioPath first = KnownName(AbsolutePath(arguments_.explain[0]));
+    const ioPath second = KnownName(AbsolutePath(arguments_.explain[1]));
+    const std::optional<Host::SimilarityFacts> facts = similar_.Explain(first, second);
+    if (!facts) {
+      // Somebody began anew just now.
+      ThrowNotCompared(first);
     }
-    const ExplainView view{first, second, *similar_.Explain(first, second)};
+    const ExplainView view{first, second, *facts};
     session_.output.Print(session_.globals.json ? ExplainDocument(view) : ExplainText(view));
     return ExitCode::Done;
   }

@@ -105,12 +105,12 @@ std::unique_ptr<CatalogueDatabase> OpenForReading(const ioPath& file) {
   return database;
 }
 
-std::unique_ptr<CatalogueDatabase> Open(const ioPath& file, Catalogue::Mode mode) {
+}  // namespace
+
+std::unique_ptr<CatalogueDatabase> OpenCatalogue(const ioPath& file, Catalogue::Mode mode) {
   RequireUsablePlace(file, mode);
   return mode == Catalogue::Mode::ReadOnly ? OpenForReading(file) : OpenForWriting(file);
 }
-
-}  // namespace
 
 const char* DateSourceName(DateSource source) {
   switch (source) {
@@ -128,7 +128,7 @@ const char* DateSourceName(DateSource source) {
 
 class Catalogue::Impl {
  public:
-  Impl(const ioPath& file, Mode mode) : database_(Open(file, mode)) {}
+  Impl(const ioPath& file, Mode mode) : database_(OpenCatalogue(file, mode)) {}
 
   const CatalogueDatabase& Database() const { return *database_; }
 

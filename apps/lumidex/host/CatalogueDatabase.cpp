@@ -135,6 +135,10 @@ QVariant CatalogueDatabase::Value(const char* sql) const {
   return Next(query) ? query.value(0) : QVariant();
 }
 
+qlonglong CatalogueDatabase::StateOfOthers() const {
+  return Value("PRAGMA data_version").toLongLong();
+}
+
 QSqlQuery CatalogueDatabase::Prepare(const char* sql) const {
   QSqlQuery query(database_);
   query.setForwardOnly(true);
@@ -167,6 +171,15 @@ void CatalogueDatabase::Fail(const std::string& cause) const {
 void CatalogueDatabase::Fail(const QSqlError& error) const {
   const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
   Fail(CauseOfSqliteCode(CodeOf(error), text.toStdString(), busyTimeoutMs_));
+}
+
+ReadTransaction::ReadTransaction(const CatalogueDatabase& database) : database_(database) {
+  database_.Execute("BEGIN");
+}
+
+ReadTransaction::~ReadTransaction() {
+  int ignored = 0;
+  database_.TryExecute("ROLLBACK", ignored);
 }
 
 WriteTransaction::WriteTransaction(const CatalogueDatabase& database) : database_(database) {

@@ -36,6 +36,8 @@ class CatalogueDatabase {
   bool TryExecute(const char* sql, int& code) const;
   /// The first column of the first row; invalid when there is none.
   QVariant Value(const char* sql) const;
+  /// A number that is another one as soon as another connection has written; own writes leave it.
+  qlonglong StateOfOthers() const;
   /// A statement that reads forward only, to be run with `Run`.
   QSqlQuery Prepare(const char* sql) const;
   void Run(QSqlQuery& query) const;
@@ -51,6 +53,18 @@ class CatalogueDatabase {
   const int busyTimeoutMs_;
   const QString connection_;
   QSqlDatabase database_;
+};
+
+/// What is read while it lives is of one moment, whoever writes meanwhile.
+class ReadTransaction {
+ public:
+  explicit ReadTransaction(const CatalogueDatabase& database);
+  ~ReadTransaction();
+  ReadTransaction(const ReadTransaction&) = delete;
+  ReadTransaction& operator=(const ReadTransaction&) = delete;
+
+ private:
+  const CatalogueDatabase& database_;
 };
 
 /// A transaction that may write, from its start on; undone unless committed.

@@ -1,11 +1,8 @@
 #include "CatalogueSchema.h"
 
-#include <host/Catalogue.h>
-
 #include <glog/logging.h>
 
 #include <chrono>
-#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
@@ -71,8 +68,9 @@ const Statements& Migration(int fromVersion) {
           "CREATE INDEX changes_by_step ON changes (step)",
       },
       {
+          // AUTOINCREMENT: a program of another version may still be at work with a number that went.
           "CREATE TABLE analysers ("
-          " number INTEGER PRIMARY KEY,"
+          " number INTEGER PRIMARY KEY AUTOINCREMENT,"
           " name TEXT NOT NULL,"
           " version INTEGER NOT NULL,"
           " length INTEGER NOT NULL,"
@@ -196,6 +194,13 @@ void BringUpToDate(const CatalogueDatabase& database) {
     }
   }
   TurnOnWriteAheadLog(database);
+}
+
+bool HasJournal(const CatalogueDatabase& database) {
+  constexpr int kFirstWithJournal = 2;
+  const Identity identity = ReadIdentity(database);
+  return identity.IsOurs() && identity.version >= kFirstWithJournal &&
+         identity.version <= Catalogue::kSchemaVersion;
 }
 
 void RequireCurrentVersion(const CatalogueDatabase& database) {

@@ -2,7 +2,14 @@
 
 #include "CatalogueDatabase.h"
 
+#include <host/Catalogue.h>
+
+#include <memory>
+
 namespace Zenvora::Lumidex::Host {
+
+/// Opens a catalogue as the class `Catalogue` does, with all that it refuses.
+std::unique_ptr<CatalogueDatabase> OpenCatalogue(const ioPath& file, Catalogue::Mode mode);
 
 /// SQLite's application id of catalogues: "LMDX".
 constexpr int kCatalogueApplicationId = 0x4C4D4458;
@@ -14,6 +21,9 @@ void RequireOwnFile(const ioPath& file);
 /// Makes the tables or brings them up to date, one transaction for each version. Two processes may do it at
 /// once. Throws when the catalogue is newer than this program or somebody else's.
 void BringUpToDate(const CatalogueDatabase& database);
+
+/// False also for what is not ours and for what a newer program made.
+bool HasJournal(const CatalogueDatabase& database);
 
 /// Throws when the catalogue is not of this program's version, for those who may not change it.
 void RequireCurrentVersion(const CatalogueDatabase& database);

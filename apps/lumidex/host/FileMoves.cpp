@@ -173,6 +173,31 @@ std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps) {
   return moves;
 }
 
+void IdentifyAgain(std::vector<FileMove>& moves, bool standing) {
+  // By the names where the moves that were looked at leave their files.
+  std::unordered_map<std::basic_string_view<std::filesystem::path::value_type>, std::size_t> left;
+  left.reserve(moves.size());
+  for (std::size_t i = 0; i < moves.size(); ++i) {
+    const std::size_t at = standing ? moves.size() - 1 - i : i;
+    FileMove& move = moves[at];
+    const ioPath& here = standing ? move.to : move.from;
+    const auto known = left.find(here.native().native());
+    if (known != left.end()) {
+      const FileMove& same = moves[known->second];
+      move.device = same.device;
+      move.inode = same.inode;
+      move.size = same.size;
+      move.modifiedNs = same.modifiedNs;
+    } else if (const FileState state = QueryFile(here); state.kind == FileState::Kind::File) {
+      move.device = state.identity.first;
+      move.inode = state.identity.second;
+      move.size = state.size;
+      move.modifiedNs = state.modifiedNs;
+    }
+    left[(standing ? move.from : move.to).native().native()] = at;
+  }
+}
+
 QByteArray PackMoves(const std::vector<FileMove>& moves) {
   QByteArray bytes;
   QDataStream stream(&bytes, QIODevice::WriteOnly);

@@ -26,6 +26,11 @@ struct FileMove {
 /// Looks at the files of a plan. Throws `HostError` when one of them is gone.
 std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps);
 
+/// Looks at them again, before all moves are taken back (`standing`) or done again: others may have changed
+/// or replaced them since, and `CountDone` would not know them any more. Those that are gone stay as they
+/// were.
+void IdentifyAgain(std::vector<FileMove>& moves, bool standing);
+
 QByteArray PackMoves(const std::vector<FileMove>& moves);
 std::vector<FileMove> UnpackMoves(const QByteArray& bytes);
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <new>
 #include <optional>
 #include <utility>
 
@@ -49,10 +50,15 @@ PhotoDescription DescribePhoto(const ioPath& file, const PhotoAnalyser& analyser
       result.descriptor = analyser.Describe(found.image);
       result.source = found.source;
     }
+  } catch (const std::bad_alloc&) {
+    // This photo is passed over, and the work goes on.
+    result = PhotoDescription();
+    result.cause = "there is not enough memory";
+    result.mayPass = true;
   } catch (const std::exception& error) {
-    // Memory has run out: this photo is passed over, and the work goes on.
     result = PhotoDescription();
     result.cause = error.what();
+    result.mayPass = true;
   }
   return result;
 }

@@ -1,5 +1,6 @@
 #include "CatalogueDatabase.h"
 #include "CatalogueRows.h"
+#include "CatalogueSchema.h"
 #include "SimilarReplay.h"
 #include "SimilarStore.h"
 
@@ -11,6 +12,7 @@
 #include <boost/smart_ptr/intrusive_ptr.hpp>
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace Zenvora::Lumidex::Host {
@@ -39,6 +41,11 @@ PhotoFeatures FeaturesOf(const QSqlQuery& row, int first) {
   return features;
 }
 
+/// Of photos `p` with features `f`: they can be compared and are in no cluster.
+constexpr char kWaits[] =
+    " AND f.vector IS NOT NULL AND p.lost = 0 AND NOT EXISTS (SELECT 1 FROM cluster_photos m JOIN clusters c"
+    " ON c.id = m.cluster WHERE m.photo = p.number AND c.analyser = f.analyser)";
+
 /// A photo in a cluster, as `Explain` needs it.
 struct Place {
   std::int64_t cluster = 0;
@@ -50,7 +57,7 @@ struct Place {
 
 class SimilarPhotos::Impl {
  public:
-  Impl(const ioPath& catalogue, const AnalyserName& analyser);
+  Impl(const ioPath& catalogue, const AnalyserName& analyser, Catalogue::Mode mode);
 
   std::vector<PhotoRecord> Pending() const;
   void Store(const std::vector<AnalysedPhoto>& photos);
@@ -60,56 +67,64 @@ class SimilarPhotos::Impl {
   std::size_t CountClustered() const;
   void ClearClusters();
   std::vector<SimilarGroup> Groups(std::size_t least) const;
-  std::optional<Place> Find(const ioPath& photo) const;
+  std::optional<std::pair<Place, Place>> Find(const ioPath& first, const ioPath& second) const;
   std::vector<std::string> Check() const;
 
  private:
   using Item = std::pair<QString, std::vector<float>>;
 
+  std::optional<qlonglong> FindAnalyser(const AnalyserName& analyser) const;
   qlonglong TakeAnalyser(const AnalyserName& analyser) const;
   /// `sql` has one place for the analyser's number.
   QSqlQuery RunFor(const std::string& sql) const;
   bool ChangesACluster(const AnalysedPhoto& photo) const;
   void DeleteClusters() const;
-  void AddBatch(const std::vector<Item>& items);
+  std::optional<Place> Find(const ioPath& photo) const;
+  std::size_t AddBatch(const std::vector<QString>& ids);
+  std::optional<std::size_t> TryBatch(const std::vector<QString>& ids);
+  std::vector<Item> Waiting(const std::vector<QString>& ids) const;
 
-  const Catalogue catalogue_;
-  const CatalogueDatabase database_;
+  const std::unique_ptr<CatalogueDatabase> opened_;
+  const CatalogueDatabase& database_;
   const std::size_t length_;
   const qlonglong analyser_;
   const std::shared_ptr<CatalogueTransactions> transactions_;
   const std::shared_ptr<SimilarStore> store_;
-  /// Made when it is needed; none after a failure, for it then knows what the store does not.
+  /// Made when it is needed; none after a failure, for it then knows what the store does not, and none when
+  /// others have written, for the store then knows what it does not.
   boost::intrusive_ptr<ISimilarDataManager> manager_;
+  /// Of the others, when the manager read the clusters.
+  qlonglong state_ = 0;
 };
 
-SimilarPhotos::Impl::Impl(const ioPath& catalogue, const AnalyserName& analyser)
-    // Makes or updates it.
-    : catalogue_(catalogue, Catalogue::Mode::ReadWrite),
-      database_(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
+/// Of no analyser.
+constexpr qlonglong kNothingYet = 0;
+
+SimilarPhotos::Impl::Impl(const ioPath& catalogue, const AnalyserName& analyser, Catalogue::Mode mode)
+    : opened_(OpenCatalogue(catalogue, mode)),
+      database_(*opened_),
       length_(analyser.length),
-      analyser_(TakeAnalyser(analyser)),
+      analyser_(mode == Catalogue::Mode::ReadOnly ? FindAnalyser(analyser).value_or(kNothingYet)
+                                                  : TakeAnalyser(analyser)),
       transactions_(std::make_shared<CatalogueTransactions>(database_)),
       store_(std::make_shared<SimilarStore>(database_, *transactions_, analyser_)) {}
 
+std::optional<qlonglong> SimilarPhotos::Impl::FindAnalyser(const AnalyserName& analyser) const {
+  QSqlQuery query =
+      database_.Prepare("SELECT number FROM analysers WHERE name = ? AND version = ? AND length = ?");
+  query.addBindValue(NotNull(analyser.name));
+  query.addBindValue(analyser.version);
+  query.addBindValue(static_cast<qlonglong>(analyser.length));
+  database_.Run(query);
+  return database_.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
+}
+
 qlonglong SimilarPhotos::Impl::TakeAnalyser(const AnalyserName& analyser) const {
-  const auto bind = [&analyser](QSqlQuery& query) {
-    query.addBindValue(NotNull(analyser.name));
-    query.addBindValue(analyser.version);
-    query.addBindValue(static_cast<qlonglong>(analyser.length));
-  };
-  const auto find = [&] {
-    QSqlQuery query =
-        database_.Prepare("SELECT number FROM analysers WHERE name = ? AND version = ? AND length = ?");
-    bind(query);
-    database_.Run(query);
-    return database_.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
-  };
-  if (const auto known = find()) {
+  if (const auto known = FindAnalyser(analyser)) {
     return *known;
   }
   WriteTransaction transaction(database_);
-  if (const auto known = find()) {
+  if (const auto known = FindAnalyser(analyser)) {
     // Another process was faster.
     return *known;
   }
@@ -117,7 +132,9 @@ qlonglong SimilarPhotos::Impl::TakeAnalyser(const AnalyserName& analyser) const 
   former.addBindValue(NotNull(analyser.name));
   database_.Run(former);
   QSqlQuery query = database_.Prepare("INSERT INTO analysers (name, version, length) VALUES (?, ?, ?)");
-  bind(query);
+  query.addBindValue(NotNull(analyser.name));
+  query.addBindValue(analyser.version);
+  query.addBindValue(static_cast<qlonglong>(analyser.length));
   database_.Run(query);
   const qlonglong number = query.lastInsertId().toLongLong();
   transaction.Commit();
@@ -220,56 +237,88 @@ std::vector<std::pair<PhotoRecord, std::string>> SimilarPhotos::Impl::Problems()
 std::size_t SimilarPhotos::Impl::AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress) {
   std::vector<QString> waiting;
   {
-    QSqlQuery query = RunFor(
-        "SELECT p.id FROM features f JOIN photos p ON p.number = f.photo WHERE f.analyser = ? AND f.vector "
-        "IS NOT"
-        " NULL AND p.lost = 0 AND NOT EXISTS (SELECT 1 FROM cluster_photos m JOIN clusters c ON c.id = "
-        "m.cluster"
-        " WHERE m.photo = p.number AND c.analyser = f.analyser)" +
-        std::string(kByDate));
+    QSqlQuery query =
+        RunFor("SELECT p.id FROM features f JOIN photos p ON p.number = f.photo WHERE f.analyser = ?" +
+               std::string(kWaits) + kByDate);
     while (database_.Next(query)) {
       waiting.push_back(query.value(0).toString());
     }
   }
-  QSqlQuery read = database_.Prepare(
-      "SELECT f.vector FROM features f JOIN photos p ON p.number = f.photo WHERE f.analyser = ? AND p.id = "
-      "?");
-  std::size_t done = 0;
-  while (done < waiting.size() && !cancelled) {
-    std::vector<Item> items;
-    for (const std::size_t end = std::min(waiting.size(), done + kBatch); done < end; ++done) {
-      read.addBindValue(analyser_);
-      read.addBindValue(waiting[done]);
-      database_.Run(read);
-      if (database_.Next(read)) {
-        items.emplace_back(waiting[done], VectorOf(read.value(0).toByteArray()));
-      }
-    }
-    read.finish();
-    AddBatch(items);
+  std::size_t added = 0;
+  for (auto first = waiting.begin(); first != waiting.end() && !cancelled;) {
+    const auto end = first + std::min<std::ptrdiff_t>(kBatch, waiting.end() - first);
+    added += AddBatch({first, end});
+    first = end;
     if (progress) {
-      progress(done, waiting.size());
+      progress(static_cast<std::size_t>(first - waiting.begin()), waiting.size());
     }
   }
-  return done;
+  return added;
 }
 
-void SimilarPhotos::Impl::AddBatch(const std::vector<Item>& items) {
-  std::vector<QString> ids;
-  ids.reserve(items.size());
-  for (const Item& item : items) {
-    ids.push_back(item.first);
+std::size_t SimilarPhotos::Impl::AddBatch(const std::vector<QString>& ids) {
+  // As a rule nobody else writes; who does shall not have to wait for the matching.
+  if (const std::optional<std::size_t> added = TryBatch(ids)) {
+    return *added;
+  }
+  transactions_->Reserve();
+  try {
+    const std::optional<std::size_t> added = TryBatch(ids);
+    transactions_->Unreserve();
+    return added.value();
+  } catch (...) {
+    transactions_->Unreserve();
+    throw;
+  }
+}
+
+/// Puts those that still wait into clusters. Empty, with nothing done, when others have written meanwhile.
+std::optional<std::size_t> SimilarPhotos::Impl::TryBatch(const std::vector<QString>& ids) {
+  const qlonglong state = database_.StateOfOthers();
+  if (state != state_) {
+    manager_.reset();
+    state_ = state;
+    transactions_->RequireState(state);
   }
   try {
     if (!manager_) {
       manager_.reset(new SimilarDataManager(store_, transactions_));
     }
-    store_->ExpectArrivals(ids);
+    std::vector<Item> items = Waiting(ids);
+    std::vector<QString> arriving;
+    arriving.reserve(items.size());
+    for (const Item& item : items) {
+      arriving.push_back(item.first);
+    }
+    store_->ExpectArrivals(arriving);
     manager_->AddToStorage(items);
+    return items.size();
+  } catch (const WrittenByOthers&) {
+    manager_.reset();
+    return std::nullopt;
   } catch (...) {
     manager_.reset();
     throw;
   }
+}
+
+std::vector<SimilarPhotos::Impl::Item> SimilarPhotos::Impl::Waiting(const std::vector<QString>& ids) const {
+  QSqlQuery query = database_.Prepare(
+      (std::string(
+           "SELECT f.vector FROM features f JOIN photos p ON p.number = f.photo WHERE f.analyser = ?") +
+       kWaits + " AND p.id = ?")
+          .c_str());
+  std::vector<Item> items;
+  items.reserve(ids.size());
+  for (const QString& id : ids) {
+    query.addBindValue(analyser_);
+    query.addBindValue(id);
+    database_.Run(query);
+    if (database_.Next(query)) {
+      items.emplace_back(id, VectorOf(query.value(0).toByteArray()));
+    }
+  }
+  return items;
 }
 
 std::size_t SimilarPhotos::Impl::CountClustered() const {
@@ -336,8 +385,17 @@ std::optional<Place> SimilarPhotos::Impl::Find(const ioPath& photo) const {
                VectorOf(query.value(1).toByteArray())};
 }
 
+std::optional<std::pair<Place, Place>> SimilarPhotos::Impl::Find(const ioPath& first,
+                                                                 const ioPath& second) const {
+  const ReadTransaction oneMoment(database_);
+  const std::optional<Place> a = Find(first);
+  const std::optional<Place> b = Find(second);
+  return a && b ? std::make_optional(std::make_pair(*a, *b)) : std::nullopt;
+}
+
 std::vector<std::string> SimilarPhotos::Impl::Check() const {
   SimilarReplay replay;
+  const ReadTransaction oneMoment(database_);
   QSqlQuery members = RunFor(
       "SELECT m.cluster, m.photo, f.vector FROM cluster_photos m JOIN clusters c ON c.id = m.cluster"
       " LEFT JOIN features f ON f.photo = m.photo AND f.analyser = c.analyser WHERE c.analyser = ?"
@@ -351,8 +409,8 @@ std::vector<std::string> SimilarPhotos::Impl::Check() const {
 
 // --- The class
 
-SimilarPhotos::SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser)
-    : impl_(std::make_unique<Impl>(catalogue, analyser)) {}
+SimilarPhotos::SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser, Catalogue::Mode mode)
+    : impl_(std::make_unique<Impl>(catalogue, analyser, mode)) {}
 
 SimilarPhotos::~SimilarPhotos() = default;
 
@@ -389,19 +447,19 @@ std::vector<SimilarGroup> SimilarPhotos::Groups(std::size_t least) const {
 }
 
 std::optional<SimilarityFacts> SimilarPhotos::Explain(const ioPath& first, const ioPath& second) const {
-  const std::optional<Place> a = impl_->Find(first);
-  const std::optional<Place> b = impl_->Find(second);
-  if (!a || !b) {
+  const auto places = impl_->Find(first, second);
+  if (!places) {
     return std::nullopt;
   }
+  const auto& [a, b] = *places;
   using Quillet::MatchTemplate;
-  return SimilarityFacts{MatchTemplate(a->vector, b->vector),
-                         a->cluster,
-                         b->cluster,
-                         MatchTemplate(a->vector, a->centre),
-                         MatchTemplate(a->vector, b->centre),
-                         MatchTemplate(b->vector, a->centre),
-                         MatchTemplate(b->vector, b->centre)};
+  return SimilarityFacts{MatchTemplate(a.vector, b.vector),
+                         a.cluster,
+                         b.cluster,
+                         MatchTemplate(a.vector, a.centre),
+                         MatchTemplate(a.vector, b.centre),
+                         MatchTemplate(b.vector, a.centre),
+                         MatchTemplate(b.vector, b.centre)};
 }
 
 std::vector<std::string> SimilarPhotos::Check() const {

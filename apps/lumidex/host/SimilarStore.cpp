@@ -26,8 +26,15 @@ std::vector<float> VectorOf(const QByteArray& bytes) {
 
 class CatalogueTransactions::Transaction : public ITransaction {
  public:
-  Transaction(CatalogueTransactions& owner, const std::string& name) : owner_(owner) {
-    writes_.emplace(owner.database_);
+  Transaction(CatalogueTransactions& owner, const std::string& name)
+      : owner_(owner),
+        writes_(owner.reserved_ ? std::move(owner.reserved_)
+                                : std::make_unique<WriteTransaction>(owner.database_)) {
+    if (owner.state_ && owner.database_.StateOfOthers() != *owner.state_) {
+      BOOST_THROW_EXCEPTION(WrittenByOthers()
+                            << TagDescription("The clusters in memory are not those of the catalogue " +
+                                              owner.database_.File().utf8string() + " any more."));
+    }
     owner.open_ = name;
   }
   ~Transaction() override { Transaction::Rollback(); }
@@ -50,7 +57,7 @@ class CatalogueTransactions::Transaction : public ITransaction {
 
  private:
   CatalogueTransactions& owner_;
-  std::optional<WriteTransaction> writes_;
+  std::unique_ptr<WriteTransaction> writes_;
 };
 
 std::unique_ptr<ITransaction> CatalogueTransactions::BeginTransaction(const std::string& name) {
@@ -58,6 +65,10 @@ std::unique_ptr<ITransaction> CatalogueTransactions::BeginTransaction(const std:
     database_.Fail("\"" + name + "\" cannot begin while \"" + *open_ + "\" is under way");
   }
   return std::make_unique<Transaction>(*this, name);
+}
+
+void CatalogueTransactions::Reserve() {
+  reserved_ = std::make_unique<WriteTransaction>(database_);
 }
 
 void CatalogueTransactions::RequireOpen(const char* operation) const {
@@ -82,6 +93,12 @@ std::vector<Cluster> SimilarStore::GetClusters() {
     Cluster& cluster = clusters.emplace_back(VectorOf(query.value(2).toByteArray()), query.value(1).toInt());
     cluster.id = query.value(0).toLongLong();
   }
+  QSqlQuery last = database_.Prepare(
+      "SELECT max(m.arrival) FROM cluster_photos m JOIN clusters c ON c.id = m.cluster WHERE c.analyser = ?");
+  last.addBindValue(analyser_);
+  database_.Run(last);
+  database_.Next(last);
+  nextArrival_ = last.value(0).toLongLong() + 1;
   return clusters;
 }
 
@@ -116,12 +133,6 @@ void SimilarStore::UpdateCluster(const Cluster& cluster, const std::vector<QStri
 }
 
 void SimilarStore::ExpectArrivals(const std::vector<QString>& photoIds) {
-  QSqlQuery query = database_.Prepare(
-      "SELECT max(m.arrival) FROM cluster_photos m JOIN clusters c ON c.id = m.cluster WHERE c.analyser = ?");
-  query.addBindValue(analyser_);
-  database_.Run(query);
-  database_.Next(query);
-  nextArrival_ = query.value(0).toLongLong() + 1;
   arrivals_.clear();
   for (const QString& id : photoIds) {
     arrivals_.emplace(id, nextArrival_++);

@@ -2,7 +2,7 @@
 
 #include "CatalogueDatabase.h"
 
-#include <host/SimilarPhotos.h>
+#include <host/HostError.h>
 
 #include <zenvora/lumidex/ISimilarDataSource.h>
 #include <zenvora/lumidex/ITransactionManager.h>
@@ -23,6 +23,9 @@ namespace Zenvora::Lumidex::Host {
 QByteArray VectorBytes(const std::vector<float>& vector);
 std::vector<float> VectorOf(const QByteArray& bytes);
 
+/// Somebody else has written to the catalogue.
+class WrittenByOthers : public HostError {};
+
 /// Named transactions on one connection.
 class CatalogueTransactions : public ITransactionManager {
  public:
@@ -30,8 +33,16 @@ class CatalogueTransactions : public ITransactionManager {
   explicit CatalogueTransactions(const CatalogueDatabase& database) : database_(database) {}
 
   /// Throws `HostError` while another one is open: there is one connection, and what a nested one took back
-  /// would be taken from the outer one too.
+  /// would be taken from the outer one too. Throws `WrittenByOthers` when somebody has written since the
+  /// state that is required.
   std::unique_ptr<ITransaction> BeginTransaction(const std::string& name) override;
+
+  /// From now on transactions begin only while the catalogue's `StateOfOthers` is this one.
+  void RequireState(qlonglong state) { state_ = state; }
+  /// Keeps others from writing; the next transaction takes it over. Blocks while others write.
+  void Reserve();
+  /// Lets others write again. Nothing happens when a transaction took the reservation over.
+  void Unreserve() { reserved_.reset(); }
 
   /// Throws `HostError` when none is open.
   void RequireOpen(const char* operation) const;
@@ -41,6 +52,8 @@ class CatalogueTransactions : public ITransactionManager {
 
   const CatalogueDatabase& database_;
   std::optional<std::string> open_;
+  std::optional<qlonglong> state_;
+  std::unique_ptr<WriteTransaction> reserved_;
 };
 
 /// The clusters of one analyser in the catalogue. What it writes needs an open transaction.
@@ -50,11 +63,13 @@ class SimilarStore : public ISimilarDataSource {
   SimilarStore(const CatalogueDatabase& database, const CatalogueTransactions& transactions,
                qlonglong analyser);
 
+  /// Arrivals are counted on from what is stored when this is called.
   std::vector<Cluster> GetClusters() override;
   int AddCluster(const Cluster& cluster, const std::vector<QString>& photoIds) override;
   void UpdateCluster(const Cluster& cluster, const std::vector<QString>& photoIds) override;
 
-  /// In which order the photos of the coming batch are matched: it is stored with them.
+  /// In which order the photos of the coming batch are matched: it is stored with them. Call `GetClusters`
+  /// first.
   void ExpectArrivals(const std::vector<QString>& photoIds);
 
  private:

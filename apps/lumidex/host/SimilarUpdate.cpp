@@ -41,7 +41,7 @@ class Gathering {
     const PhotoRecord& photo = photos_[index];
     if (found.descriptor.empty()) {
       // Only what is known of the content is worth remembering.
-      const std::string cause = WhyUnreadable(photo.path);
+      const std::string cause = found.mayPass ? found.cause : WhyUnreadable(photo.path);
       if (!cause.empty()) {
         result_.unreadable.emplace_back(photo.path, cause);
         return;

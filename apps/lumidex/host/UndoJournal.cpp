@@ -118,6 +118,7 @@ class UndoJournal::Impl {
   void Recover();
   void SweepKept(const std::set<std::string>& wanted);
   void RecoverMoves(StepRow& step);
+  void StoreMoves(const StepRow& step);
   void RecoverChanges(StepRow& step);
   bool SettleChange(ChangeRow& change);
 
@@ -361,6 +362,13 @@ UndoJournal::Impl::Drive UndoJournal::Impl::DriveMoves(const std::vector<FileMov
   return drive;
 }
 
+void UndoJournal::Impl::StoreMoves(const StepRow& step) {
+  QSqlQuery query = database_.Prepare("UPDATE steps SET moves = ? WHERE number = ?");
+  query.addBindValue(PackMoves(step.moves));
+  query.addBindValue(step.number);
+  database_.Run(query);
+}
+
 /// Writes down that the first `at` moves stand, and that nobody works on them any more.
 void UndoJournal::Impl::SettleMoves(StepRow& step, std::size_t at) {
   SyncFoldersOf(step.moves);
@@ -385,8 +393,8 @@ void UndoJournal::Impl::SettleMoves(StepRow& step, std::size_t at) {
   } else {
     if (at < step.moves.size()) {
       step.moves.resize(at);
-      QSqlQuery query = database_.Prepare("UPDATE steps SET moves = ?, files = ? WHERE number = ?");
-      query.addBindValue(PackMoves(step.moves));
+      StoreMoves(step);
+      QSqlQuery query = database_.Prepare("UPDATE steps SET files = ? WHERE number = ?");
       query.addBindValue(static_cast<qlonglong>(at));
       query.addBindValue(step.number);
       database_.Run(query);
@@ -442,7 +450,13 @@ UndoResult UndoJournal::Impl::ReverseMoves(StepRow& step, bool redo, const std::
   UndoResult result;
   result.name = step.name;
   step.state = redo ? State::Redoing : State::Undoing;
-  SetState("steps", step.number, step.state);
+  IdentifyAgain(step.moves, !redo);
+  {
+    WriteTransaction transaction(database_);
+    StoreMoves(step);
+    SetState("steps", step.number, step.state);
+    transaction.Commit();
+  }
   const std::size_t reached = DriveOrReturn(step, begin, goal, cancelled, progress, result);
   result.files = reached > begin ? reached - begin : begin - reached;
   result.stands = !redo && reached > 0;
@@ -926,8 +940,9 @@ bool NeedsRecovery(const ioPath& catalogue) {
   try {
     const CatalogueDatabase database(catalogue, CatalogueDatabase::Access::QueryOnly,
                                      Catalogue::kBusyTimeoutMs);
-    RequireCurrentVersion(database);
-    return database.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state IN (1, 3, 5))").toBool();
+    // Also in a catalogue of a former version: what the former program left must not wait for another run.
+    return HasJournal(database) &&
+           database.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state IN (1, 3, 5))").toBool();
   } catch (const HostError&) {
     // Whoever needs it will say why it cannot be used.
     return false;

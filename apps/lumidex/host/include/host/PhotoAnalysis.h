@@ -70,6 +70,8 @@ struct PhotoDescription {
   QSize size;
   /// Why there is no descriptor, in English, without the file's name.
   std::string cause;
+  /// The cause is not the file's own: another try may do better.
+  bool mayPass = false;
 };
 
 struct AnalysisOptions {

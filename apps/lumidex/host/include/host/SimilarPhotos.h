@@ -72,14 +72,19 @@ struct SimilarityFacts {
 /// that came before. When the vector of a photo that is in a cluster changes (its file was edited), all
 /// clusters are made anew, for nothing can be taken out of a mean.
 ///
+/// Several processes may use one catalogue at a time: what others have stored is always seen, and a photo is
+/// put into a cluster once. Check and Explain see one moment.
+///
 /// All functions throw `HostError` naming the catalogue and the cause, and block on the disk. After an error
 /// the object can be used on. Belongs to the thread that made it.
 class SimilarPhotos {
  public:
   using Progress = std::function<void(std::size_t done, std::size_t total)>;
 
-  /// Opens the catalogue for writing. What it holds of other versions of the analyser goes.
-  SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser);
+  /// Opens the catalogue for writing, and what it holds of other versions of the analyser goes; or for
+  /// reading, and nothing is changed: then `Store`, `AddToClusters` and `ClearClusters` must not be called.
+  SimilarPhotos(const ioPath& catalogue, const AnalyserName& analyser,
+                Catalogue::Mode mode = Catalogue::Mode::ReadWrite);
   ~SimilarPhotos();
   SimilarPhotos(const SimilarPhotos&) = delete;
   SimilarPhotos& operator=(const SimilarPhotos&) = delete;
@@ -95,7 +100,7 @@ class SimilarPhotos {
   std::vector<std::pair<PhotoRecord, std::string>> Problems() const;
 
   /// Puts the analysed photos that are in no cluster yet into clusters, some thousands in one transaction.
-  /// Returns how many. What is committed when `cancelled` becomes true stays.
+  /// Returns how many, without those that others put there meanwhile. What is committed when `cancelled` becomes true stays.
   std::size_t AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress);
   /// Photos that are in a cluster and not lost.
   std::size_t CountClustered() const;
