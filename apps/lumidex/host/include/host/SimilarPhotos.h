@@ -100,7 +100,8 @@ class SimilarPhotos {
   std::vector<std::pair<PhotoRecord, std::string>> Problems() const;
 
   /// Puts the analysed photos that are in no cluster yet into clusters, some thousands in one transaction.
-  /// Returns how many, without those that others put there meanwhile. What is committed when `cancelled` becomes true stays.
+  /// Returns how many, without those that others put there meanwhile. What is committed when `cancelled`
+  /// becomes true stays.
   std::size_t AddToClusters(const std::atomic<bool>& cancelled, const Progress& progress);
   /// Photos that are in a cluster and not lost.
   std::size_t CountClustered() const;
