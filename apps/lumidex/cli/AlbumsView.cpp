@@ -2,6 +2,7 @@
 
 #include "AlbumNames.h"
 #include "JsonWriter.h"
+#include "ReportNote.h"
 #include "TerminalText.h"
 #include "TextTable.h"
 
@@ -69,18 +70,6 @@ std::string AcceptedLines(const AlbumsView& view) {
   std::string text;
   for (const AcceptedRow& row : view.accepted) {
     text += AcceptedLine(row);
-  }
-  return text;
-}
-
-std::string ReportLines(const AlbumsView& view) {
-  if (!view.report) {
-    return {};
-  }
-  std::string text = "Report: " + EscapeForTerminal(view.report->utf8string()) + '\n';
-  if (view.missingPictures > 0) {
-    text += "  " + Counted(static_cast<unsigned long long>(view.missingPictures), "picture") +
-            " could not be read and got a placeholder.\n";
   }
   return text;
 }
@@ -162,14 +151,7 @@ std::string AlbumsDocument(const AlbumsView& view) {
     json.EndObject();
   }
   json.EndArray();
-  if (view.report) {
-    json.BeginObject("report");
-    json.Path("path", *view.report);
-    json.Number("missingPictures", view.missingPictures);
-    json.EndObject();
-  } else {
-    json.Null("report");
-  }
+  WriteReportMember(json, view.report, view.missingPictures);
   if (view.calendarFault) {
     json.Text("calendarFault", *view.calendarFault);
   } else {
@@ -183,7 +165,7 @@ std::string AlbumsText(const AlbumsView& view) {
   if (view.withMembers) {
     text += MembersText(view);
   }
-  return text + SummaryText(view) + AcceptedLines(view) + ReportLines(view);
+  return text + SummaryText(view) + AcceptedLines(view) + ReportLines(view.report, view.missingPictures);
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -1,6 +1,7 @@
 #include "SimilarView.h"
 
 #include "JsonWriter.h"
+#include "ReportNote.h"
 #include "TerminalText.h"
 #include "TextTable.h"
 #include "ValueTexts.h"
@@ -151,14 +152,7 @@ std::string SimilarDocument(const SimilarView& view) {
     json.EndObject();
   }
   json.EndArray();
-  if (view.report) {
-    json.BeginObject("report");
-    json.Path("path", *view.report);
-    json.Number("missingPictures", view.missingPictures);
-    json.EndObject();
-  } else {
-    json.Null("report");
-  }
+  WriteReportMember(json, view.report, view.missingPictures);
   return json.Finish();
 }
 
@@ -169,14 +163,7 @@ std::string SimilarText(const SimilarView& view) {
     text += GroupText(group, ++number);
   }
   text += SummaryText(view);
-  if (view.report) {
-    text += "Report: " + EscapeForTerminal(view.report->utf8string()) + '\n';
-    if (view.missingPictures > 0) {
-      text += "  " + Counted(static_cast<unsigned long long>(view.missingPictures), "picture") +
-              " could not be read and got a placeholder.\n";
-    }
-  }
-  return text;
+  return text + ReportLines(view.report, view.missingPictures);
 }
 
 std::string ExplainDocument(const ExplainView& view) {
