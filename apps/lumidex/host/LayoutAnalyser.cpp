@@ -3,8 +3,6 @@
 
 #include <host/PhotoAnalysis.h>
 
-#include <QPainter>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -137,17 +135,6 @@ struct Tables {
 const Tables& TheTables() {
   static const Tables tables;
   return tables;
-}
-
-QImage OnWhite(const QImage& picture) {
-  if (!picture.hasAlphaChannel()) {
-    return picture.convertToFormat(QImage::Format_RGB32);
-  }
-  QImage plain(picture.size(), QImage::Format_RGB32);
-  plain.fill(Qt::white);
-  QPainter painter(&plain);
-  painter.drawImage(0, 0, picture);
-  return plain;
 }
 
 /// For each of `kSide` pixels the source pixels that it is made of.

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
+#include <QPainter>
 #include <QTransform>
 
 #include <algorithm>
@@ -153,6 +154,17 @@ QImage DecodeBytes(const QByteArray& bytes, int longerSide) {
   QBuffer buffer;
   buffer.setData(bytes);
   return buffer.open(QIODevice::ReadOnly) ? DecodePicture(buffer, longerSide, false).image : QImage();
+}
+
+QImage OnWhite(const QImage& picture) {
+  if (!picture.hasAlphaChannel()) {
+    return picture.convertToFormat(QImage::Format_RGB32);
+  }
+  QImage plain(picture.size(), QImage::Format_RGB32);
+  plain.fill(Qt::white);
+  QPainter painter(&plain);
+  painter.drawImage(0, 0, picture);
+  return plain;
 }
 
 QImage Turned(const QImage& stored, int orientation) {

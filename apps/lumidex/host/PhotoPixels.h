@@ -31,6 +31,9 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright);
 /// The picture alone, from bytes in memory; never turned.
 QImage DecodeBytes(const QByteArray& bytes, int longerSide);
 
+/// The picture with 32 bits a pixel; what is transparent counts as white. Pure.
+QImage OnWhite(const QImage& picture);
+
 /// The picture as EXIF's orientation (1..8; others change nothing) says. Pure.
 QImage Turned(const QImage& stored, int orientation);
 
