@@ -131,7 +131,7 @@ TEST_F(HelpPages, AreNotNeededForTheVersion) {
   for (const char* const option : {"--version", "-V"}) {
     const Ran ran = Run({option});
     EXPECT_EQ(ran.exitCode, 0);
-    EXPECT_TRUE(QRegularExpression(QStringLiteral("^lumidex \\d+\\.\\d+\\.\\d+\\n$"))
+    EXPECT_TRUE(QRegularExpression(QStringLiteral("^lumidex \\d+\\.\\d+\\.\\d+\\nmodels: [^\\n]+\\n$"))
                     .match(QString::fromStdString(ran.out))
                     .hasMatch())
         << ran.out;

@@ -1,5 +1,8 @@
 #include "CliFixture.h"
 
+#include <host/ModelAnalyser.h>
+#include <support/TinyModel.h>
+
 #include <zenvora/core/FileState.h>
 
 #include <QImage>
@@ -9,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
 
 namespace Zenvora::Test {
 namespace {
@@ -314,6 +318,98 @@ TEST_F(SimilarCommand, ReadsFilesOnly) {
   EXPECT_EQ(Run({"similar"}).exitCode, 0);
   EXPECT_EQ(QueryFile(odd).modifiedNs, before.modifiedNs);
   EXPECT_EQ(NamesIn(Photos()).size(), 7U);
+}
+
+/// Needs a build that runs models.
+class SimilarByModel : public SimilarCommand {
+ protected:
+  void SetUp() override {
+    if (Lumidex::Host::ModelRuntime().empty()) {
+      GTEST_SKIP() << "this build runs no models (LUMIDEX_ONNX)";
+    }
+    MakeGroups();
+    Scan();
+    tree.Write("tiny.onnx", TinyModel().Bytes());
+  }
+};
+
+TEST_F(SimilarByModel, GroupsByWhatTheModelSees) {
+  const Ran ran = Run({"similar", "--json", "--model", "tiny.onnx"});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_THAT(Groups(ran), ::testing::ElementsAre("a1.jpg* a2.jpg a3.png", "b1.jpg b2.jpg*"));
+  EXPECT_THAT(ran.Json()["analyser"].toString().toStdString(),
+              ::testing::MatchesRegex("onnx:[0-9a-f][0-9a-f]*"));
+  EXPECT_EQ(ran.Json()["analysed"].toInt(), 6);
+  const Ran again = Run({"similar", "--json", "--model", "tiny.onnx", "--threads", "3"});
+  EXPECT_EQ(again.Json()["analysed"].toInt(-1), 0);
+  EXPECT_EQ(Groups(again), Groups(ran));
+  EXPECT_EQ(Run({"similar", "--model", "tiny.onnx", "--check"}).exitCode, 0);
+  const Ran explained =
+      Run({"similar", "--model", "tiny.onnx", "--explain", "photos/a1.jpg", "photos/c.jpg"});
+  EXPECT_EQ(explained.exitCode, 0) << explained.err;
+  EXPECT_THAT(explained.out, HasSubstr("are in different groups"));
+}
+
+TEST_F(SimilarByModel, KeepsTheGroupsOfOthersApart) {
+  const Ran usual = Run({"similar", "--json"});
+  EXPECT_EQ(usual.Json()["analyser"].toString(), QStringLiteral("layout"));
+  TinyModel light;
+  light.weights.resize(light.weights.size() / 4);
+  tree.Write("light.onnx", light.Bytes());
+  const Ran first = Run({"similar", "--json", "--model", "tiny.onnx"});
+  const Ran second = Run({"similar", "--json", "--model", "light.onnx"});
+  EXPECT_EQ(second.Json()["analysed"].toInt(), 6);
+  EXPECT_NE(first.Json()["analyser"], second.Json()["analyser"]);
+  for (const auto& [arguments, before] :
+       {std::make_pair(QStringList{"similar", "--json"}, &usual),
+        std::make_pair(QStringList{"similar", "--json", "--model", "tiny.onnx"}, &first),
+        std::make_pair(QStringList{"similar", "--json", "--model", "light.onnx"}, &second)}) {
+    const Ran back = Run(arguments);
+    EXPECT_EQ(back.Json()["analysed"].toInt(-1), 0);
+    EXPECT_EQ(back.Json()["groups"], before->Json()["groups"]);
+  }
+}
+
+TEST_F(SimilarByModel, SaysWhyAModelCannotBeUsed) {
+  const std::string catalogue = ReadFile(DefaultCatalogue());
+  TinyModel unknown;
+  unknown.operation = "Frobnicate";
+  const std::pair<std::string, std::string> cases[] = {
+      {"missing.onnx", "there is no such file"},
+      {"photos/a1.jpg", "it is no ONNX model, or a damaged one"},
+      {"unknown.onnx", "Frobnicate"},
+      {"photos", "it is a folder"},
+  };
+  tree.Write("unknown.onnx", unknown.Bytes());
+  for (const auto& [name, cause] : cases) {
+    const Ran ran = Run({"similar", "--model", QString::fromStdString(name)});
+    EXPECT_EQ(ran.exitCode, 4) << name;
+    EXPECT_THAT(ran.out, IsEmpty());
+    // Nothing of what the library itself would print.
+    EXPECT_THAT(ran.err, ::testing::MatchesRegex("lumidex: error: Cannot use the model [^\n]*\n")) << name;
+    EXPECT_THAT(ran.err, HasSubstr(tree.Path(name).utf8string() + ": "));
+    EXPECT_THAT(ran.err, HasSubstr(cause));
+  }
+  EXPECT_EQ(ReadFile(DefaultCatalogue()), catalogue);
+  EXPECT_EQ(Run({"similar", "--model", ""}).exitCode, 2);
+}
+
+TEST_F(SimilarCommand, SaysWhenThisBuildRunsNoModels) {
+  const std::string runtime = Lumidex::Host::ModelRuntime();
+  const std::string page = Run({"help", "similar"}).out;
+  EXPECT_THAT(page, HasSubstr("--model FILE"));
+  if (!runtime.empty()) {
+    EXPECT_THAT(Run({"--version"}).out, HasSubstr("\nmodels: ONNX, run by " + runtime + "\n"));
+    return;
+  }
+  EXPECT_THAT(page, HasSubstr("built without"));
+  EXPECT_THAT(Run({"--version"}).out, HasSubstr("\nmodels: none"));
+  MakeGroups();
+  Scan();
+  const Ran ran = Run({"similar", "--model", "tiny.onnx"});
+  EXPECT_EQ(ran.exitCode, 2);
+  EXPECT_THAT(ran.err, HasSubstr("built without support for models"));
+  EXPECT_EQ(Run({"similar"}).exitCode, 0);
 }
 
 }  // namespace

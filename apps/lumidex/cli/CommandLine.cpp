@@ -4,6 +4,8 @@
 #include "HelpFormatter.h"
 #include "Options.h"
 
+#include <host/ModelAnalyser.h>
+
 #include <algorithm>
 #include <numeric>
 
@@ -38,6 +40,12 @@ Exit codes:
   4    could not be done
   130  interrupted; what was finished stays)";
 
+std::string VersionText() {
+  const std::string runtime = Host::ModelRuntime();
+  return "lumidex " LUMIDEX_VERSION "\nmodels: " +
+         (runtime.empty() ? "none (built without LUMIDEX_ONNX)" : "ONNX, run by " + runtime);
+}
+
 std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   auto program = std::make_unique<CLI::App>(kDescription, "lumidex");
   program->footer(kFooter);
@@ -46,7 +54,7 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   program->formatter_fn(
       [](const CLI::App* command, const std::string&, CLI::AppFormatMode) { return HelpPage(*command); });
   program->set_help_flag("-h,--help", "Print this page.");
-  program->set_version_flag("-V,--version", std::string("lumidex " LUMIDEX_VERSION), "Print the version.");
+  program->set_version_flag("-V,--version", VersionText(), "Print the version, and what runs models.");
   program
       ->add_option("-c,--catalogue,--catalog", globals.catalogue,
                    "The catalogue's file. Usual: lumidex/catalogue.sqlite in your data folder.")

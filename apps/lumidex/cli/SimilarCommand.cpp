@@ -10,6 +10,7 @@
 #include "ValueTexts.h"
 
 #include <host/Catalogue.h>
+#include <host/ModelAnalyser.h>
 #include <host/PhotoAnalysis.h>
 #include <host/Report.h>
 #include <host/SimilarUpdate.h>
@@ -54,6 +55,7 @@ struct SimilarArguments {
   int least = 2;
   std::string report;
   std::vector<std::string> explain;
+  std::string model;
   bool check = false;
   bool anew = false;
   int threads = 0;
@@ -78,13 +80,15 @@ const char* VerbOf(Host::SimilarProgress::Step step) {
 /// One run of the command.
 class SimilarRun {
  public:
-  SimilarRun(const SimilarArguments& arguments, Session& session)
+  SimilarRun(const SimilarArguments& arguments, const Host::PhotoAnalyser& analyser, Session& session)
       : arguments_(arguments),
         session_(session),
+        analyser_(analyser),
         similar_(ExistingCatalogue(session), Host::NameOf(analyser_),
                  arguments.check ? Host::Catalogue::Mode::ReadOnly : Host::Catalogue::Mode::ReadWrite) {
     view_.catalogue = session.CatalogueFile();
     view_.recovered = session.recovered;
+    view_.analyser = analyser.Name();
   }
 
   ExitCode Run() {
@@ -251,17 +255,28 @@ class SimilarRun {
 
   const SimilarArguments& arguments_;
   Session& session_;
-  const Host::LayoutAnalyser analyser_;
+  const Host::PhotoAnalyser& analyser_;
   Host::SimilarPhotos similar_;
   SimilarView view_;
 };
+
+std::unique_ptr<Host::PhotoAnalyser> AnalyserOf(const SimilarArguments& arguments) {
+  if (arguments.model.empty()) {
+    return std::make_unique<Host::LayoutAnalyser>();
+  }
+  if (Host::ModelRuntime().empty()) {
+    throw UsageError("--model: this lumidex was built without support for models (LUMIDEX_ONNX)");
+  }
+  return std::make_unique<Host::ModelAnalyser>(AbsolutePath(arguments.model));
+}
 
 ExitCode RunSimilar(const SimilarArguments& arguments, Session& session) {
   if (!arguments.report.empty()) {
     RequireReportName(AbsolutePath(arguments.report), session.CatalogueFile());
   }
+  const std::unique_ptr<Host::PhotoAnalyser> analyser = AnalyserOf(arguments);
   RecoverIfNeeded(session);
-  return SimilarRun(arguments, session).Run();
+  return SimilarRun(arguments, *analyser, session).Run();
 }
 
 }  // namespace
@@ -298,6 +313,13 @@ void AddSimilarCommand(CLI::App& program, Action& chosen) {
       ->excludes(report)
       ->excludes(explain)
       ->excludes(anew);
+  command
+      ->add_option("--model", arguments->model,
+                   Host::ModelRuntime().empty()
+                       ? "Compare by an ONNX model. This lumidex was built without support for that."
+                       : "Compare by what an ONNX model sees; its groups are kept apart from others.")
+      ->option_text("FILE")
+      ->transform(Text());
   command
       ->add_option("--threads", arguments->threads,
                    "Photos looked at at a time, 1 to 64. Usual: one for each core, at most 8.")

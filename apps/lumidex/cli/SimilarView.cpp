@@ -141,6 +141,7 @@ std::string SimilarDocument(const SimilarView& view) {
   }
   json.EndArray();
   json.Truth("interrupted", view.cancelled);
+  json.Text("analyser", view.analyser);
   json.Number("analysed", static_cast<long long>(view.analysed));
   json.Number("photos", static_cast<long long>(view.photos));
   WriteGroups(json, view);

@@ -22,6 +22,7 @@ struct SimilarView {
   using Problem = std::pair<ioPath, std::string>;
 
   ioPath catalogue;
+  std::string analyser;
   std::size_t analysed = 0;  ///< Photos that this run looked at.
   std::size_t photos = 0;    ///< Photos that can be compared, in all.
   bool cancelled = false;
