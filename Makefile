@@ -1,7 +1,7 @@
 # The documented way in. Everything is built through the presets of CMakePresets.json.
 
 .DEFAULT_GOAL := help
-.PHONY: help setup run test test-dev test-asan test-tsan lint lint-format format bench clean \
+.PHONY: help setup setup-onnx run test test-dev test-asan test-tsan lint lint-format format bench clean \
   windows-toolchain test-windows windows-package
 
 # Where ccache is installed it serves every build, wherever the tree lies.
@@ -23,6 +23,9 @@ help:
 setup:
 	@tools/setup.sh
 
+setup-onnx: setup
+	@tools/setup.sh onnx
+
 run: setup
 	cmake --preset release
 	cmake --build --preset release --target lumidex_cli
@@ -30,8 +33,12 @@ run: setup
 
 test: setup test-tsan test-asan test-dev
 
+# What is off by default is tested and linted all the same, in one of the builds.
+OPTIONS_dev = -DLUMIDEX_ONNX=ON
+test-dev lint: setup-onnx
+
 test-dev test-asan: test-%: setup
-	cmake --preset $*
+	cmake --preset $* $(OPTIONS_$*)
 	cmake --build --preset $*
 	ctest --preset $* -j 2 --no-tests=error
 	@tools/skipped.sh build/$*
@@ -44,7 +51,7 @@ test-tsan: setup
 	@tools/skipped.sh build/tsan
 
 lint: setup lint-format
-	cmake --preset dev
+	cmake --preset dev $(OPTIONS_dev)
 	cmake --build --preset dev
 	tools/lint.sh tidy
 

@@ -45,11 +45,13 @@ Examples:
   lumidex similar --report similar.html  a page with the pictures side by side
   lumidex similar --explain a.jpg b.jpg  why they are together, or not
   lumidex similar --check                is the catalogue as matching made it?
+  lumidex similar --model net.onnx       as a model of yours sees the photos
 
 Exit codes: 0 done; 1 the catalogue holds no photos, or --check finds a
 difference; 3 some photos cannot be compared, or pictures are missing in the
 report; 4 there is no catalogue, it cannot be written, a photo of --explain is
-not in it, or the report cannot be written; 130 interrupted.)";
+not in it, the report cannot be written, or the model cannot be used; 130
+interrupted.)";
 
 struct SimilarArguments {
   int least = 2;

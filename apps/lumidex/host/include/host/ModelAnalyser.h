@@ -12,7 +12,7 @@ namespace Zenvora::Lumidex::Host {
 std::string ModelRuntime();
 
 /// An analyser that asks a model in a file: ONNX, one input for a picture of a fixed size, of whose outputs
-/// the first one counts. How pictures are handed to it is in docs/decisions/similar-photos.md.
+/// the first one counts. How pictures are handed to it is in docs/decisions/similar-models.md.
 ///
 /// The name is made of the SHA-256 of the file's bytes: what one model says is never compared with what
 /// another one says. The model is run with care, but it is a program: it should come from somebody who is
