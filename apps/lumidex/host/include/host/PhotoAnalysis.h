@@ -28,8 +28,8 @@ class PhotoAnalyser {
   /// more.
   virtual int LongerSide() const = 0;
   /// The vector of an upright picture in sRGB: finite and of length 1. Empty for a null picture. The same
-  /// picture gives the same bits. Throws when it has none for a picture, with the cause as `what()`. Safe from
-  /// any thread.
+  /// picture gives the same bits. Throws when it has none for a picture, with the cause as `what()`. Safe
+  /// from any thread.
   virtual std::vector<float> Describe(const QImage& picture) const = 0;
 
  protected:
