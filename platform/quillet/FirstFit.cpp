@@ -161,8 +161,8 @@ bool FirstFit::Ask(Query* queries, std::size_t count, std::size_t from) noexcept
     for (std::size_t i = 0; i < some; ++i) {
       vectors[i] = {queries[begin + i].vector->data(), queries[begin + i].squares};
     }
-    code_->Code(vectors, some, queryPairs_.data() + begin * code_->PairCount(),
-                queryRests_.data() + begin * code_->Parts().size());
+    code_->CodeQueries(vectors, some, queryPairs_.data() + begin * code_->PairCount(),
+                       queryRests_.data() + begin * code_->Parts().size());
   }
   for (std::size_t i = 0; i < count; ++i) {
     active_[i] = i;
@@ -204,9 +204,11 @@ void FirstFit::Sift(Query* queries, std::size_t from) {
     }
     SiftTask task;
     task.tiles = std::min(tileEnd, (tile / kTiles + 1) * kTiles) - tile;
-    task.pairs = mirror_.Pairs(*code_, tile, 0);
+    task.rows = mirror_.Halves(*code_, tile, 0);
     task.rests = mirror_.Rests(tile, 0);
+    task.wideCount = code_->Parts()[0].wideCount;
     task.pairCount = code_->Parts()[0].pairCount;
+    task.shift = code_->Shift();
     task.queries = activePairs_.data();
     task.queryRests = activeRests_.data();
     task.queryCount = active_.size() == 1 ? 1 : (active_.size() + group - 1) / group * group;
@@ -246,14 +248,14 @@ bool FirstFit::TryTile(Query* queries, std::size_t tile, const std::uint32_t* ma
     if (parts > 1) {
       for (std::size_t part = 0; part < parts && !known; ++part) {
         const TemplateCode::Part& place = code_->Parts()[part];
-        segments[part] = {place.pairCount, place.pairsBegin, mirror_.Pairs(*code_, tile, part),
-                          mirror_.Rests(tile, part)};
+        segments[part] = {place.wideCount, place.pairCount, place.pairsBegin,
+                          mirror_.Halves(*code_, tile, part), mirror_.Rests(tile, part)};
       }
       known = true;
       ++statistics_.refined;
       mask = tuning_.kernel->refine(segments, parts, queryPairs_.data() + active_[i] * code_->PairCount(),
-                                    queryRests_.data() + active_[i] * parts, code_->Scale(), code_->Limit(),
-                                    mask);
+                                    queryRests_.data() + active_[i] * parts, code_->Shift(), code_->Scale(),
+                                    code_->Limit(), mask);
     }
     if (mask != 0) {
       TryRow(query, tile, mask);

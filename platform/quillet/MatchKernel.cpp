@@ -28,8 +28,15 @@ constexpr std::size_t kQueries = 4;
 LUMIDEX_INLINE Ints NoInts() {
   return 0;
 }
-LUMIDEX_INLINE Ints LoadInts(const std::int32_t* from) {
-  return *from;
+LUMIDEX_INLINE Ints LoadWide(const std::int16_t* from) {
+  return (from[1] * (1 << 16)) | (from[0] & 0xFFFF);
+}
+LUMIDEX_INLINE Ints LoadNarrow(const std::int16_t* from) {
+  const std::int32_t low = static_cast<std::int8_t>(*from & 0xFF);
+  return ((*from >> 8) * (1 << 16)) | (low & 0xFFFF);
+}
+LUMIDEX_INLINE Ints ShiftRight(Ints value, int by) {
+  return value >> by;
 }
 LUMIDEX_INLINE Ints AddInts(Ints a, Ints b) {
   return a + b;
@@ -90,8 +97,15 @@ constexpr std::size_t kQueries = 4;
 LUMIDEX_INLINE Ints NoInts() {
   return _mm_setzero_si128();
 }
-LUMIDEX_INLINE Ints LoadInts(const std::int32_t* from) {
+LUMIDEX_INLINE Ints LoadWide(const std::int16_t* from) {
   return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+}
+LUMIDEX_INLINE Ints LoadNarrow(const std::int16_t* from) {
+  const __m128i bytes = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(from));
+  return _mm_srai_epi16(_mm_unpacklo_epi8(bytes, bytes), 8);
+}
+LUMIDEX_INLINE Ints ShiftRight(Ints value, int by) {
+  return _mm_sra_epi32(value, _mm_cvtsi32_si128(by));
 }
 LUMIDEX_INLINE Ints AddInts(Ints a, Ints b) {
   return _mm_add_epi32(a, b);
@@ -151,8 +165,14 @@ constexpr std::size_t kQueries = 4;
 LUMIDEX_INLINE Ints NoInts() {
   return _mm256_setzero_si256();
 }
-LUMIDEX_INLINE Ints LoadInts(const std::int32_t* from) {
+LUMIDEX_INLINE Ints LoadWide(const std::int16_t* from) {
   return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from));
+}
+LUMIDEX_INLINE Ints LoadNarrow(const std::int16_t* from) {
+  return _mm256_cvtepi8_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i*>(from)));
+}
+LUMIDEX_INLINE Ints ShiftRight(Ints value, int by) {
+  return _mm256_sra_epi32(value, _mm_cvtsi32_si128(by));
 }
 LUMIDEX_INLINE Ints AddInts(Ints a, Ints b) {
   return _mm256_add_epi32(a, b);
@@ -209,11 +229,19 @@ constexpr std::size_t kInts = 16;
 constexpr std::size_t kDoubles = 8;
 constexpr std::size_t kQueries = 8;
 
+// For the compiler's own shifts and conversions: the header's forms warn of values that are not there.
+using Words = std::int32_t __attribute__((vector_size(64)));
 LUMIDEX_INLINE Ints NoInts() {
   return _mm512_setzero_si512();
 }
-LUMIDEX_INLINE Ints LoadInts(const std::int32_t* from) {
+LUMIDEX_INLINE Ints LoadWide(const std::int16_t* from) {
   return _mm512_loadu_si512(from);
+}
+LUMIDEX_INLINE Ints LoadNarrow(const std::int16_t* from) {
+  return _mm512_cvtepi8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(from)));
+}
+LUMIDEX_INLINE Ints ShiftRight(Ints value, int by) {
+  return reinterpret_cast<Ints>(reinterpret_cast<Words>(value) >> by);
 }
 LUMIDEX_INLINE Ints AddInts(Ints a, Ints b) {
   return _mm512_add_epi32(a, b);
@@ -248,8 +276,6 @@ LUMIDEX_INLINE Floats Mul(Floats a, Floats b) {
 LUMIDEX_INLINE Floats MulAdd(Floats a, Floats b, Floats c) {
   return _mm512_fmadd_ps(a, b, c);
 }
-// By the compiler's own conversions: the header's forms warn of values that are not there.
-using Words = std::int32_t __attribute__((vector_size(64)));
 LUMIDEX_INLINE Floats ToFloats(Ints value) {
   return __builtin_convertvector(reinterpret_cast<Words>(value), Floats);
 }
@@ -423,13 +449,30 @@ void Rotate(const float* matrix, std::size_t width, std::size_t size, const floa
 constexpr std::size_t kSide = 2;
 static_assert(kTile % (kSide * kInts) == 0);
 
+/// Adds the products of `count` rows of pairs with the queries' words.
+template <std::size_t Queries, bool Wide>
+LUMIDEX_INLINE void AddRows(Ints (&sums)[Queries][kSide], const std::int16_t* row, const std::int32_t* values,
+                            std::size_t count) {
+  constexpr std::size_t kHalves = Wide ? 2 : 1;
+  for (std::size_t j = 0; j < count; ++j, row += kHalves * kTile, values += Queries) {
+    const Ints left = Wide ? LoadWide(row) : LoadNarrow(row);
+    const Ints right = Wide ? LoadWide(row + 2 * kInts) : LoadNarrow(row + kInts);
+    LUMIDEX_UNROLL
+    for (std::size_t i = 0; i < Queries; ++i) {
+      const Ints value = SpreadInt(values[i]);
+      sums[i][0] = AddProducts(sums[i][0], left, value);
+      sums[i][1] = AddProducts(sums[i][1], right, value);
+    }
+  }
+}
+
 template <std::size_t Queries>
-LUMIDEX_INLINE void SiftBlock(const std::int32_t* pairs, const float* rests, std::size_t pairCount,
-                              const std::int32_t* queries, const float* queryRests, float scale, float limit,
-                              std::uint32_t* masks) {
+LUMIDEX_INLINE void SiftBlock(const SiftTask& task, const std::int16_t* rows, const float* rests,
+                              const std::int32_t* queries, const float* queryRests, std::uint32_t* masks) {
   for (std::size_t i = 0; i < Queries; ++i) {
     masks[i] = 0;
   }
+  const std::int16_t* const narrow = rows + task.wideCount * 2 * kTile;
   for (std::size_t at = 0; at < kTile; at += kSide * kInts) {
     Ints sums[Queries][kSide];
     LUMIDEX_UNROLL
@@ -439,36 +482,63 @@ LUMIDEX_INLINE void SiftBlock(const std::int32_t* pairs, const float* rests, std
         sums[i][v] = NoInts();
       }
     }
-    const std::int32_t* row = pairs + at;
-    const std::int32_t* values = queries;
-    for (std::size_t j = 0; j < pairCount; ++j, row += kTile, values += Queries) {
-      const Ints left = LoadInts(row);
-      const Ints right = LoadInts(row + kInts);
+    AddRows<Queries, true>(sums, rows + 2 * at, queries, task.wideCount);
+    LUMIDEX_UNROLL
+    for (std::size_t i = 0; i < Queries; ++i) {
       LUMIDEX_UNROLL
-      for (std::size_t i = 0; i < Queries; ++i) {
-        const Ints value = SpreadInt(values[i]);
-        sums[i][0] = AddProducts(sums[i][0], left, value);
-        sums[i][1] = AddProducts(sums[i][1], right, value);
+      for (std::size_t v = 0; v < kSide; ++v) {
+        sums[i][v] = AddInts(ShiftRight(sums[i][v], task.shift), SpreadInt(1));
       }
     }
+    AddRows<Queries, false>(sums, narrow + at, queries + task.wideCount * Queries,
+                            task.pairCount - task.wideCount);
     LUMIDEX_UNROLL
     for (std::size_t v = 0; v < kSide; ++v) {
       const Floats rest = LoadFloats(rests + at + v * kInts);
       LUMIDEX_UNROLL
       for (std::size_t i = 0; i < Queries; ++i) {
         const Floats bound =
-            MulAdd(ToFloats(sums[i][v]), SpreadFloat(scale), Mul(rest, SpreadFloat(queryRests[i])));
-        masks[i] |= Above(bound, SpreadFloat(limit)) << (at + v * kInts);
+            MulAdd(ToFloats(sums[i][v]), SpreadFloat(task.scale), Mul(rest, SpreadFloat(queryRests[i])));
+        masks[i] |= Above(bound, SpreadFloat(task.limit)) << (at + v * kInts);
       }
     }
   }
 }
 
+constexpr std::size_t kVectors = kTile / kInts;
+// Where a tile has few vectors a single sum of each would wait for itself.
+constexpr std::size_t kChains = kVectors < 4 ? 4 : 1;
+
+/// As `AddRows`, of one query and all of the tile.
+template <bool Wide>
+LUMIDEX_INLINE void AddTile(Ints (&sums)[kChains][kVectors], const std::int16_t* rows,
+                            const std::int32_t* values, std::size_t count) {
+  constexpr std::size_t kHalves = Wide ? 2 : 1;
+  const auto load = [rows](std::size_t j, std::size_t v) {
+    const std::int16_t* const from = rows + kHalves * (j * kTile + v * kInts);
+    return Wide ? LoadWide(from) : LoadNarrow(from);
+  };
+  std::size_t j = 0;
+  for (; j + kChains <= count; j += kChains) {
+    LUMIDEX_UNROLL
+    for (std::size_t c = 0; c < kChains; ++c) {
+      const Ints value = SpreadInt(values[j + c]);
+      LUMIDEX_UNROLL
+      for (std::size_t v = 0; v < kVectors; ++v) {
+        sums[c][v] = AddProducts(sums[c][v], load(j + c, v), value);
+      }
+    }
+  }
+  for (; j < count; ++j) {
+    LUMIDEX_UNROLL
+    for (std::size_t v = 0; v < kVectors; ++v) {
+      sums[0][v] = AddProducts(sums[0][v], load(j, v), SpreadInt(values[j]));
+    }
+  }
+}
+
 std::uint32_t Refine(const Segment* segments, std::size_t count, const std::int32_t* query,
-                     const float* queryRests, float scale, float limit, std::uint32_t mask) {
-  constexpr std::size_t kVectors = kTile / kInts;
-  // Where a tile has few vectors a single sum of each would wait for itself.
-  constexpr std::size_t kChains = kVectors < 4 ? 4 : 1;
+                     const float* queryRests, int shift, float scale, float limit, std::uint32_t mask) {
   Ints sums[kChains][kVectors];
   LUMIDEX_UNROLL
   for (std::size_t c = 0; c < kChains; ++c) {
@@ -480,25 +550,18 @@ std::uint32_t Refine(const Segment* segments, std::size_t count, const std::int3
   for (std::size_t s = 0; s < count; ++s) {
     const Segment& segment = segments[s];
     const std::int32_t* const values = query + segment.pairsBegin;
-    std::size_t j = 0;
-    for (; j + kChains <= segment.pairCount; j += kChains) {
+    if (segment.wideCount > 0) {
+      AddTile<true>(sums, segment.rows, values, segment.wideCount);
       LUMIDEX_UNROLL
       for (std::size_t c = 0; c < kChains; ++c) {
-        const Ints value = SpreadInt(values[j + c]);
         LUMIDEX_UNROLL
         for (std::size_t v = 0; v < kVectors; ++v) {
-          const Ints row = LoadInts(segment.pairs + (j + c) * kTile + v * kInts);
-          sums[c][v] = AddProducts(sums[c][v], row, value);
+          sums[c][v] = AddInts(ShiftRight(sums[c][v], shift), SpreadInt(1));
         }
       }
     }
-    for (; j < segment.pairCount; ++j) {
-      LUMIDEX_UNROLL
-      for (std::size_t v = 0; v < kVectors; ++v) {
-        sums[0][v] =
-            AddProducts(sums[0][v], LoadInts(segment.pairs + j * kTile + v * kInts), SpreadInt(values[j]));
-      }
-    }
+    AddTile<false>(sums, segment.rows + segment.wideCount * 2 * kTile, values + segment.wideCount,
+                   segment.pairCount - segment.wideCount);
     std::uint32_t above = 0;
     LUMIDEX_UNROLL
     for (std::size_t v = 0; v < kVectors; ++v) {
@@ -519,19 +582,20 @@ std::uint32_t Refine(const Segment* segments, std::size_t count, const std::int3
 }
 
 void Sift(const SiftTask& task) {
+  const std::size_t halves = (task.pairCount + task.wideCount) * kTile;
   for (std::size_t tile = 0; tile < task.tiles; ++tile) {
-    const std::int32_t* const pairs = task.pairs + tile * task.pairCount * kTile;
+    const std::int16_t* const rows = task.rows + tile * halves;
     const float* const rests = task.rests + tile * kTile;
     std::uint32_t* const masks = task.masks + tile * task.queryCount;
     if (task.queryCount == 1) {
-      const Segment segment = {task.pairCount, 0, pairs, rests};
-      masks[0] =
-          Refine(&segment, 1, task.queries, task.queryRests, task.scale, task.limit, ~std::uint32_t{0});
+      const Segment segment = {task.wideCount, task.pairCount, 0, rows, rests};
+      masks[0] = Refine(&segment, 1, task.queries, task.queryRests, task.shift, task.scale, task.limit,
+                        ~std::uint32_t{0});
       continue;
     }
     for (std::size_t done = 0; done < task.queryCount; done += kQueries) {
-      SiftBlock<kQueries>(pairs, rests, task.pairCount, task.queries + done * task.pairCount,
-                          task.queryRests + done, task.scale, task.limit, masks + done);
+      SiftBlock<kQueries>(task, rows, rests, task.queries + done * task.pairCount, task.queryRests + done,
+                          masks + done);
     }
   }
 }

@@ -14,12 +14,16 @@ enum class InstructionSet { Plain, Sse2, Avx2, Avx512, Avx512Vnni };
 /// Vectors that are mirrored side by side.
 constexpr std::size_t kTile = 32;
 
-/// Tiles of whole numbers, two coordinates to a word, and the queries that they are compared with.
+/// Whole numbers come in pairs of coordinates. A tile has a row of `kTile` pairs for each: first the wide
+/// ones of 16 bits a number, then narrow ones of 8. Products of the wide are shifted right by `shift` to fit
+/// to the others, and rounded up.
 struct SiftTask {
-  const std::int32_t* pairs;  ///< of `tiles` tiles one after the other: `pairCount` rows of `kTile` words
-  const float* rests;         ///< `kTile` of each tile
+  const std::int16_t* rows;  ///< of `tiles` tiles one after the other
+  const float* rests;        ///< `kTile` of each tile
   std::size_t tiles;
-  std::size_t pairCount;
+  std::size_t wideCount;
+  std::size_t pairCount;  ///< the wide ones among them
+  int shift;
   /// One query, or groups of as many as the kernel says: `pairCount` rows of a word of each.
   const std::int32_t* queries;
   const float* queryRests;
@@ -31,9 +35,10 @@ struct SiftTask {
 
 /// A run of coordinates, with what the coordinates behind it can add at most.
 struct Segment {
+  std::size_t wideCount;  ///< not 0 in the first only
   std::size_t pairCount;
   std::size_t pairsBegin;  ///< words from the query's first
-  const std::int32_t* pairs;
+  const std::int16_t* rows;
   const float* rests;
 };
 
@@ -51,7 +56,7 @@ struct MatchKernel {
   void (*sift)(const SiftTask& task);
   /// Which vectors of `mask` are not out after any of the `count` segments.
   std::uint32_t (*refine)(const Segment* segments, std::size_t count, const std::int32_t* query,
-                          const float* queryRests, float scale, float limit, std::uint32_t mask);
+                          const float* queryRests, int shift, float scale, float limit, std::uint32_t mask);
 };
 
 constexpr std::size_t kWidthStep = 64;

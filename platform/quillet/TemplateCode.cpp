@@ -16,6 +16,12 @@ constexpr double kFloatUnit = 1.0 / 16777216;
 constexpr double kRounding = 0.504;
 /// A row that is marked as out of date has an endless rest; no query's rest may make nothing of it.
 constexpr double kLeastRest = 1e-6;
+/// The blur of rows beside their rests, roughly; only how much slips through depends on it.
+constexpr double kBlurShare = 0.1;
+/// What a byte can hold on both sides of 0.
+constexpr std::int64_t kMostNarrow = 127;
+/// With the last of them bytes reach over all numbers.
+constexpr int kShifts[] = {3, 4, 5, 6, 7, 8};
 
 std::size_t RoundUp(std::size_t value, std::size_t step) {
   return (value + step - 1) / step * step;
@@ -83,6 +89,7 @@ TemplateCode::TemplateCode(const MatchKernel& kernel, const std::vector<Vector>&
   basis_ = LearnBasis(kernel, normals, learnt, size, stride, kMostDirections);
   pairCount_ = (basis_.count + 1) / 2;
   turned_.resize(kTogether * basis_.width);
+  turnedPairs_.resize(kTogether * pairCount_);
   for (std::size_t i = 0; i < kTogether; ++i) {
     normalRows_.push_back(normal_.data() + i * size);
   }
@@ -92,7 +99,8 @@ TemplateCode::TemplateCode(const MatchKernel& kernel, const std::vector<Vector>&
 
 std::size_t TemplateCode::MemoryBytes() const noexcept {
   return sizeof(*this) + parts_.capacity() * sizeof(Part) + normalRows_.capacity() * sizeof(const float*) +
-         (basis_.matrix.capacity() + normal_.capacity() + turned_.capacity()) * sizeof(float);
+         (basis_.matrix.capacity() + normal_.capacity() + turned_.capacity()) * sizeof(float) +
+         turnedPairs_.capacity() * sizeof(std::int32_t);
 }
 
 void TemplateCode::SetMargin(float threshold, double marginScale) {
@@ -107,7 +115,7 @@ void TemplateCode::SetMargin(float threshold, double marginScale) {
   const double margin = 2 * error_ * (1 + error_) + error_ * error_ + 16 * kFloatUnit;
   const double limit = static_cast<double>(threshold) - margin * marginScale;
   limit_ = std::nextafter(static_cast<float>(limit), -std::numeric_limits<float>::infinity());
-  scale_ = static_cast<float>(1 / (kScale * kScale));
+  marginScale_ = marginScale;
   error_ *= marginScale;
 }
 
@@ -142,26 +150,84 @@ double TemplateCode::RestBehind(double squaresBehind, double squares) const {
   return std::sqrt(behind * behind + std::max(0.0, 1 - known * known));
 }
 
-void TemplateCode::Rests(const std::int32_t* pairs, float* rests) const {
+std::int64_t TemplateCode::Narrow(std::int64_t number) const {
+  const std::int64_t half = std::int64_t{1} << (shift_ - 1);
+  return std::clamp((number + half) >> shift_, -kMostNarrow, kMostNarrow);
+}
+
+/// The squared length of what the narrow numbers of a row miss, or of those of a query that meet them.
+double TemplateCode::Blur(const std::int32_t* pairs, const Part& part, Side side) const {
+  std::int64_t squares = 0;
+  const std::int32_t* const begin = pairs + part.pairsBegin + part.wideCount;
+  const std::size_t count = part.pairCount - part.wideCount;
+  if (side == Side::Query) {
+    squares = SquaresOf(begin, count);
+  } else if (side == Side::Row) {
+    for (std::size_t i = 0; i < count; ++i) {
+      for (const std::int64_t number : {Low(begin[i]), High(begin[i])}) {
+        const std::int64_t missed = number - Narrow(number) * (std::int64_t{1} << shift_);
+        squares += missed * missed;
+      }
+    }
+  }
+  const double factor = (side == Side::Query ? kBlurShare : 1 / kBlurShare) * marginScale_ / kScale;
+  return static_cast<double>(squares) * factor * factor;
+}
+
+void TemplateCode::Rests(const std::int32_t* pairs, Side side, float* rests) const {
   const double unit = 1 / (kScale * kScale);
   const double squares = static_cast<double>(SquaresOf(pairs, pairCount_)) * unit;
+  double blurs[kMostParts];
+  double blur = 0;
+  for (std::size_t part = 0; part < parts_.size(); ++part) {
+    blur += Blur(pairs, parts_[part], side);
+    blurs[part] = blur;
+  }
   std::int64_t behind = 0;
   for (std::size_t part = parts_.size(); part-- > 0;) {
     const bool last = part + 1 == parts_.size() && basis_.count == basis_.size;
     const double rest = last ? 0 : RestBehind(static_cast<double>(behind) * unit, squares);
-    rests[part] = Up(std::max(rest * (1 + 4 * kFloatUnit), kLeastRest));
+    const double blurred = std::sqrt(rest * rest + blurs[part]);
+    rests[part] = Up(std::max(blurred * (1 + 4 * kFloatUnit), kLeastRest));
     behind += SquaresOf(pairs + parts_[part].pairsBegin, parts_[part].pairCount);
   }
 }
 
-void TemplateCode::Code(const Vector* vectors, std::size_t count, std::int32_t* pairs, float* rests) {
+void TemplateCode::Turn(const Vector* vectors, std::size_t count, std::int32_t* pairs) {
   for (std::size_t i = 0; i < count; ++i) {
     Normalise(vectors[i], normal_.data() + i * basis_.size);
   }
   kernel_.rotate(basis_.matrix.data(), basis_.width, basis_.size, normalRows_.data(), count, turned_.data());
   for (std::size_t i = 0; i < count; ++i) {
     Round(turned_.data() + i * basis_.width, pairs + i * pairCount_);
-    Rests(pairs + i * pairCount_, rests + i * parts_.size());
+  }
+}
+
+void TemplateCode::CodeQueries(const Vector* vectors, std::size_t count, std::int32_t* pairs, float* rests) {
+  Turn(vectors, count, pairs);
+  for (std::size_t i = 0; i < count; ++i) {
+    Rests(pairs + i * pairCount_, Side::Query, rests + i * parts_.size());
+  }
+}
+
+void TemplateCode::CodeRows(const Vector* vectors, std::size_t count, std::int16_t* halves, float* rests) {
+  Turn(vectors, count, turnedPairs_.data());
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::int32_t* const pairs = turnedPairs_.data() + i * pairCount_;
+    Pack(pairs, halves + i * HalfCount());
+    Rests(pairs, Side::Row, rests + i * parts_.size());
+  }
+}
+
+void TemplateCode::Pack(const std::int32_t* pairs, std::int16_t* halves) const {
+  const std::size_t wide = parts_[0].wideCount;
+  for (std::size_t i = 0; i < wide; ++i) {
+    *halves++ = static_cast<std::int16_t>(Low(pairs[i]));
+    *halves++ = static_cast<std::int16_t>(High(pairs[i]));
+  }
+  for (std::size_t i = wide; i < pairCount_; ++i) {
+    const std::int64_t low = Narrow(Low(pairs[i])) & 0xFF;
+    *halves++ = static_cast<std::int16_t>(Narrow(High(pairs[i])) * 256 + low);
   }
 }
 
@@ -171,12 +237,14 @@ void TemplateCode::SetParts(std::size_t firstPairs) {
   parts_.clear();
   std::size_t begin = 0;
   std::size_t end = std::min(firstPairs, pairCount_);
+  std::size_t halves = 0;
   while (begin < pairCount_) {
     // No crumbs.
     if (end + kLeastGrowth / 2 > pairCount_) {
       end = pairCount_;
     }
-    parts_.push_back({begin, end - begin});
+    parts_.push_back({begin, end - begin, begin == 0 ? std::min(kWidePairs, end) : 0, halves});
+    halves += parts_.back().HalfCount();
     begin = end;
     end += std::max(end, kLeastGrowth);
   }
@@ -184,16 +252,16 @@ void TemplateCode::SetParts(std::size_t firstPairs) {
 
 void TemplateCode::ChooseParts(const std::vector<Vector>& sample) {
   constexpr std::size_t kMostRows = 192;
-  constexpr std::size_t kCandidates[] = {4, 8, 12, 16, 20, 24, 28, 32, 40, 48, 56, 64};
+  constexpr std::size_t kCandidates[] = {8, 12, 16, 20, 24, 28, 32, 40, 48, 56, 64};
+  static_assert(kCandidates[0] >= kWidePairs);
   SetParts(pairCount_);
   // Neighbours stay neighbours: whole tiles are judged.
   const std::size_t count = std::min(sample.size(), kMostRows);
   std::vector<std::int32_t> pairs(count * pairCount_);
-  std::vector<float> rests(count * parts_.size());
   for (std::size_t i = 0; i < count; i += kTogether) {
-    Code(sample.data() + i, std::min(kTogether, count - i), pairs.data() + i * pairCount_,
-         rests.data() + i * parts_.size());
+    Turn(sample.data() + i, std::min(kTogether, count - i), pairs.data() + i * pairCount_);
   }
+  ChooseShift(pairs);
   std::size_t best = kCandidates[0];
   double bestCost = std::numeric_limits<double>::infinity();
   for (const std::size_t candidate : kCandidates) {
@@ -206,6 +274,26 @@ void TemplateCode::ChooseParts(const std::vector<Vector>& sample) {
   SetParts(best);
 }
 
+/// The steps that miss least of the narrow numbers.
+void TemplateCode::ChooseShift(const std::vector<std::int32_t>& pairs) {
+  const std::size_t wide = std::min(kWidePairs, pairCount_);
+  int best = shift_;
+  double bestBlur = std::numeric_limits<double>::infinity();
+  for (const int shift : kShifts) {
+    shift_ = shift;
+    double blur = 0;
+    for (std::size_t i = 0; i + pairCount_ <= pairs.size(); i += pairCount_) {
+      blur += Blur(pairs.data() + i, {0, pairCount_, wide, 0}, Side::Row);
+    }
+    if (blur < bestBlur) {
+      best = shift;
+      bestBlur = blur;
+    }
+  }
+  shift_ = best;
+  scale_ = static_cast<float>(static_cast<double>(1 << shift_) / (kScale * kScale));
+}
+
 double TemplateCode::CostOf(std::size_t firstPairs, const std::vector<std::int32_t>& pairs,
                             std::size_t count) {
   constexpr std::size_t kQueries = 24;
@@ -215,7 +303,7 @@ double TemplateCode::CostOf(std::size_t firstPairs, const std::vector<std::int32
   SetParts(firstPairs);
   std::vector<float> rests(count * parts_.size());
   for (std::size_t i = 0; i < count; ++i) {
-    Rests(pairs.data() + i * pairCount_, rests.data() + i * parts_.size());
+    Rests(pairs.data() + i * pairCount_, Side::Neither, rests.data() + i * parts_.size());
   }
   const double row = RowCost(kernel_.set);
   const double whole = static_cast<double>(parts_[0].pairCount) * row + kOverhead;
@@ -240,7 +328,7 @@ double TemplateCode::CostOf(std::size_t firstPairs, const std::vector<std::int32
           for (std::size_t i = 0; i < parts_[part].pairCount; ++i) {
             product += Low(a[i]) * Low(b[i]) + High(a[i]) * High(b[i]);
           }
-          if (static_cast<float>(product) * scale_ +
+          if (static_cast<float>(static_cast<double>(product) / (kScale * kScale)) +
                   rests[query * parts_.size() + part] * rests[other * parts_.size() + part] <=
               limit_) {
             break;

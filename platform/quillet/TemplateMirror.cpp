@@ -31,7 +31,7 @@ void TemplateMirror::Append(const Row& row) {
 
 void TemplateMirror::Uncode() noexcept {
   for (const auto& chunk : chunks_) {
-    chunk->pairs.reset();
+    chunk->halves.reset();
     chunk->rests.reset();
   }
   coded_ = 0;
@@ -40,16 +40,16 @@ void TemplateMirror::Uncode() noexcept {
 
 void TemplateMirror::MakeRoom(const TemplateCode& code, Chunk& chunk) {
   if (!chunk.rests) {
-    auto pairs = MakeLines<std::int32_t>(kRows * code.PairCount());
+    auto halves = MakeLines<std::int16_t>(kRows * code.HalfCount());
     chunk.rests = MakeLines<float>(kRows * code.Parts().size());
-    chunk.pairs = std::move(pairs);
+    chunk.halves = std::move(halves);
   }
 }
 
 void TemplateMirror::CodeMissing(TemplateCode& code) {
   parts_ = code.Parts().size();
-  pairCount_ = code.PairCount();
-  codedPairs_.resize(TemplateCode::kTogether * pairCount_);
+  halfCount_ = code.HalfCount();
+  codedHalves_.resize(TemplateCode::kTogether * halfCount_);
   codedRests_.resize(TemplateCode::kTogether * parts_);
   while (!changed_.empty()) {
     const std::size_t count = std::min(changed_.size(), TemplateCode::kTogether);
@@ -76,23 +76,27 @@ void TemplateMirror::CodeRows(TemplateCode& code, const std::size_t* positions, 
     const bool fits = row.vector->size() == code.Size();
     vectors[i] = {row.vector->data(), fits ? row.squares : 0};
   }
-  code.Code(vectors, count, codedPairs_.data(), codedRests_.data());
+  code.CodeRows(vectors, count, codedHalves_.data(), codedRests_.data());
   for (std::size_t i = 0; i < count; ++i) {
-    Place(code, positions[i], codedPairs_.data() + i * pairCount_, codedRests_.data() + i * parts_);
+    Place(code, positions[i], codedHalves_.data() + i * halfCount_, codedRests_.data() + i * parts_);
   }
 }
 
-void TemplateMirror::Place(const TemplateCode& code, std::size_t position, const std::int32_t* pairs,
+void TemplateMirror::Place(const TemplateCode& code, std::size_t position, const std::int16_t* halves,
                            const float* rests) {
   const Chunk& chunk = *chunks_[position / kRows];
   const std::size_t tile = position % kRows / kTile;
   const std::size_t lane = position % kTile;
   for (std::size_t part = 0; part < parts_; ++part) {
     const TemplateCode::Part& place = code.Parts()[part];
-    std::int32_t* const to =
-        chunk.pairs.get() + kRows * place.pairsBegin + tile * place.pairCount * kTile + lane;
-    for (std::size_t i = 0; i < place.pairCount; ++i) {
-      to[i * kTile] = pairs[place.pairsBegin + i];
+    const std::int16_t* from = halves + place.halvesBegin;
+    std::int16_t* to = chunk.halves.get() + kRows * place.halvesBegin + tile * place.HalfCount() * kTile;
+    for (std::size_t i = 0; i < place.wideCount; ++i, to += 2 * kTile) {
+      to[2 * lane] = *from++;
+      to[2 * lane + 1] = *from++;
+    }
+    for (std::size_t i = place.wideCount; i < place.pairCount; ++i, to += kTile) {
+      to[lane] = *from++;
     }
     chunk.rests[(part * kTiles + tile) * kTile + lane] = rests[part];
   }
@@ -119,11 +123,11 @@ void TemplateMirror::MarkChanged(std::size_t position) noexcept {
   }
 }
 
-const std::int32_t* TemplateMirror::Pairs(const TemplateCode& code, std::size_t tile,
-                                          std::size_t part) const noexcept {
+const std::int16_t* TemplateMirror::Halves(const TemplateCode& code, std::size_t tile,
+                                           std::size_t part) const noexcept {
   const TemplateCode::Part& place = code.Parts()[part];
-  return chunks_[tile / kTiles]->pairs.get() + kRows * place.pairsBegin +
-         tile % kTiles * place.pairCount * kTile;
+  return chunks_[tile / kTiles]->halves.get() + kRows * place.halvesBegin +
+         tile % kTiles * place.HalfCount() * kTile;
 }
 
 const float* TemplateMirror::Rests(std::size_t tile, std::size_t part) const noexcept {
@@ -133,10 +137,10 @@ const float* TemplateMirror::Rests(std::size_t tile, std::size_t part) const noe
 std::size_t TemplateMirror::MemoryBytes() const noexcept {
   std::size_t bytes = sizeof(*this) + chunks_.capacity() * sizeof(chunks_[0]) +
                       chunks_.size() * sizeof(Chunk) + changed_.capacity() * sizeof(std::size_t) +
-                      codedPairs_.capacity() * sizeof(std::int32_t) + codedRests_.capacity() * sizeof(float);
+                      codedHalves_.capacity() * sizeof(std::int16_t) + codedRests_.capacity() * sizeof(float);
   for (const auto& chunk : chunks_) {
     if (chunk->rests) {
-      bytes += kRows * (pairCount_ * sizeof(std::int32_t) + parts_ * sizeof(float));
+      bytes += kRows * (halfCount_ * sizeof(std::int16_t) + parts_ * sizeof(float));
     }
   }
   return bytes;

@@ -41,7 +41,7 @@ class TemplateMirror {
   /// Until it is coded again, `position` cannot be ruled out.
   void MarkChanged(std::size_t position) noexcept;
 
-  const std::int32_t* Pairs(const TemplateCode& code, std::size_t tile, std::size_t part) const noexcept;
+  const std::int16_t* Halves(const TemplateCode& code, std::size_t tile, std::size_t part) const noexcept;
   const float* Rests(std::size_t tile, std::size_t part) const noexcept;
 
   std::size_t MemoryBytes() const noexcept;
@@ -56,7 +56,7 @@ class TemplateMirror {
 
   struct Chunk {
     Row rows[kRows];
-    Lines<std::int32_t> pairs;
+    Lines<std::int16_t> halves;
     Lines<float> rests;
   };
 
@@ -64,15 +64,15 @@ class TemplateMirror {
   static Lines<T> MakeLines(std::size_t count);
   void MakeRoom(const TemplateCode& code, Chunk& chunk);
   void CodeRows(TemplateCode& code, const std::size_t* positions, std::size_t count);
-  void Place(const TemplateCode& code, std::size_t position, const std::int32_t* pairs, const float* rests);
+  void Place(const TemplateCode& code, std::size_t position, const std::int16_t* halves, const float* rests);
 
   std::vector<std::unique_ptr<Chunk>> chunks_;
   std::size_t size_ = 0;
   std::size_t coded_ = 0;
   std::size_t parts_ = 0;      ///< of each code
-  std::size_t pairCount_ = 0;  ///< of each code
+  std::size_t halfCount_ = 0;  ///< of each code
   std::vector<std::size_t> changed_;
-  std::vector<std::int32_t> codedPairs_;
+  std::vector<std::int16_t> codedHalves_;
   std::vector<float> codedRests_;
 };
 

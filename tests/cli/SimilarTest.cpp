@@ -219,6 +219,7 @@ TEST_F(SimilarCommand, ExplainsTwoPhotosNoMoreAndNoLess) {
   EXPECT_THAT(Run({"similar", "--explain", "a.jpg", "b.jpg", "c.jpg"}).err,
               HasSubstr("--explain needs 2 values"));
   EXPECT_THAT(Run({"similar", "--min", "2", "--min", "3"}).err, HasSubstr("can be given once only"));
+  EXPECT_THAT(Run({"similar", "--check=3"}).err, HasSubstr("--check takes no value"));
 }
 
 TEST_F(SimilarCommand, ExplainsPhotosThatWereRenamedOrLost) {

@@ -19,18 +19,33 @@ using Test::VectorKind;
 
 constexpr float kThreshold = 0.91F;
 
-std::int32_t Product(const std::int32_t* a, const std::int32_t* b, std::size_t pairs) {
-  const auto low = [](std::int32_t pair) -> std::int32_t { return static_cast<std::int16_t>(pair & 0xFFFF); };
-  std::int32_t sum = 0;
-  for (std::size_t i = 0; i < pairs; ++i) {
-    sum += low(a[i]) * low(b[i]) + (a[i] >> 16) * (b[i] >> 16);
+/// Of a query's and a row's first `pairs` pairs, as the kernels are to have it at least.
+double Product(const TemplateCode& code, const std::int32_t* query, const std::int16_t* row,
+               std::size_t pairs) {
+  const std::size_t wide = code.Parts()[0].wideCount;
+  const auto low = [](std::int32_t pair) {
+    return static_cast<double>(static_cast<std::int16_t>(pair & 0xFFFF));
+  };
+  const auto high = [](std::int32_t pair) { return static_cast<double>(pair >> 16); };
+  double sum = 0;
+  for (std::size_t i = 0; i < wide; ++i) {
+    sum += low(query[i]) * static_cast<double>(row[2 * i]) +
+           high(query[i]) * static_cast<double>(row[2 * i + 1]);
   }
-  return sum;
+  sum /= static_cast<double>(1 << code.Shift());
+  for (std::size_t i = wide; i < pairs; ++i) {
+    const std::int16_t both = row[wide + i];
+    sum += low(query[i]) * static_cast<double>(static_cast<std::int8_t>(both & 0xFF)) +
+           high(query[i]) * static_cast<double>(both >> 8);
+  }
+  return sum * static_cast<double>(code.Scale());
 }
 
 struct Coded {
   std::vector<std::int32_t> pairs;
-  std::vector<float> rests;
+  std::vector<float> queryRests;
+  std::vector<std::int16_t> halves;
+  std::vector<float> rowRests;
 };
 
 std::vector<TemplateCode::Vector> WithSquares(const std::vector<Template>& vectors,
@@ -46,10 +61,15 @@ std::vector<TemplateCode::Vector> WithSquares(const std::vector<Template>& vecto
 Coded CodeAll(TemplateCode& code, const std::vector<TemplateCode::Vector>& vectors) {
   Coded coded;
   coded.pairs.resize(vectors.size() * code.PairCount());
-  coded.rests.resize(vectors.size() * code.Parts().size());
+  coded.queryRests.resize(vectors.size() * code.Parts().size());
+  coded.halves.resize(vectors.size() * code.HalfCount());
+  coded.rowRests.resize(vectors.size() * code.Parts().size());
   for (std::size_t i = 0; i < vectors.size(); i += TemplateCode::kTogether) {
-    code.Code(vectors.data() + i, std::min(TemplateCode::kTogether, vectors.size() - i),
-              coded.pairs.data() + i * code.PairCount(), coded.rests.data() + i * code.Parts().size());
+    const std::size_t count = std::min(TemplateCode::kTogether, vectors.size() - i);
+    code.CodeQueries(vectors.data() + i, count, coded.pairs.data() + i * code.PairCount(),
+                     coded.queryRests.data() + i * code.Parts().size());
+    code.CodeRows(vectors.data() + i, count, coded.halves.data() + i * code.HalfCount(),
+                  coded.rowRests.data() + i * code.Parts().size());
   }
   return coded;
 }
@@ -66,15 +86,14 @@ double LargestShare(const MatchKernel& kernel, const std::vector<Template>& vect
   EXPECT_GT(margin, 0);
   double most = -1e9;
   for (std::size_t a = 0; a < vectors.size(); ++a) {
-    for (std::size_t b = a; b < vectors.size(); ++b) {
+    for (std::size_t b = 0; b < vectors.size(); ++b) {
       const auto cosine = static_cast<double>(MatchTemplate(vectors[a], vectors[b]));
       for (std::size_t part = 0; part < code.Parts().size(); ++part) {
         const std::size_t pairs = code.Parts()[part].pairsBegin + code.Parts()[part].pairCount;
-        const std::int32_t product = Product(coded.pairs.data() + a * code.PairCount(),
-                                             coded.pairs.data() + b * code.PairCount(), pairs);
-        const double bound = static_cast<double>(product) * static_cast<double>(code.Scale()) +
-                             static_cast<double>(coded.rests[a * code.Parts().size() + part]) *
-                                 static_cast<double>(coded.rests[b * code.Parts().size() + part]);
+        const double bound = Product(code, coded.pairs.data() + a * code.PairCount(),
+                                     coded.halves.data() + b * code.HalfCount(), pairs) +
+                             static_cast<double>(coded.queryRests[a * code.Parts().size() + part]) *
+                                 static_cast<double>(coded.rowRests[b * code.Parts().size() + part]);
         most = std::max(most, (cosine - bound) / margin);
       }
     }
@@ -112,6 +131,7 @@ TEST(TemplateCode, MakesZerosOfWhatHasNoDirection) {
     const TemplateCode::Vector vector = {values, squares};
     const Coded coded = CodeAll(code, {vector});
     EXPECT_EQ(coded.pairs, std::vector<std::int32_t>(code.PairCount(), 0));
+    EXPECT_EQ(coded.halves, std::vector<std::int16_t>(code.HalfCount(), 0));
   }
 }
 
@@ -123,12 +143,17 @@ TEST(TemplateCode, HasSegmentsThatCoverAllCoordinates) {
       const TemplateCode code(kernel, WithSquares(vectors, kernel), size, kThreshold, 1);
       EXPECT_EQ(code.PairCount(), (std::min(size, TemplateCode::kMostDirections) + 1) / 2);
       std::size_t next = 0;
+      std::size_t halves = 0;
       for (const TemplateCode::Part& part : code.Parts()) {
         EXPECT_EQ(part.pairsBegin, next);
         EXPECT_GT(part.pairCount, 0U);
+        EXPECT_EQ(part.wideCount, next == 0 ? std::min(TemplateCode::kWidePairs, code.PairCount()) : 0);
+        EXPECT_EQ(part.halvesBegin, halves);
         next += part.pairCount;
+        halves += 2 * part.wideCount + (part.pairCount - part.wideCount);
       }
       EXPECT_EQ(next, code.PairCount());
+      EXPECT_EQ(halves, code.HalfCount());
       EXPECT_LE(code.Parts().size(), TemplateCode::kMostParts);
     }
   }

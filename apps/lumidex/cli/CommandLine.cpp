@@ -246,7 +246,8 @@ std::string WithoutPeriod(std::string text) {
 std::string MismatchText(const std::string& text) {
   const std::string option = text.substr(0, text.find_first_of(": "));
   if (text.find("flag override") != std::string::npos) {
-    return option + " takes no value";
+    // Here the parser leaves the dashes out.
+    return "--" + option + " takes no value";
   }
   const std::size_t count = text.find_first_of("0123456789", option.size());
   if (count != std::string::npos && text[count] != '1') {

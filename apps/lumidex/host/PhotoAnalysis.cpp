@@ -1,8 +1,9 @@
-#include "OrderedDescriptions.h"
+#include "OrderedWork.h"
 #include "PixelSources.h"
 
 #include <host/PhotoAnalysis.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <new>
@@ -65,9 +66,14 @@ PhotoDescription DescribePhoto(const ioPath& file, const PhotoAnalyser& analyser
 
 std::size_t DescribePhotos(const std::vector<ioPath>& files, const PhotoAnalyser& analyser,
                            const AnalysisOptions& options, const DescriptionHandler& take) {
-  OrderedDescriptions descriptions(files, analyser, options);
+  // A large picture among small ones shall not hold the other threads up.
+  constexpr std::size_t kAheadPerThread = 64;
+  OrderedWork<PhotoDescription> descriptions(
+      files.size(), static_cast<unsigned>(std::max(options.threads, 0)), kAheadPerThread,
+      [&](std::size_t item) { return DescribePhoto(files[item], analyser, options); });
+  const auto isCancelled = [&options] { return options.cancel != nullptr && *options.cancel; };
   for (std::size_t i = 0; i < files.size(); ++i) {
-    std::optional<PhotoDescription> description = descriptions.TakeNext();
+    std::optional<PhotoDescription> description = descriptions.TakeNextUnless(isCancelled);
     if (!description) {
       return i;
     }

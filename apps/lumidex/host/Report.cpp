@@ -5,13 +5,10 @@
 #include <host/Report.h>
 
 #include <algorithm>
-#include <chrono>
 
 namespace Zenvora::Lumidex::Host {
 
 namespace {
-
-constexpr std::chrono::milliseconds kBetweenLooks{100};
 
 std::size_t ShownOf(const ReportAlbum& album, const ReportOptions& options) {
   return options.photosPerAlbum > 0
@@ -29,18 +26,6 @@ std::vector<const ioPath*> FilesToShow(const std::vector<ReportAlbum>& albums, c
   return files;
 }
 
-/// Waits for the next picture, but not deaf to a wish to stop.
-ReportThumbnail NextOf(OrderedThumbnails& thumbnails, const ioPath& file, const std::atomic<bool>* cancel) {
-  for (;;) {
-    if (cancel != nullptr && cancel->load()) {
-      ThrowHostError(file.utf8string(), "cancelled");
-    }
-    if (auto thumbnail = thumbnails.TakeNext(kBetweenLooks)) {
-      return std::move(*thumbnail);
-    }
-  }
-}
-
 }  // namespace
 
 int WriteReport(const ioPath& file, const std::vector<ReportAlbum>& albums, const ReportOptions& given,
@@ -53,6 +38,7 @@ int WriteReport(const ioPath& file, const std::vector<ReportAlbum>& albums, cons
   output.Write(page.Begin());
   const std::vector<const ioPath*> files = FilesToShow(albums, options);
   OrderedThumbnails thumbnails(files, options.thumbnailSize);
+  const auto isCancelled = [&options] { return options.cancel != nullptr && options.cancel->load(); };
   int done = 0;
   int missing = 0;
   for (std::size_t a = 0; a < albums.size(); ++a) {
@@ -60,9 +46,12 @@ int WriteReport(const ioPath& file, const std::vector<ReportAlbum>& albums, cons
     output.Write(page.BeginAlbum(album, static_cast<int>(a) + 1));
     const std::size_t shown = ShownOf(album, options);
     for (std::size_t i = 0; i < shown; ++i) {
-      const ReportThumbnail thumbnail = NextOf(thumbnails, file, options.cancel);
-      missing += thumbnail.jpeg.isEmpty() ? 1 : 0;
-      output.Write(page.Photo(album, i, thumbnail));
+      const auto thumbnail = thumbnails.TakeNextUnless(isCancelled);
+      if (!thumbnail) {
+        ThrowHostError(file.utf8string(), "cancelled");
+      }
+      missing += thumbnail->jpeg.isEmpty() ? 1 : 0;
+      output.Write(page.Photo(album, i, *thumbnail));
       ++done;
       if (progress) {
         progress(done, static_cast<int>(files.size()));
@@ -71,7 +60,7 @@ int WriteReport(const ioPath& file, const std::vector<ReportAlbum>& albums, cons
     output.Write(page.EndAlbum(static_cast<int>(album.photos.size() - shown)));
   }
   output.Write(page.End());
-  if (options.cancel != nullptr && options.cancel->load()) {
+  if (isCancelled()) {
     ThrowHostError(file.utf8string(), "cancelled");
   }
   output.Commit(true);
