@@ -8,6 +8,7 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
+#include <zenvora/tavolin/NativePath.h>
 #include <zenvora/tavolin/Uuid.h>
 
 #include <fstream>
@@ -175,14 +176,17 @@ ioPath BinOf(const ioPath& file) {
   if (!GetVolumePathNameW(folder.for_system().c_str(), root.data(), static_cast<DWORD>(root.size()))) {
     Refuse(file, ErrorText(LastSystemError()));
   }
-  if (GetDriveTypeW(root.data()) != DRIVE_FIXED) {
+  const ioPath top = FromNative(ioPath(std::filesystem::path(root.data())));
+  // Some systems take the disks of others for their own.
+  const bool isShare = top.utf8string().rfind("\\\\", 0) == 0;
+  if (isShare || GetDriveTypeW(root.data()) != DRIVE_FIXED) {
     Refuse(file, "its volume has none");
   }
   const std::wstring user = UserIdentifier();
   if (user.empty()) {
     Refuse(file, "the system does not tell whose it is");
   }
-  const ioPath bins = ioPath(std::filesystem::path(root.data())) / kBins;
+  const ioPath bins = top / kBins;
   const ioPath bin = bins / ioPath(std::filesystem::path(user));
   if (QueryFile(bin).kind != FileState::Kind::Folder) {
     PrivateRights rights(user);

@@ -55,12 +55,12 @@ Examples:
   lumidex similar --trash                shows it, asks, and moves it there
   lumidex similar --trash --only a.jpg   of the group of that photo alone
 
-Exit codes: 0 done; 1 the catalogue holds no photos, --check finds a difference,
-or the answer to --trash was no; 3 some photos cannot be compared or moved, or
-pictures are missing in the report; 4 there is no catalogue, it cannot be
-written, a photo of --explain or --only is not in it, the report cannot be
-written, no photo could be moved, or nobody can be asked; 130 interrupted, what
-was moved stays in the trash.)";
+Exit codes: 0 done; 1 the catalogue holds no photos, --check finds a
+difference, or the answer to --trash was no; 3 some photos cannot be compared
+or moved, or pictures are missing in the report; 4 there is no catalogue, it
+cannot be written, a photo of --explain or --only is not in it, the report
+cannot be written, no photo could be moved, or nobody can be asked; 130
+interrupted, what was moved stays in the trash.)";
 
 struct SimilarArguments {
   int least = 2;
