@@ -11,6 +11,7 @@
 #include <zenvora/tavolin/NativePath.h>
 #include <zenvora/tavolin/Uuid.h>
 
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -55,6 +56,10 @@ std::wstring UserIdentifier() {
   }
   CloseHandle(token);
   return text;
+}
+
+bool IsOnShare(const ioPath& path) {
+  return FromNative(path).root_name().utf8string().size() > std::strlen("C:");
 }
 
 std::error_code MakeHiddenFolder(const ioPath& folder, SECURITY_ATTRIBUTES* rights) {
@@ -178,8 +183,7 @@ ioPath BinOf(const ioPath& file) {
   }
   const ioPath top = FromNative(ioPath(std::filesystem::path(root.data())));
   // Some systems take the disks of others for their own.
-  const bool isShare = top.utf8string().rfind("\\\\", 0) == 0;
-  if (isShare || GetDriveTypeW(root.data()) != DRIVE_FIXED) {
+  if (IsOnShare(file) || IsOnShare(top) || GetDriveTypeW(root.data()) != DRIVE_FIXED) {
     Refuse(file, "its volume has none");
   }
   const std::wstring user = UserIdentifier();

@@ -48,9 +48,9 @@ class FolderTrash : public Tavolin::ITrash {
   }
   Tavolin::TrashNoteOf ReadNote(const Tavolin::TrashPlace& place, const ioPath& file) const override {
     const std::string path = IsFree(place.note) ? std::string() : ReadFile(place.note);
-    return path.empty()                ? Tavolin::TrashNoteOf::Nobody
-           : path == file.utf8string() ? Tavolin::TrashNoteOf::ThisFile
-                                       : Tavolin::TrashNoteOf::Another;
+    return path.empty()           ? Tavolin::TrashNoteOf::Nobody
+           : ioPath(path) == file ? Tavolin::TrashNoteOf::ThisFile
+                                  : Tavolin::TrashNoteOf::Another;
   }
   void RemoveNote(const Tavolin::TrashPlace& place) const override {
     Happen();
