@@ -316,6 +316,19 @@ const ITrash& DesktopTrash() {
   return trash;
 }
 
+bool LiesInTrash(const ioPath& file) {
+  std::error_code error;
+  const ioPath path = WithoutLinks(file, error);
+  const ioPath home = HomeTrash().canonical(error);
+  for (ioPath folder = path.parent_path(); folder != folder.parent_path(); folder = folder.parent_path()) {
+    const std::string name = folder.filename().utf8string();
+    if ((!home.empty() && folder == home) || name == ".Trash" || name.rfind(".Trash-", 0) == 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace Zenvora::Tavolin
 
 #endif

@@ -213,6 +213,18 @@ const ITrash& DesktopTrash() {
   return trash;
 }
 
+bool LiesInTrash(const ioPath& file) {
+  std::error_code error;
+  const ioPath found = file.parent_path().canonical(error);
+  for (ioPath folder = found; !folder.empty() && folder != folder.parent_path();
+       folder = folder.parent_path()) {
+    if (QString::compare(folder.filename().qstring(), QLatin1String(kBins), Qt::CaseInsensitive) == 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace Zenvora::Tavolin
 
 #endif

@@ -263,7 +263,7 @@ TEST_F(TrashCommand, LeavesWhatWasChangedSinceTheScan) {
   EXPECT_EQ(ran.exitCode, 3);
   EXPECT_THAT(ran.out, HasSubstr("\n  stay   "));
   EXPECT_THAT(ran.out, HasSubstr("Not moved:\n  " + (Photos() / "a2.jpg").utf8string() +
-                                 " stays: it has been changed since it was scanned.\n"));
+                                 " stays: it has been changed since it was looked at.\n"));
   EXPECT_THAT(ran.out, HasSubstr("2 photos moved to the trash"));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "a2.jpg", "b2.jpg", "c.jpg"));
 }
@@ -391,7 +391,7 @@ TEST_F(TrashQuestion, LeavesWhatWasChangedWhileItWasAsked) {
   terminal_.Type("yes\n");
   const Ran ran = Finish(process);
   EXPECT_EQ(ran.exitCode, 3);
-  EXPECT_THAT(ran.out, HasSubstr("a2.jpg stays: it has been changed since it was scanned."));
+  EXPECT_THAT(ran.out, HasSubstr("a2.jpg stays: it has been changed since it was looked at."));
   EXPECT_THAT(ran.out, HasSubstr("b1.jpg stays: the one to keep, "));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "a2.jpg", "b1.jpg", "c.jpg"));
 }

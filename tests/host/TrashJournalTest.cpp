@@ -215,7 +215,7 @@ TEST_F(TrashJournal, LeavesWhatIsNotAsItWas) {
   EXPECT_EQ(touched.files, 0U);
   ASSERT_THAT(touched.findings, SizeIs(1));
   EXPECT_EQ(touched.findings[0].cause,
-            photo.utf8string() + " stays: it has been changed since it was scanned.");
+            photo.utf8string() + " stays: it has been changed since it was looked at.");
   photo.remove();
   EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("it is not there any more"));
   std::filesystem::create_directory(photo.native());
@@ -386,6 +386,65 @@ TEST_F(TrashJournal, KnowsAPhotoThatWasTouchedInTheTrash) {
                                    std::filesystem::file_time_type::clock::now() + std::chrono::hours(1));
   EXPECT_EQ(Undo().files, 1U);
   EXPECT_EQ(ReadFile(Photo("a.jpg")), "A");
+}
+
+TEST_F(TrashJournal, KnowsAPhotoOnAVolumeThatTellsOtherTimesAndNumbers) {
+  Make("keep.jpg", "K");
+  Make("a.jpg", "A");
+  Move(std::vector<TrashPhoto>{Going("a.jpg")});
+  const ioPath place = bin_ / "0-a.jpg";
+  place.remove();
+  WriteBytes(bin_ / "another", "to take the number");
+  WriteBytes(place, "A");
+  std::filesystem::last_write_time(place.native(),
+                                   std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  EXPECT_EQ(Undo().files, 1U);
+  EXPECT_EQ(ReadFile(Photo("a.jpg")), "A");
+}
+
+TEST_F(TrashJournal, SaysWhenSomethingElseHasTheNameOfWhatIsGone) {
+  Make("keep.jpg", "K");
+  Make("a.jpg", "A");
+  Move(std::vector<TrashPhoto>{Going("a.jpg")});
+  (bin_ / "0-a.jpg").remove();
+  Make("a.jpg", "something else");
+  EXPECT_THAT(Undo().findings[0].cause,
+              HasSubstr("a.jpg is not in the trash any more; there is something of its old name"));
+  EXPECT_EQ(ReadFile(Photo("a.jpg")), "something else");
+}
+
+TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoAndIsNotAsItWas) {
+  Make("keep.jpg", "K");
+  Make("a.jpg", "A");
+  TrashPhoto photo = Going("a.jpg");
+  photo.appendix = {Known(Make("a.xmp", "settings")), Known(Make("a.thm", "thumbnail"))};
+  Make("a.xmp", "changed while somebody was asked");
+  Photo("a.thm").remove();
+  std::filesystem::create_directory(Photo("a.thm").native());
+  const TrashResult result = Move({photo});
+  EXPECT_EQ(result.files, 1U);
+  ASSERT_THAT(result.findings, SizeIs(2));
+  EXPECT_THAT(result.findings[0].cause, HasSubstr("a.xmp stays: it has been changed"));
+  EXPECT_TRUE(std::filesystem::is_directory(Photo("a.thm").native()));
+}
+
+TEST_F(TrashJournal, KnowsThatAPhotoNeverLeft) {
+  Make("keep.jpg", "K");
+  const ioPath photo = Make("a.jpg", "A");
+  // A file of the same size and time without a note was in the place, and the program stopped when it knew.
+  Move(std::vector<TrashPhoto>{Going("a.jpg")});
+  const ioPath place = bin_ / "0-a.jpg";
+  ASSERT_TRUE(place.rename(photo));
+  WriteBytes(place, "B");
+  std::filesystem::last_write_time(place.native(), std::filesystem::last_write_time(photo.native()));
+  journal_.reset();
+  for (const char* const table : {"steps", "trashed"}) {
+    Zenvora::Test::RunSql(catalogue_, {std::string("UPDATE ") + table + " SET state = 1"});
+  }
+  Open();
+  EXPECT_TRUE(journal_->Steps().empty());
+  EXPECT_EQ(ReadFile(photo), "A");
+  EXPECT_EQ(ReadFile(place), "B");
 }
 
 TEST_F(TrashJournal, KnowsAPhotoThatOthersBroughtBack) {

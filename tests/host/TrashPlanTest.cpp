@@ -97,7 +97,7 @@ TEST_F(TrashPlanTest, LeavesWhatIsNotAsTheCatalogueKnowsIt) {
   const TrashPlan plan = PlanTrash({group});
   EXPECT_THAT(Going(plan), ElementsAre("b.jpg"));
   EXPECT_THAT(Staying(plan), ElementsAre("changed.jpg!", "gone.jpg!", "folder.jpg!"));
-  EXPECT_THAT(plan.stays[0].cause, HasSubstr("it has been changed since it was scanned"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("it has been changed since it was looked at"));
   EXPECT_THAT(plan.stays[1].cause, HasSubstr("it is not there any more"));
   EXPECT_THAT(plan.stays[2].cause, HasSubstr("it is no file any more"));
 }
@@ -129,6 +129,19 @@ TEST_F(TrashPlanTest, LeavesLinksAndWhatAKeptLinkLeadsTo) {
   const TrashPlan plan = PlanTrash({Group({"keep.jpg", "real.jpg", "link.jpg"})});
   EXPECT_THAT(Going(plan), IsEmpty());
   EXPECT_THAT(Staying(plan), ElementsAre("real.jpg", "link.jpg"));
+}
+
+TEST_F(TrashPlanTest, LeavesWhatIsInATrashAndWhatItWouldBeTheLastOf) {
+#ifdef _WIN32
+  const std::string trash = "$Recycle.Bin/S-1-5/";
+#else
+  const std::string trash = ".Trash-1000/files/";
+#endif
+  const TrashPlan plan =
+      PlanTrash({Group({trash + "keep.jpg", "a.jpg"}), Group({"b.jpg", trash + "c.jpg", "d.jpg"})});
+  EXPECT_THAT(Going(plan), ElementsAre("d.jpg"));
+  EXPECT_THAT(Staying(plan), ElementsAre("a.jpg!", trash + "c.jpg"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("is in a trash itself"));
 }
 
 TEST_F(TrashPlanTest, LeavesOtherFormatsOfTheShotThatIsKept) {

@@ -157,6 +157,19 @@ TEST_F(TrashTest, KnowsWhoseANoteIs) {
   EXPECT_EQ(DesktopTrash().ReadNote(place, file), TrashNoteOf::Nobody);
 }
 
+TEST_F(TrashTest, IsToldByTheFoldersAboveAFile) {
+  const TrashPlace place = Put(DesktopTrash(), tree_.Write("photos/a.jpg", "A"));
+  EXPECT_TRUE(LiesInTrash(place.file));
+  ASSERT_TRUE(Zenvora::Test::MakeLink(trash_ / "files", tree_.Path("link")));
+  EXPECT_TRUE(LiesInTrash(tree_.Path("link/a.jpg")));
+  for (const char* const name : {"x/.Trash/1000/files/a.jpg", "x/.Trash-1000/files/a/b.jpg"}) {
+    EXPECT_TRUE(LiesInTrash(tree_.Write(name, "A"))) << name;
+  }
+  for (const char* const name : {"photos/a.jpg", "Trash/files/a.jpg", "x/.Trashes.jpg", "home/data/a.jpg"}) {
+    EXPECT_FALSE(LiesInTrash(tree_.Write(name, "A"))) << name;
+  }
+}
+
 TEST_F(TrashTest, IsInReachAfterItWasEmptied) {
   const TrashPlace place = Put(DesktopTrash(), tree_.Write("photos/a.jpg", "A"));
   EXPECT_TRUE(DesktopTrash().IsInReach(place));

@@ -184,9 +184,7 @@ class SimilarRun {
   }
 
   void Trash() {
-    TrashView& trash = view_.trash.emplace();
-    trash.dryRun = arguments_.dryRun;
-    trash.plan = Host::PlanTrash(view_.groups);
+    TrashView& trash = view_.trash.emplace(MakeTrashView(Host::PlanTrash(view_.groups), arguments_.dryRun));
     if (trash.dryRun || trash.plan.photos.empty()) {
       return;
     }

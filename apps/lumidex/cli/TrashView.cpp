@@ -4,7 +4,7 @@
 #include "TerminalText.h"
 #include "ValueTexts.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -36,12 +36,19 @@ void WriteFile(JsonWriter& json, const Host::KnownFile& file, const Host::KnownF
 
 }  // namespace
 
+TrashView MakeTrashView(Host::TrashPlan plan, bool dryRun) {
+  TrashView view;
+  view.dryRun = dryRun;
+  view.plan = std::move(plan);
+  for (std::size_t i = 0; i < view.plan.photos.size(); ++i) {
+    view.going.emplace(view.plan.photos[i].photo.path, i);
+  }
+  return view;
+}
+
 const Host::TrashPhoto* FindGoing(const TrashView& view, const ioPath& photo) {
-  const auto& photos = view.plan.photos;
-  const auto found = std::find_if(photos.begin(), photos.end(), [&photo](const Host::TrashPhoto& going) {
-    return going.photo.path == photo;
-  });
-  return found == photos.end() ? nullptr : &*found;
+  const auto found = view.going.find(photo);
+  return found == view.going.end() ? nullptr : &view.plan.photos[found->second];
 }
 
 std::string AmountText(const Host::TrashPlan& plan) {

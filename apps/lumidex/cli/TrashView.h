@@ -7,7 +7,9 @@
 
 #include <zenvora/core/ioPath.h>
 
+#include <cstddef>
 #include <string>
+#include <unordered_map>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -17,9 +19,13 @@ struct TrashView {
   bool asked = false;     ///< A person was asked, and has seen the plan.
   bool declined = false;  ///< The answer was no.
   Host::TrashPlan plan;
+  /// Of the photos that are planned to go, by their paths.
+  std::unordered_map<ioPath, std::size_t> going;
   Host::TrashResult result;  ///< Of a dry run empty.
   bool canBeUndone = false;
 };
+
+TrashView MakeTrashView(Host::TrashPlan plan, bool dryRun);
 
 /// The photo among those that are to go; null when it is none.
 const Host::TrashPhoto* FindGoing(const TrashView& view, const ioPath& photo);

@@ -8,6 +8,7 @@
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/tavolin/Trash.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -42,7 +43,7 @@ std::string WhatIsWrong(const FileState& state) {
     case FileState::Kind::Missing:
       return "is not there any more";
     case FileState::Kind::File:
-      return "has been changed since it was scanned";
+      return "has been changed since it was looked at";
     default:
       return state.error ? "cannot be looked at (" + ErrorText(state.error) + ")" : "is no file any more";
   }
@@ -85,9 +86,12 @@ class Planner {
   void AddGroup(const SuggestedGroup& group) {
     const ioPath& kept = KeptOf(group).photo.path;
     const FileState state = QueryFile(kept);
-    const std::string fault = IsAsKnown(state, KnownAs(KeptOf(group).photo))
-                                  ? std::string()
-                                  : "the one to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
+    std::string fault;
+    if (!IsAsKnown(state, KnownAs(KeptOf(group).photo))) {
+      fault = "the one to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
+    } else if (Tavolin::LiesInTrash(kept)) {
+      fault = "the one to keep, " + kept.utf8string() + ", is in a trash itself";
+    }
     std::set<std::size_t> raws;
     for (std::size_t i = 0; i < group.group.members.size(); ++i) {
       if (i != group.keeper.index) {
@@ -106,6 +110,8 @@ class Planner {
       Stay(photo.path, fault, false);
     } else if (!IsAsKnown(state, KnownAs(photo))) {
       Stay(photo.path, "it " + WhatIsWrong(state), false);
+    } else if (Tavolin::LiesInTrash(photo.path)) {
+      Stay(photo.path, "it is in a trash already", true);
     } else if (IsLink(photo.path)) {
       Stay(photo.path, "it is a link to another file", true);
     } else if (kept_.count(state.identity) > 0) {
@@ -245,6 +251,14 @@ std::string FindTrashFault(const KnownFile& photo, const KnownFile& kept) {
     return Stays(photo.path, "it is another name of a file that is kept");
   }
   return {};
+}
+
+std::string FindTrashFault(const KnownFile& appendix) {
+  const FileState state = QueryFile(appendix.path);
+  if (!IsAsKnown(state, appendix)) {
+    return Stays(appendix.path, "it " + WhatIsWrong(state));
+  }
+  return IsLink(appendix.path) ? Stays(appendix.path, "it is a link to another file") : std::string();
 }
 
 }  // namespace Zenvora::Lumidex::Host

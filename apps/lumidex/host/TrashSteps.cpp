@@ -182,12 +182,27 @@ bool TrashSteps::IsIt(const ioPath& name, const TrashedFile& file) const {
 
 bool TrashSteps::IsInTrash(const TrashedFile& file) const {
   const FileState state = QueryFile(file.place.file);
-  // Somebody may have touched it there.
-  const bool isSame =
-      state.kind == FileState::Kind::File && state.identity == std::make_pair(file.device, file.inode);
-  // The place may be another file's by now, even of one that is a copy.
-  return (isSame || IsIt(file.place.file, file)) &&
-         trash_.ReadNote(file.place, file.file.path) != Tavolin::TrashNoteOf::Another;
+  if (state.kind != FileState::Kind::File) {
+    return false;
+  }
+  const bool isNumbered = state.identity == std::make_pair(file.device, file.inode);
+  switch (trash_.ReadNote(file.place, file.file.path)) {
+    case Tavolin::TrashNoteOf::ThisFile:
+      // Some volumes tell other times when they are mounted in summer.
+      return isNumbered || state.size == file.file.size;
+    case Tavolin::TrashNoteOf::Nobody:
+      return isNumbered || IsIt(file.place.file, file);
+    case Tavolin::TrashNoteOf::Another:
+      // The place may be another file's by now, even of one that is a copy.
+      break;
+  }
+  return false;
+}
+
+/// It never left: moved it would not be there.
+bool TrashSteps::IsStillHome(const TrashedFile& file) const {
+  return IsIt(file.file.path, file) &&
+         QueryFile(file.file.path).identity == std::make_pair(file.device, file.inode);
 }
 
 bool TrashSteps::IsOutOfReach(const TrashedFile& file) const {
@@ -262,7 +277,7 @@ ioPath TrashSteps::Move(qlonglong step, const KnownFile& known, const ioPath& ke
 }
 
 void TrashSteps::MoveAgain(TrashedFile& file) const {
-  if (file.state == State::Redoing && IsInTrash(file)) {
+  if (file.state == State::Redoing && IsInTrash(file) && !IsStillHome(file)) {
     return NoteMoved(file);
   }
   if (file.state == State::Redoing) {
@@ -293,8 +308,8 @@ void TrashSteps::MoveAgain(TrashedFile& file) const {
 }
 
 bool TrashSteps::Settle(TrashedFile& file) const {
-  const bool inTrash = IsInTrash(file);
-  if (!inTrash && QueryFile(file.file.path).kind != FileState::Kind::Missing) {
+  const bool isHome = !IsInTrash(file) && QueryFile(file.file.path).kind != FileState::Kind::Missing;
+  if (isHome || IsStillHome(file)) {
     Drop(file);
     return false;
   }
@@ -330,13 +345,16 @@ void TrashSteps::TakeBack(TrashedFile& file, bool& isHopeless) const {
                                ", which cannot be reached: its volume may be away");
     }
     isHopeless = true;
-    Fail(file.file.path, name + " is not in the trash any more and cannot be brought back");
+    const bool isTaken = QueryFile(file.file.path).kind != FileState::Kind::Missing;
+    Fail(file.file.path, name + (isTaken ? " is not in the trash any more; there is something of its old name"
+                                         : " is not in the trash any more and cannot be brought back"));
   }
   const State former = file.state;
   file.state = State::Undoing;
   Store(file);
   const std::string cause = MoveHome(file);
-  if (!cause.empty() && IsInTrash(file)) {
+  // The answer of a server can be lost, and the file be back all the same.
+  if (!cause.empty() && (IsInTrash(file) || !IsIt(file.file.path, file))) {
     file.state = former == State::Undoing ? State::Done : former;
     Store(file);
     Fail(file.file.path, name + " stays in the trash as " + file.place.file.utf8string() + ": " + cause);

@@ -62,6 +62,7 @@ class TrashSteps {
  private:
   bool IsIt(const ioPath& name, const TrashedFile& file) const;
   bool IsInTrash(const TrashedFile& file) const;
+  bool IsStillHome(const TrashedFile& file) const;
   void Drive(TrashedFile& file) const;
   std::string MoveHome(const TrashedFile& file) const;
   void Drop(TrashedFile& file) const;

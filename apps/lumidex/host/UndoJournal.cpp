@@ -788,7 +788,12 @@ TrashResult UndoJournal::Impl::MoveToTrash(const QString& name, const std::vecto
     } else if (MoveOne(photo.photo, photo.kept.path, result)) {
       ++result.photos;
       for (const KnownFile& file : photo.appendix) {
-        MoveOne(file, photo.kept.path, result);
+        const std::string appendixFault = FindTrashFault(file);
+        if (!appendixFault.empty()) {
+          result.findings.push_back({file.path, appendixFault});
+        } else {
+          MoveOne(file, photo.kept.path, result);
+        }
       }
     }
     if (progress) {

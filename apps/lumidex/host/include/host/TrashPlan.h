@@ -46,6 +46,7 @@ struct TrashPlan {
 /// - what is the very file that is kept here or in another group, under whatever name, or a link;
 /// - other formats of the shot that the kept photo is of, as `GroupShots` has it;
 /// - raw files, unless a raw file of the group stays;
+/// - what lies in a trash, and all of a group whose kept photo does;
 /// - what is not on the disk as the catalogue knows it, and all of a group whose kept photo is not: then
 ///   nobody knows whether they still show the same.
 /// Settings and thumbnails beside a photo go along with it when they are that file's alone, or when no other
@@ -55,5 +56,7 @@ TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups);
 /// Why the photo must not go now, in an English sentence; empty: it may. To be asked right before it goes.
 /// Blocks on the disk.
 std::string FindTrashFault(const KnownFile& photo, const KnownFile& kept);
+/// The same for what goes along with a photo.
+std::string FindTrashFault(const KnownFile& appendix);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -64,4 +64,7 @@ class ZENVORA_TAVOLIN_EXPORT ITrash {
 /// none.
 ZENVORA_TAVOLIN_EXPORT const ITrash& DesktopTrash();
 
+/// True when a file lies in somebody's trash, by the names of the folders above it; links are followed.
+ZENVORA_TAVOLIN_EXPORT bool LiesInTrash(const ioPath& file);
+
 }  // namespace Zenvora::Tavolin
