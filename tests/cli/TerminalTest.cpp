@@ -1,12 +1,9 @@
 // The command on a terminal.
 
 #include "CliFixture.h"
+#include "Terminal.h"
 
-#include <cstdlib>
-#include <fcntl.h>
 #include <sstream>
-#include <sys/ioctl.h>
-#include <unistd.h>
 
 namespace Zenvora::Test {
 namespace {
@@ -15,63 +12,6 @@ using ::testing::Each;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
-
-/// A terminal of some width, of which the test sees what is written to it.
-class Terminal {
- public:
-  explicit Terminal(int columns) : master_(posix_openpt(O_RDWR | O_NOCTTY)) {
-    EXPECT_GE(master_, 0);
-    EXPECT_EQ(grantpt(master_), 0);
-    EXPECT_EQ(unlockpt(master_), 0);
-    slave_ = open(ptsname(master_), O_RDWR | O_NOCTTY);
-    EXPECT_GE(slave_, 0);
-    winsize size{};
-    size.ws_col = static_cast<unsigned short>(columns);
-    size.ws_row = 24;
-    EXPECT_EQ(ioctl(slave_, TIOCSWINSZ, &size), 0);
-  }
-  ~Terminal() {
-    close(slave_);
-    close(master_);
-  }
-  Terminal(const Terminal&) = delete;
-  Terminal& operator=(const Terminal&) = delete;
-
-  int Slave() const { return slave_; }
-
-  /// All that was written so far.
-  std::string Read() const {
-    EXPECT_EQ(fcntl(master_, F_SETFL, O_NONBLOCK), 0);
-    std::string text;
-    char part[4096];
-    for (ssize_t count = 0; (count = read(master_, part, sizeof part)) > 0;) {
-      text.append(part, static_cast<std::size_t>(count));
-    }
-    return text;
-  }
-
- private:
-  int master_ = -1;
-  int slave_ = -1;
-};
-
-class ProcessOnTerminal : public QProcess {
- public:
-  ProcessOnTerminal(const Terminal& terminal, bool outputToo)
-      : slave_(terminal.Slave()), outputToo_(outputToo) {}
-
- protected:
-  void setupChildProcess() override {
-    dup2(slave_, STDERR_FILENO);
-    if (outputToo_) {
-      dup2(slave_, STDOUT_FILENO);
-    }
-  }
-
- private:
-  const int slave_;
-  const bool outputToo_;
-};
 
 /// The lines that a person would see: a carriage return goes back to the line's beginning.
 std::vector<std::string> Screen(const std::string& written) {

@@ -201,8 +201,11 @@ TEST_F(CatalogueFile, IsNotBroughtUpToDateByReaders) {
 
 /// What later versions added is taken out again.
 void MakeOlder(const ioPath& file, int version) {
-  std::vector<std::string> statements = {"DROP TABLE cluster_photos", "DROP TABLE clusters",
-                                         "DROP TABLE features", "DROP TABLE analysers"};
+  std::vector<std::string> statements = {"DROP TABLE trashed"};
+  if (version < 3) {
+    statements.insert(statements.end(), {"DROP TABLE cluster_photos", "DROP TABLE clusters",
+                                         "DROP TABLE features", "DROP TABLE analysers"});
+  }
   if (version < 2) {
     statements.insert(statements.end(), {"DROP TABLE changes", "DROP TABLE steps"});
   }
@@ -260,6 +263,7 @@ TEST_P(FormerCatalogue, IsBroughtUpToDateWithAllThatItHolds) {
   EXPECT_EQ(Content(file_, GetParam()), before);
   EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), Catalogue::kSchemaVersion);
   EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM cluster_photos"}), QVariant(0));
+  EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM trashed"}), QVariant(0));
   EXPECT_EQ(RunSql(file_, {"PRAGMA foreign_key_check"}), QVariant(true));
 }
 
@@ -285,19 +289,22 @@ TEST_P(FormerCatalogue, IsBroughtUpToDateOnceBySeveralAtOneTime) {
 
 TEST_P(FormerCatalogue, StaysAsItWasWhenItCannotBeBroughtUpToDate) {
   // A table that the next version wants to make.
-  RunSql(file_, {GetParam() < 2 ? "CREATE TABLE changes (a)" : "CREATE TABLE clusters (a)"});
+  RunSql(file_, {GetParam() < 2   ? "CREATE TABLE changes (a)"
+                 : GetParam() < 3 ? "CREATE TABLE clusters (a)"
+                                  : "CREATE TABLE trashed (a)"});
   const std::string before = Content(file_, GetParam());
   EXPECT_THAT(OpeningError(file_, Mode::ReadWrite), HasSubstr("already exists"));
   EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), GetParam());
   EXPECT_EQ(Content(file_, GetParam()), before);
-  EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM sqlite_master WHERE name IN ('features', 'steps') AND "
-                           "NOT (name = 'steps' AND " +
-                           std::to_string(GetParam()) + " = 2)"})
-                .toInt(),
-            0);
+  // What the version has stays; of the next ones there is nothing but that table.
+  const int tables =
+      RunSql(file_,
+             {"SELECT count(*) FROM sqlite_master WHERE name IN ('steps', 'features', 'trashed_by_step')"})
+          .toInt();
+  EXPECT_EQ(tables, GetParam() - 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Versions, FormerCatalogue, testing::Values(1, 2));
+INSTANTIATE_TEST_SUITE_P(Versions, FormerCatalogue, testing::Values(1, 2, 3));
 
 TEST_F(CatalogueFile, SaysThatItIsDamaged) {
   MakeFilled(2000);

@@ -633,7 +633,7 @@ TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
   Rename({{"a.jpg", "x.jpg"}});
   ASSERT_TRUE(Photo("x.jpg").rename(Photo("a.jpg")));
   StopIn(1);
-  for (const char* const table : {"cluster_photos", "clusters", "features", "analysers"}) {
+  for (const char* const table : {"trashed", "cluster_photos", "clusters", "features", "analysers"}) {
     Sql(std::string("DROP TABLE ") + table);
   }
   Sql("PRAGMA user_version = 2");

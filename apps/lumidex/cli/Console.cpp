@@ -72,6 +72,13 @@ void Console::Error(const std::string& text, const std::vector<std::string>& mor
   Write("error: " + text, more);
 }
 
+void Console::Show(const std::string& text) {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  status_.clear();
+  Draw("");
+  Put(text);
+}
+
 void Console::Write(const std::string& text, const std::vector<std::string>& more) {
   std::string lines = "lumidex: " + EscapeForTerminal(text) + '\n';
   for (const std::string& line : more) {

@@ -21,6 +21,9 @@ class Console {
   void Warning(const std::string& text);
   void Error(const std::string& text, const std::vector<std::string>& more = {});
 
+  /// Lines as they are, also when quiet: what a person must see to answer. They are to be escaped.
+  void Show(const std::string& text);
+
   /// True when a status line would be seen.
   bool ShowsStatus() const { return showsStatus_; }
   /// Columns of the terminal; 80 when it does not say.

@@ -4,6 +4,7 @@
 #include "OpenJournal.h"
 #include "Options.h"
 #include "Progress.h"
+#include "Question.h"
 #include "ReportTarget.h"
 #include "SimilarView.h"
 #include "TerminalText.h"
@@ -17,6 +18,7 @@
 
 #include <zenvora/app/Application.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <system_error>
@@ -31,13 +33,18 @@ constexpr char kDescription[] =
     "Looks at the photos of the catalogue that are new or changed, puts each into\n"
     "the first group that it is like, and tells which photo of a group to keep. A\n"
     "run that is interrupted goes on where it stopped when repeated. Your files are\n"
-    "only read.";
+    "only read, unless --trash asks for more: it shows what would go, and asks.";
 
 constexpr char kFooter[] =
     R"(The numbers before a photo are its score against the middle of its group (1 is
 the most; above 0.91 is similar), its pixels and its bytes. Suggested to keep
 is the largest picture; of equally large ones the sharpest, then one with the
 camera's data, then the earliest.
+
+With --trash these stay, too: other formats of the shot that is kept, raw files
+unless a raw file of the group is kept, links, and what was changed since the
+last scan. Settings beside a photo (.xmp) go along with it. "lumidex undo"
+brings all of it back while it is in the trash.
 
 Examples:
   lumidex similar
@@ -46,18 +53,26 @@ Examples:
   lumidex similar --explain a.jpg b.jpg  why they are together, or not
   lumidex similar --check                is the catalogue as matching made it?
   lumidex similar --model net.onnx       as a model of yours sees the photos
+  lumidex similar --trash --dry-run      what would go to the trash?
+  lumidex similar --trash                shows it, asks, and moves it there
+  lumidex similar --trash --only a.jpg   of the group of that photo alone
 
-Exit codes: 0 done; 1 the catalogue holds no photos, or --check finds a
-difference; 3 some photos cannot be compared, or pictures are missing in the
-report; 4 there is no catalogue, it cannot be written, a photo of --explain is
-not in it, the report cannot be written, or the model cannot be used; 130
-interrupted.)";
+Exit codes: 0 done; 1 the catalogue holds no photos, --check finds a
+difference, or the answer to --trash was no; 3 some photos cannot be compared
+or moved, or pictures are missing in the report; 4 there is no catalogue, it
+cannot be written, a photo of --explain or --only is not in it, the model
+cannot be used, the report cannot be written, no photo could be moved, or
+nobody can be asked; 130 interrupted, what was moved stays in the trash.)";
 
 struct SimilarArguments {
   int least = 2;
   std::string report;
   std::vector<std::string> explain;
   std::string model;
+  std::vector<std::string> only;
+  bool trash = false;
+  bool yes = false;
+  bool dryRun = false;
   bool check = false;
   bool anew = false;
   int threads = 0;
@@ -106,12 +121,17 @@ class SimilarRun {
     }
     Gather();
     Report();
+    if (arguments_.trash && !view_.cancelled) {
+      Trash();
+      view_.recovered = session_.recovered;
+    }
     session_.output.Print(session_.globals.json ? SimilarDocument(view_) : SimilarText(view_));
     if (view_.cancelled) {
-      session_.console.Note("Interrupted. The same command goes on from there.");
+      session_.console.Note(view_.trash ? "Interrupted. What was moved is in the trash."
+                                        : "Interrupted. The same command goes on from there.");
       return ExitCode::Interrupted;
     }
-    return Judge();
+    return Graver(Judge(), JudgeTrash());
   }
 
  private:
@@ -148,9 +168,63 @@ class SimilarRun {
     for (const auto& [photo, problem] : similar_.Problems()) {
       view_.problems.emplace_back(photo.path, problem);
     }
+    std::vector<ioPath> only;
+    for (const std::string& photo : arguments_.only) {
+      only.push_back(KnownName(AbsolutePath(photo)));
+    }
     for (Host::SimilarGroup& group : similar_.Groups(static_cast<std::size_t>(arguments_.least))) {
+      if (!only.empty() && !HasOneOf(group, only)) {
+        continue;
+      }
       const Host::KeeperChoice keeper = Host::SuggestKeeper(group.members);
       view_.groups.push_back({std::move(group), keeper});
+    }
+  }
+
+  static bool HasOneOf(const Host::SimilarGroup& group, const std::vector<ioPath>& photos) {
+    return std::any_of(group.members.begin(), group.members.end(),
+                       [&photos](const Host::SimilarMember& member) {
+                         return std::find(photos.begin(), photos.end(), member.photo.path) != photos.end();
+                       });
+  }
+
+  void Trash() {
+    TrashView& trash = view_.trash.emplace(MakeTrashView(Host::PlanTrash(view_.groups), arguments_.dryRun));
+    if (trash.dryRun || trash.plan.photos.empty()) {
+      return;
+    }
+    if (!arguments_.yes) {
+      trash.asked = true;
+      trash.declined = !Confirm(trash);
+      ThrowIfInterrupted("Interrupted. Nothing was moved.");
+    }
+    if (!trash.declined) {
+      MoveToTrash(trash);
+    }
+  }
+
+  bool Confirm(const TrashView& trash) {
+    std::string facts;
+    std::size_t number = 0;
+    for (const SimilarView::Group& group : view_.groups) {
+      facts += GroupText(group, ++number, &trash);
+    }
+    return Ask(session_.console, facts + StaysText(trash),
+               "Move " + AmountText(trash.plan) + " to the trash? [y/N]", session_.interrupted);
+  }
+
+  void MoveToTrash(TrashView& trash) {
+    OpenJournal journal(session_);
+    {
+      Progress progress(session_.console, "Moving", "photos");
+      trash.result = journal.Get().MoveToTrash(
+          QStringLiteral("move similar photos to the trash"), trash.plan.photos, session_.interrupted,
+          [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });
+    }
+    view_.cancelled = trash.result.cancelled;
+    if (trash.result.files > 0) {
+      journal.Prune();
+      trash.canBeUndone = journal.CanUndoLast();
     }
   }
 
@@ -255,6 +329,23 @@ class SimilarRun {
     return view_.problems.empty() && view_.missingPictures == 0 ? ExitCode::Done : ExitCode::Partly;
   }
 
+  ExitCode JudgeTrash() const {
+    if (!view_.trash) {
+      return ExitCode::Done;
+    }
+    const TrashView& trash = *view_.trash;
+    if (trash.declined) {
+      return ExitCode::Findings;
+    }
+    const bool allStay = std::all_of(trash.plan.stays.begin(), trash.plan.stays.end(),
+                                     [](const Host::TrashStay& stay) { return stay.isRule; });
+    if (allStay && trash.result.findings.empty()) {
+      return ExitCode::Done;
+    }
+    const bool anyMoves = trash.dryRun ? !trash.plan.photos.empty() : trash.result.files > 0;
+    return anyMoves ? ExitCode::Partly : ExitCode::Failed;
+  }
+
   const SimilarArguments& arguments_;
   Session& session_;
   const Host::PhotoAnalyser& analyser_;
@@ -272,12 +363,33 @@ std::unique_ptr<Host::PhotoAnalyser> AnalyserOf(const SimilarArguments& argument
   return std::make_unique<Host::ModelAnalyser>(AbsolutePath(arguments.model));
 }
 
+/// Before all the work, whether there will be anything to ask or not: a script fails the first time.
+void RequireAnswer(const SimilarArguments& arguments, const Session& session) {
+  if (!arguments.trash || arguments.yes || arguments.dryRun) {
+    return;
+  }
+  if (session.globals.json) {
+    throw UsageError(
+        "--trash asks before it moves anything, which --json leaves no place for: add --yes, or "
+        "--dry-run");
+  }
+  if (!CanAsk()) {
+    throw Failure(
+        "needs-answer",
+        "Nothing was moved: --trash asks first, and this is no terminal. With --yes nobody is asked; "
+        "--dry-run only shows what would be moved.");
+  }
+}
+
 ExitCode RunSimilar(const SimilarArguments& arguments, Session& session) {
+  RequireAnswer(arguments, session);
   if (!arguments.report.empty()) {
     RequireReportName(AbsolutePath(arguments.report), session.CatalogueFile());
   }
   const std::unique_ptr<Host::PhotoAnalyser> analyser = AnalyserOf(arguments);
-  RecoverIfNeeded(session);
+  if (!arguments.dryRun) {
+    RecoverIfNeeded(session);
+  }
   return SimilarRun(arguments, *analyser, session).Run();
 }
 
@@ -308,12 +420,35 @@ void AddSimilarCommand(CLI::App& program, Action& chosen) {
                          ->add_flag("--anew", arguments->anew,
                                     "Make all groups from nothing; photos are not looked at again.")
                          ->disable_flag_override();
+  auto* const only =
+      command
+          ->add_option("--only", arguments->only, "Only the group of that photo. Can be given several times.")
+          ->option_text("FILE")
+          ->allow_extra_args(false)
+          ->excludes(explain)
+          ->transform(Text());
+  auto* const trash =
+      command
+          ->add_flag("--trash", arguments->trash,
+                     "Move all photos of the groups but those to keep to the trash, after a question.")
+          ->disable_flag_override()
+          ->excludes(report)
+          ->excludes(explain);
+  auto* const yes = command->add_flag("--yes", arguments->yes, "With --trash: do not ask.")
+                        ->disable_flag_override()
+                        ->needs(trash);
+  command->add_flag("--dry-run", arguments->dryRun, "With --trash: only show what would go there.")
+      ->disable_flag_override()
+      ->needs(trash)
+      ->excludes(yes);
   command
       ->add_flag("--check", arguments->check,
                  "Match all photos again, in memory, and compare; change nothing.")
       ->disable_flag_override()
       ->excludes(report)
       ->excludes(explain)
+      ->excludes(only)
+      ->excludes(trash)
       ->excludes(anew);
   command
       ->add_option("--model", arguments->model,

@@ -15,32 +15,13 @@ namespace Zenvora::Lumidex::Cli {
 namespace {
 
 using Host::SimilarMember;
+using Host::TrashPhoto;
 
 constexpr int kScoreDigits = 3;
 
 std::string TakenText(const SimilarMember& member) {
   const QDateTime& taken = member.photo.taken;
   return taken.isValid() ? taken.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString() : "-";
-}
-
-std::string GroupText(const SimilarView::Group& shown, std::size_t number) {
-  const std::vector<SimilarMember>& members = shown.group.members;
-  TextTable table({{},
-                   {"", TextTable::Align::Right},
-                   {"", TextTable::Align::Right},
-                   {"", TextTable::Align::Right},
-                   {},
-                   {},
-                   {}});
-  for (std::size_t i = 0; i < members.size(); ++i) {
-    const SimilarMember& member = members[i];
-    const bool isKeeper = i == shown.keeper.index;
-    table.AddRow({isKeeper ? "keep" : "", ScoreText(member.score), PixelsText(member.features),
-                  SizeText(member.photo.size), TakenText(member), member.photo.path.utf8string(),
-                  isKeeper ? ReasonsText(shown.keeper) : ""});
-  }
-  return "Group " + GroupDigits(number) + ", " + Counted(members.size(), "photo") + ":\n" + table.Text(2) +
-         '\n';
 }
 
 /// Photos besides those to keep, and their bytes.
@@ -116,6 +97,35 @@ void WriteGroups(JsonWriter& json, const SimilarView& view) {
 
 }  // namespace
 
+std::string GroupText(const SimilarView::Group& shown, std::size_t number, const TrashView* trash) {
+  const std::vector<SimilarMember>& members = shown.group.members;
+  TextTable table({{},
+                   {"", TextTable::Align::Right},
+                   {"", TextTable::Align::Right},
+                   {"", TextTable::Align::Right},
+                   {},
+                   {},
+                   {}});
+  for (std::size_t i = 0; i < members.size(); ++i) {
+    const SimilarMember& member = members[i];
+    const bool isKeeper = i == shown.keeper.index;
+    const TrashPhoto* const going = trash != nullptr ? FindGoing(*trash, member.photo.path) : nullptr;
+    const char* const verdict = isKeeper           ? "keep"
+                                : trash == nullptr ? ""
+                                : going != nullptr ? "trash"
+                                                   : "stay";
+    table.AddRow({verdict, ScoreText(member.score), PixelsText(member.features), SizeText(member.photo.size),
+                  TakenText(member), member.photo.path.utf8string(),
+                  isKeeper ? ReasonsText(shown.keeper) : ""});
+    for (std::size_t j = 0; going != nullptr && j < going->appendix.size(); ++j) {
+      const Host::KnownFile& file = going->appendix[j];
+      table.AddRow({verdict, "", "", SizeText(file.size), "", file.path.utf8string(), ""});
+    }
+  }
+  return "Group " + GroupDigits(number) + ", " + Counted(members.size(), "photo") + ":\n" + table.Text(2) +
+         '\n';
+}
+
 std::string ScoreText(float score) {
   return QString::number(static_cast<double>(score), 'f', kScoreDigits).toStdString();
 }
@@ -154,16 +164,21 @@ std::string SimilarDocument(const SimilarView& view) {
   }
   json.EndArray();
   WriteReportMember(json, view.report, view.missingPictures);
+  if (view.trash) {
+    WriteTrash(json, *view.trash);
+  }
   return json.Finish();
 }
 
 std::string SimilarText(const SimilarView& view) {
   std::string text = ProblemsText(view);
   std::size_t number = 0;
+  const TrashView* const trash = view.trash ? &*view.trash : nullptr;
   for (const SimilarView::Group& group : view.groups) {
-    text += GroupText(group, ++number);
+    // Who was asked has seen them.
+    text += trash != nullptr && trash->asked ? "" : GroupText(group, ++number, trash);
   }
-  text += SummaryText(view);
+  text += trash != nullptr ? TrashText(*trash) : SummaryText(view);
   return text + ReportLines(view.report, view.missingPictures);
 }
 

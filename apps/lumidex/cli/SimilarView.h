@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TrashView.h"
+
 #include <host/SimilarKeeper.h>
 #include <host/SimilarPhotos.h>
 
@@ -15,10 +17,7 @@ namespace Zenvora::Lumidex::Cli {
 
 /// What `lumidex similar` shows.
 struct SimilarView {
-  struct Group {
-    Host::SimilarGroup group;
-    Host::KeeperChoice keeper;
-  };
+  using Group = Host::SuggestedGroup;
   using Problem = std::pair<ioPath, std::string>;
 
   ioPath catalogue;
@@ -29,6 +28,8 @@ struct SimilarView {
   std::vector<Group> groups;
   /// Photos that cannot be compared, and why.
   std::vector<Problem> problems;
+  /// With `--trash`.
+  std::optional<TrashView> trash;
   std::optional<ioPath> report;
   int missingPictures = 0;
   std::vector<std::string> recovered;
@@ -40,6 +41,9 @@ std::string PixelsText(const Host::PhotoFeatures& features);
 std::string ScoreText(float score);
 /// "largest, earliest".
 std::string ReasonsText(const Host::KeeperChoice& keeper);
+
+/// A group with what becomes of each of its photos: its `number` and all members.
+std::string GroupText(const SimilarView::Group& shown, std::size_t number, const TrashView* trash);
 
 std::string SimilarDocument(const SimilarView& view);
 std::string SimilarText(const SimilarView& view);

@@ -99,6 +99,22 @@ const Statements& Migration(int fromVersion) {
           " PRIMARY KEY (cluster, arrival)) WITHOUT ROWID",
           "CREATE INDEX cluster_photos_by_photo ON cluster_photos (photo)",
       },
+      {
+          "CREATE TABLE trashed ("
+          " number INTEGER PRIMARY KEY AUTOINCREMENT,"
+          " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
+          " state INTEGER NOT NULL,"
+          " path BLOB NOT NULL,"
+          " place BLOB NOT NULL,"
+          " note BLOB NOT NULL,"
+          " photo INTEGER REFERENCES photos (number),"
+          " kept BLOB NOT NULL,"
+          " device INTEGER NOT NULL,"
+          " file INTEGER NOT NULL,"
+          " size INTEGER NOT NULL,"
+          " modified_ns INTEGER NOT NULL)",
+          "CREATE INDEX trashed_by_step ON trashed (step)",
+      },
   };
   static_assert(kCatalogueApplicationId == 1280132184, "the first migration writes it");
   CHECK_EQ(migrations.size(), static_cast<std::size_t>(Catalogue::kSchemaVersion));

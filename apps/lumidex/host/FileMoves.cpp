@@ -110,21 +110,11 @@ bool IsOutOfReach(const ioPath& folder) {
                  "Cannot rename " + from.utf8string() + " to " + to.utf8string() + ": " + cause);
 }
 
-std::string CauseOf(const std::error_code& error) {
-  if (error == std::errc::file_exists) {
-    return "there is something of that name";
-  }
-  if (error == std::errc::cross_device_link) {
-    return "that is on another volume";
-  }
-  return ErrorText(error);
-}
-
 /// Keeps the name from others while the file waits to move there.
 void MovePatiently(IFileAccessLocker& locker, const ioPath& from, const ioPath& to) {
   NewFile place;
   if (const std::error_code error = place.Create(to)) {
-    Fail(from, to, CauseOf(error));
+    Fail(from, to, CauseOfMove(error));
   }
   place.Close(false);
   try {
@@ -140,6 +130,16 @@ void MovePatiently(IFileAccessLocker& locker, const ioPath& from, const ioPath& 
 }
 
 }  // namespace
+
+std::string CauseOfMove(const std::error_code& error) {
+  if (error == std::errc::file_exists) {
+    return "there is something of that name";
+  }
+  if (error == std::errc::cross_device_link) {
+    return "that is on another volume";
+  }
+  return ErrorText(error);
+}
 
 std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps) {
   std::vector<FileMove> moves;
@@ -276,7 +276,7 @@ void MoveFile(IFileAccessLocker& locker, const ioPath& from, const ioPath& to) {
     return;
   }
   if (!MayPass(error)) {
-    Fail(from, to, CauseOf(error));
+    Fail(from, to, CauseOfMove(error));
   }
   MovePatiently(locker, from, to);
 }

@@ -9,6 +9,8 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
+#include <system_error>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -44,6 +46,9 @@ std::optional<ioPath> FindFolderOutOfReach(const std::vector<FileMove>& moves);
 /// Gives a file a name that nothing has, trying for a while where another program keeps it open. Throws
 /// `HostError` with both names and the cause; then nothing has changed.
 void MoveFile(IFileAccessLocker& locker, const ioPath& from, const ioPath& to);
+
+/// Why a file could not get a name, for a person.
+std::string CauseOfMove(const std::error_code& error);
 
 /// Waits until the names in the folders of the moves are on the disk.
 void SyncFoldersOf(const std::vector<FileMove>& moves);

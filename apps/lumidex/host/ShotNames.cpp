@@ -27,6 +27,12 @@ std::string_view ExtensionOf(std::string_view name) {
   return dot == std::string_view::npos || dot == 0 || name == ".." ? std::string_view() : name.substr(dot);
 }
 
+template <std::size_t kCount>
+bool HasOneOf(std::string_view name, const std::array<std::string_view, kCount>& extensions) {
+  const std::string extension = NameKey(ExtensionOf(name));
+  return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
+}
+
 bool IsCompanion(std::string_view name) {
   // Settings of raw developers and of cameras, thumbnails, spoken notes, and films: short ones that are part
   // of a photo, and those whose thumbnails lie beside them.
@@ -34,8 +40,7 @@ bool IsCompanion(std::string_view name) {
       ".xmp", ".pp3", ".arp", ".dop", ".on1", ".vrd",  ".dr4", ".nksc", ".cos", ".json",
       ".aae", ".thm", ".lrv", ".wav", ".m4a", ".mp3",  ".srt", ".xml",  ".mov", ".mp4",
       ".m4v", ".avi", ".mts", ".3gp", ".mpg", ".insv", ".psd", ".psb",  ".xcf"};
-  const std::string extension = NameKey(ExtensionOf(name));
-  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+  return HasOneOf(name, kExtensions);
 }
 
 bool IsDigit(char c) {
@@ -81,6 +86,25 @@ ShotName SplitShotName(std::string_view name) {
 
 bool IsShotFile(std::string_view name) {
   return IsPhotoName(ioPath(std::string(name))) || IsCompanion(name);
+}
+
+bool IsRawName(std::string_view name) {
+  static constexpr std::array<std::string_view, 26> kExtensions = {
+      ".3fr", ".arw", ".cr2", ".cr3", ".crw", ".dcr", ".dng", ".erf", ".fff", ".iiq", ".kdc", ".mef", ".mos",
+      ".mrw", ".nef", ".nrw", ".orf", ".pef", ".raf", ".raw", ".rw2", ".rwl", ".sr2", ".srf", ".srw", ".x3f"};
+  return HasOneOf(name, kExtensions);
+}
+
+bool IsAppendixName(std::string_view name) {
+  static constexpr std::array<std::string_view, 12> kExtensions = {
+      ".xmp", ".pp3", ".arp", ".dop", ".on1", ".vrd", ".dr4", ".nksc", ".cos", ".json", ".aae", ".thm"};
+  return HasOneOf(name, kExtensions);
+}
+
+std::string OwnerExtension(std::string_view suffix) {
+  const std::size_t first = suffix.find('.');
+  const std::size_t second = first == std::string_view::npos ? first : suffix.find('.', first + 1);
+  return second == std::string_view::npos ? std::string() : std::string(suffix.substr(first, second - first));
 }
 
 std::string VersionOwner(const ShotName& name) {

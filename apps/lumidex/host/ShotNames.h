@@ -42,6 +42,17 @@ ShotName SplitShotName(std::string_view name);
 /// True for names of photos and of what cameras and programs put beside them, by extension, case ignored.
 bool IsShotFile(std::string_view name);
 
+/// True for names of raw files, from which all other pictures of a shot can be made again.
+bool IsRawName(std::string_view name);
+
+/// True for names of what says nothing without the photo that it lies beside: settings and thumbnails. Films,
+/// spoken notes and layered pictures are worth something by themselves.
+bool IsAppendixName(std::string_view name);
+
+/// Of a name with two extensions ("IMG_1.CR2.xmp") the extension of the file that it belongs to, with its
+/// dot; empty: it belongs to the shot.
+std::string OwnerExtension(std::string_view suffix);
+
 /// The name of the file whose settings the file holds for a further version of it ("IMG_1.CR2" for
 /// "IMG_1_02.CR2.xmp"); empty when the name does not look so.
 std::string VersionOwner(const ShotName& name);

@@ -4,6 +4,8 @@
 #include "FileMoves.h"
 #include "KeptFiles.h"
 #include "ProcessLock.h"
+#include "StepState.h"
+#include "TrashSteps.h"
 
 #include <LumidexUtil/UndoFileHolder.h>
 #include <host/Catalogue.h>
@@ -27,21 +29,6 @@ namespace {
 
 constexpr std::chrono::milliseconds kBusyPause(50);
 constexpr int kBusyAttempts = 40;
-
-/// Of steps and of their changes. The numbers are stored.
-enum class State : int {
-  Planned = 0,
-  Doing = 1,
-  Done = 2,
-  Undoing = 3,
-  Undone = 4,
-  Redoing = 5,
-  GivenUp = 6
-};
-
-bool IsUnderWay(State state) {
-  return state == State::Doing || state == State::Undoing || state == State::Redoing;
-}
 
 struct StepRow {
   qlonglong number = 0;
@@ -76,6 +63,22 @@ ioPath SideName(const ioPath& photo) {
   return photo.parent_path() / ioPath(".lumidex-" + token + photo.extension().utf8string());
 }
 
+/// Of a step after files of it were moved back or again.
+State StateOfTrash(const std::vector<TrashedFile>& files, State goal, bool anyHope) {
+  const auto areAll = [&files](State state) {
+    return std::all_of(files.begin(), files.end(),
+                       [state](const TrashedFile& file) { return file.state == state; });
+  };
+  if (areAll(goal)) {
+    return goal;
+  }
+  if (areAll(State::Undone)) {
+    return State::Undone;
+  }
+  // What is gone for good must not keep older steps from being taken back.
+  return anyHope ? State::Done : State::GivenUp;
+}
+
 const char* const kLockName = "lock";
 
 /// What the photo's file says, for the catalogue.
@@ -89,10 +92,12 @@ std::optional<PhotoRecord> Read(const ioPath& photo) {
 
 class UndoJournal::Impl {
  public:
-  Impl(const ioPath& catalogue, IFileAccessLocker& locker);
+  Impl(const ioPath& catalogue, IFileAccessLocker& locker, const Tavolin::ITrash& trash);
 
   UndoResult Rename(const QString& name, const RenamePlan& plan, const std::atomic<bool>& cancelled,
                     const UndoProgress& progress);
+  TrashResult MoveToTrash(const QString& name, const std::vector<TrashPhoto>& photos,
+                          const std::atomic<bool>& cancelled, const UndoProgress& progress);
   ioPath PlanEdit(const ioPath& photo);
   void FinishEdit();
   void DropEdit();
@@ -120,6 +125,7 @@ class UndoJournal::Impl {
   void RecoverMoves(StepRow& step);
   void StoreMoves(const StepRow& step);
   void RecoverChanges(StepRow& step);
+  void RecoverTrash(StepRow& step, std::vector<TrashedFile>& files);
   bool SettleChange(ChangeRow& change);
 
   Drive DriveMoves(const std::vector<FileMove>& moves, std::size_t at, std::size_t goal,
@@ -132,6 +138,10 @@ class UndoJournal::Impl {
                           const UndoProgress& progress);
   UndoResult ReverseChanges(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                             const UndoProgress& progress);
+  bool MoveOne(const KnownFile& file, const ioPath& kept, TrashResult& result) const;
+  void SettleTrash(qlonglong step);
+  UndoResult ReverseTrash(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                          const UndoProgress& progress);
   bool IsKept(const ChangeRow& change, bool redo) const;
   void PutBack(ChangeRow& change, bool redo);
   State StateInPart(qlonglong step, bool anyHope) const;
@@ -153,16 +163,18 @@ class UndoJournal::Impl {
   const Catalogue catalogue_;
   const CatalogueDatabase database_;
   const KeptFiles kept_;
+  const TrashSteps trash_;
   qlonglong step_ = 0;
   std::optional<ChangeRow> edit_;
 };
 
-UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker)
+UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker, const Tavolin::ITrash& trash)
     : locker_(locker),
       // Makes or updates it.
       catalogue_(catalogue, Catalogue::Mode::ReadWrite),
       database_(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
-      kept_(FolderOf(catalogue.absolute())) {
+      kept_(FolderOf(catalogue.absolute())),
+      trash_(database_, locker, trash) {
   // What the journal says must be on the disk before the photos change.
   database_.Execute("PRAGMA synchronous = FULL");
   TakeLock(FolderOf(catalogue.absolute()));
@@ -745,6 +757,108 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
   return result;
 }
 
+// --- The trash
+
+/// False when the file stays; then there is a finding.
+bool UndoJournal::Impl::MoveOne(const KnownFile& file, const ioPath& kept, TrashResult& result) const {
+  try {
+    result.moved.push_back({file.path, trash_.Move(step_, file, kept)});
+    ++result.files;
+    return true;
+  } catch (const std::exception& failure) {
+    result.findings.push_back({file.path, failure.what()});
+    return false;
+  }
+}
+
+TrashResult UndoJournal::Impl::MoveToTrash(const QString& name, const std::vector<TrashPhoto>& photos,
+                                           const std::atomic<bool>& cancelled, const UndoProgress& progress) {
+  TrashResult result;
+  result.name = name;
+  BeginStep(name);
+  std::size_t looked = 0;
+  for (const TrashPhoto& photo : photos) {
+    if (cancelled) {
+      result.cancelled = true;
+      break;
+    }
+    const std::string fault = FindTrashFault(photo.photo, photo.kept);
+    if (!fault.empty()) {
+      result.findings.push_back({photo.photo.path, fault});
+    } else if (MoveOne(photo.photo, photo.kept.path, result)) {
+      ++result.photos;
+      for (const KnownFile& file : photo.appendix) {
+        const std::string appendixFault = FindTrashFault(file);
+        if (!appendixFault.empty()) {
+          result.findings.push_back({file.path, appendixFault});
+        } else {
+          MoveOne(file, photo.kept.path, result);
+        }
+      }
+    }
+    if (progress) {
+      progress(++looked, photos.size());
+    }
+  }
+  SettleTrash(std::exchange(step_, 0));
+  return result;
+}
+
+/// Closes a step in which files were moved for the first time.
+void UndoJournal::Impl::SettleTrash(qlonglong step) {
+  std::size_t files = 0;
+  for (TrashedFile& file : trash_.Files(step)) {
+    files += file.state == State::Done || trash_.Settle(file) ? 1 : 0;
+  }
+  if (files == 0) {
+    DropStep(step);
+    return;
+  }
+  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
+  query.addBindValue(static_cast<int>(State::Done));
+  query.addBindValue(static_cast<qlonglong>(files));
+  query.addBindValue(step);
+  database_.Run(query);
+  DropUndone();
+}
+
+UndoResult UndoJournal::Impl::ReverseTrash(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                                           const UndoProgress& progress) {
+  UndoResult result;
+  result.name = step.name;
+  const State goal = redo ? State::Done : State::Undone;
+  SetState("steps", step.number, redo ? State::Redoing : State::Undoing);
+  std::vector<TrashedFile> files = trash_.Files(step.number);
+  if (!redo) {
+    std::reverse(files.begin(), files.end());
+  }
+  std::size_t looked = 0;
+  bool anyHope = false;
+  for (TrashedFile& file : files) {
+    if (file.state != goal) {
+      if (cancelled) {
+        result.cancelled = true;
+        anyHope = true;
+        break;
+      }
+      bool isHopeless = false;
+      try {
+        redo ? trash_.MoveAgain(file) : trash_.TakeBack(file, isHopeless);
+        ++result.files;
+      } catch (const std::exception& failure) {
+        result.findings.push_back({file.file.path, failure.what()});
+        anyHope = anyHope || !isHopeless;
+      }
+    }
+    if (progress) {
+      progress(++looked, files.size());
+    }
+  }
+  SetState("steps", step.number, StateOfTrash(files, goal, anyHope));
+  result.stands = !redo && anyHope;
+  return result;
+}
+
 UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancelled,
                                       const UndoProgress& progress) {
   std::vector<StepRow> steps = ReadSteps(redo ? "state = 4 AND number > (SELECT coalesce(max(number), 0) "
@@ -755,6 +869,9 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
     return {};
   }
   StepRow& step = steps.front();
+  if (!trash_.Files(step.number).empty()) {
+    return ReverseTrash(step, redo, cancelled, progress);
+  }
   return step.moves.empty() ? ReverseChanges(step, redo, cancelled, progress)
                             : ReverseMoves(step, redo, cancelled, progress);
 }
@@ -780,7 +897,10 @@ std::optional<UndoStep> UndoJournal::Impl::SkipLast() {
 
 void UndoJournal::Impl::Recover() {
   for (StepRow& step : ReadSteps("state IN (1, 3, 5) ORDER BY number", true)) {
-    if (step.moves.empty()) {
+    std::vector<TrashedFile> files = trash_.Files(step.number);
+    if (!files.empty()) {
+      RecoverTrash(step, files);
+    } else if (step.moves.empty()) {
       RecoverChanges(step);
     } else {
       RecoverMoves(step);
@@ -859,10 +979,41 @@ void UndoJournal::Impl::RecoverChanges(StepRow& step) {
   }
 }
 
+void UndoJournal::Impl::RecoverTrash(StepRow& step, std::vector<TrashedFile>& files) {
+  const std::string name = "\"" + step.name.toStdString() + "\"";
+  for (const TrashedFile& file : files) {
+    if (IsUnderWay(file.state) && trash_.IsOutOfReach(file)) {
+      notes.push_back(name + " had been broken off and is finished once " +
+                      file.place.file.parent_path().utf8string() + " can be reached again.");
+      return;
+    }
+  }
+  if (step.state == State::Doing) {
+    SettleTrash(step.number);
+    const auto done = static_cast<std::size_t>(
+        database_.Value(("SELECT files FROM steps WHERE number = " + std::to_string(step.number)).c_str())
+            .toULongLong());
+    notes.push_back(name + " had been broken off after " + std::to_string(done) +
+                    (done == 1 ? " file." : " files.") + " The others are where they were.");
+    return;
+  }
+  const bool redo = step.state == State::Redoing;
+  const std::atomic<bool> never{false};
+  const UndoResult result = ReverseTrash(step, redo, never, nullptr);
+  notes.push_back(name + " had been broken off while it was " + (redo ? "done again" : "taken back") +
+                  "; now it is, with " + std::to_string(result.findings.size()) + " findings.");
+  for (const UndoFinding& finding : result.findings) {
+    notes.push_back(finding.cause + ".");
+  }
+}
+
 // --- The journal
 
 UndoJournal::UndoJournal(const ioPath& catalogue, IFileAccessLocker& locker)
-    : impl_(std::make_unique<Impl>(catalogue, locker)) {}
+    : UndoJournal(catalogue, locker, Tavolin::DesktopTrash()) {}
+
+UndoJournal::UndoJournal(const ioPath& catalogue, IFileAccessLocker& locker, const Tavolin::ITrash& trash)
+    : impl_(std::make_unique<Impl>(catalogue, locker, trash)) {}
 
 UndoJournal::~UndoJournal() = default;
 
@@ -873,6 +1024,12 @@ const std::vector<std::string>& UndoJournal::RecoveryNotes() const {
 UndoResult UndoJournal::Rename(const QString& name, const RenamePlan& plan,
                                const std::atomic<bool>& cancelled, const UndoProgress& progress) {
   return impl_->Rename(name, plan, cancelled, progress);
+}
+
+TrashResult UndoJournal::MoveToTrash(const QString& name, const std::vector<TrashPhoto>& photos,
+                                     const std::atomic<bool>& cancelled, const UndoProgress& progress) {
+  impl_->EndStep();
+  return impl_->MoveToTrash(name, photos, cancelled, progress);
 }
 
 ioPath UndoJournal::PlanEdit(const ioPath& photo) {

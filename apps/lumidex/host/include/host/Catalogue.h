@@ -71,7 +71,7 @@ class Catalogue {
     ReadWrite,  ///< Made with its folders when missing, brought up to date when older.
     ReadOnly,   ///< Must exist. Nothing is written; an older schema is refused with a hint to run a scan.
   };
-  static constexpr int kSchemaVersion = 3;
+  static constexpr int kSchemaVersion = 4;
   static constexpr int kBusyTimeoutMs = 10'000;
 
   Catalogue(const ioPath& file, Mode mode);

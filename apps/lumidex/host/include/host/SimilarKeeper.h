@@ -27,6 +27,12 @@ struct KeeperChoice {
   std::vector<KeeperReason> reasons;
 };
 
+/// A group, and which of its photos to keep.
+struct SuggestedGroup {
+  SimilarGroup group;
+  KeeperChoice keeper;
+};
+
 /// Weighs one thing after the other, in the order of `KeeperReason`; each leaves those behind that are not
 /// the best in it, until one photo is left. Pure. `members` is not empty.
 KeeperChoice SuggestKeeper(const std::vector<SimilarMember>& members);

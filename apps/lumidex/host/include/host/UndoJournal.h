@@ -2,6 +2,7 @@
 
 #include <host/HostError.h>
 #include <host/RenamePlan.h>
+#include <host/TrashPlan.h>
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/IFileAccessLocker.h>
@@ -18,6 +19,10 @@
 #include <string>
 #include <vector>
 
+namespace Zenvora::Tavolin {
+class ITrash;
+}
+
 namespace Zenvora::Lumidex::Host {
 
 /// What the journal knows of a step.
@@ -27,7 +32,7 @@ struct UndoStep {
   QDateTime begun;              ///< UTC.
   bool undone = false;          ///< Taken back; it can be done again.
   bool givenUp = false;         ///< Can be neither taken back nor done again.
-  std::size_t files = 0;        ///< Photos that it changed or renamed.
+  std::size_t files = 0;        ///< Files that it changed or moved.
   std::uint64_t keptBytes = 0;  ///< What is kept for it, as if nothing were shared with the photos.
 };
 
@@ -44,6 +49,18 @@ struct UndoResult {
   bool cancelled = false;
   bool stands = false;  ///< Of an undo: not all of the step could be taken back, and older ones wait for it.
   std::vector<UndoFinding> findings;
+};
+
+/// A file that went to the trash.
+struct TrashMove {
+  ioPath from;
+  ioPath to;
+};
+
+/// What a move to the trash did. `files`: photos and what went along with them.
+struct TrashResult : UndoResult {
+  std::size_t photos = 0;
+  std::vector<TrashMove> moved;
 };
 
 /// What is kept at most, the latest steps first.
@@ -72,6 +89,8 @@ class UndoJournal : public IUndo {
   /// Makes or updates the catalogue, waits a moment for another journal of it, throws when that is not
   /// enough, and recovers. `locker` must outlive it.
   UndoJournal(const ioPath& catalogue, IFileAccessLocker& locker);
+  /// With another trash than the desktop's, which must outlive it, too.
+  UndoJournal(const ioPath& catalogue, IFileAccessLocker& locker, const Tavolin::ITrash& trash);
   ~UndoJournal() override;
   UndoJournal(const UndoJournal&) = delete;
   UndoJournal& operator=(const UndoJournal&) = delete;
@@ -84,6 +103,13 @@ class UndoJournal : public IUndo {
   /// it can be. Nothing is ever replaced. Catalogued photos keep their records.
   UndoResult Rename(const QString& name, const RenamePlan& plan, const std::atomic<bool>& cancelled,
                     const UndoProgress& progress);
+
+  /// Moves photos to the trash as one step, each for itself: what stays is a finding, and on `cancelled` what
+  /// has gone stays there. Each is looked at once more right before it goes (`FindTrashFault`). The catalogue
+  /// has the photos for lost while they are there. Undo brings them back to where they were, if nothing is
+  /// there now, with all that the catalogue knew of them.
+  TrashResult MoveToTrash(const QString& name, const std::vector<TrashPhoto>& photos,
+                          const std::atomic<bool>& cancelled, const UndoProgress& progress);
 
   /// The name for the side file of an edit of `photo`, in its folder: hidden, and removed by recovery when it
   /// is still there. To be called within a step, before the side file is made.

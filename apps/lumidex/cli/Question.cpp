@@ -1,0 +1,88 @@
+#include "Question.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <cstdlib>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <poll.h>
+#include <unistd.h>
+#endif
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+constexpr std::size_t kLongestAnswer = 1000;
+
+#ifdef _WIN32
+
+bool IsConsole(DWORD stream) {
+  // Not `_isatty`, which takes the null device for a terminal.
+  DWORD mode = 0;
+  return GetConsoleMode(GetStdHandle(stream), &mode) != 0;
+}
+
+/// False at the end of the input; an interruption ends it, too.
+bool ReadByte(char& byte, const std::atomic<bool>& interrupted) {
+  DWORD count = 0;
+  return !interrupted && ReadFile(GetStdHandle(STD_INPUT_HANDLE), &byte, 1, &count, nullptr) && count == 1;
+}
+
+#else
+
+/// False at the end of the input, and on an interruption: its handler lets a read go on.
+bool ReadByte(char& byte, const std::atomic<bool>& interrupted) {
+  constexpr int kPauseMs = 50;
+  while (!interrupted) {
+    pollfd input = {STDIN_FILENO, POLLIN, 0};
+    if (poll(&input, 1, kPauseMs) > 0) {
+      return read(STDIN_FILENO, &byte, 1) == 1;
+    }
+  }
+  return false;
+}
+
+#endif
+
+}  // namespace
+
+bool CanAsk() {
+#ifdef _WIN32
+  return IsConsole(STD_INPUT_HANDLE) && IsConsole(STD_ERROR_HANDLE);
+#else
+  return isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
+#endif
+}
+
+bool IsYes(const std::string& answer) {
+  std::string word;
+  for (const char letter : answer) {
+    if (std::isspace(static_cast<unsigned char>(letter)) == 0) {
+      word += static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+    }
+  }
+  return word == "y" || word == "yes";
+}
+
+bool Ask(Console& console, const std::string& facts, const std::string& question,
+         const std::atomic<bool>& interrupted) {
+  console.Show(facts + question + ' ');
+  std::string answer;
+  for (char byte = 0; ReadByte(byte, interrupted);) {
+    if (byte == '\n') {
+      return !interrupted && IsYes(answer);
+    }
+    if (answer.size() < kLongestAnswer) {
+      answer += byte;
+    }
+  }
+  // No line of an answer ends the one of the question.
+  console.Show("\n");
+  return false;
+}
+
+}  // namespace Zenvora::Lumidex::Cli

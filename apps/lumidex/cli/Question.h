@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Console.h"
+
+#include <atomic>
+#include <string>
+
+namespace Zenvora::Lumidex::Cli {
+
+/// True when somebody can be asked and can answer: the standard input and the standard error stream are a
+/// terminal.
+bool CanAsk();
+
+/// Shows `facts` (escaped lines) on the standard error stream, asks `question` and waits for a line. True for
+/// "y" and "yes" in any case; false for every other answer, for the end of the input, and when `interrupted`
+/// becomes true meanwhile.
+bool Ask(Console& console, const std::string& facts, const std::string& question,
+         const std::atomic<bool>& interrupted);
+
+/// Whether a line is a yes. Pure.
+bool IsYes(const std::string& answer);
+
+}  // namespace Zenvora::Lumidex::Cli

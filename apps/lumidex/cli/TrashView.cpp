@@ -1,0 +1,110 @@
+#include "TrashView.h"
+
+#include "JournalView.h"
+#include "TerminalText.h"
+#include "ValueTexts.h"
+
+#include <utility>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+std::string OutcomeText(const TrashView& view) {
+  if (view.plan.photos.empty()) {
+    return "Nothing to move to the trash.\n";
+  }
+  if (view.dryRun) {
+    return AmountText(view.plan) + " would be moved to the trash. This was a dry run: nothing was changed.\n";
+  }
+  const Host::TrashResult& result = view.result;
+  if (result.files == 0) {
+    return "Nothing was moved.\n";
+  }
+  const std::string files = result.files == result.photos ? "" : " (" + Counted(result.files, "file") + ")";
+  return Counted(result.photos, "photo") + files + " moved to the trash" +
+         (view.canBeUndone ? "; \"lumidex undo\" brings back what is still there.\n" : ".\n");
+}
+
+void WriteFile(JsonWriter& json, const Host::KnownFile& file, const Host::KnownFile& kept) {
+  json.BeginObject();
+  json.Path("path", file.path);
+  json.Path("kept", kept.path);
+  json.Number("size", static_cast<long long>(file.size));
+  json.EndObject();
+}
+
+}  // namespace
+
+TrashView MakeTrashView(Host::TrashPlan plan, bool dryRun) {
+  TrashView view;
+  view.dryRun = dryRun;
+  view.plan = std::move(plan);
+  for (std::size_t i = 0; i < view.plan.photos.size(); ++i) {
+    view.going.emplace(view.plan.photos[i].photo.path, i);
+  }
+  return view;
+}
+
+const Host::TrashPhoto* FindGoing(const TrashView& view, const ioPath& photo) {
+  const auto found = view.going.find(photo);
+  return found == view.going.end() ? nullptr : &view.plan.photos[found->second];
+}
+
+std::string AmountText(const Host::TrashPlan& plan) {
+  const std::size_t files = plan.CountFiles();
+  return Counted(plan.photos.size(), "photo") + " (" +
+         (files == plan.photos.size() ? "" : Counted(files, "file") + ", ") + SizeText(plan.CountBytes()) +
+         ')';
+}
+
+std::string StaysText(const TrashView& view) {
+  std::string text;
+  for (const Host::TrashStay& stay : view.plan.stays) {
+    text += "  " + EscapeForTerminal(stay.cause) + '\n';
+  }
+  return text.empty() ? text : "Not moved:\n" + text + '\n';
+}
+
+std::string TrashText(const TrashView& view) {
+  return (view.asked ? "" : StaysText(view)) + FindingsText("Left where they are", view.result.findings) +
+         OutcomeText(view);
+}
+
+void WriteTrash(JsonWriter& json, const TrashView& view) {
+  json.BeginObject("trash");
+  json.Truth("dryRun", view.dryRun);
+  json.Truth("interrupted", view.result.cancelled);
+  json.BeginArray("planned");
+  for (const Host::TrashPhoto& photo : view.plan.photos) {
+    WriteFile(json, photo.photo, photo.kept);
+    for (const Host::KnownFile& file : photo.appendix) {
+      WriteFile(json, file, photo.kept);
+    }
+  }
+  json.EndArray();
+  json.BeginArray("stays");
+  for (const Host::TrashStay& stay : view.plan.stays) {
+    json.BeginObject();
+    json.Path("path", stay.photo);
+    json.Text("cause", stay.cause);
+    json.Truth("rule", stay.isRule);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.Number("photosMoved", static_cast<long long>(view.result.photos));
+  json.Number("filesMoved", static_cast<long long>(view.result.files));
+  json.BeginArray("moved");
+  for (const Host::TrashMove& move : view.result.moved) {
+    json.BeginObject();
+    json.Path("from", move.from);
+    json.Path("to", move.to);
+    json.EndObject();
+  }
+  json.EndArray();
+  WriteFindings(json, view.result.findings);
+  json.Truth("canBeUndone", view.canBeUndone);
+  json.EndObject();
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,264 @@
+#include "FolderEntries.h"
+#include "RenameNames.h"
+#include "ShotNames.h"
+
+#include <host/Scanner.h>
+#include <host/ShotSets.h>
+#include <host/TrashPlan.h>
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+#include <zenvora/tavolin/Trash.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <unordered_map>
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+using Identity = std::pair<std::uint64_t, std::uint64_t>;
+
+KnownFile KnownAs(const PhotoRecord& photo) {
+  return {photo.path, photo.size, photo.modifiedNs};
+}
+
+bool IsLink(const ioPath& file) {
+  std::error_code error;
+  return std::filesystem::is_symlink(std::filesystem::symlink_status(file.for_system(), error));
+}
+
+bool IsAsKnown(const FileState& state, const KnownFile& file) {
+  return state.kind == FileState::Kind::File && state.size == file.size &&
+         state.modifiedNs == file.modifiedNs;
+}
+
+/// To be put behind the name.
+std::string WhatIsWrong(const FileState& state) {
+  switch (state.kind) {
+    case FileState::Kind::Missing:
+      return "is not there any more";
+    case FileState::Kind::File:
+      return "has been changed since it was looked at";
+    default:
+      return state.error ? "cannot be looked at (" + ErrorText(state.error) + ")" : "is no file any more";
+  }
+}
+
+std::string Stays(const ioPath& photo, const std::string& why) {
+  return photo.utf8string() + " stays: " + why + ".";
+}
+
+/// The key of the shot that a photo is of.
+std::string ShotKey(const ioPath& photo) {
+  const FileName file(photo);
+  return KeyOf(file.Folder(), SplitShotName(file.Name()).base);
+}
+
+class Planner {
+ public:
+  explicit Planner(const std::vector<SuggestedGroup>& groups) : groups_(groups) {
+    for (const SuggestedGroup& group : groups) {
+      const FileState state = QueryFile(KeptOf(group).photo.path);
+      if (state.kind == FileState::Kind::File) {
+        kept_.insert(state.identity);
+      }
+    }
+  }
+
+  TrashPlan Run() {
+    for (const SuggestedGroup& group : groups_) {
+      AddGroup(group);
+    }
+    AddAppendices();
+    return std::move(plan_);
+  }
+
+ private:
+  static const SimilarMember& KeptOf(const SuggestedGroup& group) {
+    return group.group.members[group.keeper.index];
+  }
+
+  void AddGroup(const SuggestedGroup& group) {
+    const ioPath& kept = KeptOf(group).photo.path;
+    const FileState state = QueryFile(kept);
+    std::string fault;
+    if (!IsAsKnown(state, KnownAs(KeptOf(group).photo))) {
+      fault = "the one to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
+    } else if (Tavolin::LiesInTrash(kept)) {
+      fault = "the one to keep, " + kept.utf8string() + ", is in a trash itself";
+    }
+    std::set<std::size_t> raws;
+    for (std::size_t i = 0; i < group.group.members.size(); ++i) {
+      if (i != group.keeper.index) {
+        Judge(group, i, fault, raws);
+      }
+    }
+    SettleRaws(group, raws);
+  }
+
+  void Judge(const SuggestedGroup& group, std::size_t index, const std::string& fault,
+             std::set<std::size_t>& raws) {
+    const PhotoRecord& photo = group.group.members[index].photo;
+    const ioPath& kept = KeptOf(group).photo.path;
+    const FileState state = QueryFile(photo.path);
+    if (!fault.empty()) {
+      Stay(photo.path, fault, false);
+    } else if (!IsAsKnown(state, KnownAs(photo))) {
+      Stay(photo.path, "it " + WhatIsWrong(state), false);
+    } else if (Tavolin::LiesInTrash(photo.path)) {
+      Stay(photo.path, "it is in a trash already", true);
+    } else if (IsLink(photo.path)) {
+      Stay(photo.path, "it is a link to another file", true);
+    } else if (kept_.count(state.identity) > 0) {
+      Stay(photo.path, "it is another name of a file that is kept", true);
+    } else if (ShotKey(photo.path) == ShotKey(kept)) {
+      Stay(photo.path, "it is of the same shot as " + kept.filename().utf8string() + ", which is kept", true);
+    } else if (IsRawName(photo.path.filename().utf8string())) {
+      raws.insert(index);
+    } else {
+      Go(group, index);
+    }
+  }
+
+  /// A raw file is what all other formats are made from: one of the group always stays.
+  void SettleRaws(const SuggestedGroup& group, const std::set<std::size_t>& raws) {
+    const std::string shot = ShotKey(KeptOf(group).photo.path);
+    const bool keepsRaw =
+        std::any_of(group.group.members.begin(), group.group.members.end(), [&](const SimilarMember& member) {
+          return IsRawName(member.photo.path.filename().utf8string()) && ShotKey(member.photo.path) == shot &&
+                 QueryFile(member.photo.path).kind == FileState::Kind::File;
+        });
+    for (const std::size_t index : raws) {
+      if (keepsRaw) {
+        Go(group, index);
+      } else {
+        Stay(group.group.members[index].photo.path, "it is a raw file, and no raw file of its group is kept",
+             true);
+      }
+    }
+  }
+
+  void Go(const SuggestedGroup& group, std::size_t index) {
+    const KnownFile photo = KnownAs(group.group.members[index].photo);
+    going_.emplace(photo.path, plan_.photos.size());
+    plan_.photos.push_back({photo, KnownAs(KeptOf(group).photo), {}});
+  }
+
+  void Stay(const ioPath& photo, const std::string& why, bool isRule) {
+    plan_.stays.push_back({photo, Stays(photo, why), isRule});
+  }
+
+  void AddAppendices() {
+    std::map<ioPath, std::vector<ioPath>> folders;
+    for (const TrashPhoto& photo : plan_.photos) {
+      folders[photo.photo.path.parent_path()].push_back(photo.photo.path);
+    }
+    for (auto& [folder, photos] : folders) {
+      std::vector<ioPath> files;
+      std::error_code error;
+      for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::NotHidden, error)) {
+        if (entry.kind == FolderEntry::Kind::File || entry.kind == FolderEntry::Kind::Link) {
+          files.push_back(folder / entry.name);
+        }
+      }
+      // What cannot be listed stays: nothing is lost by that.
+      for (const ShotSet& set : GroupShots(std::move(photos), files)) {
+        AddAppendices(set);
+      }
+    }
+  }
+
+  void AddAppendices(const ShotSet& set) {
+    // The last of them, so that it goes when all have gone.
+    TrashPhoto* last = nullptr;
+    bool anyStays = false;
+    std::unordered_map<std::string, const ioPath*> owners;
+    for (const ShotFile& file : set.files) {
+      if (IsPhotoName(file.path)) {
+        const auto going = going_.find(file.path);
+        anyStays = anyStays || going == going_.end();
+        last = going == going_.end() ? last : &plan_.photos[going->second];
+        owners[NameKey(file.suffix)] = &file.path;
+      }
+    }
+    for (const ShotFile& file : set.files) {
+      if (IsPhotoName(file.path) || !IsAppendixName(file.path.filename().utf8string()) || IsLink(file.path)) {
+        continue;
+      }
+      const auto owner = owners.find(NameKey(OwnerExtension(file.suffix)));
+      if (owner != owners.end()) {
+        const auto going = going_.find(*owner->second);
+        AddAppendix(going == going_.end() ? nullptr : &plan_.photos[going->second], file.path);
+      } else {
+        AddAppendix(anyStays ? nullptr : last, file.path);
+      }
+    }
+  }
+
+  static void AddAppendix(TrashPhoto* photo, const ioPath& file) {
+    const FileState state = QueryFile(file);
+    if (photo != nullptr && state.kind == FileState::Kind::File) {
+      photo->appendix.push_back({file, state.size, state.modifiedNs});
+    }
+  }
+
+  const std::vector<SuggestedGroup>& groups_;
+  std::set<Identity> kept_;
+  std::unordered_map<ioPath, std::size_t> going_;
+  TrashPlan plan_;
+};
+
+}  // namespace
+
+std::size_t TrashPlan::CountFiles() const {
+  std::size_t files = 0;
+  for (const TrashPhoto& photo : photos) {
+    files += 1 + photo.appendix.size();
+  }
+  return files;
+}
+
+std::uint64_t TrashPlan::CountBytes() const {
+  std::uint64_t bytes = 0;
+  for (const TrashPhoto& photo : photos) {
+    bytes += photo.photo.size;
+    for (const KnownFile& file : photo.appendix) {
+      bytes += file.size;
+    }
+  }
+  return bytes;
+}
+
+TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups) {
+  return Planner(groups).Run();
+}
+
+std::string FindTrashFault(const KnownFile& photo, const KnownFile& kept) {
+  const FileState keptState = QueryFile(kept.path);
+  if (!IsAsKnown(keptState, kept)) {
+    return Stays(photo.path, "the one to keep, " + kept.path.utf8string() + ", " + WhatIsWrong(keptState));
+  }
+  const FileState state = QueryFile(photo.path);
+  if (!IsAsKnown(state, photo)) {
+    return Stays(photo.path, "it " + WhatIsWrong(state));
+  }
+  if (IsLink(photo.path) || state.identity == keptState.identity) {
+    return Stays(photo.path, "it is another name of a file that is kept");
+  }
+  return {};
+}
+
+std::string FindTrashFault(const KnownFile& appendix) {
+  const FileState state = QueryFile(appendix.path);
+  if (!IsAsKnown(state, appendix)) {
+    return Stays(appendix.path, "it " + WhatIsWrong(state));
+  }
+  return IsLink(appendix.path) ? Stays(appendix.path, "it is a link to another file") : std::string();
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <host/Catalogue.h>
+#include <host/SimilarKeeper.h>
+
+#include <zenvora/core/ioPath.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// A file, and what it must still be when its turn comes.
+struct KnownFile {
+  ioPath path;
+  std::uint64_t size = 0;
+  std::int64_t modifiedNs = 0;
+};
+
+/// A photo that is to go to the trash.
+struct TrashPhoto {
+  KnownFile photo;
+  KnownFile kept;                   ///< The one that is kept in its stead.
+  std::vector<KnownFile> appendix;  ///< What lies beside it and says nothing without it; goes after it.
+};
+
+/// A photo besides the one to keep that stays.
+struct TrashStay {
+  ioPath photo;
+  std::string cause;   ///< One English sentence that names the file.
+  bool isRule = true;  ///< It would stay the next time, too; false: something is wrong with it.
+};
+
+struct TrashPlan {
+  std::vector<TrashPhoto> photos;  ///< Group by group, raw files last.
+  std::vector<TrashStay> stays;    ///< Group by group.
+
+  /// Photos with what goes along.
+  std::size_t CountFiles() const;
+  std::uint64_t CountBytes() const;
+};
+
+/// What goes to the trash when of each group only the photo to keep is to stay, and what stays all the same:
+/// - what is the very file that is kept here or in another group, under whatever name, or a link;
+/// - other formats of the shot that the kept photo is of, as `GroupShots` has it;
+/// - raw files, unless a raw file of the group stays;
+/// - what lies in a trash, and all of a group whose kept photo does;
+/// - what is not on the disk as the catalogue knows it, and all of a group whose kept photo is not: then
+///   nobody knows whether they still show the same.
+/// Settings and thumbnails beside a photo go along with it when they are that file's alone, or when no other
+/// photo of the shot stays. Changes nothing; blocks on the disk. docs/decisions/trash.md has the reasons.
+TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups);
+
+/// Why the photo must not go now, in an English sentence; empty: it may. To be asked right before it goes.
+/// Blocks on the disk.
+std::string FindTrashFault(const KnownFile& photo, const KnownFile& kept);
+/// The same for what goes along with a photo.
+std::string FindTrashFault(const KnownFile& appendix);
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,220 @@
+#include "ShotNames.h"
+
+#include <host/Scanner.h>
+#include <host/TrashPlan.h>
+#include <support/TempTree.h>
+
+#include <zenvora/core/FileNames.h>
+#include <zenvora/core/FileState.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+class TrashPlanTest : public ::testing::Test {
+ protected:
+  ioPath Make(const std::string& name) const { return tree_.Write("photos/" + name, name); }
+
+  SimilarMember Member(const std::string& name) const {
+    SimilarMember member;
+    member.photo.path = tree_.Path("photos") / ioPath(name);
+    const FileState state = QueryFile(member.photo.path);
+    member.photo.size = state.size;
+    member.photo.modifiedNs = state.modifiedNs;
+    return member;
+  }
+
+  /// The first is kept. What is not there is made.
+  SuggestedGroup Group(const std::vector<std::string>& names) const {
+    SuggestedGroup group;
+    for (const std::string& name : names) {
+      if (QueryFile(tree_.Path("photos") / ioPath(name)).kind == FileState::Kind::Missing) {
+        Make(name);
+      }
+      group.group.members.push_back(Member(name));
+    }
+    return group;
+  }
+
+  /// Names of what goes, each with what goes along.
+  std::vector<std::string> Going(const TrashPlan& plan) const {
+    std::vector<std::string> names;
+    for (const TrashPhoto& photo : plan.photos) {
+      std::string name = Name(photo.photo.path);
+      for (const KnownFile& file : photo.appendix) {
+        name += " +" + Name(file.path);
+      }
+      names.push_back(name);
+    }
+    return names;
+  }
+  std::vector<std::string> Staying(const TrashPlan& plan) const {
+    std::vector<std::string> names;
+    for (const TrashStay& stay : plan.stays) {
+      EXPECT_THAT(stay.cause, HasSubstr(stay.photo.utf8string() + " stays: "));
+      names.push_back(Name(stay.photo) + (stay.isRule ? "" : "!"));
+    }
+    return names;
+  }
+  std::string Name(const ioPath& path) const {
+    const std::string name = Zenvora::Test::Slashes(path);
+    return name.substr(Zenvora::Test::Slashes(tree_.Path("photos")).size() + 1);
+  }
+
+  const Zenvora::Test::TempTree tree_;
+};
+
+TEST_F(TrashPlanTest, TakesAllButTheOneToKeep) {
+  SuggestedGroup group = Group({"a.jpg", "b.jpg", "x/c.jpg"});
+  group.keeper.index = 1;
+  const TrashPlan plan = PlanTrash({group});
+  EXPECT_THAT(Going(plan), ElementsAre("a.jpg", "x/c.jpg"));
+  EXPECT_THAT(plan.stays, IsEmpty());
+  EXPECT_EQ(Name(plan.photos[0].kept.path), "b.jpg");
+  EXPECT_EQ(plan.CountFiles(), 2U);
+  EXPECT_EQ(plan.CountBytes(), 5U + 7U);
+  EXPECT_THAT(PlanTrash({}).photos, IsEmpty());
+  EXPECT_THAT(PlanTrash({Group({"lonely.jpg"})}).photos, IsEmpty());
+}
+
+TEST_F(TrashPlanTest, LeavesWhatIsNotAsTheCatalogueKnowsIt) {
+  const SuggestedGroup group = Group({"keep.jpg", "changed.jpg", "gone.jpg", "folder.jpg", "b.jpg"});
+  tree_.Write("photos/changed.jpg", "something else");
+  for (const char* const name : {"gone.jpg", "folder.jpg"}) {
+    (tree_.Path("photos") / ioPath(name)).remove();
+  }
+  tree_.MakeFolder("photos/folder.jpg");
+  const TrashPlan plan = PlanTrash({group});
+  EXPECT_THAT(Going(plan), ElementsAre("b.jpg"));
+  EXPECT_THAT(Staying(plan), ElementsAre("changed.jpg!", "gone.jpg!", "folder.jpg!"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("it has been changed since it was looked at"));
+  EXPECT_THAT(plan.stays[1].cause, HasSubstr("it is not there any more"));
+  EXPECT_THAT(plan.stays[2].cause, HasSubstr("it is no file any more"));
+}
+
+TEST_F(TrashPlanTest, LeavesAGroupWhoseKeptPhotoIsNotAsKnown) {
+  const SuggestedGroup first = Group({"keep.jpg", "b.jpg", "c.jpg"});
+  const SuggestedGroup second = Group({"d.jpg", "e.jpg"});
+  tree_.Write("photos/keep.jpg", "something else");
+  const TrashPlan plan = PlanTrash({first, second});
+  EXPECT_THAT(Going(plan), ElementsAre("e.jpg"));
+  EXPECT_THAT(Staying(plan), ElementsAre("b.jpg!", "c.jpg!"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("the one to keep, "));
+}
+
+TEST_F(TrashPlanTest, LeavesOtherNamesOfWhatIsKeptInAnyGroup) {
+  Make("keep.jpg");
+  ASSERT_FALSE(AddName(tree_.Path("photos/keep.jpg"), tree_.Path("photos/twin.jpg")));
+  ASSERT_FALSE(AddName(tree_.Path("photos/keep.jpg"), tree_.Path("photos/third.jpg")));
+  const TrashPlan plan = PlanTrash({Group({"keep.jpg", "twin.jpg"}), Group({"other.jpg", "third.jpg"})});
+  EXPECT_THAT(Going(plan), IsEmpty());
+  EXPECT_THAT(Staying(plan), ElementsAre("twin.jpg", "third.jpg"));
+}
+
+TEST_F(TrashPlanTest, LeavesLinksAndWhatAKeptLinkLeadsTo) {
+  Make("real.jpg");
+  Make("other.jpg");
+  LUMIDEX_LINK_OR_SKIP(tree_.Path("photos/real.jpg"), tree_.Path("photos/keep.jpg"));
+  LUMIDEX_LINK_OR_SKIP(tree_.Path("photos/other.jpg"), tree_.Path("photos/link.jpg"));
+  const TrashPlan plan = PlanTrash({Group({"keep.jpg", "real.jpg", "link.jpg"})});
+  EXPECT_THAT(Going(plan), IsEmpty());
+  EXPECT_THAT(Staying(plan), ElementsAre("real.jpg", "link.jpg"));
+}
+
+TEST_F(TrashPlanTest, LeavesWhatIsInATrashAndWhatItWouldBeTheLastOf) {
+#ifdef _WIN32
+  const std::string trash = "$Recycle.Bin/S-1-5/";
+#else
+  const std::string trash = ".Trash-1000/files/";
+#endif
+  const TrashPlan plan =
+      PlanTrash({Group({trash + "keep.jpg", "a.jpg"}), Group({"b.jpg", trash + "c.jpg", "d.jpg"})});
+  EXPECT_THAT(Going(plan), ElementsAre("d.jpg"));
+  EXPECT_THAT(Staying(plan), ElementsAre("a.jpg!", trash + "c.jpg"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("is in a trash itself"));
+}
+
+TEST_F(TrashPlanTest, LeavesOtherFormatsOfTheShotThatIsKept) {
+  const TrashPlan plan =
+      PlanTrash({Group({"IMG_1.JPG", "IMG_1.CR2", "img_1.heic", "IMG_2.JPG", "sub/IMG_1.JPG"})});
+  EXPECT_THAT(Going(plan), ElementsAre("IMG_2.JPG", "sub/IMG_1.JPG"));
+  EXPECT_THAT(Staying(plan), ElementsAre("IMG_1.CR2", "img_1.heic"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("it is of the same shot as IMG_1.JPG, which is kept"));
+}
+
+TEST_F(TrashPlanTest, KeepsARawFileOfEachGroupThatHasOne) {
+  EXPECT_THAT(Going(PlanTrash({Group({"edited.jpg", "IMG_2.NEF", "IMG_2.JPG"})})), ElementsAre("IMG_2.JPG"));
+  EXPECT_THAT(Staying(PlanTrash({Group({"edited.jpg", "IMG_2.NEF", "IMG_2.JPG"})})),
+              ElementsAre("IMG_2.NEF"));
+  // Where a raw file is kept, or belongs to the shot that is, the others can go.
+  EXPECT_THAT(Going(PlanTrash({Group({"IMG_3.NEF", "IMG_4.NEF", "IMG_4.JPG"})})),
+              ElementsAre("IMG_4.JPG", "IMG_4.NEF"));
+  EXPECT_THAT(Going(PlanTrash({Group({"IMG_5.JPG", "IMG_5.NEF", "IMG_6.NEF", "IMG_6.JPG"})})),
+              ElementsAre("IMG_6.JPG", "IMG_6.NEF"));
+}
+
+TEST_F(TrashPlanTest, TakesSettingsAlongThatNobodyElseNeeds) {
+  for (const char* const name :
+       {"a.xmp", "a.jpg.xmp", "a.THM", "a.txt", "a.mov", "a.psd", "a.wav", ".a.xmp"}) {
+    Make(name);
+  }
+  const TrashPlan plan = PlanTrash({Group({"keep.jpg", "a.jpg"})});
+  EXPECT_THAT(Going(plan), ElementsAre("a.jpg +a.THM +a.jpg.xmp +a.xmp"));
+  EXPECT_EQ(plan.CountFiles(), 4U);
+}
+
+TEST_F(TrashPlanTest, LeavesSettingsOfAShotOfWhichAPhotoStays) {
+  for (const char* const name : {"a.xmp", "a.jpg.xmp", "a.CR2.xmp", "a_01.CR2.xmp", "a.CR2"}) {
+    Make(name);
+  }
+  EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.jpg"})})), ElementsAre("a.jpg +a.jpg.xmp"));
+  // With the last photo of the shot all of it goes.
+  EXPECT_THAT(Going(PlanTrash({Group({"keep.cr2", "a.jpg", "a.CR2"})})),
+              ElementsAre("a.jpg +a.jpg.xmp +a.xmp", "a.CR2 +a.CR2.xmp +a_01.CR2.xmp"));
+}
+
+TEST_F(TrashPlanTest, LeavesSettingsThatAreALink) {
+  Make("shared.pp3");
+  LUMIDEX_LINK_OR_SKIP(tree_.Path("photos/shared.pp3"), tree_.Path("photos/a.pp3"));
+  EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.jpg"})})), ElementsAre("a.jpg"));
+}
+
+TEST(RawNames, AreThoseOfPhotos) {
+  for (const char* const name : {"a.CR2", "a.nef", "x.y.DNG", "a.fff", "a.x3f"}) {
+    EXPECT_TRUE(IsRawName(name)) << name;
+    EXPECT_TRUE(IsPhotoName(ioPath(name))) << name;
+  }
+  for (const char* const name : {"a.jpg", "a.heic", "a.tif", "nef", ".nef", "a.nef.xmp", ""}) {
+    EXPECT_FALSE(IsRawName(name)) << name;
+  }
+}
+
+TEST(AppendixNames, AreThoseOfWhatSaysNothingAlone) {
+  for (const char* const name : {"a.xmp", "a.CR2.XMP", "a.thm", "a.dop"}) {
+    EXPECT_TRUE(IsAppendixName(name)) << name;
+    EXPECT_TRUE(IsShotFile(name)) << name;
+  }
+  for (const char* const name : {"a.mov", "a.psd", "a.wav", "a.jpg", "a.txt"}) {
+    EXPECT_FALSE(IsAppendixName(name)) << name;
+  }
+}
+
+TEST(OwnerExtensionOf, IsTheFirstOfTwo) {
+  EXPECT_EQ(OwnerExtension(".CR2.xmp"), ".CR2");
+  EXPECT_EQ(OwnerExtension("_01.CR2.xmp"), ".CR2");
+  EXPECT_EQ(OwnerExtension(".xmp"), "");
+  EXPECT_EQ(OwnerExtension(""), "");
+}
+
+}  // namespace
+}  // namespace Zenvora::Lumidex::Host
