@@ -237,12 +237,10 @@ void CheckAttribute(std::string_view attribute) {
       name = part->bytes;
     } else if (part->Is(kInt, Type::Number)) {
       number = part->number;
-    } else if (part->Is(kTensors, Type::Bytes)) {
-      TensorCheck{part->bytes};
-    } else if (part->Is(kTensor, Type::Bytes)) {
-      TensorCheck{part->bytes};
+    } else if (part->Is(kTensor, Type::Bytes) || part->Is(kTensors, Type::Bytes)) {
+      const TensorCheck check(part->bytes);
       // Two would be taken for one with the sizes of both.
-      if (std::exchange(hasTensor, true)) {
+      if (part->id == kTensor && std::exchange(hasTensor, true)) {
         throw ModelFault("it has two values for \"" + WordsOf(name) + '"');
       }
     }
