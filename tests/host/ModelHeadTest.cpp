@@ -248,8 +248,10 @@ TEST(ReadModelHead, RefusesWhatOtherReadersWouldPutTogether) {
 TEST(ReadModelHead, RefusesNodesOfNoGroups) {
   TinyModel model;
   EXPECT_EQ(Refusal(model), "");
-  model.groups = 0;
-  EXPECT_EQ(Refusal(model), "it has a node of no groups");
+  for (const std::uint64_t none : {std::uint64_t{0}, std::uint64_t{1} << 32U}) {
+    model.groups = none;
+    EXPECT_EQ(Refusal(model), "it has a node of no groups");
+  }
 }
 
 TEST(ReadModelHead, FollowsNamesThroughTheModel) {

@@ -245,8 +245,8 @@ void CheckAttribute(std::string_view attribute) {
       }
     }
   }
-  // What runs the model divides by it.
-  if (name == "group" && number == 0) {
+  // What runs the model divides by it, and takes 32 bits of it.
+  if (name == "group" && number && static_cast<std::uint32_t>(*number) == 0) {
     throw ModelFault("it has a node of no groups");
   }
 }
