@@ -180,7 +180,15 @@ TEST(ReadModelHead, WantsAsManyWeightsAsTheirShapeSays) {
       {WireWriter().Bytes(1, two).Number(2, 6).Number(5, 300), "are 1 numbers instead of 2"},
       {WireWriter().Number(1, 2).Number(2, 11).Bytes(10, std::string(16, '\0')), ""},
       {WireWriter().Number(1, 2).Number(2, 8), ""},
-      {WireWriter().Number(1, 2).Number(2, 99), ""},
+      {WireWriter().Number(1, 2).Number(2, 12).Bytes(11, two), ""},
+      {WireWriter().Number(1, 2).Number(2, 99), "are of an unknown kind"},
+      {WireWriter().Number(1, 2).Number(2, std::uint64_t{1} << 32U | 1U), "are of an unknown kind"},
+      // Lists are read for numbers of their own kind only.
+      {WireWriter().Number(1, 2).Number(2, 1).Bytes(5, two), "are 0 numbers instead of 2"},
+      {WireWriter().Number(1, 2).Number(2, 1).Bytes(7, two), "are 0 numbers instead of 2"},
+      {WireWriter().Number(1, 2).Number(2, 1).Bytes(10, std::string(16, '\0')), "are 0 numbers instead of 2"},
+      {WireWriter().Number(1, 2).Number(2, 7).Bytes(4, std::string(8, '\0')), "are 0 numbers instead of 2"},
+      {WireWriter().Number(1, 2).Number(2, 1).Bytes(9, std::string(8, '\0')).Bytes(7, two), ""},
       {WireWriter().Number(1, vast).Number(1, vast).Number(2, 1), "are of an impossible size"},
       {WireWriter().Number(1, UINT64_MAX).Number(2, 1), "are of an impossible size"},
   };
@@ -192,6 +200,57 @@ TEST(ReadModelHead, WantsAsManyWeightsAsTheirShapeSays) {
       EXPECT_THAT(refusal, HasSubstr(c.refusedAs)) << row;
     }
     ++row;
+  }
+}
+
+TEST(ReadModelHead, SeesNothingThatOtherReadersPassBy) {
+  const std::string damaged = "it is no ONNX model, or a damaged one";
+  const std::string eight(8, '\1');
+  const auto weights = [] { return WireWriter().Number(1, 2).Number(2, 1); };
+  const WireWriter tensors[] = {
+      weights().Eight(9, eight),
+      weights().Number(4, 2).Bytes(9, eight),
+      weights().Eight(7, eight).Bytes(9, eight),
+      weights().Eight(1, eight).Bytes(9, eight),
+      weights().Bytes(2, "").Bytes(9, "few"),
+      weights().Bytes(9, eight).Number(8, 1),
+      // A tag of more than 32 bits.
+      weights().Number(std::uint64_t{1} << 32U | 1U, 9).Bytes(9, eight),
+  };
+  int row = 0;
+  for (const WireWriter& tensor : tensors) {
+    EXPECT_EQ(Refusal(tensor, false), damaged) << row;
+    EXPECT_EQ(Refusal(tensor, true), damaged) << row;
+    ++row;
+  }
+  const auto refusal = [](const WireWriter& graph) {
+    return Refusal(WireWriter().Number(1, 7).Message(7, graph).Written());
+  };
+  EXPECT_EQ(refusal(WireWriter().Message(1, WireWriter().Eight(2, "new name"))), damaged);
+  EXPECT_EQ(refusal(WireWriter().Eight(5, eight)), damaged);
+  EXPECT_EQ(refusal(WireWriter().Number(11, 1)), damaged);
+}
+
+TEST(ReadModelHead, RefusesWhatOtherReadersWouldPutTogether) {
+  const WireWriter tensor = WireWriter().Number(1, 2).Number(2, 1).Bytes(9, std::string(8, '\0'));
+  const WireWriter twice = WireWriter().Bytes(1, "value").Message(5, tensor).Message(5, tensor);
+  const WireWriter several = WireWriter().Bytes(1, "value").Message(10, tensor).Message(10, tensor);
+  const auto refusal = [](const WireWriter& attribute) {
+    const WireWriter graph = WireWriter().Message(1, WireWriter().Message(5, attribute));
+    return Refusal(WireWriter().Number(1, 7).Message(7, graph).Written());
+  };
+  EXPECT_EQ(refusal(twice), "it has two values for \"value\"");
+  EXPECT_EQ(refusal(several), "it has 0 inputs, and a photo is one");
+  const std::string bytes = TinyModel().Bytes();
+  EXPECT_EQ(Refusal(bytes + WireWriter().Message(7, WireWriter()).Written()), "it has two graphs");
+}
+
+TEST(ReadModelHead, RefusesNodesOfNoGroups) {
+  TinyModel model;
+  EXPECT_EQ(Refusal(model), "");
+  for (const std::uint64_t none : {std::uint64_t{0}, std::uint64_t{1} << 32U}) {
+    model.groups = none;
+    EXPECT_EQ(Refusal(model), "it has a node of no groups");
   }
 }
 

@@ -63,6 +63,12 @@ WireWriter& WireWriter::Bytes(std::uint64_t id, const std::string& bytes) {
   return *this;
 }
 
+WireWriter& WireWriter::Eight(std::uint64_t id, const std::string& bytes) {
+  Plain(id << 3U | 1U);
+  bytes_ += bytes;
+  return *this;
+}
+
 std::vector<float> TinyModel::UsualWeights() {
   constexpr int kCell = 4;
   std::vector<float> weights;
@@ -108,7 +114,8 @@ std::string TinyModel::Bytes() const {
                        .Bytes(3, "look")
                        .Bytes(4, "Conv")
                        .Message(5, Attribute("kernel_shape", {side, side}))
-                       .Message(5, Attribute("strides", {side, side})));
+                       .Message(5, Attribute("strides", {side, side}))
+                       .Message(5, WireWriter().Bytes(1, "group").Number(3, groups).Number(20, 2)));
   graph.Message(1, WireWriter().Bytes(1, "cells").Bytes(2, "vector").Bytes(3, "end").Bytes(4, operation));
   graph.Bytes(2, "tiny").Message(5, tensor);
   for (int i = 0; i < inputs; ++i) {

@@ -4,6 +4,7 @@
 #include "WireReader.h"
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <set>
 #include <utility>
@@ -13,14 +14,17 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
+using Type = WireReader::Type;
+
 /// Numbers of the format's fields.
 enum ModelField : std::uint64_t { kIrVersion = 1, kGraph = 7, kMetadata = 14 };
 enum GraphField : std::uint64_t { kNode = 1, kInitializer = 5, kInput = 11, kOutput = 12, kSparse = 15 };
 enum NodeField : std::uint64_t { kFrom = 1, kTo = 2, kAttribute = 5 };
-enum AttributeField : std::uint64_t { kTensor = 5, kTensors = 10 };
+enum AttributeField : std::uint64_t { kAttributeName = 1, kInt = 3, kTensor = 5, kTensors = 10 };
 enum ValueField : std::uint64_t { kName = 1, kType = 2 };
 enum TypeField : std::uint64_t { kTensorType = 1 };
 enum TensorTypeField : std::uint64_t { kElement = 1, kShape = 2 };
+enum ShapeField : std::uint64_t { kDimension = 1 };
 enum DimensionField : std::uint64_t { kSize = 1 };
 enum EntryField : std::uint64_t { kKey = 1, kValue = 2 };
 enum TensorField : std::uint64_t {
@@ -32,6 +36,7 @@ enum TensorField : std::uint64_t {
   kTensorName = 8,
   kRaw = 9,
   kDoubles = 10,
+  kUnsigned = 11,
   kExternal = 13,
   kLocation = 14,
 };
@@ -41,24 +46,63 @@ constexpr std::uint64_t kFloat = 1;
 constexpr std::uint64_t kMostElements = std::uint64_t{1} << 40U;
 constexpr std::uint64_t kMostSide = 4096;
 
-/// Bytes of one element in raw data; 0: another kind, whose data is not looked at.
-std::uint64_t BytesOf(std::uint64_t dataType) {
-  // Float, two of 8 bits, two of 16, 32, 64, (text), truth, half, double.
-  constexpr unsigned char kBytes[] = {0, 4, 1, 1, 2, 2, 4, 8, 0, 1, 2, 8};
-  return dataType < sizeof kBytes ? kBytes[dataType] : 0;
+/// How the numbers of a tensor are stored.
+struct Storage {
+  std::uint64_t bytes;  ///< Of one in raw data; 0: no numbers, whose data is not looked at.
+  std::uint64_t list;   ///< The one field that may list them instead.
+};
+
+std::optional<Storage> StorageOf(std::uint64_t dataType) {
+  switch (dataType) {
+    case 0:  // Undefined.
+    case 8:  // Text.
+      return Storage{0, 0};
+    case 1:  // Float.
+      return Storage{4, kFloats};
+    case 2:  // 8 bits without and with a sign, truth.
+    case 3:
+    case 9:
+      return Storage{1, kInts};
+    case 4:  // 16 bits without and with a sign, two kinds of half floats.
+    case 5:
+    case 10:
+    case 16:
+      return Storage{2, kInts};
+    case 6:  // 32 bits.
+      return Storage{4, kInts};
+    case 7:  // 64 bits.
+      return Storage{8, kLongs};
+    case 11:  // Double.
+      return Storage{8, kDoubles};
+    case 12:  // 32 and 64 bits without a sign.
+      return Storage{4, kUnsigned};
+    case 13:
+      return Storage{8, kUnsigned};
+    default:
+      return std::nullopt;
+  }
 }
 
 /// One number of a field, or the many of a packed one.
 template <class Each>
 void ForEachNumber(const WireReader::Field& field, const Each& each) {
-  if (field.type == WireReader::Type::Number) {
+  if (field.type == Type::Number) {
     each(field.number);
-    return;
+  } else if (field.Is(field.id, Type::Bytes)) {
+    WireReader packed(field.bytes);
+    while (!packed.AtEnd()) {
+      each(packed.Number());
+    }
   }
-  WireReader packed(field.bytes);
-  while (!packed.AtEnd()) {
-    each(packed.Number());
+}
+
+/// How many numbers of a fixed size `one` there are in such a field.
+std::uint64_t CountOf(const WireReader::Field& field, Type one) {
+  if (field.type == one) {
+    return 1;
   }
+  const std::size_t bytes = one == Type::Four ? sizeof(float) : sizeof(double);
+  return field.Is(field.id, Type::Bytes) ? field.bytes.size() / bytes : 0;
 }
 
 /// What runs the model takes the sizes of weights on trust.
@@ -69,12 +113,18 @@ class TensorCheck {
     while (const auto field = reader.Next()) {
       Take(*field);
     }
-    const std::uint64_t bytes = BytesOf(dataType_);
-    if (bytes == 0) {
+    const std::optional<Storage> storage = StorageOf(dataType_);
+    if (!storage) {
+      throw ModelFault("its weights \"" + WordsOf(name_) + "\" are of an unknown kind");
+    }
+    if (storage->bytes == 0) {
       return;
     }
-    const std::uint64_t there = listed_ > 0 ? listed_ : raw_ / bytes;
-    if (there != elements_ || (listed_ == 0 && raw_ % bytes != 0)) {
+    // Lists of another kind are not read, whatever is in them.
+    const auto list = listed_.find(storage->list);
+    const bool isListed = list != listed_.end() && list->second > 0;
+    const std::uint64_t there = isListed ? list->second : raw_ / storage->bytes;
+    if (there != elements_ || (!isListed && raw_ % storage->bytes != 0)) {
       throw ModelFault("its weights \"" + WordsOf(name_) + "\" are " + std::to_string(there) +
                        " numbers instead of " + std::to_string(elements_));
     }
@@ -84,38 +134,23 @@ class TensorCheck {
 
  private:
   void Take(const WireReader::Field& field) {
-    switch (field.id) {
-      case kDims:
-        ForEachNumber(field, [this](std::uint64_t size) { Multiply(size); });
-        break;
-      case kDataType:
-        dataType_ = field.number;
-        break;
-      case kFloats:
-        listed_ += field.bytes.size() / sizeof(float);
-        break;
-      case kDoubles:
-        listed_ += field.bytes.size() / sizeof(double);
-        break;
-      case kInts:
-      case kLongs:
-        ForEachNumber(field, [this](std::uint64_t) { ++listed_; });
-        break;
-      case kTensorName:
-        name_ = std::string(field.bytes);
-        break;
-      case kRaw:
-        raw_ = field.bytes.size();
-        break;
-      case kExternal:
-        throw ModelFault("its weights lie in other files");
-      case kLocation:
-        if (field.number != 0) {
-          throw ModelFault("its weights lie in other files");
-        }
-        break;
-      default:
-        break;
+    if (field.id == kDims) {
+      ForEachNumber(field, [this](std::uint64_t size) { Multiply(size); });
+    } else if (field.Is(kDataType, Type::Number)) {
+      dataType_ = field.number;
+    } else if (field.id == kFloats) {
+      listed_[field.id] += CountOf(field, Type::Four);
+    } else if (field.id == kDoubles) {
+      listed_[field.id] += CountOf(field, Type::Eight);
+    } else if (field.id == kInts || field.id == kLongs || field.id == kUnsigned) {
+      std::uint64_t& count = listed_[field.id];
+      ForEachNumber(field, [&count](std::uint64_t) { ++count; });
+    } else if (field.Is(kTensorName, Type::Bytes)) {
+      name_ = std::string(field.bytes);
+    } else if (field.Is(kRaw, Type::Bytes)) {
+      raw_ = field.bytes.size();
+    } else if (field.Is(kExternal, Type::Bytes) || (field.Is(kLocation, Type::Number) && field.number != 0)) {
+      throw ModelFault("its weights lie in other files");
     }
   }
 
@@ -129,7 +164,7 @@ class TensorCheck {
   std::string name_;
   std::uint64_t dataType_ = 0;
   std::uint64_t elements_ = 1;
-  std::uint64_t listed_ = 0;
+  std::map<std::uint64_t, std::uint64_t> listed_;  ///< By field.
   std::uint64_t raw_ = 0;
 };
 
@@ -145,7 +180,7 @@ std::optional<std::uint64_t> SizeOf(std::string_view dimension) {
   std::optional<std::uint64_t> size;
   WireReader reader(dimension);
   while (const auto field = reader.Next()) {
-    if (field->id == kSize && field->number > 0) {
+    if (field->Is(kSize, Type::Number) && field->number > 0) {
       size = field->number;
     }
   }
@@ -155,12 +190,14 @@ std::optional<std::uint64_t> SizeOf(std::string_view dimension) {
 void ReadTensorType(std::string_view type, Value& value) {
   WireReader reader(type);
   while (const auto field = reader.Next()) {
-    if (field->id == kElement) {
+    if (field->Is(kElement, Type::Number)) {
       value.element = field->number;
-    } else if (field->id == kShape) {
+    } else if (field->Is(kShape, Type::Bytes)) {
       WireReader sizes(field->bytes);
       while (const auto size = sizes.Next()) {
-        value.shape.push_back(SizeOf(size->bytes));
+        if (size->Is(kDimension, Type::Bytes)) {
+          value.shape.push_back(SizeOf(size->bytes));
+        }
       }
     }
   }
@@ -170,12 +207,12 @@ Value ReadValue(std::string_view bytes) {
   Value value;
   WireReader reader(bytes);
   while (const auto field = reader.Next()) {
-    if (field->id == kName) {
+    if (field->Is(kName, Type::Bytes)) {
       value.name = std::string(field->bytes);
-    } else if (field->id == kType) {
+    } else if (field->Is(kType, Type::Bytes)) {
       WireReader types(field->bytes);
       while (const auto type = types.Next()) {
-        if (type->id == kTensorType) {
+        if (type->Is(kTensorType, Type::Bytes)) {
           ReadTensorType(type->bytes, value);
         }
       }
@@ -190,12 +227,27 @@ struct Node {
   std::vector<std::string> to;
 };
 
-void CheckTensors(std::string_view attribute) {
+void CheckAttribute(std::string_view attribute) {
+  std::string_view name;
+  std::optional<std::uint64_t> number;
+  bool hasTensor = false;
   WireReader reader(attribute);
   while (const auto part = reader.Next()) {
-    if (part->id == kTensor || part->id == kTensors) {
-      TensorCheck{part->bytes};
+    if (part->Is(kAttributeName, Type::Bytes)) {
+      name = part->bytes;
+    } else if (part->Is(kInt, Type::Number)) {
+      number = part->number;
+    } else if (part->Is(kTensor, Type::Bytes) || part->Is(kTensors, Type::Bytes)) {
+      const TensorCheck check(part->bytes);
+      // Two would be taken for one with the sizes of both.
+      if (part->id == kTensor && std::exchange(hasTensor, true)) {
+        throw ModelFault("it has two values for \"" + WordsOf(name) + '"');
+      }
     }
+  }
+  // What runs the model divides by it, and takes 32 bits of it.
+  if (name == "group" && number && static_cast<std::uint32_t>(*number) == 0) {
+    throw ModelFault("it has a node of no groups");
   }
 }
 
@@ -203,12 +255,12 @@ Node ReadNode(std::string_view bytes) {
   Node node;
   WireReader reader(bytes);
   while (const auto field = reader.Next()) {
-    if (field->id == kFrom) {
+    if (field->Is(kFrom, Type::Bytes)) {
       node.from.emplace_back(field->bytes);
-    } else if (field->id == kTo) {
+    } else if (field->Is(kTo, Type::Bytes)) {
       node.to.emplace_back(field->bytes);
-    } else if (field->id == kAttribute) {
-      CheckTensors(field->bytes);
+    } else if (field->Is(kAttribute, Type::Bytes)) {
+      CheckAttribute(field->bytes);
     }
   }
   return node;
@@ -240,23 +292,16 @@ Graph ReadGraph(std::string_view bytes) {
   std::set<std::string> weights;
   WireReader reader(bytes);
   while (const auto field = reader.Next()) {
-    switch (field->id) {
-      case kNode:
-        nodes.push_back(ReadNode(field->bytes));
-        break;
-      case kInitializer:
-        weights.insert(TensorCheck(field->bytes).Name());
-        break;
-      case kSparse:
-        throw ModelFault("it has sparse weights");
-      case kInput:
-        inputs.push_back(ReadValue(field->bytes));
-        break;
-      case kOutput:
-        graph.outputs.push_back(ReadValue(field->bytes));
-        break;
-      default:
-        break;
+    if (field->Is(kNode, Type::Bytes)) {
+      nodes.push_back(ReadNode(field->bytes));
+    } else if (field->Is(kInitializer, Type::Bytes)) {
+      weights.insert(TensorCheck(field->bytes).Name());
+    } else if (field->Is(kSparse, Type::Bytes)) {
+      throw ModelFault("it has sparse weights");
+    } else if (field->Is(kInput, Type::Bytes)) {
+      inputs.push_back(ReadValue(field->bytes));
+    } else if (field->Is(kOutput, Type::Bytes)) {
+      graph.outputs.push_back(ReadValue(field->bytes));
     }
   }
   // Old writers list weights among the inputs.
@@ -313,7 +358,11 @@ void TakeWish(std::string_view entry, ModelHead& head) {
   std::string value;
   WireReader reader(entry);
   while (const auto field = reader.Next()) {
-    (field->id == kKey ? key : value) = std::string(field->bytes);
+    if (field->Is(kKey, Type::Bytes)) {
+      key = std::string(field->bytes);
+    } else if (field->Is(kValue, Type::Bytes)) {
+      value = std::string(field->bytes);
+    }
   }
   if (key == "Image.NominalPixelRange") {
     if (value == "NominalRange_0_255") {
@@ -343,10 +392,15 @@ ModelHead ReadModelHead(std::string_view model) {
   bool isModel = false;
   WireReader reader(model);
   while (const auto field = reader.Next()) {
-    isModel = isModel || (field->id == kIrVersion && field->type == WireReader::Type::Number);
-    if (field->id == kGraph) {
+    if (field->Is(kIrVersion, Type::Number)) {
+      isModel = true;
+    } else if (field->Is(kGraph, Type::Bytes)) {
+      // Two would be taken for one with the nodes and inputs of both.
+      if (graph) {
+        throw ModelFault("it has two graphs");
+      }
       graph = ReadGraph(field->bytes);
-    } else if (field->id == kMetadata) {
+    } else if (field->Is(kMetadata, Type::Bytes)) {
       TakeWish(field->bytes, head);
     }
   }

@@ -4,11 +4,11 @@
 #include <chrono>
 #include <condition_variable>
 #include <cstddef>
+#include <exception>
 #include <functional>
 #include <map>
 #include <mutex>
 #include <optional>
-#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -23,7 +23,8 @@ class OrderedWork {
   /// Called in several threads at once; must not throw.
   using Worker = std::function<Result(std::size_t item)>;
 
-  /// 0 threads: one per core, at most 8. Throws `std::system_error` when not one can be had.
+  /// 0 threads: one per core, at most 8. Throws `std::system_error` or `std::bad_alloc` when not one can be
+  /// had.
   OrderedWork(std::size_t items, unsigned threads, std::size_t aheadPerThread, Worker worker)
       : items_(items), worker_(std::move(worker)) {
     constexpr unsigned kMostThreads = 8;
@@ -31,12 +32,13 @@ class OrderedWork {
         threads > 0 ? threads : std::clamp(std::thread::hardware_concurrency(), 1U, kMostThreads);
     const std::size_t count = std::min<std::size_t>(wanted, items);
     ahead_ = count * aheadPerThread;
+    threads_.reserve(count);
     try {
       for (std::size_t i = 0; i < count; ++i) {
         threads_.emplace_back([this] { Work(); });
       }
-    } catch (const std::system_error&) {
-      // The system has no more threads to give; fewer do as well.
+    } catch (const std::exception&) {
+      // The system has no more threads or memory to give; fewer threads do as well, and must be joined.
       if (threads_.empty()) {
         throw;
       }

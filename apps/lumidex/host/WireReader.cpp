@@ -12,17 +12,26 @@ namespace {
 
 }  // namespace
 
+bool WireReader::Field::Is(std::uint64_t wanted, Type as) const {
+  if (id == wanted && type != as) {
+    ThrowDamaged();
+  }
+  return id == wanted;
+}
+
 std::optional<WireReader::Field> WireReader::Next() {
   if (left_.empty()) {
     return std::nullopt;
   }
   constexpr unsigned kTypeBits = 3;
   constexpr std::uint64_t kTypes = 7;
+  // Other readers drop the higher bits of a tag.
+  constexpr std::uint64_t kMostTag = 0xFFFFFFFF;
   const std::uint64_t tag = Number();
   Field field;
   field.id = tag >> kTypeBits;
   field.type = static_cast<Type>(tag & kTypes);
-  if (field.id == 0) {
+  if (field.id == 0 || tag > kMostTag) {
     ThrowDamaged();
   }
   switch (field.type) {

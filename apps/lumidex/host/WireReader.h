@@ -17,6 +17,10 @@ class WireReader {
     Type type = Type::Number;
     std::uint64_t number = 0;  ///< Of `Number`.
     std::string_view bytes;    ///< Of all others.
+
+    /// Whether it is the field `wanted`. Throws `ModelFault` when it is, but of another type: other readers
+    /// pass such a field by, and would see another message.
+    bool Is(std::uint64_t wanted, Type as) const;
   };
 
   /// The bytes must outlive it and all that it returns.

@@ -12,6 +12,8 @@ class WireWriter {
  public:
   WireWriter& Number(std::uint64_t id, std::uint64_t number);
   WireWriter& Bytes(std::uint64_t id, const std::string& bytes);
+  /// Eight bytes without a length.
+  WireWriter& Eight(std::uint64_t id, const std::string& bytes);
   WireWriter& Message(std::uint64_t id, const WireWriter& message) { return Bytes(id, message.bytes_); }
 
   const std::string& Written() const { return bytes_; }
@@ -32,6 +34,7 @@ struct TinyModel {
   int inputs = 1;
   int channels = 3;
   int cell = 4;
+  std::uint64_t groups = 1;
   /// [filter][channel][y][x] of a cell, one behind the other.
   std::vector<float> weights = UsualWeights();
   std::vector<std::string> outputs = {"vector"};
