@@ -1,9 +1,12 @@
 // Descriptors of camera files beside the bare libraries that do the unavoidable part, on the same warm files,
 // one thread.
 
+#include <host/Catalogue.h>
 #include <host/PhotoAnalysis.h>
 #include <host/Sample.h>
 #include <host/Scanner.h>
+#include <host/SimilarPhotos.h>
+#include <host/SimilarUpdate.h>
 
 #include <benchmark/benchmark.h>
 #include <exiv2/exiv2.hpp>
@@ -186,6 +189,143 @@ void DescriptorOfPixels(benchmark::State& state) {
   }
 }
 
+/// As many files as a long journey brings home. Behind their pictures is a hole, to be of a camera's size.
+class Journey {
+ public:
+  static constexpr int kFiles = 10'000;
+  static constexpr std::uintmax_t kSize = 3'000'000;
+
+  Journey() {
+    const fs::path folder(Folder());
+    fs::create_directory(folder);
+    SampleOptions options;
+    options.photos = kDrawn;
+    MakeSample(ioPath(fs::path(folder_.path().toStdString()) / "drawn"), options, {});
+    std::vector<fs::path> drawn;
+    for (const auto& entry : fs::recursive_directory_iterator(folder_.path().toStdString() + "/drawn")) {
+      if (entry.is_regular_file()) {
+        drawn.push_back(entry.path());
+      }
+    }
+    for (int i = 0; i < kFiles; ++i) {
+      const fs::path copy = folder / (std::to_string(i) + ".jpg");
+      if (static_cast<std::size_t>(i) < drawn.size()) {
+        MakeCameraLike(drawn[static_cast<std::size_t>(i)], copy);
+      } else {
+        fs::copy_file(folder / (std::to_string(static_cast<std::size_t>(i) % drawn.size()) + ".jpg"), copy);
+      }
+      files_.emplace_back(copy);
+    }
+    for (const ioPath& file : files_) {
+      fs::resize_file(file.native(), kSize);
+    }
+  }
+
+  const std::vector<ioPath>& Files() const { return files_; }
+  std::string Folder() const { return folder_.path().toStdString() + "/journey"; }
+
+ private:
+  /// Of a megapixel, which is what it takes to be looked at for a thumbnail.
+  static void MakeCameraLike(const fs::path& drawn, const fs::path& file) {
+    const QImage picture(QString::fromStdString(drawn.string()));
+    picture.scaled(QSize(1200, 1200), Qt::KeepAspectRatio, Qt::SmoothTransformation)
+        .save(QString::fromStdString(file.string()), "JPEG", 60);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    picture.scaled(kThumbnail, kThumbnail, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+        .save(&buffer, "JPEG", 85);
+    const auto exif = Exiv2::ImageFactory::open(drawn.string());
+    exif->readMetadata();
+    Exiv2::ExifData data = exif->exifData();
+    Exiv2::ExifThumb(data).setJpegThumbnail(reinterpret_cast<const Exiv2::byte*>(bytes.constData()),
+                                            bytes.size());
+    const auto image = Exiv2::ImageFactory::open(file.string());
+    image->readMetadata();
+    image->setExifData(data);
+    image->writeMetadata();
+  }
+
+  QTemporaryDir folder_;
+  std::vector<ioPath> files_;
+};
+
+const Journey& TheJourney() {
+  static const Journey journey;
+  return journey;
+}
+
+/// Everything up to the descriptors in the catalogue.
+void ScanAndDescribe(const ioPath& catalogueFile, int threads, benchmark::State& state) {
+  namespace Host = Lumidex::Host;
+  Host::Catalogue catalogue(catalogueFile, Host::Catalogue::Mode::ReadWrite);
+  Host::ScanOptions scan;
+  scan.threads = threads;
+  const auto scanned = Host::Scan(catalogue, {ioPath(TheJourney().Folder())}, scan, {});
+  const LayoutAnalyser analyser;
+  Host::SimilarPhotos similar(catalogueFile, Host::NameOf(analyser));
+  Host::AnalysisOptions options;
+  options.threads = threads;
+  const std::vector<PhotoRecord> photos = similar.Pending();
+  std::vector<ioPath> files;
+  for (const PhotoRecord& photo : photos) {
+    files.push_back(photo.path);
+  }
+  std::vector<Host::AnalysedPhoto> batch;
+  std::size_t fromThumbnails = 0;
+  Host::DescribePhotos(files, analyser, options, [&](std::size_t index, PhotoDescription&& found) {
+    fromThumbnails += found.source == PixelSource::Preview ? 1 : 0;
+    Host::AnalysedPhoto photo;
+    photo.id = photos[index].id;
+    photo.stamp = {photos[index].size, photos[index].modifiedNs, false};
+    photo.features.vector = std::move(found.descriptor);
+    photo.features.width = found.size.width();
+    photo.features.height = found.size.height();
+    batch.push_back(std::move(photo));
+    if (batch.size() == 256 || index + 1 == files.size()) {
+      similar.Store(batch);
+      batch.clear();
+    }
+  });
+  if (scanned.added != Journey::kFiles || fromThumbnails != Journey::kFiles) {
+    state.SkipWithError("not every file was added and described from its thumbnail");
+  }
+}
+
+/// The libraries in one thread, ours in `range(0)`.
+void ScanAndDescriptors(benchmark::State& state) {
+  const auto bare = [] {
+    for (const ioPath& file : TheJourney().Files()) {
+      BareMetadataAndThumbnail(file);
+    }
+  };
+  bare();
+  const QTemporaryDir catalogues;
+  int run = 0;
+  const auto perSecond = [](Clock::time_point from, Clock::time_point to) {
+    return Journey::kFiles / std::chrono::duration<double>(to - from).count();
+  };
+  for (auto _ : state) {
+    const auto begin = Clock::now();
+    bare();
+    const auto middle = Clock::now();
+    ScanAndDescribe(ioPath(catalogues.filePath(QString::number(run++)).toStdString()),
+                    static_cast<int>(state.range(0)), state);
+    const auto end = Clock::now();
+    state.SetIterationTime(std::chrono::duration<double>(end - middle).count());
+    state.counters["bare_files/s"] = perSecond(begin, middle);
+    state.counters["our_files/s"] = perSecond(middle, end);
+    state.counters["ours_in_%_of_bare"] = 100 * perSecond(middle, end) / perSecond(begin, middle);
+  }
+}
+
+BENCHMARK(ScanAndDescriptors)
+    ->ArgName("threads")
+    ->Arg(1)
+    ->Arg(2)
+    ->Iterations(2)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(MetadataAndDescriptorFromThumbnails)->Unit(benchmark::kMillisecond);
 BENCHMARK(DescriptorWithoutThumbnails)->Unit(benchmark::kMillisecond);
 BENCHMARK(DescriptorOfPixels)->Unit(benchmark::kMicrosecond);
