@@ -24,7 +24,6 @@ namespace {
 using App::Alert;
 using App::AlertButton;
 using App::AlertButtons;
-using App::AlertLevel;
 using Util::AlertBox;
 using Zenvora::Test::PressWhenShown;
 using Zenvora::Test::ScriptedAlerts;
