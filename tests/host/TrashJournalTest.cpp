@@ -62,6 +62,8 @@ class TrashJournal : public ::testing::Test {
     return {file, state.size, state.modifiedNs};
   }
 
+  static TrashAppendix Appendix(const ioPath& file) { return {Known(file), {}}; }
+
   TrashPhoto Going(const std::string& name, const std::string& kept = "keep.jpg") const {
     return {Known(Photo(name)), Known(Photo(kept)), {}};
   }
@@ -168,7 +170,7 @@ TEST_F(TrashJournal, TakesAlongWhatBelongsToAPhoto) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Known(Make("a.xmp", "settings"))};
+  photo.appendix = {Appendix(Make("a.xmp", "settings"))};
   const TrashResult result = Move({photo});
   EXPECT_EQ(result.photos, 1U);
   EXPECT_EQ(result.files, 2U);
@@ -182,10 +184,26 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoThatStays) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Known(Make("a.xmp", "settings"))};
+  photo.appendix = {Appendix(Make("a.xmp", "settings"))};
   Make("a.jpg", "other content");
   EXPECT_EQ(Move({photo}).files, 0U);
   EXPECT_THAT(Photos(), SizeIs(3));
+}
+
+TEST_F(TrashJournal, LeavesWhatBelongsToSeveralPhotosWhileOneStays) {
+  for (const char* const name : {"keep.jpg", "a.jpg", "a.png"}) {
+    Make(name, name);
+  }
+  const TrashPhoto first = Going("a.jpg");
+  TrashPhoto last = Going("a.png");
+  last.appendix = {{Known(Make("a.xmp", "settings")), {first.photo.path, last.photo.path}}};
+  Make("a.jpg", "edited meanwhile");
+  const TrashResult result = Move({first, last});
+  EXPECT_EQ(result.files, 1U);
+  ASSERT_THAT(result.findings, SizeIs(2));
+  EXPECT_EQ(result.findings[1].cause,
+            Photo("a.xmp").utf8string() + " stays: so does a.jpg, to which it belongs.");
+  EXPECT_EQ(ReadFile(Photo("a.xmp")), "settings");
 }
 
 TEST_F(TrashJournal, HasPhotosForLostWhileTheyAreThere) {
@@ -417,7 +435,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoAndIsNotAsItWas) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Known(Make("a.xmp", "settings")), Known(Make("a.thm", "thumbnail"))};
+  photo.appendix = {Appendix(Make("a.xmp", "settings")), Appendix(Make("a.thm", "thumbnail"))};
   Make("a.xmp", "changed while somebody was asked");
   Photo("a.thm").remove();
   std::filesystem::create_directory(Photo("a.thm").native());

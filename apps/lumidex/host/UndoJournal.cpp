@@ -787,7 +787,7 @@ TrashResult UndoJournal::Impl::MoveToTrash(const QString& name, const std::vecto
       result.findings.push_back({photo.photo.path, fault});
     } else if (MoveOne(photo.photo, photo.kept.path, result)) {
       ++result.photos;
-      for (const KnownFile& file : photo.appendix) {
+      for (const TrashAppendix& file : photo.appendix) {
         const std::string appendixFault = FindTrashFault(file);
         if (!appendixFault.empty()) {
           result.findings.push_back({file.path, appendixFault});
