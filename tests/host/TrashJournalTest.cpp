@@ -501,6 +501,25 @@ TEST_F(TrashJournal, LeavesAPhotoInTheTrashWhoseFolderCannotBeMade) {
   EXPECT_EQ(Undo().files, 1U);
 }
 
+TEST_F(TrashJournal, WaitsForWhatCannotBeLookedAt) {
+  Make("keep.jpg", "K");
+  Make("a.jpg", "A");
+  const TrashResult moved = MoveNames({"a.jpg"});
+  const ioPath place = moved.moved.at(0).to;
+  const ioPath aside = tree_.Path("aside");
+  ASSERT_FALSE(MoveToFreeName(place, aside));
+  // What leads nowhere but to itself fails as a disk does that cannot be read.
+  LUMIDEX_LINK_OR_SKIP(place, place);
+  const UndoResult undone = Undo();
+  EXPECT_TRUE(undone.stands);
+  ASSERT_THAT(undone.findings, SizeIs(1));
+  EXPECT_THAT(undone.findings[0].cause, HasSubstr(", which cannot be looked at: "));
+  place.remove();
+  ASSERT_FALSE(MoveToFreeName(aside, place));
+  EXPECT_EQ(Undo().files, 1U);
+  EXPECT_EQ(ReadFile(Photo("a.jpg")), "A");
+}
+
 TEST_F(TrashJournal, WaitsForAVolumeThatIsAway) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");

@@ -344,6 +344,11 @@ void TrashSteps::TakeBack(TrashedFile& file, bool& isHopeless) const {
       Fail(file.file.path, name + " is in the trash as " + file.place.file.utf8string() +
                                ", which cannot be reached: its volume may be away");
     }
+    if (const FileState state = QueryFile(file.place.file);
+        state.kind == FileState::Kind::Unknown || state.kind == FileState::Kind::Loop) {
+      Fail(file.file.path, name + " may be in the trash as " + file.place.file.utf8string() +
+                               ", which cannot be looked at: " + ErrorText(state.error));
+    }
     isHopeless = true;
     const bool isTaken = QueryFile(file.file.path).kind != FileState::Kind::Missing;
     Fail(file.file.path, name + (isTaken ? " is not in the trash any more; there is something of its old name"
