@@ -520,6 +520,26 @@ TEST_F(TrashJournal, WaitsForWhatCannotBeLookedAt) {
   EXPECT_EQ(ReadFile(Photo("a.jpg")), "A");
 }
 
+TEST_F(TrashJournal, KeepsTheRowOfAMoveThatWasBrokenOffWhileNobodyCanTell) {
+  Make("keep.jpg", "K");
+  Make("a.jpg", "A");
+  const ioPath place = MoveNames({"a.jpg"}).moved.at(0).to;
+  journal_.reset();
+  ASSERT_TRUE(Zenvora::Test::RunSql(
+                  catalogue_, {"UPDATE steps SET state = 1", "UPDATE trashed SET state = 1", "SELECT 1"})
+                  .isValid());
+  const ioPath aside = tree_.Path("aside");
+  ASSERT_FALSE(MoveToFreeName(place, aside));
+  LUMIDEX_LINK_OR_SKIP(place, place);
+  Make("a.jpg", "another");
+  Open();
+  place.remove();
+  Photo("a.jpg").remove();
+  ASSERT_FALSE(MoveToFreeName(aside, place));
+  EXPECT_EQ(Undo().files, 1U);
+  EXPECT_EQ(ReadFile(Photo("a.jpg")), "A");
+}
+
 TEST_F(TrashJournal, WaitsForAVolumeThatIsAway) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
@@ -553,6 +573,24 @@ TEST_F(TrashJournal, DoesNotDoAgainWhatWouldLoseAPhoto) {
   EXPECT_THAT(result.findings[2].cause, HasSubstr("c.jpg stays: the photo that was kept in its stead"));
   EXPECT_EQ(Photos(), (Files{{"keep.jpg", "keep.jpg"}, {"a.jpg", "changed since"}, {"c.jpg", "c.jpg"}}));
   EXPECT_TRUE(journal_->Steps().front().undone);
+}
+
+TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoThatIsNotMovedAgain) {
+  for (const char* const name : {"keep.jpg", "a.jpg", "b.jpg"}) {
+    Make(name, name);
+  }
+  TrashPhoto first = Going("a.jpg");
+  first.appendix = {Appendix(Make("a.xmp", "settings"))};
+  ASSERT_EQ(Move({first, Going("b.jpg")}).files, 3U);
+  ASSERT_EQ(Undo().files, 3U);
+  Make("a.jpg", "edited meanwhile");
+  const UndoResult redone = Redo();
+  EXPECT_EQ(redone.files, 1U);
+  ASSERT_THAT(redone.findings, SizeIs(2));
+  EXPECT_EQ(redone.findings[1].cause, Photo("a.xmp").utf8string() + " stays: so does what it belongs to");
+  EXPECT_EQ(ReadFile(Photo("a.xmp")), "settings");
+  EXPECT_EQ(Undo().files, 1U);
+  EXPECT_THAT(Trash(), IsEmpty());
 }
 
 TEST_F(TrashJournal, LetsEditsBeforeBeTakenBack) {

@@ -55,12 +55,6 @@ std::string Stays(const ioPath& photo, const std::string& why) {
   return photo.utf8string() + " stays: " + why + ".";
 }
 
-/// The key of the shot that a photo is of.
-std::string ShotKey(const ioPath& photo) {
-  const FileName file(photo);
-  return KeyOf(file.Folder(), SplitShotName(file.Name()).base);
-}
-
 class Planner {
  public:
   explicit Planner(const std::vector<SuggestedGroup>& groups) : groups_(groups) {
