@@ -299,9 +299,12 @@ class FreedesktopTrash : public ITrash {
     const auto isThere = [](const ioPath& folder) {
       return QueryFile(folder).kind == FileState::Kind::Folder;
     };
-    // Who empties the trash of the home may take its folders, too.
     const ioPath trash = TrashOf(place);
-    return isThere(place.file.parent_path()) || (IsHomeTrash(trash) && isThere(trash.parent_path()));
+    const ioPath files = place.file.parent_path();
+    // Who empties the trash of the home may take its folders, too. But a link that leads nowhere may lead to
+    // a volume that is away.
+    return isThere(files) || (IsHomeTrash(trash) && isThere(trash.parent_path()) &&
+                              (IsNothing(trash) || (isThere(trash) && IsNothing(files))));
   }
 };
 

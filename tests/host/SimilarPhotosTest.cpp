@@ -161,6 +161,16 @@ TEST_F(SimilarPhotosTest, LeavesLostPhotosOutOfTheGroups) {
   EXPECT_THAT(similar_->Check(), IsEmpty());
 }
 
+TEST_F(SimilarPhotosTest, LeavesPhotosOutOfTheGroupsThatWereNotLookedAtSinceTheyChanged) {
+  AddPhotos({{1, 0}, {1, 0.1F}, {1, 0.2F}});
+  Cluster();
+  PhotoRecord changed = similar_->Groups(1).at(0).members.at(1).photo;
+  changed.size = 7;
+  catalogue_.Store({changed});
+  EXPECT_THAT(Groups(2), ElementsAre(ElementsAre("/p/0", "/p/2")));
+  EXPECT_THAT(Groups(3), IsEmpty());
+}
+
 TEST_F(SimilarPhotosTest, MakesAllClustersAnewWhenAPhotoInOneChanges) {
   AddPhotos(kTwoPairs);
   Cluster();

@@ -62,6 +62,8 @@ class TrashJournal : public ::testing::Test {
     return {file, state.size, state.modifiedNs};
   }
 
+  static TrashAppendix Appendix(const ioPath& file) { return {Known(file), {}}; }
+
   TrashPhoto Going(const std::string& name, const std::string& kept = "keep.jpg") const {
     return {Known(Photo(name)), Known(Photo(kept)), {}};
   }
@@ -168,7 +170,7 @@ TEST_F(TrashJournal, TakesAlongWhatBelongsToAPhoto) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Known(Make("a.xmp", "settings"))};
+  photo.appendix = {Appendix(Make("a.xmp", "settings"))};
   const TrashResult result = Move({photo});
   EXPECT_EQ(result.photos, 1U);
   EXPECT_EQ(result.files, 2U);
@@ -182,10 +184,26 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoThatStays) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Known(Make("a.xmp", "settings"))};
+  photo.appendix = {Appendix(Make("a.xmp", "settings"))};
   Make("a.jpg", "other content");
   EXPECT_EQ(Move({photo}).files, 0U);
   EXPECT_THAT(Photos(), SizeIs(3));
+}
+
+TEST_F(TrashJournal, LeavesWhatBelongsToSeveralPhotosWhileOneStays) {
+  for (const char* const name : {"keep.jpg", "a.jpg", "a.png"}) {
+    Make(name, name);
+  }
+  const TrashPhoto first = Going("a.jpg");
+  TrashPhoto last = Going("a.png");
+  last.appendix = {{Known(Make("a.xmp", "settings")), {first.photo.path, last.photo.path}}};
+  Make("a.jpg", "edited meanwhile");
+  const TrashResult result = Move({first, last});
+  EXPECT_EQ(result.files, 1U);
+  ASSERT_THAT(result.findings, SizeIs(2));
+  EXPECT_EQ(result.findings[1].cause,
+            Photo("a.xmp").utf8string() + " stays: so does a.jpg, to which it belongs.");
+  EXPECT_EQ(ReadFile(Photo("a.xmp")), "settings");
 }
 
 TEST_F(TrashJournal, HasPhotosForLostWhileTheyAreThere) {
@@ -417,7 +435,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoAndIsNotAsItWas) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Known(Make("a.xmp", "settings")), Known(Make("a.thm", "thumbnail"))};
+  photo.appendix = {Appendix(Make("a.xmp", "settings")), Appendix(Make("a.thm", "thumbnail"))};
   Make("a.xmp", "changed while somebody was asked");
   Photo("a.thm").remove();
   std::filesystem::create_directory(Photo("a.thm").native());
@@ -483,6 +501,45 @@ TEST_F(TrashJournal, LeavesAPhotoInTheTrashWhoseFolderCannotBeMade) {
   EXPECT_EQ(Undo().files, 1U);
 }
 
+TEST_F(TrashJournal, WaitsForWhatCannotBeLookedAt) {
+  Make("keep.jpg", "K");
+  Make("a.jpg", "A");
+  const TrashResult moved = MoveNames({"a.jpg"});
+  const ioPath place = moved.moved.at(0).to;
+  const ioPath aside = tree_.Path("aside");
+  ASSERT_FALSE(MoveToFreeName(place, aside));
+  // What leads nowhere but to itself fails as a disk does that cannot be read.
+  LUMIDEX_LINK_OR_SKIP(place, place);
+  const UndoResult undone = Undo();
+  EXPECT_TRUE(undone.stands);
+  ASSERT_THAT(undone.findings, SizeIs(1));
+  EXPECT_THAT(undone.findings[0].cause, HasSubstr(", which cannot be looked at: "));
+  place.remove();
+  ASSERT_FALSE(MoveToFreeName(aside, place));
+  EXPECT_EQ(Undo().files, 1U);
+  EXPECT_EQ(ReadFile(Photo("a.jpg")), "A");
+}
+
+TEST_F(TrashJournal, KeepsTheRowOfAMoveThatWasBrokenOffWhileNobodyCanTell) {
+  Make("keep.jpg", "K");
+  Make("a.jpg", "A");
+  const ioPath place = MoveNames({"a.jpg"}).moved.at(0).to;
+  journal_.reset();
+  ASSERT_TRUE(Zenvora::Test::RunSql(
+                  catalogue_, {"UPDATE steps SET state = 1", "UPDATE trashed SET state = 1", "SELECT 1"})
+                  .isValid());
+  const ioPath aside = tree_.Path("aside");
+  ASSERT_FALSE(MoveToFreeName(place, aside));
+  LUMIDEX_LINK_OR_SKIP(place, place);
+  Make("a.jpg", "another");
+  Open();
+  place.remove();
+  Photo("a.jpg").remove();
+  ASSERT_FALSE(MoveToFreeName(aside, place));
+  EXPECT_EQ(Undo().files, 1U);
+  EXPECT_EQ(ReadFile(Photo("a.jpg")), "A");
+}
+
 TEST_F(TrashJournal, WaitsForAVolumeThatIsAway) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
@@ -516,6 +573,24 @@ TEST_F(TrashJournal, DoesNotDoAgainWhatWouldLoseAPhoto) {
   EXPECT_THAT(result.findings[2].cause, HasSubstr("c.jpg stays: the photo that was kept in its stead"));
   EXPECT_EQ(Photos(), (Files{{"keep.jpg", "keep.jpg"}, {"a.jpg", "changed since"}, {"c.jpg", "c.jpg"}}));
   EXPECT_TRUE(journal_->Steps().front().undone);
+}
+
+TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoThatIsNotMovedAgain) {
+  for (const char* const name : {"keep.jpg", "a.jpg", "b.jpg"}) {
+    Make(name, name);
+  }
+  TrashPhoto first = Going("a.jpg");
+  first.appendix = {Appendix(Make("a.xmp", "settings"))};
+  ASSERT_EQ(Move({first, Going("b.jpg")}).files, 3U);
+  ASSERT_EQ(Undo().files, 3U);
+  Make("a.jpg", "edited meanwhile");
+  const UndoResult redone = Redo();
+  EXPECT_EQ(redone.files, 1U);
+  ASSERT_THAT(redone.findings, SizeIs(2));
+  EXPECT_EQ(redone.findings[1].cause, Photo("a.xmp").utf8string() + " stays: so does what it belongs to");
+  EXPECT_EQ(ReadFile(Photo("a.xmp")), "settings");
+  EXPECT_EQ(Undo().files, 1U);
+  EXPECT_THAT(Trash(), IsEmpty());
 }
 
 TEST_F(TrashJournal, LetsEditsBeforeBeTakenBack) {

@@ -31,6 +31,7 @@ class TrashPlanTest : public ::testing::Test {
     const FileState state = QueryFile(member.photo.path);
     member.photo.size = state.size;
     member.photo.modifiedNs = state.modifiedNs;
+    member.features.vector = {1, 0};
     return member;
   }
 
@@ -112,6 +113,30 @@ TEST_F(TrashPlanTest, LeavesAGroupWhoseKeptPhotoIsNotAsKnown) {
   EXPECT_THAT(plan.stays[0].cause, HasSubstr("the one to keep, "));
 }
 
+TEST_F(TrashPlanTest, LeavesWhatIsOnlyLikeTheMiddleOfItsGroup) {
+  SuggestedGroup group = Group({"keep.jpg", "near.jpg", "far.jpg", "far.nef"});
+  group.group.members[1].features.vector = {0.95F, 0.3F};
+  group.group.members[2].features.vector = {0.8F, 0.6F};
+  group.group.members[3].features.vector = {0.8F, 0.6F};
+  const TrashPlan plan = PlanTrash({group});
+  EXPECT_THAT(Going(plan), ElementsAre("near.jpg"));
+  EXPECT_THAT(Staying(plan), ElementsAre("far.jpg", "far.nef"));
+  EXPECT_THAT(plan.stays[0].cause,
+              HasSubstr("it is like others of its group, but not like the one to keep, "));
+}
+
+TEST_F(TrashPlanTest, LeavesAGroupWhosePhotoToKeepBreaksOff) {
+  const std::string whole = "\xFF\xD8\xFF\xDA" + std::string("\0\2", 2) + "picture\xFF\xD9";
+  tree_.Write("photos/a.jpg", whole.substr(0, whole.size() - 4));
+  tree_.Write("photos/b.jpg", whole);
+  TrashPlan plan = PlanTrash({Group({"a.jpg", "b.jpg"})});
+  EXPECT_THAT(Going(plan), IsEmpty());
+  EXPECT_THAT(Staying(plan), ElementsAre("b.jpg!"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("a.jpg, breaks off before the end of its picture."));
+  // The other way round all is well.
+  EXPECT_THAT(Going(PlanTrash({Group({"b.jpg", "a.jpg"})})), ElementsAre("a.jpg"));
+}
+
 TEST_F(TrashPlanTest, LeavesOtherNamesOfWhatIsKeptInAnyGroup) {
   Make("keep.jpg");
   ASSERT_FALSE(AddName(tree_.Path("photos/keep.jpg"), tree_.Path("photos/twin.jpg")));
@@ -163,9 +188,16 @@ TEST_F(TrashPlanTest, KeepsARawFileOfEachGroupThatHasOne) {
               ElementsAre("IMG_6.JPG", "IMG_6.NEF"));
 }
 
+TEST_F(TrashPlanTest, KeepsARawFileWhereThatOfTheKeptShotIsNoneOfItsOwn) {
+  tree_.Write("photos/IMG_1.NEF", std::string("MM\0*\0\0\1\0", 8));
+  EXPECT_THAT(Going(PlanTrash({Group({"IMG_1.JPG", "IMG_1.NEF", "IMG_2.NEF"})})), IsEmpty());
+  Make("IMG_4.NEF");
+  LUMIDEX_LINK_OR_SKIP(tree_.Path("photos/IMG_4.NEF"), tree_.Path("photos/IMG_3.NEF"));
+  EXPECT_THAT(Going(PlanTrash({Group({"IMG_3.JPG", "IMG_3.NEF", "IMG_4.NEF"})})), IsEmpty());
+}
+
 TEST_F(TrashPlanTest, TakesSettingsAlongThatNobodyElseNeeds) {
-  for (const char* const name :
-       {"a.xmp", "a.jpg.xmp", "a.THM", "a.txt", "a.mov", "a.psd", "a.wav", ".a.xmp"}) {
+  for (const char* const name : {"a.xmp", "a.jpg.xmp", "a.THM", "a.txt", ".a.xmp"}) {
     Make(name);
   }
   const TrashPlan plan = PlanTrash({Group({"keep.jpg", "a.jpg"})});
@@ -180,7 +212,32 @@ TEST_F(TrashPlanTest, LeavesSettingsOfAShotOfWhichAPhotoStays) {
   EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.jpg"})})), ElementsAre("a.jpg +a.jpg.xmp"));
   // With the last photo of the shot all of it goes.
   EXPECT_THAT(Going(PlanTrash({Group({"keep.cr2", "a.jpg", "a.CR2"})})),
-              ElementsAre("a.jpg +a.jpg.xmp +a.xmp", "a.CR2 +a.CR2.xmp +a_01.CR2.xmp"));
+              ElementsAre("a.jpg +a.jpg.xmp", "a.CR2 +a.CR2.xmp +a.xmp +a_01.CR2.xmp"));
+}
+
+TEST_F(TrashPlanTest, LeavesSettingsThatMayBeThoseOfAFilmOrALayeredPicture) {
+  for (const std::string name : {"a.mov", "b.psd", "c.wav"}) {
+    for (const char* const end : {".jpg.xmp", ".xmp", ".THM"}) {
+      Make(name.substr(0, 1) + end);
+    }
+    Make(name);
+  }
+  EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.jpg", "b.jpg", "c.jpg"})})),
+              ElementsAre("a.jpg +a.jpg.xmp", "b.jpg +b.jpg.xmp", "c.jpg +c.jpg.xmp"));
+}
+
+TEST_F(TrashPlanTest, LeavesSettingsOfAPhotoThatDiffersInCaseAlone) {
+  Make("a.jpg");
+  if (QueryFile(tree_.Path("photos/a.JPG")).kind != FileState::Kind::Missing) {
+    GTEST_SKIP() << "names that differ in case alone are one here";
+  }
+  for (const char* const name : {"a.JPG", "a.JPG.xmp", "a.jpg.xmp"}) {
+    Make(name);
+  }
+  EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.jpg"})})), ElementsAre("a.jpg"));
+  EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.JPG"})})), ElementsAre("a.JPG"));
+  EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.JPG", "a.jpg"})})),
+              ElementsAre("a.JPG", "a.jpg +a.JPG.xmp +a.jpg.xmp"));
 }
 
 TEST_F(TrashPlanTest, LeavesSettingsThatAreALink) {

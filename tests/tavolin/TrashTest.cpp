@@ -179,6 +179,19 @@ TEST_F(TrashTest, IsInReachAfterItWasEmptied) {
   EXPECT_FALSE(DesktopTrash().IsInReach(place));
 }
 
+TEST_F(TrashTest, IsOutOfReachWithTheVolumeToWhichALinkOfTheHomeLeads) {
+  const ioPath elsewhere = tree_.MakeFolder("elsewhere/Trash");
+  tree_.MakeFolder("home/data");
+  LUMIDEX_LINK_OR_SKIP(elsewhere, trash_);
+  const TrashPlace place = Put(DesktopTrash(), tree_.Write("photos/a.jpg", "A"));
+  EXPECT_TRUE(DesktopTrash().IsInReach(place));
+  std::filesystem::rename(tree_.Path("elsewhere").native(), tree_.Path("away").native());
+  EXPECT_FALSE(DesktopTrash().IsInReach(place));
+  std::filesystem::rename(tree_.Path("away").native(), tree_.Path("elsewhere").native());
+  std::filesystem::remove_all((elsewhere / "files").native());
+  EXPECT_TRUE(DesktopTrash().IsInReach(place));
+}
+
 TEST_F(TrashTest, SaysWhyTheOneOfTheHomeCannotBeUsed) {
   const ioPath file = tree_.Write("photos/a.jpg", "A");
   tree_.Write("home/data/Trash", "no folder");

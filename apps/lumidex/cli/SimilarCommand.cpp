@@ -42,9 +42,11 @@ is the largest picture; of equally large ones the sharpest, then one with the
 camera's data, then the earliest.
 
 With --trash these stay, too: other formats of the shot that is kept, raw files
-unless a raw file of the group is kept, links, and what was changed since the
-last scan. Settings beside a photo (.xmp) go along with it. "lumidex undo"
-brings all of it back while it is in the trash.
+unless a raw file of the group is kept, links, what was changed since the last
+scan, what is not like the one to keep itself, and whole groups whose photo to
+keep breaks off before the end of its picture. Settings beside a photo (.xmp)
+go along with it. "lumidex undo" brings all of it back while it is in the
+trash.
 
 Examples:
   lumidex similar

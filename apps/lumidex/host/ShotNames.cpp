@@ -115,6 +115,11 @@ std::string VersionOwner(const ShotName& name) {
   return name.base.substr(0, name.base.size() - kVersionLength) + name.suffix.substr(0, second);
 }
 
+std::string ShotKey(const ioPath& file) {
+  const FileName name(file);
+  return KeyOf(name.Folder(), SplitShotName(name.Name()).base);
+}
+
 ShotName SplitVersion(const ShotName& name) {
   const std::size_t at = name.base.size() - kVersionLength;
   return {name.base.substr(0, at), name.base.substr(at) + name.suffix};

@@ -57,6 +57,9 @@ std::string OwnerExtension(std::string_view suffix);
 /// "IMG_1_02.CR2.xmp"); empty when the name does not look so.
 std::string VersionOwner(const ShotName& name);
 
+/// Equal for all files of one shot.
+std::string ShotKey(const ioPath& file);
+
 /// Takes the version's number from the base to the suffix.
 ShotName SplitVersion(const ShotName& name);
 

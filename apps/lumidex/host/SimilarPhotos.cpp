@@ -345,7 +345,7 @@ std::vector<SimilarGroup> SimilarPhotos::Impl::Groups(std::size_t least) const {
       (std::string("SELECT ") + kPhotoColumns + ", " + kFeatureColumns +
        ", c.id, c.centre FROM clusters c JOIN cluster_photos m ON m.cluster = c.id"
        " JOIN photos p ON p.number = m.photo JOIN features f ON f.photo = p.number AND f.analyser = "
-       "c.analyser"
+       "c.analyser AND f.size = p.size AND f.modified_ns = p.modified_ns"
        " WHERE c.analyser = ? AND p.lost = 0 AND (SELECT count(*) FROM cluster_photos n JOIN photos q ON"
        " q.number = n.photo WHERE n.cluster = c.id AND q.lost = 0) >= ?"
        " ORDER BY c.id, p.taken IS NULL, p.taken, p.path")
@@ -364,6 +364,10 @@ std::vector<SimilarGroup> SimilarPhotos::Impl::Groups(std::size_t least) const {
     member.score = Quillet::MatchTemplate(member.features.vector, group.centre);
     group.members.push_back(std::move(member));
   }
+  // Without those that changed and could not be looked at again, or were just now.
+  groups.erase(std::remove_if(groups.begin(), groups.end(),
+                              [least](const SimilarGroup& group) { return group.members.size() < least; }),
+               groups.end());
   std::stable_sort(groups.begin(), groups.end(), [](const SimilarGroup& left, const SimilarGroup& right) {
     return left.members.size() > right.members.size();
   });

@@ -1,4 +1,5 @@
 #include "FolderEntries.h"
+#include "PictureEnd.h"
 #include "RenameNames.h"
 #include "ShotNames.h"
 
@@ -8,6 +9,7 @@
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/quillet/MatchTemplate.h>
 #include <zenvora/tavolin/Trash.h>
 
 #include <algorithm>
@@ -53,12 +55,6 @@ std::string Stays(const ioPath& photo, const std::string& why) {
   return photo.utf8string() + " stays: " + why + ".";
 }
 
-/// The key of the shot that a photo is of.
-std::string ShotKey(const ioPath& photo) {
-  const FileName file(photo);
-  return KeyOf(file.Folder(), SplitShotName(file.Name()).base);
-}
-
 class Planner {
  public:
   explicit Planner(const std::vector<SuggestedGroup>& groups) : groups_(groups) {
@@ -83,6 +79,11 @@ class Planner {
     return group.group.members[group.keeper.index];
   }
 
+  /// The middle of a group wanders with each photo that comes, and those at its two ends can differ widely.
+  static bool IsLike(const SimilarMember& photo, const SimilarMember& kept) {
+    return Quillet::MatchTemplate(photo.features.vector, kept.features.vector) > kSameGroupScore;
+  }
+
   void AddGroup(const SuggestedGroup& group) {
     const ioPath& kept = KeptOf(group).photo.path;
     const FileState state = QueryFile(kept);
@@ -91,6 +92,9 @@ class Planner {
       fault = "the one to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
     } else if (Tavolin::LiesInTrash(kept)) {
       fault = "the one to keep, " + kept.utf8string() + ", is in a trash itself";
+    } else if (group.group.members.size() > 1 && EndsTooSoon(kept)) {
+      // As large as it was, and hardly less sharp: nothing else tells it from the whole one.
+      fault = "the one to keep, " + kept.utf8string() + ", breaks off before the end of its picture";
     }
     std::set<std::size_t> raws;
     for (std::size_t i = 0; i < group.group.members.size(); ++i) {
@@ -118,6 +122,9 @@ class Planner {
       Stay(photo.path, "it is another name of a file that is kept", true);
     } else if (ShotKey(photo.path) == ShotKey(kept)) {
       Stay(photo.path, "it is of the same shot as " + kept.filename().utf8string() + ", which is kept", true);
+    } else if (!IsLike(group.group.members[index], KeptOf(group))) {
+      Stay(photo.path, "it is like others of its group, but not like the one to keep, " + kept.utf8string(),
+           true);
     } else if (IsRawName(photo.path.filename().utf8string())) {
       raws.insert(index);
     } else {
@@ -127,12 +134,9 @@ class Planner {
 
   /// A raw file is what all other formats are made from: one of the group always stays.
   void SettleRaws(const SuggestedGroup& group, const std::set<std::size_t>& raws) {
-    const std::string shot = ShotKey(KeptOf(group).photo.path);
     const bool keepsRaw =
-        std::any_of(group.group.members.begin(), group.group.members.end(), [&](const SimilarMember& member) {
-          return IsRawName(member.photo.path.filename().utf8string()) && ShotKey(member.photo.path) == shot &&
-                 QueryFile(member.photo.path).kind == FileState::Kind::File;
-        });
+        !raws.empty() && std::any_of(group.group.members.begin(), group.group.members.end(),
+                                     [&](const SimilarMember& member) { return IsRawOfKept(group, member); });
     for (const std::size_t index : raws) {
       if (keepsRaw) {
         Go(group, index);
@@ -141,6 +145,14 @@ class Planner {
              true);
       }
     }
+  }
+
+  /// A link could lead to one that goes.
+  static bool IsRawOfKept(const SuggestedGroup& group, const SimilarMember& member) {
+    const ioPath& path = member.photo.path;
+    return IsRawName(path.filename().utf8string()) && ShotKey(path) == ShotKey(KeptOf(group).photo.path) &&
+           IsAsKnown(QueryFile(path), KnownAs(member.photo)) &&
+           (!IsLink(path) || path == KeptOf(group).photo.path) && !EndsTooSoon(path);
   }
 
   void Go(const SuggestedGroup& group, std::size_t index) {
@@ -174,37 +186,52 @@ class Planner {
   }
 
   void AddAppendices(const ShotSet& set) {
-    // The last of them, so that it goes when all have gone.
-    TrashPhoto* last = nullptr;
-    bool anyStays = false;
-    std::unordered_map<std::string, const ioPath*> owners;
+    Owners all;
+    // By their extensions. Where case counts, two photos can differ in nothing else.
+    std::unordered_map<std::string, Owners> byExtension;
     for (const ShotFile& file : set.files) {
       if (IsPhotoName(file.path)) {
-        const auto going = going_.find(file.path);
-        anyStays = anyStays || going == going_.end();
-        last = going == going_.end() ? last : &plan_.photos[going->second];
-        owners[NameKey(file.suffix)] = &file.path;
+        Take(file.path, all);
+        Take(file.path, byExtension[NameKey(file.suffix)]);
+      } else if (!IsAppendixName(file.path.filename().utf8string())) {
+        // A film's thumbnail, or the settings of a layered picture.
+        all.anyStays = true;
       }
     }
     for (const ShotFile& file : set.files) {
-      if (IsPhotoName(file.path) || !IsAppendixName(file.path.filename().utf8string()) || IsLink(file.path)) {
-        continue;
-      }
-      const auto owner = owners.find(NameKey(OwnerExtension(file.suffix)));
-      if (owner != owners.end()) {
-        const auto going = going_.find(*owner->second);
-        AddAppendix(going == going_.end() ? nullptr : &plan_.photos[going->second], file.path);
-      } else {
-        AddAppendix(anyStays ? nullptr : last, file.path);
+      if (!IsPhotoName(file.path) && IsAppendixName(file.path.filename().utf8string()) &&
+          !IsLink(file.path)) {
+        const auto owners = byExtension.find(NameKey(OwnerExtension(file.suffix)));
+        AddAppendix(file.path, owners != byExtension.end() ? owners->second : all);
       }
     }
   }
 
-  static void AddAppendix(TrashPhoto* photo, const ioPath& file) {
-    const FileState state = QueryFile(file);
-    if (photo != nullptr && state.kind == FileState::Kind::File) {
-      photo->appendix.push_back({file, state.size, state.modifiedNs});
+  /// Photos to which what lies beside them belongs.
+  struct Owners {
+    std::vector<ioPath> going;
+    bool anyStays = false;
+  };
+
+  void Take(const ioPath& photo, Owners& owners) const {
+    if (going_.count(photo) > 0) {
+      owners.going.push_back(photo);
+    } else {
+      owners.anyStays = true;
     }
+  }
+
+  void AddAppendix(const ioPath& file, const Owners& owners) {
+    const FileState state = QueryFile(file);
+    if (owners.anyStays || owners.going.empty() || state.kind != FileState::Kind::File) {
+      return;
+    }
+    // With the last of them.
+    std::size_t last = 0;
+    for (const ioPath& photo : owners.going) {
+      last = std::max(last, going_.at(photo));
+    }
+    plan_.photos[last].appendix.push_back({{file, state.size, state.modifiedNs}, owners.going});
   }
 
   const std::vector<SuggestedGroup>& groups_;
@@ -253,7 +280,12 @@ std::string FindTrashFault(const KnownFile& photo, const KnownFile& kept) {
   return {};
 }
 
-std::string FindTrashFault(const KnownFile& appendix) {
+std::string FindTrashFault(const TrashAppendix& appendix) {
+  for (const ioPath& photo : appendix.photos) {
+    if (QueryFile(photo).kind != FileState::Kind::Missing) {
+      return Stays(appendix.path, "so does " + photo.filename().utf8string() + ", to which it belongs");
+    }
+  }
   const FileState state = QueryFile(appendix.path);
   if (!IsAsKnown(state, appendix)) {
     return Stays(appendix.path, "it " + WhatIsWrong(state));

@@ -49,6 +49,11 @@ void SyncNames(const TrashedFile& file) {
   SyncFolderOf(file.file.path);
 }
 
+/// What is there may be the file.
+bool CannotTell(const FileState& state) {
+  return state.kind == FileState::Kind::Unknown || state.kind == FileState::Kind::Loop;
+}
+
 void TakeIdentity(TrashedFile& file, const FileState& state) {
   file.file.size = state.size;
   file.file.modifiedNs = state.modifiedNs;
@@ -308,7 +313,8 @@ void TrashSteps::MoveAgain(TrashedFile& file) const {
 }
 
 bool TrashSteps::Settle(TrashedFile& file) const {
-  const bool isHome = !IsInTrash(file) && QueryFile(file.file.path).kind != FileState::Kind::Missing;
+  const bool isHome = !IsInTrash(file) && !CannotTell(QueryFile(file.place.file)) &&
+                      QueryFile(file.file.path).kind != FileState::Kind::Missing;
   if (isHome || IsStillHome(file)) {
     Drop(file);
     return false;
@@ -343,6 +349,10 @@ void TrashSteps::TakeBack(TrashedFile& file, bool& isHopeless) const {
     if (!trash_.IsInReach(file.place)) {
       Fail(file.file.path, name + " is in the trash as " + file.place.file.utf8string() +
                                ", which cannot be reached: its volume may be away");
+    }
+    if (const FileState state = QueryFile(file.place.file); CannotTell(state)) {
+      Fail(file.file.path, name + " may be in the trash as " + file.place.file.utf8string() +
+                               ", which cannot be looked at: " + ErrorText(state.error));
     }
     isHopeless = true;
     const bool isTaken = QueryFile(file.file.path).kind != FileState::Kind::Missing;

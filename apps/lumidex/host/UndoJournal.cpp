@@ -4,6 +4,7 @@
 #include "FileMoves.h"
 #include "KeptFiles.h"
 #include "ProcessLock.h"
+#include "ShotNames.h"
 #include "StepState.h"
 #include "TrashSteps.h"
 
@@ -77,6 +78,14 @@ State StateOfTrash(const std::vector<TrashedFile>& files, State goal, bool anyHo
   }
   // What is gone for good must not keep older steps from being taken back.
   return anyHope ? State::Done : State::GivenUp;
+}
+
+/// Settings whose photo was to go with them and stays.
+bool BelongsToWhatStays(const ioPath& file, const std::vector<UndoFinding>& findings) {
+  return IsAppendixName(file.filename().utf8string()) &&
+         std::any_of(findings.begin(), findings.end(), [shot = ShotKey(file)](const UndoFinding& finding) {
+           return ShotKey(finding.file) == shot;
+         });
 }
 
 const char* const kLockName = "lock";
@@ -787,7 +796,7 @@ TrashResult UndoJournal::Impl::MoveToTrash(const QString& name, const std::vecto
       result.findings.push_back({photo.photo.path, fault});
     } else if (MoveOne(photo.photo, photo.kept.path, result)) {
       ++result.photos;
-      for (const KnownFile& file : photo.appendix) {
+      for (const TrashAppendix& file : photo.appendix) {
         const std::string appendixFault = FindTrashFault(file);
         if (!appendixFault.empty()) {
           result.findings.push_back({file.path, appendixFault});
@@ -840,6 +849,12 @@ UndoResult UndoJournal::Impl::ReverseTrash(StepRow& step, bool redo, const std::
         result.cancelled = true;
         anyHope = true;
         break;
+      }
+      if (redo && file.state == State::Undone && BelongsToWhatStays(file.file.path, result.findings)) {
+        result.findings.push_back(
+            {file.file.path, file.file.path.utf8string() + " stays: so does what it belongs to"});
+        anyHope = true;
+        continue;
       }
       bool isHopeless = false;
       try {

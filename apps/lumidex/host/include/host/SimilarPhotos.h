@@ -51,7 +51,7 @@ struct SimilarMember {
 struct SimilarGroup {
   std::int64_t cluster = 0;
   std::vector<float> centre;
-  /// By date taken, then path. None is lost.
+  /// By date taken, then path. None is lost, or has changed since it was analysed.
   std::vector<SimilarMember> members;
 };
 

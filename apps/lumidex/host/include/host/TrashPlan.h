@@ -19,11 +19,16 @@ struct KnownFile {
   std::int64_t modifiedNs = 0;
 };
 
+/// What lies beside photos and says nothing without them.
+struct TrashAppendix : KnownFile {
+  std::vector<ioPath> photos;  ///< It stays while one of them is there.
+};
+
 /// A photo that is to go to the trash.
 struct TrashPhoto {
   KnownFile photo;
-  KnownFile kept;                   ///< The one that is kept in its stead.
-  std::vector<KnownFile> appendix;  ///< What lies beside it and says nothing without it; goes after it.
+  KnownFile kept;                       ///< The one that is kept in its stead.
+  std::vector<TrashAppendix> appendix;  ///< Goes after it.
 };
 
 /// A photo besides the one to keep that stays.
@@ -48,15 +53,18 @@ struct TrashPlan {
 /// - raw files, unless a raw file of the group stays;
 /// - what lies in a trash, and all of a group whose kept photo does;
 /// - what is not on the disk as the catalogue knows it, and all of a group whose kept photo is not: then
-///   nobody knows whether they still show the same.
-/// Settings and thumbnails beside a photo go along with it when they are that file's alone, or when no other
-/// photo of the shot stays. Changes nothing; blocks on the disk. docs/decisions/trash.md has the reasons.
+///   nobody knows whether they still show the same;
+/// - all of a group whose kept photo breaks off before the end of its picture;
+/// - what is like the middle of its group, but not like the kept photo itself.
+/// Settings and thumbnails beside a photo go along with it when they are that file's alone, or when nothing
+/// else of the shot stays that could need them. Changes nothing; blocks on the disk. docs/decisions/trash.md
+/// has the reasons.
 TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups);
 
 /// Why the photo must not go now, in an English sentence; empty: it may. To be asked right before it goes.
 /// Blocks on the disk.
 std::string FindTrashFault(const KnownFile& photo, const KnownFile& kept);
 /// The same for what goes along with a photo.
-std::string FindTrashFault(const KnownFile& appendix);
+std::string FindTrashFault(const TrashAppendix& appendix);
 
 }  // namespace Zenvora::Lumidex::Host
