@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -46,6 +48,19 @@ struct Cluster {
   int count;
 };
 
+/// The mean goes on running.
+void Join(Cluster& cluster, const Template& photo) {
+  const auto before = static_cast<float>(cluster.count);
+  const auto after = static_cast<float>(++cluster.count);
+  for (std::size_t i = 0; i < kSize; ++i) {
+    const float sum = cluster.centre[i] * before;
+    cluster.centre[i] = sum + photo[i];
+  }
+  for (float& value : cluster.centre) {
+    value /= after;
+  }
+}
+
 /// The clusters and their index.
 class Library {
  public:
@@ -60,16 +75,7 @@ class Library {
       index_.Append(clusters_.back()->centre);
       return found;
     }
-    Cluster& cluster = *clusters_[*found];
-    const auto before = static_cast<float>(cluster.count);
-    const auto after = static_cast<float>(++cluster.count);
-    for (std::size_t i = 0; i < kSize; ++i) {
-      const float sum = cluster.centre[i] * before;
-      cluster.centre[i] = sum + photo[i];
-    }
-    for (float& value : cluster.centre) {
-      value /= after;
-    }
+    Join(*clusters_[*found], photo);
     index_.Updated(*found);
     return found;
   }
@@ -212,6 +218,69 @@ BENCHMARK(SimilarPlainScanOfSome)
     ->Iterations(1)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
+
+/// All photos by the index and by the scan of all centres: every answer and every bit of every centre must be
+/// the same. Takes half an hour, so it is there only where LUMIDEX_BENCH_LONG is set.
+void SimilarIndexBesideWholePlainScan(benchmark::State& state) {
+  for (auto _ : state) {
+    FeatureVectors source(1);
+    Library library;
+    std::vector<std::unique_ptr<Cluster>> scanned;
+    double indexTime = 0;
+    double scanTime = 0;
+    double differing = 0;
+    for (std::int64_t done = 0; done < state.range(0); done += kBatch) {
+      const auto photos = source.Next(kBatch);
+      std::vector<std::optional<std::size_t>> answers;
+      answers.reserve(photos.size());
+      const double begin = Seconds();
+      std::vector<const Template*> coming;
+      coming.reserve(photos.size());
+      for (const Template& photo : photos) {
+        coming.push_back(&photo);
+      }
+      {
+        const auto announced = library.Index().Expect(std::move(coming));
+        for (const Template& photo : photos) {
+          answers.push_back(library.Add(photo));
+        }
+      }
+      const double middle = Seconds();
+      for (std::size_t i = 0; i < photos.size(); ++i) {
+        const auto found = Quillet::FindFirstByScan(scanned, photos[i], kThreshold, CentreOf);
+        differing += found == answers[i] ? 0 : 1;
+        if (found) {
+          Join(*scanned[*found], photos[i]);
+        } else {
+          scanned.push_back(std::make_unique<Cluster>(Cluster{photos[i], 1}));
+        }
+      }
+      indexTime += middle - begin;
+      scanTime += Seconds() - middle;
+    }
+    double differingCentres = 0;
+    for (std::size_t i = 0; i < scanned.size(); ++i) {
+      const Cluster& cluster = *library.Clusters()[i];
+      differingCentres +=
+          cluster.count == scanned[i]->count &&
+                  std::memcmp(cluster.centre.data(), scanned[i]->centre.data(), kSize * sizeof(float)) == 0
+              ? 0
+              : 1;
+    }
+    state.SetIterationTime(indexTime);
+    state.counters["scan_s"] = scanTime;
+    state.counters["differing"] = differing;
+    state.counters["differing_centres"] = differingCentres;
+    state.counters["clusters"] = static_cast<double>(scanned.size());
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+[[maybe_unused]] const auto* const kWholePlainScan =
+    std::getenv("LUMIDEX_BENCH_LONG") == nullptr
+        ? nullptr
+        : benchmark::RegisterBenchmark("SimilarIndexBesideWholePlainScan", SimilarIndexBesideWholePlainScan)
+              -> Arg(100'000) -> Iterations(1) -> UseManualTime() -> Unit(benchmark::kMillisecond);
 
 Template UnitOf(const Template& vector) {
   double squares = 0;
