@@ -117,6 +117,30 @@ TEST_F(Devices, OnUsbWithoutASocketStay) {
   EXPECT_FALSE(IsRemovable(Line("8:17")));
 }
 
+TEST_F(Devices, FixedToAHubGoWithTheHub) {
+  // Enclosures and docks hold a hub to which their disk is soldered.
+  const std::string hub = "pci0/usb1/1-1";
+  const std::string disk = hub + "/1-1.2";
+  SetBus("pci0", "pci");
+  SetBus("pci0/usb1", "usb");
+  SetAttribute("pci0/usb1", "removable", "unknown");
+  SetBus(hub, "usb");
+  SetBus(disk, "usb");
+  SetBus(disk + "/1-1.2:1.0", "usb");
+  SetAttribute(disk, "removable", "fixed");
+  AddDevice(disk + "/1-1.2:1.0/host2/block/sdb", "8:16", "0");
+  for (const char* socket : {"removable", "unknown"}) {
+    SetAttribute(hub, "removable", socket);
+    EXPECT_TRUE(IsRemovable(Line("8:16"))) << socket;
+  }
+  SetAttribute(hub, "removable", "fixed");
+  EXPECT_FALSE(IsRemovable(Line("8:16")));
+  AddNote("8:16", "E:ID_BUS=usb\n");
+  EXPECT_FALSE(IsRemovable(Line("8:16"))) << "the sockets tell more than the bus";
+  SetAttribute("pci0", "removable", "removable");
+  EXPECT_TRUE(IsRemovable(Line("8:16"))) << "the whole controller is outside";
+}
+
 TEST_F(Devices, OnSocketsOutsideOfTheComputerGo) {
   SetBus("pci0/0000:05:00.0", "pci");
   SetAttribute("pci0/0000:05:00.0", "removable", "removable");
@@ -188,6 +212,14 @@ TEST_F(Devices, AreFoundByNameWhereTheMountHasNumbersOfItsOwn) {
   EXPECT_FALSE(IsRemovable(Line("0:45", "btrfs", "/dev/sdz1")));
   EXPECT_FALSE(IsRemovable(Line("0:45", "btrfs", "sdb1")));
   EXPECT_FALSE(IsRemovable(Line("0:45", "btrfs", "/dev/")));
+}
+
+TEST_F(Devices, AreFoundByNamesWithSeparators) {
+  // Names hold no separators in the kernel's tree.
+  AddDevice("pci0/x/block/drives!d0", "104:0", "1");
+  EXPECT_TRUE(IsRemovable(Line("104:0")));
+  EXPECT_TRUE(IsRemovable(Line("0:45", "btrfs", "/dev/drives/d0")));
+  EXPECT_FALSE(IsRemovable(Line("0:45", "btrfs", "/dev/drives/d1")));
 }
 
 TEST_F(Devices, FollowWhatTheirOwnerSays) {
