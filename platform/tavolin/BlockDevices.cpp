@@ -149,6 +149,20 @@ bool IsShownDevice(const Mount& mount, const std::string& folder) {
   return IsOneOf(std::string_view(inside).substr(0, inside.find_first_of(":/")), kSchemes);
 }
 
+/// The folder without links, or the nearest one above that exists.
+ioPath ExistingFolder(const ioPath& folder) {
+  std::error_code error;
+  ioPath at = folder.empty() ? ioPath("/") : folder.absolute();
+  for (;;) {
+    ioPath found = at.canonical(error);
+    const ioPath parent = at.parent_path();
+    if (!error || parent == at) {
+      return error ? ioPath("/") : found;
+    }
+    at = parent;
+  }
+}
+
 }  // namespace
 
 ioPath BlockDevices::FolderOf(const Mount& mount) const {
@@ -211,6 +225,20 @@ bool BlockDevices::IsRemovableDisk(const ioPath& disk) const {
   }
   const Verdict place = ByPlace(disk, sysRoot_);
   return place == Verdict::Removable || (place == Verdict::Unknown && note.pluggable);
+}
+
+std::vector<ioPath> RemovableFolders(const std::vector<ioPath>& folders, const std::vector<Mount>& mounts,
+                                     BlockDevices& devices) {
+  const Mount* const system = FindMount(mounts, "/");
+  std::vector<ioPath> removable;
+  for (const ioPath& folder : folders) {
+    const std::string place = ExistingFolder(folder).utf8string();
+    const Mount* const mount = FindMount(mounts, place);
+    if (mount != nullptr && devices.IsRemovable(*mount, place, system)) {
+      removable.push_back(folder);
+    }
+  }
+  return removable;
 }
 
 }  // namespace Zenvora::Tavolin

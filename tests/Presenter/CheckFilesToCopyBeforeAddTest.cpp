@@ -109,6 +109,7 @@ TEST_F(CopyBeforeAdd, AddsNothingAfterCancel) {
 
 TEST_F(CopyBeforeAdd, AddsNothingWithoutAnAnswer) {
   AnswerWithNoButton();
+  Choose({});
   EXPECT_TRUE(CheckFilesToCopyBeforeAddDialog({Make("stick/1.jpg"), Make("a/1.jpg")}).isEmpty());
 }
 

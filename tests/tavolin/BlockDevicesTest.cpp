@@ -276,6 +276,35 @@ TEST_F(Devices, ShownByDesktopsGoByTheirScheme) {
   EXPECT_FALSE(IsRemovable(Line("0:43", "fuse.kio-fuse", "kio-fuse"), "/mnt/x/smb/server"));
 }
 
+TEST_F(Devices, AreThoseOfTheRealFolders) {
+  AddUsbDisk("removable");
+  const ioPath stick = tree_.MakeFolder("stick");
+  const ioPath pictures = tree_.MakeFolder("stick/DCIM");
+  tree_.MakeFolder("home");
+  ASSERT_TRUE(Zenvora::Test::MakeLink(pictures, tree_.Path("home/photos")));
+  ASSERT_TRUE(Zenvora::Test::MakeLink(tree_.Path("home"), tree_.Path("stick/home")));
+  std::error_code error;
+  const auto mounts = ReadMounts("1 0 8:1 / / rw - ext4 /dev/sda1 rw\n2 1 8:17 / " +
+                                 stick.canonical(error).utf8string() + " rw - vfat /dev/sdb1 rw\n");
+  BlockDevices devices(tree_.Path("sys"), tree_.Path("udev"));
+  const std::vector<ioPath> removable = {stick,
+                                         pictures / "",
+                                         tree_.Path("stick/new/deep"),
+                                         tree_.Path("home/photos"),
+                                         tree_.Path("home/photos/new/"),
+                                         tree_.Path("home/../stick")};
+  const std::vector<ioPath> fixed = {tree_.Path("home"),
+                                     tree_.Path("stick/home"),
+                                     tree_.Path("stick/home/new"),
+                                     tree_.Path("stick2"),
+                                     ioPath("/"),
+                                     ioPath()};
+  std::vector<ioPath> all = fixed;
+  all.insert(all.begin() + 2, removable.begin(), removable.end());
+  EXPECT_EQ(RemovableFolders(all, mounts, devices), removable);
+  EXPECT_TRUE(RemovableFolders(all, {}, devices).empty());
+}
+
 TEST_F(Devices, RememberTheAnswerForARound) {
   AddUsbDisk("removable");
   BlockDevices devices(tree_.Path("sys"), tree_.Path("udev"));
