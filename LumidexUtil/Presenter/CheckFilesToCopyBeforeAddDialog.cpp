@@ -87,11 +87,17 @@ QString ChooseFolder() {
   return folder;
 }
 
+/// A link that leads nowhere has the name as well: a copy would be written to wherever it leads.
+bool IsTaken(const QString& path) {
+  const QFileInfo info(path);
+  return info.exists() || info.isSymLink();
+}
+
 void AddCopies(const QList<QString>& files, const QString& folder, Plan& plan) {
   const QString target = folder + QDir::separator();
   // A folder that cannot be made is told by whoever copies.
   QDir().mkpath(target);
-  CopyTargets targets(target, [](const QString& path) { return QFileInfo::exists(path); });
+  CopyTargets targets(target, IsTaken);
   for (const QString& file : files) {
     plan.append(targets.Plan(file));
   }

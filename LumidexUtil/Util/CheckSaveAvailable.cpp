@@ -57,15 +57,16 @@ Verdict CheckDiskSpace(const std::vector<DataModel>& items) {
   return Passed();
 }
 
-std::set<QString> FoldersOf(const std::vector<DataModel>& items) {
-  std::set<QString> folders;
+/// In the order of their texts; several folders may share one when their names are no text.
+std::set<std::pair<QString, ioPath>> FoldersOf(const std::vector<DataModel>& items) {
+  std::set<std::pair<QString, ioPath>> folders;
   ioPath last;
   bool first = true;
   for (const DataModel& item : items) {
     ioPath folder = item.GetPath().parent_path();
     // Items mostly come folder by folder.
     if (first || folder.native().native() != last.native().native()) {
-      folders.insert(Text(folder));
+      folders.emplace(Text(folder), folder);
       last = std::move(folder);
       first = false;
     }
@@ -74,9 +75,9 @@ std::set<QString> FoldersOf(const std::vector<DataModel>& items) {
 }
 
 Verdict CheckFolders(const std::vector<DataModel>& items) {
-  for (const QString& folder : FoldersOf(items)) {
-    if (!CanCreateFileIn(folder)) {
-      return Failed(CheckSaveAvailableMode::FolderPermission, TEXT_NO_FOLDER, folder);
+  for (const auto& [text, folder] : FoldersOf(items)) {
+    if (!CanCreateFileAt(folder)) {
+      return Failed(CheckSaveAvailableMode::FolderPermission, TEXT_NO_FOLDER, text);
     }
   }
   return Passed();

@@ -21,7 +21,11 @@ std::shared_ptr<App::IDiskSpace> DiskSpace() {
 }  // namespace
 
 bool CanCreateFileIn(const QString& folder) {
-  return FolderAccess()->CanCreateFileIn(ioPath(folder));
+  return CanCreateFileAt(ioPath(folder));
+}
+
+bool CanCreateFileAt(const ioPath& folder) {
+  return FolderAccess()->CanCreateFileIn(folder);
 }
 
 bool CanReadFileIn(const QString& folder) {

@@ -100,15 +100,25 @@ bool IsSolderedIn(const ioPath& disk, const ioPath& card) {
   return ReadWord(card / "type") == "MMC" && ((disk / boot).exists() || (disk.parent_path() / boot).exists());
 }
 
-/// What holds the disk, from near to far: the first that knows tells.
+/// Neither an interface, which is a part of a device, nor the computer's own end of the bus.
+bool IsInUsbSocket(const ioPath& device) {
+  const std::string name = device.filename().utf8string();
+  return name.find(':') == std::string::npos && name.rfind("usb", 0) != 0;
+}
+
+/// What holds the disk, from near to far. Fixed to its hub it may still go with that one; so all sockets up
+/// to the computer count.
 Verdict ByPlace(const ioPath& disk, const ioPath& sysRoot) {
   static constexpr std::array<std::string_view, 3> kPluggable = {"firewire", "memstick", "pcmcia"};
+  Verdict verdict = Verdict::Unknown;
   for (ioPath at = disk.parent_path(); at != sysRoot && at != at.parent_path(); at = at.parent_path()) {
     const std::string bus = Resolved(at / "subsystem").filename().utf8string();
     const std::string removable = ReadWord(at / "removable");
-    // An interface of a device, whose own folder is the next one.
-    if (bus == "usb" && at.filename().utf8string().find(':') == std::string::npos) {
-      return removable == "fixed" ? Verdict::Fixed : Verdict::Removable;
+    if (bus == "usb" && IsInUsbSocket(at)) {
+      if (removable != "fixed") {
+        return Verdict::Removable;
+      }
+      verdict = Verdict::Fixed;
     }
     if (bus == "mmc") {
       return IsSolderedIn(disk, at) ? Verdict::Fixed : Verdict::Removable;
@@ -118,7 +128,7 @@ Verdict ByPlace(const ioPath& disk, const ioPath& sysRoot) {
       return Verdict::Removable;
     }
   }
-  return Verdict::Unknown;
+  return verdict;
 }
 
 /// Cameras and phones, as file systems in user space show them.
@@ -139,6 +149,20 @@ bool IsShownDevice(const Mount& mount, const std::string& folder) {
   return IsOneOf(std::string_view(inside).substr(0, inside.find_first_of(":/")), kSchemes);
 }
 
+/// The folder without links, or the nearest one above that exists.
+ioPath ExistingFolder(const ioPath& folder) {
+  std::error_code error;
+  ioPath at = folder.empty() ? ioPath("/") : folder.absolute();
+  for (;;) {
+    ioPath found = at.canonical(error);
+    const ioPath parent = at.parent_path();
+    if (!error || parent == at) {
+      return error ? ioPath("/") : found;
+    }
+    at = parent;
+  }
+}
+
 }  // namespace
 
 ioPath BlockDevices::FolderOf(const Mount& mount) const {
@@ -151,6 +175,8 @@ ioPath BlockDevices::FolderOf(const Mount& mount) const {
     return {};
   }
   std::string name = mount.source.substr(5);
+  // As the kernel does with names in its tree.
+  std::replace(name.begin(), name.end(), '/', '!');
   const ioPath device = Resolved(ioPath(mount.source));
   if (!(sysRoot_ / "class" / "block" / ioPath(name)).exists() && !device.empty()) {
     name = device.filename().utf8string();
@@ -199,6 +225,20 @@ bool BlockDevices::IsRemovableDisk(const ioPath& disk) const {
   }
   const Verdict place = ByPlace(disk, sysRoot_);
   return place == Verdict::Removable || (place == Verdict::Unknown && note.pluggable);
+}
+
+std::vector<ioPath> RemovableFolders(const std::vector<ioPath>& folders, const std::vector<Mount>& mounts,
+                                     BlockDevices& devices) {
+  const Mount* const system = FindMount(mounts, "/");
+  std::vector<ioPath> removable;
+  for (const ioPath& folder : folders) {
+    const std::string place = ExistingFolder(folder).utf8string();
+    const Mount* const mount = FindMount(mounts, place);
+    if (mount != nullptr && devices.IsRemovable(*mount, place, system)) {
+      removable.push_back(folder);
+    }
+  }
+  return removable;
 }
 
 }  // namespace Zenvora::Tavolin

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace Zenvora::Tavolin {
 
@@ -29,5 +30,10 @@ class BlockDevices {
   ioPath udevData_;
   std::map<ioPath, bool> known_;
 };
+
+/// Those of the folders that lie on such a mount, in their order and spelling. Links are followed; of a
+/// folder that does not exist the nearest one above counts. Blocks on the disk.
+std::vector<ioPath> RemovableFolders(const std::vector<ioPath>& folders, const std::vector<Mount>& mounts,
+                                     BlockDevices& devices);
 
 }  // namespace Zenvora::Tavolin

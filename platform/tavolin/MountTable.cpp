@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <set>
 #include <sstream>
 
 namespace Zenvora::Tavolin {
@@ -45,7 +46,9 @@ bool ReadMount(const std::string& line, Mount& mount) {
     return false;
   }
   const auto hyphen = std::find(fields.begin() + kFirstOptional, fields.end(), "-");
-  if (fields.end() - hyphen < 3 || std::sscanf(fields[2].c_str(), "%u:%u", &mount.major, &mount.minor) != 2) {
+  if (fields.end() - hyphen < 3 || std::sscanf(fields[0].c_str(), "%u", &mount.id) != 1 ||
+      std::sscanf(fields[1].c_str(), "%u", &mount.parent) != 1 ||
+      std::sscanf(fields[2].c_str(), "%u:%u", &mount.major, &mount.minor) != 2) {
     return false;
   }
   mount.point = Unescaped(fields[4]);
@@ -57,6 +60,35 @@ bool ReadMount(const std::string& line, Mount& mount) {
 bool Holds(const std::string& point, const std::string& folder) {
   return point == "/" || (folder.compare(0, point.size(), point) == 0 &&
                           (folder.size() == point.size() || folder[point.size()] == '/'));
+}
+
+/// The mount to begin at: its parent is out of sight.
+const Mount* FindFirst(const std::vector<Mount>& mounts, const std::string& folder) {
+  std::set<unsigned int> ids;
+  for (const Mount& mount : mounts) {
+    ids.insert(mount.id);
+  }
+  const Mount* found = nullptr;
+  for (const Mount& mount : mounts) {
+    const bool isFirst = mount.parent == mount.id || ids.count(mount.parent) == 0;
+    if (isFirst && Holds(mount.point, folder) &&
+        (found == nullptr || mount.point.size() >= found->point.size())) {
+      found = &mount;
+    }
+  }
+  return found;
+}
+
+/// The first mount in `parent` on the way to the folder; null when the folder lies in `parent` itself.
+const Mount* FindNext(const std::vector<Mount>& mounts, const Mount& parent, const std::string& folder) {
+  const Mount* found = nullptr;
+  for (const Mount& mount : mounts) {
+    if (mount.parent == parent.id && mount.id != parent.id && Holds(mount.point, folder) &&
+        (found == nullptr || mount.point.size() <= found->point.size())) {
+      found = &mount;
+    }
+  }
+  return found;
 }
 
 }  // namespace
@@ -74,11 +106,14 @@ std::vector<Mount> ReadMounts(const std::string& mountInfo) {
 }
 
 const Mount* FindMount(const std::vector<Mount>& mounts, const std::string& folder) {
-  const Mount* found = nullptr;
-  for (const Mount& mount : mounts) {
-    if (Holds(mount.point, folder) && (found == nullptr || mount.point.size() >= found->point.size())) {
-      found = &mount;
+  const Mount* found = FindFirst(mounts, folder);
+  // Numbers of a damaged table may lead in a circle.
+  for (std::size_t step = 0; found != nullptr && step < mounts.size(); ++step) {
+    const Mount* const next = FindNext(mounts, *found, folder);
+    if (next == nullptr) {
+      break;
     }
+    found = next;
   }
   return found;
 }

@@ -9,6 +9,8 @@ namespace Zenvora::Tavolin {
 
 /// One line of the system's table of mounts.
 struct Mount {
+  unsigned int id = 0;
+  unsigned int parent = 0;  ///< The `id` of the mount that it lies in; may be that of none in the table.
   unsigned int major = 0;
   unsigned int minor = 0;
   std::string point;   ///< Where it is seen, absolute; bytes.
@@ -19,8 +21,9 @@ struct Mount {
 /// Reads the text of /proc/self/mountinfo (see proc(5)). Lines of another form are passed over. Pure.
 std::vector<Mount> ReadMounts(const std::string& mountInfo);
 
-/// The mount that shows the folder: the one with the longest fitting place, of equal ones the last, which
-/// hides the others. Null when there is none. `folder`: absolute and without links. Pure.
+/// The mount that shows the folder, found as the system finds its way down to it: what is mounted over a
+/// folder hides whatever was mounted in there before. Null when there is none. `folder`: absolute and without
+/// links. Pure.
 const Mount* FindMount(const std::vector<Mount>& mounts, const std::string& folder);
 
 }  // namespace Zenvora::Tavolin

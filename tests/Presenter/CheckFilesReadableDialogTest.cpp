@@ -51,6 +51,11 @@ TEST_F(ReadableDialog, GoesOnWithNoneAfterCancel) {
   EXPECT_EQ(CheckFilesReadableDialog({good_, missing_}), QList<QString>());
 }
 
+TEST_F(ReadableDialog, GoesOnWithNoneWithoutAnAnswer) {
+  AnswerWithNoButton();
+  EXPECT_EQ(CheckFilesReadableDialog({good_, missing_}), QList<QString>());
+}
+
 TEST_F(ReadableDialog, SpeaksTheLanguageInForce) {
   const Zenvora::Test::TextCatalogue texts(QStringLiteral("Zenvora::Lumidex::Utils"),
                                            {{QStringLiteral("Attention"), QStringLiteral("Achtung")},

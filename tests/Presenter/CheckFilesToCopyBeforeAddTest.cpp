@@ -107,6 +107,12 @@ TEST_F(CopyBeforeAdd, AddsNothingAfterCancel) {
   EXPECT_TRUE(CheckFilesToCopyBeforeAddDialog({Make("stick/1.jpg"), Make("a/1.jpg")}).isEmpty());
 }
 
+TEST_F(CopyBeforeAdd, AddsNothingWithoutAnAnswer) {
+  AnswerWithNoButton();
+  Choose({});
+  EXPECT_TRUE(CheckFilesToCopyBeforeAddDialog({Make("stick/1.jpg"), Make("a/1.jpg")}).isEmpty());
+}
+
 TEST_F(CopyBeforeAdd, AddsNothingWhenNoFolderIsChosen) {
   Answer({AlertButton::Yes});
   Choose({QString()});
@@ -234,6 +240,17 @@ TEST_F(CopyBeforeAdd, NamesAroundWhatIsThere) {
     EXPECT_FALSE(QFileInfo::exists(to)) << to.toStdString();
   }
   EXPECT_EQ(Zenvora::Test::ReadFile(tree_.Path("target/IMG.jpg")), "old");
+}
+
+TEST_F(CopyBeforeAdd, NamesAroundLinksThatLeadNowhere) {
+  const QString target = Name("target");
+  const QString source = Make("stick/IMG.jpg");
+  tree_.MakeFolder("target");
+  LUMIDEX_LINK_OR_SKIP("nowhere.jpg", tree_.Path("target/IMG.jpg"));
+  LUMIDEX_LINK_OR_SKIP("IMG(1).jpg", tree_.Path("target/IMG(1).jpg"));
+  Answer({AlertButton::Yes});
+  Choose({target});
+  EXPECT_EQ(CheckFilesToCopyBeforeAddDialog({source}), (Plan{{source, Target(target, "IMG(1)(3).jpg")}}));
 }
 
 TEST_F(CopyBeforeAdd, TakesFilesOutOfTheWayOfDifferentCase) {

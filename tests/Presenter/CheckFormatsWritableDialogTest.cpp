@@ -41,5 +41,10 @@ TEST_F(FormatsDialog, GoesOnAfterOkOnly) {
       AlertButton::Ok | AlertButton::Cancel);
 }
 
+TEST_F(FormatsDialog, DoesNotGoOnWithoutAnAnswer) {
+  AnswerWithNoButton();
+  EXPECT_FALSE(CheckFormatsWritableDialog(Items({"/a.gif"})));
+}
+
 }  // namespace
 }  // namespace Zenvora::Util

@@ -16,6 +16,12 @@
 
 namespace Zenvora::Test {
 
+/// A host's own alerts that are closed without any button, against their contract.
+class ClosedAlerts : public App::IAlerts {
+ public:
+  App::AlertButton Show(const App::Alert&) override { return App::AlertButton::None; }
+};
+
 /// A host with a main window (some address that is only passed on), settings in memory and a user who answers
 /// as the test says.
 class DialogFixture : public ::testing::Test {
@@ -25,6 +31,12 @@ class DialogFixture : public ::testing::Test {
     alertsScope_.reset();
     alerts_ = std::make_shared<ScriptedAlerts>(std::move(answers));
     alertsScope_ = std::make_unique<App::ServiceScope<App::IAlerts>>(alerts_);
+  }
+
+  /// From now on alerts are closed, and no button tells how.
+  void AnswerWithNoButton() {
+    alertsScope_.reset();
+    alertsScope_ = std::make_unique<App::ServiceScope<App::IAlerts>>(std::make_shared<ClosedAlerts>());
   }
 
   /// Every alert of the library but for its text, level and buttons.

@@ -7,7 +7,11 @@
 #include <support/TextCatalogue.h>
 #include <support/Unprivileged.h>
 
+#include <zenvora/core/FileProbes.h>
+
 #include <gtest/gtest.h>
+
+#include <QFileInfo>
 
 #include <filesystem>
 #include <fstream>
@@ -18,6 +22,8 @@
 
 #ifndef _WIN32
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #endif
 
 namespace Zenvora::Util {
@@ -336,9 +342,12 @@ TEST(SavingOnTheRealDisk, FitsOrNot) {
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, FailsOnVolumesMountedForReading,
                               "a small disk is made with means of Linux");
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, GoesByTheRightsOfTheUser, Zenvora::Test::kAccessLists);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, NeedsPermissionAlsoWhereTheFileWouldOpen,
+                              "users have no rights to lend there");
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, GoesByAccessLists, Zenvora::Test::kAccessLists);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, DoesNotWaitForPipes, Zenvora::Test::kNoPipesInFolders);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, KeepsNamesThatAreNoText, Zenvora::Test::kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, KeepsNamesOfFoldersThatAreNoText, Zenvora::Test::kNamesAreText);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, WorksOnADiskThatIsFull, "a small disk is made with means of Linux");
 #else
 TEST_F(Saving, FailsOnVolumesMountedForReading) {
@@ -390,6 +399,27 @@ TEST_F(Saving, GoesByTheRightsOfTheUser) {
   EXPECT_TRUE(failureOf({Item(closed)}, Mode::FilePermission)(Mode::None, ""));
 }
 
+TEST_F(Saving, NeedsPermissionAlsoWhereTheFileWouldOpen) {
+  if (!Zenvora::Test::IsSuperuser()) {
+    GTEST_SKIP() << "only the superuser can lend their rights to another user";
+  }
+  const ioPath file = tree_.Write("a.jpg", "x");
+  ASSERT_EQ(chmod(file.native().c_str(), 0600), 0);
+  // Permission is a matter of who the user is, opening one of the rights that the process has.
+  const pid_t child = fork();
+  if (child == 0) {
+    const bool lent = setresuid(Zenvora::Test::kNobody, 0, 0) == 0 && OpensForAppending(file);
+    const bool agrees = !QFileInfo(file.qstring()).permission(QFileDevice::WriteUser);
+    _exit(lent && agrees &&
+                  CheckSaveAvailable({Item(file)}, Mode::FilePermission).first == Mode::FilePermission
+              ? 0
+              : 1);
+  }
+  int status = -1;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+}
+
 TEST_F(Saving, GoesByAccessLists) {
   if (!Zenvora::Test::IsSuperuser()) {
     GTEST_SKIP() << "only the superuser can become another user";
@@ -421,6 +451,16 @@ TEST_F(Saving, KeepsNamesThatAreNoText) {
   const auto result = CheckSaveAvailable({Item(tree_.Path("\xff"))}, Mode::FilePermission);
   EXPECT_EQ(result.first, Mode::FilePermission);
   EXPECT_TRUE(result.second.endsWith(QStringLiteral("/\uFFFD")));
+}
+
+TEST_F(Saving, KeepsNamesOfFoldersThatAreNoText) {
+  const ioPath first = tree_.Write("\xfe/a.jpg", "x");
+  ExpectPassed({Item(first)}, kAll);
+  // Another folder whose name looks the same to people.
+  const auto result =
+      CheckSaveAvailable({Item(first), Item(tree_.Path("\xff/a.jpg"))}, Mode::FolderPermission);
+  EXPECT_EQ(result.first, Mode::FolderPermission);
+  EXPECT_TRUE(result.second.endsWith(QStringLiteral("/\uFFFD"))) << result.second.toStdString();
 }
 #endif
 

@@ -12,10 +12,11 @@ QString Times(int count, const QString& text) {
 const QString kBreak(QChar(0x200B));
 
 TEST(BreakableText, LeavesWhatFitsAsItIs) {
-  for (const QString& text : {QString(), QStringLiteral("A text of words, some of them long."),
-                              Times(100, QStringLiteral("word ")), Times(40, QStringLiteral("x")),
-                              Times(100, QStringLiteral("写")), Times(30, QStringLiteral("/folder")),
-                              QStringLiteral("line\nfeed\n"), Times(300, QStringLiteral("\n"))}) {
+  for (const QString& text :
+       {QString(), QStringLiteral("A text of words, some of them long."), Times(100, QStringLiteral("word ")),
+        Times(40, QStringLiteral("x")), Times(100, QStringLiteral("写")),
+        Times(30, QStringLiteral("/folder")), QStringLiteral("line\nfeed\n"), Times(20, QStringLiteral("\n")),
+        Times(40, QStringLiteral("\t"))}) {
     EXPECT_EQ(BreakableText(text), text) << text.toStdString();
   }
 }
@@ -45,6 +46,19 @@ TEST(BreakableText, LeavesTheMiddleOfEndlessTextsOut) {
   const QString pairs =
       BreakableText(QStringLiteral("x") + Times(2000, QString::fromUtf8("\xF0\x9F\x93\xB7")));
   EXPECT_EQ(pairs, QString::fromUtf8(pairs.toUtf8())) << "no half of a character is left";
+}
+
+TEST(BreakableText, LeavesTheMiddleOutOfTextsOfManyLines) {
+  for (const QChar end :
+       {QChar(u'\n'), QChar(u'\r'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)}) {
+    const QString text = QStringLiteral("begin") + QString(200, end) + QStringLiteral("end");
+    const QString shortened = BreakableText(text);
+    EXPECT_TRUE(shortened.startsWith(QStringLiteral("begin") + end));
+    EXPECT_TRUE(shortened.endsWith(end + QStringLiteral("end")));
+    EXPECT_EQ(shortened.count(QChar(0x2026)), 1);
+    EXPECT_EQ(shortened.count(end), 18) << end.unicode();
+  }
+  EXPECT_EQ(BreakableText(Times(500, QStringLiteral("\t"))).count(QLatin1Char('\t')), 80);
 }
 
 }  // namespace

@@ -234,6 +234,26 @@ TEST(MessageBox, ShowsLongNamesWhole) {
   }
 }
 
+TEST(MessageBox, FitsTheScreenWhateverItsText) {
+  // Names of files may hold all of these.
+  for (const QString& name :
+       {QString(4000, QLatin1Char('\n')), QString(255, QLatin1Char('\r')), QString(255, QLatin1Char('\t')),
+        QString(85, QChar(QChar::LineSeparator)), QString(85, QChar(QChar::ParagraphSeparator)),
+        QStringLiteral("W\n").repeated(120),
+        (QString(30, QLatin1Char('W')) + QLatin1Char('\n')).repeated(100), QString(4000, QChar(0x5199)),
+        QString(4000, QLatin1Char('W'))}) {
+    WhenBoxIsShown([&name](QMessageBox& box) {
+      const QSize screen = QGuiApplication::primaryScreen()->size();
+      EXPECT_LE(box.width(), screen.width()) << name.left(2).toStdString();
+      EXPECT_LE(box.height(), screen.height()) << name.left(2).toStdString();
+      box.accept();
+    });
+    ShowBox(AlertBox(AlertBox::Critical, QStringLiteral("Attention"),
+                     QStringLiteral("You do not have permission to edit file: /") + name,
+                     QMessageBox::Ok | QMessageBox::Cancel, nullptr, kFlags));
+  }
+}
+
 TEST(MessageBox, IsAnsweredWhenItsWindowGoes) {
   auto* const window = new QWidget;
   WhenBoxIsShown([window](QMessageBox&) { delete window; });

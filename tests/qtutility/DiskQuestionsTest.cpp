@@ -20,6 +20,9 @@
 #include <string>
 
 #ifndef _WIN32
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -106,6 +109,8 @@ TEST(DiskQuestions, AreAskedOfTheRegistry) {
   space->free["/"] = 12;
   EXPECT_TRUE(CanCreateFileIn(QStringLiteral("/open")));
   EXPECT_FALSE(CanCreateFileIn(QStringLiteral("/closed")));
+  EXPECT_TRUE(CanCreateFileAt("/open"));
+  EXPECT_FALSE(CanCreateFileAt("/closed"));
   EXPECT_TRUE(CanReadFileIn(QStringLiteral("/open")));
   EXPECT_FALSE(CanReadFileIn(QStringLiteral("/closed")));
   EXPECT_EQ(GetAvailableDiskSpace("/"), 12);
@@ -127,6 +132,10 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS(SystemFolders, MountedForReadingTakeNoFiles,
                             "a small disk is made with means of Linux");
 LUMIDEX_LEFT_OUT_ON_WINDOWS(SystemFolders, OfOtherUsersGoByTheirRights, Zenvora::Test::kAccessLists);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(SystemFolders, GoByAccessLists, Zenvora::Test::kAccessLists);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(SystemFolders, ThatKnowNoNamelessFilesGoByTheSystemsOpinion,
+                            "files are made with names there");
+LUMIDEX_LEFT_OUT_ON_WINDOWS(SystemFolders, WithLittleRoomOrUnderLinksTakeFiles,
+                            "a small disk is made with means of Linux");
 LUMIDEX_LEFT_OUT_ON_WINDOWS(SystemFolders, ThatOnlyShowThingsTakeNoFiles,
                             "there is no such file system there");
 #else
@@ -212,9 +221,64 @@ TEST(SystemFolders, GoByAccessLists) {
 }
 
 TEST(SystemFolders, ThatOnlyShowThingsTakeNoFiles) {
-  // No nameless files there: the second way of asking.
   EXPECT_FALSE(CanCreateFileIn(QStringLiteral("/proc/self")));
   EXPECT_TRUE(CanReadFileIn(QStringLiteral("/proc/self")));
+}
+
+TEST(SystemFolders, ThatKnowNoNamelessFilesGoByTheSystemsOpinion) {
+  const TempTree tree;
+  const ioPath place = tree.Path();
+  const char* const folder = place.native().c_str();
+  // A file system that is everywhere and, like those of sticks, makes only files with names.
+  if (mount("lumidex-test", folder, "mqueue", 0, nullptr) != 0) {
+    GTEST_SKIP() << "only the superuser can mount a volume, and the kernel must know this one";
+  }
+  const int nameless = open(folder, O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR);
+  const int cause = errno;
+  EXPECT_TRUE(CanCreateFileIn(tree.Path().qstring()));
+  // This place only: the file system is one for all.
+  EXPECT_EQ(mount(nullptr, folder, nullptr, MS_REMOUNT | MS_BIND | MS_RDONLY, nullptr), 0);
+  EXPECT_FALSE(CanCreateFileIn(tree.Path().qstring()));
+  EXPECT_EQ(umount(folder), 0);
+  if (nameless >= 0) {
+    close(nameless);
+    GTEST_SKIP() << "the kernel makes nameless files there by now";
+  }
+  EXPECT_EQ(cause, EOPNOTSUPP);
+}
+
+TEST(SystemFolders, WithLittleRoomOrUnderLinksTakeFiles) {
+  const TempTree tree;
+  const ioPath real = tree.MakeFolder("real");
+  ASSERT_EQ(chmod(real.native().c_str(), 01777), 0);
+  ASSERT_TRUE(Zenvora::Test::MakeLink(real, tree.Path("link")));
+  ASSERT_TRUE(Zenvora::Test::MakeLink(tree.Path("nowhere"), tree.Path("dangling")));
+  EXPECT_TRUE(CanCreateFileIn(tree.Path("link").qstring()));
+  EXPECT_FALSE(CanCreateFileIn(tree.Path("dangling").qstring()));
+  EXPECT_FALSE(tree.Path("nowhere").exists());
+  if (Zenvora::Test::IsSuperuser()) {
+    Zenvora::Test::LetEverybodyIn(tree.Path());
+    EXPECT_TRUE(Zenvora::Test::AskAsNobody([&] { return CanCreateFileIn(real.qstring()); }));
+  }
+  const Zenvora::Test::SmallDisk disk(real, 1 << 16);
+  if (!disk.IsThere()) {
+    GTEST_SKIP() << "only the superuser can mount a volume";
+  }
+  tree.Write("real/a", std::string(1 << 16, 'x'));
+  EXPECT_TRUE(CanCreateFileIn(real.qstring())) << "room is another question";
+}
+
+TEST(SystemDisk, IsFoundWhenTheFolderIsGone) {
+  const TempTree tree;
+  const ioPath gone = tree.MakeFolder("gone/deep");
+  const auto before = GetAvailableDiskSpace(gone);
+  fs::remove_all(tree.Path("gone").native());
+  EXPECT_GT(before, 0);
+  EXPECT_GT(GetAvailableDiskSpace(gone), 0);
+  EXPECT_FALSE(CanCreateFileIn(gone.qstring()));
+  EXPECT_FALSE(CanReadFileIn(gone.qstring()));
+  ASSERT_TRUE(Zenvora::Test::MakeLink(tree.Path("nowhere"), tree.Path("dangling")));
+  EXPECT_GT(GetAvailableDiskSpace(tree.Path("dangling/x")), 0);
 }
 #endif
 

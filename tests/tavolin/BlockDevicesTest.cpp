@@ -117,6 +117,30 @@ TEST_F(Devices, OnUsbWithoutASocketStay) {
   EXPECT_FALSE(IsRemovable(Line("8:17")));
 }
 
+TEST_F(Devices, FixedToAHubGoWithTheHub) {
+  // Enclosures and docks hold a hub to which their disk is soldered.
+  const std::string hub = "pci0/usb1/1-1";
+  const std::string disk = hub + "/1-1.2";
+  SetBus("pci0", "pci");
+  SetBus("pci0/usb1", "usb");
+  SetAttribute("pci0/usb1", "removable", "unknown");
+  SetBus(hub, "usb");
+  SetBus(disk, "usb");
+  SetBus(disk + "/1-1.2:1.0", "usb");
+  SetAttribute(disk, "removable", "fixed");
+  AddDevice(disk + "/1-1.2:1.0/host2/block/sdb", "8:16", "0");
+  for (const char* socket : {"removable", "unknown"}) {
+    SetAttribute(hub, "removable", socket);
+    EXPECT_TRUE(IsRemovable(Line("8:16"))) << socket;
+  }
+  SetAttribute(hub, "removable", "fixed");
+  EXPECT_FALSE(IsRemovable(Line("8:16")));
+  AddNote("8:16", "E:ID_BUS=usb\n");
+  EXPECT_FALSE(IsRemovable(Line("8:16"))) << "the sockets tell more than the bus";
+  SetAttribute("pci0", "removable", "removable");
+  EXPECT_TRUE(IsRemovable(Line("8:16"))) << "the whole controller is outside";
+}
+
 TEST_F(Devices, OnSocketsOutsideOfTheComputerGo) {
   SetBus("pci0/0000:05:00.0", "pci");
   SetAttribute("pci0/0000:05:00.0", "removable", "removable");
@@ -190,6 +214,14 @@ TEST_F(Devices, AreFoundByNameWhereTheMountHasNumbersOfItsOwn) {
   EXPECT_FALSE(IsRemovable(Line("0:45", "btrfs", "/dev/")));
 }
 
+TEST_F(Devices, AreFoundByNamesWithSeparators) {
+  // Names hold no separators in the kernel's tree.
+  AddDevice("pci0/x/block/drives!d0", "104:0", "1");
+  EXPECT_TRUE(IsRemovable(Line("104:0")));
+  EXPECT_TRUE(IsRemovable(Line("0:45", "btrfs", "/dev/drives/d0")));
+  EXPECT_FALSE(IsRemovable(Line("0:45", "btrfs", "/dev/drives/d1")));
+}
+
 TEST_F(Devices, FollowWhatTheirOwnerSays) {
   AddUsbDisk("removable");
   AddNote("8:16", "E:ID_BUS=usb\nE:ID_DRIVE_FLASH_SD=1\nE:UDISKS_SYSTEM=1\n");
@@ -242,6 +274,35 @@ TEST_F(Devices, ShownByDesktopsGoByTheirScheme) {
   EXPECT_FALSE(IsRemovable(line, "/mnt/x"));
   EXPECT_TRUE(IsRemovable(Line("0:43", "fuse.kio-fuse", "kio-fuse"), "/mnt/x/mtp/Phone/DCIM"));
   EXPECT_FALSE(IsRemovable(Line("0:43", "fuse.kio-fuse", "kio-fuse"), "/mnt/x/smb/server"));
+}
+
+TEST_F(Devices, AreThoseOfTheRealFolders) {
+  AddUsbDisk("removable");
+  const ioPath stick = tree_.MakeFolder("stick");
+  const ioPath pictures = tree_.MakeFolder("stick/DCIM");
+  tree_.MakeFolder("home");
+  ASSERT_TRUE(Zenvora::Test::MakeLink(pictures, tree_.Path("home/photos")));
+  ASSERT_TRUE(Zenvora::Test::MakeLink(tree_.Path("home"), tree_.Path("stick/home")));
+  std::error_code error;
+  const auto mounts = ReadMounts("1 0 8:1 / / rw - ext4 /dev/sda1 rw\n2 1 8:17 / " +
+                                 stick.canonical(error).utf8string() + " rw - vfat /dev/sdb1 rw\n");
+  BlockDevices devices(tree_.Path("sys"), tree_.Path("udev"));
+  const std::vector<ioPath> removable = {stick,
+                                         pictures / "",
+                                         tree_.Path("stick/new/deep"),
+                                         tree_.Path("home/photos"),
+                                         tree_.Path("home/photos/new/"),
+                                         tree_.Path("home/../stick")};
+  const std::vector<ioPath> fixed = {tree_.Path("home"),
+                                     tree_.Path("stick/home"),
+                                     tree_.Path("stick/home/new"),
+                                     tree_.Path("stick2"),
+                                     ioPath("/"),
+                                     ioPath()};
+  std::vector<ioPath> all = fixed;
+  all.insert(all.begin() + 2, removable.begin(), removable.end());
+  EXPECT_EQ(RemovableFolders(all, mounts, devices), removable);
+  EXPECT_TRUE(RemovableFolders(all, {}, devices).empty());
 }
 
 TEST_F(Devices, RememberTheAnswerForARound) {

@@ -14,6 +14,9 @@ TEST(ReadMounts, ReadsTheLinesOfTheSystem) {
       "rw,uid=1000\n"
       "41 22 0:50 /photos /mnt/nas rw - nfs4 server:/ex\\040port rw\n");
   ASSERT_EQ(mounts.size(), 3U);
+  EXPECT_EQ(mounts[0].id, 22U);
+  EXPECT_EQ(mounts[0].parent, 1U);
+  EXPECT_EQ(mounts[1].parent, 22U);
   EXPECT_EQ(mounts[0].major, 253U);
   EXPECT_EQ(mounts[0].minor, 0U);
   EXPECT_EQ(mounts[0].point, "/");
@@ -29,10 +32,10 @@ TEST(ReadMounts, ReadsTheLinesOfTheSystem) {
 
 TEST(ReadMounts, PassesOverWhatItCannotRead) {
   EXPECT_TRUE(ReadMounts("").empty());
-  for (const char* line :
-       {"\n", "x", "22 1 8:1 / / rw", "22 1 8:1 / / rw shared:1", "22 1 8:1 / / rw - ext4",
-        "22 1 eight / / rw - ext4 /dev/sda1 rw", "22 1 8:1 / relative rw - ext4 /dev/sda1 rw",
-        "22 1 8 / / rw - ext4 /dev/sda1 rw"}) {
+  for (const char* line : {"\n", "x", "22 1 8:1 / / rw", "22 1 8:1 / / rw shared:1", "22 1 8:1 / / rw - ext4",
+                           "22 1 eight / / rw - ext4 /dev/sda1 rw",
+                           "22 1 8:1 / relative rw - ext4 /dev/sda1 rw", "22 1 8 / / rw - ext4 /dev/sda1 rw",
+                           "x 1 8:1 / / rw - ext4 /dev/sda1 rw", "22 x 8:1 / / rw - ext4 /dev/sda1 rw"}) {
     EXPECT_TRUE(ReadMounts(line).empty()) << line;
   }
   EXPECT_EQ(ReadMounts("broken\n22 1 8:1 / / rw - ext4 /dev/sda1 rw\nbroken").size(), 1U);
@@ -49,7 +52,7 @@ TEST(FindMount, TakesTheNearest) {
   const auto mounts = ReadMounts(
       "1 0 8:1 / / rw - ext4 a rw\n"
       "2 1 8:2 / /media/stick rw - vfat b rw\n"
-      "3 1 8:3 / /media/stick/inner rw - vfat c rw\n");
+      "3 2 8:3 / /media/stick/inner rw - vfat c rw\n");
   const auto sourceOf = [&](const char* folder) { return FindMount(mounts, folder)->source; };
   EXPECT_EQ(sourceOf("/"), "a");
   EXPECT_EQ(sourceOf("/media"), "a");
@@ -57,6 +60,37 @@ TEST(FindMount, TakesTheNearest) {
   EXPECT_EQ(sourceOf("/media/stick/DCIM"), "b");
   EXPECT_EQ(sourceOf("/media/stick2"), "a");
   EXPECT_EQ(sourceOf("/media/stick/inner/x"), "c");
+}
+
+TEST(FindMount, PassesOverWhatIsHidden) {
+  // Something else was mounted over the folder that holds the stick, then something in there.
+  auto text = std::string(
+      "1 0 8:1 / / rw - ext4 a rw\n"
+      "2 1 8:2 / /media/stick rw - vfat b rw\n"
+      "3 1 0:40 / /media rw - tmpfs c rw\n");
+  const auto sourceOf = [&](const char* folder) { return FindMount(ReadMounts(text), folder)->source; };
+  EXPECT_EQ(sourceOf("/media/stick/x"), "c");
+  EXPECT_EQ(sourceOf("/media"), "c");
+  EXPECT_EQ(sourceOf("/home"), "a");
+  text += "4 3 8:3 / /media/stick rw - vfat d rw\n";
+  EXPECT_EQ(sourceOf("/media/stick/x"), "d");
+  EXPECT_EQ(sourceOf("/media/other"), "c");
+  // And one more root over all.
+  text += "5 1 8:4 / / rw - ext4 e rw\n";
+  EXPECT_EQ(sourceOf("/media/stick/x"), "e");
+  EXPECT_EQ(sourceOf("/"), "e");
+}
+
+TEST(FindMount, TakesTheNearestWhereTheFirstIsOutOfSight) {
+  // As in a changed root folder, and in tables with numbers that lead nowhere.
+  const auto mounts = ReadMounts(
+      "7 90 8:2 / /media rw - vfat a rw\n"
+      "8 7 8:3 / /media/x rw - vfat b rw\n"
+      "9 9 8:4 / /mnt rw - vfat c rw\n");
+  EXPECT_EQ(FindMount(mounts, "/"), nullptr);
+  EXPECT_EQ(FindMount(mounts, "/media/y")->source, "a");
+  EXPECT_EQ(FindMount(mounts, "/media/x/y")->source, "b");
+  EXPECT_EQ(FindMount(mounts, "/mnt")->source, "c");
 }
 
 TEST(FindMount, TakesTheLastOfSeveralOnOnePlace) {

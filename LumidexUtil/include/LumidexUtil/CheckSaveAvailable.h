@@ -26,7 +26,7 @@ using Lumidex::CheckSaveAvailableMode;
 ///   root of their paths, and each volume is asked once for its free space. A sum that just fits passes, and
 ///   so does a volume that does not tell, or is full to the last byte. On Linux all absolute paths have one
 ///   root, so it is that volume which is asked, whatever is mounted below it, and it has no name to be told.
-/// - `FolderPermission`: a file can be made in the folder of each item (`CanCreateFileIn`).
+/// - `FolderPermission`: a file can be made in the folder of each item (`CanCreateFileAt`).
 /// - `FilePermission`: each item's file gives write permission (as `QFileInfo` has it) and can be opened for
 ///   writing. It is neither changed nor made. Items that are lost are passed over; in the other checks they
 ///   count.

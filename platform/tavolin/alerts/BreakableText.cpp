@@ -2,14 +2,42 @@
 
 #include <QTextBoundaryFinder>
 
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+
 namespace Zenvora::Tavolin {
 
 namespace {
 
 /// Characters as people count them; what the narrowest boxes show in a line.
 constexpr int kLongestRun = 40;
-/// Half of a small screen. UTF-16 units.
+/// Half of a small screen. UTF-16 units, where nothing takes more room.
 constexpr int kLongestText = 800;
+
+/// How much of a line a unit takes: line ends all of it.
+int RoomOf(QChar unit) {
+  constexpr int kTab = 10;
+  switch (unit.unicode()) {
+    case u'\n':
+    case u'\r':
+    case QChar::LineSeparator:
+    case QChar::ParagraphSeparator:
+      return kLongestRun;
+    case u'\t':
+      return kTab;
+    default:
+      return 1;
+  }
+}
+
+/// How many of the units fit into half of the room.
+template <class Iterator>
+int FittingHalf(Iterator begin, Iterator end) {
+  int room = kLongestText / 2;
+  return static_cast<int>(
+      std::find_if(begin, end, [&room](QChar unit) { return (room -= RoomOf(unit)) < 0; }) - begin);
+}
 
 /// The nearest place at or before `at` that parts no character.
 int Boundary(const QString& text, int at) {
@@ -19,11 +47,15 @@ int Boundary(const QString& text, int at) {
 }
 
 QString Shortened(const QString& text) {
-  if (text.size() <= kLongestText) {
+  const int room =
+      std::accumulate(text.begin(), text.end(), 0, [](int sum, QChar unit) { return sum + RoomOf(unit); });
+  if (room <= kLongestText) {
     return text;
   }
-  return text.left(Boundary(text, kLongestText / 2)) + QChar(0x2026) +
-         text.mid(Boundary(text, text.size() - kLongestText / 2));
+  const int left = FittingHalf(text.begin(), text.end());
+  const int right =
+      FittingHalf(std::make_reverse_iterator(text.end()), std::make_reverse_iterator(text.begin()));
+  return text.left(Boundary(text, left)) + QChar(0x2026) + text.mid(Boundary(text, text.size() - right));
 }
 
 }  // namespace

@@ -15,6 +15,10 @@ namespace Zenvora::Util {
 /// counts, which a server may not share. Empty: the current folder. Any thread; blocks on the disk.
 ZENVORA_QTUTILITY_EXPORT bool CanCreateFileIn(const QString& folder);
 
+/// The same for every folder, also one whose name is no text (see `ioPath`). Under a name of its own, so that
+/// a literal fits only one of them.
+ZENVORA_QTUTILITY_EXPORT bool CanCreateFileAt(const ioPath& folder);
+
 /// Whether files in the folder can be reached for reading; each may still refuse for itself. Listing the
 /// folder is another thing and not asked for on Linux. Empty: the current folder. Any thread; blocks on the
 /// disk.
