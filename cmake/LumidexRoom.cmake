@@ -7,12 +7,13 @@ include(GenerateExportHeader)
 set(LUMIDEX_FLOORS
   core=0
   lumidex=1
-  app=2 quillet=2 tavolin=2 strandel=2 qtutility=2
+  app=2 quillet=2 tavolin=2 strandel=2 qtutility=2 alerts=2
   LumidexUtil=3
   host=4
   cli=5 gui=5)
-# The only rooms that may link Qt Widgets.
-set(LUMIDEX_WIDGET_ROOMS qtutility widgets Presenter LumidexUtil gui)
+# The only rooms that may link Qt Widgets. The others may use them all the same: then what these hand on leaves Qt Widgets
+# out, and their headers show only what is there without (QT_WIDGETS_LIB).
+set(LUMIDEX_WIDGET_ROOMS qtutility alerts widgets Presenter LumidexUtil gui)
 
 function(lumidex_floor room result)
   foreach(entry IN LISTS LUMIDEX_FLOORS)
@@ -110,6 +111,14 @@ function(lumidex_room name)
       RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
     install(DIRECTORY include/ "${CMAKE_CURRENT_BINARY_DIR}/include/" DESTINATION ${LUMIDEX_HEADERS_DIR}
       FILES_MATCHING PATTERN "*.h")
+  endif()
+
+  if(NOT name IN_LIST LUMIDEX_WIDGET_ROOMS)
+    set_target_properties(${target} PROPERTIES LUMIDEX_LOGIC ON)
+  elseif("Qt5::Widgets" IN_LIST R_LINKS AND R_KIND MATCHES "^(SHARED|STATIC)$")
+    list(REMOVE_ITEM R_LINKS Qt5::Widgets)
+    target_link_libraries(${target} PRIVATE Qt5::Widgets
+      INTERFACE "$<$<NOT:$<BOOL:$<TARGET_PROPERTY:LUMIDEX_LOGIC>>>:Qt5::Widgets>")
   endif()
 
   set(visible PUBLIC)

@@ -1,5 +1,6 @@
 #include "MonthWording.h"
 #include "PluralForm.h"
+#include "UtilsText.h"
 
 #include <LumidexUtil/Rename.h>
 #include <LumidexUtil/Wording.h>
@@ -23,8 +24,6 @@ namespace {
 constexpr int RENAME_ATTEMPTS = 20;
 constexpr std::chrono::milliseconds RENAME_PAUSE(50);
 
-constexpr char CONTEXT[] = "Zenvora::Lumidex::Utils";
-
 const std::string FORM_ONE = "One";
 const std::string FORM_NOMINATIVE = "Nominative";
 const std::string FORM_GENETIVE = "Genetive";
@@ -44,7 +43,7 @@ const std::string TEXT_NUMBER_AND_NOUN = QT_TRANSLATE_NOOP("Zenvora::Lumidex::Ut
 };
 
 QString Translate(const std::string& text) {
-  return QCoreApplication::translate(CONTEXT, text.c_str());
+  return TranslateUtils(text.c_str());
 }
 
 QString TranslateWithFallback(const std::string& key, const std::string& fallback) {

@@ -6,7 +6,7 @@ namespace Zenvora::App {
 
 Services::Services()
     : slots_(MakeIniSettings(UserSettingsFile()), MakeSystemLookAndFeel(), MakeSystemClock(),
-             MakeProgramEnvironment(), nullptr) {}
+             MakeProgramEnvironment(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr) {}
 
 Services::~Services() = default;
 

@@ -47,4 +47,17 @@ ioPath FromNative(const ioPath& path) {
   return normal.empty() && !path.empty() ? ioPath(".") : normal;
 }
 
+std::string GetPlatformFileName(const std::string& path) {
+#ifdef _WIN32
+  const std::filesystem::path bare = WithoutPrefix(ioPath(path).native());
+  std::string text = ioPath(std::filesystem::path(bare).make_preferred()).utf8string();
+  if (text.size() > 1 && text[1] == ':' && text[0] >= 'a' && text[0] <= 'z') {
+    text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  }
+  return text;
+#else
+  return path;
+#endif
+}
+
 }  // namespace Zenvora::Tavolin

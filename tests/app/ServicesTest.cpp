@@ -25,13 +25,18 @@ TEST(Registry, BelongsToTheApplicationObject) {
   EXPECT_EQ(&Services::Current(), &Application::Instance()->GetServices());
 }
 
-TEST(Registry, BeginsWithRealServicesAndTheOwnDownloads) {
+TEST(Registry, BeginsWithRealServicesAndThoseOfHigherRooms) {
   const Services registry;
   EXPECT_NE(registry.Get<ISettingsManager>(), nullptr);
   EXPECT_NE(registry.Get<ILookAndFeelManager>(), nullptr);
   EXPECT_NE(registry.Get<IClock>(), nullptr);
   EXPECT_NE(registry.Get<IHostEnvironment>(), nullptr);
   EXPECT_EQ(registry.Get<IDownloads>(), nullptr);
+  EXPECT_EQ(registry.Get<IAlerts>(), nullptr);
+  EXPECT_EQ(registry.Get<IDiskSpace>(), nullptr);
+  EXPECT_EQ(registry.Get<IFolderAccess>(), nullptr);
+  EXPECT_EQ(registry.Get<IFolderDialog>(), nullptr);
+  EXPECT_EQ(registry.Get<IRemovableStorage>(), nullptr);
 }
 
 TEST(Registry, GivesTheSameObjectUntilItIsExchanged) {

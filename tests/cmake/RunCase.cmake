@@ -43,6 +43,8 @@ set(LUMIDEX_HEADERS_DIR \"\${CMAKE_INSTALL_INCLUDEDIR}/rooms\")
 add_library(lumidex_compiler INTERFACE)
 add_library(Qt5::Core INTERFACE IMPORTED GLOBAL)
 add_library(Qt5::Widgets INTERFACE IMPORTED GLOBAL)
+file(WRITE \"\${CMAKE_BINARY_DIR}/widgets/QWidget\" \"\")
+target_include_directories(Qt5::Widgets INTERFACE \"\${CMAKE_BINARY_DIR}/widgets\")
 include(LumidexRoom)
 ${rooms}")
 

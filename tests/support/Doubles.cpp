@@ -18,6 +18,57 @@ void FakeSettings::SetString(const std::string& key, const std::string& value) {
   values_[key] = value;
 }
 
+ScriptedAlerts::~ScriptedAlerts() {
+  EXPECT_GE(shown.size(), answers_.size()) << "alerts that were expected were not shown";
+}
+
+App::AlertButton ScriptedAlerts::Show(const App::Alert& alert) {
+  shown.push_back(alert);
+  if (onShow) {
+    onShow();
+  }
+  if (shown.size() > answers_.size()) {
+    ADD_FAILURE() << "unexpected alert: " << alert.text.toStdString();
+    return App::UnansweredButton(alert.buttons);
+  }
+  const App::AlertButton answer = answers_[shown.size() - 1];
+  if (answer != App::AlertButton::Ok || alert.buttons) {
+    EXPECT_TRUE(alert.buttons.testFlag(answer))
+        << "the alert has no such button: " << static_cast<int>(answer);
+  }
+  return answer;
+}
+
+ScriptedFolderDialog::~ScriptedFolderDialog() {
+  EXPECT_GE(asked.size(), answers_.size()) << "folder dialogs that were expected were not shown";
+}
+
+QString ScriptedFolderDialog::Ask(const App::FolderQuestion& question) {
+  asked.push_back(question);
+  if (asked.size() > answers_.size()) {
+    ADD_FAILURE() << "unexpected folder dialog: " << question.caption.toStdString();
+    return QString();
+  }
+  return answers_[asked.size() - 1];
+}
+
+std::vector<ioPath> FakeRemovableStorage::Removable(const std::vector<ioPath>& folders) const {
+  asked.push_back(folders);
+  std::vector<ioPath> removable;
+  for (const ioPath& folder : folders) {
+    for (const ioPath& root : roots) {
+      // By elements: "/media/stick2" is not in "/media/stick".
+      const auto [rest, ignored] = std::mismatch(root.native().begin(), root.native().end(),
+                                                 folder.native().begin(), folder.native().end());
+      if (rest == root.native().end()) {
+        removable.push_back(folder);
+        break;
+      }
+    }
+  }
+  return removable;
+}
+
 class ScriptedDownloads::Request : public App::IDownloads::Pending {
  public:
   explicit Request(ScriptedDownloads& owner) : owner_(owner) {}

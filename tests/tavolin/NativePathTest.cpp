@@ -44,5 +44,30 @@ TEST_P(FromNativeTable, IsDoneAfterOnce) {
   EXPECT_EQ(FromNative(once).native().native(), once.native().native());
 }
 
+#ifdef _WIN32
+TEST(PlatformFileName, IsAsTheSystemWritesIt) {
+  const std::pair<const char*, const char*> rows[] = {{"", ""},
+                                                      {"c:/", "C:\\"},
+                                                      {"C:\\", "C:\\"},
+                                                      {"c:", "C:"},
+                                                      {"c:/a/b", "C:\\a\\b"},
+                                                      {"//server/share/", "\\\\server\\share\\"},
+                                                      {"\\\\?\\c:\\a", "C:\\a"},
+                                                      {"a/b", "a\\b"},
+                                                      {"1:/", "1:\\"},
+                                                      {"ü/写", "ü\\写"}};
+  for (const auto& [path, expected] : rows) {
+    EXPECT_EQ(GetPlatformFileName(path), expected) << path;
+  }
+}
+#else
+TEST(PlatformFileName, IsTheNameItself) {
+  for (const std::string& path : {std::string(), std::string("/"), std::string("//"), std::string("c:/"),
+                                  std::string("a\\b/./c/"), std::string("\xff\n"), std::string("a\0b", 3)}) {
+    EXPECT_EQ(GetPlatformFileName(path), path);
+  }
+}
+#endif
+
 }  // namespace
 }  // namespace Zenvora::Tavolin

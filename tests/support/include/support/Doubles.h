@@ -1,9 +1,14 @@
 #pragma once
 
+#include <zenvora/app/IAlerts.h>
 #include <zenvora/app/IClock.h>
+#include <zenvora/app/IDiskSpace.h>
 #include <zenvora/app/IDownloads.h>
+#include <zenvora/app/IFolderAccess.h>
+#include <zenvora/app/IFolderDialog.h>
 #include <zenvora/app/IHostEnvironment.h>
 #include <zenvora/app/ILookAndFeelManager.h>
+#include <zenvora/app/IRemovableStorage.h>
 #include <zenvora/app/ISettingsManager.h>
 #include <zenvora/app/Services.h>
 #include <zenvora/core/RefCountImpl.h>
@@ -104,13 +109,81 @@ class FakeUndo : public Lumidex::IUndo {
   std::function<void(Lumidex::DataModel&, const ioPath&)> onChange;
 };
 
-/// A host with a resource folder and no window.
+/// A host with a resource folder and no window, unless a test sets one.
 class FakeEnvironment : public App::IHostEnvironment {
  public:
   explicit FakeEnvironment(const ioPath& folder) : resources(folder) {}
   ioPath ResourceFolder() const override { return resources; }
-  QWidget* MainWindow() const override { return nullptr; }
+  QWidget* MainWindow() const override { return window; }
   ioPath resources;
+  QWidget* window = nullptr;
+};
+
+/// A user who gives the scripted answers, in their order, and remembers what was shown. Closes an alert that
+/// is not in the script, which fails the test; so does an answer that is left over at the end, and one that
+/// the alert does not offer.
+class ScriptedAlerts : public App::IAlerts {
+ public:
+  explicit ScriptedAlerts(std::vector<App::AlertButton> answers = {}) : answers_(std::move(answers)) {}
+  ~ScriptedAlerts() override;
+  App::AlertButton Show(const App::Alert& alert) override;
+
+  std::vector<App::Alert> shown;
+  /// What happens while an alert is shown.
+  std::function<void()> onShow;
+
+ private:
+  const std::vector<App::AlertButton> answers_;
+};
+
+/// The same for the folder dialog: an empty answer is Cancel.
+class ScriptedFolderDialog : public App::IFolderDialog {
+ public:
+  explicit ScriptedFolderDialog(std::vector<QString> answers = {}) : answers_(std::move(answers)) {}
+  ~ScriptedFolderDialog() override;
+  QString Ask(const App::FolderQuestion& question) override;
+
+  std::vector<App::FolderQuestion> asked;
+
+ private:
+  const std::vector<QString> answers_;
+};
+
+/// Volumes with as much room as a test says, by their exact roots; the others do not tell.
+class FakeDiskSpace : public App::IDiskSpace {
+ public:
+  std::int64_t FreeBytes(const ioPath& place) const override {
+    asked.push_back(place);
+    const auto found = free.find(place);
+    return found == free.end() ? otherwise : found->second;
+  }
+  std::map<ioPath, std::int64_t> free;
+  std::int64_t otherwise = -1;
+  mutable std::vector<ioPath> asked;
+};
+
+/// Folders that allow everything, but for those named.
+class FakeFolderAccess : public App::IFolderAccess {
+ public:
+  bool CanCreateFileIn(const ioPath& folder) const override {
+    askedToCreate.push_back(folder);
+    return closed.count(folder) == 0;
+  }
+  bool CanReadFileIn(const ioPath& folder) const override {
+    askedToRead.push_back(folder);
+    return closed.count(folder) == 0;
+  }
+  std::set<ioPath> closed;
+  mutable std::vector<ioPath> askedToCreate;
+  mutable std::vector<ioPath> askedToRead;
+};
+
+/// Storage of which the named folders can be pulled out, with all that is in them.
+class FakeRemovableStorage : public App::IRemovableStorage {
+ public:
+  std::vector<ioPath> Removable(const std::vector<ioPath>& folders) const override;
+  std::vector<ioPath> roots;
+  mutable std::vector<std::vector<ioPath>> asked;
 };
 
 /// A network that answers as told: at once, or when the test says so.

@@ -9,10 +9,15 @@
 
 namespace Zenvora::App {
 
+class IAlerts;
 class IClock;
+class IDiskSpace;
 class IDownloads;
+class IFolderAccess;
+class IFolderDialog;
 class IHostEnvironment;
 class ILookAndFeelManager;
+class IRemovableStorage;
 class ISettingsManager;
 
 /// The registry of what belongs to the machine or to the host. Everything that the libraries ask of either
@@ -33,7 +38,9 @@ class ZENVORA_APP_EXPORT Services {
   /// The registry in force.
   static Services& Current();
 
-  /// The service; never null, except `IDownloads`: null there means the download library's own.
+  /// The service. Null means the own one of the room that uses it, which stands above this one: so at first
+  /// `IAlerts`, `IDiskSpace`, `IDownloads`, `IFolderAccess`, `IFolderDialog` and `IRemovableStorage`. The
+  /// others are never null.
   template <class Service>
   std::shared_ptr<Service> Get() const {
     const std::lock_guard<std::mutex> lock(mutex_);
@@ -51,7 +58,9 @@ class ZENVORA_APP_EXPORT Services {
  private:
   mutable std::mutex mutex_;
   std::tuple<std::shared_ptr<ISettingsManager>, std::shared_ptr<ILookAndFeelManager>, std::shared_ptr<IClock>,
-             std::shared_ptr<IHostEnvironment>, std::shared_ptr<IDownloads>>
+             std::shared_ptr<IHostEnvironment>, std::shared_ptr<IDownloads>, std::shared_ptr<IAlerts>,
+             std::shared_ptr<IDiskSpace>, std::shared_ptr<IFolderAccess>, std::shared_ptr<IFolderDialog>,
+             std::shared_ptr<IRemovableStorage>>
       slots_;
 };
 

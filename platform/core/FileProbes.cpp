@@ -1,0 +1,96 @@
+#include <zenvora/core/FileProbes.h>
+
+#ifdef _WIN32
+#include <cstdio>
+#include <windows.h>
+#else
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace Zenvora {
+
+#ifdef _WIN32
+
+namespace {
+
+bool Opens(const ioPath& file, const wchar_t* mode) {
+  // Other names stand for devices, some of which would wait for input.
+  if (!file.name_fault().empty()) {
+    return false;
+  }
+  std::FILE* const stream = _wfopen(file.for_system().c_str(), mode);
+  return stream != nullptr && std::fclose(stream) == 0;
+}
+
+DWORD AttributesOf(const ioPath& file) {
+  return file.name_fault().empty() ? GetFileAttributesW(file.for_system().c_str()) : INVALID_FILE_ATTRIBUTES;
+}
+
+}  // namespace
+
+bool OpensForReading(const ioPath& file) noexcept {
+  return Opens(file, L"rb");
+}
+
+bool OpensForAppending(const ioPath& file) noexcept {
+  // The mode would make the file.
+  return AttributesOf(file) != INVALID_FILE_ATTRIBUTES && Opens(file, L"ab");
+}
+
+bool HasWritePermission(const ioPath& file) noexcept {
+  const DWORD attributes = AttributesOf(file);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) == 0;
+}
+
+#else
+
+namespace {
+
+int OpenOnce(const char* file, int flags) {
+  int handle = -1;
+  do {
+    handle = open(file, flags | O_CLOEXEC | O_NOCTTY);
+  } while (handle < 0 && errno == EINTR);
+  return handle;
+}
+
+bool IsRegular(const char* file) {
+  struct stat facts = {};
+  return stat(file, &facts) == 0 && S_ISREG(facts.st_mode);
+}
+
+bool Opens(const ioPath& file, int flags) {
+  // The system would take a name with a NUL for a shorter one.
+  if (!file.name_fault().empty()) {
+    return false;
+  }
+  const char* const name = file.native().c_str();
+  int handle = OpenOnce(name, flags | O_NONBLOCK);
+  // A file server asks for its file back: worth the moment that it may take.
+  if (handle < 0 && errno == EWOULDBLOCK && IsRegular(name)) {
+    handle = OpenOnce(name, flags);
+  }
+  return handle >= 0 && close(handle) == 0;
+}
+
+}  // namespace
+
+bool OpensForReading(const ioPath& file) noexcept {
+  return Opens(file, O_RDONLY);
+}
+
+bool OpensForAppending(const ioPath& file) noexcept {
+  return Opens(file, O_WRONLY | O_APPEND);
+}
+
+bool HasWritePermission(const ioPath& file) noexcept {
+  // As Qt asks, and also for names that are no text.
+  return file.name_fault().empty() && access(file.native().c_str(), W_OK) == 0;
+}
+
+#endif
+
+}  // namespace Zenvora

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <zenvora/core/Export.h>
+#include <zenvora/core/ioPath.h>
+
+namespace Zenvora {
+
+/// What a file lets this process do. Each opens the file for a moment at the most: nothing is read, written
+/// or made, no time of the file changes. A pipe or a device is opened without waiting for whoever is at its
+/// other end. False also for what is no name (`ioPath::name_fault`). All block on the disk, on any thread.
+
+/// True when the file can be opened for reading. On Linux so can a folder.
+ZENVORA_CORE_EXPORT bool OpensForReading(const ioPath& file) noexcept;
+
+/// True when the file exists and can be opened for writing at its end. Not so a pipe that nobody reads.
+ZENVORA_CORE_EXPORT bool OpensForAppending(const ioPath& file) noexcept;
+
+/// True when the file's permissions let this user write to it, whatever else may be in the way: the answer
+/// of `QFileInfo` to `QFileDevice::WriteUser`, for every name. The superuser may write to any file; on
+/// Windows it is the read-only attribute alone that forbids.
+ZENVORA_CORE_EXPORT bool HasWritePermission(const ioPath& file) noexcept;
+
+}  // namespace Zenvora

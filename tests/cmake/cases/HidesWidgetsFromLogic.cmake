@@ -1,0 +1,3 @@
+room(qtutility KIND SHARED HEADER zenvora/qtutility/Questions.h LINKS Qt5::Core Qt5::Widgets)
+room(host KIND STATIC INCLUDES QWidget USES qtutility)
+set(UNBUILT "QWidget")
