@@ -1,3 +1,5 @@
+#include "BreakableText.h"
+
 #include <zenvora/app/Services.h>
 #include <zenvora/tavolin/StyleAlertBox.h>
 
@@ -60,7 +62,7 @@ QMessageBox::Icon IconOf(App::AlertLevel level) {
 void Dress(QMessageBox& box, const Alert& alert) {
   // Names of files may look like mark-up.
   box.setTextFormat(Qt::PlainText);
-  box.setText(alert.text);
+  box.setText(BreakableText(alert.text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   box.setAccessibleName(alert.title);
   box.setAccessibleDescription(alert.text);
