@@ -20,7 +20,8 @@ namespace Zenvora::Util {
 /// - Otherwise the files that stay come first, by folder, then those to be copied, by folder too, and within
 ///   a folder in the order of `files`. The user chooses the folder, beginning at the one chosen last; one on
 ///   removable storage is refused and asked for again. The choice is remembered in the settings
-///   ("LumidexLastUsedCopyDirectory") and the folder is made if it is missing, which may fail unnoticed.
+///   ("LumidexLastUsedCopyDirectory") and the folder is made if it is missing, which may fail unnoticed
+///   (`App::IFolderAccess` makes it).
 /// - A file whose path begins with the chosen folder, whatever its case, stays. The others get names there
 ///   that no file has, neither on the disk nor in this plan, case ignored: a taken name gets "(1)" behind its
 ///   base name, that name, if taken too, "(3)", and so on: IMG.jpg, IMG(1).jpg, IMG(1)(3).jpg. One without an

@@ -35,12 +35,36 @@ void Put(const std::string& text) {
   std::fflush(stderr);
 }
 
+bool StdinIsTerminal() {
+#ifdef _WIN32
+  DWORD mode = 0;
+  return GetConsoleMode(GetStdHandle(STD_INPUT_HANDLE), &mode) != 0;
+#else
+  return isatty(STDIN_FILENO) == 1;
+#endif
+}
+
 }  // namespace
 
 Console::Console(bool quiet) : quiet_(quiet), showsStatus_(!quiet && StderrIsTerminal()) {}
 
 Console::~Console() {
   ClearStatus();
+}
+
+bool Console::CanAsk() {
+#ifdef _WIN32
+  return StderrIsTerminal() && StdinIsTerminal();
+#else
+  // A plain terminal draws no status line, but serves for this.
+  return isatty(STDERR_FILENO) == 1 && StdinIsTerminal();
+#endif
+}
+
+void Console::Prompt(const std::string& text) {
+  ClearStatus();
+  const std::lock_guard<std::mutex> lock(mutex_);
+  Put(EscapeForTerminal(text) + ' ');
 }
 
 int Console::Columns() {

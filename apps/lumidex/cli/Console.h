@@ -21,6 +21,11 @@ class Console {
   void Warning(const std::string& text);
   void Error(const std::string& text, const std::vector<std::string>& more = {});
 
+  /// A question, which the answer follows on its line; also when quiet.
+  void Prompt(const std::string& text);
+  /// True when somebody can be asked: they see what is written, and what they type arrives.
+  static bool CanAsk();
+
   /// True when a status line would be seen.
   bool ShowsStatus() const { return showsStatus_; }
   /// Columns of the terminal; 80 when it does not say.
