@@ -1,6 +1,7 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileReader.h>
 
+#include <algorithm>
 #include <new>
 
 #ifdef _WIN32
@@ -63,6 +64,28 @@ std::error_code FileReader::Next(std::string_view& piece) {
   }
   piece = {buffer_->bytes, count};
   return {};
+}
+
+std::error_code FileReader::At(std::uint64_t place, std::size_t count, std::string_view& bytes) {
+  // With a place given reading moves the file's own place as well.
+  LARGE_INTEGER own = {};
+  if (!SetFilePointerEx(handle_, {}, &own, FILE_CURRENT)) {
+    return LastSystemError();
+  }
+  OVERLAPPED at = {};
+  at.Offset = static_cast<DWORD>(place);
+  at.OffsetHigh = static_cast<DWORD>(place >> 32U);
+  DWORD got = 0;
+  std::error_code error;
+  if (!ReadFile(handle_, buffer_->bytes, static_cast<DWORD>(std::min(count, kPiece)), &got, &at) &&
+      GetLastError() != ERROR_HANDLE_EOF) {
+    error = LastSystemError();
+  }
+  if (!SetFilePointerEx(handle_, own, nullptr, FILE_BEGIN) && !error) {
+    error = LastSystemError();
+  }
+  bytes = {buffer_->bytes, got};
+  return error;
 }
 
 FileState FileReader::State() const {
@@ -139,6 +162,18 @@ std::error_code FileReader::Next(std::string_view& piece) {
     return LastSystemError();
   }
   piece = {buffer_->bytes, static_cast<std::size_t>(count)};
+  return {};
+}
+
+std::error_code FileReader::At(std::uint64_t place, std::size_t count, std::string_view& bytes) {
+  ssize_t got = 0;
+  do {
+    got = pread(handle_, buffer_->bytes, std::min(count, kPiece), static_cast<off_t>(place));
+  } while (got < 0 && errno == EINTR);
+  if (got < 0) {
+    return LastSystemError();
+  }
+  bytes = {buffer_->bytes, static_cast<std::size_t>(got)};
   return {};
 }
 

@@ -84,7 +84,7 @@ std::error_code WritePiece(std::string_view piece, NewFile& copy) {
   return copy.Write(piece.data(), piece.size());
 }
 
-CopyOutcome CopyContent(FileReader& reader, NewFile& copy, const CopyGoesOn& goesOn) {
+CopyOutcome CopyContent(FileReader& reader, std::uint64_t size, NewFile& copy, const CopyGoesOn& goesOn) {
   CopyOutcome outcome;
   ContentHash hash;
   for (;;) {
@@ -100,6 +100,10 @@ CopyOutcome CopyContent(FileReader& reader, NewFile& copy, const CopyGoesOn& goe
       return NotWritten(error);
     }
     outcome.size += piece.size();
+    // A file that grows as fast as it is read would have no end.
+    if (outcome.size > size) {
+      return outcome;
+    }
     if (goesOn && !goesOn(outcome.size)) {
       return Failed(Status::GivenUp, "given up");
     }
@@ -147,7 +151,7 @@ CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expect
   if (const std::error_code error = written.Create(copy)) {
     return Failed(Status::NoRoom, "no file can be made in the folder of copies: " + ErrorText(error));
   }
-  CopyOutcome outcome = CopyContent(reader, written, goesOn);
+  CopyOutcome outcome = CopyContent(reader, before.size, written, goesOn);
   if (outcome.status != Status::Copied) {
     return outcome;
   }
@@ -212,6 +216,25 @@ CopyOutcome VerifyCopy(const ioPath& copy, const CopyOutcome& copied) {
     return Failed(Status::Different, "read back, the copy differs from what was read");
   }
   return copied;
+}
+
+std::string SketchOf(const ioPath& file) {
+  constexpr std::size_t kPlace = std::size_t{16} * 1024;
+  FileReader reader;
+  if (reader.Open(file)) {
+    return {};
+  }
+  const std::uint64_t size = reader.State().size;
+  const std::uint64_t last = size > kPlace ? size - kPlace : 0;
+  ContentHash hash;
+  for (const std::uint64_t place : {std::uint64_t{0}, last / 2, last}) {
+    std::string_view bytes;
+    if (reader.At(place, kPlace, bytes)) {
+      return {};
+    }
+    hash.Add(bytes);
+  }
+  return std::to_string(size) + '-' + hash.Finish();
 }
 
 bool SameContent(const ioPath& left, const ioPath& right, const CopyGoesOn& goesOn) {

@@ -45,6 +45,10 @@ CopyOutcome CopyToNew(const ioPath& source, const FileState& expected, const ioP
 /// as it lets us, and compares it with what was read from the source. Blocks on the disk; any thread.
 CopyOutcome VerifyCopy(const ioPath& copy, const CopyOutcome& copied);
 
+/// Something that files of one content have in common, and others hardly: made of their size and a few places
+/// in them, so that it is found quickly. Empty when the file cannot be read.
+std::string SketchOf(const ioPath& file);
+
 /// True when both are readable and hold the same bytes. Stops at the first that differ. `goesOn` may be null.
 bool SameContent(const ioPath& left, const ioPath& right, const CopyGoesOn& goesOn);
 

@@ -118,13 +118,13 @@ class Planner {
     const auto known = content.FindPhoto(source);
     if (!known) {
       content.Add(source);
-      fresh_.insert(source.path);
       return false;
     }
-    const bool repeated = fresh_.count(*known) > 0;
-    plan_.known.push_back(
-        {repeated ? KnownFile::Kind::Repeated : KnownFile::Kind::Catalogued, source.path, *known});
-    knownShots_.emplace(source.shot, *known);
+    plan_.known.push_back({known->isSource ? KnownFile::Kind::Repeated : KnownFile::Kind::Catalogued,
+                           source.path, known->path});
+    if (!known->isSource) {
+      knownShots_.emplace(source.shot, known->path);
+    }
     return true;
   }
 
@@ -271,7 +271,6 @@ class Planner {
   ImportPlan plan_;
   /// Of the sources, what is still in question.
   std::vector<std::size_t> chosen_;
-  std::set<ioPath> fresh_;
   std::unordered_map<std::size_t, ioPath> knownShots_;
   /// Of the copies, by shot.
   std::map<std::size_t, std::vector<std::size_t>> shots_;

@@ -7,31 +7,48 @@
 
 namespace Zenvora::Lumidex::Host {
 
+std::vector<ioPath> ContentIndex::Alike(std::uint64_t size, const ioPath& file) {
+  auto [at, end] = pending_.equal_range(size);
+  const bool isNew = at != end;
+  const auto known = sketched_.find(size);
+  if (!isNew && known == sketched_.end()) {
+    return {};
+  }
+  auto& sketches = sketched_[size];
+  for (; at != end; ++at) {
+    // Whoever waits for a pipe waits for ever.
+    if (QueryFile(at->second).kind == FileState::Kind::File) {
+      sketches.emplace(SketchOf(at->second), at->second);
+    }
+  }
+  pending_.erase(size);
+  std::vector<ioPath> alike;
+  const std::string sketch = SketchOf(file);
+  for (auto [match, last] = sketches.equal_range(sketch); !sketch.empty() && match != last; ++match) {
+    alike.push_back(match->second);
+  }
+  return alike;
+}
+
 KnownContent::KnownContent(const std::vector<PhotoRecord>& photos, CopyGoesOn goesOn)
     : goesOn_(std::move(goesOn)) {
-  bySize_.reserve(photos.size());
   for (const PhotoRecord& photo : photos) {
-    bySize_.emplace(photo.size, photo.path);
+    catalogued_.Add(photo.size, photo.path);
   }
 }
 
-std::optional<ioPath> KnownContent::FindPhoto(const ImportSource& source) {
-  for (auto [at, end] = before_.equal_range(source.state.size); at != end; ++at) {
-    if (QueryFile(at->second).identity == source.state.identity ||
-        SameContent(source.path, at->second, goesOn_)) {
-      return at->second;
+std::optional<KnownContent::Known> KnownContent::FindPhoto(const ImportSource& source) {
+  for (const ioPath& other : sources_.Alike(source.state.size, source.path)) {
+    if (SameContent(source.path, other, goesOn_)) {
+      return Known{other, true};
     }
   }
-  for (auto [at, end] = bySize_.equal_range(source.state.size); at != end; ++at) {
-    if (Counts(at->second, source) && SameContent(source.path, at->second, goesOn_)) {
-      return at->second;
+  for (const ioPath& other : catalogued_.Alike(source.state.size, source.path)) {
+    if (Counts(other, source) && SameContent(source.path, other, goesOn_)) {
+      return Known{other, false};
     }
   }
   return std::nullopt;
-}
-
-void KnownContent::Add(const ImportSource& source) {
-  before_.emplace(source.state.size, source.path);
 }
 
 bool KnownContent::Counts(const ioPath& candidate, const ImportSource& source) {
@@ -68,9 +85,8 @@ std::optional<ioPath> KnownCopies::Find(const ImportSource& source) const {
   for (auto [at, end] = bySize_.equal_range(source.state.size); at != end; ++at) {
     const ManifestRecord& record = records_[at->second];
     const ioPath copy = folder_ / record.file;
-    const bool mayBe = source.isPhoto || record.source.filename() == source.path.filename();
-    if (mayBe && IsWhole(record) && QueryFile(copy).identity != source.state.identity &&
-        SameContent(source.path, copy, goesOn_)) {
+    if (record.source.filename() == source.path.filename() && IsWhole(record) &&
+        QueryFile(copy).identity != source.state.identity && SameContent(source.path, copy, goesOn_)) {
       return copy;
     }
   }

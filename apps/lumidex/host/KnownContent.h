@@ -8,31 +8,51 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
-/// Tells which files are there already, under whatever name: by their bytes, which are only read where sizes
+/// Finds the files that may have the content of another: of many of one size, as some cameras write them,
+/// each is looked into once. Blocks on the disk.
+class ContentIndex {
+ public:
+  void Add(std::uint64_t size, const ioPath& file) { pending_.emplace(size, file); }
+  /// Files of that size that look alike.
+  std::vector<ioPath> Alike(std::uint64_t size, const ioPath& file);
+
+ private:
+  /// By size, not looked into yet.
+  std::unordered_multimap<std::uint64_t, ioPath> pending_;
+  std::unordered_map<std::uint64_t, std::unordered_multimap<std::string, ioPath>> sketched_;
+};
+
+/// Tells which photos are there already, under whatever name: by their bytes, which are only read where sizes
 /// agree. Blocks on the disk; belongs to one thread.
 class KnownContent {
  public:
+  struct Known {
+    ioPath path;
+    bool isSource = false;  ///< One that was added.
+  };
+
   /// `photos`: of the catalogue. Those whose files are gone or changed do not count, nor do those that can be
   /// pulled out with a device: whoever has a photo only there wants a copy.
   KnownContent(const std::vector<PhotoRecord>& photos, CopyGoesOn goesOn);
 
-  /// Where the content of the photo is already; empty: nowhere but in the file itself.
-  std::optional<ioPath> FindPhoto(const ImportSource& source);
+  /// Where the content of the photo is already, other than in the file itself.
+  std::optional<Known> FindPhoto(const ImportSource& source);
   /// From now on the content of the photo counts as there.
-  void Add(const ImportSource& source);
+  void Add(const ImportSource& source) { sources_.Add(source.state.size, source.path); }
 
  private:
   bool Counts(const ioPath& candidate, const ImportSource& source);
   bool IsOnRemovable(const ioPath& folder);
 
   const CopyGoesOn goesOn_;
-  std::unordered_multimap<std::uint64_t, ioPath> bySize_;
-  std::unordered_multimap<std::uint64_t, ioPath> before_;
+  ContentIndex catalogued_;
+  ContentIndex sources_;
   std::unordered_map<ioPath, bool> removable_;
 };
 

@@ -35,6 +35,9 @@ class ZENVORA_CORE_EXPORT FileReader {
   std::error_code Open(const ioPath& file, From from = From::Anywhere);
   /// The next piece, empty at the end. Valid until the next call.
   std::error_code Next(std::string_view& piece);
+  /// At most `count` bytes, and no more than a piece, from a place on; empty at the end. The next piece is
+  /// the one that it would have been. Not for a file that is read from its device. Valid until the next call.
+  std::error_code At(std::uint64_t place, std::size_t count, std::string_view& bytes);
   /// What the system says now of the file that is open.
   FileState State() const;
 
