@@ -30,8 +30,8 @@ constexpr char kDescription[] =
     "written. Lists everything at once and changes nothing.";
 
 constexpr char kFooter[] =
-    R"(A folder stands for all photos in it and below it, with their side files; hidden
-files and folders are passed over. What is no photo is not looked at.
+    R"(A folder stands for all photos in it and below it, with their side files;
+hidden files and folders are passed over. What is no photo is not looked at.
 
 Examples:
   lumidex check ~/Pictures

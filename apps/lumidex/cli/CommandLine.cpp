@@ -23,7 +23,7 @@ constexpr char kDescription[] =
 constexpr char kFooter[] =
     R"(Examples:
   lumidex scan ~/Pictures              take the photos into the catalogue
-  lumidex import /media/card           copy photos off a card, compared, and take them in
+  lumidex import /media/card           copy photos off a card, and take them in
   lumidex albums                       see which albums they would make
   lumidex albums --accept "Christmas, December 2023"
   lumidex albums --report albums.html  the same as a page with pictures

@@ -32,7 +32,9 @@ using Status = CopyOutcome::Status;
 using Missing = MissingCopy::Kind;
 
 constexpr auto kProgressInterval = std::chrono::milliseconds(100);
-constexpr int kMostAutomaticThreads = 4;
+/// They wait for the disk more than they compute.
+constexpr int kThreadsPerCore = 4;
+constexpr int kMostAutomaticThreads = 8;
 constexpr int kMostThreads = 16;
 /// Copies that get their names together: each such step waits for the disk a few times.
 constexpr std::size_t kBatchSize = 64;
@@ -41,7 +43,8 @@ constexpr char kPartStart[] = "part-";
 
 int ThreadCount(const ImportOptions& options) {
   const int cores = static_cast<int>(std::thread::hardware_concurrency());
-  const int wanted = options.threads > 0 ? options.threads : std::min(cores, kMostAutomaticThreads);
+  const int wanted =
+      options.threads > 0 ? options.threads : std::min(cores * kThreadsPerCore, kMostAutomaticThreads);
   return std::clamp(wanted, 1, kMostThreads);
 }
 

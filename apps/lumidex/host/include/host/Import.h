@@ -15,7 +15,7 @@
 namespace Zenvora::Lumidex::Host {
 
 struct ImportOptions {
-  /// Threads that read copies back; 0: one per core, at most 4.
+  /// Threads that read copies back; 0: four per core, at most 8.
   int threads = 0;
   /// Set from any thread to stop soon: what is copied whole by then stays.
   const std::atomic<bool>* cancel = nullptr;
