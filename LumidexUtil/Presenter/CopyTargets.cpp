@@ -16,23 +16,29 @@ QString Marked(const QFileInfo& file, int mark) {
          QString::number(mark) + QLatin1String(").") + file.suffix();
 }
 
+/// Equal for the spellings of one name: on Windows either separator may stand in it.
+QString Key(const QString& path) {
+  return QDir::fromNativeSeparators(path).toLower();
+}
+
 }  // namespace
 
 QPair<QString, QString> CopyTargets::Plan(const QString& source) {
-  if (source.startsWith(folder_, Qt::CaseInsensitive)) {
-    taken_.insert(source.toLower());
+  if (QDir::fromNativeSeparators(source).startsWith(QDir::fromNativeSeparators(folder_),
+                                                    Qt::CaseInsensitive)) {
+    taken_.insert(Key(source));
     return {QString(), source};
   }
   QFileInfo candidate(folder_ + QFileInfo(source).fileName());
   for (int mark = FIRST_MARK; IsTaken(candidate.filePath()); mark += MARK_STEP) {
     candidate = QFileInfo(Marked(candidate, mark));
   }
-  taken_.insert(candidate.filePath().toLower());
+  taken_.insert(Key(candidate.filePath()));
   return {source, candidate.filePath()};
 }
 
 bool CopyTargets::IsTaken(const QString& path) const {
-  return taken_.count(path.toLower()) != 0 || exists_(path);
+  return taken_.count(Key(path)) != 0 || exists_(path);
 }
 
 }  // namespace Zenvora::Util

@@ -26,7 +26,7 @@ class CopyTargets {
 
   QString folder_;
   Exists exists_;
-  /// In lower case.
+  /// In lower case, with '/' between parts.
   std::set<QString> taken_;
 };
 

@@ -1,3 +1,4 @@
+#ifdef _WIN32
 #include <zenvora/tavolin/RemovableStorage.h>
 
 #include <map>
@@ -102,3 +103,4 @@ std::shared_ptr<App::IRemovableStorage> MakeSystemRemovableStorage() {
 }
 
 }  // namespace Zenvora::Tavolin
+#endif

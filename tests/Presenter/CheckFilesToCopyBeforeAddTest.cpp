@@ -45,7 +45,7 @@ class CopyBeforeAdd : public Zenvora::Test::DialogFixture {
     return Name(relative);
   }
   QString Target(const QString& folder, const char* name) const {
-    return folder + QDir::separator() + QString::fromUtf8(name);
+    return QDir::fromNativeSeparators(folder) + QLatin1Char('/') + QString::fromUtf8(name);
   }
 
   void Choose(std::vector<QString> folders) {

@@ -36,9 +36,17 @@ TEST_P(Naming, FindsFreeNames) {
       EXPECT_EQ(to, source);
     } else {
       EXPECT_EQ(from, source);
-      EXPECT_EQ(clean(to).toStdString(), "/t/" + row.targets[i]);
+      EXPECT_EQ(to.toStdString(), "/t/" + row.targets[i]);
     }
   }
+}
+
+TEST(Naming, TakesEitherSeparatorOfTheSystem) {
+  CopyTargets targets(QStringLiteral("/T/x") + QDir::separator(), [](const QString&) { return false; });
+  const QString inside = QDir::toNativeSeparators(QStringLiteral("/t/X/IMG.jpg"));
+  EXPECT_EQ(targets.Plan(inside), qMakePair(QString(), inside));
+  EXPECT_EQ(targets.Plan(QStringLiteral("/t/x/b.jpg")), qMakePair(QString(), QStringLiteral("/t/x/b.jpg")));
+  EXPECT_EQ(targets.Plan(QStringLiteral("/s/img.jpg")).second, QStringLiteral("/T/x/img(1).jpg"));
 }
 
 INSTANTIATE_TEST_SUITE_P(

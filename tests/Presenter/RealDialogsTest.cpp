@@ -7,7 +7,6 @@
 #include <support/Doubles.h>
 #include <support/ModalBox.h>
 #include <support/TempTree.h>
-#include <support/WidgetTestMain.h>
 
 #include <gtest/gtest.h>
 
@@ -20,7 +19,6 @@ namespace {
 
 using Zenvora::Test::FakeEnvironment;
 using Zenvora::Test::FakeRemovableStorage;
-using Zenvora::Test::PressWhenShown;
 using Zenvora::Test::ScriptedFolderDialog;
 using Zenvora::Test::TempTree;
 using Zenvora::Test::WhenBoxIsShown;

@@ -157,6 +157,7 @@ TEST_F(Saving, NeedsMoreThanThereIsWhenSizesHaveNoPlaceInTheirSum) {
 TEST_F(Saving, AsksEveryVolumeOnce) {
   space_->otherwise = 1000000;
   std::vector<DataModel> items;
+  items.reserve(1002);
   for (int i = 0; i < 1000; ++i) {
     items.push_back(OnRoot(("folder" + std::to_string(i % 7) + "/" + std::to_string(i)).c_str(), 1));
   }
@@ -205,6 +206,7 @@ TEST_F(Saving, CountsLostItemsForRoomAndFolders) {
 
 TEST_F(SavingInFakeFolders, AsksEveryFolderOnceInTheOrderOfNames) {
   std::vector<DataModel> items;
+  items.reserve(8);
   for (const char* name : {"b/1", "a/1", "b/2", "c/1", "a/2", "a/sub/1"}) {
     items.push_back(Item(ioPath(kRoot) / name));
   }
@@ -239,6 +241,7 @@ TEST_F(Saving, LooksAtRealFolders) {
 
 TEST_F(Saving, TakesFilesThatCanBeWritten) {
   std::vector<DataModel> items;
+  items.reserve(8);
   for (const char* name : {"a.jpg", "Пейзаж.jpg", "写真.jpg", "sub/📷.jpg", "a b.jpg"}) {
     items.push_back(Item(tree_.Write(name, "12345"), 5));
   }
@@ -311,6 +314,7 @@ TEST_F(Saving, SpeaksTheLanguageInForce) {
 
 TEST_F(Saving, LooksAtTenThousandFiles) {
   std::vector<DataModel> items;
+  items.reserve(10001);
   for (int i = 0; i < 10000; ++i) {
     items.push_back(Item(tree_.Write(std::to_string(i / 100) + "/" + std::to_string(i) + ".jpg", ""), 1));
   }

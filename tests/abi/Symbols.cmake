@@ -68,8 +68,8 @@ foreach(name symbol IN ZIP_LISTS mangled readable)
   if(name MATCHES "^[WVu] " AND NOT name MATCHES "^. _Z(T[VIST]|GV|T[hv][n0-9_]+)?NK?7Zenvora")
     continue()
   endif()
-  # The address sanitizer's own marks.
-  if(NOT name MATCHES "^. __(odr_)?asan")
+  # The address sanitizer's own marks, and those of the linker, which come with some libraries that are linked.
+  if(NOT name MATCHES "^. (__(odr_)?asan|(__bss_start|_edata|_end)$)")
     string(REGEX REPLACE "^. " "" symbol "${symbol}")
     list(APPEND exported "${symbol}")
   endif()

@@ -2,7 +2,6 @@
 
 #include <support/Doubles.h>
 #include <support/ModalBox.h>
-#include <support/WidgetTestMain.h>
 
 #include <zenvora/tavolin/StyleAlertBox.h>
 
@@ -25,7 +24,6 @@ namespace {
 using App::Alert;
 using App::AlertButton;
 using App::AlertButtons;
-using App::AlertLevel;
 using Util::AlertBox;
 using Zenvora::Test::PressWhenShown;
 using Zenvora::Test::ScriptedAlerts;
@@ -119,7 +117,8 @@ TEST(MessageBox, HasTheIconOfItsLevel) {
       {AlertBox::Critical, QMessageBox::Critical},
       {AlertBox::Warning, QMessageBox::Warning},
       {AlertBox::Question, QMessageBox::Question}};
-  for (const auto& [level, icon] : rows) {
+  for (const auto& row : rows) {
+    const AlertBox::Level level = row.first;
     Seen seen;
     WhenBoxIsShown([&](QMessageBox& box) {
       seen = See(box);
@@ -136,7 +135,7 @@ TEST(MessageBox, HasTheIconOfItsLevel) {
         QStringLiteral("Some of the selected photos are in read-only formats (for example, RAW). They "
                        "will be converted to JPG or PNG after applying the tool."),
         QMessageBox::Ok | QMessageBox::Cancel, nullptr, kFlags));
-    EXPECT_EQ(seen.icon, icon);
+    EXPECT_EQ(seen.icon, row.second);
   }
 }
 

@@ -8,6 +8,8 @@ foreach(file IN ITEMS ${libraries}
     ${LIBDIR}/cmake/LumidexUtil/LumidexUtilConfig.cmake ${LIBDIR}/cmake/LumidexUtil/LumidexUtilConfigVersion.cmake
     ${LIBDIR}/cmake/LumidexUtil/LumidexUtilTargets.cmake ${LIBDIR}/pkgconfig/LumidexUtil.pc
     ${HEADERS}/LumidexUtil/Export.h ${HEADERS}/LumidexUtil/HolidayAlbums.h ${HEADERS}/LumidexUtil/Wording.h
+    ${HEADERS}/LumidexUtil/CheckFilesReadable.h ${HEADERS}/LumidexUtil/CheckFilesToCopyBeforeAdd.h
+    ${HEADERS}/LumidexUtil/CheckFormatsWritable.h ${HEADERS}/LumidexUtil/CheckSaveAvailable.h
     ${HEADERS}/zenvora/core/ioPath.h ${HEADERS}/zenvora/lumidex/DataModel.h
     ${DATADIR}/lumidex/HolidayEvents.json ${DOCDIR}/LICENSE)
   if(NOT EXISTS "${TREE}/${file}")

@@ -2,7 +2,6 @@
 
 #include <support/Doubles.h>
 #include <support/TempTree.h>
-#include <support/WidgetTestMain.h>
 
 #include <zenvora/qtutility/StandardDialogs.h>
 

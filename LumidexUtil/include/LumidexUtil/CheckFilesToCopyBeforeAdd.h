@@ -25,7 +25,8 @@ namespace Zenvora::Util {
 /// - A file whose path begins with the chosen folder, whatever its case, stays. The others get names there
 ///   that no file has, neither on the disk nor in this plan, case ignored: a taken name gets "(1)" behind its
 ///   base name, that name, if taken too, "(3)", and so on: IMG.jpg, IMG(1).jpg, IMG(1)(3).jpg. One without an
-///   extension ends in a dot then. Somebody else may take a name later: copy without replacing.
+///   extension ends in a dot then. The new paths have '/' between their parts. Somebody else may take a name
+///   later: copy without replacing.
 ///
 /// Whether a file lies on removable storage is asked of its real folder, links followed. Never throws. GUI
 /// thread only: blocks until the user answered.

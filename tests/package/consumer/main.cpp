@@ -1,5 +1,10 @@
-// What a program of somebody else does with the library: words a count and groups twenty photos of a weekend.
+// What a program of somebody else does with the library: words a count, checks what it is about to save and
+// groups twenty photos of a weekend.
 
+#include <LumidexUtil/CheckFilesReadable.h>
+#include <LumidexUtil/CheckFilesToCopyBeforeAdd.h>
+#include <LumidexUtil/CheckFormatsWritable.h>
+#include <LumidexUtil/CheckSaveAvailable.h>
 #include <LumidexUtil/HolidayAlbums.h>
 #include <LumidexUtil/Wording.h>
 
@@ -10,10 +15,29 @@
 #include <iostream>
 #include <vector>
 
+// Nothing is in the way: no prompt comes up, which a program without windows could not show.
+bool IsReadyToSave(const QString& program) {
+  Zenvora::Lumidex::DataModel item;
+  item.SetPath(Zenvora::ioPath(QStringLiteral("a.jpg")));
+  const auto mode = Zenvora::Util::CheckSaveAvailableMode::DiskSpace |
+                    Zenvora::Util::CheckSaveAvailableMode::FolderPermission;
+  return Zenvora::Util::CheckFormatsWritableDialog({item}) &&
+         Zenvora::Util::CheckSaveAvailableDialog({item}, mode) &&
+         Zenvora::Util::CheckSaveAvailableDialog(Zenvora::ioPath("."), 1, QMessageBox::Ok) ==
+             QMessageBox::NoButton &&
+         Zenvora::Util::CheckFilesReadableDialog({program}).size() == 1 &&
+         Zenvora::Util::CheckFilesToCopyBeforeAddDialog({}).isEmpty();
+}
+
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   if (Zenvora::Util::GetCountString("photo", "photos", 3) != QStringLiteral("photos")) {
     std::cerr << "wrong wording\n";
+    return 1;
+  }
+
+  if (!IsReadyToSave(QCoreApplication::applicationFilePath())) {
+    std::cerr << "something is in the way\n";
     return 1;
   }
 

@@ -15,6 +15,10 @@ namespace Zenvora::Test {
 template <class QtApplication>
 int RunTests(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
+  // The build asks for the names, in surroundings of its own.
+  if (::testing::GTEST_FLAG(list_tests)) {
+    return RUN_ALL_TESTS();
+  }
 
   const QTemporaryDir home;
   qputenv("HOME", home.path().toUtf8());
