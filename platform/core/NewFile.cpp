@@ -211,12 +211,6 @@ std::error_code NewFile::Close(bool durable) {
   if (std::fflush(stream_) != 0 || (durable && !Sync(stream_))) {
     return LastError();
   }
-#ifndef _WIN32
-  if (!durable) {
-    // Whoever waits for the disk later waits less.
-    sync_file_range(fileno(stream_), 0, 0, SYNC_FILE_RANGE_WRITE);
-  }
-#endif
   std::FILE* const stream = std::exchange(stream_, nullptr);
   return std::fclose(stream) == 0 ? std::error_code() : LastError();
 }

@@ -10,6 +10,7 @@
 
 #include <zenvora/core/FileProbes.h>
 #include <zenvora/qtutility/DiskQuestions.h>
+#include <zenvora/tavolin/NativePath.h>
 
 #include <QHash>
 #include <QSet>
@@ -164,7 +165,7 @@ class Planner {
     }
     TakeOver(pairs);
     if (!plan_.copies.empty()) {
-      plan_.folder = questions.ChosenFolder();
+      plan_.folder = Tavolin::FromNative(questions.ChosenFolder());
       FindSplits();
       LookAtFolder();
     }
@@ -180,7 +181,7 @@ class Planner {
     for (const auto& [source, target] : pairs) {
       toCopy.insert(source);
     }
-    const KnownCopies copies(folder, GoesOn());
+    const KnownCopies copies(Tavolin::FromNative(folder), GoesOn());
     std::vector<std::size_t> rest;
     for (const std::size_t i : chosen_) {
       const ImportSource& source = sources_[i];
@@ -208,7 +209,8 @@ class Planner {
     for (const auto& [source, target] : pairs) {
       const ImportSource& file = sources_[places.value(source.isEmpty() ? target : source)];
       if (!source.isEmpty()) {
-        plan_.copies.push_back({file.path, file.state, PathOfReversible(target), file.isPhoto});
+        plan_.copies.push_back(
+            {file.path, file.state, Tavolin::FromNative(PathOfReversible(target)), file.isPhoto});
         plan_.bytes += file.state.size;
         shots_[file.shot].push_back(plan_.copies.size() - 1);
       } else if (file.isPhoto) {
