@@ -6,6 +6,7 @@
 #include "Options.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "ValueTexts.h"
 
 #include <host/SaveChecks.h>
 
@@ -91,9 +92,8 @@ std::string VolumesText(const CheckReport& report) {
                    {"Needed", TextTable::Align::Right},
                    {"Free", TextTable::Align::Right}});
   for (const Host::CheckedVolume& volume : report.volumes) {
-    table.AddRow(
-        {volume.folder.utf8string(), GroupDigits(volume.files), SizeText(volume.bytesNeeded),
-         volume.bytesFree > 0 ? SizeText(static_cast<unsigned long long>(volume.bytesFree)) : "unknown"});
+    table.AddRow({volume.folder.utf8string(), GroupDigits(volume.files), SizeText(volume.bytesNeeded),
+                  volume.bytesFree > 0 ? SizeText(static_cast<std::uint64_t>(volume.bytesFree)) : "unknown"});
   }
   return table.Text() + '\n';
 }

@@ -4,9 +4,9 @@
 #include "JsonWriter.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "ValueTexts.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -293,24 +293,6 @@ const char* LeftKindName(LeftFile::Kind kind) {
       return "loop";
   }
   return "";
-}
-
-std::string SizeText(unsigned long long bytes) {
-  constexpr unsigned long long kStep = 1000;
-  if (bytes < kStep) {
-    return Counted(bytes, "byte");
-  }
-  static constexpr const char* kUnits[] = {"kB", "MB", "GB", "TB", "PB", "EB"};
-  double number = static_cast<double>(bytes) / static_cast<double>(kStep);
-  std::size_t unit = 0;
-  // What would be rounded to 1000.0 is 1.0 of the next.
-  while (number >= 999.95 && unit + 1 < std::size(kUnits)) {
-    number /= static_cast<double>(kStep);
-    ++unit;
-  }
-  char text[32];
-  std::snprintf(text, sizeof text, "%.1f %s", number, kUnits[unit]);
-  return text;
 }
 
 std::string ImportDocument(const ImportView& view) {

@@ -24,9 +24,6 @@ struct ImportView {
 std::string ImportDocument(const ImportView& view);
 std::string ImportText(const ImportView& view);
 
-/// "1,234 bytes", "12.3 MB".
-std::string SizeText(unsigned long long bytes);
-
 /// "not-a-photo", "no-file", "unreadable", "loop".
 const char* LeftKindName(Host::LeftFile::Kind kind);
 
