@@ -22,11 +22,13 @@ using Test::Pipe;
 using Test::TempTree;
 using From = FileReader::From;
 
+constexpr std::size_t kPiece = FileReader::kPiece;
+
 std::string ContentOf(FileReader& reader) {
   std::string content;
   for (std::string_view piece;;) {
     EXPECT_FALSE(reader.Next(piece));
-    EXPECT_LE(piece.size(), FileReader::kPiece);
+    EXPECT_LE(piece.size(), kPiece);
     if (piece.empty()) {
       return content;
     }
@@ -51,8 +53,7 @@ TEST_P(FileReaderSizes, ReadsAllOfTheFileWhereverItComesFrom) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AroundThePiece, FileReaderSizes,
-                         testing::Values(0, 1, 511, 4096, FileReader::kPiece - 1, FileReader::kPiece,
-                                         FileReader::kPiece + 1, 3 * FileReader::kPiece + 17));
+                         testing::Values(0, 1, 511, 4096, kPiece - 1, kPiece, kPiece + 1, 3 * kPiece + 17));
 
 TEST(FileReader, RefusesWhatIsNoFile) {
   const TempTree tree;

@@ -36,7 +36,12 @@ ioPath Place(const TempTree& tree) {
 }
 
 TEST(ManifestLine, LeadsBackToItsRecord) {
-  for (const char* const name : {"a.jpg", "\xD0\xB1 \xE5\x86\x99.jpg", "two\nlines.jpg", "\"quoted\".jpg"}) {
+  std::vector<std::string> names = {"a.jpg", "\xD0\xB1 \xE5\x86\x99.jpg", "o'clock.jpg"};
+#ifndef _WIN32
+  // Names that no file can have there.
+  names.insert(names.end(), {"two\nlines.jpg", "\"quoted\".jpg"});
+#endif
+  for (const std::string& name : names) {
     const QByteArray line = ManifestLine(Record(name, ioPath("/card") / name), 0);
     EXPECT_EQ(line.count('\n'), 1) << "one line whatever the name";
     const auto record = ParseManifestLine(line);
