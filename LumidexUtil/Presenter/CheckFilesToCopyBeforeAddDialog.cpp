@@ -6,6 +6,7 @@
 #include <zenvora/app/ISettingsManager.h>
 #include <zenvora/app/Services.h>
 #include <zenvora/core/ioPath.h>
+#include <zenvora/qtutility/DiskQuestions.h>
 #include <zenvora/qtutility/StandardDialogs.h>
 #include <zenvora/tavolin/RemovableStorage.h>
 #include <zenvora/tavolin/StandardFolders.h>
@@ -96,7 +97,7 @@ bool IsTaken(const QString& path) {
 void AddCopies(const QList<QString>& files, const QString& folder, Plan& plan) {
   const QString target = folder + QDir::separator();
   // A folder that cannot be made is told by whoever copies.
-  QDir().mkpath(target);
+  MakeFolder(folder);
   CopyTargets targets(target, IsTaken);
   for (const QString& file : files) {
     plan.append(targets.Plan(file));

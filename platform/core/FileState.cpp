@@ -16,32 +16,18 @@ namespace {
 
 #ifdef _WIN32
 
-FileState AskSystem(const ioPath& file) {
+FileState AskHandle(HANDLE handle) {
   FileState state;
-  HANDLE handle = CreateFileW(file.for_system().c_str(), FILE_READ_ATTRIBUTES,
-                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                              FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-  if (handle != INVALID_HANDLE_VALUE && GetFileType(handle) != FILE_TYPE_DISK) {
+  if (GetFileType(handle) != FILE_TYPE_DISK) {
     // The system tells nothing more of pipes and devices.
-    CloseHandle(handle);
     state.kind = FileState::Kind::Other;
     return state;
   }
   BY_HANDLE_FILE_INFORMATION facts;
-  if (handle == INVALID_HANDLE_VALUE || !GetFileInformationByHandle(handle, &facts)) {
+  if (!GetFileInformationByHandle(handle, &facts)) {
     state.error = LastSystemError();
-    // Not by the standard's conditions: they take a server that is gone for a file that is.
-    if (state.error.value() == ERROR_CANT_RESOLVE_FILENAME) {
-      state.kind = FileState::Kind::Loop;
-    } else if (state.error.value() == ERROR_FILE_NOT_FOUND || state.error.value() == ERROR_PATH_NOT_FOUND) {
-      state.kind = FileState::Kind::Missing;
-    }
-    if (handle != INVALID_HANDLE_VALUE) {
-      CloseHandle(handle);
-    }
     return state;
   }
-  CloseHandle(handle);
   const auto join = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; };
   state.kind = (facts.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileState::Kind::Folder
                                                                         : FileState::Kind::File;
@@ -57,20 +43,40 @@ FileState AskSystem(const ioPath& file) {
   return state;
 }
 
-#else
+/// Not by the standard's conditions: they take a server that is gone for a file that is.
+FileState::Kind KindOfFailure(const std::error_code& error) {
+  switch (error.value()) {
+    case ERROR_CANT_RESOLVE_FILENAME:
+      return FileState::Kind::Loop;
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+      return FileState::Kind::Missing;
+    default:
+      return FileState::Kind::Unknown;
+  }
+}
 
 FileState AskSystem(const ioPath& file) {
   FileState state;
-  struct stat facts = {};
-  if (stat(file.native().c_str(), &facts) != 0) {
+  const HANDLE handle = CreateFileW(file.for_system().c_str(), FILE_READ_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) {
     state.error = LastSystemError();
-    if (errno == ENOENT || errno == ENOTDIR) {
-      state.kind = FileState::Kind::Missing;
-    } else if (errno == ELOOP) {
-      state.kind = FileState::Kind::Loop;
-    }
-    return state;
+  } else {
+    state = AskHandle(handle);
+    CloseHandle(handle);
   }
+  if (state.error) {
+    state.kind = KindOfFailure(state.error);
+  }
+  return state;
+}
+
+#else
+
+FileState StateOf(const struct stat& facts) {
+  FileState state;
   if (S_ISREG(facts.st_mode)) {
     state.kind = FileState::Kind::File;
   } else if (S_ISDIR(facts.st_mode)) {
@@ -90,6 +96,21 @@ FileState AskSystem(const ioPath& file) {
   return state;
 }
 
+FileState AskSystem(const ioPath& file) {
+  struct stat facts = {};
+  if (stat(file.native().c_str(), &facts) == 0) {
+    return StateOf(facts);
+  }
+  FileState state;
+  state.error = LastSystemError();
+  if (errno == ENOENT || errno == ENOTDIR) {
+    state.kind = FileState::Kind::Missing;
+  } else if (errno == ELOOP) {
+    state.kind = FileState::Kind::Loop;
+  }
+  return state;
+}
+
 #endif
 
 }  // namespace
@@ -104,6 +125,22 @@ FileState QueryFile(const ioPath& file) noexcept {
   }
   return AskSystem(file);
 }
+
+#ifdef _WIN32
+FileState QueryOpenFile(void* handle) noexcept {
+  return AskHandle(handle);
+}
+#else
+FileState QueryOpenFile(int handle) noexcept {
+  struct stat facts = {};
+  if (fstat(handle, &facts) == 0) {
+    return StateOf(facts);
+  }
+  FileState state;
+  state.error = LastSystemError();
+  return state;
+}
+#endif
 
 bool IsSameFile(const ioPath& left, const ioPath& right) noexcept {
   const auto isThere = [](const FileState& state) {

@@ -149,8 +149,35 @@ std::error_code NewFile::Write(const void* bytes, std::size_t count) {
   return std::fwrite(bytes, 1, count, stream_) == count ? std::error_code() : LastError();
 }
 
+std::error_code NewFile::Skip(std::size_t count) {
+  errno = 0;
+  skipped_ = true;
+#ifdef _WIN32
+  return _fseeki64(stream_, static_cast<__int64>(count), SEEK_CUR) == 0 ? std::error_code() : LastError();
+#else
+  return fseeko(stream_, static_cast<off_t>(count), SEEK_CUR) == 0 ? std::error_code() : LastError();
+#endif
+}
+
+std::error_code NewFile::EndSkipped() {
+  if (!std::exchange(skipped_, false)) {
+    return {};
+  }
+#ifdef _WIN32
+  const __int64 end = _ftelli64(stream_);
+  const bool done = end >= 0 && std::fflush(stream_) == 0 && _chsize_s(_fileno(stream_), end) == 0;
+#else
+  const off_t end = ftello(stream_);
+  const bool done = end >= 0 && std::fflush(stream_) == 0 && ftruncate(fileno(stream_), end) == 0;
+#endif
+  return done ? std::error_code() : LastError();
+}
+
 std::error_code NewFile::SetModified(std::int64_t ns) {
   errno = 0;
+  if (const std::error_code error = EndSkipped()) {
+    return error;
+  }
   // What is written later would change it again.
   if (std::fflush(stream_) != 0) {
     return LastError();
@@ -178,6 +205,9 @@ std::error_code NewFile::SetModified(std::int64_t ns) {
 
 std::error_code NewFile::Close(bool durable) {
   errno = 0;
+  if (const std::error_code error = EndSkipped()) {
+    return error;
+  }
   if (std::fflush(stream_) != 0 || (durable && !Sync(stream_))) {
     return LastError();
   }

@@ -32,6 +32,10 @@ bool CanReadFileIn(const QString& folder) {
   return FolderAccess()->CanReadFileIn(ioPath(folder));
 }
 
+bool MakeFolder(const QString& folder) {
+  return FolderAccess()->MakeFolder(ioPath(folder));
+}
+
 std::int64_t GetAvailableDiskSpace(const ioPath& place) {
   return DiskSpace()->FreeBytes(place);
 }

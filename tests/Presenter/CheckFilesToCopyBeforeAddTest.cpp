@@ -212,6 +212,28 @@ TEST_F(CopyBeforeAdd, RemembersTheFolderOnceAndBeforeNaming) {
   EXPECT_TRUE(QFileInfo(target).isDir()) << "a missing folder is made with its parents";
 }
 
+/// Remembers which folders are to be made, and makes none.
+class NoNewFolders : public Zenvora::Test::FakeFolderAccess {
+ public:
+  bool MakeFolder(const ioPath& folder) const override {
+    wanted.push_back(folder);
+    return false;
+  }
+  mutable std::vector<ioPath> wanted;
+};
+
+TEST_F(CopyBeforeAdd, LetsTheServiceMakeTheFolder) {
+  const auto access = std::make_shared<NoNewFolders>();
+  const App::ServiceScope<App::IFolderAccess> scope(access);
+  const QString target = Name("new/deep");
+  const QString source = Make("stick/1.jpg");
+  Answer({AlertButton::Yes});
+  Choose({target});
+  EXPECT_EQ(CheckFilesToCopyBeforeAddDialog({source}), (Plan{{source, Target(target, "1.jpg")}}));
+  EXPECT_EQ(access->wanted, std::vector<ioPath>{ioPath(target)});
+  EXPECT_FALSE(QFileInfo::exists(Name("new")));
+}
+
 TEST_F(CopyBeforeAdd, PlansAlsoWhereTheFolderCannotBeMade) {
   const QString target = Make("file") + QStringLiteral("/sub");
   const QString source = Make("stick/1.jpg");

@@ -14,6 +14,8 @@ using ::testing::IsEmpty;
 const std::vector<QStringList>& Commands() {
   static const std::vector<QStringList> commands = {{},
                                                     {"scan"},
+                                                    {"import"},
+                                                    {"check"},
                                                     {"albums"},
                                                     {"rename"},
                                                     {"similar"},

@@ -31,6 +31,21 @@ std::error_code Put(NewFile& file, const std::string& text) {
   return file.Write(text.data(), text.size());
 }
 
+TEST(NewFile, ReadsZerosWhereItSkipped) {
+  const TempTree tree;
+  const ioPath path = tree.Path("a");
+  NewFile file;
+  ASSERT_FALSE(file.Create(path));
+  EXPECT_FALSE(file.Skip(3));
+  EXPECT_FALSE(Put(file, "x"));
+  EXPECT_FALSE(file.Skip(2));
+  EXPECT_FALSE(file.SetModified(1'600'000'000'000'000'000));
+  EXPECT_FALSE(file.Close(false));
+  file.Release();
+  EXPECT_EQ(ReadFile(path), std::string("\0\0\0x\0\0", 6));
+  EXPECT_EQ(QueryFile(path).modifiedNs, 1'600'000'000'000'000'000);
+}
+
 TEST(NewFile, StaysWhenReleased) {
   const TempTree tree;
   const ioPath path = tree.Path("a");

@@ -57,7 +57,7 @@ class TrashJournal : public ::testing::Test {
     return tree_.Write("photos/" + name, content);
   }
 
-  static KnownFile Known(const ioPath& file) {
+  static SeenFile Known(const ioPath& file) {
     const FileState state = QueryFile(file);
     return {file, state.size, state.modifiedNs};
   }
@@ -105,7 +105,7 @@ class TrashJournal : public ::testing::Test {
     std::vector<PhotoRecord> records;
     for (const std::string& name : names) {
       PhotoRecord record;
-      const KnownFile file = Known(Photo(name));
+      const SeenFile file = Known(Photo(name));
       record.path = file.path;
       record.size = file.size;
       record.modifiedNs = file.modifiedNs;

@@ -52,7 +52,7 @@ class TrashPlanTest : public ::testing::Test {
     std::vector<std::string> names;
     for (const TrashPhoto& photo : plan.photos) {
       std::string name = Name(photo.photo.path);
-      for (const KnownFile& file : photo.appendix) {
+      for (const SeenFile& file : photo.appendix) {
         name += " +" + Name(file.path);
       }
       names.push_back(name);

@@ -98,6 +98,16 @@ TEST_P(FolderAccessContract, AllowsNothingInWhatIsNoFolder) {
   }
 }
 
+TEST_P(FolderAccessContract, MakesFoldersWithTheirParents) {
+  const TempTree tree;
+  const auto access = Make({});
+  EXPECT_TRUE(access->MakeFolder(tree.Path("new/deep")));
+  EXPECT_TRUE(access->MakeFolder(tree.Path("new/deep"))) << "it is there";
+  EXPECT_TRUE(fs::is_directory(tree.Path("new/deep").native()));
+  tree.Write("file", "x");
+  EXPECT_FALSE(access->MakeFolder(tree.Path("file/below")));
+}
+
 INSTANTIATE_TEST_SUITE_P(Both, FolderAccessContract, testing::Bool());
 
 TEST(DiskQuestions, AreAskedOfTheRegistry) {

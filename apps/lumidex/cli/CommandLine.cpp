@@ -23,6 +23,7 @@ constexpr char kDescription[] =
 constexpr char kFooter[] =
     R"(Examples:
   lumidex scan ~/Pictures              take the photos into the catalogue
+  lumidex import /media/card           copy photos off a card, and take them in
   lumidex albums                       see which albums they would make
   lumidex albums --accept "Christmas, December 2023"
   lumidex albums --report albums.html  the same as a page with pictures
@@ -66,6 +67,8 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   program->add_flag("-v,--verbose", globals.verbosity, "Print the log; twice: with more detail.")
       ->disable_flag_override();
   AddScanCommand(*program, chosen);
+  AddImportCommand(*program, chosen);
+  AddCheckCommand(*program, chosen);
   AddAlbumsCommand(*program, chosen);
   AddSimilarCommand(*program, chosen);
   AddRenameCommand(*program, chosen);

@@ -9,6 +9,8 @@ namespace Zenvora::Lumidex::Cli {
 /// Each adds one command, or some of a kind, to the program. Parsing one puts what is to be done into
 /// `chosen`.
 void AddScanCommand(CLI::App& program, Action& chosen);
+void AddImportCommand(CLI::App& program, Action& chosen);
+void AddCheckCommand(CLI::App& program, Action& chosen);
 void AddAlbumsCommand(CLI::App& program, Action& chosen);
 void AddSimilarCommand(CLI::App& program, Action& chosen);
 void AddRenameCommand(CLI::App& program, Action& chosen);

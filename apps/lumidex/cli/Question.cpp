@@ -16,7 +16,8 @@ namespace Zenvora::Lumidex::Cli {
 
 namespace {
 
-constexpr std::size_t kLongestAnswer = 1000;
+// No path is longer; what is longer comes from no person.
+constexpr std::size_t kLongestLine = 65536;
 
 #ifdef _WIN32
 
@@ -68,21 +69,25 @@ bool IsYes(const std::string& answer) {
   return word == "y" || word == "yes";
 }
 
-bool Ask(Console& console, const std::string& facts, const std::string& question,
-         const std::atomic<bool>& interrupted) {
-  console.Show(facts + question + ' ');
-  std::string answer;
-  for (char byte = 0; ReadByte(byte, interrupted);) {
+std::optional<std::string> AskForLine(Console& console, const std::string& question,
+                                      const std::atomic<bool>& interrupted) {
+  console.Show(question + ' ');
+  std::string line;
+  for (char byte = 0; ReadByte(byte, interrupted) && line.size() < kLongestLine;) {
     if (byte == '\n') {
-      return !interrupted && IsYes(answer);
+      return interrupted ? std::nullopt : std::optional(line);
     }
-    if (answer.size() < kLongestAnswer) {
-      answer += byte;
-    }
+    line += byte;
   }
   // No line of an answer ends the one of the question.
   console.Show("\n");
-  return false;
+  return std::nullopt;
+}
+
+bool Ask(Console& console, const std::string& facts, const std::string& question,
+         const std::atomic<bool>& interrupted) {
+  const auto line = AskForLine(console, facts + question, interrupted);
+  return line && IsYes(*line);
 }
 
 }  // namespace Zenvora::Lumidex::Cli

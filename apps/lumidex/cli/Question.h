@@ -3,6 +3,7 @@
 #include "Console.h"
 
 #include <atomic>
+#include <optional>
 #include <string>
 
 namespace Zenvora::Lumidex::Cli {
@@ -10,6 +11,11 @@ namespace Zenvora::Lumidex::Cli {
 /// True when somebody can be asked and can answer: the standard input and the standard error stream are a
 /// terminal.
 bool CanAsk();
+
+/// Shows `question` (escaped) on the standard error stream and waits for a line, which is returned without
+/// its end. None at the end of the input, also within a line, and when `interrupted` becomes true meanwhile.
+std::optional<std::string> AskForLine(Console& console, const std::string& question,
+                                      const std::atomic<bool>& interrupted);
 
 /// Shows `facts` (escaped lines) on the standard error stream, asks `question` and waits for a line. True for
 /// "y" and "yes" in any case; false for every other answer, for the end of the input, and when `interrupted`

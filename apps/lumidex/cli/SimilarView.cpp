@@ -118,7 +118,7 @@ std::string GroupText(const SimilarView::Group& shown, std::size_t number, const
                   TakenText(member), member.photo.path.utf8string(),
                   isKeeper ? ReasonsText(shown.keeper) : ""});
     for (std::size_t j = 0; going != nullptr && j < going->appendix.size(); ++j) {
-      const Host::KnownFile& file = going->appendix[j];
+      const Host::SeenFile& file = going->appendix[j];
       table.AddRow({verdict, "", "", SizeText(file.size), "", file.path.utf8string(), ""});
     }
   }

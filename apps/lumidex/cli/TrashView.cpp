@@ -26,7 +26,7 @@ std::string OutcomeText(const TrashView& view) {
          (view.canBeUndone ? "; \"lumidex undo\" brings back what is still there.\n" : ".\n");
 }
 
-void WriteFile(JsonWriter& json, const Host::KnownFile& file, const Host::KnownFile& kept) {
+void WriteFile(JsonWriter& json, const Host::SeenFile& file, const Host::SeenFile& kept) {
   json.BeginObject();
   json.Path("path", file.path);
   json.Path("kept", kept.path);
@@ -78,7 +78,7 @@ void WriteTrash(JsonWriter& json, const TrashView& view) {
   json.BeginArray("planned");
   for (const Host::TrashPhoto& photo : view.plan.photos) {
     WriteFile(json, photo.photo, photo.kept);
-    for (const Host::KnownFile& file : photo.appendix) {
+    for (const Host::SeenFile& file : photo.appendix) {
       WriteFile(json, file, photo.kept);
     }
   }

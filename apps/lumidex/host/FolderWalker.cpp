@@ -10,6 +10,8 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
+constexpr char kNoFile[] = "It is a pipe or a device";
+
 bool HasHiddenName(const ioPath& file) {
   const std::string name = file.filename().utf8string();
   return !name.empty() && name.front() == '.';
@@ -38,7 +40,7 @@ bool IsAtOrBelow(const ioPath& path, const ioPath& folder) {
   return std::mismatch(start.begin(), start.end(), whole.begin(), whole.end()).first == start.end();
 }
 
-FolderWalker::FolderWalker(const std::vector<ioPath>& roots) {
+FolderWalker::FolderWalker(const std::vector<ioPath>& roots, Wanted wanted) : wanted_(wanted) {
   for (const ioPath& root : roots) {
     if (QueryFile(root).kind == FileState::Kind::File) {
       if (takenFiles_.insert(root).second) {
@@ -72,6 +74,10 @@ bool FolderWalker::Next(Found& found) {
       Report(ScanFinding::Kind::Unreadable, found.path, ErrorText(found.state.error));
     }
   }
+}
+
+bool FolderWalker::IsWanted(const ioPath& file) const {
+  return wanted_ == Wanted::Files || IsPhotoName(file);
 }
 
 bool FolderWalker::Advance() {
@@ -137,11 +143,12 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
         links.push_back(entry.name);
         break;
       case FolderEntry::Kind::File:
-        if (IsPhotoName(entry.name)) {
+        if (IsWanted(entry.name)) {
           files.push_back(entry.name.utf8string());
         }
         break;
       case FolderEntry::Kind::Other:
+        ReportOther(folder.path / entry.name);
         break;
     }
   }
@@ -161,12 +168,12 @@ void FolderWalker::TakeLink(const ioPath& link) {
       folderLinks_.push_back(link);
       break;
     case FileState::Kind::File:
-      if (IsPhotoName(link)) {
+      if (IsWanted(link)) {
         fileLinks_.push_back(link);
       }
       break;
     case FileState::Kind::Missing:
-      if (IsPhotoName(link)) {
+      if (IsWanted(link)) {
         Report(ScanFinding::Kind::Unreadable, link, "The link leads to a file that is missing");
       }
       break;
@@ -177,6 +184,7 @@ void FolderWalker::TakeLink(const ioPath& link) {
       ReportUnreadableFolder(link, ErrorText(state.error));
       break;
     case FileState::Kind::Other:
+      ReportOther(link);
       break;
   }
 }
@@ -208,7 +216,7 @@ void FolderWalker::TakeFileLink(const ioPath& link) {
 bool FolderWalker::IsFoundWithoutLink(const ioPath& target) const {
   const FileState home = QueryFile(target.parent_path());
   return home.kind == FileState::Kind::Folder && visited_.count(home.identity) > 0 &&
-         !HasHiddenName(target) && IsPhotoName(target);
+         !HasHiddenName(target) && IsWanted(target);
 }
 
 bool FolderWalker::IsHidden(const ioPath& file) const {
@@ -218,6 +226,12 @@ bool FolderWalker::IsHidden(const ioPath& file) const {
 
 void FolderWalker::Report(ScanFinding::Kind kind, const ioPath& path, const std::string& cause) {
   findings_.push_back({kind, path, cause});
+}
+
+void FolderWalker::ReportOther(const ioPath& path) {
+  if (wanted_ == Wanted::Files) {
+    Report(ScanFinding::Kind::Unreadable, path, kNoFile);
+  }
 }
 
 void FolderWalker::ReportUnreadableFolder(const ioPath& path, const std::string& cause) {

@@ -25,10 +25,15 @@ class FolderWalker {
     FileState state;
   };
 
-  /// `roots`: existing files and folders by their canonical paths. Files are taken whatever their names.
-  explicit FolderWalker(const std::vector<ioPath>& roots);
+  enum class Wanted {
+    Photos,  ///< Files that are named like photos.
+    Files,   ///< All of them; pipes and devices are findings then.
+  };
 
-  /// The next photo; false at the end.
+  /// `roots`: existing files and folders by their canonical paths. Files are taken whatever their names.
+  explicit FolderWalker(const std::vector<ioPath>& roots, Wanted wanted = Wanted::Photos);
+
+  /// The next file; false at the end.
   bool Next(Found& found);
 
   const std::vector<ScanFinding>& Findings() const { return findings_; }
@@ -41,6 +46,7 @@ class FolderWalker {
     bool throughLink = false;
   };
 
+  bool IsWanted(const ioPath& file) const;
   bool Advance();
   void ReadFolder(const Folder& folder);
   void TakeEntries(const Folder& folder, std::vector<std::string>& folders, std::vector<std::string>& files);
@@ -50,8 +56,10 @@ class FolderWalker {
   void TakeFileLink(const ioPath& link);
   bool IsFoundWithoutLink(const ioPath& target) const;
   void Report(ScanFinding::Kind kind, const ioPath& path, const std::string& cause);
+  void ReportOther(const ioPath& path);
   void ReportUnreadableFolder(const ioPath& path, const std::string& cause);
 
+  const Wanted wanted_;
   std::unordered_set<ioPath> rootFolders_;
   std::unordered_set<ioPath> walkedRoots_;
   /// Root files, and what file links led to.

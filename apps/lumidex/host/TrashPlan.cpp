@@ -25,7 +25,7 @@ namespace {
 
 using Identity = std::pair<std::uint64_t, std::uint64_t>;
 
-KnownFile KnownAs(const PhotoRecord& photo) {
+SeenFile KnownAs(const PhotoRecord& photo) {
   return {photo.path, photo.size, photo.modifiedNs};
 }
 
@@ -34,7 +34,7 @@ bool IsLink(const ioPath& file) {
   return std::filesystem::is_symlink(std::filesystem::symlink_status(file.for_system(), error));
 }
 
-bool IsAsKnown(const FileState& state, const KnownFile& file) {
+bool IsAsKnown(const FileState& state, const SeenFile& file) {
   return state.kind == FileState::Kind::File && state.size == file.size &&
          state.modifiedNs == file.modifiedNs;
 }
@@ -156,7 +156,7 @@ class Planner {
   }
 
   void Go(const SuggestedGroup& group, std::size_t index) {
-    const KnownFile photo = KnownAs(group.group.members[index].photo);
+    const SeenFile photo = KnownAs(group.group.members[index].photo);
     going_.emplace(photo.path, plan_.photos.size());
     plan_.photos.push_back({photo, KnownAs(KeptOf(group).photo), {}});
   }
@@ -254,7 +254,7 @@ std::uint64_t TrashPlan::CountBytes() const {
   std::uint64_t bytes = 0;
   for (const TrashPhoto& photo : photos) {
     bytes += photo.photo.size;
-    for (const KnownFile& file : photo.appendix) {
+    for (const SeenFile& file : photo.appendix) {
       bytes += file.size;
     }
   }
@@ -265,7 +265,7 @@ TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups) {
   return Planner(groups).Run();
 }
 
-std::string FindTrashFault(const KnownFile& photo, const KnownFile& kept) {
+std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept) {
   const FileState keptState = QueryFile(kept.path);
   if (!IsAsKnown(keptState, kept)) {
     return Stays(photo.path, "the one to keep, " + kept.path.utf8string() + ", " + WhatIsWrong(keptState));

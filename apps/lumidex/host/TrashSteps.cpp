@@ -258,7 +258,7 @@ void TrashSteps::Drive(TrashedFile& file) const {
   FailMove(file.file.path, "others are always faster with a name there");
 }
 
-ioPath TrashSteps::Move(qlonglong step, const KnownFile& known, const ioPath& kept) const {
+ioPath TrashSteps::Move(qlonglong step, const SeenFile& known, const ioPath& kept) const {
   TrashedFile file;
   file.file = known;
   file.kept = kept;

@@ -21,7 +21,7 @@ struct TrashedFile {
   qlonglong number = 0;
   State state = State::Doing;
   /// By size and time as when it was moved.
-  KnownFile file;
+  SeenFile file;
   std::uint64_t device = 0;
   std::uint64_t inode = 0;
   Tavolin::TrashPlace place;
@@ -46,7 +46,7 @@ class TrashSteps {
   std::vector<TrashedFile> Files(qlonglong step) const;
 
   /// Moves a file that a step has not moved before. Returns where it is.
-  ioPath Move(qlonglong step, const KnownFile& file, const ioPath& kept) const;
+  ioPath Move(qlonglong step, const SeenFile& file, const ioPath& kept) const;
   /// Moves it again.
   void MoveAgain(TrashedFile& file) const;
   /// Moves it back, and notes that also when others did. Sets `isHopeless` when it throws because the file is

@@ -147,7 +147,7 @@ class UndoJournal::Impl {
                           const UndoProgress& progress);
   UndoResult ReverseChanges(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                             const UndoProgress& progress);
-  bool MoveOne(const KnownFile& file, const ioPath& kept, TrashResult& result) const;
+  bool MoveOne(const SeenFile& file, const ioPath& kept, TrashResult& result) const;
   void SettleTrash(qlonglong step);
   UndoResult ReverseTrash(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                           const UndoProgress& progress);
@@ -769,7 +769,7 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
 // --- The trash
 
 /// False when the file stays; then there is a finding.
-bool UndoJournal::Impl::MoveOne(const KnownFile& file, const ioPath& kept, TrashResult& result) const {
+bool UndoJournal::Impl::MoveOne(const SeenFile& file, const ioPath& kept, TrashResult& result) const {
   try {
     result.moved.push_back({file.path, trash_.Move(step_, file, kept)});
     ++result.files;

@@ -13,21 +13,21 @@
 namespace Zenvora::Lumidex::Host {
 
 /// A file, and what it must still be when its turn comes.
-struct KnownFile {
+struct SeenFile {
   ioPath path;
   std::uint64_t size = 0;
   std::int64_t modifiedNs = 0;
 };
 
 /// What lies beside photos and says nothing without them.
-struct TrashAppendix : KnownFile {
+struct TrashAppendix : SeenFile {
   std::vector<ioPath> photos;  ///< It stays while one of them is there.
 };
 
 /// A photo that is to go to the trash.
 struct TrashPhoto {
-  KnownFile photo;
-  KnownFile kept;                       ///< The one that is kept in its stead.
+  SeenFile photo;
+  SeenFile kept;                        ///< The one that is kept in its stead.
   std::vector<TrashAppendix> appendix;  ///< Goes after it.
 };
 
@@ -63,7 +63,7 @@ TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups);
 
 /// Why the photo must not go now, in an English sentence; empty: it may. To be asked right before it goes.
 /// Blocks on the disk.
-std::string FindTrashFault(const KnownFile& photo, const KnownFile& kept);
+std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept);
 /// The same for what goes along with a photo.
 std::string FindTrashFault(const TrashAppendix& appendix);
 

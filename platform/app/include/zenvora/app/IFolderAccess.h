@@ -1,5 +1,6 @@
 #pragma once
 
+#include <zenvora/core/FileState.h>
 #include <zenvora/core/ioPath.h>
 
 namespace Zenvora::App {
@@ -14,6 +15,9 @@ class IFolderAccess {
   virtual bool CanCreateFileIn(const ioPath& folder) const = 0;
   /// Whether files in it can be reached; each may still refuse for itself.
   virtual bool CanReadFileIn(const ioPath& folder) const = 0;
+  /// Makes the folder with its parents; true when it is there then. Whoever only looks what would happen
+  /// makes none.
+  virtual bool MakeFolder(const ioPath& folder) const { return !MakeFolders(folder); }
 };
 
 }  // namespace Zenvora::App

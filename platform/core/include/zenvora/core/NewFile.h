@@ -38,6 +38,8 @@ class ZENVORA_CORE_EXPORT NewFile {
   /// neither room nor time. False where the file system cannot do it; then nothing has changed.
   bool ShareBlocksOf(const ioPath& file);
   std::error_code Write(const void* bytes, std::size_t count);
+  /// As writing so many zeros, but they take no room where the file system can do without.
+  std::error_code Skip(std::size_t count);
   /// The time of its last change in nanoseconds since 1970-01-01 UTC, 100 of them the least step on Windows.
   /// To be called after all writing.
   std::error_code SetModified(std::int64_t ns);
@@ -49,8 +51,12 @@ class ZENVORA_CORE_EXPORT NewFile {
   }
 
  private:
+  std::error_code EndSkipped();
+
   ioPath file_;
   std::FILE* stream_ = nullptr;
+  /// The end was skipped to, which by itself makes no file longer.
+  bool skipped_ = false;
 };
 
 /// Waits until the name of a file is on the disk, which the file itself being there does not say. Not every

@@ -24,6 +24,9 @@ ZENVORA_QTUTILITY_EXPORT bool CanCreateFileAt(const ioPath& folder);
 /// disk.
 ZENVORA_QTUTILITY_EXPORT bool CanReadFileIn(const QString& folder);
 
+/// Makes the folder with its parents; true when it is there then. Any thread; blocks on the disk.
+ZENVORA_QTUTILITY_EXPORT bool MakeFolder(const QString& folder);
+
 /// The bytes that this user may still write on the volume of `place`; of a place that does not exist its
 /// nearest folder that does counts, of an empty one the current folder. Zero or less: unknown. A volume that
 /// is full to the last byte gives zero as well. Any thread; blocks on the disk.

@@ -1,0 +1,155 @@
+#include "Commands.h"
+#include "Failure.h"
+#include "ImportView.h"
+#include "Interrupt.h"
+#include "JsonWriter.h"
+#include "Options.h"
+#include "TerminalText.h"
+#include "TextTable.h"
+#include "ValueTexts.h"
+
+#include <host/SaveChecks.h>
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+using Host::CheckFinding;
+using Host::CheckReport;
+
+constexpr char kDescription[] =
+    "See what would be in the way of importing or changing photos.\n"
+    "\n"
+    "Looks whether the files can be read, whether their formats can be written,\n"
+    "whether there is room to save them anew, and whether folders and files may be\n"
+    "written. Lists everything at once and changes nothing.";
+
+constexpr char kFooter[] =
+    R"(A folder stands for all photos in it and below it, with their side files;
+hidden files and folders are passed over. What is no photo is not looked at.
+
+Examples:
+  lumidex check ~/Pictures
+  lumidex check --json IMG_1.CR2 IMG_1.JPG
+
+Exit codes: 0 nothing is in the way; 1 something is, or there are no photos;
+4 a file or folder is missing; 130 interrupted.)";
+
+const char* KindName(CheckFinding::Kind kind) {
+  switch (kind) {
+    case CheckFinding::Kind::Unreadable:
+      return "unreadable";
+    case CheckFinding::Kind::Format:
+      return "format";
+    case CheckFinding::Kind::Space:
+      return "space";
+    case CheckFinding::Kind::Folder:
+      return "folder";
+    case CheckFinding::Kind::File:
+      return "file";
+  }
+  return "";
+}
+
+std::string Document(const CheckReport& report) {
+  JsonWriter json("lumidex.check", 1);
+  json.Number("files", static_cast<long long>(report.files));
+  json.BeginArray("volumes");
+  for (const Host::CheckedVolume& volume : report.volumes) {
+    json.BeginObject();
+    json.Path("folder", volume.folder);
+    json.Number("files", static_cast<long long>(volume.files));
+    json.Number("bytesNeeded", static_cast<long long>(volume.bytesNeeded));
+    if (volume.bytesFree > 0) {
+      json.Number("bytesFree", static_cast<long long>(volume.bytesFree));
+    } else {
+      json.Null("bytesFree");
+    }
+    json.EndObject();
+  }
+  json.EndArray();
+  json.BeginArray("findings");
+  for (const CheckFinding& finding : report.findings) {
+    json.BeginObject();
+    json.Text("kind", KindName(finding.kind));
+    json.Path("path", finding.path);
+    json.Text("text", finding.text);
+    json.EndObject();
+  }
+  json.EndArray();
+  return json.Finish();
+}
+
+std::string VolumesText(const CheckReport& report) {
+  TextTable table({{"Volume of"},
+                   {"Files", TextTable::Align::Right},
+                   {"Needed", TextTable::Align::Right},
+                   {"Free", TextTable::Align::Right}});
+  for (const Host::CheckedVolume& volume : report.volumes) {
+    table.AddRow({volume.folder.utf8string(), GroupDigits(volume.files), SizeText(volume.bytesNeeded),
+                  volume.bytesFree > 0 ? SizeText(static_cast<std::uint64_t>(volume.bytesFree)) : "unknown"});
+  }
+  return table.Text() + '\n';
+}
+
+std::string FindingsText(const CheckReport& report) {
+  TextTable table({{"What"}, {"Where"}, {"Why"}});
+  for (const CheckFinding& finding : report.findings) {
+    table.AddRow({KindName(finding.kind), finding.path.utf8string(), finding.text});
+  }
+  return table.Text() + '\n';
+}
+
+std::string ReportText(const CheckReport& report) {
+  if (report.files == 0 && report.findings.empty()) {
+    return {};
+  }
+  const std::string checked = Counted(report.files, "file") + " checked; ";
+  const std::string outcome = report.findings.empty()
+                                  ? "nothing is in the way.\n"
+                                  : Counted(report.findings.size(), "thing") + " in the way.\n";
+  return (report.volumes.empty() ? "" : VolumesText(report)) +
+         (report.findings.empty() ? "" : FindingsText(report)) + checked + outcome;
+}
+
+ExitCode RunCheck(const std::vector<std::string>& names, Session& session) {
+  std::vector<ioPath> files;
+  for (const std::string& name : names) {
+    files.push_back(AbsolutePath(name));
+    const FileState state = QueryFile(files.back());
+    if (state.kind == FileState::Kind::Missing || state.error) {
+      throw Failure(
+          "no-source",
+          "There is no file or folder " + files.back().utf8string() +
+              (state.kind == FileState::Kind::Missing ? "." : " (" + ErrorText(state.error) + ")."));
+    }
+  }
+  const CheckReport report = Host::CheckFiles(Host::GatherSources(files));
+  ThrowIfInterrupted("Interrupted. Nothing was changed.");
+  session.output.Print(session.globals.json ? Document(report) : ReportText(report));
+  if (report.files == 0) {
+    session.console.Note("There are no photos in the given folders.");
+  }
+  return report.findings.empty() && report.files > 0 ? ExitCode::Done : ExitCode::Findings;
+}
+
+}  // namespace
+
+void AddCheckCommand(CLI::App& program, Action& chosen) {
+  CLI::App* const command = program.add_subcommand("check", kDescription);
+  const auto names = std::make_shared<std::vector<std::string>>();
+  command->footer(kFooter);
+  command->add_option("FILE", *names, "Photos, or folders with all below them.")
+      ->required()
+      ->transform(Text());
+  command->callback(
+      [names, &chosen] { chosen = [names](Session& session) { return RunCheck(*names, session); }; });
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,243 @@
+#include "Commands.h"
+#include "Failure.h"
+#include "ImportView.h"
+#include "Interrupt.h"
+#include "OpenJournal.h"
+#include "Options.h"
+#include "Progress.h"
+#include "TerminalQuestions.h"
+
+#include <host/Catalogue.h>
+#include <host/Import.h>
+#include <host/ImportPlan.h>
+#include <host/ImportSources.h>
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+
+#include <glog/logging.h>
+
+#include <QDir>
+
+#include <memory>
+#include <optional>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+using Outcome = Host::ImportPlan::Outcome;
+
+constexpr char kDescription[] =
+    "Copy photos off a card, and take them into the catalogue.\n"
+    "\n"
+    "Copies what lies on removable storage, with --to everything; the rest is taken\n"
+    "in where it lies. Every copy is read back from the disk and compared before it\n"
+    "counts. Your files are only read. What is there already is left alone, and a\n"
+    "run that stopped half way is completed when repeated.";
+
+constexpr char kFooter[] =
+    R"help(A folder stands for all photos in it and below it, with their side files (.xmp
+and others); hidden files and folders are passed over. Copies keep their names;
+where one is taken, "(1)" is put behind it. Beside the copies a hidden folder
+.lumidex-import lists each of them with its source and its SHA-256.
+
+Without --to, --yes and --no-copy the questions are asked on the terminal;
+where nobody can be asked, nothing is imported.
+
+Examples:
+  lumidex import /media/card
+  lumidex import /media/card --to ~/Pictures/2024 --yes
+  lumidex import --dry-run /media/card --to ~/Pictures/2024
+  lumidex import --no-copy ~/Downloads/photos
+
+Exit codes: 0 done; 1 nothing was imported because you said so or there are no
+photos, or there is something to look at; 3 some files are missing or cannot be
+read; 4 nothing could be imported; 130 interrupted.)help";
+
+struct ImportArguments {
+  std::vector<std::string> sources;
+  std::string to;
+  bool yes = false;
+  bool noCopy = false;
+  bool dryRun = false;
+};
+
+std::vector<ioPath> SourcesOf(const ImportArguments& arguments) {
+  std::vector<ioPath> sources;
+  for (const std::string& source : arguments.sources) {
+    sources.push_back(AbsolutePath(source));
+    const FileState state = QueryFile(sources.back());
+    if (state.kind == FileState::Kind::Missing || state.error) {
+      throw Failure(
+          "no-source",
+          "There is no file or folder " + sources.back().utf8string() +
+              (state.kind == FileState::Kind::Missing ? "." : " (" + ErrorText(state.error) + ")."));
+    }
+  }
+  return sources;
+}
+
+GivenAnswers AnswersOf(const ImportArguments& arguments) {
+  GivenAnswers given;
+  given.yes = arguments.yes;
+  given.noCopy = arguments.noCopy;
+  if (arguments.to.empty()) {
+    return given;
+  }
+  const ioPath folder = AbsolutePath(arguments.to);
+  given.folder = QDir::cleanPath(folder.qstring());
+#ifndef _WIN32
+  // Settings and the names of copies are text.
+  if (ioPath(folder.qstring()) != folder) {
+    throw UsageError("--to: the name of the folder must be text in UTF-8");
+  }
+#endif
+  return given;
+}
+
+/// One run of the command.
+class ImportCommand {
+ public:
+  ImportCommand(const ImportArguments& arguments, Session& session)
+      : arguments_(arguments), session_(session) {
+    view_.catalogue = session.CatalogueFile();
+    view_.dryRun = arguments.dryRun;
+  }
+
+  ExitCode Run() {
+    const std::vector<ioPath> roots = SourcesOf(arguments_);
+    const GivenAnswers given = AnswersOf(arguments_);
+    if (!arguments_.dryRun) {
+      RecoverIfNeeded(session_);
+    }
+    const Host::GatheredSources sources = Host::GatherSources(roots);
+    view_.found = sources.files.size();
+    Plan(sources, given);
+    if (!arguments_.dryRun && view_.plan.outcome == Outcome::Ready && view_.plan.obstacle.empty() &&
+        !(view_.plan.copies.empty() && view_.plan.stays.empty())) {
+      Import();
+    }
+    view_.recovered = session_.recovered;
+    session_.output.Print(session_.globals.json ? ImportDocument(view_) : ImportText(view_));
+    Tell();
+    return Judge();
+  }
+
+ private:
+  void Plan(const Host::GatheredSources& sources, const GivenAnswers& given) {
+    // A dry run, and one that is declined, makes none.
+    std::vector<Host::PhotoRecord> photos;
+    if (view_.catalogue.exists()) {
+      const auto mode =
+          arguments_.dryRun ? Host::Catalogue::Mode::ReadOnly : Host::Catalogue::Mode::ReadWrite;
+      catalogue_.emplace(view_.catalogue, mode);
+      photos = catalogue_->Photos();
+    }
+    Host::ImportPlanOptions options;
+    options.copyAll = !arguments_.to.empty();
+    options.cancel = &session_.interrupted;
+    const TerminalQuestions questions(session_, given);
+    {
+      Progress progress(session_.console, "Comparing", "files");
+      view_.plan = Host::PlanImport(
+          sources, photos, options,
+          [&progress](std::uint64_t done, std::uint64_t total) { progress.Update(done, total); });
+    }
+    if (view_.plan.outcome == Outcome::Declined && !session_.interrupted && !questions.Unanswered().empty()) {
+      throw Failure("needs-answer", "Nothing was imported, since nobody could be asked: " +
+                                        questions.Unanswered() + " Say --yes, --to DIR or --no-copy.");
+    }
+    if (session_.interrupted) {
+      view_.plan.outcome = Outcome::Interrupted;
+    }
+  }
+
+  void Import() {
+    if (!catalogue_) {
+      catalogue_.emplace(view_.catalogue, Host::Catalogue::Mode::ReadWrite);
+    }
+    VLOG(1) << "importing into " << view_.catalogue;
+    Host::ImportOptions options;
+    options.cancel = &session_.interrupted;
+    Progress progress(session_.console, "Copying", "files");
+    view_.result = Host::RunImport(
+        view_.plan, *catalogue_, options,
+        [&progress](const Host::ImportProgress& now) { progress.Update(now.files, now.totalFiles); });
+  }
+
+  void Tell() const {
+    if (view_.result.cancelled) {
+      session_.console.Note(
+          "Interrupted. What was copied is whole and compared; the same command copies the rest.");
+    } else if (view_.found == 0) {
+      session_.console.Note("There are no photos in the given folders.");
+    }
+  }
+
+  ExitCode Judge() const {
+    if (view_.result.cancelled || view_.plan.outcome == Outcome::Interrupted) {
+      return ExitCode::Interrupted;
+    }
+    if (!view_.plan.obstacle.empty()) {
+      return ExitCode::Failed;
+    }
+    ExitCode code = ExitCode::Done;
+    if (view_.plan.outcome == Outcome::Declined || view_.found == 0 || !view_.plan.splits.empty()) {
+      code = ExitCode::Findings;
+    }
+    for (const Host::LeftFile& left : view_.plan.left) {
+      if (left.kind == Host::LeftFile::Kind::Unreadable) {
+        code = Graver(code, ExitCode::Partly);
+      } else if (left.kind == Host::LeftFile::Kind::Loop) {
+        code = Graver(code, ExitCode::Findings);
+      }
+    }
+    for (const Host::ScanFinding& finding : view_.result.findings) {
+      code = Graver(
+          code, finding.kind == Host::ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
+    }
+    return view_.result.missing.empty() && view_.result.stopped.empty() ? code
+                                                                        : Graver(code, ExitCode::Partly);
+  }
+
+  const ImportArguments& arguments_;
+  Session& session_;
+  ImportView view_;
+  std::optional<Host::Catalogue> catalogue_;
+};
+
+}  // namespace
+
+void AddImportCommand(CLI::App& program, Action& chosen) {
+  CLI::App* const command = program.add_subcommand("import", kDescription);
+  const auto arguments = std::make_shared<ImportArguments>();
+  command->footer(kFooter);
+  command->add_option("SOURCE", arguments->sources, "Folders and files to import, with all below them.")
+      ->required()
+      ->transform(Text());
+  CLI::Option* const to =
+      command
+          ->add_option("--to", arguments->to,
+                       "Copy everything to this folder, also what does not lie on removable storage.")
+          ->option_text("DIR")
+          ->transform(Text());
+  CLI::Option* const noCopy =
+      command->add_flag("--no-copy", arguments->noCopy, "Copy nothing: take photos in where they lie.")
+          ->disable_flag_override();
+  noCopy->excludes(to);
+  command
+      ->add_flag(
+          "--yes", arguments->yes,
+          "Ask nothing: copy from removable storage, to the folder used last without --to, and leave out "
+          "what cannot be read.")
+      ->disable_flag_override()
+      ->excludes(noCopy);
+  command->add_flag("--dry-run", arguments->dryRun, "Only tell what would be done; make and change nothing.")
+      ->disable_flag_override();
+  command->callback([arguments, &chosen] {
+    chosen = [arguments](Session& session) { return ImportCommand(*arguments, session).Run(); };
+  });
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,325 @@
+#include "ImportView.h"
+
+#include "JournalView.h"
+#include "JsonWriter.h"
+#include "TerminalText.h"
+#include "TextTable.h"
+#include "ValueTexts.h"
+
+#include <algorithm>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+using Host::KnownFile;
+using Host::LeftFile;
+using Host::MissingCopy;
+using Host::ScanFinding;
+
+/// People read no thousand lines; `--json` has them all.
+constexpr std::size_t kMostLeftLines = 20;
+
+const char* MissingKindName(MissingCopy::Kind kind) {
+  switch (kind) {
+    case MissingCopy::Kind::Unreadable:
+      return "unreadable";
+    case MissingCopy::Kind::Changed:
+      return "changed";
+    case MissingCopy::Kind::NotWritten:
+      return "not-written";
+    case MissingCopy::Kind::Different:
+      return "different";
+    case MissingCopy::Kind::NameTaken:
+      return "name-taken";
+    case MissingCopy::Kind::NotReached:
+      return "not-reached";
+    case MissingCopy::Kind::Repeated:
+      return "repeated";
+  }
+  return "";
+}
+
+const char* KnownKindName(KnownFile::Kind kind) {
+  switch (kind) {
+    case KnownFile::Kind::Catalogued:
+      return "catalogued";
+    case KnownFile::Kind::Copied:
+      return "copied";
+    case KnownFile::Kind::Repeated:
+      return "repeated";
+  }
+  return "";
+}
+
+const char* FindingKindName(ScanFinding::Kind kind) {
+  switch (kind) {
+    case ScanFinding::Kind::NotAnImage:
+      return "not-an-image";
+    case ScanFinding::Kind::Unreadable:
+      return "unreadable";
+    case ScanFinding::Kind::Loop:
+      return "loop";
+  }
+  return "";
+}
+
+const char* OutcomeName(const ImportView& view) {
+  using Outcome = Host::ImportPlan::Outcome;
+  if (view.result.cancelled || view.plan.outcome == Outcome::Interrupted) {
+    return "interrupted";
+  }
+  if (view.plan.outcome == Outcome::Declined) {
+    return "declined";
+  }
+  if (!view.plan.obstacle.empty()) {
+    return "refused";
+  }
+  return view.dryRun ? "planned" : view.result.stopped.empty() ? "done" : "stopped";
+}
+
+void WritePaths(JsonWriter& json, const char* name, const std::vector<ioPath>& paths) {
+  json.BeginArray(name);
+  for (const ioPath& path : paths) {
+    json.BeginObject();
+    json.Path("path", path);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+void WritePlan(JsonWriter& json, const Host::ImportPlan& plan) {
+  json.BeginArray("copies");
+  for (const Host::ImportCopy& copy : plan.copies) {
+    json.BeginObject();
+    json.Path("source", copy.source);
+    json.Path("target", copy.target);
+    json.Number("size", static_cast<long long>(copy.state.size));
+    json.EndObject();
+  }
+  json.EndArray();
+  WritePaths(json, "stays", plan.stays);
+  json.BeginArray("known");
+  for (const KnownFile& known : plan.known) {
+    json.BeginObject();
+    json.Text("kind", KnownKindName(known.kind));
+    json.Path("path", known.path);
+    json.Path("other", known.other);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.BeginArray("left");
+  for (const LeftFile& left : plan.left) {
+    json.BeginObject();
+    json.Text("kind", LeftKindName(left.kind));
+    json.Path("path", left.path);
+    json.Text("cause", left.cause);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.BeginArray("splits");
+  for (const Host::SplitShot& split : plan.splits) {
+    json.BeginObject();
+    WritePaths(json, "sources", split.sources);
+    WritePaths(json, "targets", split.targets);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+void WriteResult(JsonWriter& json, const Host::ImportResult& result) {
+  json.Number("copied", static_cast<long long>(result.copied));
+  json.Number("bytesCopied", static_cast<long long>(result.bytes));
+  json.Number("added", static_cast<long long>(result.added));
+  json.BeginArray("missing");
+  for (const MissingCopy& missing : result.missing) {
+    json.BeginObject();
+    json.Text("kind", MissingKindName(missing.kind));
+    json.Path("source", missing.source);
+    if (!missing.target.empty()) {
+      json.Path("target", missing.target);
+    }
+    json.Text("cause", missing.cause);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.BeginArray("findings");
+  for (const ScanFinding& finding : result.findings) {
+    json.BeginObject();
+    json.Text("kind", FindingKindName(finding.kind));
+    json.Path("path", finding.path);
+    json.Text("cause", finding.cause);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+std::string PlanText(const ImportView& view) {
+  std::string text;
+  if (!view.plan.copies.empty()) {
+    TextTable table({{}, {}, {}});
+    for (const Host::ImportCopy& copy : view.plan.copies) {
+      table.AddRow({copy.source.utf8string(), "->", copy.target.filename().utf8string()});
+    }
+    text += "Would be copied to " + EscapeForTerminal(view.plan.folder.utf8string()) + ":\n" + table.Text(2) +
+            '\n';
+  }
+  if (!view.plan.stays.empty()) {
+    TextTable table(std::vector<TextTable::Column>(1));
+    for (const ioPath& path : view.plan.stays) {
+      table.AddRow({path.utf8string()});
+    }
+    text += "Would be taken in where they lie:\n" + table.Text(2) + '\n';
+  }
+  return text;
+}
+
+std::string SplitsText(const ImportView& view) {
+  if (view.plan.splits.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}, {}});
+  for (const Host::SplitShot& split : view.plan.splits) {
+    for (std::size_t i = 0; i < split.sources.size(); ++i) {
+      table.AddRow({split.sources[i].utf8string(), "->", split.targets[i].filename().utf8string()});
+    }
+  }
+  return "These files are of one shot each, and the free names for them are not:\n" + table.Text(2) + '\n';
+}
+
+std::string MissingText(const ImportView& view) {
+  if (view.result.missing.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}});
+  for (const MissingCopy& missing : view.result.missing) {
+    table.AddRow({missing.source.utf8string(), missing.cause});
+  }
+  return "Missing:\n" + table.Text(2) + '\n';
+}
+
+std::string FindingsText(const ImportView& view) {
+  if (view.result.findings.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}});
+  for (const ScanFinding& finding : view.result.findings) {
+    table.AddRow({finding.path.utf8string(), finding.cause});
+  }
+  return "Not taken into the catalogue:\n" + table.Text(2) + '\n';
+}
+
+std::string LeftText(const ImportView& view) {
+  if (view.plan.left.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}});
+  // What could not be read comes first: the rest is nothing to worry about.
+  std::vector<LeftFile> left = view.plan.left;
+  std::stable_sort(left.begin(), left.end(), [](const LeftFile& one, const LeftFile& other) {
+    return (one.kind != LeftFile::Kind::NotAPhoto) > (other.kind != LeftFile::Kind::NotAPhoto);
+  });
+  std::size_t shown = 0;
+  for (const LeftFile& file : left) {
+    if (file.kind == LeftFile::Kind::NotAPhoto && shown >= kMostLeftLines) {
+      break;
+    }
+    table.AddRow({file.path.utf8string(), file.cause.empty() ? "It is not named like a photo" : file.cause});
+    ++shown;
+  }
+  std::string text = "Left out:\n" + table.Text(2);
+  if (shown < left.size()) {
+    text += "  and " + GroupDigits(left.size() - shown) + " more (--json lists them)\n";
+  }
+  return text + '\n';
+}
+
+std::string KnownText(const ImportView& view) {
+  const auto count = [&view](KnownFile::Kind kind) {
+    return static_cast<unsigned long long>(
+        std::count_if(view.plan.known.begin(), view.plan.known.end(),
+                      [kind](const KnownFile& known) { return known.kind == kind; }));
+  };
+  std::string text;
+  if (const auto files = count(KnownFile::Kind::Catalogued)) {
+    text += Counted(files, "photo") + " in the catalogue already.\n";
+  }
+  if (const auto files = count(KnownFile::Kind::Copied)) {
+    text += Counted(files, "file") + " copied before.\n";
+  }
+  if (const auto files = count(KnownFile::Kind::Repeated)) {
+    text += Counted(files, "photo") + " there twice among the sources.\n";
+  }
+  return text;
+}
+
+std::string OutcomeText(const ImportView& view) {
+  const Host::ImportPlan& plan = view.plan;
+  if (plan.outcome != Host::ImportPlan::Outcome::Ready) {
+    return "Nothing was imported.\n";
+  }
+  if (!plan.obstacle.empty()) {
+    return EscapeForTerminal(plan.obstacle) + '\n' +
+           (view.dryRun ? "Nothing would be imported.\n" : "Nothing was imported.\n");
+  }
+  const std::string copies = Counted(view.dryRun ? plan.copies.size() : view.result.copied, "file") + " (" +
+                             SizeText(view.dryRun ? plan.bytes : view.result.bytes) + ")";
+  if (view.dryRun) {
+    return copies + " would be copied, " + Counted(plan.stays.size(), "photo") +
+           " taken in where they lie. This was a dry run:\nnothing was changed.\n";
+  }
+  std::string text;
+  if (!plan.copies.empty()) {
+    text += copies + " copied to " + EscapeForTerminal(plan.folder.utf8string()) + ", each compared.\n";
+  }
+  text += Counted(view.result.added, "photo") + " new in the catalogue.\n";
+  if (!view.result.missing.empty()) {
+    text += Counted(view.result.missing.size(), "file") + " missing; the same command tries again.\n";
+  }
+  return text;
+}
+
+}  // namespace
+
+const char* LeftKindName(LeftFile::Kind kind) {
+  switch (kind) {
+    case LeftFile::Kind::NotAPhoto:
+      return "not-a-photo";
+    case LeftFile::Kind::NoFile:
+      return "no-file";
+    case LeftFile::Kind::Unreadable:
+      return "unreadable";
+    case LeftFile::Kind::Loop:
+      return "loop";
+  }
+  return "";
+}
+
+std::string ImportDocument(const ImportView& view) {
+  JsonWriter json("lumidex.import", 1);
+  json.Path("catalogue", view.catalogue);
+  json.Truth("dryRun", view.dryRun);
+  json.Text("outcome", OutcomeName(view));
+  if (view.plan.folder.empty()) {
+    json.Null("folder");
+  } else {
+    json.Path("folder", view.plan.folder);
+  }
+  json.Number("found", static_cast<long long>(view.found));
+  json.Number("bytesPlanned", static_cast<long long>(view.plan.bytes));
+  json.Text("obstacle", view.plan.obstacle);
+  json.Text("stopped", view.result.stopped);
+  WritePlan(json, view.plan);
+  WriteResult(json, view.result);
+  WriteRecovered(json, view.recovered);
+  return json.Finish();
+}
+
+std::string ImportText(const ImportView& view) {
+  return LeftText(view) + SplitsText(view) + (view.dryRun ? PlanText(view) : "") + MissingText(view) +
+         FindingsText(view) +
+         (view.result.stopped.empty() ? "" : EscapeForTerminal(view.result.stopped) + '\n') +
+         KnownText(view) + OutcomeText(view);
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <zenvora/core/ioPath.h>
+
+#include <QByteArray>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// What is known of one copy. docs/formats/import-manifest.md has the grammar.
+struct ManifestRecord {
+  ioPath source;  ///< Absolute.
+  ioPath file;    ///< Its name in the folder of copies.
+  std::uint64_t size = 0;
+  std::string sha256;
+  std::int64_t sourceModifiedNs = 0;
+  std::int64_t modifiedNs = 0;  ///< Of the copy: some file systems count in coarser steps.
+};
+
+/// One line, with its line feed; and back: no record for a line that is torn, or of something else. Pure.
+QByteArray ManifestLine(const ManifestRecord& record, std::int64_t atSeconds);
+std::optional<ManifestRecord> ParseManifestLine(const QByteArray& line);
+
+/// The hidden folder in a folder of copies that holds the list of them, and copies until they are verified.
+ioPath ImportFolder(const ioPath& copies);
+
+/// The list of the copies in one folder, by the names that they got. A kill at any moment leaves all records
+/// but the last ones readable.
+class ImportManifest {
+ public:
+  /// What the list says now; empty when there is none, or it cannot be read.
+  static std::vector<ManifestRecord> Read(const ioPath& copies);
+
+  /// Opens the list of the folder to add to it; makes it when missing. Throws `HostError`.
+  explicit ImportManifest(const ioPath& copies);
+  ~ImportManifest();
+  ImportManifest(const ImportManifest&) = delete;
+  ImportManifest& operator=(const ImportManifest&) = delete;
+
+  /// Adds records, safe on the disk when this returns. Throws `HostError`.
+  void Append(const std::vector<ManifestRecord>& records);
+
+ private:
+  class Stream;
+  std::unique_ptr<Stream> stream_;
+};
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,102 @@
+#include "KnownContent.h"
+
+#include <zenvora/core/FileState.h>
+#include <zenvora/tavolin/RemovableStorage.h>
+
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+std::vector<ioPath> ContentIndex::Alike(std::uint64_t size, const ioPath& file) {
+  auto [at, end] = pending_.equal_range(size);
+  const bool isNew = at != end;
+  const auto known = sketched_.find(size);
+  if (!isNew && known == sketched_.end()) {
+    return {};
+  }
+  auto& sketches = sketched_[size];
+  for (; at != end; ++at) {
+    // Whoever waits for a pipe waits for ever.
+    if (QueryFile(at->second).kind == FileState::Kind::File) {
+      sketches.emplace(SketchOf(at->second), at->second);
+    }
+  }
+  pending_.erase(size);
+  std::vector<ioPath> alike;
+  const std::string sketch = SketchOf(file);
+  for (auto [match, last] = sketches.equal_range(sketch); !sketch.empty() && match != last; ++match) {
+    alike.push_back(match->second);
+  }
+  return alike;
+}
+
+KnownContent::KnownContent(const std::vector<PhotoRecord>& photos, CopyGoesOn goesOn)
+    : goesOn_(std::move(goesOn)) {
+  for (const PhotoRecord& photo : photos) {
+    catalogued_.Add(photo.size, photo.path);
+  }
+}
+
+std::optional<KnownContent::Known> KnownContent::FindPhoto(const ImportSource& source) {
+  for (const ioPath& other : sources_.Alike(source.state.size, source.path)) {
+    if (SameContent(source.path, other, goesOn_)) {
+      return Known{other, true};
+    }
+  }
+  for (const ioPath& other : catalogued_.Alike(source.state.size, source.path)) {
+    if (Counts(other, source) && SameContent(source.path, other, goesOn_)) {
+      return Known{other, false};
+    }
+  }
+  return std::nullopt;
+}
+
+bool KnownContent::Counts(const ioPath& candidate, const ImportSource& source) {
+  const FileState state = QueryFile(candidate);
+  return state.kind == FileState::Kind::File && state.size == source.state.size &&
+         state.identity != source.state.identity && !IsOnRemovable(candidate.parent_path());
+}
+
+bool KnownContent::IsOnRemovable(const ioPath& folder) {
+  const auto known = removable_.find(folder);
+  if (known != removable_.end()) {
+    return known->second;
+  }
+  return removable_[folder] = !Tavolin::GetRemovable({folder}).empty();
+}
+
+KnownCopies::KnownCopies(const ioPath& folder, CopyGoesOn goesOn)
+    : folder_(folder), goesOn_(std::move(goesOn)), records_(ImportManifest::Read(folder)) {
+  for (std::size_t i = 0; i < records_.size(); ++i) {
+    bySource_[records_[i].source] = i;
+    bySize_.emplace(records_[i].size, i);
+  }
+}
+
+std::optional<ioPath> KnownCopies::Find(const ImportSource& source) const {
+  const auto known = bySource_.find(source.path);
+  if (known != bySource_.end()) {
+    const ManifestRecord& record = records_[known->second];
+    if (record.size == source.state.size && record.sourceModifiedNs == source.state.modifiedNs &&
+        IsWhole(record)) {
+      return folder_ / record.file;
+    }
+  }
+  for (auto [at, end] = bySize_.equal_range(source.state.size); at != end; ++at) {
+    const ManifestRecord& record = records_[at->second];
+    const ioPath copy = folder_ / record.file;
+    if (record.source.filename() == source.path.filename() && IsWhole(record) &&
+        QueryFile(copy).identity != source.state.identity && SameContent(source.path, copy, goesOn_)) {
+      return copy;
+    }
+  }
+  return std::nullopt;
+}
+
+bool KnownCopies::IsWhole(const ManifestRecord& record) const {
+  const FileState state = QueryFile(folder_ / record.file);
+  return state.kind == FileState::Kind::File && state.size == record.size &&
+         state.modifiedNs == record.modifiedNs;
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "FileCopy.h"
+#include "ImportManifest.h"
+
+#include <host/Catalogue.h>
+#include <host/ImportSources.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// Finds the files that may have the content of another: of many of one size, as some cameras write them,
+/// each is looked into once. Blocks on the disk.
+class ContentIndex {
+ public:
+  void Add(std::uint64_t size, const ioPath& file) { pending_.emplace(size, file); }
+  /// Files of that size that look alike.
+  std::vector<ioPath> Alike(std::uint64_t size, const ioPath& file);
+
+ private:
+  /// By size, not looked into yet.
+  std::unordered_multimap<std::uint64_t, ioPath> pending_;
+  std::unordered_map<std::uint64_t, std::unordered_multimap<std::string, ioPath>> sketched_;
+};
+
+/// Tells which photos are there already, under whatever name: by their bytes, which are only read where sizes
+/// agree. Blocks on the disk; belongs to one thread.
+class KnownContent {
+ public:
+  struct Known {
+    ioPath path;
+    bool isSource = false;  ///< One that was added.
+  };
+
+  /// `photos`: of the catalogue. Those whose files are gone or changed do not count, nor do those that can be
+  /// pulled out with a device: whoever has a photo only there wants a copy.
+  KnownContent(const std::vector<PhotoRecord>& photos, CopyGoesOn goesOn);
+
+  /// Where the content of the photo is already, other than in the file itself.
+  std::optional<Known> FindPhoto(const ImportSource& source);
+  /// From now on the content of the photo counts as there.
+  void Add(const ImportSource& source) { sources_.Add(source.state.size, source.path); }
+
+ private:
+  bool Counts(const ioPath& candidate, const ImportSource& source);
+  bool IsOnRemovable(const ioPath& folder);
+
+  const CopyGoesOn goesOn_;
+  ContentIndex catalogued_;
+  ContentIndex sources_;
+  std::unordered_map<ioPath, bool> removable_;
+};
+
+/// Tells which files were copied into a folder before, as its list has it. Copies that are gone or changed do
+/// not count.
+class KnownCopies {
+ public:
+  KnownCopies(const ioPath& folder, CopyGoesOn goesOn);
+
+  /// The copy of the file, if there is one: known by its source's path and time, else by its bytes; side
+  /// files only under their own name, since those of different shots may be alike.
+  std::optional<ioPath> Find(const ImportSource& source) const;
+
+ private:
+  bool IsWhole(const ManifestRecord& record) const;
+
+  const ioPath folder_;
+  const CopyGoesOn goesOn_;
+  std::vector<ManifestRecord> records_;
+  std::unordered_map<ioPath, std::size_t> bySource_;
+  std::unordered_multimap<std::uint64_t, std::size_t> bySize_;
+};
+
+}  // namespace Zenvora::Lumidex::Host

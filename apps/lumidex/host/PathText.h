@@ -1,0 +1,17 @@
+#pragma once
+
+#include <zenvora/core/ioPath.h>
+
+#include <QString>
+
+namespace Zenvora::Lumidex::Host {
+
+/// A path as text that leads back to its very bytes: those that are no text go into it as lone surrogates,
+/// which no text holds. Qt opens no file of such a name, but it compares, cuts and joins them. Pure.
+QString ReversibleText(const ioPath& path);
+ioPath PathOfReversible(const QString& text);
+
+/// True when the path is text, so that Qt can find its file.
+bool IsText(const ioPath& path);
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,281 @@
+// Importing and checking with the whole command.
+
+#include "CliFixture.h"
+
+#include <support/LeftOut.h>
+#include <support/SmallDisk.h>
+
+#include <zenvora/core/FileProbes.h>
+#include <zenvora/core/FileState.h>
+
+#include <QJsonArray>
+
+#ifndef _WIN32
+#include <cstdlib>
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace Zenvora::Test {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+class ImportCommand : public CliTest {
+ protected:
+  void SetUp() override { MakePhotos("card", "2024:01:02", 3); }
+
+  Ran ImportTo(const QStringList& more = {}) const {
+    return Run(QStringList{"--json", "import", Text(Photos()), "--to", Text(Copies())} + more);
+  }
+  ioPath Copies() const { return tree.Path("copies"); }
+};
+
+TEST_F(ImportCommand, CopiesAndTellsWhatItDid) {
+  const Ran ran = Run({"import", Text(Photos()), "--to", Text(Copies())});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_THAT(ran.out, HasSubstr("3 files"));
+  EXPECT_THAT(ran.out, HasSubstr("each compared"));
+  EXPECT_THAT(ran.out, HasSubstr("3 photos new in the catalogue"));
+  EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 3);
+}
+
+TEST_F(ImportCommand, PlansTheVeryThingThatItDoesAndMakesNothing) {
+  const QJsonObject planned = ImportTo({"--dry-run"}).Json();
+  EXPECT_EQ(planned["outcome"].toString(), QStringLiteral("planned"));
+  EXPECT_FALSE(Copies().exists());
+  EXPECT_FALSE(DefaultCatalogue().exists());
+  EXPECT_FALSE(tree.Path("data").exists());
+  EXPECT_FALSE(tree.Path("config").exists());
+  const QJsonObject done = ImportTo().Json();
+  EXPECT_EQ(done["outcome"].toString(), QStringLiteral("done"));
+  EXPECT_EQ(done["copies"].toArray(), planned["copies"].toArray());
+  EXPECT_EQ(done["copies"].toArray().size(), 3);
+  EXPECT_EQ(done["copied"].toInt(), 3);
+}
+
+TEST_F(ImportCommand, HasNothingToDoTheSecondTime) {
+  ImportTo();
+  const Ran again = ImportTo();
+  EXPECT_EQ(again.exitCode, 0);
+  EXPECT_EQ(again.Json()["known"].toArray().size(), 3);
+  EXPECT_EQ(again.Json()["copied"].toInt(), 0);
+}
+
+TEST_F(ImportCommand, TakesPhotosInWhereTheyLieOnAFixedDisk) {
+  const Ran ran = Run({"--json", "import", "--no-copy", Text(Photos())});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_EQ(ran.Json()["added"].toInt(), 3);
+  EXPECT_EQ(ran.Json()["copies"].toArray().size(), 0);
+  EXPECT_TRUE(ran.Json()["folder"].isNull());
+}
+
+TEST_F(ImportCommand, RefusesAnswersThatContradictEachOther) {
+  EXPECT_EQ(Run({"import", Text(Photos()), "--to", Text(Copies()), "--no-copy"}).exitCode, 2);
+  EXPECT_EQ(Run({"import", Text(Photos()), "--yes", "--no-copy"}).exitCode, 2);
+  EXPECT_EQ(Run({"import"}).exitCode, 2);
+}
+
+TEST_F(ImportCommand, NeedsSourcesThatExist) {
+  const Ran ran = Run({"--json", "import", Text(tree.Path("missing"))});
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_EQ(ran.Json()["kind"].toString(), QStringLiteral("no-source"));
+}
+
+TEST_F(ImportCommand, SaysThatThereIsNothing) {
+  tree.MakeFolder("empty");
+  const Ran ran = Run({"import", Text(tree.Path("empty"))});
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_THAT(ran.err, HasSubstr("There are no photos"));
+  EXPECT_FALSE(DefaultCatalogue().exists());
+}
+
+TEST_F(ImportCommand, TellsWhatItLeftOut) {
+  tree.Write("photos/card/clip.mov", "x");
+  const Ran ran = ImportTo();
+  EXPECT_EQ(ran.exitCode, 0);
+  ASSERT_EQ(ran.Json()["left"].toArray().size(), 1);
+  EXPECT_EQ(ran.Json()["left"].toArray()[0].toObject()["kind"].toString(), QStringLiteral("not-a-photo"));
+}
+
+TEST_F(ImportCommand, WarnsOfShotsThatFallApart) {
+  tree.Write("photos/card/img0.xmp", "stars");
+  tree.Write("copies/img0.jpg", "another photo");
+  const Ran ran = ImportTo({"--dry-run"});
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_EQ(ran.Json()["splits"].toArray().size(), 1);
+}
+
+TEST_F(ImportCommand, RefusesToBeginWhereAFileIsInTheWay) {
+  tree.Write("copies", "a file");
+  const Ran ran = ImportTo();
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_EQ(ran.Json()["outcome"].toString(), QStringLiteral("refused"));
+  EXPECT_FALSE(DefaultCatalogue().exists());
+}
+
+TEST_F(ImportCommand, RemembersTheFolderForTheNextTime) {
+  ImportTo();
+  EXPECT_THAT(ReadText(tree.Path("config/lumidex/lumidex.ini")), HasSubstr("LumidexLastUsedCopyDirectory"));
+}
+
+class CheckCommand : public CliTest {};
+
+TEST_F(CheckCommand, IsDoneWhenNothingIsInTheWay) {
+  MakePhotos("a", "2024:01:02", 2);
+  const Ran ran = Run({"check", Text(Photos())});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_THAT(ran.out, HasSubstr("2 files checked; nothing is in the way."));
+}
+
+TEST_F(CheckCommand, ListsEverythingAtOnce) {
+  MakePhotos("a", "2024:01:02", 1);
+  tree.Write("photos/a/one.nef", "raw");
+  tree.Write("photos/b/two.cr2", "raw");
+  const Ran ran = Run({"--json", "check", Text(Photos())});
+  EXPECT_EQ(ran.exitCode, 1);
+  const QJsonObject report = ran.Json();
+  EXPECT_EQ(report["format"].toString(), QStringLiteral("lumidex.check"));
+  EXPECT_EQ(report["files"].toInt(), 3);
+  EXPECT_EQ(report["findings"].toArray().size(), 2);
+  EXPECT_EQ(report["volumes"].toArray().size(), 1);
+  EXPECT_THAT(Run({"check", Text(Photos())}).out, HasSubstr("2 things in the way"));
+}
+
+TEST_F(CheckCommand, NeedsFilesThatExist) {
+  EXPECT_EQ(Run({"check", Text(tree.Path("missing"))}).exitCode, 4);
+  EXPECT_EQ(Run({"check"}).exitCode, 2);
+  EXPECT_EQ(Run({"check", Text(Photos())}).exitCode, 1) << "there are no photos";
+}
+
+#ifdef _WIN32
+
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CheckCommand, NeverWaitsForPipes, kNoPipesInFolders);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, StopsOnAFullDiskAndGoesOnLater,
+                              "a small volume is mounted by means of Linux");
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, AsksOnATerminal,
+                              "a console cannot be typed into by a test there");
+
+#else
+
+TEST_F(CheckCommand, NeverWaitsForPipes) {
+  MakePhotos("a", "2024:01:02", 1);
+  EXPECT_EQ(RunShell("mkfifo photos/pipe.jpg && ln -s /dev/zero photos/zero.jpg && $LUMIDEX check photos "
+                     "photos/pipe.jpg && $LUMIDEX import photos photos/pipe.jpg --to copies")
+                .exitCode,
+            0);
+  EXPECT_THAT(NamesIn(tree.Path("copies")), ElementsAre(".lumidex-import", "img0.jpg"));
+}
+
+TEST_F(ImportCommand, StopsOnAFullDiskAndGoesOnLater) {
+  const SmallDisk disk(tree.MakeFolder("copies"), std::size_t{2} << 20U);
+  if (!disk.IsThere()) {
+    GTEST_SKIP() << "only the superuser can mount a small volume";
+  }
+  for (int i = 0; i < 6; ++i) {
+    tree.Write("photos/big" + std::to_string(i) + ".jpg", std::to_string(i) + std::string(300'000, 'x'));
+  }
+  // What fits now is taken away while it is copied: the file grows as soon as the folder of copies is there.
+  const Ran ran = RunShell(
+      "( while [ ! -e copies/.lumidex-import/manifest.jsonl ]; do :; done; head -c 1500000 /dev/zero > "
+      "copies/filler ) & $LUMIDEX --json import photos --to copies; code=$?; wait; exit $code");
+  const QJsonObject document = ran.Json();
+  EXPECT_EQ(document["copied"].toInt() + document["missing"].toArray().size(), 9);
+  EXPECT_EQ(ran.exitCode == 0 || ran.exitCode == 1, document["missing"].toArray().isEmpty());
+  ASSERT_TRUE(tree.Path("copies/filler").remove());
+  const QJsonObject rest = ImportTo().Json();
+  EXPECT_EQ(document["copied"].toInt() + rest["copied"].toInt(), 9);
+}
+
+/// A terminal on which the test types.
+class Keyboard {
+ public:
+  Keyboard() : master_(posix_openpt(O_RDWR | O_NOCTTY)) {
+    EXPECT_EQ(grantpt(master_), 0);
+    EXPECT_EQ(unlockpt(master_), 0);
+    slave_ = open(ptsname(master_), O_RDWR | O_NOCTTY);
+    EXPECT_GE(slave_, 0);
+  }
+  ~Keyboard() {
+    close(slave_);
+    close(master_);
+  }
+  Keyboard(const Keyboard&) = delete;
+  Keyboard& operator=(const Keyboard&) = delete;
+
+  int Slave() const { return slave_; }
+  void Type(const std::string& text) const {
+    EXPECT_EQ(write(master_, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+  }
+
+ private:
+  int master_ = -1;
+  int slave_ = -1;
+};
+
+class ProcessAtKeyboard : public QProcess {
+ public:
+  explicit ProcessAtKeyboard(const Keyboard& keyboard) : slave_(keyboard.Slave()) {}
+
+ protected:
+  void setupChildProcess() override {
+    dup2(slave_, STDIN_FILENO);
+    dup2(slave_, STDERR_FILENO);
+  }
+
+ private:
+  const int slave_;
+};
+
+class AskedAtATerminal : public ImportCommand {
+ protected:
+  void SetUp() override {
+    ImportCommand::SetUp();
+    // A file of the kernel's that can only be written, whoever asks.
+    const ioPath writeOnly("/sys/bus/platform/drivers_probe");
+    if (QueryFile(writeOnly).kind != FileState::Kind::File || OpensForReading(writeOnly)) {
+      GTEST_SKIP() << "there is no file here that nobody can read";
+    }
+    ASSERT_TRUE((Photos() / "card/img1.jpg").remove());
+    LUMIDEX_LINK_OR_SKIP(writeOnly, Photos() / "card/img1.jpg");
+  }
+
+  Ran Answer(const std::string& typed) const {
+    const Keyboard keyboard;
+    keyboard.Type(typed);
+    ProcessAtKeyboard process(keyboard);
+    Start(process, {"--json", "import", Text(Photos()), "--to", Text(Copies())});
+    return Finish(process);
+  }
+};
+
+TEST_F(AskedAtATerminal, GoesOnWithOkOrEnter) {
+  EXPECT_EQ(Answer("ok\n").Json()["copied"].toInt(), 2);
+  EXPECT_EQ(Answer("\n").Json()["known"].toArray().size(), 2);
+}
+
+TEST_F(AskedAtATerminal, AsksAgainForAWordThatIsNoButton) {
+  EXPECT_EQ(Answer("perhaps\no\n").Json()["copied"].toInt(), 2);
+}
+
+TEST_F(AskedAtATerminal, DoesNothingOnCancelOrAtTheEndOfTheInput) {
+  EXPECT_EQ(Answer("cancel\n").Json()["outcome"].toString(), QStringLiteral("declined"));
+  EXPECT_EQ(Answer("\x04").Json()["outcome"].toString(), QStringLiteral("declined"));
+  EXPECT_FALSE(Copies().exists());
+}
+
+TEST_F(AskedAtATerminal, FailsWhereNobodySits) {
+  const Ran ran = ImportTo();
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_EQ(ran.Json()["kind"].toString(), QStringLiteral("needs-answer"));
+  EXPECT_EQ(ImportTo({"--yes"}).exitCode, 3) << "told in advance, with one file left out";
+}
+
+#endif
+
+}  // namespace
+}  // namespace Zenvora::Test

@@ -1,0 +1,127 @@
+#include "ImportManifest.h"
+#include "Records.h"
+
+#include <support/LeftOut.h>
+#include <support/TempTree.h>
+
+#include <zenvora/core/FileState.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace Zenvora::Lumidex::Host {
+namespace {
+
+using Zenvora::Test::ErrorOf;
+using Zenvora::Test::ReadFile;
+using Zenvora::Test::TempTree;
+
+ManifestRecord Record(const ioPath& file, const ioPath& source = "/card/a.jpg") {
+  ManifestRecord record;
+  record.source = source;
+  record.file = file;
+  record.size = 18'446'744'073'709'551'615ULL;
+  record.sha256 = std::string(64, 'a');
+  record.sourceModifiedNs = -1;
+  record.modifiedNs = 9'223'372'036'854'775'807LL;
+  return record;
+}
+
+ioPath Place(const TempTree& tree) {
+  tree.MakeFolder("copies/.lumidex-import");
+  return tree.Path("copies");
+}
+
+TEST(ManifestLine, LeadsBackToItsRecord) {
+  std::vector<std::string> names = {"a.jpg", "\xD0\xB1 \xE5\x86\x99.jpg", "o'clock.jpg"};
+#ifndef _WIN32
+  // Names that no file can have there.
+  names.insert(names.end(), {"two\nlines.jpg", "\"quoted\".jpg"});
+#endif
+  for (const std::string& name : names) {
+    const QByteArray line = ManifestLine(Record(name, ioPath("/card") / name), 0);
+    EXPECT_EQ(line.count('\n'), 1) << "one line whatever the name";
+    const auto record = ParseManifestLine(line);
+    ASSERT_TRUE(record) << line.toStdString();
+    EXPECT_EQ(record->file, ioPath(name));
+    EXPECT_EQ(record->source, ioPath("/card") / name);
+    EXPECT_EQ(record->size, 18'446'744'073'709'551'615ULL);
+    EXPECT_EQ(record->sourceModifiedNs, -1);
+    EXPECT_EQ(record->modifiedNs, 9'223'372'036'854'775'807LL);
+  }
+}
+
+#ifdef _WIN32
+LUMIDEX_LEFT_OUT_ON_WINDOWS(ManifestLine, KeepsNamesThatAreNoText, Zenvora::Test::kNamesAreText);
+#else
+TEST(ManifestLine, KeepsNamesThatAreNoText) {
+  const auto record = ParseManifestLine(ManifestLine(Record("a\xFF.jpg", "/c\x80/b"), 0));
+  ASSERT_TRUE(record);
+  EXPECT_EQ(record->file, ioPath("a\xFF.jpg"));
+  EXPECT_EQ(record->source, ioPath("/c\x80/b"));
+}
+#endif
+
+TEST(ManifestLine, IsNoneWhenTornOrLeadingOut) {
+  const QByteArray line = ManifestLine(Record("a.jpg"), 0);
+  for (int length = 0; length + 2 < line.size(); ++length) {
+    EXPECT_FALSE(ParseManifestLine(line.left(length))) << length;
+  }
+  for (const char* const name : {"", ".", "..", "../a.jpg", "/a.jpg", "b/a.jpg"}) {
+    EXPECT_FALSE(ParseManifestLine(ManifestLine(Record(name), 0))) << name;
+  }
+  ManifestRecord shortHash = Record("a.jpg");
+  shortHash.sha256.pop_back();
+  EXPECT_FALSE(ParseManifestLine(ManifestLine(shortHash, 0)));
+}
+
+TEST(ImportManifest, GrowsAndTheLaterRecordCounts) {
+  const TempTree tree;
+  const ioPath copies = Place(tree);
+  EXPECT_TRUE(ImportManifest::Read(copies).empty());
+  {
+    ImportManifest manifest(copies);
+    manifest.Append({Record("a.jpg"), Record("b.jpg")});
+    manifest.Append({});
+  }
+  ImportManifest(copies).Append({Record("a.jpg", "/card/later.jpg")});
+  const auto records = ImportManifest::Read(copies);
+  ASSERT_EQ(records.size(), 2U);
+  EXPECT_EQ(records[0].source, ioPath("/card/later.jpg"));
+  EXPECT_EQ(records[1].file, ioPath("b.jpg"));
+}
+
+TEST(ImportManifest, GoesOnBehindALineThatWasTorn) {
+  const TempTree tree;
+  const ioPath copies = Place(tree);
+  ImportManifest(copies).Append({Record("a.jpg"), Record("b.jpg")});
+  const ioPath file = copies / ".lumidex-import" / "manifest.jsonl";
+  std::filesystem::resize_file(file.native(), file.file_size() - 20);
+  ImportManifest(copies).Append({Record("c.jpg")});
+  const auto records = ImportManifest::Read(copies);
+  ASSERT_EQ(records.size(), 2U);
+  EXPECT_EQ(records[0].file, ioPath("a.jpg"));
+  EXPECT_EQ(records[1].file, ioPath("c.jpg"));
+}
+
+TEST(ImportManifest, PassesOverWhatIsNoneOfItsLines) {
+  const TempTree tree;
+  const ioPath copies = Place(tree);
+  tree.Write("copies/.lumidex-import/manifest.jsonl", "[]\n{}\nnonsense\n\n" + std::string(2'000'000, 'x') +
+                                                          "\n" +
+                                                          ManifestLine(Record("a.jpg"), 0).toStdString());
+  EXPECT_EQ(ImportManifest::Read(copies).size(), 1U);
+}
+
+TEST(ImportManifest, SaysWhenItCannotBeWritten) {
+  const TempTree tree;
+  tree.MakeFolder("copies/.lumidex-import/manifest.jsonl");
+  EXPECT_THAT(ErrorOf([&] { ImportManifest manifest(tree.Path("copies")); }),
+              testing::HasSubstr("manifest.jsonl cannot be written"));
+}
+
+}  // namespace
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,128 @@
+#include "ImportFixture.h"
+#include "Records.h"
+
+#include <support/LeftOut.h>
+#include <support/Obstacles.h>
+#include <support/Unprivileged.h>
+
+#include <map>
+
+namespace Zenvora::Lumidex::Host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+using Zenvora::Test::ErrorOf;
+using Zenvora::Test::Slashes;
+
+class ImportSources : public ImportTest {
+ protected:
+  std::vector<std::string> Taken(const std::vector<ioPath>& sources) {
+    found_ = GatherSources(sources);
+    std::vector<std::string> paths;
+    for (const ImportSource& file : found_.files) {
+      paths.push_back(Relative(file.path));
+    }
+    return paths;
+  }
+  std::vector<std::string> Left(LeftFile::Kind kind) const {
+    std::vector<std::string> paths;
+    for (const LeftFile& file : found_.left) {
+      if (file.kind == kind) {
+        paths.push_back(Relative(file.path));
+      }
+    }
+    return paths;
+  }
+  std::string Relative(const ioPath& path) const {
+    return Slashes(path).substr(Slashes(tree.Path()).size() + 1);
+  }
+
+  GatheredSources found_;
+};
+
+TEST_F(ImportSources, ArePhotosWithWhatLiesBesideThem) {
+  for (const char* const name :
+       {"card/IMG_1.CR2", "card/IMG_1.JPG", "card/IMG_1.xmp", "card/IMG_1.CR2.xmp", "card/IMG_2.JPG"}) {
+    tree.Write(name, name);
+  }
+  tree.Write("card/alone.xmp", "x");
+  tree.Write("card/clip.mov", "x");
+  tree.Write("card/.hidden.jpg", "x");
+  EXPECT_THAT(Taken({Card()}), UnorderedElementsAre("card/IMG_1.CR2", "card/IMG_1.JPG", "card/IMG_1.xmp",
+                                                    "card/IMG_1.CR2.xmp", "card/IMG_2.JPG"));
+  std::map<std::string, std::size_t> shots;
+  for (const ImportSource& file : found_.files) {
+    shots[Relative(file.path)] = file.shot;
+  }
+  EXPECT_EQ(shots["card/IMG_1.CR2"], shots["card/IMG_1.CR2.xmp"]);
+  EXPECT_NE(shots["card/IMG_1.CR2"], shots["card/IMG_2.JPG"]);
+  EXPECT_THAT(Left(LeftFile::Kind::NotAPhoto), ElementsAre("card/alone.xmp", "card/clip.mov"));
+}
+
+TEST_F(ImportSources, BringTheirSideFilesButNoOtherPhotosWhenNamedThemselves) {
+  for (const char* const name : {"card/IMG_1.CR2", "card/IMG_1.JPG", "card/IMG_1.xmp", "card/IMG_2.xmp"}) {
+    tree.Write(name, name);
+  }
+  EXPECT_THAT(Taken({tree.Path("card/IMG_1.JPG")}), UnorderedElementsAre("card/IMG_1.JPG", "card/IMG_1.xmp"));
+  EXPECT_THAT(found_.left, IsEmpty()) << "nobody asked for the rest";
+}
+
+TEST_F(ImportSources, CountOnceHoweverOftenTheyAreNamed) {
+  const ioPath photo = MakePhoto("card/a.jpg", 1);
+  EXPECT_THAT(Taken({photo, Card(), photo, tree.Path("card/../card")}), ElementsAre("card/a.jpg"));
+}
+
+TEST_F(ImportSources, MustExist) {
+  EXPECT_THAT(ErrorOf([&] { GatherSources({tree.Path("missing")}); }), HasSubstr("cannot be imported"));
+}
+
+TEST_F(ImportSources, LoopsAndDanglingLinksAreLeft) {
+  MakePhoto("card/a.jpg", 1);
+  LUMIDEX_LINK_OR_SKIP(Card(), tree.Path("card/round"));
+  LUMIDEX_LINK_OR_SKIP(tree.Path("gone.jpg"), tree.Path("card/dangling.jpg"));
+  EXPECT_THAT(Taken({Card()}), ElementsAre("card/a.jpg"));
+  EXPECT_THAT(Left(LeftFile::Kind::Loop), ElementsAre("card/round"));
+  EXPECT_THAT(Left(LeftFile::Kind::Unreadable), ElementsAre("card/dangling.jpg"));
+}
+
+TEST_F(ImportSources, FollowLinksToPhotos) {
+  MakePhoto("elsewhere/a.jpg", 1);
+  tree.MakeFolder("card");
+  LUMIDEX_LINK_OR_SKIP(tree.Path("elsewhere/a.jpg"), tree.Path("card/link.jpg"));
+  EXPECT_THAT(Taken({Card()}), ElementsAre("card/link.jpg"));
+}
+
+#ifdef _WIN32
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportSources, LeavePipesAndDevicesAlone, Zenvora::Test::kNoPipesInFolders);
+#else
+TEST_F(ImportSources, LeavePipesAndDevicesAlone) {
+  MakePhoto("card/a.jpg", 1);
+  const Zenvora::Test::Pipe pipe(tree.Path("card/pipe.jpg"));
+  LUMIDEX_LINK_OR_SKIP("/dev/zero", tree.Path("card/zero.jpg"));
+  EXPECT_THAT(Taken({Card(), "/dev/null"}), ElementsAre("card/a.jpg"));
+  ASSERT_EQ(found_.left.size(), 3U);
+  for (const LeftFile& left : found_.left) {
+    EXPECT_EQ(left.kind, LeftFile::Kind::NoFile) << left.path;
+  }
+}
+#endif
+
+#ifdef _WIN32
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportSources, UnreadableFoldersAreTold, Zenvora::Test::kAccessLists);
+#else
+TEST_F(ImportSources, UnreadableFoldersAreTold) {
+  MakePhoto("card/closed/a.jpg", 1);
+  Zenvora::Test::LetEverybodyIn(tree.Path());
+  const Zenvora::Test::Closed closed(tree.Path("card/closed"));
+  EXPECT_TRUE(Zenvora::Test::AskAsNobody([&] {
+    return Taken({Card()}).empty() &&
+           Left(LeftFile::Kind::Unreadable) == std::vector<std::string>{"card/closed"};
+  }));
+}
+#endif
+
+}  // namespace
+}  // namespace Zenvora::Lumidex::Host
