@@ -3,6 +3,7 @@
 
 #include <support/LeftOut.h>
 #include <support/TempTree.h>
+#include <support/WriteLimit.h>
 
 #include <zenvora/core/FileState.h>
 
@@ -18,6 +19,9 @@ namespace {
 using Zenvora::Test::ErrorOf;
 using Zenvora::Test::ReadFile;
 using Zenvora::Test::TempTree;
+#ifndef _WIN32
+using Zenvora::Test::WriteLimit;
+#endif
 
 ManifestRecord Record(const ioPath& file, const ioPath& source = "/card/a.jpg") {
   ManifestRecord record;
@@ -122,6 +126,30 @@ TEST(ImportManifest, SaysWhenItCannotBeWritten) {
   EXPECT_THAT(ErrorOf([&] { ImportManifest manifest(tree.Path("copies")); }),
               testing::HasSubstr("manifest.jsonl cannot be written"));
 }
+
+#ifdef _WIN32
+
+LUMIDEX_LEFT_OUT_ON_WINDOWS(ImportManifest, FailsAgainAfterAFailure,
+                            "a file there can grow as long as there is room");
+
+#else
+
+TEST(ImportManifest, FailsAgainAfterAFailure) {
+  const TempTree tree;
+  const ioPath copies = Place(tree);
+  ImportManifest manifest(copies);
+  const auto append = [&manifest] { manifest.Append({Record("a.jpg")}); };
+  {
+    const WriteLimit limit(100);
+    EXPECT_THAT(ErrorOf(append), testing::HasSubstr("cannot be written"));
+  }
+  EXPECT_THAT(ErrorOf(append), testing::HasSubstr("cannot be written"))
+      << "what it had not written of a line would be the beginning of the next one";
+  ImportManifest(copies).Append({Record("b.jpg")});
+  EXPECT_EQ(ImportManifest::Read(copies).back().file, ioPath("b.jpg"));
+}
+
+#endif
 
 }  // namespace
 }  // namespace Zenvora::Lumidex::Host

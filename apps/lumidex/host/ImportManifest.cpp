@@ -170,7 +170,8 @@ class ImportManifest::Stream {
   void Write(const QByteArray& bytes) {
     errno = 0;
     const auto size = static_cast<std::size_t>(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, stream_) != size || !Sync(stream_)) {
+    // After a failure it may end within a line: whoever opens it anew sees to that.
+    if (stream_ == nullptr || std::fwrite(bytes.constData(), 1, size, stream_) != size || !Sync(stream_)) {
       Throw();
     }
   }

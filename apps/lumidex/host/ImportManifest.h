@@ -43,7 +43,7 @@ class ImportManifest {
   ImportManifest(const ImportManifest&) = delete;
   ImportManifest& operator=(const ImportManifest&) = delete;
 
-  /// Adds records, safe on the disk when this returns. Throws `HostError`.
+  /// Adds records, safe on the disk when this returns. Throws `HostError`, and from then on always.
   void Append(const std::vector<ManifestRecord>& records);
 
  private:
