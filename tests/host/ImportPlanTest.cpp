@@ -168,6 +168,92 @@ TEST_F(ImportPlanning, TakesACataloguedPhotoOnTheCardForNoCopy) {
   EXPECT_THAT(PlanWith({AlertButton::Yes}, {CopiesText()}).copies, SizeIs(1));
 }
 
+TEST_F(ImportPlanning, CopiesOneOfTwoSourcesOfOneContentAlsoWhenBothAreCatalogued) {
+  MakePhoto("card/1/a.jpg", 1);
+  MakePhoto("card/2/b.jpg", 1);
+  Scan(Stored(), {Card()}, {}, nullptr);
+  const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan), ElementsAre("a.jpg"));
+  ASSERT_THAT(plan.known, SizeIs(1));
+  EXPECT_EQ(plan.known[0].kind, KnownFile::Kind::Repeated);
+}
+
+TEST_F(ImportPlanning, TakesALinkToAnotherCardForNoCopy) {
+  MakePhoto("card/a.jpg", 1);
+  const ioPath other = MakePhoto("other/a.jpg", 1);
+  tree.MakeFolder("pictures");
+  LUMIDEX_LINK_OR_SKIP(other, tree.Path("pictures/link.jpg"));
+  Scan(Stored(), {tree.Path("pictures")}, {}, nullptr);
+  ASSERT_THAT(Stored().Photos(), SizeIs(1));
+  const auto storage = std::make_shared<FakeRemovableStorage>();
+  storage->roots = {tree.Path("other")};
+  const App::ServiceScope<App::IRemovableStorage> scope(storage);
+  EXPECT_THAT(PlanTo({Card()}).copies, SizeIs(1));
+}
+
+TEST_F(ImportPlanning, LeavesWhatLiesInTheFolderOfCopiesByWhicheverWay) {
+  const ioPath photo = MakePhoto("copies/a.jpg", 1);
+  tree.MakeFolder("card");
+  LUMIDEX_LINK_OR_SKIP(Copies(), tree.Path("link"));
+  LUMIDEX_LINK_OR_SKIP(Copies(), tree.Path("card/below"));
+  const ImportPlan throughTarget = PlanTo({Copies()}, tree.Path("link"));
+  EXPECT_THAT(throughTarget.copies, IsEmpty());
+  EXPECT_THAT(throughTarget.stays, ElementsAre(photo));
+  const ImportPlan throughSource = PlanTo({Card()});
+  EXPECT_THAT(throughSource.copies, IsEmpty());
+  EXPECT_THAT(throughSource.stays, SizeIs(1));
+  const ImportPlan below = PlanTo({Copies()}, tree.Path("link/new/../new2"));
+  EXPECT_EQ(below.folder, tree.Path("copies/new2"));
+}
+
+TEST_F(ImportPlanning, ShortensNamesThatTheCountMakesTooLong) {
+  // Of two bytes each: none is cut in two.
+  std::string base;
+  for (int i = 0; i < 125; ++i) {
+    base += "\xD0\xB1";
+  }
+  const std::string name = base + ".jpg";
+  MakePhoto("card/1/" + name, 1);
+  MakePhoto("card/2/" + name, 2);
+  MakePhoto("card/3/" + name, 3);
+  const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan),
+              ElementsAre(name, base.substr(0, 248) + "(1).jpg", base.substr(0, 244) + "(1)(3).jpg"));
+  EXPECT_EQ(Carry(plan).copied, 3U);
+  EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
+}
+
+TEST_F(ImportPlanning, TellsOfFilesThatWouldJoinAnotherShot) {
+  tree.Write("copies/IMG.CR2", "of another shot");
+  tree.Write("card/IMG.jpg", "one");
+  tree.Write("card/IMG.xmp", "its settings");
+  const ImportPlan plan = PlanTo({Card()});
+  ASSERT_THAT(plan.joins, SizeIs(1));
+  EXPECT_THAT(plan.joins[0].sources, ElementsAre(tree.Path("card/IMG.jpg"), tree.Path("card/IMG.xmp")));
+  EXPECT_THAT(plan.joins[0].targets, ElementsAre(Copies() / "IMG.jpg", Copies() / "IMG.xmp"));
+  EXPECT_THAT(plan.joins[0].others, ElementsAre(Copies() / "IMG.CR2"));
+}
+
+TEST_F(ImportPlanning, TellsOfShotsOfTwoFoldersThatWouldBecomeOne) {
+  tree.Write("card/1/IMG.CR2", "one");
+  tree.Write("card/2/img.jpg", "two");
+  const ImportPlan plan = PlanTo({Card()});
+  ASSERT_THAT(plan.joins, SizeIs(1));
+  EXPECT_THAT(plan.joins[0].sources, ElementsAre(tree.Path("card/2/img.jpg")));
+  EXPECT_THAT(plan.joins[0].others, ElementsAre(Copies() / "IMG.CR2"));
+}
+
+TEST_F(ImportPlanning, TellsNothingOfFilesThatJoinTheirOwnShot) {
+  MakePhoto("card/IMG.jpg", 1);
+  tree.Write("card/IMG.xmp", "settings");
+  Carry(PlanTo({Card()}));
+  tree.Write("card/IMG.CR2", "raw");
+  tree.Write("copies/other.jpg", "unlike");
+  const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan), ElementsAre("IMG.CR2"));
+  EXPECT_THAT(plan.joins, IsEmpty());
+}
+
 TEST_F(ImportPlanning, TakesAPhotoOnAnotherCardForNoCopy) {
   MakePhoto("card/a.jpg", 1);
   MakePhoto("other/a.jpg", 1);
@@ -225,6 +311,19 @@ TEST_F(ImportPlanning, SaysThatThereIsNoRoom) {
   EXPECT_EQ(PlanTo({Card()}).obstacle, "") << "what just fits fits";
 }
 
+TEST_F(ImportPlanning, SaysThatNothingMayBeMadeInTheFolderAlsoWhenAnotherDiskIsFull) {
+  MakePhotos("card", 2);
+  tree.MakeFolder("copies");
+  const auto disk = std::make_shared<Zenvora::Test::FakeDiskSpace>();
+  disk->free[Copies()] = 1'000'000'000;
+  disk->otherwise = 100;
+  const App::ServiceScope<App::IDiskSpace> diskScope(disk);
+  const auto access = std::make_shared<Zenvora::Test::FakeFolderAccess>();
+  access->closed = {Copies()};
+  const App::ServiceScope<App::IFolderAccess> accessScope(access);
+  EXPECT_THAT(PlanTo({Card()}).obstacle, HasSubstr("permission"));
+}
+
 TEST_F(ImportPlanning, StopsWhenInterrupted) {
   MakePhotos("card", 2);
   const std::atomic<bool> cancel{true};
@@ -245,6 +344,7 @@ TEST_F(ImportPlanning, HasNothingToDoWithoutPhotos) {
 
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, AsksAboutFilesThatCannotBeRead, Zenvora::Test::kAccessLists);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, KeepsNamesThatAreNoText, Zenvora::Test::kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, FindsFreeNamesThatAreNoTextToo, Zenvora::Test::kNamesAreText);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, SeesADeviceByWhatTheKernelTells,
                               "devices are told there by themselves");
 
@@ -289,6 +389,15 @@ TEST_F(ImportPlanning, KeepsNamesThatAreNoText) {
     EXPECT_THAT(TargetNames(plan),
                 testing::UnorderedElementsAre("a\xFF.jpg", "a\x80.jpg", "\xD0\xB1.jpg", "two\nlines.jpg"));
   }
+}
+
+TEST_F(ImportPlanning, FindsFreeNamesThatAreNoTextToo) {
+  tree.Write("copies/a\xFF.jpg", "of another photo");
+  tree.Write("copies/a\xFF(1).jpg", "of a third");
+  tree.Write("card/a\xFF.jpg", "one");
+  const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan), ElementsAre("a\xFF(1)(3).jpg"));
+  EXPECT_EQ(Carry(plan).copied, 1U);
 }
 
 /// What the kernel tells of a stick on USB that is mounted where the card is.

@@ -136,6 +136,87 @@ TEST_F(ImportRunning, CopiesAgainWhatWasDamagedOrTakenAway) {
   EXPECT_THAT(TargetNames(PlanTo({Card()})), ElementsAre("IMG_1000(1).JPG", "IMG_1001.JPG"));
 }
 
+/// Writes other bytes of the same number into a file, and gives it its old time.
+void ChangeUnseen(const ioPath& file) {
+  const auto time = fs::last_write_time(file.native());
+  std::string content = ReadFile(file);
+  content[content.size() / 2] = static_cast<char>(content[content.size() / 2] ^ 1);
+  std::ofstream(file.native(), std::ios::binary) << content;
+  fs::last_write_time(file.native(), time);
+}
+
+TEST_F(ImportRunning, CopiesAnotherPhotoThatTookTheNameSizeAndTimeOfOneCopiedBefore) {
+  const ioPath photo = MakePhoto("card/IMG.JPG", 1);
+  Carry(PlanTo({Card()}));
+  ChangeUnseen(photo);
+  const ImportPlan again = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(again), ElementsAre("IMG(1).JPG"));
+  Carry(again);
+  EXPECT_EQ(ReadFile(Copies() / "IMG(1).JPG"), ReadFile(photo));
+}
+
+TEST_F(ImportRunning, CopiesAgainWhatRottedUnderItsTime) {
+  MakePhoto("card/IMG.JPG", 1);
+  Carry(PlanTo({Card()}));
+  ChangeUnseen(Copies() / "IMG.JPG");
+  EXPECT_THAT(TargetNames(PlanTo({Card()})), ElementsAre("IMG(1).JPG"));
+}
+
+TEST_F(ImportRunning, KnowsCopiesWhoseTimeADiskToldInAnotherWayLater) {
+  MakePhoto("card/IMG.JPG", 1);
+  tree.Write("card/IMG.xmp", "stars");
+  Carry(PlanTo({Card()}));
+  CloseCatalogue();
+  fs::remove_all(tree.Path("data").native());
+  // As FAT does when the clocks are changed.
+  for (const char* const name : {"IMG.JPG", "IMG.xmp"}) {
+    const fs::path copy = (Copies() / name).native();
+    fs::last_write_time(copy, fs::last_write_time(copy) + std::chrono::hours(1));
+  }
+  const ImportPlan again = PlanTo({Card()});
+  EXPECT_THAT(again.copies, IsEmpty());
+  EXPECT_THAT(again.known, SizeIs(2));
+}
+
+TEST_F(ImportRunning, CopiesASideFileWithItsPhotoAlsoWhenOneOfAnotherShotIsLikeIt) {
+  MakePhoto("card/IMG.JPG", 1);
+  tree.Write("card/IMG.xmp", "five stars");
+  Carry(PlanTo({Card()}));
+  // The card was formatted, and the camera counts from the beginning.
+  MakePhoto("card/IMG.JPG", 2);
+  tree.Write("card/IMG.xmp", "five stars");
+  const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan), testing::UnorderedElementsAre("IMG(1).JPG", "IMG(1).xmp"));
+  Carry(plan);
+  EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
+}
+
+TEST_F(ImportRunning, KnowsASideFileWhosePhotoIsStillMissing) {
+  const ioPath photo = MakePhoto("card/IMG.JPG", 1);
+  tree.Write("card/IMG.xmp", "five stars");
+  const ImportPlan plan = PlanTo({Card()});
+  const std::string content = ReadFile(photo);
+  ASSERT_TRUE(photo.remove());
+  EXPECT_EQ(Carry(plan).copied, 1U);
+  tree.Write("card/IMG.JPG", content);
+  EXPECT_THAT(TargetNames(PlanTo({Card()})), ElementsAre("IMG.JPG"));
+}
+
+TEST_F(ImportRunning, ListsWhatIsThereWhenTheCatalogueFailsOnTheWay) {
+  MakePhotos("card", 3);
+  const ImportPlan plan = PlanTo({Card()});
+  CloseCatalogue();
+  ImportResult result;
+  {
+    Catalogue closed(tree.Path("data/catalogue.sqlite"), Catalogue::Mode::ReadOnly);
+    result = RunImport(plan, closed, {}, nullptr);
+  }
+  EXPECT_EQ(result.copied, 3U);
+  EXPECT_EQ(result.added, 0U);
+  EXPECT_THAT(result.stopped, HasSubstr("catalogue"));
+  EXPECT_EQ(Carry(PlanTo({Card()})).added, 3U) << "the next run takes them in";
+}
+
 TEST_F(ImportRunning, GivesNoNameThatIsTaken) {
   MakePhotos("card", 2);
   const ImportPlan plan = PlanTo({Card()});

@@ -126,7 +126,7 @@ class ImportRun {
       CopyAll();
     }
     if (!IsCancelled() && !plan_.stays.empty()) {
-      AddInPlace();
+      TakeInPlace();
     }
     result_.cancelled = IsCancelled();
     ReportRepeated();
@@ -180,8 +180,8 @@ class ImportRun {
   bool HasRoom(std::size_t index) {
     const std::int64_t free = Util::GetAvailableDiskSpace(plan_.folder);
     if (free > 0 && plan_.copies[index].state.size > static_cast<std::uint64_t>(free)) {
-      result_.stopped =
-          "The disk is full: " + plan_.folder.utf8string() + " has " + std::to_string(free) + " bytes left.";
+      Stop("The disk is full: " + plan_.folder.utf8string() + " has " + std::to_string(free) +
+           " bytes left.");
       return false;
     }
     return true;
@@ -207,8 +207,7 @@ class ImportRun {
       return false;
     }
     if (status == Status::NoRoom) {
-      result_.stopped =
-          "Nothing more can be copied to " + plan_.folder.utf8string() + ": " + task.copied.cause + ".";
+      Stop("Nothing more can be copied to " + plan_.folder.utf8string() + ": " + task.copied.cause + ".");
     }
     Miss(index, KindOf(status), task.copied.cause);
     return true;
@@ -235,9 +234,8 @@ class ImportRun {
 
   void FailVerified(const CopyVerifiers::Result& result) {
     result.task.copy.remove();
-    if (result.verified.status == Status::NoRoom && result_.stopped.empty()) {
-      result_.stopped =
-          "Nothing more can be copied to " + plan_.folder.utf8string() + ": " + result.verified.cause + ".";
+    if (result.verified.status == Status::NoRoom) {
+      Stop("Nothing more can be copied to " + plan_.folder.utf8string() + ": " + result.verified.cause + ".");
     }
     Miss(result.task.index, KindOf(result.verified.status), result.verified.cause);
   }
@@ -267,8 +265,20 @@ class ImportRun {
     }
     batch_.clear();
     SyncFolderOf(plan_.copies.front().target);
-    catalogue_.Store(photos);
-    result_.added += photos.size();
+    try {
+      catalogue_.Store(photos);
+      result_.added += photos.size();
+    } catch (const HostError& error) {
+      // What has its name stays, and the next run takes it in.
+      Stop(error.what());
+    }
+  }
+
+  /// The first cause counts: the others follow from it.
+  void Stop(const std::string& cause) {
+    if (result_.stopped.empty()) {
+      result_.stopped = cause;
+    }
   }
 
   void Name(CopyVerifiers::Result& result, std::vector<PhotoRecord>& photos) {
@@ -299,12 +309,24 @@ class ImportRun {
   }
 
   void GiveUpBatch(const std::string& cause) {
-    result_.stopped = cause;
+    Stop(cause);
     for (const CopyVerifiers::Result& result : batch_) {
       result.task.copy.remove();
       Miss(result.task.index, Missing::NotWritten, "the list of copies cannot be written");
     }
     batch_.clear();
+  }
+
+  void TakeInPlace() {
+    try {
+      AddInPlace();
+    } catch (const HostError& error) {
+      // What was copied is worth its report.
+      if (plan_.copies.empty()) {
+        throw;
+      }
+      Stop(error.what());
+    }
   }
 
   /// A scan of those files does all that is to be done.

@@ -1,3 +1,5 @@
+#include "FolderEntries.h"
+#include "ImportNames.h"
 #include "ImportQuestions.h"
 #include "KnownContent.h"
 #include "PathText.h"
@@ -15,9 +17,9 @@
 #include <QHash>
 #include <QSet>
 
-#include <map>
-#include <set>
+#include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace Zenvora::Lumidex::Host {
@@ -95,7 +97,8 @@ class Planner {
   }
 
   bool FindKnown() {
-    KnownContent content(photos_, GoesOn());
+    // Told to copy everything, what is catalogued among the sources is no copy of the others.
+    KnownContent content(photos_, options_.copyAll ? sources_ : std::vector<ImportSource>(), GoesOn());
     std::vector<std::size_t> fresh;
     std::uint64_t done = 0;
     // Photos come first in their shots: what lies beside them is known by them.
@@ -121,28 +124,29 @@ class Planner {
       content.Add(source);
       return false;
     }
-    plan_.known.push_back({known->isSource ? KnownFile::Kind::Repeated : KnownFile::Kind::Catalogued,
-                           source.path, known->path});
-    if (!known->isSource) {
-      knownShots_.emplace(source.shot, known->path);
+    if (known->isSource) {
+      plan_.known.push_back({KnownFile::Kind::Repeated, source.path, known->path});
+    } else {
+      AddKnown(KnownFile::Kind::Catalogued, source, known->path);
     }
     return true;
   }
 
   /// Beside the photo that is there already, under that photo's name.
   bool IsKnownSideFile(const ImportSource& source) {
-    const auto photo = knownShots_.find(source.shot);
-    if (photo == knownShots_.end()) {
+    const auto photos = photosThere_.find(source.shot);
+    if (photos == photosThere_.end()) {
       return false;
     }
+    const ioPath& photo = photos->second.front();
     const auto split = [](const ioPath& path) { return SplitShotName(path.filename().utf8string()); };
-    const ioPath other = Sibling(photo->second, split(photo->second).base + split(source.path).suffix);
+    const ioPath other = Sibling(photo, split(photo).base + split(source.path).suffix);
     const FileState state = QueryFile(other);
     if (state.kind != FileState::Kind::File || state.size != source.state.size ||
         state.identity == source.state.identity || !SameContent(source.path, other, GoesOn())) {
       return false;
     }
-    plan_.known.push_back({KnownFile::Kind::Copied, source.path, other});
+    AddKnown(KnownFile::Kind::Copied, source, other);
     return true;
   }
 
@@ -163,10 +167,11 @@ class Planner {
       questions.BeginRound();
       pairs = chosen_.empty() ? PlannedPairs() : Util::CheckFilesToCopyBeforeAddDialog(Texts());
     }
-    TakeOver(pairs);
+    const ioPath folder = Tavolin::FromNative(questions.ChosenFolder());
+    TakeOver(pairs, folder);
     if (!plan_.copies.empty()) {
-      plan_.folder = Tavolin::FromNative(questions.ChosenFolder());
-      FindSplits();
+      plan_.folder = folder;
+      SeeToNames();
       LookAtFolder();
     }
     return true;
@@ -182,60 +187,82 @@ class Planner {
       toCopy.insert(source);
     }
     const KnownCopies copies(Tavolin::FromNative(folder), GoesOn());
-    std::vector<std::size_t> rest;
-    for (const std::size_t i : chosen_) {
-      const ImportSource& source = sources_[i];
-      const bool isCopy = toCopy.contains(ReversibleText(source.path));
-      if (const auto copy = isCopy ? copies.Find(source) : std::nullopt) {
-        plan_.known.push_back({KnownFile::Kind::Copied, source.path, *copy});
-        if (source.isPhoto) {
-          // A run that was killed may not have come to taking it in.
-          plan_.stays.push_back(*copy);
+    std::unordered_set<std::size_t> dropped;
+    // Photos first: by them it is known whose the side files are.
+    for (const bool photos : {true, false}) {
+      for (const std::size_t i : chosen_) {
+        const ImportSource& source = sources_[i];
+        const bool isAsked = source.isPhoto == photos && toCopy.contains(ReversibleText(source.path));
+        if (const auto copy = isAsked ? copies.Find(source, photosThere_[source.shot]) : std::nullopt) {
+          AddKnown(KnownFile::Kind::Copied, source, *copy);
+          dropped.insert(i);
+          if (source.isPhoto) {
+            // A run that was killed may not have come to taking it in.
+            plan_.stays.push_back(*copy);
+          }
         }
-      } else {
-        rest.push_back(i);
       }
     }
-    const bool dropped = rest.size() < chosen_.size();
-    chosen_ = std::move(rest);
-    return dropped;
+    const auto end = std::remove_if(chosen_.begin(), chosen_.end(),
+                                    [&dropped](std::size_t i) { return dropped.count(i) > 0; });
+    chosen_.erase(end, chosen_.end());
+    return !dropped.empty();
   }
 
-  void TakeOver(const PlannedPairs& pairs) {
+  void AddKnown(KnownFile::Kind kind, const ImportSource& source, const ioPath& other) {
+    plan_.known.push_back({kind, source.path, other});
+    placed_.push_back({source.path, other, source.shot});
+    if (source.isPhoto) {
+      photosThere_[source.shot].push_back(other);
+    }
+  }
+
+  void TakeOver(const PlannedPairs& pairs, const ioPath& folder) {
     QHash<QString, std::size_t> places;
     for (const std::size_t i : chosen_) {
       places.insert(ReversibleText(sources_[i].path), i);
     }
     for (const auto& [source, target] : pairs) {
       const ImportSource& file = sources_[places.value(source.isEmpty() ? target : source)];
-      if (!source.isEmpty()) {
+      if (!source.isEmpty() && !LiesIn(folder, file.path)) {
         plan_.copies.push_back(
             {file.path, file.state, Tavolin::FromNative(PathOfReversible(target)), file.isPhoto});
         plan_.bytes += file.state.size;
-        shots_[file.shot].push_back(plan_.copies.size() - 1);
-      } else if (file.isPhoto) {
+        shots_.push_back(file.shot);
+        continue;
+      }
+      placed_.push_back({file.path, file.path, file.shot});
+      if (file.isPhoto) {
         plan_.stays.push_back(file.path);
       }
     }
   }
 
-  void FindSplits() {
-    for (const auto& [shot, copies] : shots_) {
-      std::set<std::string> bases;
-      bool renamed = false;
-      SplitShot split;
-      for (const std::size_t i : copies) {
-        const ImportCopy& copy = plan_.copies[i];
-        const std::string name = copy.target.filename().utf8string();
-        bases.insert(SplitShotName(name).base);
-        renamed = renamed || name != copy.source.filename().utf8string();
-        split.sources.push_back(copy.source);
-        split.targets.push_back(copy.target);
-      }
-      if (renamed && bases.size() > 1) {
-        plan_.splits.push_back(std::move(split));
+  /// Also by way of a link, which its name does not tell.
+  static bool LiesIn(const ioPath& folder, const ioPath& file) {
+    std::error_code error;
+    for (ioPath place = file.canonical(error); !place.empty() && place.parent_path() != place;) {
+      place = place.parent_path();
+      if (place == folder) {
+        return true;
       }
     }
+    return false;
+  }
+
+  void SeeToNames() {
+    std::vector<ioPath> entries;
+    std::error_code ignored;
+    for (FolderEntry& entry : ReadFolderEntries(plan_.folder, EntryChoice::All, ignored)) {
+      entries.push_back(std::move(entry.name));
+    }
+    MakeNamesServe(plan_.copies, entries);
+    const auto end = std::remove_if(placed_.begin(), placed_.end(), [this](const PlacedFile& file) {
+      return file.path.parent_path() != plan_.folder;
+    });
+    placed_.erase(end, placed_.end());
+    plan_.splits = FindSplits(plan_.copies, shots_, placed_);
+    plan_.joins = FindJoins(plan_.copies, shots_, placed_, entries);
   }
 
   void LookAtFolder() {
@@ -250,11 +277,10 @@ class Planner {
     // As for any new file in a folder: its name lets folder and volume be found, and is never used.
     DataModel stub;
     stub.SetPath(place / "stub.dat");
-    stub.SetSize(plan_.bytes);
     using Util::CheckSaveAvailableMode;
-    const auto [failed, text] = Util::CheckSaveAvailable(
-        {stub}, CheckSaveAvailableMode::DiskSpace | CheckSaveAvailableMode::FolderPermission);
-    // Room is asked of the very folder: the check looks at the root of its path.
+    const auto [failed, text] = Util::CheckSaveAvailable({stub}, CheckSaveAvailableMode::FolderPermission);
+    // Room is asked of the very folder: the check looks at the root of its path, and at nothing else when
+    // that is full.
     plan_.freeBytes = Util::GetAvailableDiskSpace(place);
     const bool isFull = plan_.freeBytes > 0 && plan_.bytes > static_cast<std::uint64_t>(plan_.freeBytes);
     if (failed == CheckSaveAvailableMode::FolderPermission) {
@@ -273,9 +299,11 @@ class Planner {
   ImportPlan plan_;
   /// Of the sources, what is still in question.
   std::vector<std::size_t> chosen_;
-  std::unordered_map<std::size_t, ioPath> knownShots_;
-  /// Of the copies, by shot.
-  std::map<std::size_t, std::vector<std::size_t>> shots_;
+  /// Photos of the shots whose content is there already.
+  std::unordered_map<std::size_t, std::vector<ioPath>> photosThere_;
+  std::vector<PlacedFile> placed_;
+  /// Of the copies.
+  std::vector<std::size_t> shots_;
 };
 
 }  // namespace

@@ -1,13 +1,17 @@
 #include "ImportQuestions.h"
 
+#include "PathText.h"
+
 #include <zenvora/qtutility/SystemDisk.h>
 #include <zenvora/tavolin/RemovableStorage.h>
 
+#include <QDir>
 #include <QString>
 
 #include <algorithm>
 #include <map>
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace Zenvora::Lumidex::Host {
@@ -17,6 +21,23 @@ namespace {
 template <class Service>
 std::shared_ptr<Service> InForce() {
   return App::Services::Current().Get<Service>();
+}
+
+/// Without links, as the sources are named: what lies in the folder is then seen to. It need not exist.
+QString RealFolder(const QString& answer) {
+  QString rest;
+  for (ioPath place(answer); !place.empty(); place = place.parent_path()) {
+    std::error_code error;
+    const ioPath real = place.canonical(error);
+    if (!error) {
+      return IsText(real) ? QDir::cleanPath(real.qstring() + rest) : answer;
+    }
+    if (place.parent_path() == place) {
+      break;
+    }
+    rest.prepend(QLatin1Char('/') + place.filename().qstring());
+  }
+  return answer;
 }
 
 }  // namespace
@@ -59,7 +80,7 @@ class ImportQuestions::FolderDialog : public App::IFolderDialog {
       return chosen_;
     }
     asked_ = true;
-    chosen_ = real_ != nullptr ? real_->Ask(question) : QString();
+    chosen_ = real_ != nullptr ? RealFolder(real_->Ask(question)) : QString();
     return chosen_;
   }
 

@@ -1,11 +1,29 @@
 #include "KnownContent.h"
 
+#include "FolderEntries.h"
+#include "ShotNames.h"
+
+#include <host/Scanner.h>
+
 #include <zenvora/core/FileState.h>
 #include <zenvora/tavolin/RemovableStorage.h>
 
+#include <algorithm>
+#include <system_error>
 #include <utility>
 
 namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+/// Where the bytes lie, which a link may keep elsewhere.
+ioPath RealFolderOf(const ioPath& file) {
+  std::error_code error;
+  const ioPath real = file.canonical(error);
+  return error ? file.parent_path() : real.parent_path();
+}
+
+}  // namespace
 
 std::vector<ioPath> ContentIndex::Alike(std::uint64_t size, const ioPath& file) {
   auto [at, end] = pending_.equal_range(size);
@@ -30,8 +48,12 @@ std::vector<ioPath> ContentIndex::Alike(std::uint64_t size, const ioPath& file) 
   return alike;
 }
 
-KnownContent::KnownContent(const std::vector<PhotoRecord>& photos, CopyGoesOn goesOn)
+KnownContent::KnownContent(const std::vector<PhotoRecord>& photos, const std::vector<ImportSource>& leaving,
+                           CopyGoesOn goesOn)
     : goesOn_(std::move(goesOn)) {
+  for (const ImportSource& source : leaving) {
+    leaving_.insert(source.state.identity);
+  }
   for (const PhotoRecord& photo : photos) {
     catalogued_.Add(photo.size, photo.path);
   }
@@ -54,7 +76,8 @@ std::optional<KnownContent::Known> KnownContent::FindPhoto(const ImportSource& s
 bool KnownContent::Counts(const ioPath& candidate, const ImportSource& source) {
   const FileState state = QueryFile(candidate);
   return state.kind == FileState::Kind::File && state.size == source.state.size &&
-         state.identity != source.state.identity && !IsOnRemovable(candidate.parent_path());
+         state.identity != source.state.identity && leaving_.count(state.identity) == 0 &&
+         !IsOnRemovable(RealFolderOf(candidate));
 }
 
 bool KnownContent::IsOnRemovable(const ioPath& folder) {
@@ -68,35 +91,36 @@ bool KnownContent::IsOnRemovable(const ioPath& folder) {
 KnownCopies::KnownCopies(const ioPath& folder, CopyGoesOn goesOn)
     : folder_(folder), goesOn_(std::move(goesOn)), records_(ImportManifest::Read(folder)) {
   for (std::size_t i = 0; i < records_.size(); ++i) {
-    bySource_[records_[i].source] = i;
     bySize_.emplace(records_[i].size, i);
+  }
+  std::error_code ignored;
+  for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::NotHidden, ignored)) {
+    if (IsPhotoName(entry.name)) {
+      shots_.insert(ShotKey(folder / entry.name));
+    }
   }
 }
 
-std::optional<ioPath> KnownCopies::Find(const ImportSource& source) const {
-  const auto known = bySource_.find(source.path);
-  if (known != bySource_.end()) {
-    const ManifestRecord& record = records_[known->second];
-    if (record.size == source.state.size && record.sourceModifiedNs == source.state.modifiedNs &&
-        IsWhole(record)) {
-      return folder_ / record.file;
-    }
-  }
+std::optional<ioPath> KnownCopies::Find(const ImportSource& source, const std::vector<ioPath>& own) const {
   for (auto [at, end] = bySize_.equal_range(source.state.size); at != end; ++at) {
     const ManifestRecord& record = records_[at->second];
     const ioPath copy = folder_ / record.file;
-    if (record.source.filename() == source.path.filename() && IsWhole(record) &&
-        QueryFile(copy).identity != source.state.identity && SameContent(source.path, copy, goesOn_)) {
+    if (record.source.filename() != source.path.filename() || !(source.isPhoto || MayBeOf(copy, own))) {
+      continue;
+    }
+    const FileState state = QueryFile(copy);
+    if (state.kind == FileState::Kind::File && state.size == source.state.size &&
+        state.identity != source.state.identity && SameContent(source.path, copy, goesOn_)) {
       return copy;
     }
   }
   return std::nullopt;
 }
 
-bool KnownCopies::IsWhole(const ManifestRecord& record) const {
-  const FileState state = QueryFile(folder_ / record.file);
-  return state.kind == FileState::Kind::File && state.size == record.size &&
-         state.modifiedNs == record.modifiedNs;
+bool KnownCopies::MayBeOf(const ioPath& copy, const std::vector<ioPath>& own) const {
+  const std::string shot = ShotKey(copy);
+  return shots_.count(shot) == 0 ||
+         std::any_of(own.begin(), own.end(), [&shot](const ioPath& photo) { return ShotKey(photo) == shot; });
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -8,8 +8,11 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -38,8 +41,10 @@ class KnownContent {
   };
 
   /// `photos`: of the catalogue. Those whose files are gone or changed do not count, nor do those that can be
-  /// pulled out with a device: whoever has a photo only there wants a copy.
-  KnownContent(const std::vector<PhotoRecord>& photos, CopyGoesOn goesOn);
+  /// pulled out with a device: whoever has a photo only there wants a copy. Neither do `leaving`, since they
+  /// are to be copied themselves.
+  KnownContent(const std::vector<PhotoRecord>& photos, const std::vector<ImportSource>& leaving,
+               CopyGoesOn goesOn);
 
   /// Where the content of the photo is already, other than in the file itself.
   std::optional<Known> FindPhoto(const ImportSource& source);
@@ -51,29 +56,31 @@ class KnownContent {
   bool IsOnRemovable(const ioPath& folder);
 
   const CopyGoesOn goesOn_;
+  std::set<std::pair<std::uint64_t, std::uint64_t>> leaving_;
   ContentIndex catalogued_;
   ContentIndex sources_;
   std::unordered_map<ioPath, bool> removable_;
 };
 
-/// Tells which files were copied into a folder before, as its list has it. Copies that are gone or changed do
-/// not count.
+/// Tells which files were copied into a folder before, as its list has it. Only copies count whose bytes are
+/// those of the file now: a name, a size and a time come again, and disks forget.
 class KnownCopies {
  public:
   KnownCopies(const ioPath& folder, CopyGoesOn goesOn);
 
-  /// The copy of the file, if there is one: known by its source's path and time, else by its bytes; side
-  /// files only under their own name, since those of different shots may be alike.
-  std::optional<ioPath> Find(const ImportSource& source) const;
+  /// The copy of the file under its own name or one made of it, if there is one. Side files of different
+  /// shots may be alike: theirs lies beside no other photos than `own`, those of its shot in the folder.
+  std::optional<ioPath> Find(const ImportSource& source, const std::vector<ioPath>& own) const;
 
  private:
-  bool IsWhole(const ManifestRecord& record) const;
+  bool MayBeOf(const ioPath& copy, const std::vector<ioPath>& own) const;
 
   const ioPath folder_;
   const CopyGoesOn goesOn_;
   std::vector<ManifestRecord> records_;
-  std::unordered_map<ioPath, std::size_t> bySource_;
   std::unordered_multimap<std::uint64_t, std::size_t> bySize_;
+  /// Of the photos in the folder.
+  std::unordered_set<std::string> shots_;
 };
 
 }  // namespace Zenvora::Lumidex::Host

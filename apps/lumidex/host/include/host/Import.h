@@ -69,8 +69,9 @@ using ImportProgressHandler = std::function<void(const ImportProgress&)>;
 /// are copied; a full disk or a folder that takes no files ends the import.
 ///
 /// A kill at any moment leaves whole, compared files under their names and nothing else that is seen; a plan
-/// made again then holds what is missing. Throws `HostError` when the catalogue fails, another import works
-/// in the folder, or nothing can be written there at all.
+/// made again then holds what is missing. A catalogue that fails ends the import, too. Throws `HostError` when
+/// another import works in the folder, nothing can be written there at all, or the catalogue fails and there
+/// is nothing to be copied.
 ImportResult RunImport(const ImportPlan& plan, Catalogue& catalogue, const ImportOptions& options,
                        const ImportProgressHandler& progress);
 

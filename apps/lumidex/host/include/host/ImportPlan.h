@@ -48,6 +48,13 @@ struct SplitShot {
   std::vector<ioPath> targets;  ///< One for each.
 };
 
+/// Files of one shot that would get the name of another, and so count as its files.
+struct JoinedShot {
+  std::vector<ioPath> sources;
+  std::vector<ioPath> targets;  ///< One for each.
+  std::vector<ioPath> others;   ///< Of the other shot: in the folder already, or copies to it.
+};
+
 /// What an import would do.
 struct ImportPlan {
   enum class Outcome {
@@ -64,6 +71,7 @@ struct ImportPlan {
   std::vector<KnownFile> known;
   std::vector<LeftFile> left;
   std::vector<SplitShot> splits;
+  std::vector<JoinedShot> joins;
   std::uint64_t bytes = 0;      ///< Of the copies.
   std::int64_t freeBytes = -1;  ///< Where they go; negative: unknown.
   /// Why the copies cannot be made there at all, in one sentence; empty: nothing is in the way.
