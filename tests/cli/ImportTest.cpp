@@ -110,6 +110,18 @@ TEST_F(ImportCommand, WarnsOfShotsThatFallApart) {
   EXPECT_EQ(ran.Json()["splits"].toArray().size(), 1);
 }
 
+TEST_F(ImportCommand, WarnsOfFilesThatJoinAnotherShot) {
+  tree.Write("copies/IMG0.CR2", "another photo");
+  const Ran planned = ImportTo({"--dry-run"});
+  EXPECT_EQ(planned.exitCode, 1);
+  ASSERT_EQ(planned.Json()["joins"].toArray().size(), 1);
+  const QJsonObject join = planned.Json()["joins"].toArray()[0].toObject();
+  EXPECT_EQ(join["sources"].toArray().size(), 1);
+  EXPECT_EQ(join["targets"].toArray()[0].toObject()["path"].toString(), Text(Copies() / "img0.jpg"));
+  EXPECT_EQ(join["others"].toArray()[0].toObject()["path"].toString(), Text(Copies() / "IMG0.CR2"));
+  EXPECT_THAT(Run({"import", Text(Photos()), "--to", Text(Copies())}).out, HasSubstr("of other shots"));
+}
+
 TEST_F(ImportCommand, RefusesToBeginWhereAFileIsInTheWay) {
   tree.Write("copies", "a file");
   const Ran ran = ImportTo();

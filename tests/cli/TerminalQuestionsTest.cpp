@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+
 namespace Zenvora::Lumidex::Cli {
 namespace {
 
@@ -43,6 +45,21 @@ TEST(ButtonOf, GuessesNothing) {
 TEST(ButtonsText, MarksTheOneOfEnter) {
   EXPECT_EQ(ButtonsText(YesNoCancel(), AlertButton::Yes), "[Yes*/No/Cancel]");
   EXPECT_EQ(ButtonsText(AlertButtons(AlertButton::Ok), AlertButton::None), "[OK]");
+}
+
+TEST(FolderOf, LeadsToTheHomeFolder) {
+  const QString start = QStringLiteral("/last");
+  const QString home = QDir::homePath();
+  EXPECT_EQ(FolderOf("", start), start);
+  EXPECT_EQ(FolderOf(" \r", start), start);
+  EXPECT_EQ(FolderOf("~", start), home);
+  EXPECT_EQ(FolderOf(" ~/Pictures/2024 ", start), home + QStringLiteral("/Pictures/2024"));
+  EXPECT_EQ(FolderOf(home.toStdString() + "/a/../b", start), home + QStringLiteral("/b"));
+  EXPECT_EQ(FolderOf("below", start), QDir::current().filePath(QStringLiteral("below")));
+  EXPECT_EQ(FolderOf("~below", start), QDir::current().filePath(QStringLiteral("~below")));
+#ifndef _WIN32
+  EXPECT_EQ(FolderOf("/a\xFF", start), QString()) << "no text";
+#endif
 }
 
 class GivenInAdvance : public testing::Test {

@@ -183,7 +183,8 @@ class ImportCommand {
       return ExitCode::Failed;
     }
     ExitCode code = ExitCode::Done;
-    if (view_.plan.outcome == Outcome::Declined || view_.found == 0 || !view_.plan.splits.empty()) {
+    if (view_.plan.outcome == Outcome::Declined || view_.found == 0 || !view_.plan.splits.empty() ||
+        !view_.plan.joins.empty()) {
       code = ExitCode::Findings;
     }
     for (const Host::LeftFile& left : view_.plan.left) {

@@ -125,6 +125,15 @@ void WritePlan(JsonWriter& json, const Host::ImportPlan& plan) {
     json.EndObject();
   }
   json.EndArray();
+  json.BeginArray("joins");
+  for (const Host::JoinedShot& join : plan.joins) {
+    json.BeginObject();
+    WritePaths(json, "sources", join.sources);
+    WritePaths(json, "targets", join.targets);
+    WritePaths(json, "others", join.others);
+    json.EndObject();
+  }
+  json.EndArray();
 }
 
 void WriteResult(JsonWriter& json, const Host::ImportResult& result) {
@@ -174,17 +183,23 @@ std::string PlanText(const ImportView& view) {
   return text;
 }
 
-std::string SplitsText(const ImportView& view) {
-  if (view.plan.splits.empty()) {
+template <class Shot>
+std::string ShotsText(const char* what, const std::vector<Shot>& shots) {
+  if (shots.empty()) {
     return {};
   }
   TextTable table({{}, {}, {}});
-  for (const Host::SplitShot& split : view.plan.splits) {
-    for (std::size_t i = 0; i < split.sources.size(); ++i) {
-      table.AddRow({split.sources[i].utf8string(), "->", split.targets[i].filename().utf8string()});
+  for (const Shot& shot : shots) {
+    for (std::size_t i = 0; i < shot.sources.size(); ++i) {
+      table.AddRow({shot.sources[i].utf8string(), "->", shot.targets[i].filename().utf8string()});
     }
   }
-  return "These files are of one shot each, and the free names for them are not:\n" + table.Text(2) + '\n';
+  return what + table.Text(2) + '\n';
+}
+
+std::string ShotsText(const Host::ImportPlan& plan) {
+  return ShotsText("These files are of one shot each, and the free names for them are not:\n", plan.splits) +
+         ShotsText("These files are of other shots than those whose names they share there:\n", plan.joins);
 }
 
 std::string MissingText(const ImportView& view) {
@@ -316,7 +331,7 @@ std::string ImportDocument(const ImportView& view) {
 }
 
 std::string ImportText(const ImportView& view) {
-  return LeftText(view) + SplitsText(view) + (view.dryRun ? PlanText(view) : "") + MissingText(view) +
+  return LeftText(view) + ShotsText(view.plan) + (view.dryRun ? PlanText(view) : "") + MissingText(view) +
          FindingsText(view) +
          (view.result.stopped.empty() ? "" : EscapeForTerminal(view.result.stopped) + '\n') +
          KnownText(view) + OutcomeText(view);

@@ -77,6 +77,19 @@ App::AlertButton ButtonOf(const std::string& line, AlertButtons buttons, AlertBu
   return found;
 }
 
+QString FolderOf(const std::string& line, const QString& startFolder) {
+  std::string folder = Trimmed(line);
+  if (folder.empty()) {
+    return startFolder;
+  }
+  if (folder == "~" || folder.compare(0, 2, "~/") == 0) {
+    folder.replace(0, 1, QDir::homePath().toStdString());
+  }
+  const ioPath absolute = AbsolutePath(folder);
+  const QString text = absolute.qstring();
+  return ioPath(text) == absolute ? QDir::cleanPath(text) : QString();
+}
+
 std::string ButtonsText(AlertButtons buttons, AlertButton first) {
   std::string text;
   for (const auto& [button, name] : kNames) {
@@ -161,13 +174,17 @@ class TerminalQuestions::FolderDialog : public App::IFolderDialog {
       wasGiven_ = true;
       return question.startFolder;
     }
-    const auto line =
-        asker_->Ask(question.caption.toStdString(), "[" + question.startFolder.toStdString() + "]");
-    if (!line) {
-      return QString();
+    for (;;) {
+      const auto line =
+          asker_->Ask(question.caption.toStdString(), "[" + question.startFolder.toStdString() + "]");
+      if (!line) {
+        return QString();
+      }
+      const QString folder = FolderOf(*line, question.startFolder);
+      if (!folder.isEmpty()) {
+        return folder;
+      }
     }
-    const std::string folder = Trimmed(*line);
-    return folder.empty() ? question.startFolder : QDir::cleanPath(AbsolutePath(folder).qstring());
   }
 
  private:

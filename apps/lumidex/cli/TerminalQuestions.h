@@ -47,6 +47,10 @@ class TerminalQuestions {
 /// `None`: no button or more than one. Pure.
 App::AlertButton ButtonOf(const std::string& line, App::AlertButtons buttons, App::AlertButton first);
 
+/// The folder that the line names, absolute: an empty line `startFolder`, and "~" the home folder, since no
+/// shell was there to put it in. Empty: none, since it is no text, as which folders are remembered.
+QString FolderOf(const std::string& line, const QString& startFolder);
+
 /// "[Yes/No/Cancel]", the one that Enter presses marked: "Yes*". Pure.
 std::string ButtonsText(App::AlertButtons buttons, App::AlertButton first);
 

@@ -52,10 +52,7 @@ int ThreadCount(const ImportOptions& options) {
 class Workshop {
  public:
   explicit Workshop(const ioPath& folder) : copies_(folder), folder_(ImportFolder(folder)) {
-    if (const std::error_code error = MakeFolders(folder_)) {
-      ThrowHostError(folder.utf8string(),
-                     "Nothing can be copied to " + folder.utf8string() + ": " + ErrorText(error) + ".");
-    }
+    MakeSafely(folder_);
     if (const std::error_code error = lock_.Take(folder_ / "lock")) {
       const bool busy = error == std::errc::resource_unavailable_try_again;
       ThrowHostError(folder.utf8string(), busy ? "Another import is at work in " + folder.utf8string() + "."
@@ -81,6 +78,23 @@ class Workshop {
   ImportManifest& Manifest() { return *manifest_; }
 
  private:
+  /// With their names on the disk: what is in a folder is lost with it.
+  void MakeSafely(const ioPath& folder) const {
+    std::vector<ioPath> made;
+    for (ioPath place = folder;
+         QueryFile(place).kind == FileState::Kind::Missing && place.parent_path() != place;) {
+      made.push_back(place);
+      place = place.parent_path();
+    }
+    if (const std::error_code error = MakeFolders(folder)) {
+      ThrowHostError(copies_.utf8string(),
+                     "Nothing can be copied to " + copies_.utf8string() + ": " + ErrorText(error) + ".");
+    }
+    for (const ioPath& place : made) {
+      SyncFolderOf(place);
+    }
+  }
+
   void RemoveParts() const {
     std::error_code ignored;
     for (const FolderEntry& entry : ReadFolderEntries(folder_, EntryChoice::All, ignored)) {
