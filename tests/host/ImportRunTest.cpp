@@ -191,6 +191,23 @@ TEST_F(ImportRunning, CopiesASideFileWithItsPhotoAlsoWhenOneOfAnotherShotIsLikeI
   EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
 }
 
+TEST_F(ImportRunning, TakesASideFileWhosePhotoIsStillMissingForTheOneOfItsOwnShotOnly) {
+  for (const char* const folder : {"card/1", "card/2"}) {
+    tree.Write(std::string(folder) + "/IMG.xmp", "five stars");
+  }
+  const ioPath first = MakePhoto("card/1/IMG.JPG", 1);
+  MakePhoto("card/2/IMG.JPG", 2);
+  const ImportPlan plan = PlanTo({tree.Path("card/1")});
+  const std::string content = ReadFile(first);
+  ASSERT_TRUE(first.remove());
+  EXPECT_EQ(Carry(plan).copied, 1U);
+  tree.Write("card/1/IMG.JPG", content);
+  const ImportPlan rest = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(rest), testing::UnorderedElementsAre("IMG.JPG", "IMG(1).JPG", "IMG(1).xmp"));
+  Carry(rest);
+  EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
+}
+
 TEST_F(ImportRunning, KnowsASideFileWhosePhotoIsStillMissing) {
   const ioPath photo = MakePhoto("card/IMG.JPG", 1);
   tree.Write("card/IMG.xmp", "five stars");

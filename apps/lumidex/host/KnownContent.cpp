@@ -105,7 +105,8 @@ std::optional<ioPath> KnownCopies::Find(const ImportSource& source, const std::v
   for (auto [at, end] = bySize_.equal_range(source.state.size); at != end; ++at) {
     const ManifestRecord& record = records_[at->second];
     const ioPath copy = folder_ / record.file;
-    if (record.source.filename() != source.path.filename() || !(source.isPhoto || MayBeOf(copy, own))) {
+    if (record.source.filename() != source.path.filename() ||
+        !(source.isPhoto || IsOf(record, source, own))) {
       continue;
     }
     const FileState state = QueryFile(copy);
@@ -117,10 +118,13 @@ std::optional<ioPath> KnownCopies::Find(const ImportSource& source, const std::v
   return std::nullopt;
 }
 
-bool KnownCopies::MayBeOf(const ioPath& copy, const std::vector<ioPath>& own) const {
-  const std::string shot = ShotKey(copy);
-  return shots_.count(shot) == 0 ||
-         std::any_of(own.begin(), own.end(), [&shot](const ioPath& photo) { return ShotKey(photo) == shot; });
+bool KnownCopies::IsOf(const ManifestRecord& record, const ImportSource& source,
+                       const std::vector<ioPath>& own) const {
+  const std::string shot = ShotKey(folder_ / record.file);
+  const bool isBesideOwn =
+      std::any_of(own.begin(), own.end(), [&shot](const ioPath& photo) { return ShotKey(photo) == shot; });
+  // By its path alone it may be of a shot that bore the name before, whose photo it then lies beside.
+  return isBesideOwn || (record.source == source.path && (!own.empty() || shots_.count(shot) == 0));
 }
 
 }  // namespace Zenvora::Lumidex::Host

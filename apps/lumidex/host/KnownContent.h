@@ -69,11 +69,12 @@ class KnownCopies {
   KnownCopies(const ioPath& folder, CopyGoesOn goesOn);
 
   /// The copy of the file under its own name or one made of it, if there is one. Side files of different
-  /// shots may be alike: theirs lies beside no other photos than `own`, those of its shot in the folder.
+  /// shots may be alike: a copy counts that lies beside one of `own`, the photos of its shot that are there
+  /// already, or came from the same path and lies beside no photo of another shot.
   std::optional<ioPath> Find(const ImportSource& source, const std::vector<ioPath>& own) const;
 
  private:
-  bool MayBeOf(const ioPath& copy, const std::vector<ioPath>& own) const;
+  bool IsOf(const ManifestRecord& record, const ImportSource& source, const std::vector<ioPath>& own) const;
 
   const ioPath folder_;
   const CopyGoesOn goesOn_;
