@@ -91,7 +91,7 @@ bool KnownContent::IsOnRemovable(const ioPath& folder) {
 KnownCopies::KnownCopies(const ioPath& folder, CopyGoesOn goesOn)
     : folder_(folder), goesOn_(std::move(goesOn)), records_(ImportManifest::Read(folder)) {
   for (std::size_t i = 0; i < records_.size(); ++i) {
-    bySize_.emplace(records_[i].size, i);
+    byName_.emplace(records_[i].source.filename(), i);
   }
   std::error_code ignored;
   for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::NotHidden, ignored)) {
@@ -102,11 +102,10 @@ KnownCopies::KnownCopies(const ioPath& folder, CopyGoesOn goesOn)
 }
 
 std::optional<ioPath> KnownCopies::Find(const ImportSource& source, const std::vector<ioPath>& own) const {
-  for (auto [at, end] = bySize_.equal_range(source.state.size); at != end; ++at) {
+  for (auto [at, end] = byName_.equal_range(source.path.filename()); at != end; ++at) {
     const ManifestRecord& record = records_[at->second];
     const ioPath copy = folder_ / record.file;
-    if (record.source.filename() != source.path.filename() ||
-        !(source.isPhoto || IsOf(record, source, own))) {
+    if (record.size != source.state.size || !(source.isPhoto || IsOf(record, source, own))) {
       continue;
     }
     const FileState state = QueryFile(copy);

@@ -79,7 +79,8 @@ class KnownCopies {
   const ioPath folder_;
   const CopyGoesOn goesOn_;
   std::vector<ManifestRecord> records_;
-  std::unordered_multimap<std::uint64_t, std::size_t> bySize_;
+  /// By the names of the sources.
+  std::unordered_multimap<ioPath, std::size_t> byName_;
   /// Of the photos in the folder.
   std::unordered_set<std::string> shots_;
 };

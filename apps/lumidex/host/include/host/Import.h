@@ -69,9 +69,9 @@ using ImportProgressHandler = std::function<void(const ImportProgress&)>;
 /// are copied; a full disk or a folder that takes no files ends the import.
 ///
 /// A kill at any moment leaves whole, compared files under their names and nothing else that is seen; a plan
-/// made again then holds what is missing. A catalogue that fails ends the import, too. Throws `HostError` when
-/// another import works in the folder, nothing can be written there at all, or the catalogue fails and there
-/// is nothing to be copied.
+/// made again then holds what is missing. A catalogue that fails ends the import, too. Throws `HostError`
+/// when another import works in the folder, nothing can be written there at all, or the catalogue fails and
+/// there is nothing to be copied.
 ImportResult RunImport(const ImportPlan& plan, Catalogue& catalogue, const ImportOptions& options,
                        const ImportProgressHandler& progress);
 
