@@ -1,17 +1,14 @@
 #include "Commands.h"
-#include "Failure.h"
 #include "ImportView.h"
 #include "Interrupt.h"
 #include "JsonWriter.h"
 #include "Options.h"
+#include "Sources.h"
 #include "TerminalText.h"
 #include "TextTable.h"
 #include "ValueTexts.h"
 
 #include <host/SaveChecks.h>
-
-#include <zenvora/core/ErrorText.h>
-#include <zenvora/core/FileState.h>
 
 #include <algorithm>
 #include <memory>
@@ -119,18 +116,7 @@ std::string ReportText(const CheckReport& report) {
 }
 
 ExitCode RunCheck(const std::vector<std::string>& names, Session& session) {
-  std::vector<ioPath> files;
-  for (const std::string& name : names) {
-    files.push_back(AbsolutePath(name));
-    const FileState state = QueryFile(files.back());
-    if (state.kind == FileState::Kind::Missing || state.error) {
-      throw Failure(
-          "no-source",
-          "There is no file or folder " + files.back().utf8string() +
-              (state.kind == FileState::Kind::Missing ? "." : " (" + ErrorText(state.error) + ")."));
-    }
-  }
-  const CheckReport report = Host::CheckFiles(Host::GatherSources(files));
+  const CheckReport report = Host::CheckFiles(Host::GatherSources(ExistingSources(names)));
   ThrowIfInterrupted("Interrupted. Nothing was changed.");
   session.output.Print(session.globals.json ? Document(report) : ReportText(report));
   if (report.files == 0) {

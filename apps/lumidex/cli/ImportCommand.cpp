@@ -5,15 +5,13 @@
 #include "OpenJournal.h"
 #include "Options.h"
 #include "Progress.h"
+#include "Sources.h"
 #include "TerminalQuestions.h"
 
 #include <host/Catalogue.h>
 #include <host/Import.h>
 #include <host/ImportPlan.h>
 #include <host/ImportSources.h>
-
-#include <zenvora/core/ErrorText.h>
-#include <zenvora/core/FileState.h>
 
 #include <glog/logging.h>
 
@@ -63,21 +61,6 @@ struct ImportArguments {
   bool dryRun = false;
 };
 
-std::vector<ioPath> SourcesOf(const ImportArguments& arguments) {
-  std::vector<ioPath> sources;
-  for (const std::string& source : arguments.sources) {
-    sources.push_back(AbsolutePath(source));
-    const FileState state = QueryFile(sources.back());
-    if (state.kind == FileState::Kind::Missing || state.error) {
-      throw Failure(
-          "no-source",
-          "There is no file or folder " + sources.back().utf8string() +
-              (state.kind == FileState::Kind::Missing ? "." : " (" + ErrorText(state.error) + ")."));
-    }
-  }
-  return sources;
-}
-
 GivenAnswers AnswersOf(const ImportArguments& arguments) {
   GivenAnswers given;
   given.yes = arguments.yes;
@@ -106,7 +89,7 @@ class ImportCommand {
   }
 
   ExitCode Run() {
-    const std::vector<ioPath> roots = SourcesOf(arguments_);
+    const std::vector<ioPath> roots = ExistingSources(arguments_.sources);
     const GivenAnswers given = AnswersOf(arguments_);
     if (!arguments_.dryRun) {
       RecoverIfNeeded(session_);

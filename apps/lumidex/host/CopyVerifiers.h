@@ -1,14 +1,13 @@
 #pragma once
 
 #include "FileCopy.h"
+#include "TaskThreads.h"
 
 #include <host/Scanner.h>
 
-#include <condition_variable>
 #include <cstddef>
-#include <deque>
-#include <mutex>
-#include <thread>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -33,14 +32,11 @@ class CopyVerifiers {
     ScanFinding finding;  ///< Of a photo that could not be read.
   };
 
-  explicit CopyVerifiers(int threads);
-  ~CopyVerifiers();
-  CopyVerifiers(const CopyVerifiers&) = delete;
-  CopyVerifiers& operator=(const CopyVerifiers&) = delete;
+  explicit CopyVerifiers(int threads) : threads_(threads, &CopyVerifiers::Verify) {}
 
   /// True when as many bytes or files are under way as may be: that bounds what waits in the system's memory.
-  bool IsFull() const { return underWay_ >= kMostFiles || bytes_ >= kMostBytes; }
-  bool IsIdle() const { return underWay_ == 0; }
+  bool IsFull() const { return threads_.UnderWay() >= kMostFiles || bytes_ >= kMostBytes; }
+  bool IsIdle() const { return threads_.UnderWay() == 0; }
   void Submit(Task task);
   /// What was compared since the last call; with `wait`, waits a moment when that is nothing.
   std::vector<Result> Collect(bool wait);
@@ -49,20 +45,11 @@ class CopyVerifiers {
   static constexpr std::size_t kMostFiles = 64;
   static constexpr std::uint64_t kMostBytes = std::uint64_t{256} << 20U;
 
-  void Run();
-  static Result Verify(Task task);
+  static Result Verify(Task& task);
 
-  // The handing thread's own.
-  std::size_t underWay_ = 0;
+  /// Under way.
   std::uint64_t bytes_ = 0;
-
-  std::mutex mutex_;
-  std::condition_variable tasksChanged_;
-  std::condition_variable resultsChanged_;
-  std::deque<Task> tasks_;
-  std::vector<Result> results_;
-  bool stopping_ = false;
-  std::vector<std::thread> threads_;
+  TaskThreads<Task, Result> threads_;
 };
 
 }  // namespace Zenvora::Lumidex::Host

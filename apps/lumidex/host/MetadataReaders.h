@@ -1,11 +1,11 @@
 #pragma once
 
+#include "TaskThreads.h"
+
 #include <host/Scanner.h>
 
-#include <condition_variable>
-#include <deque>
-#include <mutex>
-#include <thread>
+#include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -25,34 +25,21 @@ class MetadataReaders {
     ScanFinding finding;  ///< When not.
   };
 
-  explicit MetadataReaders(int threads);
-  ~MetadataReaders();
-  MetadataReaders(const MetadataReaders&) = delete;
-  MetadataReaders& operator=(const MetadataReaders&) = delete;
+  explicit MetadataReaders(int threads) : threads_(threads, &MetadataReaders::Read) {}
 
   /// True when as many files are under way as may be: that bounds the memory.
-  bool IsFull() const { return underWay_ >= kMaxUnderWay; }
-  bool IsIdle() const { return underWay_ == 0; }
-  void Submit(Task task);
+  bool IsFull() const { return threads_.UnderWay() >= kMaxUnderWay; }
+  bool IsIdle() const { return threads_.UnderWay() == 0; }
+  void Submit(Task task) { threads_.Submit(std::move(task)); }
   /// What was read since the last call; with `wait`, waits a moment when that is nothing.
-  std::vector<Result> Collect(bool wait);
+  std::vector<Result> Collect(bool wait) { return threads_.Collect(wait); }
 
  private:
   static constexpr std::size_t kMaxUnderWay = 1024;
 
-  void Run();
-  static Result Read(const Task& task);
+  static Result Read(Task& task);
 
-  /// Handed out and not yet collected; the handing thread's own.
-  std::size_t underWay_ = 0;
-
-  std::mutex mutex_;
-  std::condition_variable tasksChanged_;
-  std::condition_variable resultsChanged_;
-  std::deque<Task> tasks_;
-  std::vector<Result> results_;
-  bool stopping_ = false;
-  std::vector<std::thread> threads_;
+  TaskThreads<Task, Result> threads_;
 };
 
 }  // namespace Zenvora::Lumidex::Host
