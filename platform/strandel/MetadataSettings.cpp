@@ -1,0 +1,34 @@
+#include "FormatName.h"
+#include "ImageMetadata.h"
+#include "PhotoReading.h"
+
+#include <zenvora/core/FileState.h>
+#include <zenvora/strandel/MetadataSettings.h>
+
+#include <utility>
+
+namespace Zenvora::Strandel {
+
+MetadataError::~MetadataError() noexcept = default;
+
+void MetadataSettings::CreateMetadata(const ioPath& file,
+                                      const boost::intrusive_ptr<const Proc::IFormatCodecVideo>& /*codec*/) {
+  ImageMetadata::File known;
+  known.modifiedNs = QueryFile(file).modifiedNs;
+  Exiv2::ExifData exif;
+  const PhotoFacts facts = ReadPhoto(file, ExivReach::Position, [&known, &exif](Exiv2::Image& image) {
+    known.format = FormatName(image);
+    known.width = image.pixelWidth();
+    known.height = image.pixelHeight();
+    std::swap(exif, image.exifData());
+  });
+  if (facts.status != PhotoFacts::Status::Read) {
+    BOOST_THROW_EXCEPTION(MetadataError() << TagFilename(file.utf8string())
+                                          << TagDescription("Cannot read the metadata of " +
+                                                            file.utf8string() + ": " + facts.cause));
+  }
+  metadata_ =
+      boost::intrusive_ptr<Proc::IImageMetadata>(new ImageMetadata(std::move(exif), std::move(known)));
+}
+
+}  // namespace Zenvora::Strandel
