@@ -1,4 +1,5 @@
 #include "FormatName.h"
+#include "HeifSize.h"
 #include "ImageMetadata.h"
 #include "PhotoReading.h"
 
@@ -11,17 +12,28 @@ namespace Zenvora::Strandel {
 
 MetadataError::~MetadataError() noexcept = default;
 
+namespace {
+
+QSize SizeOf(const Exiv2::Image& image, PhotoSource& source) {
+  const QSize inBoxes = image.imageType() == Exiv2::ImageType::bmff ? ReadHeifSize(source) : QSize();
+  return inBoxes.isEmpty() ? QSize(image.pixelWidth(), image.pixelHeight()) : inBoxes;
+}
+
+}  // namespace
+
 void MetadataSettings::CreateMetadata(const ioPath& file,
                                       const boost::intrusive_ptr<const Proc::IFormatCodecVideo>& /*codec*/) {
   ImageMetadata::File known;
   known.modifiedNs = QueryFile(file).modifiedNs;
   Exiv2::ExifData exif;
-  const PhotoFacts facts = ReadPhoto(file, ExivReach::Position, [&known, &exif](Exiv2::Image& image) {
-    known.format = FormatName(image);
-    known.width = image.pixelWidth();
-    known.height = image.pixelHeight();
-    std::swap(exif, image.exifData());
-  });
+  const PhotoFacts facts =
+      ReadPhoto(file, ExivReach::Position, [&known, &exif](Exiv2::Image& image, PhotoSource& source) {
+        known.format = FormatName(image);
+        const QSize size = SizeOf(image, source);
+        known.width = size.width();
+        known.height = size.height();
+        std::swap(exif, image.exifData());
+      });
   if (facts.status != PhotoFacts::Status::Read) {
     BOOST_THROW_EXCEPTION(MetadataError() << TagFilename(file.utf8string())
                                           << TagDescription("Cannot read the metadata of " +

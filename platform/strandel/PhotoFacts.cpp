@@ -11,7 +11,7 @@ namespace {
 /// What a reading goes for, and who gets it.
 struct Wish {
   ExivReach reach;
-  const std::function<void(Exiv2::Image&)>& take;
+  const TakeImage& take;
 };
 
 std::string WithoutBlanks(const std::string& text) {
@@ -65,7 +65,7 @@ void ReadWithExiv2(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
   }
   Take(image.Fields(), facts);
   if (wish.take) {
-    wish.take(image.Image());
+    wish.take(image.Image(), source);
   }
 }
 
@@ -106,7 +106,7 @@ void ReadContent(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
 
 }  // namespace
 
-PhotoFacts ReadPhoto(const ioPath& file, ExivReach reach, const std::function<void(Exiv2::Image&)>& take) {
+PhotoFacts ReadPhoto(const ioPath& file, ExivReach reach, const TakeImage& take) {
   PhotoFacts facts;
   PhotoSource source;
   if (!source.Open(file, facts.cause)) {
