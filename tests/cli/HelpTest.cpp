@@ -15,6 +15,7 @@ const std::vector<QStringList>& Commands() {
   static const std::vector<QStringList> commands = {{},
                                                     {"scan"},
                                                     {"albums"},
+                                                    {"info"},
                                                     {"rename"},
                                                     {"similar"},
                                                     {"rotate"},

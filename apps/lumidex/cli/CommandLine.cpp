@@ -68,6 +68,7 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   AddScanCommand(*program, chosen);
   AddAlbumsCommand(*program, chosen);
   AddSimilarCommand(*program, chosen);
+  AddInfoCommand(*program, chosen);
   AddRenameCommand(*program, chosen);
   AddEditCommands(*program, chosen);
   AddUndoCommands(*program, chosen);

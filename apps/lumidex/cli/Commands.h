@@ -11,6 +11,7 @@ namespace Zenvora::Lumidex::Cli {
 void AddScanCommand(CLI::App& program, Action& chosen);
 void AddAlbumsCommand(CLI::App& program, Action& chosen);
 void AddSimilarCommand(CLI::App& program, Action& chosen);
+void AddInfoCommand(CLI::App& program, Action& chosen);
 void AddRenameCommand(CLI::App& program, Action& chosen);
 /// `rotate`, `shift-date` and `set-date`.
 void AddEditCommands(CLI::App& program, Action& chosen);
