@@ -1,7 +1,7 @@
 # The documented way in. Everything is built through the presets of CMakePresets.json.
 
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-onnx run test test-dev test-asan test-tsan lint lint-format format bench clean \
+.PHONY: help setup setup-onnx run test test-dev test-asan test-tsan lint lint-format format bench fuzz clean \
   windows-toolchain test-windows windows-package
 
 # Where ccache is installed it serves every build, wherever the tree lies.
@@ -14,6 +14,7 @@ help:
 	@echo "make test                 the tests, then again under the sanitizers"
 	@echo "make lint                 clang-format and clang-tidy as gates"
 	@echo "make bench                the benchmarks' table"
+	@echo "make fuzz [SECONDS=15]    each reader of files from elsewhere, fed with inputs made to break it"
 	@echo "make format               put the sources into form"
 	@echo "make windows-toolchain    what building for Windows needs, once per machine"
 	@echo "make test-windows         the tests for 64-bit Windows, under Wine"
@@ -66,6 +67,13 @@ bench: setup
 	cmake --preset release
 	cmake --build --preset release --target lumidex_bench
 	build/release/bin/lumidex_bench
+
+SECONDS ?= 15
+fuzz: setup
+	@tools/setup.sh fuzz
+	cmake --preset fuzz
+	cmake --build --preset fuzz
+	tools/fuzz.sh $(SECONDS)
 
 windows-toolchain:
 	@tools/windows/toolchain.sh

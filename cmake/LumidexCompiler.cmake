@@ -28,7 +28,17 @@ if(WIN32)
     GLOG_NO_ABBREVIATED_SEVERITIES)
 else()
   target_compile_options(lumidex_compiler INTERFACE -fstack-protector-strong)
-  target_link_options(lumidex_compiler INTERFACE -Wl,--no-undefined -Wl,-z,relro,-z,now)
+  target_link_options(lumidex_compiler INTERFACE -Wl,-z,relro,-z,now)
+  # Only programs have what libFuzzer and the sanitizers of clang bring along.
+  if(NOT LUMIDEX_FUZZ)
+    target_link_options(lumidex_compiler INTERFACE -Wl,--no-undefined)
+  endif()
+endif()
+
+if(LUMIDEX_FUZZ)
+  # Warnings are a matter of the compiler that everything is built with.
+  target_compile_options(lumidex_compiler INTERFACE -Wno-error)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 if(LUMIDEX_SANITIZE)

@@ -1,20 +1,27 @@
+#include "GpsText.h"
 #include "MonthWording.h"
 #include "PluralForm.h"
 #include "UtilsText.h"
 
+#include <LumidexUtil/MetadataReaders.h>
 #include <LumidexUtil/Rename.h>
 #include <LumidexUtil/Wording.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/core/CallStack.h>
 #include <zenvora/lumidex/FileAccessLockerGuard.h>
+#include <zenvora/quillet/ImageLoader.h>
+#include <zenvora/strandel/MetadataSettings.h>
+#include <zenvora/tavolin/FileDateTime.h>
 
 #include <glog/logging.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QFont>
 
 #include <chrono>
+#include <exception>
 
 namespace Zenvora::Util {
 
@@ -68,6 +75,22 @@ const std::string& FormWord(PluralForm form) {
   return FORM_PLURAL;
 }
 
+using Proc::IImageMetadata;
+using MetadataPointer = boost::intrusive_ptr<IImageMetadata>;
+
+// Whoever searches logs for positions that make no sense looks for this place: it stays when the source
+// moves.
+constexpr int LINE_OF_BAD_POSITION = 304;
+
+Core::Property GpsProperty(const MetadataPointer& metadata, const std::string& tag) {
+  return metadata->GetProperty(IImageMetadata::EXIF, IImageMetadata::BLOCK_GPS, tag);
+}
+
+double Coordinate(const Core::Property& value, const Core::Property& reference) {
+  return DegreesOf(value[IImageMetadata::TEXT_VALUE].GetString(),
+                   reference[IImageMetadata::TEXT_VALUE].GetString());
+}
+
 }  // namespace
 
 ExceptionRename::~ExceptionRename() noexcept = default;
@@ -115,6 +138,50 @@ int DaysToCurrent(const QString& dateTime) {
 
 QString GetDateIntervalString(const QDate& from, const QDate& to) {
   return WordDateInterval(QString::fromStdString(App::GetCurrentLocale()), from, to);
+}
+
+MetadataPointer GetMetadata(const ioPath& file) {
+  Strandel::MetadataSettings settings;
+  settings.CreateMetadata(file, nullptr);
+  return settings.GetMetadata();
+}
+
+QString GetCameraModel(const MetadataPointer& metadata) {
+  const Core::Property model =
+      metadata->GetProperty(IImageMetadata::EXIF, IImageMetadata::BLOCK_IMAGE, "Model");
+  return model.IsEmpty() ? QString() : QString::fromStdString(model[IImageMetadata::TEXT_VALUE].GetString());
+}
+
+Quillet::Geo::GPSData GetGPSData(const MetadataPointer& metadata) {
+  using Quillet::Geo::GPSData;
+  const Core::Property latitude = GpsProperty(metadata, IImageMetadata::TAG_LATITUDE);
+  const Core::Property longitude = GpsProperty(metadata, IImageMetadata::TAG_LONGITUDE);
+  const Core::Property latitudeReference = GpsProperty(metadata, "GPSLatitudeRef");
+  const Core::Property longitudeReference = GpsProperty(metadata, "GPSLongitudeRef");
+  try {
+    return latitude.IsEmpty() || longitude.IsEmpty()
+               ? GPSData::Invalid()
+               : GPSData(Coordinate(latitude, latitudeReference), Coordinate(longitude, longitudeReference));
+  } catch (const std::exception& error) {
+    google::LogMessage(__FILE__, LINE_OF_BAD_POSITION, google::GLOG_ERROR).stream() << error.what();
+    return GPSData::Invalid();
+  }
+}
+
+QDateTime GetFileDateTime(const ioPath& file) {
+  return Tavolin::GetFileDateTime(GetMetadata(file));
+}
+
+Conf::FrameInfo GetFrameInfo(const ioPath& file) {
+  return Quillet::ImageLoader::GetFrameInfo(file, GetMetadata(file));
+}
+
+QFontMetrics GetFontMetrics(int pixelSize) {
+  QFont font;
+  if (pixelSize > 0) {
+    font.setPixelSize(pixelSize);
+  }
+  return QFontMetrics(font);
 }
 
 }  // namespace Zenvora::Util

@@ -1,5 +1,6 @@
 #include "ExivImage.h"
 
+#include "ExifText.h"
 #include "ExivLock.h"
 #include "PhotoIo.h"
 #include "PictureMarks.h"
@@ -23,6 +24,7 @@ constexpr std::size_t kMaxText = 256;
 enum Tag : std::uint16_t {
   kModel = 0x0110,
   kExifDirectory = 0x8769,
+  kGpsDirectory = 0x8825,
   kDateTimeOriginal = 0x9003,
   kDateTimeDigitised = 0x9004,
   kSubSecondsOriginal = 0x9291,
@@ -51,15 +53,9 @@ int RankOf(const std::string& group) {
 }
 
 std::string TextOf(const Exiv2::Exifdatum& datum) {
-  const Exiv2::TypeId type = datum.typeId();
-  if (type != Exiv2::asciiString && type != Exiv2::unsignedByte && type != Exiv2::undefined) {
-    return std::string();
-  }
-  std::string text(static_cast<std::size_t>(std::max(datum.size(), 0L)), '\0');
-  if (!text.empty()) {
-    datum.copy(reinterpret_cast<Exiv2::byte*>(text.data()), Exiv2::littleEndian);
-  }
-  return text.substr(0, std::min(text.find('\0'), kMaxText));
+  std::string text;
+  TextBytes(datum, Exiv2::asciiString, kMaxText, text);
+  return text;
 }
 
 struct Found {
@@ -67,6 +63,9 @@ struct Found {
   /// A text that is not empty by its length, but holds nothing: perhaps it was not read.
   bool blank = false;
   std::uint64_t exifDirectory = 0;
+  std::uint64_t gpsDirectory = 0;
+  /// Likewise a coordinate.
+  bool blankPosition = false;
 };
 
 class Collector {
@@ -80,6 +79,8 @@ class Collector {
 
  private:
   void Take(const Exiv2::Exifdatum& datum) {
+    constexpr std::uint16_t kLatitude = 2;
+    constexpr std::uint16_t kLongitude = 4;
     switch (datum.tag()) {
       case kModel:
         return TakeText(datum, modelRank_, found_.fields.model);
@@ -92,12 +93,20 @@ class Collector {
       case kSubSecondsDigitised:
         return TakeText(datum, digitisedSubRank_, found_.fields.digitisedSubSeconds);
       case kExifDirectory:
-        if (RankOf(datum.groupName()) > 0 && datum.count() == 1) {
-          found_.exifDirectory = static_cast<std::uint32_t>(datum.toLong());
-        }
+        return TakePlace(datum, found_.exifDirectory);
+      case kGpsDirectory:
+        return TakePlace(datum, found_.gpsDirectory);
+      case kLatitude:
+      case kLongitude:
+        found_.blankPosition = found_.blankPosition || (datum.groupName() == "GPSInfo" && SaysNothing(datum));
         return;
       default:
         return;
+    }
+  }
+  static void TakePlace(const Exiv2::Exifdatum& datum, std::uint64_t& place) {
+    if (RankOf(datum.groupName()) > 0 && datum.count() == 1) {
+      place = static_cast<std::uint32_t>(datum.toLong());
     }
   }
   static constexpr int kNoRank = 100;
@@ -123,7 +132,7 @@ class Collector {
   int digitisedSubRank_ = kNoRank;
 };
 
-bool SaysNothing(const ExifFields& fields) {
+bool LacksFacts(const ExifFields& fields) {
   return fields.original.empty() && fields.digitised.empty() && fields.model.empty();
 }
 
@@ -151,11 +160,11 @@ ExivImage::ExivImage(PhotoSource& source) : copy_(source) {
 
 ExivImage::~ExivImage() = default;
 
-ExivOutcome ExivImage::ReadMetadata(std::string& cause) {
-  // The directories, the EXIF directory, the rest: no file takes more rounds.
-  constexpr int kMostRounds = 3;
+ExivOutcome ExivImage::ReadMetadata(std::string& cause, ExivReach reach) {
+  // The directories, the EXIF directory, that of the position, the rest: no file takes more rounds.
+  constexpr int kMostRounds = 4;
   ExivOutcome outcome = ReadOnce(cause);
-  for (int round = 1; round < kMostRounds && ReadMore(); ++round) {
+  for (int round = 1; round < kMostRounds && ReadMore(reach); ++round) {
     outcome = ReadOnce(cause);
   }
   return outcome;
@@ -178,15 +187,20 @@ ExivOutcome ExivImage::ReadOnce(std::string& cause) {
 }
 
 /// True when it brought bytes that may hold what is missing.
-bool ExivImage::ReadMore() {
+bool ExivImage::ReadMore(ExivReach reach) {
   if (!copy_.Begun() || copy_.Complete()) {
     return false;
   }
+  const bool position = reach == ExivReach::Position;
   const Found found = Collector().Collect(image_->exifData());
   if (found.exifDirectory != 0 && copy_.ReadAround(found.exifDirectory)) {
     return true;
   }
-  return (found.blank || SaysNothing(found.fields)) && copy_.ReadFront(kMostRead);
+  if (position && found.gpsDirectory != 0 && copy_.ReadAround(found.gpsDirectory)) {
+    return true;
+  }
+  return (found.blank || (position && found.blankPosition) || LacksFacts(found.fields)) &&
+         copy_.ReadFront(kMostRead);
 }
 
 ExifFields ExivImage::Fields() const {

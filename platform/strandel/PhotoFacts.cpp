@@ -1,7 +1,5 @@
-#include "ExivImage.h"
+#include "PhotoReading.h"
 #include "PictureMarks.h"
-
-#include <zenvora/strandel/PhotoFacts.h>
 
 #include <exception>
 #include <new>
@@ -9,6 +7,12 @@
 namespace Zenvora::Strandel {
 
 namespace {
+
+/// What a reading goes for, and who gets it.
+struct Wish {
+  ExivReach reach;
+  const TakeImage& take;
+};
 
 std::string WithoutBlanks(const std::string& text) {
   return QString::fromStdString(text).trimmed().toStdString();
@@ -44,14 +48,14 @@ std::string WhatIsMissing(Exiv2::Image& image, ExivOutcome outcome, const std::s
   }
 }
 
-void ReadWithExiv2(PhotoSource& source, PhotoFacts& facts) {
+void ReadWithExiv2(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
   ExivImage image(source);
   if (!image.IsPicture()) {
     Refuse(facts, "Its content is of no known picture format");
     return;
   }
   std::string cause;
-  const ExivOutcome outcome = image.ReadMetadata(cause);
+  const ExivOutcome outcome = image.ReadMetadata(cause, wish.reach);
   if (image.Image().exifData().empty()) {
     const std::string missing = WhatIsMissing(image.Image(), outcome, cause);
     if (!missing.empty()) {
@@ -60,11 +64,14 @@ void ReadWithExiv2(PhotoSource& source, PhotoFacts& facts) {
     }
   }
   Take(image.Fields(), facts);
+  if (wish.take) {
+    wish.take(image.Image(), source);
+  }
 }
 
-void ReadKnownFormat(PhotoSource& source, PhotoFacts& facts) {
+void ReadKnownFormat(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
   try {
-    ReadWithExiv2(source, facts);
+    ReadWithExiv2(source, wish, facts);
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception& error) {
@@ -76,7 +83,7 @@ bool SaysNothing(const PhotoFacts& facts) {
   return !facts.original.isValid() && !facts.digitised.isValid() && facts.cameraModel.isEmpty();
 }
 
-void ReadContent(PhotoSource& source, PhotoFacts& facts) {
+void ReadContent(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
   if (source.Size() == 0) {
     Refuse(facts, "It is empty");
     return;
@@ -85,7 +92,7 @@ void ReadContent(PhotoSource& source, PhotoFacts& facts) {
     Take(ExifFields(), facts);
     return;
   }
-  ReadKnownFormat(source, facts);
+  ReadKnownFormat(source, wish, facts);
   // Exiv2 takes films for pictures, and gives a picture up for a colour profile that it does not like.
   if (BeginsLikeContainer(source) && SaysNothing(facts)) {
     if (HasPictureBrand(source)) {
@@ -99,14 +106,14 @@ void ReadContent(PhotoSource& source, PhotoFacts& facts) {
 
 }  // namespace
 
-PhotoFacts ReadPhotoFacts(const ioPath& file) {
+PhotoFacts ReadPhoto(const ioPath& file, ExivReach reach, const TakeImage& take) {
   PhotoFacts facts;
   PhotoSource source;
   if (!source.Open(file, facts.cause)) {
     return facts;
   }
   try {
-    ReadContent(source, facts);
+    ReadContent(source, {reach, take}, facts);
   } catch (const std::bad_alloc&) {
     Refuse(facts, "Reading it takes more memory than there is");
   }
@@ -117,6 +124,10 @@ PhotoFacts ReadPhotoFacts(const ioPath& file) {
     facts.cause = source.Failure();
   }
   return facts;
+}
+
+PhotoFacts ReadPhotoFacts(const ioPath& file) {
+  return ReadPhoto(file, ExivReach::Dates, nullptr);
 }
 
 }  // namespace Zenvora::Strandel

@@ -17,6 +17,7 @@ const std::vector<QStringList>& Commands() {
                                                     {"import"},
                                                     {"check"},
                                                     {"albums"},
+                                                    {"info"},
                                                     {"rename"},
                                                     {"similar"},
                                                     {"rotate"},

@@ -131,6 +131,15 @@ Exiv2::ExifData ExifOf(const PhotoTags& tags) {
   }
   put("Exif.Photo.SubSecTimeOriginal", tags.subSec);
   put("Exif.Photo.SubSecTimeDigitized", tags.subSec);
+  for (const ExifField& field : tags.more) {
+    const Exiv2::ExifKey key(field.key);
+    const Exiv2::TypeId type = field.type.empty() ? key.defaultTypeId() : Exiv2::TypeInfo::typeId(field.type);
+    const auto value = Exiv2::Value::create(type);
+    if (value->read(field.text) != 0) {
+      throw std::runtime_error("no value for " + field.key + ": " + field.text);
+    }
+    exif.add(key, value.get());
+  }
   return exif;
 }
 
@@ -181,6 +190,17 @@ std::string MakePng(const PhotoTags& tags) {
 
 std::string MakeTiff(const PhotoTags& tags) {
   const std::string plain = GreyTiff();
+  const auto image = Exiv2::ImageFactory::open(reinterpret_cast<const Exiv2::byte*>(plain.data()),
+                                               static_cast<long>(plain.size()));
+  return Finish(*image, tags);
+}
+
+std::string MakeWebP(const PhotoTags& tags) {
+  // One pixel, coded without loss.
+  const std::string picture("\x2F\0\0\0\x10\x07\x10\x11\x11\x88\x88\xFE\x07", 13);
+  const std::string chunk = "VP8L" + LittleEndian(static_cast<unsigned>(picture.size()), 4) + picture + '\0';
+  const std::string plain =
+      "RIFF" + LittleEndian(static_cast<unsigned>(chunk.size()) + 4, 4) + "WEBP" + chunk;
   const auto image = Exiv2::ImageFactory::open(reinterpret_cast<const Exiv2::byte*>(plain.data()),
                                                static_cast<long>(plain.size()));
   return Finish(*image, tags);

@@ -71,6 +71,7 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   AddCheckCommand(*program, chosen);
   AddAlbumsCommand(*program, chosen);
   AddSimilarCommand(*program, chosen);
+  AddInfoCommand(*program, chosen);
   AddRenameCommand(*program, chosen);
   AddEditCommands(*program, chosen);
   AddUndoCommands(*program, chosen);

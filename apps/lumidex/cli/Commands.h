@@ -13,6 +13,7 @@ void AddImportCommand(CLI::App& program, Action& chosen);
 void AddCheckCommand(CLI::App& program, Action& chosen);
 void AddAlbumsCommand(CLI::App& program, Action& chosen);
 void AddSimilarCommand(CLI::App& program, Action& chosen);
+void AddInfoCommand(CLI::App& program, Action& chosen);
 void AddRenameCommand(CLI::App& program, Action& chosen);
 /// `rotate`, `shift-date` and `set-date`.
 void AddEditCommands(CLI::App& program, Action& chosen);

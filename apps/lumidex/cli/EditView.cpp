@@ -2,24 +2,13 @@
 
 #include "JournalView.h"
 #include "JsonWriter.h"
+#include "OrientationText.h"
 #include "TerminalText.h"
 #include "TextTable.h"
 
 namespace Zenvora::Lumidex::Cli {
 
 namespace {
-
-std::string OrientationText(int orientation) {
-  constexpr const char* kShown[] = {"upright",
-                                    "mirrored",
-                                    "upside down",
-                                    "upside down, mirrored",
-                                    "turned left, mirrored",
-                                    "turned right",
-                                    "turned right, mirrored",
-                                    "turned left"};
-  return kShown[orientation - 1];
-}
 
 std::string DateText(const QDateTime& date) {
   return date.isValid() ? date.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString() : "no date";

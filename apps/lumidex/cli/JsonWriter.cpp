@@ -38,6 +38,16 @@ bool NeedsEscape(char32_t code) {
   return code < 0x20 || code == '"' || code == '\\' || (code >= 0x7F && code <= 0x9F);
 }
 
+template <class Number>
+std::string RealText(Number number) {
+  if (!std::isfinite(number)) {
+    return "null";
+  }
+  constexpr std::size_t kLongest = 32;
+  char digits[kLongest];
+  return {digits, std::to_chars(digits, digits + sizeof digits, number).ptr};
+}
+
 }  // namespace
 
 std::string JsonString(std::string_view utf8) {
@@ -94,14 +104,12 @@ void JsonWriter::Number(std::string_view name, long long number) {
 
 void JsonWriter::Real(std::string_view name, float number) {
   Next(name);
-  if (!std::isfinite(number)) {
-    text_ += "null";
-    return;
-  }
-  constexpr std::size_t kLongest = 32;
-  char digits[kLongest];
-  const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-  text_.append(digits, end);
+  text_ += RealText(number);
+}
+
+void JsonWriter::Real(std::string_view name, double number) {
+  Next(name);
+  text_ += RealText(number);
 }
 
 void JsonWriter::Truth(std::string_view name, bool value) {

@@ -3,9 +3,13 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <atomic>
+
 namespace Zenvora::Lumidex::Cli {
 
 namespace {
+
+std::atomic<int> hushes{0};
 
 void ForwardQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
   switch (type) {
@@ -39,6 +43,14 @@ LogLines::LogLines(Console& console, const char* program, int verbosity)
   qInstallMessageHandler(ForwardQtMessage);
 }
 
+LogLines::Hush::Hush() {
+  ++hushes;
+}
+
+LogLines::Hush::~Hush() {
+  --hushes;
+}
+
 LogLines::~LogLines() {
   qInstallMessageHandler(nullptr);
   google::RemoveLogSink(this);
@@ -59,6 +71,8 @@ void LogLines::send(google::LogSeverity severity, const char* fullFilename, cons
   if (verbosity_ > 0) {
     const std::string source = std::string(fullFilename) + ':' + std::to_string(line) + ": ";
     console_.Note(std::string(google::GetLogSeverityName(severity)) + ' ' + source + text);
+  } else if (hushes > 0) {
+    return;
   } else if (severity == google::GLOG_WARNING) {
     console_.Warning(CondensedLogText(text));
   } else if (severity > google::GLOG_WARNING) {

@@ -18,6 +18,16 @@ class LogLines : public google::LogSink {
   LogLines(const LogLines&) = delete;
   LogLines& operator=(const LogLines&) = delete;
 
+  /// While one lives, warnings and errors are shown only on demand, as the rest is: whoever makes it tells of
+  /// them in words of its own.
+  class Hush {
+   public:
+    Hush();
+    ~Hush();
+    Hush(const Hush&) = delete;
+    Hush& operator=(const Hush&) = delete;
+  };
+
   void send(google::LogSeverity severity, const char* fullFilename, const char* baseFilename, int line,
             const google::LogMessageTime& time, const char* message, std::size_t length) override;
   using google::LogSink::send;

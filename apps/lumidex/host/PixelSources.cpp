@@ -1,10 +1,10 @@
 #include "PixelSources.h"
 
-#include "FileDevice.h"
 #include "PhotoPixels.h"
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/quillet/FileDevice.h>
 #include <zenvora/strandel/EmbeddedPreview.h>
 #include <zenvora/strandel/JpegHead.h>
 
@@ -167,7 +167,7 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
   if (!found.cause.empty()) {
     return found;
   }
-  FileDevice device(file);
+  Quillet::FileDevice device(file);
   if (!device.isOpen()) {
     found.cause = "the file cannot be opened";
     return found;

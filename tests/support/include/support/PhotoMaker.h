@@ -3,8 +3,16 @@
 #include <zenvora/core/ioPath.h>
 
 #include <string>
+#include <vector>
 
 namespace Zenvora::Test {
+
+/// One more EXIF field.
+struct ExifField {
+  std::string key;   ///< As Exiv2 names it, "Exif.GPSInfo.GPSLatitude".
+  std::string text;  ///< "48/1 51/1 2436/100"
+  std::string type;  ///< "Ascii", "Rational" and so on; empty: that of the standard.
+};
 
 /// What a made photo says of itself. Texts go into the EXIF fields as they are, right or wrong; empty ones
 /// (and the orientation 0) are left out.
@@ -17,6 +25,7 @@ struct PhotoTags {
   /// Pixels, 1..65535; only JPEG files follow it, the others are tiny.
   int width = 16;
   int height = 16;
+  std::vector<ExifField> more;
 };
 
 /// The bytes of a valid picture file. A JPEG is mid-grey with a white square of 8 pixels in its first corner
@@ -24,6 +33,7 @@ struct PhotoTags {
 std::string MakeJpeg(const PhotoTags& tags);
 std::string MakePng(const PhotoTags& tags);
 std::string MakeTiff(const PhotoTags& tags);
+std::string MakeWebP(const PhotoTags& tags);
 
 /// The same as a file; its folders are made. Return `file`. Throw `std::runtime_error` when the file cannot
 /// be written.

@@ -1,17 +1,21 @@
 #pragma once
 
 #include <zenvora/core/ioPath.h>
+#include <zenvora/quillet/Export.h>
 
 #include <QIODevice>
 
 #include <fstream>
 
-namespace Zenvora::Lumidex::Host {
+namespace Zenvora::Quillet {
 
-/// Lets Qt's decoders read a file whose name is any bytes, piece by piece, without taking it into memory.
-class FileDevice : public QIODevice {
+/// Lets Qt's decoders read a file whose name is any bytes, piece by piece, without taking it into memory. Not
+/// open when the file cannot be read. Opening waits for a pipe until somebody writes to it: ask `QueryFile`
+/// first. An object belongs to one thread.
+class ZENVORA_QUILLET_EXPORT FileDevice : public QIODevice {
  public:
   explicit FileDevice(const ioPath& file);
+  ~FileDevice() override;
 
   bool isSequential() const override { return false; }
   qint64 size() const override { return size_; }
@@ -26,4 +30,4 @@ class FileDevice : public QIODevice {
   qint64 size_ = 0;
 };
 
-}  // namespace Zenvora::Lumidex::Host
+}  // namespace Zenvora::Quillet

@@ -1,8 +1,10 @@
-#include "FileDevice.h"
+#include <zenvora/quillet/FileDevice.h>
 
 #include <algorithm>
 
-namespace Zenvora::Lumidex::Host {
+namespace Zenvora::Quillet {
+
+FileDevice::~FileDevice() = default;
 
 FileDevice::FileDevice(const ioPath& file) : stream_(file.for_system(), std::ios::binary) {
   if (stream_ && stream_.seekg(0, std::ios::end)) {
@@ -27,4 +29,4 @@ qint64 FileDevice::readData(char* data, qint64 most) {
   return got == 0 && most > 0 ? -1 : got;
 }
 
-}  // namespace Zenvora::Lumidex::Host
+}  // namespace Zenvora::Quillet
