@@ -43,11 +43,11 @@ class TerminalQuestions {
   App::ServiceScope<App::IFolderDialog> folderDialog_;
 };
 
-/// The button that the line names, by its name or the beginning of it, case ignored; an empty line: `first`.
-/// `None`: no button or more than one. Pure.
+/// The button that the line names, by its name in the interface language or in English or the beginning of
+/// it, case and accents ignored; an empty line: `first`. `None`: no button or more than one.
 App::AlertButton ButtonOf(const std::string& line, App::AlertButtons buttons, App::AlertButton first);
 
-/// "[Yes/No/Cancel]", the one that Enter presses marked: "Yes*". Pure.
+/// "[Yes/No/Cancel]" in the interface language, the one that Enter presses marked: "Yes*".
 std::string ButtonsText(App::AlertButtons buttons, App::AlertButton first);
 
 }  // namespace Zenvora::Lumidex::Cli
