@@ -9,10 +9,12 @@
 #include "Progress.h"
 #include "ReportTarget.h"
 #include "TerminalText.h"
+#include "Words.h"
 
 #include <host/Albums.h>
 #include <host/Catalogue.h>
 #include <host/HostError.h>
+#include <host/InterfaceTexts.h>
 #include <host/Report.h>
 
 #include <zenvora/app/Application.h>
@@ -198,9 +200,12 @@ int WriteReport(const AlbumsView& view, Session& session) {
   }
   Host::ReportOptions options;
   options.locale = QString::fromStdString(view.locale);
-  options.title = view.areStored ? QStringLiteral("Albums") : QStringLiteral("Proposed albums");
   options.cancel = &session.interrupted;
-  Progress progress(session.console, "Drawing", "pictures");
+  Progress progress(session.console, Say(Words::tr("Drawing")), Say(Words::tr("pictures", "of so many")));
+  // The page is in the language of its albums, whatever the program speaks.
+  const Host::InterfaceTexts pageTexts(view.locale);
+  options.title = view.areStored ? QCoreApplication::translate("Report", "Albums")
+                                 : QCoreApplication::translate("Report", "Proposed albums");
   return Host::WriteReport(*view.report, albums, options, [&progress](int done, int total) {
     progress.Update(static_cast<std::uint64_t>(done), static_cast<std::uint64_t>(total));
   });
@@ -218,10 +223,13 @@ ExitCode ShowEmpty(const AlbumsView& view, std::size_t known, Session& session) 
   if (session.globals.json) {
     session.output.Print(AlbumsDocument(view));
   } else if (known == 0) {
-    session.output.Print("The catalogue holds no photos yet. Run: lumidex scan DIR\n");
+    session.output.Print(Say(Words::tr("The catalogue holds no photos yet. Run: lumidex scan DIR")) + '\n');
   } else {
-    session.output.Print("All " + Counted(known, "photo") +
-                         " of the catalogue were gone at the last scan. Is a disk missing?\n");
+    session.output.Print(
+        Say(Words::tr("All %1 photos of the catalogue were gone at the last scan. Is a disk missing?",
+                      nullptr, Amount(known)),
+            {GroupDigits(known)}) +
+        '\n');
   }
   return ExitCode::Findings;
 }
@@ -284,7 +292,7 @@ class AlbumsRun {
 
   void Accept() {
     for (const std::size_t place : chosen_) {
-      ThrowIfInterrupted(("Interrupted." + DoneSoFar()).c_str());
+      ThrowIfInterrupted((Say(Words::tr("Interrupted.")) + DoneSoFar()).c_str());
       const Album& album = proposals_[place];
       try {
         view_.accepted.push_back({album.GetModel().GetName(), catalogue_.AcceptAlbum(album)});
@@ -298,12 +306,15 @@ class AlbumsRun {
   std::string DoneSoFar() const {
     std::string names;
     for (const AcceptedRow& row : view_.accepted) {
-      names += (names.empty() ? " Accepted before that: \"" : "\", \"") + OneLineName(row.name);
+      names += (names.empty() ? "" : ", ") + Say(Words::tr("\"%1\"", "a name"), {OneLineName(row.name)});
     }
-    const std::string accepted = names.empty() ? " No album was accepted." : names + "\".";
-    return view_.report ? accepted + " The page " + view_.report->utf8string() +
-                              " is written; it shows all chosen albums as accepted."
-                        : accepted;
+    std::string text = ' ' + (names.empty() ? Say(Words::tr("No album was accepted."))
+                                            : Say(Words::tr("Accepted before that: %1."), {names}));
+    if (view_.report) {
+      text += ' ' + Say(Words::tr("The page %1 is written; it shows all chosen albums as accepted."),
+                        {view_.report->utf8string()});
+    }
+    return text;
   }
 
   ExitCode Judge() const {

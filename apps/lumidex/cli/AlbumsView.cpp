@@ -5,6 +5,7 @@
 #include "ReportNote.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "Words.h"
 
 #include <algorithm>
 
@@ -20,14 +21,19 @@ std::string AcceptedText(const AlbumRow& row) {
   if (!row.accepted) {
     return "-";
   }
-  return row.notAccepted == 0 ? "yes" : "yes, " + GroupDigits(row.notAccepted) + " more now";
+  return row.notAccepted == 0 ? Say(Words::tr("yes"))
+                              : Say(Words::tr("yes, %1 more now", nullptr, Amount(row.notAccepted)),
+                                    {GroupDigits(row.notAccepted)});
 }
 
 std::string TableText(const AlbumsView& view) {
-  std::vector<TextTable::Column> columns = {
-      {"ALBUM"}, {"WHEN"}, {"FIRST DAY"}, {"LAST DAY"}, {"PHOTOS", TextTable::Align::Right}};
+  std::vector<TextTable::Column> columns = {{Say(Words::tr("ALBUM"))},
+                                            {Say(Words::tr("WHEN"))},
+                                            {Say(Words::tr("FIRST DAY"))},
+                                            {Say(Words::tr("LAST DAY"))},
+                                            {Say(Words::tr("PHOTOS")), TextTable::Align::Right}};
   if (!view.areStored) {
-    columns.push_back({"ACCEPTED"});
+    columns.push_back({Say(Words::tr("ACCEPTED"))});
   }
   TextTable table(columns);
   for (const AlbumRow& row : view.rows) {
@@ -41,8 +47,10 @@ std::string TableText(const AlbumsView& view) {
 std::string MembersText(const AlbumsView& view) {
   std::string text;
   for (const AlbumRow& row : view.rows) {
-    text +=
-        '\n' + EscapeForTerminal(OneLineName(row.name)) + " (" + Counted(row.photos.size(), "photo") + ")\n";
+    text += '\n' +
+            Say(Words::tr("%1 (%2 photos)", nullptr, Amount(row.photos.size())),
+                {EscapeForTerminal(OneLineName(row.name)), GroupDigits(row.photos.size())}) +
+            '\n';
     TextTable members({{}, {}});
     for (const Host::PhotoRecord* const photo : row.photos) {
       const QString taken =
@@ -56,14 +64,15 @@ std::string MembersText(const AlbumsView& view) {
 
 std::string AcceptedLine(const AcceptedRow& row) {
   const std::string shown = EscapeForTerminal(OneLineName(row.name));
-  const std::string photos = Counted(static_cast<unsigned long long>(row.result.photosAdded), "photo");
+  const int added = row.result.photosAdded;
+  const std::string photos = GroupDigits(static_cast<unsigned long long>(added));
   if (row.result.created) {
-    return "Accepted " + shown + ": " + photos + ".\n";
+    return Say(Words::tr("Accepted %1: %2 photos.", nullptr, added), {shown, photos}) + '\n';
   }
-  if (row.result.photosAdded > 0) {
-    return "Added " + photos + " to " + shown + ", accepted before.\n";
+  if (added > 0) {
+    return Say(Words::tr("Added %1 photos to %2, accepted before.", nullptr, added), {photos, shown}) + '\n';
   }
-  return "Nothing to change in " + shown + ", accepted before.\n";
+  return Say(Words::tr("Nothing to change in %1, accepted before."), {shown}) + '\n';
 }
 
 std::string AcceptedLines(const AlbumsView& view) {
@@ -74,28 +83,39 @@ std::string AcceptedLines(const AlbumsView& view) {
   return text;
 }
 
-std::string UndatedText(const AlbumsView& view) {
-  if (view.undated == 0) {
-    return {};
-  }
-  return ", " + GroupDigits(view.undated) + (view.undated == 1 ? " of them has" : " of them have") +
-         " no date";
+/// What stands behind "from".
+std::string SourceText(const AlbumsView& view) {
+  const std::string photos =
+      Say(Words::tr("%1 photos", "albums from", Amount(view.photos)), {GroupDigits(view.photos)});
+  return view.undated == 0
+             ? photos
+             : Say(Words::tr("%1, %2 of them have no date", "photos; how many", Amount(view.undated)),
+                   {photos, GroupDigits(view.undated)});
 }
 
 std::string SummaryText(const AlbumsView& view) {
   if (view.areStored) {
-    return view.rows.empty() ? "No album is accepted yet. \"lumidex albums\" shows proposals.\n"
-                             : "\n" + Counted(view.rows.size(), "accepted album") + ".\n";
+    const std::size_t albums = view.rows.size();
+    return view.rows.empty()
+               ? Say(Words::tr("No album is accepted yet. \"lumidex albums\" shows proposals.")) + '\n'
+               : '\n' +
+                     Say(Words::tr("%1 accepted albums.", nullptr, Amount(albums)), {GroupDigits(albums)}) +
+                     '\n';
   }
-  const std::string photos = Counted(view.photos, "photo") + UndatedText(view);
   if (view.rows.empty()) {
-    return "No albums to propose from " + photos +
-           ": an album needs 20 photos or more of one\nholiday, or of the weekends of one month.\n";
+    return Say(Words::tr("No albums to propose from %1: an album needs 20 photos or more of one\nholiday, or "
+                         "of the weekends of one month."),
+               {SourceText(view)}) +
+           '\n';
   }
   const auto accepted = static_cast<std::size_t>(
       std::count_if(view.rows.begin(), view.rows.end(), [](const AlbumRow& row) { return row.accepted; }));
-  return "\n" + Counted(view.rows.size(), "album") + " from " + photos + "; " + GroupDigits(accepted) +
-         " accepted.\n";
+  const std::string albums =
+      Say(Words::tr("%1 albums", nullptr, Amount(view.rows.size())), {GroupDigits(view.rows.size())});
+  return '\n' +
+         Say(Words::tr("%1 from %2; %3 accepted.", "albums, photos, how many", Amount(accepted)),
+             {albums, SourceText(view), GroupDigits(accepted)}) +
+         '\n';
 }
 
 void WriteMembers(JsonWriter& json, const AlbumRow& row) {

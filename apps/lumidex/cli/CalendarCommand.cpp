@@ -4,6 +4,7 @@
 #include "Options.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "Words.h"
 
 #include <host/CalendarCheck.h>
 
@@ -116,23 +117,32 @@ std::string ShowDocument(const Host::CalendarFile& calendar, int year,
 }
 
 std::string ShowText(const Host::CalendarFile& calendar, int year, const std::vector<CalendarEvent>& events) {
-  const std::string source = EscapeForTerminal(calendar.file.utf8string()) +
-                             (calendar.source == CalendarSource::Stored ? " (from the server)\n" : "\n");
+  const std::string file = EscapeForTerminal(calendar.file.utf8string());
+  const std::string source =
+      (calendar.source == CalendarSource::Stored ? Say(Words::tr("Calendar: %1 (from the server)"), {file})
+                                                 : Say(Words::tr("Calendar: %1"), {file})) +
+      '\n';
   if (events.empty()) {
-    return "The calendar has no holidays for " + App::GetCurrentLocale() + ".\nCalendar: " + source;
+    return Say(Words::tr("The calendar has no holidays for %1."), {App::GetCurrentLocale()}) + '\n' + source;
   }
-  TextTable table({{"HOLIDAY"}, {"FIRST DAY"}, {"LAST DAY"}, {"DAYS", TextTable::Align::Right}});
+  TextTable table({{Say(Words::tr("HOLIDAY"))},
+                   {Say(Words::tr("FIRST DAY"))},
+                   {Say(Words::tr("LAST DAY"))},
+                   {Say(Words::tr("DAYS")), TextTable::Align::Right}});
   const auto dayText = [](const QDate& day) {
     return day.isValid() ? day.toString(QStringLiteral("yyyy-MM-dd")).toStdString() : std::string("?");
   };
   for (const CalendarEvent& event : events) {
     const Occurrence days = InYear(event, year);
     const bool isSound = days.first.isValid() && days.last.isValid();
-    table.AddRow({event.name.isEmpty() ? "(no name)" : event.name.toStdString(), dayText(days.first),
-                  dayText(days.last), isSound ? std::to_string(days.first.daysTo(days.last) + 1) : "?"});
+    table.AddRow({event.name.isEmpty() ? Say(Words::tr("(no name)")) : event.name.toStdString(),
+                  dayText(days.first), dayText(days.last),
+                  isSound ? std::to_string(days.first.daysTo(days.last) + 1) : "?"});
   }
-  return table.Text() + '\n' + Counted(events.size(), "holiday") + " for " + App::GetCurrentLocale() +
-         ".\nCalendar: " + source;
+  return table.Text() + '\n' +
+         Say(Words::tr("%1 holidays for %2.", nullptr, Amount(events.size())),
+             {GroupDigits(events.size()), App::GetCurrentLocale()}) +
+         '\n' + source;
 }
 
 ExitCode RunShow(const CalendarArguments& arguments, Session& session) {
@@ -163,14 +173,19 @@ std::string CheckDocument(const ioPath& file, const std::vector<CalendarFinding>
 std::string CheckText(const ioPath& file, const std::vector<CalendarFinding>& findings) {
   const std::string name = EscapeForTerminal(file.utf8string());
   if (findings.empty()) {
-    return name + ": no mistakes found.\n";
+    return Say(Words::tr("%1: no mistakes found."), {name}) + '\n';
   }
   TextTable table({{}, {}, {}});
   for (const CalendarFinding& finding : findings) {
-    const std::string place = finding.number > 0 ? "event " + std::to_string(finding.number) : "list";
+    const std::string place = finding.number > 0
+                                  ? Say(Words::tr("event %1"), {std::to_string(finding.number)})
+                                  : Say(Words::tr("list", "of the events of a language"));
     table.AddRow({finding.locale, place, finding.text});
   }
-  return table.Text() + '\n' + name + ": " + Counted(findings.size(), "mistake") + " found.\n";
+  return table.Text() + '\n' +
+         Say(Words::tr("%1: %2 mistakes found.", nullptr, Amount(findings.size())),
+             {name, GroupDigits(findings.size())}) +
+         '\n';
 }
 
 ExitCode RunCheck(const CalendarArguments& arguments, Session& session) {
@@ -211,10 +226,15 @@ std::string UpdateDocument(const Host::CalendarUpdate& update) {
 std::string UpdateText(const Host::CalendarUpdate& update) {
   const std::string file = EscapeForTerminal(update.file.utf8string());
   if (!update.ok) {
-    const std::string cause = "The calendar was not updated: " + EscapeForTerminal(update.cause) + '\n';
-    return cause + (update.file.empty() ? "There is no calendar.\n" : "In use as before: " + file + '\n');
+    return Say(Words::tr("The calendar was not updated: %1"), {EscapeForTerminal(update.cause)}) + '\n' +
+           (update.file.empty() ? Say(Words::tr("There is no calendar."))
+                                : Say(Words::tr("In use as before: %1"), {file})) +
+           '\n';
   }
-  return (update.changed ? "The calendar was updated: " : "The calendar is up to date: ") + file + '\n';
+  return Say(update.changed ? Words::tr("The calendar was updated: %1")
+                            : Words::tr("The calendar is up to date: %1"),
+             {file}) +
+         '\n';
 }
 
 ExitCode RunUpdate(Session& session) {

@@ -1,5 +1,7 @@
 #include "CalendarWatch.h"
 
+#include "Words.h"
+
 #include <cstddef>
 
 namespace Zenvora::Lumidex::Cli {
@@ -40,12 +42,14 @@ std::optional<std::string> CalendarFaultOf(const std::string& logText) {
   std::string file;
   if (found != std::string::npos) {
     const std::size_t begin = found + mark.size();
-    file = ' ' + logText.substr(begin, logText.find('\n', begin) - begin);
+    file = logText.substr(begin, logText.find('\n', begin) - begin);
   }
   // A calendar with one faulty event may have given some holidays: no word of weekends only.
-  return "The holiday calendar" + file +
-         " could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex "
-         "calendar update.";
+  return file.empty() ? Say(Words::tr("The holiday calendar could not be read to its end, so holidays are "
+                                      "missing. Try: lumidex calendar check, or lumidex calendar update."))
+                      : Say(Words::tr("The holiday calendar %1 could not be read to its end, so holidays are "
+                                      "missing. Try: lumidex calendar check, or lumidex calendar update."),
+                            {file});
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -7,6 +7,7 @@
 #include "TerminalText.h"
 #include "TextTable.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <host/SaveChecks.h>
 
@@ -83,22 +84,39 @@ std::string Document(const CheckReport& report) {
   return json.Finish();
 }
 
+std::string KindText(CheckFinding::Kind kind) {
+  switch (kind) {
+    case CheckFinding::Kind::Unreadable:
+      return Say(Words::tr("unreadable"));
+    case CheckFinding::Kind::Format:
+      return Say(Words::tr("format"));
+    case CheckFinding::Kind::Space:
+      return Say(Words::tr("space"));
+    case CheckFinding::Kind::Folder:
+      return Say(Words::tr("folder"));
+    case CheckFinding::Kind::File:
+      return Say(Words::tr("file"));
+  }
+  return "";
+}
+
 std::string VolumesText(const CheckReport& report) {
-  TextTable table({{"Volume of"},
-                   {"Files", TextTable::Align::Right},
-                   {"Needed", TextTable::Align::Right},
-                   {"Free", TextTable::Align::Right}});
+  TextTable table({{Say(Words::tr("Volume of"))},
+                   {Say(Words::tr("Files")), TextTable::Align::Right},
+                   {Say(Words::tr("Needed")), TextTable::Align::Right},
+                   {Say(Words::tr("Free", "room on a disk")), TextTable::Align::Right}});
   for (const Host::CheckedVolume& volume : report.volumes) {
     table.AddRow({volume.folder.utf8string(), GroupDigits(volume.files), SizeText(volume.bytesNeeded),
-                  volume.bytesFree > 0 ? SizeText(static_cast<std::uint64_t>(volume.bytesFree)) : "unknown"});
+                  volume.bytesFree > 0 ? SizeText(static_cast<std::uint64_t>(volume.bytesFree))
+                                       : Say(Words::tr("unknown", "free room"))});
   }
   return table.Text() + '\n';
 }
 
 std::string FindingsText(const CheckReport& report) {
-  TextTable table({{"What"}, {"Where"}, {"Why"}});
+  TextTable table({{Say(Words::tr("What"))}, {Say(Words::tr("Where"))}, {Say(Words::tr("Why"))}});
   for (const CheckFinding& finding : report.findings) {
-    table.AddRow({KindName(finding.kind), finding.path.utf8string(), finding.text});
+    table.AddRow({KindText(finding.kind), finding.path.utf8string(), finding.text});
   }
   return table.Text() + '\n';
 }
@@ -107,20 +125,23 @@ std::string ReportText(const CheckReport& report) {
   if (report.files == 0 && report.findings.empty()) {
     return {};
   }
-  const std::string checked = Counted(report.files, "file") + " checked; ";
-  const std::string outcome = report.findings.empty()
-                                  ? "nothing is in the way.\n"
-                                  : Counted(report.findings.size(), "thing") + " in the way.\n";
+  const std::size_t things = report.findings.size();
+  const std::string checked =
+      Say(Words::tr("%1 files checked", nullptr, Amount(report.files)), {GroupDigits(report.files)}) + "; ";
+  const std::string outcome = (things == 0 ? Say(Words::tr("nothing is in the way."))
+                                           : Say(Words::tr("%1 things in the way.", nullptr, Amount(things)),
+                                                 {GroupDigits(things)})) +
+                              '\n';
   return (report.volumes.empty() ? "" : VolumesText(report)) +
          (report.findings.empty() ? "" : FindingsText(report)) + checked + outcome;
 }
 
 ExitCode RunCheck(const std::vector<std::string>& names, Session& session) {
   const CheckReport report = Host::CheckFiles(Host::GatherSources(ExistingSources(names)));
-  ThrowIfInterrupted("Interrupted. Nothing was changed.");
+  ThrowIfInterrupted(Say(Words::tr("Interrupted. Nothing was changed.")).c_str());
   session.output.Print(session.globals.json ? Document(report) : ReportText(report));
   if (report.files == 0) {
-    session.console.Note("There are no photos in the given folders.");
+    session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }
   return report.findings.empty() && report.files > 0 ? ExitCode::Done : ExitCode::Findings;
 }

@@ -61,6 +61,11 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
                    "The catalogue's file. Usual: lumidex/catalogue.sqlite in your data folder.")
       ->option_text("FILE")
       ->transform(Text());
+  program
+      ->add_option("--lang", globals.language,
+                   "Speak that language, such as de_DE. Usual: that of the settings, or the system's.")
+      ->option_text("LANG")
+      ->transform(Text());
   program->add_flag("--json", globals.json, "Print the result as one JSON document.")
       ->disable_flag_override();
   program->add_flag("-q,--quiet", globals.quiet, "Print no notes and no progress.")->disable_flag_override();
@@ -92,7 +97,7 @@ void Complete(CLI::App& command) {
 
 /// True for an option of the program itself that takes the next word as its value.
 bool WantsValue(const std::string& word) {
-  if (word == "--catalogue" || word == "--catalog") {
+  if (word == "--catalogue" || word == "--catalog" || word == "--lang") {
     return true;
   }
   // "-qc" wants one, "-cFILE" has it.

@@ -4,6 +4,7 @@
 #include "Options.h"
 #include "Progress.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <host/PhotoChoice.h>
 #include <host/PhotoEditing.h>
@@ -166,7 +167,7 @@ class EditRun {
   }
 
   void Try() {
-    Progress progress(session_.console, "Trying", "photos");
+    Progress progress(session_.console, Say(Words::tr("Trying")), Say(Words::tr("photos", "of so many")));
     std::uint64_t done = 0;
     for (const ioPath& photo : photos_) {
       if (session_.interrupted) {
@@ -190,7 +191,7 @@ class EditRun {
     }
     Host::UndoResult result;
     {
-      Progress progress(session_.console, "Editing", "photos");
+      Progress progress(session_.console, Say(Words::tr("Editing")), Say(Words::tr("photos", "of so many")));
       result = Host::EditPhotos(
           journal_->Get(), journal_->Locker(), QString::fromStdString(order_.step), photos_,
           [this](const ioPath& photo, const ioPath& side) {
@@ -210,10 +211,11 @@ class EditRun {
 
   void Note() const {
     if (view_.interrupted) {
-      session_.console.Note(arguments_.dryRun ? "Interrupted."
-                                              : "Interrupted. The photos edited so far stay so.");
+      session_.console.Note(Say(arguments_.dryRun
+                                    ? Words::tr("Interrupted.")
+                                    : Words::tr("Interrupted. The photos edited so far stay so.")));
     } else if (photos_.empty() && view_.findings.empty()) {
-      session_.console.Note("There are no photos in the given folders.");
+      session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
     }
   }
 

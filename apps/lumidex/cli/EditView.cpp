@@ -5,13 +5,15 @@
 #include "OrientationText.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "Words.h"
 
 namespace Zenvora::Lumidex::Cli {
 
 namespace {
 
 std::string DateText(const QDateTime& date) {
-  return date.isValid() ? date.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString() : "no date";
+  return date.isValid() ? date.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString()
+                        : Say(Words::tr("no date"));
 }
 
 std::string TriedText(const EditView& view) {
@@ -29,14 +31,22 @@ std::string TriedText(const EditView& view) {
 }
 
 std::string OutcomeText(const EditView& view) {
+  const int amount = Amount(view.edited);
+  const std::string photos = GroupDigits(view.edited);
   if (view.dryRun) {
-    return Counted(view.edited, "photo") + " would be edited. This was a dry run: nothing was changed.\n";
+    return Say(Words::tr("%1 photos would be edited. This was a dry run: nothing was changed.", nullptr,
+                         amount),
+               {photos}) +
+           '\n';
   }
   if (view.edited == 0) {
-    return "Nothing was changed.\n";
+    return Say(Words::tr("Nothing was changed.")) + '\n';
   }
-  return Counted(view.edited, "photo") + " edited" +
-         (view.canBeUndone ? "; \"lumidex undo\" takes it back.\n" : ".\n");
+  return Say(view.canBeUndone
+                 ? Words::tr("%1 photos edited; \"lumidex undo\" takes it back.", nullptr, amount)
+                 : Words::tr("%1 photos edited.", nullptr, amount),
+             {photos}) +
+         '\n';
 }
 
 void WriteTried(JsonWriter& json, const std::vector<TriedEdit>& tried) {
@@ -74,8 +84,9 @@ std::string EditDocument(const EditView& view) {
 }
 
 std::string EditText(const EditView& view) {
-  return FindingsText(view.dryRun ? "Cannot be edited" : "Not edited", view.findings) + TriedText(view) +
-         OutcomeText(view);
+  return FindingsText(Say(view.dryRun ? Words::tr("Cannot be edited") : Words::tr("Not edited")),
+                      view.findings) +
+         TriedText(view) + OutcomeText(view);
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -7,6 +7,7 @@
 #include "Progress.h"
 #include "Sources.h"
 #include "TerminalQuestions.h"
+#include "Words.h"
 
 #include <host/Catalogue.h>
 #include <host/Import.h>
@@ -122,7 +123,7 @@ class ImportCommand {
     options.cancel = &session_.interrupted;
     const TerminalQuestions questions(session_, given);
     {
-      Progress progress(session_.console, "Comparing", "files");
+      Progress progress(session_.console, Say(Words::tr("Comparing")), Say(Words::tr("files", "of so many")));
       view_.plan = Host::PlanImport(
           sources, photos, options,
           [&progress](std::uint64_t done, std::uint64_t total) { progress.Update(done, total); });
@@ -143,7 +144,7 @@ class ImportCommand {
     VLOG(1) << "importing into " << view_.catalogue;
     Host::ImportOptions options;
     options.cancel = &session_.interrupted;
-    Progress progress(session_.console, "Copying", "files");
+    Progress progress(session_.console, Say(Words::tr("Copying")), Say(Words::tr("files", "of so many")));
     view_.result = Host::RunImport(
         view_.plan, *catalogue_, options,
         [&progress](const Host::ImportProgress& now) { progress.Update(now.files, now.totalFiles); });
@@ -151,10 +152,10 @@ class ImportCommand {
 
   void Tell() const {
     if (view_.result.cancelled) {
-      session_.console.Note(
-          "Interrupted. What was copied is whole and compared; the same command copies the rest.");
+      session_.console.Note(Say(Words::tr(
+          "Interrupted. What was copied is whole and compared; the same command copies the rest.")));
     } else if (view_.found == 0) {
-      session_.console.Note("There are no photos in the given folders.");
+      session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
     }
   }
 

@@ -5,6 +5,7 @@
 #include "TerminalText.h"
 #include "TextTable.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <algorithm>
 
@@ -170,21 +171,21 @@ std::string PlanText(const ImportView& view) {
     for (const Host::ImportCopy& copy : view.plan.copies) {
       table.AddRow({copy.source.utf8string(), "->", copy.target.filename().utf8string()});
     }
-    text += "Would be copied to " + EscapeForTerminal(view.plan.folder.utf8string()) + ":\n" + table.Text(2) +
-            '\n';
+    text += Say(Words::tr("Would be copied to %1:"), {EscapeForTerminal(view.plan.folder.utf8string())}) +
+            '\n' + table.Text(2) + '\n';
   }
   if (!view.plan.stays.empty()) {
     TextTable table(std::vector<TextTable::Column>(1));
     for (const ioPath& path : view.plan.stays) {
       table.AddRow({path.utf8string()});
     }
-    text += "Would be taken in where they lie:\n" + table.Text(2) + '\n';
+    text += Say(Words::tr("Would be taken in where they lie:")) + '\n' + table.Text(2) + '\n';
   }
   return text;
 }
 
 template <class Shot>
-std::string ShotsText(const char* what, const std::vector<Shot>& shots) {
+std::string ShotsText(const std::string& what, const std::vector<Shot>& shots) {
   if (shots.empty()) {
     return {};
   }
@@ -194,12 +195,14 @@ std::string ShotsText(const char* what, const std::vector<Shot>& shots) {
       table.AddRow({shot.sources[i].utf8string(), "->", shot.targets[i].filename().utf8string()});
     }
   }
-  return what + table.Text(2) + '\n';
+  return what + '\n' + table.Text(2) + '\n';
 }
 
 std::string ShotsText(const Host::ImportPlan& plan) {
-  return ShotsText("These files are of one shot each, and the free names for them are not:\n", plan.splits) +
-         ShotsText("These files are of other shots than those whose names they share there:\n", plan.joins);
+  return ShotsText(Say(Words::tr("These files are of one shot each, and the free names for them are not:")),
+                   plan.splits) +
+         ShotsText(Say(Words::tr("These files are of other shots than those whose names they share there:")),
+                   plan.joins);
 }
 
 std::string MissingText(const ImportView& view) {
@@ -210,7 +213,7 @@ std::string MissingText(const ImportView& view) {
   for (const MissingCopy& missing : view.result.missing) {
     table.AddRow({missing.source.utf8string(), missing.cause});
   }
-  return "Missing:\n" + table.Text(2) + '\n';
+  return Say(Words::tr("Missing:")) + '\n' + table.Text(2) + '\n';
 }
 
 std::string FindingsText(const ImportView& view) {
@@ -221,7 +224,7 @@ std::string FindingsText(const ImportView& view) {
   for (const ScanFinding& finding : view.result.findings) {
     table.AddRow({finding.path.utf8string(), finding.cause});
   }
-  return "Not taken into the catalogue:\n" + table.Text(2) + '\n';
+  return Say(Words::tr("Not taken into the catalogue:")) + '\n' + table.Text(2) + '\n';
 }
 
 std::string LeftText(const ImportView& view) {
@@ -239,12 +242,16 @@ std::string LeftText(const ImportView& view) {
     if (file.kind == LeftFile::Kind::NotAPhoto && shown >= kMostLeftLines) {
       break;
     }
-    table.AddRow({file.path.utf8string(), file.cause.empty() ? "It is not named like a photo" : file.cause});
+    table.AddRow({file.path.utf8string(),
+                  file.cause.empty() ? Say(Words::tr("It is not named like a photo")) : file.cause});
     ++shown;
   }
-  std::string text = "Left out:\n" + table.Text(2);
+  std::string text = Say(Words::tr("Left out:")) + '\n' + table.Text(2);
   if (shown < left.size()) {
-    text += "  and " + GroupDigits(left.size() - shown) + " more (--json lists them)\n";
+    const std::size_t more = left.size() - shown;
+    text += "  " +
+            Say(Words::tr("and %1 more (--json lists them)", nullptr, Amount(more)), {GroupDigits(more)}) +
+            '\n';
   }
   return text + '\n';
 }
@@ -257,13 +264,17 @@ std::string KnownText(const ImportView& view) {
   };
   std::string text;
   if (const auto files = count(KnownFile::Kind::Catalogued)) {
-    text += Counted(files, "photo") + " in the catalogue already.\n";
+    text +=
+        Say(Words::tr("%1 photos in the catalogue already.", nullptr, Amount(files)), {GroupDigits(files)}) +
+        '\n';
   }
   if (const auto files = count(KnownFile::Kind::Copied)) {
-    text += Counted(files, "file") + " copied before.\n";
+    text += Say(Words::tr("%1 files copied before.", nullptr, Amount(files)), {GroupDigits(files)}) + '\n';
   }
   if (const auto files = count(KnownFile::Kind::Repeated)) {
-    text += Counted(files, "photo") + " there twice among the sources.\n";
+    text += Say(Words::tr("%1 photos there twice among the sources.", nullptr, Amount(files)),
+                {GroupDigits(files)}) +
+            '\n';
   }
   return text;
 }
@@ -271,25 +282,35 @@ std::string KnownText(const ImportView& view) {
 std::string OutcomeText(const ImportView& view) {
   const Host::ImportPlan& plan = view.plan;
   if (plan.outcome != Host::ImportPlan::Outcome::Ready) {
-    return "Nothing was imported.\n";
+    return Say(Words::tr("Nothing was imported.")) + '\n';
   }
   if (!plan.obstacle.empty()) {
     return EscapeForTerminal(plan.obstacle) + '\n' +
-           (view.dryRun ? "Nothing would be imported.\n" : "Nothing was imported.\n");
+           Say(view.dryRun ? Words::tr("Nothing would be imported.") : Words::tr("Nothing was imported.")) +
+           '\n';
   }
-  const std::string copies = Counted(view.dryRun ? plan.copies.size() : view.result.copied, "file") + " (" +
-                             SizeText(view.dryRun ? plan.bytes : view.result.bytes) + ")";
   if (view.dryRun) {
-    return copies + " would be copied, " + Counted(plan.stays.size(), "photo") +
-           " taken in where they lie. This was a dry run:\nnothing was changed.\n";
+    return Say(Words::tr("%1 files (%2) would be copied", nullptr, Amount(plan.copies.size())),
+               {GroupDigits(plan.copies.size()), SizeText(plan.bytes)}) +
+           ", " +
+           Say(Words::tr("%1 photos taken in where they lie.", "would be", Amount(plan.stays.size())),
+               {GroupDigits(plan.stays.size())}) +
+           ' ' + Say(Words::tr("This was a dry run:\nnothing was changed.")) + '\n';
   }
   std::string text;
   if (!plan.copies.empty()) {
-    text += copies + " copied to " + EscapeForTerminal(plan.folder.utf8string()) + ", each compared.\n";
+    text += Say(Words::tr("%1 files (%2) copied to %3, each compared.", nullptr, Amount(view.result.copied)),
+                {GroupDigits(view.result.copied), SizeText(view.result.bytes),
+                 EscapeForTerminal(plan.folder.utf8string())}) +
+            '\n';
   }
-  text += Counted(view.result.added, "photo") + " new in the catalogue.\n";
-  if (!view.result.missing.empty()) {
-    text += Counted(view.result.missing.size(), "file") + " missing; the same command tries again.\n";
+  text += Say(Words::tr("%1 photos new in the catalogue.", nullptr, Amount(view.result.added)),
+              {GroupDigits(view.result.added)}) +
+          '\n';
+  if (const std::size_t missing = view.result.missing.size(); missing > 0) {
+    text += Say(Words::tr("%1 files missing; the same command tries again.", nullptr, Amount(missing)),
+                {GroupDigits(missing)}) +
+            '\n';
   }
   return text;
 }

@@ -1,6 +1,7 @@
 #include "JournalView.h"
 
 #include "TerminalText.h"
+#include "Words.h"
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -8,7 +9,7 @@ std::string FindingsText(const std::string& title, const std::vector<Host::UndoF
   if (findings.empty()) {
     return {};
   }
-  std::string text = title + ":\n";
+  std::string text = Say(Words::tr("%1:", "a heading"), {title}) + '\n';
   for (const Host::UndoFinding& finding : findings) {
     text += "  " + EscapeForTerminal(finding.cause) + '\n';
   }

@@ -1,5 +1,8 @@
 #include "Options.h"
 
+#include "Words.h"
+
+#include <zenvora/app/Application.h>
 #include <zenvora/app/RealServices.h>
 
 #include <algorithm>
@@ -21,6 +24,20 @@ std::string SpokenLocales() {
     text += (text.empty() ? "" : ", ") + locale;
   }
   return text;
+}
+
+App::InterfaceLanguage SpokenLanguage(const char* option, const std::string& wish) {
+  App::InterfaceLanguage language = App::FindInterfaceLanguage(wish);
+  if (language.match == App::LanguageMatch::None) {
+    throw UsageError(std::string(option) + ": \"" + wish + "\" is none of the languages " + SpokenLocales());
+  }
+  return language;
+}
+
+void TellIfNear(const std::string& wish, const App::InterfaceLanguage& language, Console& console) {
+  if (language.match == App::LanguageMatch::Near) {
+    console.Note(Say(Words::tr("There is no %1; %2 is used.", "languages"), {wish, language.locale}));
+  }
 }
 
 }  // namespace
@@ -75,14 +92,21 @@ LocaleScope::LocaleScope(const std::string& wish, Session& session) {
   if (wish.empty()) {
     return;
   }
-  const App::InterfaceLanguage language = App::FindInterfaceLanguage(wish);
-  if (language.match == App::LanguageMatch::None) {
-    throw UsageError("--locale: \"" + wish + "\" is none of the languages " + SpokenLocales());
-  }
-  if (language.match == App::LanguageMatch::Near) {
-    session.console.Note("There is no " + wish + "; " + language.locale + " is used.");
-  }
+  const App::InterfaceLanguage language = SpokenLanguage("--locale", wish);
   scope_.emplace(App::MakeFixedLookAndFeel(language.locale));
+  TellIfNear(wish, language, session.console);
+}
+
+LanguageScope::LanguageScope(const Globals& globals, Console& console) {
+  std::optional<App::InterfaceLanguage> asked;
+  if (!globals.language.empty()) {
+    asked = SpokenLanguage("--lang", globals.language);
+    scope_.emplace(App::MakeFixedLookAndFeel(asked->locale));
+  }
+  texts_.emplace(globals.json ? App::InterfaceLanguages().front() : App::GetCurrentLocale());
+  if (asked) {
+    TellIfNear(globals.language, *asked, console);
+  }
 }
 
 }  // namespace Zenvora::Lumidex::Cli

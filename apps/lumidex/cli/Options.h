@@ -2,6 +2,8 @@
 
 #include "Session.h"
 
+#include <host/InterfaceTexts.h>
+
 #include <zenvora/app/ILookAndFeelManager.h>
 #include <zenvora/app/Services.h>
 
@@ -30,7 +32,8 @@ CLI::Validator WholeNumber(long long least, long long most);
 /// Refuses every other word.
 CLI::Validator OneOf(std::vector<std::string> words);
 
-/// The option `--locale`: another interface language while it lives.
+/// The option `--locale`: other holidays, and the wording that goes with them, while it lives. What the
+/// program says stays in its language.
 class LocaleScope {
  public:
   /// An empty `wish` changes nothing. Throws `UsageError` for a language that is not spoken, and says so when
@@ -39,6 +42,18 @@ class LocaleScope {
 
  private:
   std::optional<App::ServiceScope<App::ILookAndFeelManager>> scope_;
+};
+
+/// The language of the program while it lives: its texts, holidays and their wording. A script that asks for
+/// JSON gets texts in English, whatever the language; only holidays and wording follow it.
+class LanguageScope {
+ public:
+  /// The option `--lang`, without it the settings' or the system's language. Throws as `LocaleScope` does.
+  LanguageScope(const Globals& globals, Console& console);
+
+ private:
+  std::optional<App::ServiceScope<App::ILookAndFeelManager>> scope_;
+  std::optional<Host::InterfaceTexts> texts_;
 };
 
 }  // namespace Zenvora::Lumidex::Cli

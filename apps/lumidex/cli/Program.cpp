@@ -6,6 +6,8 @@
 #include "Interrupt.h"
 #include "JsonWriter.h"
 #include "LogLines.h"
+#include "Options.h"
+#include "Words.h"
 
 #include <host/HostError.h>
 
@@ -87,7 +89,6 @@ class Runner {
     } catch (const Failure& error) {
       return Report(error.Kind(), error.what(), ExitCode::Failed, error.Candidates());
     } catch (const std::exception& error) {
-      // What the host gives up on request it reports like any failure.
       if (Interrupted()) {
         return Report("interrupted", "Interrupted.", ExitCode::Interrupted);
       }
@@ -121,8 +122,15 @@ ExitCode RunCommand(const ParsedCommandLine& parsed, Output& output, Console& co
   App::ApplicationOf<QCoreApplication> application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("lumidex"));
   QCoreApplication::setApplicationVersion(QStringLiteral(LUMIDEX_VERSION));
+  const LanguageScope language(parsed.globals, console);
   Session session{parsed.globals, output, console, Interrupted(), {}};
-  return parsed.action(session);
+  try {
+    return parsed.action(session);
+  } catch (const Host::HostError&) {
+    // What the host gives up on request it reports like any failure; here the language is still in force.
+    ThrowIfInterrupted(Say(Words::tr("Interrupted.")).c_str());
+    throw;
+  }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "Progress.h"
 
 #include "TerminalText.h"
+#include "Words.h"
 
 #include <algorithm>
 #include <array>
@@ -77,15 +78,15 @@ std::string ProgressText(const ProgressState& state, int columns) {
   const bool knowsShare = state.totalIsFinal && state.total > 0;
   const double share =
       knowsShare ? std::min(1.0, static_cast<double>(state.done) / static_cast<double>(state.total)) : 0;
-  std::string counts = GroupDigits(state.done) + " of " + GroupDigits(state.total) + ' ' + state.noun;
-  if (!state.totalIsFinal) {
-    counts += " found so far";
-  }
+  const std::string counts =
+      Say(QString::fromStdString(state.totalIsFinal ? state.counts : state.countsSoFar),
+          {GroupDigits(state.done), GroupDigits(state.total), state.noun});
   const std::string percent = knowsShare ? std::to_string(static_cast<int>(share * 100)) + '%' : "";
   const std::string rate = state.perSecond ? RateText(*state.perSecond) : "";
   std::string left;
   if (knowsShare && state.perSecond && state.done < state.total) {
-    left = DurationText(static_cast<double>(state.total - state.done) / *state.perSecond) + " left";
+    left = Say(QString::fromStdString(state.left),
+               {DurationText(static_cast<double>(state.total - state.done) / *state.perSecond)});
   }
 
   const std::vector<std::vector<std::string>> forms = {
@@ -109,6 +110,9 @@ std::string ProgressText(const ProgressState& state, int columns) {
 Progress::Progress(Console& console, std::string verb, std::string noun) : console_(console) {
   state_.verb = std::move(verb);
   state_.noun = std::move(noun);
+  state_.counts = Say(Words::tr("%1 of %2 %3", "done, all, what"));
+  state_.countsSoFar = Say(Words::tr("%1 of %2 %3 found so far", "done, all, what"));
+  state_.left = Say(Words::tr("%1 left", "minutes and seconds"));
 }
 
 Progress::~Progress() {

@@ -35,6 +35,10 @@ struct ProgressState {
   std::uint64_t total = 0;
   bool totalIsFinal = true;  ///< False: `total` still grows.
   std::optional<double> perSecond;
+  /// In the language of verb and noun: done, total, noun; the same while the total grows; the time left.
+  std::string counts = "%1 of %2 %3";
+  std::string countsSoFar = "%1 of %2 %3 found so far";
+  std::string left = "%1 left";
 };
 
 /// The state as one line of less than `columns`; what matters least is left out first.
@@ -46,6 +50,7 @@ std::string DurationText(double seconds);
 /// Shows the progress of one piece of work while it lives, at most ten times a second. Belongs to one thread.
 class Progress {
  public:
+  /// In the interface language, which the line keeps: `verb` as in "Scanning", `noun` as in "1 of 2 photos".
   Progress(Console& console, std::string verb, std::string noun);
   ~Progress();
   Progress(const Progress&) = delete;

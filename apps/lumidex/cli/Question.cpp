@@ -1,7 +1,10 @@
 #include "Question.h"
 
+#include "Words.h"
+
+#include <QStringList>
+
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 
@@ -59,14 +62,24 @@ bool CanAsk() {
 #endif
 }
 
-bool IsYes(const std::string& answer) {
-  std::string word;
-  for (const char letter : answer) {
-    if (std::isspace(static_cast<unsigned char>(letter)) == 0) {
-      word += static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+QString PlainAnswer(const std::string& answer) {
+  QString plain;
+  // Not Qt's whole normal form alone: "si" is meant where "sí" is asked for.
+  for (const QChar letter :
+       QString::fromStdString(answer).normalized(QString::NormalizationForm_KD).toCaseFolded().trimmed()) {
+    if (letter.category() != QChar::Mark_NonSpacing) {
+      plain += letter;
     }
   }
-  return word == "y" || word == "yes";
+  return plain;
+}
+
+bool IsYes(const std::string& answer) {
+  const QString word = PlainAnswer(answer);
+  const QStringList known = QStringLiteral("y yes").split(QLatin1Char(' ')) +
+                            Words::tr("y yes", "answers, all that mean it").split(QLatin1Char(' '));
+  return std::any_of(known.begin(), known.end(),
+                     [&word](const QString& yes) { return PlainAnswer(yes.toStdString()) == word; });
 }
 
 std::optional<std::string> AskForLine(Console& console, const std::string& question,

@@ -2,6 +2,8 @@
 
 #include "Console.h"
 
+#include <QString>
+
 #include <atomic>
 #include <optional>
 #include <string>
@@ -18,12 +20,15 @@ std::optional<std::string> AskForLine(Console& console, const std::string& quest
                                       const std::atomic<bool>& interrupted);
 
 /// Shows `facts` (escaped lines) on the standard error stream, asks `question` and waits for a line. True for
-/// "y" and "yes" in any case; false for every other answer, for the end of the input, and when `interrupted`
-/// becomes true meanwhile.
+/// "y" and "yes" and what they are in the interface language, in any case; false for every other answer, for
+/// the end of the input, and when `interrupted` becomes true meanwhile.
 bool Ask(Console& console, const std::string& facts, const std::string& question,
          const std::atomic<bool>& interrupted);
 
-/// Whether a line is a yes. Pure.
+/// Whether a line is a yes, in English or in the interface language.
 bool IsYes(const std::string& answer);
+
+/// What answers are compared by: without case, accents, blanks at the ends and wide forms of letters. Pure.
+QString PlainAnswer(const std::string& answer);
 
 }  // namespace Zenvora::Lumidex::Cli

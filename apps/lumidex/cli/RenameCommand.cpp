@@ -5,6 +5,7 @@
 #include "Progress.h"
 #include "RenameView.h"
 #include "TerminalText.h"
+#include "Words.h"
 
 #include <host/PhotoChoice.h>
 #include <host/RenamePattern.h>
@@ -63,7 +64,9 @@ struct RenameArguments {
   bool dryRun = false;
 };
 
-constexpr char kNothingRenamed[] = "Interrupted. Nothing was renamed.";
+std::string NothingRenamed() {
+  return Say(Words::tr("Interrupted. Nothing was renamed."));
+}
 
 Host::RenamePattern ReadPattern(const std::string& text) {
   Host::RenamePatternFault fault;
@@ -107,9 +110,9 @@ class RenameRun {
     view_.recovered = session_.recovered;
     session_.output.Print(session_.globals.json ? RenameDocument(view_) : RenameText(view_));
     if (view_.result.cancelled) {
-      session_.console.Note(kNothingRenamed);
+      session_.console.Note(NothingRenamed());
     } else if (view_.shots == 0) {
-      session_.console.Note("There are no photos in the given folders.");
+      session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
     }
     return Judge();
   }
@@ -129,7 +132,7 @@ class RenameRun {
     if (pattern_.NeedsDate() || arguments_.order == "date") {
       FindDates(shots);
     }
-    ThrowIfInterrupted(kNothingRenamed);
+    ThrowIfInterrupted(NothingRenamed().c_str());
     view_.shots = shots.size();
     view_.plan = Host::MakeRenamePlan(shots, pattern_, choice.entries, OptionsOf(arguments_));
     view_.refused = !view_.plan.problems.empty() && !arguments_.skipProblems;
@@ -137,10 +140,10 @@ class RenameRun {
 
   void FindDates(std::vector<Host::RenameShot>& shots) {
     const Host::ShotDates dates(view_.catalogue, shots.size());
-    Progress progress(session_.console, "Reading", "photos");
+    Progress progress(session_.console, Say(Words::tr("Reading")), Say(Words::tr("photos", "of so many")));
     std::uint64_t done = 0;
     for (Host::RenameShot& shot : shots) {
-      ThrowIfInterrupted(kNothingRenamed);
+      ThrowIfInterrupted(NothingRenamed().c_str());
       const Host::ShotDate date = dates.Of(shot.set);
       shot.taken = date.taken;
       view_.fileTimes += date.source == Host::DateSource::FileTime ? 1 : 0;
@@ -156,7 +159,7 @@ class RenameRun {
     const QString step =
         QString::fromStdString("rename " + PhotosAndFiles(view_.plan.shots, view_.plan.renames.size()));
     {
-      Progress progress(session_.console, "Renaming", "files");
+      Progress progress(session_.console, Say(Words::tr("Renaming")), Say(Words::tr("files", "of so many")));
       view_.result = journal_->Get().Rename(
           step, view_.plan, session_.interrupted,
           [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });

@@ -2,8 +2,10 @@
 
 #include "JournalView.h"
 #include "JsonWriter.h"
+#include "StepText.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "Words.h"
 
 #include <map>
 
@@ -48,7 +50,7 @@ std::string ProblemsText(const RenameView& view) {
   for (const RenameProblem& problem : view.plan.problems) {
     table.AddRow({problem.file.utf8string(), CauseText(problem)});
   }
-  return "Cannot be renamed:\n" + table.Text(2) + '\n';
+  return Say(Words::tr("Cannot be renamed:")) + '\n' + table.Text(2) + '\n';
 }
 
 /// Old and new names, folder by folder in the order in which each occurs first.
@@ -75,22 +77,30 @@ std::string MovesText(const std::vector<RenameMove>& moves) {
 std::string NotesText(const RenameView& view) {
   std::string text;
   if (view.fileTimes > 0 && !view.refused) {
-    text += Counted(view.fileTimes, "photo") +
-            (view.fileTimes == 1 ? " has no date of its own; its file's time is used.\n"
-                                 : " have no date of their own; their files' times are used.\n");
+    text += Say(Words::tr("%1 photos have no date of their own; their files' times are used.", nullptr,
+                          Amount(view.fileTimes)),
+                {GroupDigits(view.fileTimes)}) +
+            '\n';
   }
   if (view.plan.unchanged > 0) {
-    text += Counted(view.plan.unchanged, "file") +
-            (view.plan.unchanged == 1 ? " has its name already.\n" : " have their names already.\n");
+    text += Say(Words::tr("%1 files have their names already.", nullptr, Amount(view.plan.unchanged)),
+                {GroupDigits(view.plan.unchanged)}) +
+            '\n';
   }
   return text;
 }
 
 std::string RefusedText(const RenameView& view) {
-  const std::size_t problems = view.plan.problems.size();
-  return "Nothing " + std::string(view.dryRun ? "would be" : "was") + " renamed: " + GroupDigits(problems) +
-         " of " + Counted(view.shots, "photo") +
-         " cannot have the new name. With --skip-problems the\nothers are renamed.\n";
+  const int amount = Amount(view.shots);
+  return Say(view.dryRun
+                 ? Words::tr("Nothing would be renamed: %1 of %2 photos cannot have the new name. With "
+                             "--skip-problems the\nothers are renamed.",
+                             nullptr, amount)
+                 : Words::tr("Nothing was renamed: %1 of %2 photos cannot have the new name. With "
+                             "--skip-problems the\nothers are renamed.",
+                             nullptr, amount),
+             {GroupDigits(view.plan.problems.size()), GroupDigits(view.shots)}) +
+         '\n';
 }
 
 std::string OutcomeText(const RenameView& view) {
@@ -98,19 +108,30 @@ std::string OutcomeText(const RenameView& view) {
     return RefusedText(view);
   }
   if (view.plan.renames.empty()) {
-    return "Nothing to rename.\n";
+    return Say(Words::tr("Nothing to rename.")) + '\n';
   }
-  const std::string what = PhotosAndFiles(view.plan.shots, view.plan.renames.size());
+  const int shots = Amount(view.plan.shots);
+  const std::string what = PhotosAndFilesText(view.plan.shots, view.plan.renames.size());
   if (view.dryRun) {
-    return what + " would be renamed. This was a dry run: nothing was changed.\n";
+    return Say(Words::tr("%1 would be renamed. This was a dry run: nothing was changed.", "so many photos",
+                         shots),
+               {what}) +
+           '\n';
   }
   if (view.result.files == 0) {
-    return "Nothing was renamed.\n";
+    return Say(Words::tr("Nothing was renamed.")) + '\n';
   }
   if (!view.result.findings.empty()) {
-    return Counted(view.result.files, "file") + " could not be given back the old name.\n";
+    return Say(Words::tr("%1 files could not be given back the old name.", nullptr,
+                         Amount(view.result.files)),
+               {GroupDigits(view.result.files)}) +
+           '\n';
   }
-  return what + " renamed" + (view.canBeUndone ? "; \"lumidex undo\" takes it back.\n" : ".\n");
+  return Say(view.canBeUndone
+                 ? Words::tr("%1 renamed; \"lumidex undo\" takes it back.", "so many photos", shots)
+                 : Words::tr("%1 renamed.", "so many photos", shots),
+             {what}) +
+         '\n';
 }
 
 void WriteProblems(JsonWriter& json, const std::vector<RenameProblem>& problems) {
@@ -168,7 +189,8 @@ std::string RenameDocument(const RenameView& view) {
 
 std::string RenameText(const RenameView& view) {
   return ProblemsText(view) + (view.dryRun ? MovesText(view.plan.renames) : "") +
-         FindingsText("In the way", view.result.findings) + NotesText(view) + OutcomeText(view);
+         FindingsText(Say(Words::tr("In the way")), view.result.findings) + NotesText(view) +
+         OutcomeText(view);
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -28,7 +28,7 @@ struct RenameView {
 std::string RenameDocument(const RenameView& view);
 std::string RenameText(const RenameView& view);
 
-/// "1 photo (2 files)"; where there is a file for each, "3 photos".
+/// "1 photo (2 files)"; where there is a file for each, "3 photos". In English: the journal's words.
 std::string PhotosAndFiles(std::size_t photos, std::size_t files);
 
 }  // namespace Zenvora::Lumidex::Cli

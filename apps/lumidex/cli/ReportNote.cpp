@@ -1,6 +1,7 @@
 #include "ReportNote.h"
 
 #include "TerminalText.h"
+#include "Words.h"
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -8,10 +9,12 @@ std::string ReportLines(const std::optional<ioPath>& report, int missingPictures
   if (!report) {
     return {};
   }
-  std::string text = "Report: " + EscapeForTerminal(report->utf8string()) + '\n';
+  std::string text = Say(Words::tr("Report: %1"), {EscapeForTerminal(report->utf8string())}) + '\n';
   if (missingPictures > 0) {
-    text += "  " + Counted(static_cast<unsigned long long>(missingPictures), "picture") +
-            " could not be read and got a placeholder.\n";
+    text += "  " +
+            Say(Words::tr("%1 pictures could not be read and got a placeholder.", nullptr, missingPictures),
+                {GroupDigits(static_cast<unsigned long long>(missingPictures))}) +
+            '\n';
   }
   return text;
 }

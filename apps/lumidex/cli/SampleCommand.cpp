@@ -4,6 +4,7 @@
 #include "Options.h"
 #include "Progress.h"
 #include "TerminalText.h"
+#include "Words.h"
 
 #include <host/Sample.h>
 
@@ -59,7 +60,7 @@ ExitCode RunSample(const SampleArguments& arguments, Session& session) {
   options.cancel = &session.interrupted;
   Host::SampleResult result;
   {
-    Progress progress(session.console, "Drawing", "photos");
+    Progress progress(session.console, Say(Words::tr("Drawing")), Say(Words::tr("photos", "of so many")));
     result = Host::MakeSample(folder, options, [&progress](int done, int total) {
       progress.Update(static_cast<std::uint64_t>(done), static_cast<std::uint64_t>(total));
     });
@@ -68,11 +69,14 @@ ExitCode RunSample(const SampleArguments& arguments, Session& session) {
   if (session.globals.json) {
     session.output.Print(ResultDocument(arguments, folder, result));
   } else {
-    session.output.Print("Made " + Counted(static_cast<unsigned long long>(result.photos), "photo") + " in " +
-                         EscapeForTerminal(folder.utf8string()) + '\n');
+    session.output.Print(Say(Words::tr("Made %1 photos in %2", nullptr, result.photos),
+                             {GroupDigits(static_cast<unsigned long long>(result.photos)),
+                              EscapeForTerminal(folder.utf8string())}) +
+                         '\n');
   }
   if (result.cancelled) {
-    session.console.Note("Interrupted. The photos made so far stay; delete the folder before another try.");
+    session.console.Note(
+        Say(Words::tr("Interrupted. The photos made so far stay; delete the folder before another try.")));
     return ExitCode::Interrupted;
   }
   return ExitCode::Done;

@@ -7,6 +7,7 @@
 #include "Progress.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "Words.h"
 
 #include <host/Catalogue.h>
 #include <host/Scanner.h>
@@ -113,6 +114,18 @@ const char* KindName(ScanFinding::Kind kind) {
   return "";
 }
 
+std::string KindText(ScanFinding::Kind kind) {
+  switch (kind) {
+    case ScanFinding::Kind::NotAnImage:
+      return Say(Words::tr("not an image"));
+    case ScanFinding::Kind::Unreadable:
+      return Say(Words::tr("unreadable"));
+    case ScanFinding::Kind::Loop:
+      return Say(Words::tr("loop"));
+  }
+  return "";
+}
+
 ExitCode Judge(const ScanResult& result) {
   if (result.cancelled) {
     return ExitCode::Interrupted;
@@ -172,9 +185,24 @@ std::string FindingsText(const ScanResult& result) {
   }
   TextTable table({{}, {}, {}});
   for (const ScanFinding& finding : result.findings) {
-    table.AddRow({KindName(finding.kind), finding.path.utf8string(), finding.cause});
+    table.AddRow({KindText(finding.kind), finding.path.utf8string(), finding.cause});
   }
-  return "Not taken in:\n" + table.Text(2) + '\n';
+  return Say(Words::tr("Not taken in:")) + '\n' + table.Text(2) + '\n';
+}
+
+/// "12 original".
+QString DatesOf(DateSource source, int amount) {
+  switch (source) {
+    case DateSource::Original:
+      return Words::tr("%1 original", "dates read", amount);
+    case DateSource::Digitised:
+      return Words::tr("%1 digitised", "dates read", amount);
+    case DateSource::FileTime:
+      return Words::tr("%1 file time", "dates read", amount);
+    case DateSource::None:
+      return Words::tr("%1 none", "dates read", amount);
+  }
+  return {};
 }
 
 std::string DatesText(const ScanResult& result) {
@@ -182,24 +210,28 @@ std::string DatesText(const ScanResult& result) {
   for (const DateSource source : kDateSources) {
     const auto count = result.dated[static_cast<int>(source)];
     if (count > 0) {
-      text += (text.empty() ? "" : ", ") + GroupDigits(count) + ' ' + Host::DateSourceName(source);
+      text += (text.empty() ? "" : ", ") + Say(DatesOf(source, Amount(count)), {GroupDigits(count)});
     }
   }
-  return text.empty() ? "" : "Dates read: " + text + '\n';
+  return text.empty() ? "" : Say(Words::tr("Dates read: %1"), {text}) + '\n';
 }
 
 std::string ResultText(const ScanArguments& arguments, const ioPath& catalogue, const ScanResult& result) {
   TextTable table({{"", TextTable::Align::Right}, {}});
-  table.AddRow({GroupDigits(result.found), result.found == 1 ? "file found" : "files found"});
-  table.AddRow({GroupDigits(result.added), "new"});
-  table.AddRow({GroupDigits(result.updated), arguments.full ? "read again" : "changed"});
-  table.AddRow({GroupDigits(result.unchanged), "unchanged"});
-  table.AddRow({GroupDigits(result.lost), "gone, now marked lost"});
-  std::string text = FindingsText(result) + table.Text(2) + DatesText(result);
-  if (arguments.dryRun) {
-    return text + "This was a dry run: nothing was stored.\n";
-  }
-  return text + "Catalogue: " + EscapeForTerminal(catalogue.utf8string()) + '\n';
+  const int updated = Amount(result.updated);
+  table.AddRow({GroupDigits(result.found), Say(Words::tr("files found", nullptr, Amount(result.found)))});
+  table.AddRow({GroupDigits(result.added), Say(Words::tr("new", "files", Amount(result.added)))});
+  table.AddRow({GroupDigits(result.updated), Say(arguments.full ? Words::tr("read again", "files", updated)
+                                                                : Words::tr("changed", "files", updated))});
+  table.AddRow(
+      {GroupDigits(result.unchanged), Say(Words::tr("unchanged", "files", Amount(result.unchanged)))});
+  table.AddRow(
+      {GroupDigits(result.lost), Say(Words::tr("gone, now marked lost", "files", Amount(result.lost)))});
+  const std::string text = FindingsText(result) + table.Text(2) + DatesText(result);
+  return text +
+         (arguments.dryRun ? Say(Words::tr("This was a dry run: nothing was stored."))
+                           : Say(Words::tr("Catalogue: %1"), {EscapeForTerminal(catalogue.utf8string())})) +
+         '\n';
 }
 
 // Asked before the catalogue is made: a slip of the pen leaves none behind.
@@ -234,7 +266,7 @@ ExitCode RunScan(const ScanArguments& arguments, Session& session) {
   options.cancel = &session.interrupted;
   ScanResult result;
   {
-    Progress progress(session.console, "Scanning", "photos");
+    Progress progress(session.console, Say(Words::tr("Scanning")), Say(Words::tr("photos", "of so many")));
     result = Host::Scan(catalogue.Get(), roots, options, [&progress](const Host::ScanProgress& now) {
       progress.Update(now.done, now.found, now.foundAll);
     });
@@ -243,12 +275,12 @@ ExitCode RunScan(const ScanArguments& arguments, Session& session) {
   session.output.Print(session.globals.json ? ResultDocument(arguments, file, result)
                                             : ResultText(arguments, file, result));
   if (result.cancelled) {
-    session.console.Note(arguments.dryRun
-                             ? "Interrupted."
-                             : "Interrupted. What was read so far is in the catalogue; the same command "
-                               "goes on from there.");
+    session.console.Note(
+        Say(arguments.dryRun ? Words::tr("Interrupted.")
+                             : Words::tr("Interrupted. What was read so far is in the catalogue; the same "
+                                         "command goes on from there.")));
   } else if (result.found == 0) {
-    session.console.Note("There are no photos in the given folders.");
+    session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }
   return Judge(result);
 }

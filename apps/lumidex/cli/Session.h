@@ -17,6 +17,7 @@ namespace Zenvora::Lumidex::Cli {
 /// Options that every command takes.
 struct Globals {
   std::string catalogue;  ///< Empty: the user's own.
+  std::string language;   ///< Empty: that of the settings or the system.
   bool json = false;
   bool quiet = false;
   int verbosity = 0;

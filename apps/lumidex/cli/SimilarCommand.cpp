@@ -9,8 +9,10 @@
 #include "SimilarView.h"
 #include "TerminalText.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <host/Catalogue.h>
+#include <host/InterfaceTexts.h>
 #include <host/ModelAnalyser.h>
 #include <host/PhotoAnalysis.h>
 #include <host/Report.h>
@@ -84,14 +86,14 @@ std::string FileName(const Host::SimilarMember& member) {
   return member.photo.path.filename().utf8string();
 }
 
-const char* VerbOf(Host::SimilarProgress::Step step) {
+std::string VerbOf(Host::SimilarProgress::Step step) {
   switch (step) {
     case Host::SimilarProgress::Step::Analysing:
-      return "Looking at";
+      return Say(Words::tr("Looking at"));
     case Host::SimilarProgress::Step::Grouping:
-      return "Grouping";
+      return Say(Words::tr("Grouping"));
     case Host::SimilarProgress::Step::Measuring:
-      return "Measuring";
+      return Say(Words::tr("Measuring"));
   }
   return "";
 }
@@ -129,8 +131,9 @@ class SimilarRun {
     }
     session_.output.Print(session_.globals.json ? SimilarDocument(view_) : SimilarText(view_));
     if (view_.cancelled) {
-      session_.console.Note(view_.trash ? "Interrupted. What was moved is in the trash."
-                                        : "Interrupted. The same command goes on from there.");
+      session_.console.Note(Say(view_.trash
+                                    ? Words::tr("Interrupted. What was moved is in the trash.")
+                                    : Words::tr("Interrupted. The same command goes on from there.")));
       return ExitCode::Interrupted;
     }
     return Graver(Judge(), JudgeTrash());
@@ -155,7 +158,7 @@ class SimilarRun {
     const Host::SimilarUpdateResult result =
         Host::UpdateSimilar(similar_, analyser_, options, [&](const Host::SimilarProgress& now) {
           if (!progress || now.step != last.step) {
-            progress.emplace(session_.console, VerbOf(now.step), "photos");
+            progress.emplace(session_.console, VerbOf(now.step), Say(Words::tr("photos", "of so many")));
           }
           last = now;
           progress->Update(now.done, now.total);
@@ -198,7 +201,7 @@ class SimilarRun {
     if (!arguments_.yes) {
       trash.asked = true;
       trash.declined = !Confirm(trash);
-      ThrowIfInterrupted("Interrupted. Nothing was moved.");
+      ThrowIfInterrupted(Say(Words::tr("Interrupted. Nothing was moved.")).c_str());
     }
     if (!trash.declined) {
       MoveToTrash(trash);
@@ -212,13 +215,13 @@ class SimilarRun {
       facts += GroupText(group, ++number, &trash);
     }
     return Ask(session_.console, facts + StaysText(trash),
-               "Move " + AmountText(trash.plan) + " to the trash? [y/N]", session_.interrupted);
+               Say(Words::tr("Move %1 to the trash? [y/N]"), {AmountText(trash.plan)}), session_.interrupted);
   }
 
   void MoveToTrash(TrashView& trash) {
     OpenJournal journal(session_);
     {
-      Progress progress(session_.console, "Moving", "photos");
+      Progress progress(session_.console, Say(Words::tr("Moving")), Say(Words::tr("photos", "of so many")));
       trash.result = journal.Get().MoveToTrash(
           QStringLiteral("move similar photos to the trash"), trash.plan.photos, session_.interrupted,
           [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });
@@ -236,16 +239,20 @@ class SimilarRun {
     const Host::SimilarMember& keeper = members[shown.keeper.index];
     Host::ReportAlbum group;
     const std::string reasons = ReasonsText(shown.keeper);
-    group.name =
-        QString::fromStdString(Counted(members.size(), "photo") + " like " + FileName(keeper) + "\nKeep " +
-                               FileName(keeper) + (reasons.empty() ? "" : ": " + reasons));
+    const std::string heading = Say(Words::tr("%1 photos like %2", nullptr, Amount(members.size())),
+                                    {GroupDigits(members.size()), FileName(keeper)});
+    const std::string advice =
+        reasons.empty() ? Say(Words::tr("Keep %1", "a file"), {FileName(keeper)})
+                        : Say(Words::tr("Keep %1: %2", "a file: why"), {FileName(keeper), reasons});
+    group.name = QString::fromStdString(heading + '\n' + advice);
     group.firstDay = keeper.photo.taken.date();
     group.chosen = 0;
     const auto add = [&group](const Host::SimilarMember& member) {
       group.photos.push_back(member.photo);
-      group.captions.push_back(QString::fromStdString(FileName(member) + '\n' + PixelsText(member.features) +
-                                                      ", " + SizeText(member.photo.size) + ", score " +
-                                                      ScoreText(member.score)));
+      const std::string facts =
+          Say(Words::tr("%1, %2, score %3", "pixels, size, number"),
+              {PixelsText(member.features), SizeText(member.photo.size), ScoreText(member.score)});
+      group.captions.push_back(QString::fromStdString(FileName(member) + '\n' + facts));
     };
     add(keeper);
     for (const Host::SimilarMember& member : members) {
@@ -261,6 +268,9 @@ class SimilarRun {
       return;
     }
     const ioPath report = AbsolutePath(arguments_.report);
+    Progress progress(session_.console, Say(Words::tr("Drawing")), Say(Words::tr("pictures", "of so many")));
+    // Also where the program speaks English to a script.
+    const Host::InterfaceTexts pageTexts(App::GetCurrentLocale());
     std::vector<Host::ReportAlbum> groups;
     std::vector<Host::PhotoRecord> photos;
     for (const SimilarView::Group& shown : view_.groups) {
@@ -270,11 +280,12 @@ class SimilarRun {
     RequireReplaceable(report, photos);
     Host::ReportOptions options;
     options.locale = QString::fromStdString(App::GetCurrentLocale());
-    options.title = QStringLiteral("Similar photos");
-    options.words = {"group", "groups", "Groups by year", "No similar photos",
-                     "Groups appear here once the catalogue holds photos that are alike."};
+    options.title = QCoreApplication::translate("Report", "Similar photos");
+    options.words = {
+        "group", "groups", QT_TRANSLATE_NOOP("Report", "Groups by year"),
+        QT_TRANSLATE_NOOP("Report", "No similar photos"),
+        QT_TRANSLATE_NOOP("Report", "Groups appear here once the catalogue holds photos that are alike.")};
     options.cancel = &session_.interrupted;
-    Progress progress(session_.console, "Drawing", "pictures");
     view_.missingPictures = Host::WriteReport(report, groups, options, [&progress](int done, int total) {
       progress.Update(static_cast<std::uint64_t>(done), static_cast<std::uint64_t>(total));
     });
@@ -302,7 +313,7 @@ class SimilarRun {
 
   ExitCode Explain() {
     if (view_.cancelled) {
-      ThrowIfInterrupted("Interrupted. The same command goes on from there.");
+      ThrowIfInterrupted(Say(Words::tr("Interrupted. The same command goes on from there.")).c_str());
     }
     const ioPath first = KnownName(AbsolutePath(arguments_.explain[0]));
     const ioPath second = KnownName(AbsolutePath(arguments_.explain[1]));
@@ -325,7 +336,7 @@ class SimilarRun {
 
   ExitCode Judge() const {
     if (view_.photos == 0 && view_.problems.empty()) {
-      session_.console.Note("The catalogue holds no photos yet. Run: lumidex scan DIR");
+      session_.console.Note(Say(Words::tr("The catalogue holds no photos yet. Run: lumidex scan DIR")));
       return ExitCode::Findings;
     }
     return view_.problems.empty() && view_.missingPictures == 0 ? ExitCode::Done : ExitCode::Partly;

@@ -5,6 +5,7 @@
 #include "TerminalText.h"
 #include "TextTable.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <QString>
 
@@ -18,6 +19,22 @@ using Host::SimilarMember;
 using Host::TrashPhoto;
 
 constexpr int kScoreDigits = 3;
+
+std::string ReasonText(Host::KeeperReason reason) {
+  switch (reason) {
+    case Host::KeeperReason::Largest:
+      return Say(Words::tr("largest", "photo"));
+    case Host::KeeperReason::Sharpest:
+      return Say(Words::tr("sharpest", "photo"));
+    case Host::KeeperReason::CameraData:
+      return Say(Words::tr("has camera data"));
+    case Host::KeeperReason::Earliest:
+      return Say(Words::tr("earliest", "photo"));
+    case Host::KeeperReason::FirstName:
+      return Say(Words::tr("first by name"));
+  }
+  return "";
+}
 
 std::string TakenText(const SimilarMember& member) {
   const QDateTime& taken = member.photo.taken;
@@ -47,17 +64,25 @@ std::string ProblemsText(const SimilarView& view) {
   for (const auto& [file, cause] : view.problems) {
     table.AddRow({file.utf8string(), cause});
   }
-  return "Not compared:\n" + table.Text(2) + '\n';
+  return Say(Words::tr("Not compared:")) + '\n' + table.Text(2) + '\n';
 }
 
 std::string SummaryText(const SimilarView& view) {
-  const std::string of = " among " + Counted(view.photos, "photo");
+  const std::string photos = GroupDigits(view.photos);
   if (view.groups.empty()) {
-    return "No similar photos" + of + ".\n";
+    return Say(Words::tr("No similar photos among %1 photos.", nullptr, Amount(view.photos)), {photos}) +
+           '\n';
   }
   const auto [count, bytes] = Others(view);
-  return Counted(view.groups.size(), "group") + " of similar photos" + of + "; " + Counted(count, "photo") +
-         " (" + SizeText(bytes) + ") besides those to keep.\n";
+  const std::string groups =
+      Say(Words::tr("%1 groups of similar photos", nullptr, Amount(view.groups.size())),
+          {GroupDigits(view.groups.size())});
+  const std::string among = Say(Words::tr("among %1 photos", nullptr, Amount(view.photos)), {photos});
+  const std::string others = Say(Words::tr("%1 photos (%2) besides those to keep.", nullptr, Amount(count)),
+                                 {GroupDigits(count), SizeText(bytes)});
+  return Say(Words::tr("%1 %2; %3", "groups of similar photos; among how many; others"),
+             {groups, among, others}) +
+         '\n';
 }
 
 void WriteMember(JsonWriter& json, const SimilarMember& member, const Host::KeeperChoice* keeper) {
@@ -110,10 +135,10 @@ std::string GroupText(const SimilarView::Group& shown, std::size_t number, const
     const SimilarMember& member = members[i];
     const bool isKeeper = i == shown.keeper.index;
     const TrashPhoto* const going = trash != nullptr ? FindGoing(*trash, member.photo.path) : nullptr;
-    const char* const verdict = isKeeper           ? "keep"
-                                : trash == nullptr ? ""
-                                : going != nullptr ? "trash"
-                                                   : "stay";
+    const std::string verdict = isKeeper           ? Say(Words::tr("keep", "a photo"))
+                                : trash == nullptr ? std::string()
+                                : going != nullptr ? Say(Words::tr("trash", "it goes there"))
+                                                   : Say(Words::tr("stay", "a photo does"));
     table.AddRow({verdict, ScoreText(member.score), PixelsText(member.features), SizeText(member.photo.size),
                   TakenText(member), member.photo.path.utf8string(),
                   isKeeper ? ReasonsText(shown.keeper) : ""});
@@ -122,8 +147,9 @@ std::string GroupText(const SimilarView::Group& shown, std::size_t number, const
       table.AddRow({verdict, "", "", SizeText(file.size), "", file.path.utf8string(), ""});
     }
   }
-  return "Group " + GroupDigits(number) + ", " + Counted(members.size(), "photo") + ":\n" + table.Text(2) +
-         '\n';
+  return Say(Words::tr("Group %1, %2 photos:", nullptr, Amount(members.size())),
+             {GroupDigits(number), GroupDigits(members.size())}) +
+         '\n' + table.Text(2) + '\n';
 }
 
 std::string ScoreText(float score) {
@@ -133,7 +159,7 @@ std::string ScoreText(float score) {
 std::string ReasonsText(const Host::KeeperChoice& keeper) {
   std::string text;
   for (const Host::KeeperReason reason : keeper.reasons) {
-    text += (text.empty() ? "" : ", ") + std::string(Host::KeeperReasonName(reason));
+    text += (text.empty() ? "" : ", ") + ReasonText(reason);
   }
   return text;
 }
@@ -206,20 +232,23 @@ std::string ExplainDocument(const ExplainView& view) {
 std::string ExplainText(const ExplainView& view) {
   const Host::SimilarityFacts& facts = view.facts;
   const bool together = facts.firstCluster == facts.secondCluster;
-  TextTable table({{"PHOTO"},
-                   {"CLUSTER", TextTable::Align::Right},
-                   {together ? "TO ITS CENTRE" : "TO ITS OWN CENTRE", TextTable::Align::Right},
-                   {together ? "" : "TO THE OTHER'S", TextTable::Align::Right}});
+  TextTable table(
+      {{Say(Words::tr("PHOTO"))},
+       {Say(Words::tr("CLUSTER")), TextTable::Align::Right},
+       {Say(together ? Words::tr("TO ITS CENTRE") : Words::tr("TO ITS OWN CENTRE")), TextTable::Align::Right},
+       {together ? "" : Say(Words::tr("TO THE OTHER'S")), TextTable::Align::Right}});
   table.AddRow({view.first.utf8string(), std::to_string(facts.firstCluster), ScoreText(facts.firstToFirst),
                 together ? "" : ScoreText(facts.firstToSecond)});
   table.AddRow({view.second.utf8string(), std::to_string(facts.secondCluster),
                 ScoreText(facts.secondToSecond), together ? "" : ScoreText(facts.secondToFirst)});
-  std::string text = "The photos score " + ScoreText(facts.score) + " against each other and are in " +
-                     (together ? "one group.\n\n" : "different groups.\n\n") + table.Text();
-  return text +
-         "\nA photo joins the first group whose centre, the mean of its photos at that time, it scored\n"
-         "above " +
-         ScoreText(Host::kSameGroupScore) + " against; later photos move the centre.\n";
+  const QString verdict =
+      together ? Words::tr("The photos score %1 against each other and are in one group.")
+               : Words::tr("The photos score %1 against each other and are in different groups.");
+  return Say(verdict, {ScoreText(facts.score)}) + "\n\n" + table.Text() + '\n' +
+         Say(Words::tr("A photo joins the first group whose centre, the mean of its photos at that time, it "
+                       "scored\nabove %1 against; later photos move the centre."),
+             {ScoreText(Host::kSameGroupScore)}) +
+         '\n';
 }
 
 std::string CheckDocument(const ioPath& catalogue, const std::vector<std::string>& differences) {
@@ -235,13 +264,13 @@ std::string CheckDocument(const ioPath& catalogue, const std::vector<std::string
 
 std::string CheckText(const std::vector<std::string>& differences) {
   if (differences.empty()) {
-    return "The groups are as matching all photos again makes them.\n";
+    return Say(Words::tr("The groups are as matching all photos again makes them.")) + '\n';
   }
   std::string text;
   for (const std::string& difference : differences) {
     text += EscapeForTerminal(difference) + '\n';
   }
-  return text + "\"lumidex similar --anew\" makes the groups from nothing.\n";
+  return text + Say(Words::tr("\"lumidex similar --anew\" makes the groups from nothing.")) + '\n';
 }
 
 }  // namespace Zenvora::Lumidex::Cli

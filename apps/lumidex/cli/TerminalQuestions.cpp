@@ -2,14 +2,13 @@
 
 #include "Question.h"
 #include "TerminalText.h"
+#include "Words.h"
 
 #include <QDir>
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <optional>
-#include <string_view>
 #include <utility>
 
 namespace Zenvora::Lumidex::Cli {
@@ -20,32 +19,25 @@ using App::AlertButton;
 using App::AlertButtons;
 
 constexpr std::array<std::pair<AlertButton, const char*>, 18> kNames = {{
-    {AlertButton::Ok, "OK"},
-    {AlertButton::Yes, "Yes"},
-    {AlertButton::YesToAll, "Yes to all"},
-    {AlertButton::No, "No"},
-    {AlertButton::NoToAll, "No to all"},
-    {AlertButton::Save, "Save"},
-    {AlertButton::SaveAll, "Save all"},
-    {AlertButton::Open, "Open"},
-    {AlertButton::Retry, "Retry"},
-    {AlertButton::Ignore, "Ignore"},
-    {AlertButton::Abort, "Abort"},
-    {AlertButton::Close, "Close"},
-    {AlertButton::Discard, "Discard"},
-    {AlertButton::Help, "Help"},
-    {AlertButton::Apply, "Apply"},
-    {AlertButton::Reset, "Reset"},
-    {AlertButton::RestoreDefaults, "Restore defaults"},
-    {AlertButton::Cancel, "Cancel"},
+    {AlertButton::Ok, QT_TRANSLATE_NOOP("Terminal", "OK")},
+    {AlertButton::Yes, QT_TRANSLATE_NOOP("Terminal", "Yes")},
+    {AlertButton::YesToAll, QT_TRANSLATE_NOOP("Terminal", "Yes to all")},
+    {AlertButton::No, QT_TRANSLATE_NOOP("Terminal", "No")},
+    {AlertButton::NoToAll, QT_TRANSLATE_NOOP("Terminal", "No to all")},
+    {AlertButton::Save, QT_TRANSLATE_NOOP("Terminal", "Save")},
+    {AlertButton::SaveAll, QT_TRANSLATE_NOOP("Terminal", "Save all")},
+    {AlertButton::Open, QT_TRANSLATE_NOOP("Terminal", "Open")},
+    {AlertButton::Retry, QT_TRANSLATE_NOOP("Terminal", "Retry")},
+    {AlertButton::Ignore, QT_TRANSLATE_NOOP("Terminal", "Ignore")},
+    {AlertButton::Abort, QT_TRANSLATE_NOOP("Terminal", "Abort")},
+    {AlertButton::Close, QT_TRANSLATE_NOOP("Terminal", "Close")},
+    {AlertButton::Discard, QT_TRANSLATE_NOOP("Terminal", "Discard")},
+    {AlertButton::Help, QT_TRANSLATE_NOOP("Terminal", "Help")},
+    {AlertButton::Apply, QT_TRANSLATE_NOOP("Terminal", "Apply")},
+    {AlertButton::Reset, QT_TRANSLATE_NOOP("Terminal", "Reset")},
+    {AlertButton::RestoreDefaults, QT_TRANSLATE_NOOP("Terminal", "Restore defaults")},
+    {AlertButton::Cancel, QT_TRANSLATE_NOOP("Terminal", "Cancel")},
 }};
-
-std::string Lowered(std::string_view text) {
-  std::string lowered(text);
-  std::transform(lowered.begin(), lowered.end(), lowered.begin(),
-                 [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-  return lowered;
-}
 
 std::string Trimmed(const std::string& text) {
   const std::size_t begin = text.find_first_not_of(" \t\r\n");
@@ -53,17 +45,13 @@ std::string Trimmed(const std::string& text) {
   return begin == std::string::npos ? std::string() : text.substr(begin, end - begin + 1);
 }
 
-}  // namespace
-
-App::AlertButton ButtonOf(const std::string& line, AlertButtons buttons, AlertButton first) {
-  const std::string word = Lowered(Trimmed(line));
-  if (word.empty()) {
-    return first;
-  }
+/// The button whose name, as `nameOf` gives it, begins so; `None`: no button or more than one.
+template <class NameOf>
+AlertButton Named(const QString& word, AlertButtons buttons, const NameOf& nameOf) {
   AlertButton found = AlertButton::None;
   for (const auto& [button, name] : kNames) {
-    const std::string known = Lowered(name);
-    if (!buttons.testFlag(button) || known.compare(0, word.size(), word) != 0) {
+    const QString known = PlainAnswer(nameOf(name));
+    if (!buttons.testFlag(button) || !known.startsWith(word)) {
       continue;
     }
     if (known == word) {
@@ -76,6 +64,12 @@ App::AlertButton ButtonOf(const std::string& line, AlertButtons buttons, AlertBu
   }
   return found;
 }
+
+std::string Translated(const char* name) {
+  return Say(Words::tr(name));
+}
+
+}  // namespace
 
 QString FolderOf(const std::string& line, const QString& startFolder) {
   std::string folder = Trimmed(line);
@@ -90,11 +84,23 @@ QString FolderOf(const std::string& line, const QString& startFolder) {
   return ioPath(text) == absolute ? QDir::cleanPath(text) : QString();
 }
 
+App::AlertButton ButtonOf(const std::string& line, AlertButtons buttons, AlertButton first) {
+  const QString word = PlainAnswer(line);
+  if (word.isEmpty()) {
+    return first;
+  }
+  const AlertButton button = Named(word, buttons, Translated);
+  // Fingers are used to English; where both could be meant, what is shown counts.
+  return button != AlertButton::None
+             ? button
+             : Named(word, buttons, [](const char* name) { return std::string(name); });
+}
+
 std::string ButtonsText(AlertButtons buttons, AlertButton first) {
   std::string text;
   for (const auto& [button, name] : kNames) {
     if (buttons.testFlag(button)) {
-      text += (text.empty() ? "[" : "/") + std::string(name) + (button == first ? "*" : "");
+      text += (text.empty() ? "[" : "/") + Translated(name) + (button == first ? "*" : "");
     }
   }
   return text + "]";

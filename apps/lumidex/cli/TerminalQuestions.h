@@ -43,15 +43,15 @@ class TerminalQuestions {
   App::ServiceScope<App::IFolderDialog> folderDialog_;
 };
 
-/// The button that the line names, by its name or the beginning of it, case ignored; an empty line: `first`.
-/// `None`: no button or more than one. Pure.
+/// The button that the line names, by its name in the interface language or in English or the beginning of
+/// it, case and accents ignored; an empty line: `first`. `None`: no button or more than one.
 App::AlertButton ButtonOf(const std::string& line, App::AlertButtons buttons, App::AlertButton first);
 
 /// The folder that the line names, absolute: an empty line `startFolder`, and "~" the home folder, since no
 /// shell was there to put it in. Empty: none, since it is no text, as which folders are remembered.
 QString FolderOf(const std::string& line, const QString& startFolder);
 
-/// "[Yes/No/Cancel]", the one that Enter presses marked: "Yes*". Pure.
+/// "[Yes/No/Cancel]" in the interface language, the one that Enter presses marked: "Yes*".
 std::string ButtonsText(App::AlertButtons buttons, App::AlertButton first);
 
 }  // namespace Zenvora::Lumidex::Cli

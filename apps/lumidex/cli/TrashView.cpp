@@ -1,8 +1,10 @@
 #include "TrashView.h"
 
 #include "JournalView.h"
+#include "StepText.h"
 #include "TerminalText.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <utility>
 
@@ -12,18 +14,25 @@ namespace {
 
 std::string OutcomeText(const TrashView& view) {
   if (view.plan.photos.empty()) {
-    return "Nothing to move to the trash.\n";
+    return Say(Words::tr("Nothing to move to the trash.")) + '\n';
   }
   if (view.dryRun) {
-    return AmountText(view.plan) + " would be moved to the trash. This was a dry run: nothing was changed.\n";
+    return Say(Words::tr("%1 would be moved to the trash. This was a dry run: nothing was changed.",
+                         "so many photos", Amount(view.plan.photos.size())),
+               {AmountText(view.plan)}) +
+           '\n';
   }
   const Host::TrashResult& result = view.result;
   if (result.files == 0) {
-    return "Nothing was moved.\n";
+    return Say(Words::tr("Nothing was moved.")) + '\n';
   }
-  const std::string files = result.files == result.photos ? "" : " (" + Counted(result.files, "file") + ")";
-  return Counted(result.photos, "photo") + files + " moved to the trash" +
-         (view.canBeUndone ? "; \"lumidex undo\" brings back what is still there.\n" : ".\n");
+  const int amount = Amount(result.photos);
+  return Say(view.canBeUndone
+                 ? Words::tr("%1 moved to the trash; \"lumidex undo\" brings back what is still there.",
+                             "so many photos", amount)
+                 : Words::tr("%1 moved to the trash.", "so many photos", amount),
+             {PhotosAndFilesText(result.photos, result.files)}) +
+         '\n';
 }
 
 void WriteFile(JsonWriter& json, const Host::SeenFile& file, const Host::SeenFile& kept) {
@@ -53,9 +62,11 @@ const Host::TrashPhoto* FindGoing(const TrashView& view, const ioPath& photo) {
 
 std::string AmountText(const Host::TrashPlan& plan) {
   const std::size_t files = plan.CountFiles();
-  return Counted(plan.photos.size(), "photo") + " (" +
-         (files == plan.photos.size() ? "" : Counted(files, "file") + ", ") + SizeText(plan.CountBytes()) +
-         ')';
+  const std::string fileCount =
+      files == plan.photos.size()
+          ? std::string()
+          : Say(Words::tr("%1 files", nullptr, Amount(files)), {GroupDigits(files)}) + ", ";
+  return PhotosText(plan.photos.size()) + " (" + fileCount + SizeText(plan.CountBytes()) + ')';
 }
 
 std::string StaysText(const TrashView& view) {
@@ -63,12 +74,12 @@ std::string StaysText(const TrashView& view) {
   for (const Host::TrashStay& stay : view.plan.stays) {
     text += "  " + EscapeForTerminal(stay.cause) + '\n';
   }
-  return text.empty() ? text : "Not moved:\n" + text + '\n';
+  return text.empty() ? text : Say(Words::tr("Not moved:")) + '\n' + text + '\n';
 }
 
 std::string TrashText(const TrashView& view) {
-  return (view.asked ? "" : StaysText(view)) + FindingsText("Left where they are", view.result.findings) +
-         OutcomeText(view);
+  return (view.asked ? "" : StaysText(view)) +
+         FindingsText(Say(Words::tr("Left where they are")), view.result.findings) + OutcomeText(view);
 }
 
 void WriteTrash(JsonWriter& json, const TrashView& view) {

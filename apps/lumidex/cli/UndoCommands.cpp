@@ -6,6 +6,7 @@
 #include "UndoSettings.h"
 #include "UndoView.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <memory>
 #include <optional>
@@ -122,7 +123,8 @@ class UndoRun {
 
   /// False when no further step should be taken: an older one must not go before a newer one has gone whole.
   bool TakeStep(Host::UndoJournal& journal) {
-    Progress progress(session_.console, view_.redo ? "Doing again" : "Taking back", "files");
+    Progress progress(session_.console, Say(view_.redo ? Words::tr("Doing again") : Words::tr("Taking back")),
+                      Say(Words::tr("files", "of so many")));
     const auto show = [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); };
     Host::UndoResult result = view_.redo ? journal.RedoLast(session_.interrupted, show)
                                          : journal.UndoLast(session_.interrupted, show);
@@ -139,10 +141,11 @@ class UndoRun {
 
   void Note() const {
     if (view_.interrupted) {
-      session_.console.Note("Interrupted. What was done so far stays so.");
+      session_.console.Note(Say(Words::tr("Interrupted. What was done so far stays so.")));
     } else if (!view_.done.empty() && AreFewer()) {
-      session_.console.Note("Only " + Counted(view_.done.size(), "step") + " of the " +
-                            std::to_string(arguments_.last) + " asked for.");
+      session_.console.Note(
+          Say(Words::tr("Only %1 steps of the %2 asked for.", nullptr, Amount(view_.done.size())),
+              {GroupDigits(view_.done.size()), std::to_string(arguments_.last)}));
     }
   }
 

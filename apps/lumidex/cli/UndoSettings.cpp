@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "TerminalText.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <zenvora/app/ISettingsManager.h>
 #include <zenvora/app/RealServices.h>
@@ -40,8 +41,8 @@ std::optional<int> ParseDays(const std::string& text) {
 }
 
 void WarnOf(Console& console, const char* key, const std::string& value) {
-  console.Warning("The setting " + std::string(key) + " makes no sense (" + value +
-                  "); the usual limit is used.");
+  console.Warning(
+      Say(Words::tr("The setting %1 makes no sense (%2); the usual limit is used."), {key, value}));
 }
 
 }  // namespace
@@ -74,7 +75,8 @@ void StoreLimits(const LimitsWish& wish) {
 }
 
 std::string LimitsText(const Host::UndoLimits& limits) {
-  return Counted(static_cast<unsigned long long>(limits.days), "day") + " and " + SizeText(limits.bytes);
+  return Say(Words::tr("%1 days and %2", "within so many", limits.days),
+             {GroupDigits(static_cast<unsigned long long>(limits.days)), SizeText(limits.bytes)});
 }
 
 }  // namespace Zenvora::Lumidex::Cli

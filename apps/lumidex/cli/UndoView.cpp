@@ -2,10 +2,12 @@
 
 #include "JournalView.h"
 #include "JsonWriter.h"
+#include "StepText.h"
 #include "TerminalText.h"
 #include "TextTable.h"
 #include "UndoSettings.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -14,8 +16,10 @@ namespace {
 using Host::UndoResult;
 using Host::UndoStep;
 
-const char* StateText(const UndoStep& step) {
-  return step.undone ? "undone" : step.givenUp ? "given up" : "";
+std::string StateText(const UndoStep& step) {
+  return step.undone    ? Say(Words::tr("undone", "a step"))
+         : step.givenUp ? Say(Words::tr("given up", "a step"))
+                        : std::string();
 }
 
 const char* KindName(const UndoView& view) {
@@ -24,52 +28,67 @@ const char* KindName(const UndoView& view) {
 
 std::string StepsText(const std::vector<UndoStep>& steps) {
   if (steps.empty()) {
-    return "There is nothing that could be undone.\n";
+    return Say(Words::tr("There is nothing that could be undone.")) + '\n';
   }
-  TextTable table(
-      {{"WHEN"}, {"WHAT"}, {"FILES", TextTable::Align::Right}, {"KEPT", TextTable::Align::Right}, {""}});
+  TextTable table({{Say(Words::tr("WHEN"))},
+                   {Say(Words::tr("WHAT"))},
+                   {Say(Words::tr("FILES")), TextTable::Align::Right},
+                   {Say(Words::tr("KEPT", "so many bytes")), TextTable::Align::Right},
+                   {""}});
   for (const UndoStep& step : steps) {
     const QString when = step.begun.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm"));
-    table.AddRow({when.toStdString(), step.name.toStdString(), GroupDigits(step.files),
+    table.AddRow({when.toStdString(), StepText(step.name.toStdString()), GroupDigits(step.files),
                   SizeText(step.keptBytes), StateText(step)});
   }
   return table.Text();
 }
 
 std::string ResultText(const UndoResult& result, bool redo) {
-  const std::string name = EscapeForTerminal(result.name.toStdString());
-  std::string text = FindingsText("Left as they are", result.findings);
+  const std::string name = EscapeForTerminal(StepText(result.name.toStdString()));
+  const std::size_t left = result.findings.size();
+  std::string text = FindingsText(Say(Words::tr("Left as they are")), result.findings);
   if (result.files == 0) {
-    text += "Nothing of \"" + name + "\" was " + (redo ? "done again" : "taken back") + ".\n";
+    text += Say(redo ? Words::tr("Nothing of \"%1\" was done again.")
+                     : Words::tr("Nothing of \"%1\" was taken back."),
+                {name});
+  } else if (left == 0) {
+    text += Say(redo ? Words::tr("Done again: %1.") : Words::tr("Taken back: %1."), {name});
   } else {
-    const std::string left =
-        result.findings.empty() ? "" : ", but for " + Counted(result.findings.size(), "file");
-    text += (redo ? "Done again: " : "Taken back: ") + name + left + ".\n";
+    text += Say(redo ? Words::tr("Done again: %1, but for %2 files.", nullptr, Amount(left))
+                     : Words::tr("Taken back: %1, but for %2 files.", nullptr, Amount(left)),
+                {name, GroupDigits(left)});
   }
-  if (result.stands && !result.findings.empty()) {
-    text += "Older steps wait for it; \"lumidex undo --skip\" leaves it as it is for good.\n";
+  text += '\n';
+  if (result.stands && left > 0) {
+    text += Say(Words::tr("Older steps wait for it; \"lumidex undo --skip\" leaves it as it is for good.")) +
+            '\n';
   }
   return text;
 }
 
 std::string SkippedText(const std::vector<UndoStep>& steps) {
   if (steps.empty()) {
-    return "There is nothing to skip.\n";
+    return Say(Words::tr("There is nothing to skip.")) + '\n';
   }
   std::string text;
   for (const UndoStep& step : steps) {
-    const std::string kept = step.keptBytes == 0 ? ""
-                                                 : " What is kept of it (" + SizeText(step.keptBytes) +
-                                                       ") stays until it is too old or too much.";
-    text += "Given up: " + EscapeForTerminal(step.name.toStdString()) + "." + kept + '\n';
+    text += Say(Words::tr("Given up: %1."), {EscapeForTerminal(StepText(step.name.toStdString()))});
+    if (step.keptBytes > 0) {
+      text += ' ' + Say(Words::tr("What is kept of it (%1) stays until it is too old or too much."),
+                        {SizeText(step.keptBytes)});
+    }
+    text += '\n';
   }
   return text;
 }
 
 std::string LimitsLine(const UndoView& view) {
   const std::string forgotten =
-      view.forgotten == 0 ? "" : " " + Counted(view.forgotten, "older step") + " cannot be undone any more.";
-  return "Steps can be undone within " + LimitsText(*view.limits) + "." + forgotten + '\n';
+      view.forgotten == 0
+          ? std::string()
+          : ' ' + Say(Words::tr("%1 older steps cannot be undone any more.", nullptr, Amount(view.forgotten)),
+                      {GroupDigits(view.forgotten)});
+  return Say(Words::tr("Steps can be undone within %1."), {LimitsText(*view.limits)}) + forgotten + '\n';
 }
 
 void WriteSteps(JsonWriter& json, const char* name, const std::vector<UndoStep>& steps) {
@@ -142,7 +161,9 @@ std::string UndoText(const UndoView& view) {
   for (const UndoResult& result : view.done) {
     text += ResultText(result, view.redo);
   }
-  return text.empty() ? std::string("There is nothing to ") + (view.redo ? "do again" : "take back") + ".\n"
+  return text.empty() ? Say(view.redo ? Words::tr("There is nothing to do again.")
+                                      : Words::tr("There is nothing to take back.")) +
+                            '\n'
                       : text;
 }
 

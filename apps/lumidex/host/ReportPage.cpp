@@ -43,13 +43,36 @@ const char* const kPageIcon =
     "rx='4' fill='%239a4a12'/%3E%3Cpath d='M2.500 12l3.500-4 2.500 2.500L11 7l2.500 5z' "
     "fill='%23fff'/%3E%3C/svg%3E";
 
-QString Text(const char* english) {
-  return QCoreApplication::translate("Report", english);
-}
+/// The texts of the page.
+class Words {
+  Q_DECLARE_TR_FUNCTIONS(Report)
+};
+
+/// The keys that counting what stands on pages makes up at run time, written out for the translation tools.
+[[maybe_unused]] const char* const kCountKeys[] = {
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "One album"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Nominative album"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Genetive album"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Plural album"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "album"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "albums"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "One group"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Nominative group"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Genetive group"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Plural group"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "group"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "groups"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "One photo"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Nominative photo"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Genetive photo"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "Plural photo"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "photo"),
+    QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "photos"),
+};
 
 QString FirstLine(const QString& name) {
   const QString line = name.section(QLatin1Char('\n'), 0, 0).trimmed();
-  return line.isEmpty() ? Text("Unnamed album") : line;
+  return line.isEmpty() ? Words::tr("Unnamed album") : line;
 }
 
 /// Short dates with all four digits of the year: albums may be older than a camera's century.
@@ -115,12 +138,14 @@ ReportPage::ReportPage(const std::vector<ReportAlbum>& albums, const ReportOptio
 
 QString ReportPage::Title() const {
   const QString title = options_.title.simplified();
-  return title.isEmpty() ? Text("Albums") : title;
+  return title.isEmpty() ? Words::tr("Albums") : title;
 }
 
 QString ReportPage::Counted(qint64 count, const char* noun, const char* plural) const {
-  return locale_.toString(count) + QLatin1Char(' ') +
-         Util::GetCountString(noun, plural, static_cast<int>(std::min<qint64>(count, 1'000'000'000)));
+  // Not every language has a blank between them.
+  return QCoreApplication::translate("Zenvora::Lumidex::Utils", "%1 %2")
+      .arg(locale_.toString(count),
+           Util::GetCountString(noun, plural, static_cast<int>(std::min<qint64>(count, 1'000'000'000))));
 }
 
 QString ReportPage::Totals() const {
@@ -169,9 +194,9 @@ QString ReportPage::Contents() const {
         locale_.toString(static_cast<qint64>(album.photos.size())) + QLatin1String("</span></a></li>\n");
   }
   QString result = QStringLiteral("<nav class=\"wrap\" aria-label=\"") +
-                   EscapedForPage(Text(options_.words.contents)) + QLatin1String("\">\n");
+                   EscapedForPage(Words::tr(options_.words.contents)) + QLatin1String("\">\n");
   for (const auto& [year, entries] : years) {
-    const QString label = year == kUndated ? Text("Undated") : QString::number(year);
+    const QString label = year == kUndated ? Words::tr("Undated") : QString::number(year);
     result += QLatin1String("<div class=\"year\"><p>") + EscapedForPage(label) + QLatin1String("</p><ul>\n") +
               entries + QLatin1String("</ul></div>\n");
   }
@@ -198,9 +223,9 @@ QByteArray ReportPage::Begin() const {
           QLatin1String("Lumidex</p>\n<h1 dir=\"auto\">") + title + QLatin1String("</h1>\n");
   if (albums_.empty()) {
     page += QLatin1String("</header>\n<main class=\"wrap\">\n<section class=\"album empty\">") +
-            QLatin1String(kPictureIcon) + QLatin1String("<h2>") + EscapedForPage(Text(options_.words.none)) +
-            QLatin1String("</h2><p>") + EscapedForPage(Text(options_.words.hint)) +
-            QLatin1String("</p></section>\n");
+            QLatin1String(kPictureIcon) + QLatin1String("<h2>") +
+            EscapedForPage(Words::tr(options_.words.none)) + QLatin1String("</h2><p>") +
+            EscapedForPage(Words::tr(options_.words.hint)) + QLatin1String("</p></section>\n");
     return page.toUtf8();
   }
   page +=
@@ -234,7 +259,7 @@ QByteArray ReportPage::BeginAlbum(const ReportAlbum& album, int number) const {
           QLatin1String("</span>");
   if (album.accepted) {
     html += QLatin1String(" <span class=\"badge\">") + QLatin1String(kTickIcon) +
-            EscapedForPage(Text("Accepted")) + QLatin1String("</span>");
+            EscapedForPage(Words::tr("Accepted")) + QLatin1String("</span>");
   }
   html += QLatin1String("</p>\n</header>\n<ul class=\"photos\">\n");
   return html.toUtf8();
@@ -242,7 +267,7 @@ QByteArray ReportPage::BeginAlbum(const ReportAlbum& album, int number) const {
 
 QString ReportPage::TakenText(const QDateTime& taken) const {
   if (!taken.isValid()) {
-    return Text("Undated");
+    return Words::tr("Undated");
   }
   return locale_.toString(taken.date(), DateFormat(locale_)) + QLatin1Char(' ') +
          locale_.toString(taken.time(), QLocale::ShortFormat);
@@ -269,7 +294,7 @@ QByteArray ReportPage::Photo(const ReportAlbum& album, std::size_t index,
     html += thumbnail.jpeg.toBase64() + "\"/>";
   } else {
     html += "<div class=\"blank\">" + QByteArray(kNoPictureIcon) + "<span>" +
-            EscapedForPage(Text("No picture")).toUtf8() + "</span><span dir=\"auto\">" + name.toUtf8() +
+            EscapedForPage(Words::tr("No picture")).toUtf8() + "</span><span dir=\"auto\">" + name.toUtf8() +
             "</span></div>";
   }
   html += "<figcaption>";
@@ -290,7 +315,7 @@ QByteArray ReportPage::Photo(const ReportAlbum& album, std::size_t index,
 QByteArray ReportPage::EndAlbum(int hidden) const {
   QString html;
   if (hidden > 0) {
-    const QString text = Text("and %1 more").arg(locale_.toString(hidden));
+    const QString text = Words::tr("and %1 more", nullptr, hidden).arg(locale_.toString(hidden));
     html = QLatin1String("<li class=\"more\"><p>") + EscapedForPage(text) + QLatin1String("</p></li>\n");
   }
   html += QLatin1String("</ul>\n</article>\n");
@@ -299,7 +324,8 @@ QByteArray ReportPage::EndAlbum(int hidden) const {
 
 QByteArray ReportPage::End() const {
   return ("</main>\n<footer class=\"foot wrap\">" +
-          EscapedForPage(Text("Made with Lumidex. This page holds all its pictures and needs no other file."))
+          EscapedForPage(
+              Words::tr("Made with Lumidex. This page holds all its pictures and needs no other file."))
               .toUtf8() +
           "</footer>\n</body>\n</html>\n");
 }

@@ -23,15 +23,17 @@ struct ReportAlbum {
   std::optional<std::size_t> chosen;  ///< A photo to point out.
 };
 
-/// What the sets on the page are, in English; the page translates it.
+/// What the sets on the page are, in English; the page translates it: sentences in the context "Report", and
+/// the nouns as `Util::GetCountString` looks them up.
 struct ReportWords {
   const char* noun = "album";
   const char* nouns = "albums";
-  const char* contents = "Albums by year";
-  const char* none = "No albums yet";  ///< When there are none.
-  const char* hint =
+  const char* contents = QT_TRANSLATE_NOOP("Report", "Albums by year");
+  const char* none = QT_TRANSLATE_NOOP("Report", "No albums yet");  ///< When there are none.
+  const char* hint = QT_TRANSLATE_NOOP(
+      "Report",
       "Albums appear here once there are enough photos of a holiday or of a month's weekends. Scan more "
-      "folders and try again.";
+      "folders and try again.");
 };
 
 /// Sizes of thumbnails outside these bounds are taken for the nearer bound.

@@ -1,0 +1,1543 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Select folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Ja zu &amp;allen</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;ein zu allen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Alle speichern</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorieren</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abbruch</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>Standardwerte</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Albums</source>
+        <translation>Alben</translation>
+    </message>
+    <message>
+        <source>Proposed albums</source>
+        <translation>Vorgeschlagene Alben</translation>
+    </message>
+    <message>
+        <source>Similar photos</source>
+        <translation>Ähnliche Fotos</translation>
+    </message>
+    <message>
+        <source>Groups by year</source>
+        <translation>Gruppen nach Jahr</translation>
+    </message>
+    <message>
+        <source>No similar photos</source>
+        <translation>Keine ähnlichen Fotos</translation>
+    </message>
+    <message>
+        <source>Groups appear here once the catalogue holds photos that are alike.</source>
+        <translation>Hier erscheinen Gruppen, sobald der Katalog Fotos enthält, die sich gleichen.</translation>
+    </message>
+    <message>
+        <source>Albums by year</source>
+        <translation>Alben nach Jahr</translation>
+    </message>
+    <message>
+        <source>No albums yet</source>
+        <translation>Noch keine Alben</translation>
+    </message>
+    <message>
+        <source>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</source>
+        <translation>Hier erscheinen Alben, sobald genügend Fotos eines Feiertags oder der Wochenenden eines Monats vorliegen. Lesen Sie weitere Ordner ein und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>Unnamed album</source>
+        <translation>Album ohne Namen</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Ohne Datum</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Übernommen</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more</source>
+        <translation>
+            <numerusform>und %1 weiteres</numerusform>
+            <numerusform>und %1 weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Made with Lumidex. This page holds all its pictures and needs no other file.</source>
+        <translation>Erstellt mit Lumidex. Diese Seite enthält alle ihre Bilder und braucht keine weiteren Dateien.</translation>
+    </message>
+</context>
+<context>
+    <name>Terminal</name>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichne</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <comment>of so many</comment>
+        <translation>Bildern</translation>
+    </message>
+    <message>
+        <source>The catalogue holds no photos yet. Run: lumidex scan DIR</source>
+        <translation>Der Katalog enthält noch keine Fotos. Rufen Sie auf: lumidex scan ORDNER</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <translation>
+            <numerusform>Das %1 Foto des Katalogs war beim letzten Einlesen nicht mehr da. Fehlt ein Laufwerk?</numerusform>
+            <numerusform>Alle %1 Fotos des Katalogs waren beim letzten Einlesen nicht mehr da. Fehlt ein Laufwerk?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>a name</comment>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>No album was accepted.</source>
+        <translation>Kein Album wurde übernommen.</translation>
+    </message>
+    <message>
+        <source>Accepted before that: %1.</source>
+        <translation>Davor übernommen: %1.</translation>
+    </message>
+    <message>
+        <source>The page %1 is written; it shows all chosen albums as accepted.</source>
+        <translation>Die Seite %1 ist geschrieben; sie zeigt alle gewählten Alben als übernommen.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message numerus="yes">
+        <source>yes, %1 more now</source>
+        <translation>
+            <numerusform>ja, jetzt %1 mehr</numerusform>
+            <numerusform>ja, jetzt %1 mehr</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ALBUM</source>
+        <translation>ALBUM</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <translation>WANN</translation>
+    </message>
+    <message>
+        <source>FIRST DAY</source>
+        <translation>ERSTER TAG</translation>
+    </message>
+    <message>
+        <source>LAST DAY</source>
+        <translation>LETZTER TAG</translation>
+    </message>
+    <message>
+        <source>PHOTOS</source>
+        <translation>FOTOS</translation>
+    </message>
+    <message>
+        <source>ACCEPTED</source>
+        <translation>ÜBERNOMMEN</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 photos)</source>
+        <translation>
+            <numerusform>%1 (%2 Foto)</numerusform>
+            <numerusform>%1 (%2 Fotos)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Accepted %1: %2 photos.</source>
+        <translation>
+            <numerusform>%1 übernommen: %2 Foto.</numerusform>
+            <numerusform>%1 übernommen: %2 Fotos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %1 photos to %2, accepted before.</source>
+        <translation>
+            <numerusform>%1 Foto zum schon übernommenen Album %2 hinzugefügt.</numerusform>
+            <numerusform>%1 Fotos zum schon übernommenen Album %2 hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1, accepted before.</source>
+        <translation>An %1 ist nichts zu ändern, es war schon übernommen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <comment>albums from</comment>
+        <translation>
+            <numerusform>%1 Foto</numerusform>
+            <numerusform>%1 Fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 of them have no date</source>
+        <comment>photos; how many</comment>
+        <translation>
+            <numerusform>%1, davon %2 ohne Datum</numerusform>
+            <numerusform>%1, davon %2 ohne Datum</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>Es ist noch kein Album übernommen. „lumidex albums“ zeigt Vorschläge.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 accepted albums.</source>
+        <translation>
+            <numerusform>%1 übernommenes Album.</numerusform>
+            <numerusform>%1 übernommene Alben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</source>
+        <translation>Keine Alben vorzuschlagen aus %1: Ein Album braucht mindestens 20 Fotos
+eines Feiertags oder der Wochenenden eines Monats.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 albums</source>
+        <translation>
+            <numerusform>%1 Album</numerusform>
+            <numerusform>%1 Alben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 from %2; %3 accepted.</source>
+        <comment>albums, photos, how many</comment>
+        <translation>
+            <numerusform>%1 aus %2; %3 übernommen.</numerusform>
+            <numerusform>%1 aus %2; %3 übernommen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Calendar: %1 (from the server)</source>
+        <translation>Kalender: %1 (vom Server)</translation>
+    </message>
+    <message>
+        <source>Calendar: %1</source>
+        <translation>Kalender: %1</translation>
+    </message>
+    <message>
+        <source>The calendar has no holidays for %1.</source>
+        <translation>Der Kalender hat keine Feiertage für %1.</translation>
+    </message>
+    <message>
+        <source>HOLIDAY</source>
+        <translation>FEIERTAG</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>TAGE</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(ohne Namen)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holidays for %2.</source>
+        <translation>
+            <numerusform>%1 Feiertag für %2.</numerusform>
+            <numerusform>%1 Feiertage für %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no mistakes found.</source>
+        <translation>%1: keine Fehler gefunden.</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>Ereignis %1</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <comment>of the events of a language</comment>
+        <translation>Liste</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 mistakes found.</source>
+        <translation>
+            <numerusform>%1: %2 Fehler gefunden.</numerusform>
+            <numerusform>%1: %2 Fehler gefunden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The calendar was not updated: %1</source>
+        <translation>Der Kalender wurde nicht aktualisiert: %1</translation>
+    </message>
+    <message>
+        <source>There is no calendar.</source>
+        <translation>Es gibt keinen Kalender.</translation>
+    </message>
+    <message>
+        <source>In use as before: %1</source>
+        <translation>Weiterhin in Gebrauch: %1</translation>
+    </message>
+    <message>
+        <source>The calendar was updated: %1</source>
+        <translation>Der Kalender wurde aktualisiert: %1</translation>
+    </message>
+    <message>
+        <source>The calendar is up to date: %1</source>
+        <translation>Der Kalender ist auf dem neuesten Stand: %1</translation>
+    </message>
+    <message>
+        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>Der Feiertagskalender konnte nicht zu Ende gelesen werden, daher fehlen Feiertage. Versuchen Sie: lumidex calendar check oder lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>Der Feiertagskalender %1 konnte nicht zu Ende gelesen werden, daher fehlen Feiertage. Versuchen Sie: lumidex calendar check oder lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>Platz</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Volume of</source>
+        <translation>Laufwerk von</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Benötigt</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <comment>room on a disk</comment>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>free room</comment>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Warum</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files checked</source>
+        <translation>
+            <numerusform>%1 Datei geprüft</numerusform>
+            <numerusform>%1 Dateien geprüft</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is in the way.</source>
+        <translation>nichts steht im Wege.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 things in the way.</source>
+        <translation>
+            <numerusform>%1 Hindernis.</numerusform>
+            <numerusform>%1 Hindernisse.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was changed.</source>
+        <translation>Abgebrochen. Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>There are no photos in the given folders.</source>
+        <translation>In den angegebenen Ordnern sind keine Fotos.</translation>
+    </message>
+    <message>
+        <source>Trying</source>
+        <translation>Probiere</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <comment>of so many</comment>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Bearbeite</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay so.</source>
+        <translation>Abgebrochen. Die bis dahin bearbeiteten Fotos bleiben bearbeitet.</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>aufrecht</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>gespiegelt</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>kopfüber</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>kopfüber, gespiegelt</translation>
+    </message>
+    <message>
+        <source>turned left, mirrored</source>
+        <translation>nach links gedreht, gespiegelt</translation>
+    </message>
+    <message>
+        <source>turned right</source>
+        <translation>nach rechts gedreht</translation>
+    </message>
+    <message>
+        <source>turned right, mirrored</source>
+        <translation>nach rechts gedreht, gespiegelt</translation>
+    </message>
+    <message>
+        <source>turned left</source>
+        <translation>nach links gedreht</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>kein Datum</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos would be edited. This was a dry run: nothing was changed.</source>
+        <translation>
+            <numerusform>%1 Foto würde bearbeitet. Das war ein Probelauf: Nichts wurde geändert.</numerusform>
+            <numerusform>%1 Fotos würden bearbeitet. Das war ein Probelauf: Nichts wurde geändert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nichts wurde geändert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 Foto bearbeitet; „lumidex undo“ macht es rückgängig.</numerusform>
+            <numerusform>%1 Fotos bearbeitet; „lumidex undo“ macht es rückgängig.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited.</source>
+        <translation>
+            <numerusform>%1 Foto bearbeitet.</numerusform>
+            <numerusform>%1 Fotos bearbeitet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be edited</source>
+        <translation>Nicht bearbeitbar</translation>
+    </message>
+    <message>
+        <source>Not edited</source>
+        <translation>Nicht bearbeitet</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Vergleiche</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <comment>of so many</comment>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Kopiere</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <translation>Abgebrochen. Was kopiert wurde, ist vollständig und verglichen; derselbe Befehl kopiert den Rest.</translation>
+    </message>
+    <message>
+        <source>Would be copied to %1:</source>
+        <translation>Nach %1 würden kopiert:</translation>
+    </message>
+    <message>
+        <source>Would be taken in where they lie:</source>
+        <translation>An ihrem Ort würden aufgenommen:</translation>
+    </message>
+    <message>
+        <source>These files are of one shot each, and the free names for them are not:</source>
+        <translation>Diese Dateien gehören je zu einer Aufnahme, die freien Namen für sie nicht:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Es fehlen:</translation>
+    </message>
+    <message>
+        <source>Not taken into the catalogue:</source>
+        <translation>Nicht in den Katalog aufgenommen:</translation>
+    </message>
+    <message>
+        <source>It is not named like a photo</source>
+        <translation>Der Name ist nicht der eines Fotos</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Ausgelassen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more (--json lists them)</source>
+        <translation>
+            <numerusform>und %1 weitere (--json führt sie auf)</numerusform>
+            <numerusform>und %1 weitere (--json führt sie auf)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos in the catalogue already.</source>
+        <translation>
+            <numerusform>%1 Foto ist bereits im Katalog.</numerusform>
+            <numerusform>%1 Fotos sind bereits im Katalog.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files copied before.</source>
+        <translation>
+            <numerusform>%1 Datei wurde schon früher kopiert.</numerusform>
+            <numerusform>%1 Dateien wurden schon früher kopiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos there twice among the sources.</source>
+        <translation>
+            <numerusform>%1 Foto kommt in den Quellen doppelt vor.</numerusform>
+            <numerusform>%1 Fotos kommen in den Quellen doppelt vor.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nichts wurde importiert.</translation>
+    </message>
+    <message>
+        <source>Nothing would be imported.</source>
+        <translation>Nichts würde importiert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) would be copied</source>
+        <translation>
+            <numerusform>%1 Datei (%2) würde kopiert</numerusform>
+            <numerusform>%1 Dateien (%2) würden kopiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos taken in where they lie.</source>
+        <comment>would be</comment>
+        <translation>
+            <numerusform>%1 Foto an seinem Ort aufgenommen.</numerusform>
+            <numerusform>%1 Fotos an ihrem Ort aufgenommen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run:
+nothing was changed.</source>
+        <translation>Das war ein Probelauf:
+Nichts wurde geändert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) copied to %3, each compared.</source>
+        <translation>
+            <numerusform>%1 Datei (%2) nach %3 kopiert und verglichen.</numerusform>
+            <numerusform>%1 Dateien (%2) nach %3 kopiert, jede verglichen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos new in the catalogue.</source>
+        <translation>
+            <numerusform>%1 Foto neu im Katalog.</numerusform>
+            <numerusform>%1 Fotos neu im Katalog.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing; the same command tries again.</source>
+        <translation>
+            <numerusform>%1 Datei fehlt; derselbe Befehl versucht es erneut.</numerusform>
+            <numerusform>%1 Dateien fehlen; derselbe Befehl versucht es erneut.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>a heading</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>There is no %1; %2 is used.</source>
+        <comment>languages</comment>
+        <translation>%1 gibt es nicht; %2 wird verwendet.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>done, all, what</comment>
+        <translation>%1 von %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3 found so far</source>
+        <comment>done, all, what</comment>
+        <translation>%1 von bisher %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <comment>minutes and seconds</comment>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>y yes</source>
+        <comment>answers, all that mean it</comment>
+        <translation>j ja</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was renamed.</source>
+        <translation>Abgebrochen. Nichts wurde umbenannt.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lese</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Benenne um</translation>
+    </message>
+    <message>
+        <source>Cannot be renamed:</source>
+        <translation>Nicht umbenennbar:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <translation>
+            <numerusform>%1 Foto hat kein eigenes Datum; die Zeit der Datei wird verwendet.</numerusform>
+            <numerusform>%1 Fotos haben kein eigenes Datum; die Zeiten der Dateien werden verwendet.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files have their names already.</source>
+        <translation>
+            <numerusform>%1 Datei hat ihren Namen bereits.</numerusform>
+            <numerusform>%1 Dateien haben ihre Namen bereits.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Nichts würde umbenannt: Der neue Name ist unmöglich für %1 von %2 Foto. Mit
+--skip-problems werden die übrigen umbenannt.</numerusform>
+            <numerusform>Nichts würde umbenannt: Der neue Name ist unmöglich für %1 von %2 Fotos. Mit
+--skip-problems werden die übrigen umbenannt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Nichts wurde umbenannt: Der neue Name ist unmöglich für %1 von %2 Foto. Mit
+--skip-problems werden die übrigen umbenannt.</numerusform>
+            <numerusform>Nichts wurde umbenannt: Der neue Name ist unmöglich für %1 von %2 Fotos. Mit
+--skip-problems werden die übrigen umbenannt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to rename.</source>
+        <translation>Nichts umzubenennen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be renamed. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 würde umbenannt. Das war ein Probelauf: Nichts wurde geändert.</numerusform>
+            <numerusform>%1 würden umbenannt. Das war ein Probelauf: Nichts wurde geändert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was renamed.</source>
+        <translation>Nichts wurde umbenannt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files could not be given back the old name.</source>
+        <translation>
+            <numerusform>%1 Datei konnte den alten Namen nicht zurückbekommen.</numerusform>
+            <numerusform>%1 Dateien konnten den alten Namen nicht zurückbekommen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 umbenannt; „lumidex undo“ macht es rückgängig.</numerusform>
+            <numerusform>%1 umbenannt; „lumidex undo“ macht es rückgängig.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 umbenannt.</numerusform>
+            <numerusform>%1 umbenannt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Im Wege</translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Bericht: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pictures could not be read and got a placeholder.</source>
+        <translation>
+            <numerusform>%1 Bild konnte nicht gelesen werden und ist durch einen Platzhalter ersetzt.</numerusform>
+            <numerusform>%1 Bilder konnten nicht gelesen werden und sind durch Platzhalter ersetzt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Made %1 photos in %2</source>
+        <translation>
+            <numerusform>%1 Foto erzeugt in %2</numerusform>
+            <numerusform>%1 Fotos erzeugt in %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
+        <translation>Abgebrochen. Die bisher erzeugten Fotos bleiben; löschen Sie den Ordner vor einem neuen Versuch.</translation>
+    </message>
+    <message>
+        <source>not an image</source>
+        <translation>kein Bild</translation>
+    </message>
+    <message>
+        <source>loop</source>
+        <translation>Schleife</translation>
+    </message>
+    <message>
+        <source>Not taken in:</source>
+        <translation>Nicht aufgenommen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 original</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 aus der Aufnahme</numerusform>
+            <numerusform>%1 aus der Aufnahme</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 digitised</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 aus der Digitalisierung</numerusform>
+            <numerusform>%1 aus der Digitalisierung</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file time</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 aus der Dateizeit</numerusform>
+            <numerusform>%1 aus der Dateizeit</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 none</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 ohne</numerusform>
+            <numerusform>%1 ohne</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates read: %1</source>
+        <translation>Gelesene Daten: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>files found</source>
+        <translation>
+            <numerusform>Datei gefunden</numerusform>
+            <numerusform>Dateien gefunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>new</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>neu</numerusform>
+            <numerusform>neu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>read again</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>erneut gelesen</numerusform>
+            <numerusform>erneut gelesen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>changed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>geändert</numerusform>
+            <numerusform>geändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>unchanged</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>unverändert</numerusform>
+            <numerusform>unverändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>gone, now marked lost</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>verschwunden, jetzt als verloren markiert</numerusform>
+            <numerusform>verschwunden, jetzt als verloren markiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing was stored.</source>
+        <translation>Das war ein Probelauf: Nichts wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>Catalogue: %1</source>
+        <translation>Katalog: %1</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Lese ein</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <translation>Abgebrochen. Was bisher gelesen wurde, steht im Katalog; derselbe Befehl macht dort weiter.</translation>
+    </message>
+    <message>
+        <source>Looking at</source>
+        <translation>Sichte</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Gruppiere</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Messe</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was moved is in the trash.</source>
+        <translation>Abgebrochen. Was verschoben wurde, liegt im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The same command goes on from there.</source>
+        <translation>Abgebrochen. Derselbe Befehl macht dort weiter.</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was moved.</source>
+        <translation>Abgebrochen. Nichts wurde verschoben.</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash? [y/N]</source>
+        <translation>%1 in den Papierkorb verschieben? [j/N]</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Verschiebe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos like %2</source>
+        <translation>
+            <numerusform>%1 Foto wie %2</numerusform>
+            <numerusform>%1 Fotos wie %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <comment>a file</comment>
+        <translation>Behalten: %1</translation>
+    </message>
+    <message>
+        <source>Keep %1: %2</source>
+        <comment>a file: why</comment>
+        <translation>Behalten: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, %2, score %3</source>
+        <comment>pixels, size, number</comment>
+        <translation>%1, %2, Ähnlichkeit %3</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <comment>photo</comment>
+        <translation>größtes</translation>
+    </message>
+    <message>
+        <source>sharpest</source>
+        <comment>photo</comment>
+        <translation>schärfstes</translation>
+    </message>
+    <message>
+        <source>has camera data</source>
+        <translation>mit Kameradaten</translation>
+    </message>
+    <message>
+        <source>earliest</source>
+        <comment>photo</comment>
+        <translation>frühestes</translation>
+    </message>
+    <message>
+        <source>first by name</source>
+        <translation>erstes dem Namen nach</translation>
+    </message>
+    <message>
+        <source>Not compared:</source>
+        <translation>Nicht verglichen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>No similar photos among %1 photos.</source>
+        <translation>
+            <numerusform>Keine ähnlichen Fotos unter %1 Foto.</numerusform>
+            <numerusform>Keine ähnlichen Fotos unter %1 Fotos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 groups of similar photos</source>
+        <translation>
+            <numerusform>%1 Gruppe ähnlicher Fotos</numerusform>
+            <numerusform>%1 Gruppen ähnlicher Fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>among %1 photos</source>
+        <translation>
+            <numerusform>unter %1 Foto</numerusform>
+            <numerusform>unter %1 Fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos (%2) besides those to keep.</source>
+        <translation>
+            <numerusform>%1 Foto (%2) neben denen, die zu behalten sind.</numerusform>
+            <numerusform>%1 Fotos (%2) neben denen, die zu behalten sind.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2; %3</source>
+        <comment>groups of similar photos; among how many; others</comment>
+        <translation>%1 %2; %3</translation>
+    </message>
+    <message>
+        <source>keep</source>
+        <comment>a photo</comment>
+        <translation>behalten</translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>it goes there</comment>
+        <translation>Papierkorb</translation>
+    </message>
+    <message>
+        <source>stay</source>
+        <comment>a photo does</comment>
+        <translation>bleibt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1, %2 photos:</source>
+        <translation>
+            <numerusform>Gruppe %1, %2 Foto:</numerusform>
+            <numerusform>Gruppe %1, %2 Fotos:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>PHOTO</source>
+        <translation>FOTO</translation>
+    </message>
+    <message>
+        <source>CLUSTER</source>
+        <translation>CLUSTER</translation>
+    </message>
+    <message>
+        <source>TO ITS CENTRE</source>
+        <translation>ZU SEINER MITTE</translation>
+    </message>
+    <message>
+        <source>TO ITS OWN CENTRE</source>
+        <translation>ZUR EIGENEN MITTE</translation>
+    </message>
+    <message>
+        <source>TO THE OTHER&apos;S</source>
+        <translation>ZUR ANDEREN</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in one group.</source>
+        <translation>Die Fotos gleichen sich zu %1 und sind in einer Gruppe.</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in different groups.</source>
+        <translation>Die Fotos gleichen sich zu %1 und sind in verschiedenen Gruppen.</translation>
+    </message>
+    <message>
+        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</source>
+        <translation>Ein Foto kommt in die erste Gruppe, deren Mitte, dem Mittel ihrer damaligen Fotos, es zu mehr als
+%1 glich; spätere Fotos verschieben die Mitte.</translation>
+    </message>
+    <message>
+        <source>The groups are as matching all photos again makes them.</source>
+        <translation>Die Gruppen sind so, wie ein neuer Vergleich aller Fotos sie bildet.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <translation>„lumidex similar --anew“ bildet die Gruppen von Grund auf neu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <translation>
+            <numerusform>%1 Foto</numerusform>
+            <numerusform>%1 Fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 files)</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 (%2 Datei)</numerusform>
+            <numerusform>%1 (%2 Dateien)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>so many photos</comment>
+        <translation>%1 umbenennen</translation>
+    </message>
+    <message>
+        <source>shift dates by %1</source>
+        <translation>Daten um %1 verschieben</translation>
+    </message>
+    <message>
+        <source>set dates to %1</source>
+        <translation>Daten auf %1 setzen</translation>
+    </message>
+    <message>
+        <source>rotate left</source>
+        <translation>nach links drehen</translation>
+    </message>
+    <message>
+        <source>rotate right</source>
+        <translation>nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>rotate 180</source>
+        <translation>um 180° drehen</translation>
+    </message>
+    <message>
+        <source>move similar photos to the trash</source>
+        <translation>ähnliche Fotos in den Papierkorb verschieben</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Ja zu allen</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Nein zu allen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>Alle speichern</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorieren</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abbruch</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Restore defaults</source>
+        <translation>Standardwerte</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Nothing to move to the trash.</source>
+        <translation>Nichts in den Papierkorb zu verschieben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be moved to the trash. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 würde in den Papierkorb verschoben. Das war ein Probelauf: Nichts wurde geändert.</numerusform>
+            <numerusform>%1 würden in den Papierkorb verschoben. Das war ein Probelauf: Nichts wurde geändert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was moved.</source>
+        <translation>Nichts wurde verschoben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 in den Papierkorb verschoben; „lumidex undo“ holt zurück, was dort noch liegt.</numerusform>
+            <numerusform>%1 in den Papierkorb verschoben; „lumidex undo“ holt zurück, was dort noch liegt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 in den Papierkorb verschoben.</numerusform>
+            <numerusform>%1 in den Papierkorb verschoben.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files</source>
+        <translation>
+            <numerusform>%1 Datei</numerusform>
+            <numerusform>%1 Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not moved:</source>
+        <translation>Nicht verschoben:</translation>
+    </message>
+    <message>
+        <source>Left where they are</source>
+        <translation>An ihrem Platz gelassen</translation>
+    </message>
+    <message>
+        <source>Doing again</source>
+        <translation>Wiederhole</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Mache rückgängig</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was done so far stays so.</source>
+        <translation>Abgebrochen. Was bisher getan wurde, bleibt so.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 steps of the %2 asked for.</source>
+        <translation>
+            <numerusform>Nur %1 Schritt der %2 verlangten.</numerusform>
+            <numerusform>Nur %1 Schritte der %2 verlangten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <translation>Die Einstellung %1 ergibt keinen Sinn (%2); die übliche Grenze wird verwendet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days and %2</source>
+        <comment>within so many</comment>
+        <translation>
+            <numerusform>%1 Tag und %2</numerusform>
+            <numerusform>%1 Tagen und %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <comment>a step</comment>
+        <translation>rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <comment>a step</comment>
+        <translation>aufgegeben</translation>
+    </message>
+    <message>
+        <source>There is nothing that could be undone.</source>
+        <translation>Es gibt nichts, was sich rückgängig machen ließe.</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>WAS</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>DATEIEN</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <comment>so many bytes</comment>
+        <translation>AUFBEWAHRT</translation>
+    </message>
+    <message>
+        <source>Left as they are</source>
+        <translation>Unverändert gelassen</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <translation>Nichts von „%1“ wurde wiederholt.</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <translation>Nichts von „%1“ wurde rückgängig gemacht.</translation>
+    </message>
+    <message>
+        <source>Done again: %1.</source>
+        <translation>Wiederholt: %1.</translation>
+    </message>
+    <message>
+        <source>Taken back: %1.</source>
+        <translation>Rückgängig gemacht: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Done again: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Wiederholt: %1, bis auf %2 Datei.</numerusform>
+            <numerusform>Wiederholt: %1, bis auf %2 Dateien.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Taken back: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Rückgängig gemacht: %1, bis auf %2 Datei.</numerusform>
+            <numerusform>Rückgängig gemacht: %1, bis auf %2 Dateien.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <translation>Ältere Schritte warten darauf; „lumidex undo --skip“ lässt es endgültig, wie es ist.</translation>
+    </message>
+    <message>
+        <source>There is nothing to skip.</source>
+        <translation>Es gibt nichts zu überspringen.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Aufgegeben: %1.</translation>
+    </message>
+    <message>
+        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <translation>Was davon aufbewahrt ist (%1), bleibt, bis es zu alt oder zu viel wird.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 older steps cannot be undone any more.</source>
+        <translation>
+            <numerusform>%1 älterer Schritt kann nicht mehr rückgängig gemacht werden.</numerusform>
+            <numerusform>%1 ältere Schritte können nicht mehr rückgängig gemacht werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Steps can be undone within %1.</source>
+        <translation>Schritte lassen sich innerhalb von %1 rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Es gibt nichts zu wiederholen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
+    </message>
+</context>
+<context>
+    <name>Zenvora::Lumidex::Utils</name>
+    <message>
+        <source>Attention</source>
+        <translation>Achtung</translation>
+    </message>
+    <message>
+        <source>All of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Keine der ausgewählten Dateien darf gelesen werden; sie werden nicht hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Some of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Einige der ausgewählten Dateien dürfen nicht gelesen werden; sie werden nicht hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</source>
+        <translation>Einige der ausgewählten Fotos liegen auf einem Wechseldatenträger. Möchten Sie sie auf Ihre Festplatte kopieren?</translation>
+    </message>
+    <message>
+        <source>The selected directory is temporary, select another directory.</source>
+        <translation>Der ausgewählte Ordner ist nur vorübergehend vorhanden. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
+        <translation>Einige der ausgewählten Fotos haben schreibgeschützte Formate (zum Beispiel %1). Nach Anwendung des Werkzeugs werden sie in JPG oder PNG umgewandelt.</translation>
+    </message>
+    <message>
+        <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
+        <translation>Das ausgewählte Foto hat ein schreibgeschütztes Format (%1). Nach Anwendung des Werkzeugs wird es in JPG oder PNG umgewandelt.</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk %1</source>
+        <translation>Auf dem Laufwerk %1 ist nicht genügend Speicherplatz</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit files in this folder: %1</source>
+        <translation>Sie haben keine Berechtigung, Dateien in diesem Ordner zu bearbeiten: %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit file: %1</source>
+        <translation>Sie haben keine Berechtigung, diese Datei zu bearbeiten: %1</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Expired</source>
+        <translation>Abgelaufen</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>One day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Nominative day</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Genetive day</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Plural day</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>One album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Nominative album</source>
+        <translation>Alben</translation>
+    </message>
+    <message>
+        <source>Genetive album</source>
+        <translation>Alben</translation>
+    </message>
+    <message>
+        <source>Plural album</source>
+        <translation>Alben</translation>
+    </message>
+    <message>
+        <source>album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>albums</source>
+        <translation>Alben</translation>
+    </message>
+    <message>
+        <source>One group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Nominative group</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Genetive group</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Plural group</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>One photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Nominative photo</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Genetive photo</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Plural photo</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>Fotos</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1543 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en_US">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Select folder</source>
+        <translation>Select folder</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Yes to &amp;All</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;o to All</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Save All</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignore</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abort</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>Restore Defaults</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Albums</source>
+        <translation>Albums</translation>
+    </message>
+    <message>
+        <source>Proposed albums</source>
+        <translation>Proposed albums</translation>
+    </message>
+    <message>
+        <source>Similar photos</source>
+        <translation>Similar photos</translation>
+    </message>
+    <message>
+        <source>Groups by year</source>
+        <translation>Groups by year</translation>
+    </message>
+    <message>
+        <source>No similar photos</source>
+        <translation>No similar photos</translation>
+    </message>
+    <message>
+        <source>Groups appear here once the catalogue holds photos that are alike.</source>
+        <translation>Groups appear here once the catalogue holds photos that are alike.</translation>
+    </message>
+    <message>
+        <source>Albums by year</source>
+        <translation>Albums by year</translation>
+    </message>
+    <message>
+        <source>No albums yet</source>
+        <translation>No albums yet</translation>
+    </message>
+    <message>
+        <source>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</source>
+        <translation>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</translation>
+    </message>
+    <message>
+        <source>Unnamed album</source>
+        <translation>Unnamed album</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Undated</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Accepted</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>No picture</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more</source>
+        <translation>
+            <numerusform>and %1 more</numerusform>
+            <numerusform>and %1 more</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Made with Lumidex. This page holds all its pictures and needs no other file.</source>
+        <translation>Made with Lumidex. This page holds all its pictures and needs no other file.</translation>
+    </message>
+</context>
+<context>
+    <name>Terminal</name>
+    <message>
+        <source>Drawing</source>
+        <translation>Drawing</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <comment>of so many</comment>
+        <translation>pictures</translation>
+    </message>
+    <message>
+        <source>The catalogue holds no photos yet. Run: lumidex scan DIR</source>
+        <translation>The catalogue holds no photos yet. Run: lumidex scan DIR</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <translation>
+            <numerusform>All %1 photo of the catalogue were gone at the last scan. Is a disk missing?</numerusform>
+            <numerusform>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation>Interrupted.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>a name</comment>
+        <translation>&quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>No album was accepted.</source>
+        <translation>No album was accepted.</translation>
+    </message>
+    <message>
+        <source>Accepted before that: %1.</source>
+        <translation>Accepted before that: %1.</translation>
+    </message>
+    <message>
+        <source>The page %1 is written; it shows all chosen albums as accepted.</source>
+        <translation>The page %1 is written; it shows all chosen albums as accepted.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message numerus="yes">
+        <source>yes, %1 more now</source>
+        <translation>
+            <numerusform>yes, %1 more now</numerusform>
+            <numerusform>yes, %1 more now</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ALBUM</source>
+        <translation>ALBUM</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <translation>WHEN</translation>
+    </message>
+    <message>
+        <source>FIRST DAY</source>
+        <translation>FIRST DAY</translation>
+    </message>
+    <message>
+        <source>LAST DAY</source>
+        <translation>LAST DAY</translation>
+    </message>
+    <message>
+        <source>PHOTOS</source>
+        <translation>PHOTOS</translation>
+    </message>
+    <message>
+        <source>ACCEPTED</source>
+        <translation>ACCEPTED</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 photos)</source>
+        <translation>
+            <numerusform>%1 (%2 photo)</numerusform>
+            <numerusform>%1 (%2 photos)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Accepted %1: %2 photos.</source>
+        <translation>
+            <numerusform>Accepted %1: %2 photo.</numerusform>
+            <numerusform>Accepted %1: %2 photos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %1 photos to %2, accepted before.</source>
+        <translation>
+            <numerusform>Added %1 photo to %2, accepted before.</numerusform>
+            <numerusform>Added %1 photos to %2, accepted before.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1, accepted before.</source>
+        <translation>Nothing to change in %1, accepted before.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <comment>albums from</comment>
+        <translation>
+            <numerusform>%1 photo</numerusform>
+            <numerusform>%1 photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 of them have no date</source>
+        <comment>photos; how many</comment>
+        <translation>
+            <numerusform>%1, %2 of them has no date</numerusform>
+            <numerusform>%1, %2 of them have no date</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 accepted albums.</source>
+        <translation>
+            <numerusform>%1 accepted album.</numerusform>
+            <numerusform>%1 accepted albums.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</source>
+        <translation>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 albums</source>
+        <translation>
+            <numerusform>%1 album</numerusform>
+            <numerusform>%1 albums</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 from %2; %3 accepted.</source>
+        <comment>albums, photos, how many</comment>
+        <translation>
+            <numerusform>%1 from %2; %3 accepted.</numerusform>
+            <numerusform>%1 from %2; %3 accepted.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Calendar: %1 (from the server)</source>
+        <translation>Calendar: %1 (from the server)</translation>
+    </message>
+    <message>
+        <source>Calendar: %1</source>
+        <translation>Calendar: %1</translation>
+    </message>
+    <message>
+        <source>The calendar has no holidays for %1.</source>
+        <translation>The calendar has no holidays for %1.</translation>
+    </message>
+    <message>
+        <source>HOLIDAY</source>
+        <translation>HOLIDAY</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>DAYS</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(no name)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holidays for %2.</source>
+        <translation>
+            <numerusform>%1 holiday for %2.</numerusform>
+            <numerusform>%1 holidays for %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no mistakes found.</source>
+        <translation>%1: no mistakes found.</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>event %1</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <comment>of the events of a language</comment>
+        <translation>list</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 mistakes found.</source>
+        <translation>
+            <numerusform>%1: %2 mistake found.</numerusform>
+            <numerusform>%1: %2 mistakes found.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The calendar was not updated: %1</source>
+        <translation>The calendar was not updated: %1</translation>
+    </message>
+    <message>
+        <source>There is no calendar.</source>
+        <translation>There is no calendar.</translation>
+    </message>
+    <message>
+        <source>In use as before: %1</source>
+        <translation>In use as before: %1</translation>
+    </message>
+    <message>
+        <source>The calendar was updated: %1</source>
+        <translation>The calendar was updated: %1</translation>
+    </message>
+    <message>
+        <source>The calendar is up to date: %1</source>
+        <translation>The calendar is up to date: %1</translation>
+    </message>
+    <message>
+        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>unreadable</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>format</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>space</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>folder</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>file</translation>
+    </message>
+    <message>
+        <source>Volume of</source>
+        <translation>Volume of</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Needed</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <comment>room on a disk</comment>
+        <translation>Free</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>free room</comment>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Where</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Why</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files checked</source>
+        <translation>
+            <numerusform>%1 file checked</numerusform>
+            <numerusform>%1 files checked</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is in the way.</source>
+        <translation>nothing is in the way.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 things in the way.</source>
+        <translation>
+            <numerusform>%1 thing in the way.</numerusform>
+            <numerusform>%1 things in the way.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was changed.</source>
+        <translation>Interrupted. Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>There are no photos in the given folders.</source>
+        <translation>There are no photos in the given folders.</translation>
+    </message>
+    <message>
+        <source>Trying</source>
+        <translation>Trying</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <comment>of so many</comment>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Editing</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay so.</source>
+        <translation>Interrupted. The photos edited so far stay so.</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>upright</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>mirrored</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>upside down</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>upside down, mirrored</translation>
+    </message>
+    <message>
+        <source>turned left, mirrored</source>
+        <translation>turned left, mirrored</translation>
+    </message>
+    <message>
+        <source>turned right</source>
+        <translation>turned right</translation>
+    </message>
+    <message>
+        <source>turned right, mirrored</source>
+        <translation>turned right, mirrored</translation>
+    </message>
+    <message>
+        <source>turned left</source>
+        <translation>turned left</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>no date</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos would be edited. This was a dry run: nothing was changed.</source>
+        <translation>
+            <numerusform>%1 photo would be edited. This was a dry run: nothing was changed.</numerusform>
+            <numerusform>%1 photos would be edited. This was a dry run: nothing was changed.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nothing was changed.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 photo edited; &quot;lumidex undo&quot; takes it back.</numerusform>
+            <numerusform>%1 photos edited; &quot;lumidex undo&quot; takes it back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited.</source>
+        <translation>
+            <numerusform>%1 photo edited.</numerusform>
+            <numerusform>%1 photos edited.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be edited</source>
+        <translation>Cannot be edited</translation>
+    </message>
+    <message>
+        <source>Not edited</source>
+        <translation>Not edited</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Comparing</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <comment>of so many</comment>
+        <translation>files</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Copying</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <translation>Interrupted. What was copied is whole and compared; the same command copies the rest.</translation>
+    </message>
+    <message>
+        <source>Would be copied to %1:</source>
+        <translation>Would be copied to %1:</translation>
+    </message>
+    <message>
+        <source>Would be taken in where they lie:</source>
+        <translation>Would be taken in where they lie:</translation>
+    </message>
+    <message>
+        <source>These files are of one shot each, and the free names for them are not:</source>
+        <translation>These files are of one shot each, and the free names for them are not:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Missing:</translation>
+    </message>
+    <message>
+        <source>Not taken into the catalogue:</source>
+        <translation>Not taken into the catalogue:</translation>
+    </message>
+    <message>
+        <source>It is not named like a photo</source>
+        <translation>It is not named like a photo</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Left out:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more (--json lists them)</source>
+        <translation>
+            <numerusform>and %1 more (--json lists them)</numerusform>
+            <numerusform>and %1 more (--json lists them)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos in the catalogue already.</source>
+        <translation>
+            <numerusform>%1 photo in the catalogue already.</numerusform>
+            <numerusform>%1 photos in the catalogue already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files copied before.</source>
+        <translation>
+            <numerusform>%1 file copied before.</numerusform>
+            <numerusform>%1 files copied before.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos there twice among the sources.</source>
+        <translation>
+            <numerusform>%1 photo there twice among the sources.</numerusform>
+            <numerusform>%1 photos there twice among the sources.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>Nothing would be imported.</source>
+        <translation>Nothing would be imported.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) would be copied</source>
+        <translation>
+            <numerusform>%1 file (%2) would be copied</numerusform>
+            <numerusform>%1 files (%2) would be copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos taken in where they lie.</source>
+        <comment>would be</comment>
+        <translation>
+            <numerusform>%1 photo taken in where they lie.</numerusform>
+            <numerusform>%1 photos taken in where they lie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run:
+nothing was changed.</source>
+        <translation>This was a dry run:
+nothing was changed.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) copied to %3, each compared.</source>
+        <translation>
+            <numerusform>%1 file (%2) copied to %3, each compared.</numerusform>
+            <numerusform>%1 files (%2) copied to %3, each compared.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos new in the catalogue.</source>
+        <translation>
+            <numerusform>%1 photo new in the catalogue.</numerusform>
+            <numerusform>%1 photos new in the catalogue.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing; the same command tries again.</source>
+        <translation>
+            <numerusform>%1 file missing; the same command tries again.</numerusform>
+            <numerusform>%1 files missing; the same command tries again.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>a heading</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>There is no %1; %2 is used.</source>
+        <comment>languages</comment>
+        <translation>There is no %1; %2 is used.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>done, all, what</comment>
+        <translation>%1 of %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3 found so far</source>
+        <comment>done, all, what</comment>
+        <translation>%1 of %2 %3 found so far</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <comment>minutes and seconds</comment>
+        <translation>%1 left</translation>
+    </message>
+    <message>
+        <source>y yes</source>
+        <comment>answers, all that mean it</comment>
+        <translation>y yes</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was renamed.</source>
+        <translation>Interrupted. Nothing was renamed.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Reading</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Renaming</translation>
+    </message>
+    <message>
+        <source>Cannot be renamed:</source>
+        <translation>Cannot be renamed:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <translation>
+            <numerusform>%1 photo has no date of its own; its file&apos;s time is used.</numerusform>
+            <numerusform>%1 photos have no date of their own; their files&apos; times are used.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files have their names already.</source>
+        <translation>
+            <numerusform>%1 file has its name already.</numerusform>
+            <numerusform>%1 files have their names already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Nothing would be renamed: %1 of %2 photo cannot have the new name. With --skip-problems the
+others are renamed.</numerusform>
+            <numerusform>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Nothing was renamed: %1 of %2 photo cannot have the new name. With --skip-problems the
+others are renamed.</numerusform>
+            <numerusform>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to rename.</source>
+        <translation>Nothing to rename.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be renamed. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 would be renamed. This was a dry run: nothing was changed.</numerusform>
+            <numerusform>%1 would be renamed. This was a dry run: nothing was changed.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was renamed.</source>
+        <translation>Nothing was renamed.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files could not be given back the old name.</source>
+        <translation>
+            <numerusform>%1 file could not be given back the old name.</numerusform>
+            <numerusform>%1 files could not be given back the old name.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 renamed; &quot;lumidex undo&quot; takes it back.</numerusform>
+            <numerusform>%1 renamed; &quot;lumidex undo&quot; takes it back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 renamed.</numerusform>
+            <numerusform>%1 renamed.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>In the way</translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Report: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pictures could not be read and got a placeholder.</source>
+        <translation>
+            <numerusform>%1 picture could not be read and got a placeholder.</numerusform>
+            <numerusform>%1 pictures could not be read and got a placeholder.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Made %1 photos in %2</source>
+        <translation>
+            <numerusform>Made %1 photo in %2</numerusform>
+            <numerusform>Made %1 photos in %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
+        <translation>Interrupted. The photos made so far stay; delete the folder before another try.</translation>
+    </message>
+    <message>
+        <source>not an image</source>
+        <translation>not an image</translation>
+    </message>
+    <message>
+        <source>loop</source>
+        <translation>loop</translation>
+    </message>
+    <message>
+        <source>Not taken in:</source>
+        <translation>Not taken in:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 original</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 original</numerusform>
+            <numerusform>%1 original</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 digitised</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 digitised</numerusform>
+            <numerusform>%1 digitised</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file time</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 file time</numerusform>
+            <numerusform>%1 file time</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 none</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 none</numerusform>
+            <numerusform>%1 none</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates read: %1</source>
+        <translation>Dates read: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>files found</source>
+        <translation>
+            <numerusform>file found</numerusform>
+            <numerusform>files found</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>new</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>new</numerusform>
+            <numerusform>new</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>read again</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>read again</numerusform>
+            <numerusform>read again</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>changed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>changed</numerusform>
+            <numerusform>changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>unchanged</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>unchanged</numerusform>
+            <numerusform>unchanged</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>gone, now marked lost</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>gone, now marked lost</numerusform>
+            <numerusform>gone, now marked lost</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing was stored.</source>
+        <translation>This was a dry run: nothing was stored.</translation>
+    </message>
+    <message>
+        <source>Catalogue: %1</source>
+        <translation>Catalogue: %1</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Scanning</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <translation>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</translation>
+    </message>
+    <message>
+        <source>Looking at</source>
+        <translation>Looking at</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Grouping</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Measuring</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was moved is in the trash.</source>
+        <translation>Interrupted. What was moved is in the trash.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The same command goes on from there.</source>
+        <translation>Interrupted. The same command goes on from there.</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was moved.</source>
+        <translation>Interrupted. Nothing was moved.</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash? [y/N]</source>
+        <translation>Move %1 to the trash? [y/N]</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Moving</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos like %2</source>
+        <translation>
+            <numerusform>%1 photo like %2</numerusform>
+            <numerusform>%1 photos like %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <comment>a file</comment>
+        <translation>Keep %1</translation>
+    </message>
+    <message>
+        <source>Keep %1: %2</source>
+        <comment>a file: why</comment>
+        <translation>Keep %1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2, score %3</source>
+        <comment>pixels, size, number</comment>
+        <translation>%1, %2, score %3</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <comment>photo</comment>
+        <translation>largest</translation>
+    </message>
+    <message>
+        <source>sharpest</source>
+        <comment>photo</comment>
+        <translation>sharpest</translation>
+    </message>
+    <message>
+        <source>has camera data</source>
+        <translation>has camera data</translation>
+    </message>
+    <message>
+        <source>earliest</source>
+        <comment>photo</comment>
+        <translation>earliest</translation>
+    </message>
+    <message>
+        <source>first by name</source>
+        <translation>first by name</translation>
+    </message>
+    <message>
+        <source>Not compared:</source>
+        <translation>Not compared:</translation>
+    </message>
+    <message numerus="yes">
+        <source>No similar photos among %1 photos.</source>
+        <translation>
+            <numerusform>No similar photos among %1 photo.</numerusform>
+            <numerusform>No similar photos among %1 photos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 groups of similar photos</source>
+        <translation>
+            <numerusform>%1 group of similar photos</numerusform>
+            <numerusform>%1 groups of similar photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>among %1 photos</source>
+        <translation>
+            <numerusform>among %1 photo</numerusform>
+            <numerusform>among %1 photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos (%2) besides those to keep.</source>
+        <translation>
+            <numerusform>%1 photo (%2) besides those to keep.</numerusform>
+            <numerusform>%1 photos (%2) besides those to keep.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2; %3</source>
+        <comment>groups of similar photos; among how many; others</comment>
+        <translation>%1 %2; %3</translation>
+    </message>
+    <message>
+        <source>keep</source>
+        <comment>a photo</comment>
+        <translation>keep</translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>it goes there</comment>
+        <translation>trash</translation>
+    </message>
+    <message>
+        <source>stay</source>
+        <comment>a photo does</comment>
+        <translation>stay</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1, %2 photos:</source>
+        <translation>
+            <numerusform>Group %1, %2 photo:</numerusform>
+            <numerusform>Group %1, %2 photos:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>PHOTO</source>
+        <translation>PHOTO</translation>
+    </message>
+    <message>
+        <source>CLUSTER</source>
+        <translation>CLUSTER</translation>
+    </message>
+    <message>
+        <source>TO ITS CENTRE</source>
+        <translation>TO ITS CENTRE</translation>
+    </message>
+    <message>
+        <source>TO ITS OWN CENTRE</source>
+        <translation>TO ITS OWN CENTRE</translation>
+    </message>
+    <message>
+        <source>TO THE OTHER&apos;S</source>
+        <translation>TO THE OTHER&apos;S</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in one group.</source>
+        <translation>The photos score %1 against each other and are in one group.</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in different groups.</source>
+        <translation>The photos score %1 against each other and are in different groups.</translation>
+    </message>
+    <message>
+        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</source>
+        <translation>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</translation>
+    </message>
+    <message>
+        <source>The groups are as matching all photos again makes them.</source>
+        <translation>The groups are as matching all photos again makes them.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <translation>&quot;lumidex similar --anew&quot; makes the groups from nothing.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <translation>
+            <numerusform>%1 photo</numerusform>
+            <numerusform>%1 photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 files)</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 (%2 file)</numerusform>
+            <numerusform>%1 (%2 files)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>so many photos</comment>
+        <translation>rename %1</translation>
+    </message>
+    <message>
+        <source>shift dates by %1</source>
+        <translation>shift dates by %1</translation>
+    </message>
+    <message>
+        <source>set dates to %1</source>
+        <translation>set dates to %1</translation>
+    </message>
+    <message>
+        <source>rotate left</source>
+        <translation>rotate left</translation>
+    </message>
+    <message>
+        <source>rotate right</source>
+        <translation>rotate right</translation>
+    </message>
+    <message>
+        <source>rotate 180</source>
+        <translation>rotate 180</translation>
+    </message>
+    <message>
+        <source>move similar photos to the trash</source>
+        <translation>move similar photos to the trash</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Yes to all</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>No to all</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>Save all</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignore</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abort</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Restore defaults</source>
+        <translation>Restore defaults</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Nothing to move to the trash.</source>
+        <translation>Nothing to move to the trash.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be moved to the trash. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 would be moved to the trash. This was a dry run: nothing was changed.</numerusform>
+            <numerusform>%1 would be moved to the trash. This was a dry run: nothing was changed.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was moved.</source>
+        <translation>Nothing was moved.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</numerusform>
+            <numerusform>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 moved to the trash.</numerusform>
+            <numerusform>%1 moved to the trash.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files</source>
+        <translation>
+            <numerusform>%1 file</numerusform>
+            <numerusform>%1 files</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not moved:</source>
+        <translation>Not moved:</translation>
+    </message>
+    <message>
+        <source>Left where they are</source>
+        <translation>Left where they are</translation>
+    </message>
+    <message>
+        <source>Doing again</source>
+        <translation>Doing again</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Taking back</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was done so far stays so.</source>
+        <translation>Interrupted. What was done so far stays so.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 steps of the %2 asked for.</source>
+        <translation>
+            <numerusform>Only %1 step of the %2 asked for.</numerusform>
+            <numerusform>Only %1 steps of the %2 asked for.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <translation>The setting %1 makes no sense (%2); the usual limit is used.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days and %2</source>
+        <comment>within so many</comment>
+        <translation>
+            <numerusform>%1 day and %2</numerusform>
+            <numerusform>%1 days and %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <comment>a step</comment>
+        <translation>undone</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <comment>a step</comment>
+        <translation>given up</translation>
+    </message>
+    <message>
+        <source>There is nothing that could be undone.</source>
+        <translation>There is nothing that could be undone.</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>WHAT</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>FILES</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <comment>so many bytes</comment>
+        <translation>KEPT</translation>
+    </message>
+    <message>
+        <source>Left as they are</source>
+        <translation>Left as they are</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <translation>Nothing of &quot;%1&quot; was done again.</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <translation>Nothing of &quot;%1&quot; was taken back.</translation>
+    </message>
+    <message>
+        <source>Done again: %1.</source>
+        <translation>Done again: %1.</translation>
+    </message>
+    <message>
+        <source>Taken back: %1.</source>
+        <translation>Taken back: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Done again: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Done again: %1, but for %2 file.</numerusform>
+            <numerusform>Done again: %1, but for %2 files.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Taken back: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Taken back: %1, but for %2 file.</numerusform>
+            <numerusform>Taken back: %1, but for %2 files.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <translation>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</translation>
+    </message>
+    <message>
+        <source>There is nothing to skip.</source>
+        <translation>There is nothing to skip.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Given up: %1.</translation>
+    </message>
+    <message>
+        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <translation>What is kept of it (%1) stays until it is too old or too much.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 older steps cannot be undone any more.</source>
+        <translation>
+            <numerusform>%1 older step cannot be undone any more.</numerusform>
+            <numerusform>%1 older steps cannot be undone any more.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Steps can be undone within %1.</source>
+        <translation>Steps can be undone within %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>There is nothing to do again.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>There is nothing to take back.</translation>
+    </message>
+</context>
+<context>
+    <name>Zenvora::Lumidex::Utils</name>
+    <message>
+        <source>Attention</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>All of the selected files do not have read permissions, they will not be added.</source>
+        <translation>All of the selected files do not have read permissions, they will not be added.</translation>
+    </message>
+    <message>
+        <source>Some of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Some of the selected files do not have read permissions, they will not be added.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</source>
+        <translation>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</translation>
+    </message>
+    <message>
+        <source>The selected directory is temporary, select another directory.</source>
+        <translation>The selected directory is temporary, select another directory.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
+        <translation>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</translation>
+    </message>
+    <message>
+        <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
+        <translation>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk %1</source>
+        <translation>There is not enough space on the disk %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit files in this folder: %1</source>
+        <translation>You do not have permission to edit files in this folder: %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit file: %1</source>
+        <translation>You do not have permission to edit file: %1</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>day</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>days</translation>
+    </message>
+    <message>
+        <source>Expired</source>
+        <translation>Expired</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>One day</source>
+        <translation>day</translation>
+    </message>
+    <message>
+        <source>Nominative day</source>
+        <translation>days</translation>
+    </message>
+    <message>
+        <source>Genetive day</source>
+        <translation>days</translation>
+    </message>
+    <message>
+        <source>Plural day</source>
+        <translation>days</translation>
+    </message>
+    <message>
+        <source>One album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>Nominative album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>Genetive album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>Plural album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>albums</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>One group</source>
+        <translation>group</translation>
+    </message>
+    <message>
+        <source>Nominative group</source>
+        <translation>groups</translation>
+    </message>
+    <message>
+        <source>Genetive group</source>
+        <translation>groups</translation>
+    </message>
+    <message>
+        <source>Plural group</source>
+        <translation>groups</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>group</translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation>groups</translation>
+    </message>
+    <message>
+        <source>One photo</source>
+        <translation>photo</translation>
+    </message>
+    <message>
+        <source>Nominative photo</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>Genetive photo</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>Plural photo</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>photo</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>photos</translation>
+    </message>
+</context>
+</TS>

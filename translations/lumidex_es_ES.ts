@@ -1,0 +1,1543 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en_US">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Select folder</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Sí a &amp;todo</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;o a todo</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Guardar todo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorar</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Interrumpir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>Restaurar valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Albums</source>
+        <translation>Álbumes</translation>
+    </message>
+    <message>
+        <source>Proposed albums</source>
+        <translation>Álbumes propuestos</translation>
+    </message>
+    <message>
+        <source>Similar photos</source>
+        <translation>Fotos similares</translation>
+    </message>
+    <message>
+        <source>Groups by year</source>
+        <translation>Grupos por año</translation>
+    </message>
+    <message>
+        <source>No similar photos</source>
+        <translation>No hay fotos similares</translation>
+    </message>
+    <message>
+        <source>Groups appear here once the catalogue holds photos that are alike.</source>
+        <translation>Los grupos aparecerán aquí en cuanto el catálogo contenga fotos parecidas.</translation>
+    </message>
+    <message>
+        <source>Albums by year</source>
+        <translation>Álbumes por año</translation>
+    </message>
+    <message>
+        <source>No albums yet</source>
+        <translation>Todavía no hay álbumes</translation>
+    </message>
+    <message>
+        <source>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</source>
+        <translation>Los álbumes aparecerán aquí en cuanto haya suficientes fotos de un día festivo o de los fines de semana de un mes. Explore más carpetas e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Unnamed album</source>
+        <translation>Álbum sin nombre</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Sin fecha</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Aceptado</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Sin imagen</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more</source>
+        <translation>
+            <numerusform>y %1 más</numerusform>
+            <numerusform>y %1 más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Made with Lumidex. This page holds all its pictures and needs no other file.</source>
+        <translation>Hecho con Lumidex. Esta página contiene todas sus imágenes y no necesita ningún otro archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>Terminal</name>
+    <message>
+        <source>Drawing</source>
+        <translation>Dibujando</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <comment>of so many</comment>
+        <translation>imágenes</translation>
+    </message>
+    <message>
+        <source>The catalogue holds no photos yet. Run: lumidex scan DIR</source>
+        <translation>El catálogo todavía no contiene fotos. Ejecute: lumidex scan CARPETA</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <translation>
+            <numerusform>La %1 foto del catálogo ya no estaba en la última exploración. ¿Falta algún disco?</numerusform>
+            <numerusform>Las %1 fotos del catálogo ya no estaban en la última exploración. ¿Falta algún disco?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation>Interrumpido.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>a name</comment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>No album was accepted.</source>
+        <translation>No se aceptó ningún álbum.</translation>
+    </message>
+    <message>
+        <source>Accepted before that: %1.</source>
+        <translation>Aceptados antes de eso: %1.</translation>
+    </message>
+    <message>
+        <source>The page %1 is written; it shows all chosen albums as accepted.</source>
+        <translation>La página %1 está escrita; muestra como aceptados todos los álbumes elegidos.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message numerus="yes">
+        <source>yes, %1 more now</source>
+        <translation>
+            <numerusform>sí, ahora %1 más</numerusform>
+            <numerusform>sí, ahora %1 más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ALBUM</source>
+        <translation>ÁLBUM</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <translation>CUÁNDO</translation>
+    </message>
+    <message>
+        <source>FIRST DAY</source>
+        <translation>PRIMER DÍA</translation>
+    </message>
+    <message>
+        <source>LAST DAY</source>
+        <translation>ÚLTIMO DÍA</translation>
+    </message>
+    <message>
+        <source>PHOTOS</source>
+        <translation>FOTOS</translation>
+    </message>
+    <message>
+        <source>ACCEPTED</source>
+        <translation>ACEPTADO</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 photos)</source>
+        <translation>
+            <numerusform>%1 (%2 foto)</numerusform>
+            <numerusform>%1 (%2 fotos)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Accepted %1: %2 photos.</source>
+        <translation>
+            <numerusform>Aceptado %1: %2 foto.</numerusform>
+            <numerusform>Aceptado %1: %2 fotos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %1 photos to %2, accepted before.</source>
+        <translation>
+            <numerusform>Se añadió %1 foto a %2, aceptado anteriormente.</numerusform>
+            <numerusform>Se añadieron %1 fotos a %2, aceptado anteriormente.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1, accepted before.</source>
+        <translation>No hay nada que cambiar en %1, aceptado anteriormente.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <comment>albums from</comment>
+        <translation>
+            <numerusform>%1 foto</numerusform>
+            <numerusform>%1 fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 of them have no date</source>
+        <comment>photos; how many</comment>
+        <translation>
+            <numerusform>%1, %2 de ellas sin fecha</numerusform>
+            <numerusform>%1, %2 de ellas sin fecha</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>Todavía no se ha aceptado ningún álbum. «lumidex albums» muestra propuestas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 accepted albums.</source>
+        <translation>
+            <numerusform>%1 álbum aceptado.</numerusform>
+            <numerusform>%1 álbumes aceptados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</source>
+        <translation>No hay álbumes que proponer a partir de %1: un álbum necesita al menos 20 fotos
+de un mismo día festivo o de los fines de semana de un mes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 albums</source>
+        <translation>
+            <numerusform>%1 álbum</numerusform>
+            <numerusform>%1 álbumes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 from %2; %3 accepted.</source>
+        <comment>albums, photos, how many</comment>
+        <translation>
+            <numerusform>%1 a partir de %2; %3 aceptado.</numerusform>
+            <numerusform>%1 a partir de %2; %3 aceptados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Calendar: %1 (from the server)</source>
+        <translation>Calendario: %1 (del servidor)</translation>
+    </message>
+    <message>
+        <source>Calendar: %1</source>
+        <translation>Calendario: %1</translation>
+    </message>
+    <message>
+        <source>The calendar has no holidays for %1.</source>
+        <translation>El calendario no tiene días festivos para %1.</translation>
+    </message>
+    <message>
+        <source>HOLIDAY</source>
+        <translation>DÍA FESTIVO</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>DÍAS</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(sin nombre)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holidays for %2.</source>
+        <translation>
+            <numerusform>%1 día festivo para %2.</numerusform>
+            <numerusform>%1 días festivos para %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no mistakes found.</source>
+        <translation>%1: no se encontraron errores.</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>evento %1</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <comment>of the events of a language</comment>
+        <translation>lista</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 mistakes found.</source>
+        <translation>
+            <numerusform>%1: se encontró %2 error.</numerusform>
+            <numerusform>%1: se encontraron %2 errores.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The calendar was not updated: %1</source>
+        <translation>El calendario no se actualizó: %1</translation>
+    </message>
+    <message>
+        <source>There is no calendar.</source>
+        <translation>No hay ningún calendario.</translation>
+    </message>
+    <message>
+        <source>In use as before: %1</source>
+        <translation>Sigue en uso: %1</translation>
+    </message>
+    <message>
+        <source>The calendar was updated: %1</source>
+        <translation>El calendario se actualizó: %1</translation>
+    </message>
+    <message>
+        <source>The calendar is up to date: %1</source>
+        <translation>El calendario está al día: %1</translation>
+    </message>
+    <message>
+        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>El calendario de días festivos no se pudo leer hasta el final, por lo que faltan días festivos. Pruebe: lumidex calendar check o lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>El calendario de días festivos %1 no se pudo leer hasta el final, por lo que faltan días festivos. Pruebe: lumidex calendar check o lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>ilegible</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>formato</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>espacio</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>carpeta</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>archivo</translation>
+    </message>
+    <message>
+        <source>Volume of</source>
+        <translation>Volumen de</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Necesario</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <comment>room on a disk</comment>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>free room</comment>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Dónde</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Por qué</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files checked</source>
+        <translation>
+            <numerusform>%1 archivo comprobado</numerusform>
+            <numerusform>%1 archivos comprobados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is in the way.</source>
+        <translation>no hay ningún obstáculo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 things in the way.</source>
+        <translation>
+            <numerusform>%1 obstáculo.</numerusform>
+            <numerusform>%1 obstáculos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was changed.</source>
+        <translation>Interrumpido. No se cambió nada.</translation>
+    </message>
+    <message>
+        <source>There are no photos in the given folders.</source>
+        <translation>No hay fotos en las carpetas indicadas.</translation>
+    </message>
+    <message>
+        <source>Trying</source>
+        <translation>Probando</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <comment>of so many</comment>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Editando</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay so.</source>
+        <translation>Interrumpido. Las fotos editadas hasta ahora quedan así.</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>derecha</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>reflejada</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>boca abajo</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>boca abajo, reflejada</translation>
+    </message>
+    <message>
+        <source>turned left, mirrored</source>
+        <translation>girada a la izquierda, reflejada</translation>
+    </message>
+    <message>
+        <source>turned right</source>
+        <translation>girada a la derecha</translation>
+    </message>
+    <message>
+        <source>turned right, mirrored</source>
+        <translation>girada a la derecha, reflejada</translation>
+    </message>
+    <message>
+        <source>turned left</source>
+        <translation>girada a la izquierda</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>sin fecha</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos would be edited. This was a dry run: nothing was changed.</source>
+        <translation>
+            <numerusform>Se editaría %1 foto. Era un simulacro: no se cambió nada.</numerusform>
+            <numerusform>Se editarían %1 fotos. Era un simulacro: no se cambió nada.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>No se cambió nada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 foto editada; «lumidex undo» lo deshace.</numerusform>
+            <numerusform>%1 fotos editadas; «lumidex undo» lo deshace.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited.</source>
+        <translation>
+            <numerusform>%1 foto editada.</numerusform>
+            <numerusform>%1 fotos editadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be edited</source>
+        <translation>No se pueden editar</translation>
+    </message>
+    <message>
+        <source>Not edited</source>
+        <translation>Sin editar</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Comparando</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <comment>of so many</comment>
+        <translation>archivos</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Copiando</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <translation>Interrumpido. Lo copiado está completo y comparado; la misma orden copia el resto.</translation>
+    </message>
+    <message>
+        <source>Would be copied to %1:</source>
+        <translation>Se copiarían en %1:</translation>
+    </message>
+    <message>
+        <source>Would be taken in where they lie:</source>
+        <translation>Se incorporarían en su lugar actual:</translation>
+    </message>
+    <message>
+        <source>These files are of one shot each, and the free names for them are not:</source>
+        <translation>Los archivos de cada una de estas tomas van juntos, pero los nombres libres para ellos no:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Faltan:</translation>
+    </message>
+    <message>
+        <source>Not taken into the catalogue:</source>
+        <translation>No incorporados al catálogo:</translation>
+    </message>
+    <message>
+        <source>It is not named like a photo</source>
+        <translation>No tiene nombre de foto</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Omitidos:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more (--json lists them)</source>
+        <translation>
+            <numerusform>y %1 más (--json los enumera)</numerusform>
+            <numerusform>y %1 más (--json los enumera)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos in the catalogue already.</source>
+        <translation>
+            <numerusform>%1 foto ya está en el catálogo.</numerusform>
+            <numerusform>%1 fotos ya están en el catálogo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files copied before.</source>
+        <translation>
+            <numerusform>%1 archivo ya se copió antes.</numerusform>
+            <numerusform>%1 archivos ya se copiaron antes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos there twice among the sources.</source>
+        <translation>
+            <numerusform>%1 foto está repetida en los orígenes.</numerusform>
+            <numerusform>%1 fotos están repetidas en los orígenes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se importó nada.</translation>
+    </message>
+    <message>
+        <source>Nothing would be imported.</source>
+        <translation>No se importaría nada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) would be copied</source>
+        <translation>
+            <numerusform>Se copiaría %1 archivo (%2)</numerusform>
+            <numerusform>Se copiarían %1 archivos (%2)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos taken in where they lie.</source>
+        <comment>would be</comment>
+        <translation>
+            <numerusform>%1 foto se incorporaría en su lugar actual.</numerusform>
+            <numerusform>%1 fotos se incorporarían en su lugar actual.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run:
+nothing was changed.</source>
+        <translation>Era un simulacro:
+no se cambió nada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) copied to %3, each compared.</source>
+        <translation>
+            <numerusform>%1 archivo (%2) copiado en %3 y comparado.</numerusform>
+            <numerusform>%1 archivos (%2) copiados en %3, todos comparados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos new in the catalogue.</source>
+        <translation>
+            <numerusform>%1 foto nueva en el catálogo.</numerusform>
+            <numerusform>%1 fotos nuevas en el catálogo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing; the same command tries again.</source>
+        <translation>
+            <numerusform>Falta %1 archivo; la misma orden lo intenta de nuevo.</numerusform>
+            <numerusform>Faltan %1 archivos; la misma orden lo intenta de nuevo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>a heading</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>There is no %1; %2 is used.</source>
+        <comment>languages</comment>
+        <translation>No existe %1; se usa %2.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>done, all, what</comment>
+        <translation>%1 de %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3 found so far</source>
+        <comment>done, all, what</comment>
+        <translation>%1 de %2 %3 hasta ahora</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <comment>minutes and seconds</comment>
+        <translation>quedan %1</translation>
+    </message>
+    <message>
+        <source>y yes</source>
+        <comment>answers, all that mean it</comment>
+        <translation>s sí</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was renamed.</source>
+        <translation>Interrumpido. No se renombró nada.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Leyendo</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Renombrando</translation>
+    </message>
+    <message>
+        <source>Cannot be renamed:</source>
+        <translation>No se pueden renombrar:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <translation>
+            <numerusform>%1 foto no tiene fecha propia; se usa la hora del archivo.</numerusform>
+            <numerusform>%1 fotos no tienen fecha propia; se usan las horas de los archivos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files have their names already.</source>
+        <translation>
+            <numerusform>%1 archivo ya tiene su nombre.</numerusform>
+            <numerusform>%1 archivos ya tienen su nombre.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>No se renombraría nada: el nombre nuevo es imposible para %1 de %2 foto. Con
+--skip-problems se renombran las demás.</numerusform>
+            <numerusform>No se renombraría nada: el nombre nuevo es imposible para %1 de %2 fotos. Con
+--skip-problems se renombran las demás.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>No se renombró nada: el nombre nuevo es imposible para %1 de %2 foto. Con
+--skip-problems se renombran las demás.</numerusform>
+            <numerusform>No se renombró nada: el nombre nuevo es imposible para %1 de %2 fotos. Con
+--skip-problems se renombran las demás.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to rename.</source>
+        <translation>No hay nada que renombrar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be renamed. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Se renombraría %1. Era un simulacro: no se cambió nada.</numerusform>
+            <numerusform>Se renombrarían %1. Era un simulacro: no se cambió nada.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was renamed.</source>
+        <translation>No se renombró nada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files could not be given back the old name.</source>
+        <translation>
+            <numerusform>A %1 archivo no se le pudo devolver el nombre antiguo.</numerusform>
+            <numerusform>A %1 archivos no se les pudo devolver el nombre antiguo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Se renombró %1; «lumidex undo» lo deshace.</numerusform>
+            <numerusform>Se renombraron %1; «lumidex undo» lo deshace.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Se renombró %1.</numerusform>
+            <numerusform>Se renombraron %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Lo impide</translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Informe: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pictures could not be read and got a placeholder.</source>
+        <translation>
+            <numerusform>%1 imagen no se pudo leer y se sustituyó por un marcador.</numerusform>
+            <numerusform>%1 imágenes no se pudieron leer y se sustituyeron por un marcador.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Made %1 photos in %2</source>
+        <translation>
+            <numerusform>Creada %1 foto en %2</numerusform>
+            <numerusform>Creadas %1 fotos en %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
+        <translation>Interrumpido. Las fotos creadas hasta ahora se conservan; borre la carpeta antes de volver a intentarlo.</translation>
+    </message>
+    <message>
+        <source>not an image</source>
+        <translation>no es una imagen</translation>
+    </message>
+    <message>
+        <source>loop</source>
+        <translation>bucle</translation>
+    </message>
+    <message>
+        <source>Not taken in:</source>
+        <translation>No incorporados:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 original</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 de la toma</numerusform>
+            <numerusform>%1 de la toma</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 digitised</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 de la digitalización</numerusform>
+            <numerusform>%1 de la digitalización</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file time</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 de la hora del archivo</numerusform>
+            <numerusform>%1 de la hora del archivo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 none</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 sin fecha</numerusform>
+            <numerusform>%1 sin fecha</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates read: %1</source>
+        <translation>Fechas leídas: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>files found</source>
+        <translation>
+            <numerusform>archivo encontrado</numerusform>
+            <numerusform>archivos encontrados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>new</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>nuevo</numerusform>
+            <numerusform>nuevos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>read again</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>leído de nuevo</numerusform>
+            <numerusform>leídos de nuevo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>changed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>cambiado</numerusform>
+            <numerusform>cambiados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>unchanged</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>sin cambios</numerusform>
+            <numerusform>sin cambios</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>gone, now marked lost</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>desaparecido, marcado ahora como perdido</numerusform>
+            <numerusform>desaparecidos, marcados ahora como perdidos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing was stored.</source>
+        <translation>Era un simulacro: no se guardó nada.</translation>
+    </message>
+    <message>
+        <source>Catalogue: %1</source>
+        <translation>Catálogo: %1</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Explorando</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <translation>Interrumpido. Lo leído hasta ahora está en el catálogo; la misma orden continúa desde ahí.</translation>
+    </message>
+    <message>
+        <source>Looking at</source>
+        <translation>Examinando</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Agrupando</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Midiendo</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was moved is in the trash.</source>
+        <translation>Interrumpido. Lo movido está en la papelera.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The same command goes on from there.</source>
+        <translation>Interrumpido. La misma orden continúa desde ahí.</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was moved.</source>
+        <translation>Interrumpido. No se movió nada.</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash? [y/N]</source>
+        <translation>¿Mover %1 a la papelera? [s/N]</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Moviendo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos like %2</source>
+        <translation>
+            <numerusform>%1 foto como %2</numerusform>
+            <numerusform>%1 fotos como %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <comment>a file</comment>
+        <translation>Conservar %1</translation>
+    </message>
+    <message>
+        <source>Keep %1: %2</source>
+        <comment>a file: why</comment>
+        <translation>Conservar %1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2, score %3</source>
+        <comment>pixels, size, number</comment>
+        <translation>%1, %2, similitud %3</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <comment>photo</comment>
+        <translation>la más grande</translation>
+    </message>
+    <message>
+        <source>sharpest</source>
+        <comment>photo</comment>
+        <translation>la más nítida</translation>
+    </message>
+    <message>
+        <source>has camera data</source>
+        <translation>con datos de la cámara</translation>
+    </message>
+    <message>
+        <source>earliest</source>
+        <comment>photo</comment>
+        <translation>la más antigua</translation>
+    </message>
+    <message>
+        <source>first by name</source>
+        <translation>la primera por nombre</translation>
+    </message>
+    <message>
+        <source>Not compared:</source>
+        <translation>Sin comparar:</translation>
+    </message>
+    <message numerus="yes">
+        <source>No similar photos among %1 photos.</source>
+        <translation>
+            <numerusform>No hay fotos similares entre %1 foto.</numerusform>
+            <numerusform>No hay fotos similares entre %1 fotos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 groups of similar photos</source>
+        <translation>
+            <numerusform>%1 grupo de fotos similares</numerusform>
+            <numerusform>%1 grupos de fotos similares</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>among %1 photos</source>
+        <translation>
+            <numerusform>entre %1 foto</numerusform>
+            <numerusform>entre %1 fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos (%2) besides those to keep.</source>
+        <translation>
+            <numerusform>%1 foto (%2) además de las que conviene conservar.</numerusform>
+            <numerusform>%1 fotos (%2) además de las que conviene conservar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2; %3</source>
+        <comment>groups of similar photos; among how many; others</comment>
+        <translation>%1 %2; %3</translation>
+    </message>
+    <message>
+        <source>keep</source>
+        <comment>a photo</comment>
+        <translation>conservar</translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>it goes there</comment>
+        <translation>papelera</translation>
+    </message>
+    <message>
+        <source>stay</source>
+        <comment>a photo does</comment>
+        <translation>se queda</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1, %2 photos:</source>
+        <translation>
+            <numerusform>Grupo %1, %2 foto:</numerusform>
+            <numerusform>Grupo %1, %2 fotos:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>PHOTO</source>
+        <translation>FOTO</translation>
+    </message>
+    <message>
+        <source>CLUSTER</source>
+        <translation>GRUPO</translation>
+    </message>
+    <message>
+        <source>TO ITS CENTRE</source>
+        <translation>CON SU CENTRO</translation>
+    </message>
+    <message>
+        <source>TO ITS OWN CENTRE</source>
+        <translation>CON SU PROPIO CENTRO</translation>
+    </message>
+    <message>
+        <source>TO THE OTHER&apos;S</source>
+        <translation>CON EL DE LA OTRA</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in one group.</source>
+        <translation>Las fotos tienen una similitud de %1 entre sí y están en un mismo grupo.</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in different groups.</source>
+        <translation>Las fotos tienen una similitud de %1 entre sí y están en grupos distintos.</translation>
+    </message>
+    <message>
+        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</source>
+        <translation>Una foto se une al primer grupo con cuyo centro, la media de sus fotos en ese momento, su
+similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
+    </message>
+    <message>
+        <source>The groups are as matching all photos again makes them.</source>
+        <translation>Los grupos son los que resultan de volver a comparar todas las fotos.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <translation>«lumidex similar --anew» forma los grupos desde cero.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <translation>
+            <numerusform>%1 foto</numerusform>
+            <numerusform>%1 fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 files)</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 (%2 archivo)</numerusform>
+            <numerusform>%1 (%2 archivos)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>so many photos</comment>
+        <translation>renombrar %1</translation>
+    </message>
+    <message>
+        <source>shift dates by %1</source>
+        <translation>desplazar fechas %1</translation>
+    </message>
+    <message>
+        <source>set dates to %1</source>
+        <translation>poner fechas en %1</translation>
+    </message>
+    <message>
+        <source>rotate left</source>
+        <translation>girar a la izquierda</translation>
+    </message>
+    <message>
+        <source>rotate right</source>
+        <translation>girar a la derecha</translation>
+    </message>
+    <message>
+        <source>rotate 180</source>
+        <translation>girar 180°</translation>
+    </message>
+    <message>
+        <source>move similar photos to the trash</source>
+        <translation>mover fotos similares a la papelera</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Sí a todo</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>No a todo</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>Guardar todo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorar</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Interrumpir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Restore defaults</source>
+        <translation>Restaurar valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Nothing to move to the trash.</source>
+        <translation>No hay nada que mover a la papelera.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be moved to the trash. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Se movería a la papelera %1. Era un simulacro: no se cambió nada.</numerusform>
+            <numerusform>Se moverían a la papelera %1. Era un simulacro: no se cambió nada.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was moved.</source>
+        <translation>No se movió nada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Se movió a la papelera %1; «lumidex undo» recupera lo que aún esté allí.</numerusform>
+            <numerusform>Se movieron a la papelera %1; «lumidex undo» recupera lo que aún esté allí.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Se movió a la papelera %1.</numerusform>
+            <numerusform>Se movieron a la papelera %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files</source>
+        <translation>
+            <numerusform>%1 archivo</numerusform>
+            <numerusform>%1 archivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not moved:</source>
+        <translation>Sin mover:</translation>
+    </message>
+    <message>
+        <source>Left where they are</source>
+        <translation>Dejados en su lugar</translation>
+    </message>
+    <message>
+        <source>Doing again</source>
+        <translation>Rehaciendo</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Deshaciendo</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was done so far stays so.</source>
+        <translation>Interrumpido. Lo hecho hasta ahora queda así.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 steps of the %2 asked for.</source>
+        <translation>
+            <numerusform>Solo %1 paso de los %2 pedidos.</numerusform>
+            <numerusform>Solo %1 pasos de los %2 pedidos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <translation>El ajuste %1 no tiene sentido (%2); se usa el límite habitual.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days and %2</source>
+        <comment>within so many</comment>
+        <translation>
+            <numerusform>%1 día y %2</numerusform>
+            <numerusform>%1 días y %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <comment>a step</comment>
+        <translation>deshecho</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <comment>a step</comment>
+        <translation>abandonado</translation>
+    </message>
+    <message>
+        <source>There is nothing that could be undone.</source>
+        <translation>No hay nada que se pueda deshacer.</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>QUÉ</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>ARCHIVOS</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <comment>so many bytes</comment>
+        <translation>GUARDADO</translation>
+    </message>
+    <message>
+        <source>Left as they are</source>
+        <translation>Dejados como están</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <translation>No se rehízo nada de «%1».</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <translation>No se deshizo nada de «%1».</translation>
+    </message>
+    <message>
+        <source>Done again: %1.</source>
+        <translation>Rehecho: %1.</translation>
+    </message>
+    <message>
+        <source>Taken back: %1.</source>
+        <translation>Deshecho: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Done again: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Rehecho: %1, salvo %2 archivo.</numerusform>
+            <numerusform>Rehecho: %1, salvo %2 archivos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Taken back: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Deshecho: %1, salvo %2 archivo.</numerusform>
+            <numerusform>Deshecho: %1, salvo %2 archivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <translation>Los pasos anteriores esperan por este; «lumidex undo --skip» lo deja como está para siempre.</translation>
+    </message>
+    <message>
+        <source>There is nothing to skip.</source>
+        <translation>No hay nada que omitir.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Abandonado: %1.</translation>
+    </message>
+    <message>
+        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <translation>Lo que se guarda de él (%1) permanece hasta que sea demasiado antiguo o demasiado grande.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 older steps cannot be undone any more.</source>
+        <translation>
+            <numerusform>%1 paso anterior ya no se puede deshacer.</numerusform>
+            <numerusform>%1 pasos anteriores ya no se pueden deshacer.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Steps can be undone within %1.</source>
+        <translation>Los pasos se pueden deshacer dentro de %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>No hay nada que rehacer.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>No hay nada que deshacer.</translation>
+    </message>
+</context>
+<context>
+    <name>Zenvora::Lumidex::Utils</name>
+    <message>
+        <source>Attention</source>
+        <translation>Atención</translation>
+    </message>
+    <message>
+        <source>All of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Ninguno de los archivos seleccionados tiene permiso de lectura; no se añadirán.</translation>
+    </message>
+    <message>
+        <source>Some of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Algunos de los archivos seleccionados no tienen permiso de lectura; no se añadirán.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</source>
+        <translation>Algunas de las fotos seleccionadas están en un soporte extraíble. ¿Desea copiarlas en su disco duro?</translation>
+    </message>
+    <message>
+        <source>The selected directory is temporary, select another directory.</source>
+        <translation>La carpeta seleccionada es temporal. Seleccione otra carpeta.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
+        <translation>Algunas de las fotos seleccionadas están en formatos de solo lectura (por ejemplo, %1). Se convertirán a JPG o PNG al aplicar la herramienta.</translation>
+    </message>
+    <message>
+        <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
+        <translation>La foto seleccionada está en un formato de solo lectura (%1). Se convertirá a JPG o PNG al aplicar la herramienta.</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk %1</source>
+        <translation>No hay suficiente espacio en el disco %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit files in this folder: %1</source>
+        <translation>No tiene permiso para editar archivos en esta carpeta: %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit file: %1</source>
+        <translation>No tiene permiso para editar el archivo: %1</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>día</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>días</translation>
+    </message>
+    <message>
+        <source>Expired</source>
+        <translation>Caducado</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>One day</source>
+        <translation>día</translation>
+    </message>
+    <message>
+        <source>Nominative day</source>
+        <translation>días</translation>
+    </message>
+    <message>
+        <source>Genetive day</source>
+        <translation>días</translation>
+    </message>
+    <message>
+        <source>Plural day</source>
+        <translation>días</translation>
+    </message>
+    <message>
+        <source>One album</source>
+        <translation>álbum</translation>
+    </message>
+    <message>
+        <source>Nominative album</source>
+        <translation>álbumes</translation>
+    </message>
+    <message>
+        <source>Genetive album</source>
+        <translation>álbumes</translation>
+    </message>
+    <message>
+        <source>Plural album</source>
+        <translation>álbumes</translation>
+    </message>
+    <message>
+        <source>album</source>
+        <translation>álbum</translation>
+    </message>
+    <message>
+        <source>albums</source>
+        <translation>álbumes</translation>
+    </message>
+    <message>
+        <source>One group</source>
+        <translation>grupo</translation>
+    </message>
+    <message>
+        <source>Nominative group</source>
+        <translation>grupos</translation>
+    </message>
+    <message>
+        <source>Genetive group</source>
+        <translation>grupos</translation>
+    </message>
+    <message>
+        <source>Plural group</source>
+        <translation>grupos</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>grupo</translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation>grupos</translation>
+    </message>
+    <message>
+        <source>One photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Nominative photo</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>Genetive photo</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>Plural photo</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>fotos</translation>
+    </message>
+</context>
+</TS>

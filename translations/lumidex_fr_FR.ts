@@ -1,0 +1,1543 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Select folder</source>
+        <translation>Sélectionner un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Oui pour &amp;tout</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;on pour tout</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Tout enregistrer</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>Rétablir les valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Albums</source>
+        <translation>Albums</translation>
+    </message>
+    <message>
+        <source>Proposed albums</source>
+        <translation>Albums proposés</translation>
+    </message>
+    <message>
+        <source>Similar photos</source>
+        <translation>Photos similaires</translation>
+    </message>
+    <message>
+        <source>Groups by year</source>
+        <translation>Groupes par année</translation>
+    </message>
+    <message>
+        <source>No similar photos</source>
+        <translation>Aucune photo similaire</translation>
+    </message>
+    <message>
+        <source>Groups appear here once the catalogue holds photos that are alike.</source>
+        <translation>Des groupes apparaîtront ici dès que le catalogue contiendra des photos qui se ressemblent.</translation>
+    </message>
+    <message>
+        <source>Albums by year</source>
+        <translation>Albums par année</translation>
+    </message>
+    <message>
+        <source>No albums yet</source>
+        <translation>Pas encore d’albums</translation>
+    </message>
+    <message>
+        <source>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</source>
+        <translation>Des albums apparaîtront ici dès qu’il y aura assez de photos d’un jour de fête ou des week-ends d’un mois. Analysez d’autres dossiers et réessayez.</translation>
+    </message>
+    <message>
+        <source>Unnamed album</source>
+        <translation>Album sans nom</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Sans date</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Accepté</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Pas d’image</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more</source>
+        <translation>
+            <numerusform>et %1 autre</numerusform>
+            <numerusform>et %1 autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Made with Lumidex. This page holds all its pictures and needs no other file.</source>
+        <translation>Réalisé avec Lumidex. Cette page contient toutes ses images et ne nécessite aucun autre fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>Terminal</name>
+    <message>
+        <source>Drawing</source>
+        <translation>Dessin</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <comment>of so many</comment>
+        <translation>images</translation>
+    </message>
+    <message>
+        <source>The catalogue holds no photos yet. Run: lumidex scan DIR</source>
+        <translation>Le catalogue ne contient pas encore de photos. Lancez&#xa0;: lumidex scan DOSSIER</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <translation>
+            <numerusform>La %1 photo du catalogue avait disparu lors de la dernière analyse. Un disque manque-t-il&#xa0;?</numerusform>
+            <numerusform>Les %1 photos du catalogue avaient toutes disparu lors de la dernière analyse. Un disque manque-t-il&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation>Interrompu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>a name</comment>
+        <translation>«&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>No album was accepted.</source>
+        <translation>Aucun album n’a été accepté.</translation>
+    </message>
+    <message>
+        <source>Accepted before that: %1.</source>
+        <translation>Acceptés auparavant&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The page %1 is written; it shows all chosen albums as accepted.</source>
+        <translation>La page %1 est écrite&#xa0;; elle montre tous les albums choisis comme acceptés.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message numerus="yes">
+        <source>yes, %1 more now</source>
+        <translation>
+            <numerusform>oui, %1 de plus maintenant</numerusform>
+            <numerusform>oui, %1 de plus maintenant</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ALBUM</source>
+        <translation>ALBUM</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <translation>QUAND</translation>
+    </message>
+    <message>
+        <source>FIRST DAY</source>
+        <translation>PREMIER JOUR</translation>
+    </message>
+    <message>
+        <source>LAST DAY</source>
+        <translation>DERNIER JOUR</translation>
+    </message>
+    <message>
+        <source>PHOTOS</source>
+        <translation>PHOTOS</translation>
+    </message>
+    <message>
+        <source>ACCEPTED</source>
+        <translation>ACCEPTÉ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 photos)</source>
+        <translation>
+            <numerusform>%1 (%2 photo)</numerusform>
+            <numerusform>%1 (%2 photos)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Accepted %1: %2 photos.</source>
+        <translation>
+            <numerusform>%1 accepté&#xa0;: %2 photo.</numerusform>
+            <numerusform>%1 accepté&#xa0;: %2 photos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %1 photos to %2, accepted before.</source>
+        <translation>
+            <numerusform>%1 photo ajoutée à %2, déjà accepté.</numerusform>
+            <numerusform>%1 photos ajoutées à %2, déjà accepté.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1, accepted before.</source>
+        <translation>Rien à changer dans %1, déjà accepté.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <comment>albums from</comment>
+        <translation>
+            <numerusform>%1 photo</numerusform>
+            <numerusform>%1 photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 of them have no date</source>
+        <comment>photos; how many</comment>
+        <translation>
+            <numerusform>%1, dont %2 sans date</numerusform>
+            <numerusform>%1, dont %2 sans date</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>Aucun album n’est encore accepté. «&#xa0;lumidex albums&#xa0;» montre des propositions.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 accepted albums.</source>
+        <translation>
+            <numerusform>%1 album accepté.</numerusform>
+            <numerusform>%1 albums acceptés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</source>
+        <translation>Aucun album à proposer à partir de %1&#xa0;: il faut au moins 20 photos d’un
+même jour de fête ou des week-ends d’un mois.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 albums</source>
+        <translation>
+            <numerusform>%1 album</numerusform>
+            <numerusform>%1 albums</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 from %2; %3 accepted.</source>
+        <comment>albums, photos, how many</comment>
+        <translation>
+            <numerusform>%1 à partir de %2&#xa0;; %3 accepté.</numerusform>
+            <numerusform>%1 à partir de %2&#xa0;; %3 acceptés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Calendar: %1 (from the server)</source>
+        <translation>Calendrier&#xa0;: %1 (du serveur)</translation>
+    </message>
+    <message>
+        <source>Calendar: %1</source>
+        <translation>Calendrier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The calendar has no holidays for %1.</source>
+        <translation>Le calendrier n’a pas de jours de fête pour %1.</translation>
+    </message>
+    <message>
+        <source>HOLIDAY</source>
+        <translation>JOUR DE FÊTE</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>JOURS</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(sans nom)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holidays for %2.</source>
+        <translation>
+            <numerusform>%1 jour de fête pour %2.</numerusform>
+            <numerusform>%1 jours de fête pour %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no mistakes found.</source>
+        <translation>%1&#xa0;: aucune erreur trouvée.</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>événement %1</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <comment>of the events of a language</comment>
+        <translation>liste</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 mistakes found.</source>
+        <translation>
+            <numerusform>%1&#xa0;: %2 erreur trouvée.</numerusform>
+            <numerusform>%1&#xa0;: %2 erreurs trouvées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The calendar was not updated: %1</source>
+        <translation>Le calendrier n’a pas été mis à jour&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>There is no calendar.</source>
+        <translation>Il n’y a pas de calendrier.</translation>
+    </message>
+    <message>
+        <source>In use as before: %1</source>
+        <translation>Toujours utilisé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The calendar was updated: %1</source>
+        <translation>Le calendrier a été mis à jour&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The calendar is up to date: %1</source>
+        <translation>Le calendrier est à jour&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>Le calendrier des fêtes n’a pas pu être lu jusqu’au bout, il manque donc des jours de fête. Essayez&#xa0;: lumidex calendar check ou lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>Le calendrier des fêtes %1 n’a pas pu être lu jusqu’au bout, il manque donc des jours de fête. Essayez&#xa0;: lumidex calendar check ou lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>illisible</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>format</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>espace</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>dossier</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>fichier</translation>
+    </message>
+    <message>
+        <source>Volume of</source>
+        <translation>Volume de</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Requis</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <comment>room on a disk</comment>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>free room</comment>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Où</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Pourquoi</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files checked</source>
+        <translation>
+            <numerusform>%1 fichier vérifié</numerusform>
+            <numerusform>%1 fichiers vérifiés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is in the way.</source>
+        <translation>aucun obstacle.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 things in the way.</source>
+        <translation>
+            <numerusform>%1 obstacle.</numerusform>
+            <numerusform>%1 obstacles.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was changed.</source>
+        <translation>Interrompu. Rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>There are no photos in the given folders.</source>
+        <translation>Il n’y a pas de photos dans les dossiers indiqués.</translation>
+    </message>
+    <message>
+        <source>Trying</source>
+        <translation>Essai</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <comment>of so many</comment>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Modification</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay so.</source>
+        <translation>Interrompu. Les photos modifiées jusqu’ici le restent.</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>à l’endroit</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>en miroir</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>à l’envers</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>à l’envers, en miroir</translation>
+    </message>
+    <message>
+        <source>turned left, mirrored</source>
+        <translation>tournée à gauche, en miroir</translation>
+    </message>
+    <message>
+        <source>turned right</source>
+        <translation>tournée à droite</translation>
+    </message>
+    <message>
+        <source>turned right, mirrored</source>
+        <translation>tournée à droite, en miroir</translation>
+    </message>
+    <message>
+        <source>turned left</source>
+        <translation>tournée à gauche</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>pas de date</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos would be edited. This was a dry run: nothing was changed.</source>
+        <translation>
+            <numerusform>%1 photo serait modifiée. C’était un essai&#xa0;: rien n’a été modifié.</numerusform>
+            <numerusform>%1 photos seraient modifiées. C’était un essai&#xa0;: rien n’a été modifié.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Rien n’a été modifié.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 photo modifiée&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
+            <numerusform>%1 photos modifiées&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited.</source>
+        <translation>
+            <numerusform>%1 photo modifiée.</numerusform>
+            <numerusform>%1 photos modifiées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be edited</source>
+        <translation>Impossible à modifier</translation>
+    </message>
+    <message>
+        <source>Not edited</source>
+        <translation>Non modifiées</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Comparaison</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <comment>of so many</comment>
+        <translation>fichiers</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <translation>Interrompu. Ce qui a été copié est complet et comparé&#xa0;; la même commande copie le reste.</translation>
+    </message>
+    <message>
+        <source>Would be copied to %1:</source>
+        <translation>Seraient copiés dans %1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Would be taken in where they lie:</source>
+        <translation>Seraient ajoutées sur place&#xa0;:</translation>
+    </message>
+    <message>
+        <source>These files are of one shot each, and the free names for them are not:</source>
+        <translation>Les fichiers de chacune de ces prises de vue vont ensemble, mais pas les noms libres pour eux&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Manquants&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Not taken into the catalogue:</source>
+        <translation>Non ajoutés au catalogue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>It is not named like a photo</source>
+        <translation>Son nom n’est pas celui d’une photo</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Laissés de côté&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more (--json lists them)</source>
+        <translation>
+            <numerusform>et %1 autre (--json en donne la liste)</numerusform>
+            <numerusform>et %1 autres (--json en donne la liste)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos in the catalogue already.</source>
+        <translation>
+            <numerusform>%1 photo est déjà dans le catalogue.</numerusform>
+            <numerusform>%1 photos sont déjà dans le catalogue.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files copied before.</source>
+        <translation>
+            <numerusform>%1 fichier avait déjà été copié.</numerusform>
+            <numerusform>%1 fichiers avaient déjà été copiés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos there twice among the sources.</source>
+        <translation>
+            <numerusform>%1 photo figure deux fois dans les sources.</numerusform>
+            <numerusform>%1 photos figurent deux fois dans les sources.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>Nothing would be imported.</source>
+        <translation>Rien ne serait importé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) would be copied</source>
+        <translation>
+            <numerusform>%1 fichier (%2) serait copié</numerusform>
+            <numerusform>%1 fichiers (%2) seraient copiés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos taken in where they lie.</source>
+        <comment>would be</comment>
+        <translation>
+            <numerusform>%1 photo ajoutée sur place.</numerusform>
+            <numerusform>%1 photos ajoutées sur place.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run:
+nothing was changed.</source>
+        <translation>C’était un essai&#xa0;:
+rien n’a été modifié.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) copied to %3, each compared.</source>
+        <translation>
+            <numerusform>%1 fichier (%2) copié dans %3 et comparé.</numerusform>
+            <numerusform>%1 fichiers (%2) copiés dans %3, tous comparés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos new in the catalogue.</source>
+        <translation>
+            <numerusform>%1 nouvelle photo dans le catalogue.</numerusform>
+            <numerusform>%1 nouvelles photos dans le catalogue.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing; the same command tries again.</source>
+        <translation>
+            <numerusform>%1 fichier manque&#xa0;; la même commande réessaie.</numerusform>
+            <numerusform>%1 fichiers manquent&#xa0;; la même commande réessaie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>a heading</comment>
+        <translation>%1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There is no %1; %2 is used.</source>
+        <comment>languages</comment>
+        <translation>Il n’y a pas de %1&#xa0;; %2 est utilisé.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>done, all, what</comment>
+        <translation>%1 sur %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3 found so far</source>
+        <comment>done, all, what</comment>
+        <translation>%1 sur %2 %3 jusqu’ici</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <comment>minutes and seconds</comment>
+        <translation>reste %1</translation>
+    </message>
+    <message>
+        <source>y yes</source>
+        <comment>answers, all that mean it</comment>
+        <translation>o oui</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was renamed.</source>
+        <translation>Interrompu. Rien n’a été renommé.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Renommage</translation>
+    </message>
+    <message>
+        <source>Cannot be renamed:</source>
+        <translation>Impossible à renommer&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <translation>
+            <numerusform>%1 photo n’a pas de date propre&#xa0;; l’heure du fichier est utilisée.</numerusform>
+            <numerusform>%1 photos n’ont pas de date propre&#xa0;; l’heure des fichiers est utilisée.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files have their names already.</source>
+        <translation>
+            <numerusform>%1 fichier a déjà son nom.</numerusform>
+            <numerusform>%1 fichiers ont déjà leur nom.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Rien ne serait renommé&#xa0;: le nouveau nom est impossible pour %1 photo sur %2. Avec
+--skip-problems, les autres sont renommées.</numerusform>
+            <numerusform>Rien ne serait renommé&#xa0;: le nouveau nom est impossible pour %1 des %2 photos. Avec
+--skip-problems, les autres sont renommées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Rien n’a été renommé&#xa0;: le nouveau nom est impossible pour %1 photo sur %2. Avec
+--skip-problems, les autres sont renommées.</numerusform>
+            <numerusform>Rien n’a été renommé&#xa0;: le nouveau nom est impossible pour %1 des %2 photos. Avec
+--skip-problems, les autres sont renommées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to rename.</source>
+        <translation>Rien à renommer.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be renamed. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 serait renommée. C’était un essai&#xa0;: rien n’a été modifié.</numerusform>
+            <numerusform>%1 seraient renommées. C’était un essai&#xa0;: rien n’a été modifié.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was renamed.</source>
+        <translation>Rien n’a été renommé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files could not be given back the old name.</source>
+        <translation>
+            <numerusform>%1 fichier n’a pas pu retrouver son ancien nom.</numerusform>
+            <numerusform>%1 fichiers n’ont pas pu retrouver leur ancien nom.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 renommée&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
+            <numerusform>%1 renommées&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 renommée.</numerusform>
+            <numerusform>%1 renommées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Ce qui l’empêche</translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Rapport&#xa0;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pictures could not be read and got a placeholder.</source>
+        <translation>
+            <numerusform>%1 image n’a pas pu être lue et est remplacée par un emplacement vide.</numerusform>
+            <numerusform>%1 images n’ont pas pu être lues et sont remplacées par un emplacement vide.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Made %1 photos in %2</source>
+        <translation>
+            <numerusform>%1 photo créée dans %2</numerusform>
+            <numerusform>%1 photos créées dans %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
+        <translation>Interrompu. Les photos créées jusqu’ici restent&#xa0;; supprimez le dossier avant un nouvel essai.</translation>
+    </message>
+    <message>
+        <source>not an image</source>
+        <translation>pas une image</translation>
+    </message>
+    <message>
+        <source>loop</source>
+        <translation>boucle</translation>
+    </message>
+    <message>
+        <source>Not taken in:</source>
+        <translation>Non ajoutés&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 original</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 de la prise de vue</numerusform>
+            <numerusform>%1 de la prise de vue</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 digitised</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 de la numérisation</numerusform>
+            <numerusform>%1 de la numérisation</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file time</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 de l’heure du fichier</numerusform>
+            <numerusform>%1 de l’heure du fichier</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 none</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 sans date</numerusform>
+            <numerusform>%1 sans date</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates read: %1</source>
+        <translation>Dates lues&#xa0;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>files found</source>
+        <translation>
+            <numerusform>fichier trouvé</numerusform>
+            <numerusform>fichiers trouvés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>new</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>nouveau</numerusform>
+            <numerusform>nouveaux</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>read again</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>relu</numerusform>
+            <numerusform>relus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>changed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>modifié</numerusform>
+            <numerusform>modifiés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>unchanged</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>inchangé</numerusform>
+            <numerusform>inchangés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>gone, now marked lost</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>disparu, désormais marqué comme perdu</numerusform>
+            <numerusform>disparus, désormais marqués comme perdus</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing was stored.</source>
+        <translation>C’était un essai&#xa0;: rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>Catalogue: %1</source>
+        <translation>Catalogue&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <translation>Interrompu. Ce qui a été lu jusqu’ici est dans le catalogue&#xa0;; la même commande reprend à partir de là.</translation>
+    </message>
+    <message>
+        <source>Looking at</source>
+        <translation>Examen</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Regroupement</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Mesure</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was moved is in the trash.</source>
+        <translation>Interrompu. Ce qui a été déplacé est dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The same command goes on from there.</source>
+        <translation>Interrompu. La même commande reprend à partir de là.</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was moved.</source>
+        <translation>Interrompu. Rien n’a été déplacé.</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash? [y/N]</source>
+        <translation>Mettre %1 à la corbeille&#xa0;? [o/N]</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Déplacement</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos like %2</source>
+        <translation>
+            <numerusform>%1 photo comme %2</numerusform>
+            <numerusform>%1 photos comme %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <comment>a file</comment>
+        <translation>Garder %1</translation>
+    </message>
+    <message>
+        <source>Keep %1: %2</source>
+        <comment>a file: why</comment>
+        <translation>Garder %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2, score %3</source>
+        <comment>pixels, size, number</comment>
+        <translation>%1, %2, ressemblance %3</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <comment>photo</comment>
+        <translation>la plus grande</translation>
+    </message>
+    <message>
+        <source>sharpest</source>
+        <comment>photo</comment>
+        <translation>la plus nette</translation>
+    </message>
+    <message>
+        <source>has camera data</source>
+        <translation>avec les données de l’appareil</translation>
+    </message>
+    <message>
+        <source>earliest</source>
+        <comment>photo</comment>
+        <translation>la plus ancienne</translation>
+    </message>
+    <message>
+        <source>first by name</source>
+        <translation>première par le nom</translation>
+    </message>
+    <message>
+        <source>Not compared:</source>
+        <translation>Non comparées&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>No similar photos among %1 photos.</source>
+        <translation>
+            <numerusform>Aucune photo similaire parmi %1 photo.</numerusform>
+            <numerusform>Aucune photo similaire parmi %1 photos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 groups of similar photos</source>
+        <translation>
+            <numerusform>%1 groupe de photos similaires</numerusform>
+            <numerusform>%1 groupes de photos similaires</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>among %1 photos</source>
+        <translation>
+            <numerusform>parmi %1 photo</numerusform>
+            <numerusform>parmi %1 photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos (%2) besides those to keep.</source>
+        <translation>
+            <numerusform>%1 photo (%2) en plus de celles à garder.</numerusform>
+            <numerusform>%1 photos (%2) en plus de celles à garder.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2; %3</source>
+        <comment>groups of similar photos; among how many; others</comment>
+        <translation>%1 %2&#xa0;; %3</translation>
+    </message>
+    <message>
+        <source>keep</source>
+        <comment>a photo</comment>
+        <translation>garder</translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>it goes there</comment>
+        <translation>corbeille</translation>
+    </message>
+    <message>
+        <source>stay</source>
+        <comment>a photo does</comment>
+        <translation>reste</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1, %2 photos:</source>
+        <translation>
+            <numerusform>Groupe %1, %2 photo&#xa0;:</numerusform>
+            <numerusform>Groupe %1, %2 photos&#xa0;:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>PHOTO</source>
+        <translation>PHOTO</translation>
+    </message>
+    <message>
+        <source>CLUSTER</source>
+        <translation>GROUPE</translation>
+    </message>
+    <message>
+        <source>TO ITS CENTRE</source>
+        <translation>À SON CENTRE</translation>
+    </message>
+    <message>
+        <source>TO ITS OWN CENTRE</source>
+        <translation>À SON PROPRE CENTRE</translation>
+    </message>
+    <message>
+        <source>TO THE OTHER&apos;S</source>
+        <translation>À CELUI DE L’AUTRE</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in one group.</source>
+        <translation>Les photos se ressemblent à %1 et sont dans un même groupe.</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in different groups.</source>
+        <translation>Les photos se ressemblent à %1 et sont dans des groupes différents.</translation>
+    </message>
+    <message>
+        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</source>
+        <translation>Une photo rejoint le premier groupe dont le centre, la moyenne de ses photos à ce moment-là, lui
+ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</translation>
+    </message>
+    <message>
+        <source>The groups are as matching all photos again makes them.</source>
+        <translation>Les groupes sont tels qu’une nouvelle comparaison de toutes les photos les forme.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <translation>«&#xa0;lumidex similar --anew&#xa0;» refait les groupes à partir de rien.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <translation>
+            <numerusform>%1 photo</numerusform>
+            <numerusform>%1 photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 files)</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 (%2 fichier)</numerusform>
+            <numerusform>%1 (%2 fichiers)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>so many photos</comment>
+        <translation>renommer %1</translation>
+    </message>
+    <message>
+        <source>shift dates by %1</source>
+        <translation>décaler les dates de %1</translation>
+    </message>
+    <message>
+        <source>set dates to %1</source>
+        <translation>fixer les dates à %1</translation>
+    </message>
+    <message>
+        <source>rotate left</source>
+        <translation>tourner à gauche</translation>
+    </message>
+    <message>
+        <source>rotate right</source>
+        <translation>tourner à droite</translation>
+    </message>
+    <message>
+        <source>rotate 180</source>
+        <translation>tourner de 180°</translation>
+    </message>
+    <message>
+        <source>move similar photos to the trash</source>
+        <translation>mettre des photos similaires à la corbeille</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Oui pour tout</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Non pour tout</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>Tout enregistrer</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Restore defaults</source>
+        <translation>Rétablir les valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Nothing to move to the trash.</source>
+        <translation>Rien à mettre à la corbeille.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be moved to the trash. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 serait mise à la corbeille. C’était un essai&#xa0;: rien n’a été modifié.</numerusform>
+            <numerusform>%1 seraient mises à la corbeille. C’était un essai&#xa0;: rien n’a été modifié.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was moved.</source>
+        <translation>Rien n’a été déplacé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 mise à la corbeille&#xa0;; «&#xa0;lumidex undo&#xa0;» rapporte ce qui s’y trouve encore.</numerusform>
+            <numerusform>%1 mises à la corbeille&#xa0;; «&#xa0;lumidex undo&#xa0;» rapporte ce qui s’y trouve encore.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 mise à la corbeille.</numerusform>
+            <numerusform>%1 mises à la corbeille.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files</source>
+        <translation>
+            <numerusform>%1 fichier</numerusform>
+            <numerusform>%1 fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not moved:</source>
+        <translation>Non déplacées&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Left where they are</source>
+        <translation>Laissés à leur place</translation>
+    </message>
+    <message>
+        <source>Doing again</source>
+        <translation>Rétablissement</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Annulation</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was done so far stays so.</source>
+        <translation>Interrompu. Ce qui a été fait jusqu’ici le reste.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 steps of the %2 asked for.</source>
+        <translation>
+            <numerusform>Seulement %1 étape sur les %2 demandées.</numerusform>
+            <numerusform>Seulement %1 étapes sur les %2 demandées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <translation>Le réglage %1 n’a pas de sens (%2)&#xa0;; la limite habituelle est utilisée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days and %2</source>
+        <comment>within so many</comment>
+        <translation>
+            <numerusform>%1 jour et %2</numerusform>
+            <numerusform>%1 jours et %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <comment>a step</comment>
+        <translation>annulée</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <comment>a step</comment>
+        <translation>abandonnée</translation>
+    </message>
+    <message>
+        <source>There is nothing that could be undone.</source>
+        <translation>Il n’y a rien qui puisse être annulé.</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>QUOI</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>FICHIERS</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <comment>so many bytes</comment>
+        <translation>CONSERVÉ</translation>
+    </message>
+    <message>
+        <source>Left as they are</source>
+        <translation>Laissés tels quels</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <translation>Rien de «&#xa0;%1&#xa0;» n’a été rétabli.</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <translation>Rien de «&#xa0;%1&#xa0;» n’a été annulé.</translation>
+    </message>
+    <message>
+        <source>Done again: %1.</source>
+        <translation>Rétabli&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Taken back: %1.</source>
+        <translation>Annulé&#xa0;: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Done again: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Rétabli&#xa0;: %1, sauf %2 fichier.</numerusform>
+            <numerusform>Rétabli&#xa0;: %1, sauf %2 fichiers.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Taken back: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Annulé&#xa0;: %1, sauf %2 fichier.</numerusform>
+            <numerusform>Annulé&#xa0;: %1, sauf %2 fichiers.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <translation>Des étapes plus anciennes en dépendent&#xa0;; «&#xa0;lumidex undo --skip&#xa0;» la laisse définitivement telle quelle.</translation>
+    </message>
+    <message>
+        <source>There is nothing to skip.</source>
+        <translation>Il n’y a rien à passer.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Abandonné&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <translation>Ce qui en est conservé (%1) reste jusqu’à devenir trop ancien ou trop volumineux.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 older steps cannot be undone any more.</source>
+        <translation>
+            <numerusform>%1 étape plus ancienne ne peut plus être annulée.</numerusform>
+            <numerusform>%1 étapes plus anciennes ne peuvent plus être annulées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Steps can be undone within %1.</source>
+        <translation>Les étapes peuvent être annulées dans la limite de %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Il n’y a rien à rétablir.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Il n’y a rien à annuler.</translation>
+    </message>
+</context>
+<context>
+    <name>Zenvora::Lumidex::Utils</name>
+    <message>
+        <source>Attention</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>All of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Aucun des fichiers sélectionnés n’est accessible en lecture&#xa0;; ils ne seront pas ajoutés.</translation>
+    </message>
+    <message>
+        <source>Some of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Certains des fichiers sélectionnés ne sont pas accessibles en lecture&#xa0;; ils ne seront pas ajoutés.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</source>
+        <translation>Certaines des photos sélectionnées se trouvent sur un support amovible. Voulez-vous les copier sur votre disque dur&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The selected directory is temporary, select another directory.</source>
+        <translation>Le dossier sélectionné est temporaire. Sélectionnez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
+        <translation>Certaines des photos sélectionnées sont dans un format en lecture seule (par exemple, %1). Elles seront converties en JPG ou PNG après l’application de l’outil.</translation>
+    </message>
+    <message>
+        <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
+        <translation>La photo sélectionnée est dans un format en lecture seule (%1). Elle sera convertie en JPG ou PNG après l’application de l’outil.</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk %1</source>
+        <translation>Il n’y a pas assez d’espace sur le disque %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit files in this folder: %1</source>
+        <translation>Vous n’avez pas l’autorisation de modifier les fichiers de ce dossier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit file: %1</source>
+        <translation>Vous n’avez pas l’autorisation de modifier ce fichier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>jour</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>jours</translation>
+    </message>
+    <message>
+        <source>Expired</source>
+        <translation>Expiré</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>One day</source>
+        <translation>jour</translation>
+    </message>
+    <message>
+        <source>Nominative day</source>
+        <translation>jours</translation>
+    </message>
+    <message>
+        <source>Genetive day</source>
+        <translation>jours</translation>
+    </message>
+    <message>
+        <source>Plural day</source>
+        <translation>jours</translation>
+    </message>
+    <message>
+        <source>One album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>Nominative album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>Genetive album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>Plural album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>albums</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>One group</source>
+        <translation>groupe</translation>
+    </message>
+    <message>
+        <source>Nominative group</source>
+        <translation>groupes</translation>
+    </message>
+    <message>
+        <source>Genetive group</source>
+        <translation>groupes</translation>
+    </message>
+    <message>
+        <source>Plural group</source>
+        <translation>groupes</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>groupe</translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation>groupes</translation>
+    </message>
+    <message>
+        <source>One photo</source>
+        <translation>photo</translation>
+    </message>
+    <message>
+        <source>Nominative photo</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>Genetive photo</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>Plural photo</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>photo</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>photos</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1543 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en_US">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Select folder</source>
+        <translation>Seleziona cartella</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sì</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Sì a &amp;tutti</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;o a tutti</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Salva tutto</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignora</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Interrompi</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Non salvare</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>Ripristina valori predefiniti</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Albums</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Proposed albums</source>
+        <translation>Album proposti</translation>
+    </message>
+    <message>
+        <source>Similar photos</source>
+        <translation>Foto simili</translation>
+    </message>
+    <message>
+        <source>Groups by year</source>
+        <translation>Gruppi per anno</translation>
+    </message>
+    <message>
+        <source>No similar photos</source>
+        <translation>Nessuna foto simile</translation>
+    </message>
+    <message>
+        <source>Groups appear here once the catalogue holds photos that are alike.</source>
+        <translation>I gruppi compariranno qui non appena il catalogo conterrà foto che si somigliano.</translation>
+    </message>
+    <message>
+        <source>Albums by year</source>
+        <translation>Album per anno</translation>
+    </message>
+    <message>
+        <source>No albums yet</source>
+        <translation>Ancora nessun album</translation>
+    </message>
+    <message>
+        <source>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</source>
+        <translation>Gli album compariranno qui non appena ci saranno abbastanza foto di una festività o dei fine settimana di un mese. Esamini altre cartelle e riprovi.</translation>
+    </message>
+    <message>
+        <source>Unnamed album</source>
+        <translation>Album senza nome</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Senza data</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Accettato</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Nessuna immagine</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more</source>
+        <translation>
+            <numerusform>e %1 altra</numerusform>
+            <numerusform>e altre %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Made with Lumidex. This page holds all its pictures and needs no other file.</source>
+        <translation>Creato con Lumidex. Questa pagina contiene tutte le sue immagini e non ha bisogno di altri file.</translation>
+    </message>
+</context>
+<context>
+    <name>Terminal</name>
+    <message>
+        <source>Drawing</source>
+        <translation>Disegno</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <comment>of so many</comment>
+        <translation>immagini</translation>
+    </message>
+    <message>
+        <source>The catalogue holds no photos yet. Run: lumidex scan DIR</source>
+        <translation>Il catalogo non contiene ancora foto. Esegua: lumidex scan CARTELLA</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <translation>
+            <numerusform>La %1 foto del catalogo non c’era più all’ultimo esame. Manca un disco?</numerusform>
+            <numerusform>Tutte le %1 foto del catalogo non c’erano più all’ultimo esame. Manca un disco?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation>Interrotto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>a name</comment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>No album was accepted.</source>
+        <translation>Nessun album è stato accettato.</translation>
+    </message>
+    <message>
+        <source>Accepted before that: %1.</source>
+        <translation>Accettati prima: %1.</translation>
+    </message>
+    <message>
+        <source>The page %1 is written; it shows all chosen albums as accepted.</source>
+        <translation>La pagina %1 è scritta; mostra come accettati tutti gli album scelti.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sì</translation>
+    </message>
+    <message numerus="yes">
+        <source>yes, %1 more now</source>
+        <translation>
+            <numerusform>sì, ora %1 in più</numerusform>
+            <numerusform>sì, ora %1 in più</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ALBUM</source>
+        <translation>ALBUM</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <translation>QUANDO</translation>
+    </message>
+    <message>
+        <source>FIRST DAY</source>
+        <translation>PRIMO GIORNO</translation>
+    </message>
+    <message>
+        <source>LAST DAY</source>
+        <translation>ULTIMO GIORNO</translation>
+    </message>
+    <message>
+        <source>PHOTOS</source>
+        <translation>FOTO</translation>
+    </message>
+    <message>
+        <source>ACCEPTED</source>
+        <translation>ACCETTATO</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 photos)</source>
+        <translation>
+            <numerusform>%1 (%2 foto)</numerusform>
+            <numerusform>%1 (%2 foto)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Accepted %1: %2 photos.</source>
+        <translation>
+            <numerusform>Accettato %1: %2 foto.</numerusform>
+            <numerusform>Accettato %1: %2 foto.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %1 photos to %2, accepted before.</source>
+        <translation>
+            <numerusform>Aggiunta %1 foto a %2, già accettato.</numerusform>
+            <numerusform>Aggiunte %1 foto a %2, già accettato.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1, accepted before.</source>
+        <translation>Nulla da cambiare in %1, già accettato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <comment>albums from</comment>
+        <translation>
+            <numerusform>%1 foto</numerusform>
+            <numerusform>%1 foto</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 of them have no date</source>
+        <comment>photos; how many</comment>
+        <translation>
+            <numerusform>%1, di cui %2 senza data</numerusform>
+            <numerusform>%1, di cui %2 senza data</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>Nessun album è ancora accettato. «lumidex albums» mostra le proposte.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 accepted albums.</source>
+        <translation>
+            <numerusform>%1 album accettato.</numerusform>
+            <numerusform>%1 album accettati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</source>
+        <translation>Nessun album da proporre da %1: un album richiede almeno 20 foto di una
+stessa festività o dei fine settimana di un mese.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 albums</source>
+        <translation>
+            <numerusform>%1 album</numerusform>
+            <numerusform>%1 album</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 from %2; %3 accepted.</source>
+        <comment>albums, photos, how many</comment>
+        <translation>
+            <numerusform>%1 da %2; %3 accettato.</numerusform>
+            <numerusform>%1 da %2; %3 accettati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Calendar: %1 (from the server)</source>
+        <translation>Calendario: %1 (dal server)</translation>
+    </message>
+    <message>
+        <source>Calendar: %1</source>
+        <translation>Calendario: %1</translation>
+    </message>
+    <message>
+        <source>The calendar has no holidays for %1.</source>
+        <translation>Il calendario non ha festività per %1.</translation>
+    </message>
+    <message>
+        <source>HOLIDAY</source>
+        <translation>FESTIVITÀ</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>GIORNI</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(senza nome)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holidays for %2.</source>
+        <translation>
+            <numerusform>%1 festività per %2.</numerusform>
+            <numerusform>%1 festività per %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no mistakes found.</source>
+        <translation>%1: nessun errore trovato.</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>evento %1</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <comment>of the events of a language</comment>
+        <translation>elenco</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 mistakes found.</source>
+        <translation>
+            <numerusform>%1: trovato %2 errore.</numerusform>
+            <numerusform>%1: trovati %2 errori.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The calendar was not updated: %1</source>
+        <translation>Il calendario non è stato aggiornato: %1</translation>
+    </message>
+    <message>
+        <source>There is no calendar.</source>
+        <translation>Non c’è alcun calendario.</translation>
+    </message>
+    <message>
+        <source>In use as before: %1</source>
+        <translation>In uso come prima: %1</translation>
+    </message>
+    <message>
+        <source>The calendar was updated: %1</source>
+        <translation>Il calendario è stato aggiornato: %1</translation>
+    </message>
+    <message>
+        <source>The calendar is up to date: %1</source>
+        <translation>Il calendario è aggiornato: %1</translation>
+    </message>
+    <message>
+        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>Non è stato possibile leggere fino in fondo il calendario delle festività, perciò mancano delle festività. Provi: lumidex calendar check oppure lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>Non è stato possibile leggere fino in fondo il calendario delle festività %1, perciò mancano delle festività. Provi: lumidex calendar check oppure lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>illeggibile</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>formato</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>spazio</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>cartella</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>file</translation>
+    </message>
+    <message>
+        <source>Volume of</source>
+        <translation>Volume di</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Necessari</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <comment>room on a disk</comment>
+        <translation>Liberi</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>free room</comment>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Cosa</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Dove</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Perché</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files checked</source>
+        <translation>
+            <numerusform>%1 file controllato</numerusform>
+            <numerusform>%1 file controllati</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is in the way.</source>
+        <translation>nessun ostacolo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 things in the way.</source>
+        <translation>
+            <numerusform>%1 ostacolo.</numerusform>
+            <numerusform>%1 ostacoli.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was changed.</source>
+        <translation>Interrotto. Nulla è stato modificato.</translation>
+    </message>
+    <message>
+        <source>There are no photos in the given folders.</source>
+        <translation>Non ci sono foto nelle cartelle indicate.</translation>
+    </message>
+    <message>
+        <source>Trying</source>
+        <translation>Prova</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <comment>of so many</comment>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay so.</source>
+        <translation>Interrotto. Le foto modificate finora restano tali.</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>diritta</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>specchiata</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>capovolta</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>capovolta, specchiata</translation>
+    </message>
+    <message>
+        <source>turned left, mirrored</source>
+        <translation>ruotata a sinistra, specchiata</translation>
+    </message>
+    <message>
+        <source>turned right</source>
+        <translation>ruotata a destra</translation>
+    </message>
+    <message>
+        <source>turned right, mirrored</source>
+        <translation>ruotata a destra, specchiata</translation>
+    </message>
+    <message>
+        <source>turned left</source>
+        <translation>ruotata a sinistra</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>nessuna data</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos would be edited. This was a dry run: nothing was changed.</source>
+        <translation>
+            <numerusform>%1 foto sarebbe modificata. Era una prova: nulla è stato modificato.</numerusform>
+            <numerusform>%1 foto sarebbero modificate. Era una prova: nulla è stato modificato.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nulla è stato modificato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 foto modificata; «lumidex undo» annulla la modifica.</numerusform>
+            <numerusform>%1 foto modificate; «lumidex undo» annulla la modifica.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited.</source>
+        <translation>
+            <numerusform>%1 foto modificata.</numerusform>
+            <numerusform>%1 foto modificate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be edited</source>
+        <translation>Non modificabili</translation>
+    </message>
+    <message>
+        <source>Not edited</source>
+        <translation>Non modificate</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Confronto</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <comment>of so many</comment>
+        <translation>file</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <translation>Interrotto. Ciò che è stato copiato è completo e confrontato; lo stesso comando copia il resto.</translation>
+    </message>
+    <message>
+        <source>Would be copied to %1:</source>
+        <translation>Sarebbero copiati in %1:</translation>
+    </message>
+    <message>
+        <source>Would be taken in where they lie:</source>
+        <translation>Sarebbero accolte dove si trovano:</translation>
+    </message>
+    <message>
+        <source>These files are of one shot each, and the free names for them are not:</source>
+        <translation>I file di ciascuno di questi scatti vanno insieme, ma i nomi liberi per loro no:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Mancano:</translation>
+    </message>
+    <message>
+        <source>Not taken into the catalogue:</source>
+        <translation>Non accolti nel catalogo:</translation>
+    </message>
+    <message>
+        <source>It is not named like a photo</source>
+        <translation>Non ha il nome di una foto</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Tralasciati:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more (--json lists them)</source>
+        <translation>
+            <numerusform>e %1 altro (--json li elenca)</numerusform>
+            <numerusform>e altri %1 (--json li elenca)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos in the catalogue already.</source>
+        <translation>
+            <numerusform>%1 foto è già nel catalogo.</numerusform>
+            <numerusform>%1 foto sono già nel catalogo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files copied before.</source>
+        <translation>
+            <numerusform>%1 file era già stato copiato.</numerusform>
+            <numerusform>%1 file erano già stati copiati.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos there twice among the sources.</source>
+        <translation>
+            <numerusform>%1 foto compare due volte nelle origini.</numerusform>
+            <numerusform>%1 foto compaiono due volte nelle origini.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nulla è stato importato.</translation>
+    </message>
+    <message>
+        <source>Nothing would be imported.</source>
+        <translation>Nulla sarebbe importato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) would be copied</source>
+        <translation>
+            <numerusform>%1 file (%2) sarebbe copiato</numerusform>
+            <numerusform>%1 file (%2) sarebbero copiati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos taken in where they lie.</source>
+        <comment>would be</comment>
+        <translation>
+            <numerusform>%1 foto accolta dove si trova.</numerusform>
+            <numerusform>%1 foto accolte dove si trovano.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run:
+nothing was changed.</source>
+        <translation>Era una prova:
+nulla è stato modificato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) copied to %3, each compared.</source>
+        <translation>
+            <numerusform>%1 file (%2) copiato in %3 e confrontato.</numerusform>
+            <numerusform>%1 file (%2) copiati in %3, tutti confrontati.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos new in the catalogue.</source>
+        <translation>
+            <numerusform>%1 nuova foto nel catalogo.</numerusform>
+            <numerusform>%1 nuove foto nel catalogo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing; the same command tries again.</source>
+        <translation>
+            <numerusform>Manca %1 file; lo stesso comando riprova.</numerusform>
+            <numerusform>Mancano %1 file; lo stesso comando riprova.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>a heading</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>There is no %1; %2 is used.</source>
+        <comment>languages</comment>
+        <translation>%1 non esiste; si usa %2.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>done, all, what</comment>
+        <translation>%1 di %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3 found so far</source>
+        <comment>done, all, what</comment>
+        <translation>%1 di %2 %3 finora</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <comment>minutes and seconds</comment>
+        <translation>restano %1</translation>
+    </message>
+    <message>
+        <source>y yes</source>
+        <comment>answers, all that mean it</comment>
+        <translation>s sì</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was renamed.</source>
+        <translation>Interrotto. Nulla è stato rinominato.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lettura</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Ridenominazione</translation>
+    </message>
+    <message>
+        <source>Cannot be renamed:</source>
+        <translation>Non rinominabili:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <translation>
+            <numerusform>%1 foto non ha una data propria; si usa l’ora del file.</numerusform>
+            <numerusform>%1 foto non hanno una data propria; si usa l’ora dei file.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files have their names already.</source>
+        <translation>
+            <numerusform>%1 file ha già il suo nome.</numerusform>
+            <numerusform>%1 file hanno già il loro nome.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Nulla sarebbe rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
+--skip-problems si rinominano le altre.</numerusform>
+            <numerusform>Nulla sarebbe rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
+--skip-problems si rinominano le altre.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Nulla è stato rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
+--skip-problems si rinominano le altre.</numerusform>
+            <numerusform>Nulla è stato rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
+--skip-problems si rinominano le altre.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to rename.</source>
+        <translation>Nulla da rinominare.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be renamed. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 sarebbe rinominata. Era una prova: nulla è stato modificato.</numerusform>
+            <numerusform>%1 sarebbero rinominate. Era una prova: nulla è stato modificato.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was renamed.</source>
+        <translation>Nulla è stato rinominato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files could not be given back the old name.</source>
+        <translation>
+            <numerusform>Non è stato possibile ridare il vecchio nome a %1 file.</numerusform>
+            <numerusform>Non è stato possibile ridare il vecchio nome a %1 file.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 rinominata; «lumidex undo» annulla la modifica.</numerusform>
+            <numerusform>%1 rinominate; «lumidex undo» annulla la modifica.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 rinominata.</numerusform>
+            <numerusform>%1 rinominate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Ciò che lo impedisce</translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Rapporto: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pictures could not be read and got a placeholder.</source>
+        <translation>
+            <numerusform>%1 immagine non leggibile è stata sostituita da un segnaposto.</numerusform>
+            <numerusform>%1 immagini non leggibili sono state sostituite da un segnaposto.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Made %1 photos in %2</source>
+        <translation>
+            <numerusform>Creata %1 foto in %2</numerusform>
+            <numerusform>Create %1 foto in %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
+        <translation>Interrotto. Le foto create finora restano; elimini la cartella prima di riprovare.</translation>
+    </message>
+    <message>
+        <source>not an image</source>
+        <translation>non è un’immagine</translation>
+    </message>
+    <message>
+        <source>loop</source>
+        <translation>ciclo</translation>
+    </message>
+    <message>
+        <source>Not taken in:</source>
+        <translation>Non accolti:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 original</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 dello scatto</numerusform>
+            <numerusform>%1 dello scatto</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 digitised</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 della digitalizzazione</numerusform>
+            <numerusform>%1 della digitalizzazione</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file time</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 dall’ora del file</numerusform>
+            <numerusform>%1 dall’ora del file</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 none</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 senza data</numerusform>
+            <numerusform>%1 senza data</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates read: %1</source>
+        <translation>Date lette: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>files found</source>
+        <translation>
+            <numerusform>file trovato</numerusform>
+            <numerusform>file trovati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>new</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>nuovo</numerusform>
+            <numerusform>nuovi</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>read again</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>riletto</numerusform>
+            <numerusform>riletti</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>changed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>modificato</numerusform>
+            <numerusform>modificati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>unchanged</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>invariato</numerusform>
+            <numerusform>invariati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>gone, now marked lost</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>scomparso, ora segnato come perduto</numerusform>
+            <numerusform>scomparsi, ora segnati come perduti</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing was stored.</source>
+        <translation>Era una prova: nulla è stato salvato.</translation>
+    </message>
+    <message>
+        <source>Catalogue: %1</source>
+        <translation>Catalogo: %1</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Esame</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <translation>Interrotto. Ciò che è stato letto finora è nel catalogo; lo stesso comando riprende da lì.</translation>
+    </message>
+    <message>
+        <source>Looking at</source>
+        <translation>Osservazione</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Raggruppamento</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Misura</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was moved is in the trash.</source>
+        <translation>Interrotto. Ciò che è stato spostato è nel cestino.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The same command goes on from there.</source>
+        <translation>Interrotto. Lo stesso comando riprende da lì.</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was moved.</source>
+        <translation>Interrotto. Nulla è stato spostato.</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash? [y/N]</source>
+        <translation>Spostare nel cestino %1? [s/N]</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Spostamento</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos like %2</source>
+        <translation>
+            <numerusform>%1 foto come %2</numerusform>
+            <numerusform>%1 foto come %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <comment>a file</comment>
+        <translation>Da tenere: %1</translation>
+    </message>
+    <message>
+        <source>Keep %1: %2</source>
+        <comment>a file: why</comment>
+        <translation>Da tenere: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, %2, score %3</source>
+        <comment>pixels, size, number</comment>
+        <translation>%1, %2, somiglianza %3</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <comment>photo</comment>
+        <translation>la più grande</translation>
+    </message>
+    <message>
+        <source>sharpest</source>
+        <comment>photo</comment>
+        <translation>la più nitida</translation>
+    </message>
+    <message>
+        <source>has camera data</source>
+        <translation>con i dati della fotocamera</translation>
+    </message>
+    <message>
+        <source>earliest</source>
+        <comment>photo</comment>
+        <translation>la più vecchia</translation>
+    </message>
+    <message>
+        <source>first by name</source>
+        <translation>prima per nome</translation>
+    </message>
+    <message>
+        <source>Not compared:</source>
+        <translation>Non confrontate:</translation>
+    </message>
+    <message numerus="yes">
+        <source>No similar photos among %1 photos.</source>
+        <translation>
+            <numerusform>Nessuna foto simile tra %1 foto.</numerusform>
+            <numerusform>Nessuna foto simile tra %1 foto.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 groups of similar photos</source>
+        <translation>
+            <numerusform>%1 gruppo di foto simili</numerusform>
+            <numerusform>%1 gruppi di foto simili</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>among %1 photos</source>
+        <translation>
+            <numerusform>tra %1 foto</numerusform>
+            <numerusform>tra %1 foto</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos (%2) besides those to keep.</source>
+        <translation>
+            <numerusform>%1 foto (%2) oltre a quelle da tenere.</numerusform>
+            <numerusform>%1 foto (%2) oltre a quelle da tenere.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2; %3</source>
+        <comment>groups of similar photos; among how many; others</comment>
+        <translation>%1 %2; %3</translation>
+    </message>
+    <message>
+        <source>keep</source>
+        <comment>a photo</comment>
+        <translation>tenere</translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>it goes there</comment>
+        <translation>cestino</translation>
+    </message>
+    <message>
+        <source>stay</source>
+        <comment>a photo does</comment>
+        <translation>resta</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1, %2 photos:</source>
+        <translation>
+            <numerusform>Gruppo %1, %2 foto:</numerusform>
+            <numerusform>Gruppo %1, %2 foto:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>PHOTO</source>
+        <translation>FOTO</translation>
+    </message>
+    <message>
+        <source>CLUSTER</source>
+        <translation>GRUPPO</translation>
+    </message>
+    <message>
+        <source>TO ITS CENTRE</source>
+        <translation>AL SUO CENTRO</translation>
+    </message>
+    <message>
+        <source>TO ITS OWN CENTRE</source>
+        <translation>AL PROPRIO CENTRO</translation>
+    </message>
+    <message>
+        <source>TO THE OTHER&apos;S</source>
+        <translation>A QUELLO DELL’ALTRA</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in one group.</source>
+        <translation>Le foto si somigliano a %1 e sono in un unico gruppo.</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in different groups.</source>
+        <translation>Le foto si somigliano a %1 e sono in gruppi diversi.</translation>
+    </message>
+    <message>
+        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</source>
+        <translation>Una foto entra nel primo gruppo al cui centro, la media delle sue foto in quel momento, somigliava
+più di %1; le foto successive spostano il centro.</translation>
+    </message>
+    <message>
+        <source>The groups are as matching all photos again makes them.</source>
+        <translation>I gruppi sono come li forma un nuovo confronto di tutte le foto.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <translation>«lumidex similar --anew» forma i gruppi da zero.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <translation>
+            <numerusform>%1 foto</numerusform>
+            <numerusform>%1 foto</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 files)</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 (%2 file)</numerusform>
+            <numerusform>%1 (%2 file)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>so many photos</comment>
+        <translation>rinominare %1</translation>
+    </message>
+    <message>
+        <source>shift dates by %1</source>
+        <translation>spostare le date di %1</translation>
+    </message>
+    <message>
+        <source>set dates to %1</source>
+        <translation>impostare le date a %1</translation>
+    </message>
+    <message>
+        <source>rotate left</source>
+        <translation>ruotare a sinistra</translation>
+    </message>
+    <message>
+        <source>rotate right</source>
+        <translation>ruotare a destra</translation>
+    </message>
+    <message>
+        <source>rotate 180</source>
+        <translation>ruotare di 180°</translation>
+    </message>
+    <message>
+        <source>move similar photos to the trash</source>
+        <translation>spostare foto simili nel cestino</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Sì a tutti</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>No a tutti</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>Salva tutto</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignora</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Interrompi</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Non salvare</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Restore defaults</source>
+        <translation>Ripristina valori predefiniti</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Nothing to move to the trash.</source>
+        <translation>Nulla da spostare nel cestino.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be moved to the trash. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 sarebbe spostata nel cestino. Era una prova: nulla è stato modificato.</numerusform>
+            <numerusform>%1 sarebbero spostate nel cestino. Era una prova: nulla è stato modificato.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was moved.</source>
+        <translation>Nulla è stato spostato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 spostata nel cestino; «lumidex undo» recupera ciò che vi si trova ancora.</numerusform>
+            <numerusform>%1 spostate nel cestino; «lumidex undo» recupera ciò che vi si trova ancora.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 spostata nel cestino.</numerusform>
+            <numerusform>%1 spostate nel cestino.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files</source>
+        <translation>
+            <numerusform>%1 file</numerusform>
+            <numerusform>%1 file</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not moved:</source>
+        <translation>Non spostate:</translation>
+    </message>
+    <message>
+        <source>Left where they are</source>
+        <translation>Lasciati al loro posto</translation>
+    </message>
+    <message>
+        <source>Doing again</source>
+        <translation>Ripetizione</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Annullamento</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was done so far stays so.</source>
+        <translation>Interrotto. Ciò che è stato fatto finora resta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 steps of the %2 asked for.</source>
+        <translation>
+            <numerusform>Solo %1 passo dei %2 richiesti.</numerusform>
+            <numerusform>Solo %1 passi dei %2 richiesti.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <translation>L’impostazione %1 non ha senso (%2); si usa il limite consueto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days and %2</source>
+        <comment>within so many</comment>
+        <translation>
+            <numerusform>%1 giorno e %2</numerusform>
+            <numerusform>%1 giorni e %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <comment>a step</comment>
+        <translation>annullato</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <comment>a step</comment>
+        <translation>abbandonato</translation>
+    </message>
+    <message>
+        <source>There is nothing that could be undone.</source>
+        <translation>Non c’è nulla che si possa annullare.</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>COSA</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <comment>so many bytes</comment>
+        <translation>CONSERVATI</translation>
+    </message>
+    <message>
+        <source>Left as they are</source>
+        <translation>Lasciati come sono</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <translation>Nulla di «%1» è stato ripetuto.</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <translation>Nulla di «%1» è stato annullato.</translation>
+    </message>
+    <message>
+        <source>Done again: %1.</source>
+        <translation>Ripetuto: %1.</translation>
+    </message>
+    <message>
+        <source>Taken back: %1.</source>
+        <translation>Annullato: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Done again: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Ripetuto: %1, tranne %2 file.</numerusform>
+            <numerusform>Ripetuto: %1, tranne %2 file.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Taken back: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Annullato: %1, tranne %2 file.</numerusform>
+            <numerusform>Annullato: %1, tranne %2 file.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <translation>I passi più vecchi lo attendono; «lumidex undo --skip» lo lascia definitivamente com’è.</translation>
+    </message>
+    <message>
+        <source>There is nothing to skip.</source>
+        <translation>Non c’è nulla da saltare.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Abbandonato: %1.</translation>
+    </message>
+    <message>
+        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <translation>Ciò che ne è conservato (%1) resta finché non è troppo vecchio o troppo grande.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 older steps cannot be undone any more.</source>
+        <translation>
+            <numerusform>%1 passo più vecchio non si può più annullare.</numerusform>
+            <numerusform>%1 passi più vecchi non si possono più annullare.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Steps can be undone within %1.</source>
+        <translation>I passi si possono annullare entro %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Non c’è nulla da ripetere.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Non c’è nulla da annullare.</translation>
+    </message>
+</context>
+<context>
+    <name>Zenvora::Lumidex::Utils</name>
+    <message>
+        <source>Attention</source>
+        <translation>Attenzione</translation>
+    </message>
+    <message>
+        <source>All of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Nessuno dei file selezionati dispone dei permessi di lettura; non verranno aggiunti.</translation>
+    </message>
+    <message>
+        <source>Some of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Alcuni dei file selezionati non dispongono dei permessi di lettura; non verranno aggiunti.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</source>
+        <translation>Alcune delle foto selezionate si trovano su un supporto rimovibile. Copiarle sul disco rigido?</translation>
+    </message>
+    <message>
+        <source>The selected directory is temporary, select another directory.</source>
+        <translation>La cartella selezionata è temporanea. Selezioni un’altra cartella.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
+        <translation>Alcune delle foto selezionate sono in formati di sola lettura (per esempio %1). Dopo l’applicazione dello strumento saranno convertite in JPG o PNG.</translation>
+    </message>
+    <message>
+        <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
+        <translation>La foto selezionata è in un formato di sola lettura (%1). Dopo l’applicazione dello strumento sarà convertita in JPG o PNG.</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk %1</source>
+        <translation>Spazio insufficiente sul disco %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit files in this folder: %1</source>
+        <translation>Non dispone dei permessi per modificare i file in questa cartella: %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit file: %1</source>
+        <translation>Non dispone dei permessi per modificare il file: %1</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>giorno</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>giorni</translation>
+    </message>
+    <message>
+        <source>Expired</source>
+        <translation>Scaduto</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>One day</source>
+        <translation>giorno</translation>
+    </message>
+    <message>
+        <source>Nominative day</source>
+        <translation>giorni</translation>
+    </message>
+    <message>
+        <source>Genetive day</source>
+        <translation>giorni</translation>
+    </message>
+    <message>
+        <source>Plural day</source>
+        <translation>giorni</translation>
+    </message>
+    <message>
+        <source>One album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>Nominative album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>Genetive album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>Plural album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>albums</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>One group</source>
+        <translation>gruppo</translation>
+    </message>
+    <message>
+        <source>Nominative group</source>
+        <translation>gruppi</translation>
+    </message>
+    <message>
+        <source>Genetive group</source>
+        <translation>gruppi</translation>
+    </message>
+    <message>
+        <source>Plural group</source>
+        <translation>gruppi</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>gruppo</translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation>gruppi</translation>
+    </message>
+    <message>
+        <source>One photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Nominative photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Genetive photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Plural photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>foto</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1477 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Select folder</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>すべてはい(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>いいえ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>すべていいえ(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>すべて保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>無視</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Albums</source>
+        <translation>アルバム</translation>
+    </message>
+    <message>
+        <source>Proposed albums</source>
+        <translation>アルバムの候補</translation>
+    </message>
+    <message>
+        <source>Similar photos</source>
+        <translation>似ている写真</translation>
+    </message>
+    <message>
+        <source>Groups by year</source>
+        <translation>年ごとのグループ</translation>
+    </message>
+    <message>
+        <source>No similar photos</source>
+        <translation>似ている写真はありません</translation>
+    </message>
+    <message>
+        <source>Groups appear here once the catalogue holds photos that are alike.</source>
+        <translation>似ている写真がカタログに入ると、ここにグループが表示されます。</translation>
+    </message>
+    <message>
+        <source>Albums by year</source>
+        <translation>年ごとのアルバム</translation>
+    </message>
+    <message>
+        <source>No albums yet</source>
+        <translation>アルバムはまだありません</translation>
+    </message>
+    <message>
+        <source>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</source>
+        <translation>祝日や、ある月の週末の写真が十分に集まると、ここにアルバムが表示されます。ほかのフォルダーを読み込んで、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Unnamed album</source>
+        <translation>名前のないアルバム</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>日付なし</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>採用済み</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>画像なし</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more</source>
+        <translation>
+            <numerusform>ほか%1枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Made with Lumidex. This page holds all its pictures and needs no other file.</source>
+        <translation>Lumidexで作成しました。このページにはすべての画像が含まれており、ほかのファイルは必要ありません。</translation>
+    </message>
+</context>
+<context>
+    <name>Terminal</name>
+    <message>
+        <source>Drawing</source>
+        <translation>描画中</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <comment>of so many</comment>
+        <translation>枚の画像</translation>
+    </message>
+    <message>
+        <source>The catalogue holds no photos yet. Run: lumidex scan DIR</source>
+        <translation>カタログにはまだ写真がありません。次を実行してください: lumidex scan フォルダー</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <translation>
+            <numerusform>前回の読み込みで、カタログの写真%1枚がすべて見つかりませんでした。ディスクが外れていませんか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation>中断しました。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>a name</comment>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>No album was accepted.</source>
+        <translation>採用したアルバムはありません。</translation>
+    </message>
+    <message>
+        <source>Accepted before that: %1.</source>
+        <translation>その前に採用したもの: %1。</translation>
+    </message>
+    <message>
+        <source>The page %1 is written; it shows all chosen albums as accepted.</source>
+        <translation>ページ %1 は書き込み済みです。選んだアルバムはすべて採用済みとして表示されます。</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message numerus="yes">
+        <source>yes, %1 more now</source>
+        <translation>
+            <numerusform>はい、現在さらに%1枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ALBUM</source>
+        <translation>アルバム</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <translation>時期</translation>
+    </message>
+    <message>
+        <source>FIRST DAY</source>
+        <translation>最初の日</translation>
+    </message>
+    <message>
+        <source>LAST DAY</source>
+        <translation>最後の日</translation>
+    </message>
+    <message>
+        <source>PHOTOS</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>ACCEPTED</source>
+        <translation>採用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 photos)</source>
+        <translation>
+            <numerusform>%1 (写真%2枚)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Accepted %1: %2 photos.</source>
+        <translation>
+            <numerusform>%1 を採用しました: 写真%2枚。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %1 photos to %2, accepted before.</source>
+        <translation>
+            <numerusform>採用済みの %2 に写真%1枚を追加しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1, accepted before.</source>
+        <translation>採用済みの %1 に変更はありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <comment>albums from</comment>
+        <translation>
+            <numerusform>写真%1枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 of them have no date</source>
+        <comment>photos; how many</comment>
+        <translation>
+            <numerusform>%1 (うち%2枚は日付なし)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>採用したアルバムはまだありません。「lumidex albums」で候補が表示されます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 accepted albums.</source>
+        <translation>
+            <numerusform>採用済みのアルバム%1件。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</source>
+        <translation>%1から提案できるアルバムはありません。アルバムには、同じ祝日、
+または同じ月の週末の写真が20枚以上必要です。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 albums</source>
+        <translation>
+            <numerusform>アルバム%1件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 from %2; %3 accepted.</source>
+        <comment>albums, photos, how many</comment>
+        <translation>
+            <numerusform>%2から%1、採用済み%3件。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Calendar: %1 (from the server)</source>
+        <translation>カレンダー: %1 (サーバーから)</translation>
+    </message>
+    <message>
+        <source>Calendar: %1</source>
+        <translation>カレンダー: %1</translation>
+    </message>
+    <message>
+        <source>The calendar has no holidays for %1.</source>
+        <translation>カレンダーに %1 の祝日はありません。</translation>
+    </message>
+    <message>
+        <source>HOLIDAY</source>
+        <translation>祝日</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>日数</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(名前なし)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holidays for %2.</source>
+        <translation>
+            <numerusform>%2 の祝日%1件。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no mistakes found.</source>
+        <translation>%1: 誤りは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>イベント%1</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <comment>of the events of a language</comment>
+        <translation>一覧</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 mistakes found.</source>
+        <translation>
+            <numerusform>%1: 誤りが%2件見つかりました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The calendar was not updated: %1</source>
+        <translation>カレンダーは更新されませんでした: %1</translation>
+    </message>
+    <message>
+        <source>There is no calendar.</source>
+        <translation>カレンダーがありません。</translation>
+    </message>
+    <message>
+        <source>In use as before: %1</source>
+        <translation>これまでどおり使用中: %1</translation>
+    </message>
+    <message>
+        <source>The calendar was updated: %1</source>
+        <translation>カレンダーを更新しました: %1</translation>
+    </message>
+    <message>
+        <source>The calendar is up to date: %1</source>
+        <translation>カレンダーは最新です: %1</translation>
+    </message>
+    <message>
+        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>祝日カレンダーを最後まで読めなかったため、一部の祝日がありません。次をお試しください: lumidex calendar check または lumidex calendar update</translation>
+    </message>
+    <message>
+        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>祝日カレンダー %1 を最後まで読めなかったため、一部の祝日がありません。次をお試しください: lumidex calendar check または lumidex calendar update</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>読み取り不可</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>空き容量</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Volume of</source>
+        <translation>ボリューム</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル数</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>必要</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <comment>room on a disk</comment>
+        <translation>空き</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>free room</comment>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>理由</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files checked</source>
+        <translation>
+            <numerusform>ファイル%1個を確認</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is in the way.</source>
+        <translation>問題はありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 things in the way.</source>
+        <translation>
+            <numerusform>問題%1件。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was changed.</source>
+        <translation>中断しました。何も変更していません。</translation>
+    </message>
+    <message>
+        <source>There are no photos in the given folders.</source>
+        <translation>指定したフォルダーに写真はありません。</translation>
+    </message>
+    <message>
+        <source>Trying</source>
+        <translation>試行中</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <comment>of so many</comment>
+        <translation>枚の写真</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>編集中</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay so.</source>
+        <translation>中断しました。それまでに編集した写真はそのままです。</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>正立</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>上下逆</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>上下逆、左右反転</translation>
+    </message>
+    <message>
+        <source>turned left, mirrored</source>
+        <translation>左回転、左右反転</translation>
+    </message>
+    <message>
+        <source>turned right</source>
+        <translation>右回転</translation>
+    </message>
+    <message>
+        <source>turned right, mirrored</source>
+        <translation>右回転、左右反転</translation>
+    </message>
+    <message>
+        <source>turned left</source>
+        <translation>左回転</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>日付なし</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos would be edited. This was a dry run: nothing was changed.</source>
+        <translation>
+            <numerusform>写真%1枚を編集することになります。これは試行です。何も変更していません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>何も変更していません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>写真%1枚を編集しました。「lumidex undo」で元に戻せます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited.</source>
+        <translation>
+            <numerusform>写真%1枚を編集しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be edited</source>
+        <translation>編集できません</translation>
+    </message>
+    <message>
+        <source>Not edited</source>
+        <translation>編集しませんでした</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>比較中</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <comment>of so many</comment>
+        <translation>個のファイル</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>コピー中</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <translation>中断しました。コピー済みのものは完全で、比較も済んでいます。同じコマンドで残りをコピーします。</translation>
+    </message>
+    <message>
+        <source>Would be copied to %1:</source>
+        <translation>%1 へコピーするもの:</translation>
+    </message>
+    <message>
+        <source>Would be taken in where they lie:</source>
+        <translation>元の場所のまま取り込むもの:</translation>
+    </message>
+    <message>
+        <source>These files are of one shot each, and the free names for them are not:</source>
+        <translation>次のファイルはそれぞれ同じ撮影のものですが、空いている名前ではそうなりません:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>見つからないもの:</translation>
+    </message>
+    <message>
+        <source>Not taken into the catalogue:</source>
+        <translation>カタログに取り込まなかったもの:</translation>
+    </message>
+    <message>
+        <source>It is not named like a photo</source>
+        <translation>写真の名前ではありません</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>除外したもの:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more (--json lists them)</source>
+        <translation>
+            <numerusform>ほか%1件 (--json ですべて表示)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos in the catalogue already.</source>
+        <translation>
+            <numerusform>写真%1枚はすでにカタログにあります。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files copied before.</source>
+        <translation>
+            <numerusform>ファイル%1個は以前にコピー済みです。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos there twice among the sources.</source>
+        <translation>
+            <numerusform>写真%1枚が取り込み元に重複しています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>何も取り込みませんでした。</translation>
+    </message>
+    <message>
+        <source>Nothing would be imported.</source>
+        <translation>何も取り込まれません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) would be copied</source>
+        <translation>
+            <numerusform>ファイル%1個 (%2) をコピーし</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos taken in where they lie.</source>
+        <comment>would be</comment>
+        <translation>
+            <numerusform>写真%1枚を元の場所のまま取り込むことになります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run:
+nothing was changed.</source>
+        <translation>これは試行です。
+何も変更していません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) copied to %3, each compared.</source>
+        <translation>
+            <numerusform>ファイル%1個 (%2) を %3 へコピーし、すべて比較しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos new in the catalogue.</source>
+        <translation>
+            <numerusform>カタログに新しい写真%1枚。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing; the same command tries again.</source>
+        <translation>
+            <numerusform>ファイル%1個がありません。同じコマンドでもう一度試します。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>a heading</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>There is no %1; %2 is used.</source>
+        <comment>languages</comment>
+        <translation>%1 はありません。%2 を使います。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>done, all, what</comment>
+        <translation>%2%3のうち%1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3 found so far</source>
+        <comment>done, all, what</comment>
+        <translation>これまでに見つかった%2%3のうち%1</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <comment>minutes and seconds</comment>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>y yes</source>
+        <comment>answers, all that mean it</comment>
+        <translation>h はい</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was renamed.</source>
+        <translation>中断しました。何も名前を変更していません。</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>読み取り中</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>名前を変更中</translation>
+    </message>
+    <message>
+        <source>Cannot be renamed:</source>
+        <translation>名前を変更できないもの:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <translation>
+            <numerusform>写真%1枚には固有の日付がないため、ファイルの時刻を使います。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files have their names already.</source>
+        <translation>
+            <numerusform>ファイル%1個はすでにその名前です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>何も名前を変更しません: 写真%2枚のうち%1枚は新しい名前にできません。
+--skip-problems を付けると、残りの名前を変更します。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>何も名前を変更していません: 写真%2枚のうち%1枚は新しい名前にできません。
+--skip-problems を付けると、残りの名前を変更します。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to rename.</source>
+        <translation>名前を変更するものはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be renamed. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1の名前を変更することになります。これは試行です。何も変更していません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was renamed.</source>
+        <translation>何も名前を変更していません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files could not be given back the old name.</source>
+        <translation>
+            <numerusform>ファイル%1個は元の名前に戻せませんでした。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1の名前を変更しました。「lumidex undo」で元に戻せます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1の名前を変更しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>妨げになっているもの</translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>レポート: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pictures could not be read and got a placeholder.</source>
+        <translation>
+            <numerusform>画像%1枚を読み取れなかったため、代わりの枠を表示しています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Made %1 photos in %2</source>
+        <translation>
+            <numerusform>写真%1枚を %2 に作成しました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
+        <translation>中断しました。それまでに作成した写真は残っています。もう一度試す前にフォルダーを削除してください。</translation>
+    </message>
+    <message>
+        <source>not an image</source>
+        <translation>画像ではない</translation>
+    </message>
+    <message>
+        <source>loop</source>
+        <translation>循環</translation>
+    </message>
+    <message>
+        <source>Not taken in:</source>
+        <translation>取り込まなかったもの:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 original</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>撮影日時%1件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 digitised</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>デジタル化日時%1件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file time</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>ファイルの時刻%1件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 none</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>なし%1件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates read: %1</source>
+        <translation>読み取った日付: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>files found</source>
+        <translation>
+            <numerusform>個のファイルを発見</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>new</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>個が新規</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>read again</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>個を再読み取り</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>changed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>個が変更</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>unchanged</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>個は変更なし</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>gone, now marked lost</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>個が見つからず、消失と記録</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing was stored.</source>
+        <translation>これは試行です。何も保存していません。</translation>
+    </message>
+    <message>
+        <source>Catalogue: %1</source>
+        <translation>カタログ: %1</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>読み込み中</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <translation>中断しました。それまでに読み取ったものはカタログにあります。同じコマンドで続きから始めます。</translation>
+    </message>
+    <message>
+        <source>Looking at</source>
+        <translation>確認中</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>グループ分け中</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>測定中</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was moved is in the trash.</source>
+        <translation>中断しました。移動したものはごみ箱にあります。</translation>
+    </message>
+    <message>
+        <source>Interrupted. The same command goes on from there.</source>
+        <translation>中断しました。同じコマンドで続きから始めます。</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was moved.</source>
+        <translation>中断しました。何も移動していません。</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash? [y/N]</source>
+        <translation>%1をごみ箱に移動しますか? [h/N]</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>移動中</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos like %2</source>
+        <translation>
+            <numerusform>%2 に似た写真%1枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <comment>a file</comment>
+        <translation>残すもの: %1</translation>
+    </message>
+    <message>
+        <source>Keep %1: %2</source>
+        <comment>a file: why</comment>
+        <translation>残すもの: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, %2, score %3</source>
+        <comment>pixels, size, number</comment>
+        <translation>%1、%2、類似度 %3</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <comment>photo</comment>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>sharpest</source>
+        <comment>photo</comment>
+        <translation>最も鮮明</translation>
+    </message>
+    <message>
+        <source>has camera data</source>
+        <translation>カメラ情報あり</translation>
+    </message>
+    <message>
+        <source>earliest</source>
+        <comment>photo</comment>
+        <translation>最も古い</translation>
+    </message>
+    <message>
+        <source>first by name</source>
+        <translation>名前順で先頭</translation>
+    </message>
+    <message>
+        <source>Not compared:</source>
+        <translation>比較しなかったもの:</translation>
+    </message>
+    <message numerus="yes">
+        <source>No similar photos among %1 photos.</source>
+        <translation>
+            <numerusform>写真%1枚の中に似ている写真はありません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 groups of similar photos</source>
+        <translation>
+            <numerusform>似ている写真のグループ%1件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>among %1 photos</source>
+        <translation>
+            <numerusform>写真%1枚の中に</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos (%2) besides those to keep.</source>
+        <translation>
+            <numerusform>残すもの以外の写真%1枚 (%2)。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2; %3</source>
+        <comment>groups of similar photos; among how many; others</comment>
+        <translation>%2%1、%3</translation>
+    </message>
+    <message>
+        <source>keep</source>
+        <comment>a photo</comment>
+        <translation>残す</translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>it goes there</comment>
+        <translation>ごみ箱</translation>
+    </message>
+    <message>
+        <source>stay</source>
+        <comment>a photo does</comment>
+        <translation>そのまま</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1, %2 photos:</source>
+        <translation>
+            <numerusform>グループ%1、写真%2枚:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>PHOTO</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>CLUSTER</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>TO ITS CENTRE</source>
+        <translation>中心との類似度</translation>
+    </message>
+    <message>
+        <source>TO ITS OWN CENTRE</source>
+        <translation>自分の中心との類似度</translation>
+    </message>
+    <message>
+        <source>TO THE OTHER&apos;S</source>
+        <translation>相手の中心との類似度</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in one group.</source>
+        <translation>2枚の写真の類似度は %1 で、同じグループに入っています。</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in different groups.</source>
+        <translation>2枚の写真の類似度は %1 で、別々のグループに入っています。</translation>
+    </message>
+    <message>
+        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</source>
+        <translation>写真は、その時点の写真の平均であるグループの中心との類似度が %1 を
+超えた最初のグループに入ります。その後の写真は中心を動かします。</translation>
+    </message>
+    <message>
+        <source>The groups are as matching all photos again makes them.</source>
+        <translation>グループは、すべての写真を比較し直した結果と同じです。</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <translation>「lumidex similar --anew」でグループを最初から作り直します。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <translation>
+            <numerusform>写真%1枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 files)</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 (ファイル%2個)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>so many photos</comment>
+        <translation>%1の名前を変更</translation>
+    </message>
+    <message>
+        <source>shift dates by %1</source>
+        <translation>日付を %1 ずらす</translation>
+    </message>
+    <message>
+        <source>set dates to %1</source>
+        <translation>日付を %1 に設定</translation>
+    </message>
+    <message>
+        <source>rotate left</source>
+        <translation>左に回転</translation>
+    </message>
+    <message>
+        <source>rotate right</source>
+        <translation>右に回転</translation>
+    </message>
+    <message>
+        <source>rotate 180</source>
+        <translation>180度回転</translation>
+    </message>
+    <message>
+        <source>move similar photos to the trash</source>
+        <translation>似ている写真をごみ箱に移動</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>すべてはい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>すべていいえ</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>すべて保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>無視</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Restore defaults</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Nothing to move to the trash.</source>
+        <translation>ごみ箱に移動するものはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be moved to the trash. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1をごみ箱に移動することになります。これは試行です。何も変更していません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was moved.</source>
+        <translation>何も移動していません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1をごみ箱に移動しました。「lumidex undo」で、まだそこにあるものを元に戻せます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1をごみ箱に移動しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files</source>
+        <translation>
+            <numerusform>ファイル%1個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not moved:</source>
+        <translation>移動しなかったもの:</translation>
+    </message>
+    <message>
+        <source>Left where they are</source>
+        <translation>元の場所に残したもの</translation>
+    </message>
+    <message>
+        <source>Doing again</source>
+        <translation>やり直し中</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>元に戻し中</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was done so far stays so.</source>
+        <translation>中断しました。それまでに行ったことはそのままです。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 steps of the %2 asked for.</source>
+        <translation>
+            <numerusform>%2件のうち%1件だけです。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <translation>設定 %1 の値が正しくありません (%2)。通常の上限を使います。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days and %2</source>
+        <comment>within so many</comment>
+        <translation>
+            <numerusform>%1日間、%2まで</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <comment>a step</comment>
+        <translation>取り消し済み</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <comment>a step</comment>
+        <translation>断念</translation>
+    </message>
+    <message>
+        <source>There is nothing that could be undone.</source>
+        <translation>元に戻せるものはありません。</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>ファイル数</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <comment>so many bytes</comment>
+        <translation>保管</translation>
+    </message>
+    <message>
+        <source>Left as they are</source>
+        <translation>そのまま残したもの</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <translation>「%1」は何もやり直していません。</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <translation>「%1」は何も元に戻していません。</translation>
+    </message>
+    <message>
+        <source>Done again: %1.</source>
+        <translation>やり直しました: %1。</translation>
+    </message>
+    <message>
+        <source>Taken back: %1.</source>
+        <translation>元に戻しました: %1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Done again: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>やり直しました: %1 (ファイル%2個を除く)。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Taken back: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>元に戻しました: %1 (ファイル%2個を除く)。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <translation>それより前の操作はこれを待っています。「lumidex undo --skip」で、これをこのまま確定します。</translation>
+    </message>
+    <message>
+        <source>There is nothing to skip.</source>
+        <translation>飛ばすものはありません。</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>断念しました: %1。</translation>
+    </message>
+    <message>
+        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <translation>保管しているもの (%1) は、古くなりすぎるか多くなりすぎるまで残ります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 older steps cannot be undone any more.</source>
+        <translation>
+            <numerusform>以前の操作%1件は、もう元に戻せません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Steps can be undone within %1.</source>
+        <translation>操作を元に戻せる範囲: %1。</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>やり直すものはありません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>元に戻すものはありません。</translation>
+    </message>
+</context>
+<context>
+    <name>Zenvora::Lumidex::Utils</name>
+    <message>
+        <source>Attention</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>All of the selected files do not have read permissions, they will not be added.</source>
+        <translation>選択したファイルはいずれも読み取り権限がないため、追加されません。</translation>
+    </message>
+    <message>
+        <source>Some of the selected files do not have read permissions, they will not be added.</source>
+        <translation>選択したファイルの一部は読み取り権限がないため、追加されません。</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</source>
+        <translation>選択した写真の一部はリムーバブルストレージにあります。ハードディスクにコピーしますか?</translation>
+    </message>
+    <message>
+        <source>The selected directory is temporary, select another directory.</source>
+        <translation>選択したフォルダーは一時的なものです。別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
+        <translation>選択した写真の一部は読み取り専用の形式です (例: %1)。ツールを適用すると、JPGまたはPNGに変換されます。</translation>
+    </message>
+    <message>
+        <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
+        <translation>選択した写真は読み取り専用の形式です (%1)。ツールを適用すると、JPGまたはPNGに変換されます。</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk %1</source>
+        <translation>ディスク %1 の空き容量が足りません</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit files in this folder: %1</source>
+        <translation>このフォルダー内のファイルを編集する権限がありません: %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit file: %1</source>
+        <translation>このファイルを編集する権限がありません: %1</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Expired</source>
+        <translation>期限切れ</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>One day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Nominative day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Genetive day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Plural day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>One album</source>
+        <translation>件のアルバム</translation>
+    </message>
+    <message>
+        <source>Nominative album</source>
+        <translation>件のアルバム</translation>
+    </message>
+    <message>
+        <source>Genetive album</source>
+        <translation>件のアルバム</translation>
+    </message>
+    <message>
+        <source>Plural album</source>
+        <translation>件のアルバム</translation>
+    </message>
+    <message>
+        <source>album</source>
+        <translation>件のアルバム</translation>
+    </message>
+    <message>
+        <source>albums</source>
+        <translation>件のアルバム</translation>
+    </message>
+    <message>
+        <source>One group</source>
+        <translation>件のグループ</translation>
+    </message>
+    <message>
+        <source>Nominative group</source>
+        <translation>件のグループ</translation>
+    </message>
+    <message>
+        <source>Genetive group</source>
+        <translation>件のグループ</translation>
+    </message>
+    <message>
+        <source>Plural group</source>
+        <translation>件のグループ</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>件のグループ</translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation>件のグループ</translation>
+    </message>
+    <message>
+        <source>One photo</source>
+        <translation>枚の写真</translation>
+    </message>
+    <message>
+        <source>Nominative photo</source>
+        <translation>枚の写真</translation>
+    </message>
+    <message>
+        <source>Genetive photo</source>
+        <translation>枚の写真</translation>
+    </message>
+    <message>
+        <source>Plural photo</source>
+        <translation>枚の写真</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>枚の写真</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>枚の写真</translation>
+    </message>
+</context>
+</TS>

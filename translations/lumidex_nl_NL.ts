@@ -1,0 +1,1543 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl_NL" sourcelanguage="en_US">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Select folder</source>
+        <translation>Map kiezen</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Ja op &amp;alles</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nee</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;ee op alles</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Alles opslaan</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Negeren</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Afbreken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerpen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Toepassen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>Standaardwaarden herstellen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Albums</source>
+        <translation>Albums</translation>
+    </message>
+    <message>
+        <source>Proposed albums</source>
+        <translation>Voorgestelde albums</translation>
+    </message>
+    <message>
+        <source>Similar photos</source>
+        <translation>Gelijkende foto’s</translation>
+    </message>
+    <message>
+        <source>Groups by year</source>
+        <translation>Groepen per jaar</translation>
+    </message>
+    <message>
+        <source>No similar photos</source>
+        <translation>Geen gelijkende foto’s</translation>
+    </message>
+    <message>
+        <source>Groups appear here once the catalogue holds photos that are alike.</source>
+        <translation>Hier verschijnen groepen zodra de catalogus foto’s bevat die op elkaar lijken.</translation>
+    </message>
+    <message>
+        <source>Albums by year</source>
+        <translation>Albums per jaar</translation>
+    </message>
+    <message>
+        <source>No albums yet</source>
+        <translation>Nog geen albums</translation>
+    </message>
+    <message>
+        <source>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</source>
+        <translation>Hier verschijnen albums zodra er genoeg foto’s zijn van een feestdag of van de weekenden van een maand. Lees meer mappen in en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>Unnamed album</source>
+        <translation>Album zonder naam</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Zonder datum</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Geaccepteerd</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Geen afbeelding</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more</source>
+        <translation>
+            <numerusform>en nog %1</numerusform>
+            <numerusform>en nog %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Made with Lumidex. This page holds all its pictures and needs no other file.</source>
+        <translation>Gemaakt met Lumidex. Deze pagina bevat al haar afbeeldingen en heeft geen andere bestanden nodig.</translation>
+    </message>
+</context>
+<context>
+    <name>Terminal</name>
+    <message>
+        <source>Drawing</source>
+        <translation>Tekenen</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <comment>of so many</comment>
+        <translation>afbeeldingen</translation>
+    </message>
+    <message>
+        <source>The catalogue holds no photos yet. Run: lumidex scan DIR</source>
+        <translation>De catalogus bevat nog geen foto’s. Voer uit: lumidex scan MAP</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <translation>
+            <numerusform>De %1 foto van de catalogus was bij het laatste inlezen verdwenen. Ontbreekt er een schijf?</numerusform>
+            <numerusform>Alle %1 foto’s van de catalogus waren bij het laatste inlezen verdwenen. Ontbreekt er een schijf?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation>Afgebroken.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>a name</comment>
+        <translation>‘%1’</translation>
+    </message>
+    <message>
+        <source>No album was accepted.</source>
+        <translation>Er is geen album geaccepteerd.</translation>
+    </message>
+    <message>
+        <source>Accepted before that: %1.</source>
+        <translation>Daarvoor geaccepteerd: %1.</translation>
+    </message>
+    <message>
+        <source>The page %1 is written; it shows all chosen albums as accepted.</source>
+        <translation>De pagina %1 is geschreven; alle gekozen albums staan er als geaccepteerd op.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message numerus="yes">
+        <source>yes, %1 more now</source>
+        <translation>
+            <numerusform>ja, nu nog %1</numerusform>
+            <numerusform>ja, nu nog %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ALBUM</source>
+        <translation>ALBUM</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <translation>WANNEER</translation>
+    </message>
+    <message>
+        <source>FIRST DAY</source>
+        <translation>EERSTE DAG</translation>
+    </message>
+    <message>
+        <source>LAST DAY</source>
+        <translation>LAATSTE DAG</translation>
+    </message>
+    <message>
+        <source>PHOTOS</source>
+        <translation>FOTO’S</translation>
+    </message>
+    <message>
+        <source>ACCEPTED</source>
+        <translation>GEACCEPTEERD</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 photos)</source>
+        <translation>
+            <numerusform>%1 (%2 foto)</numerusform>
+            <numerusform>%1 (%2 foto’s)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Accepted %1: %2 photos.</source>
+        <translation>
+            <numerusform>%1 geaccepteerd: %2 foto.</numerusform>
+            <numerusform>%1 geaccepteerd: %2 foto’s.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %1 photos to %2, accepted before.</source>
+        <translation>
+            <numerusform>%1 foto toegevoegd aan het al geaccepteerde %2.</numerusform>
+            <numerusform>%1 foto’s toegevoegd aan het al geaccepteerde %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1, accepted before.</source>
+        <translation>Niets te wijzigen in het al geaccepteerde %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <comment>albums from</comment>
+        <translation>
+            <numerusform>%1 foto</numerusform>
+            <numerusform>%1 foto’s</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 of them have no date</source>
+        <comment>photos; how many</comment>
+        <translation>
+            <numerusform>%1, waarvan %2 zonder datum</numerusform>
+            <numerusform>%1, waarvan %2 zonder datum</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>Er is nog geen album geaccepteerd. ‘lumidex albums’ toont voorstellen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 accepted albums.</source>
+        <translation>
+            <numerusform>%1 geaccepteerd album.</numerusform>
+            <numerusform>%1 geaccepteerde albums.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</source>
+        <translation>Geen albums voor te stellen uit %1: een album heeft minstens 20 foto’s nodig
+van één feestdag of van de weekenden van één maand.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 albums</source>
+        <translation>
+            <numerusform>%1 album</numerusform>
+            <numerusform>%1 albums</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 from %2; %3 accepted.</source>
+        <comment>albums, photos, how many</comment>
+        <translation>
+            <numerusform>%1 uit %2; %3 geaccepteerd.</numerusform>
+            <numerusform>%1 uit %2; %3 geaccepteerd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Calendar: %1 (from the server)</source>
+        <translation>Kalender: %1 (van de server)</translation>
+    </message>
+    <message>
+        <source>Calendar: %1</source>
+        <translation>Kalender: %1</translation>
+    </message>
+    <message>
+        <source>The calendar has no holidays for %1.</source>
+        <translation>De kalender heeft geen feestdagen voor %1.</translation>
+    </message>
+    <message>
+        <source>HOLIDAY</source>
+        <translation>FEESTDAG</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>DAGEN</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(zonder naam)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holidays for %2.</source>
+        <translation>
+            <numerusform>%1 feestdag voor %2.</numerusform>
+            <numerusform>%1 feestdagen voor %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no mistakes found.</source>
+        <translation>%1: geen fouten gevonden.</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>gebeurtenis %1</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <comment>of the events of a language</comment>
+        <translation>lijst</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 mistakes found.</source>
+        <translation>
+            <numerusform>%1: %2 fout gevonden.</numerusform>
+            <numerusform>%1: %2 fouten gevonden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The calendar was not updated: %1</source>
+        <translation>De kalender is niet bijgewerkt: %1</translation>
+    </message>
+    <message>
+        <source>There is no calendar.</source>
+        <translation>Er is geen kalender.</translation>
+    </message>
+    <message>
+        <source>In use as before: %1</source>
+        <translation>Nog steeds in gebruik: %1</translation>
+    </message>
+    <message>
+        <source>The calendar was updated: %1</source>
+        <translation>De kalender is bijgewerkt: %1</translation>
+    </message>
+    <message>
+        <source>The calendar is up to date: %1</source>
+        <translation>De kalender is actueel: %1</translation>
+    </message>
+    <message>
+        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>De feestdagenkalender kon niet tot het einde worden gelezen, dus er ontbreken feestdagen. Probeer: lumidex calendar check of lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>De feestdagenkalender %1 kon niet tot het einde worden gelezen, dus er ontbreken feestdagen. Probeer: lumidex calendar check of lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>onleesbaar</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>formaat</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>ruimte</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>map</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>bestand</translation>
+    </message>
+    <message>
+        <source>Volume of</source>
+        <translation>Volume van</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Nodig</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <comment>room on a disk</comment>
+        <translation>Vrij</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>free room</comment>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Wat</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Waar</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Waarom</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files checked</source>
+        <translation>
+            <numerusform>%1 bestand gecontroleerd</numerusform>
+            <numerusform>%1 bestanden gecontroleerd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is in the way.</source>
+        <translation>niets staat in de weg.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 things in the way.</source>
+        <translation>
+            <numerusform>%1 obstakel.</numerusform>
+            <numerusform>%1 obstakels.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was changed.</source>
+        <translation>Afgebroken. Er is niets gewijzigd.</translation>
+    </message>
+    <message>
+        <source>There are no photos in the given folders.</source>
+        <translation>Er staan geen foto’s in de opgegeven mappen.</translation>
+    </message>
+    <message>
+        <source>Trying</source>
+        <translation>Proberen</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <comment>of so many</comment>
+        <translation>foto’s</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Bewerken</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay so.</source>
+        <translation>Afgebroken. De tot nu toe bewerkte foto’s blijven bewerkt.</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>rechtop</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>gespiegeld</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>ondersteboven</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>ondersteboven, gespiegeld</translation>
+    </message>
+    <message>
+        <source>turned left, mirrored</source>
+        <translation>naar links gedraaid, gespiegeld</translation>
+    </message>
+    <message>
+        <source>turned right</source>
+        <translation>naar rechts gedraaid</translation>
+    </message>
+    <message>
+        <source>turned right, mirrored</source>
+        <translation>naar rechts gedraaid, gespiegeld</translation>
+    </message>
+    <message>
+        <source>turned left</source>
+        <translation>naar links gedraaid</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>geen datum</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos would be edited. This was a dry run: nothing was changed.</source>
+        <translation>
+            <numerusform>%1 foto zou worden bewerkt. Dit was een proef: er is niets gewijzigd.</numerusform>
+            <numerusform>%1 foto’s zouden worden bewerkt. Dit was een proef: er is niets gewijzigd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Er is niets gewijzigd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 foto bewerkt; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
+            <numerusform>%1 foto’s bewerkt; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited.</source>
+        <translation>
+            <numerusform>%1 foto bewerkt.</numerusform>
+            <numerusform>%1 foto’s bewerkt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be edited</source>
+        <translation>Niet te bewerken</translation>
+    </message>
+    <message>
+        <source>Not edited</source>
+        <translation>Niet bewerkt</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Vergelijken</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <comment>of so many</comment>
+        <translation>bestanden</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <translation>Afgebroken. Wat is gekopieerd, is volledig en vergeleken; dezelfde opdracht kopieert de rest.</translation>
+    </message>
+    <message>
+        <source>Would be copied to %1:</source>
+        <translation>Zouden worden gekopieerd naar %1:</translation>
+    </message>
+    <message>
+        <source>Would be taken in where they lie:</source>
+        <translation>Zouden op hun plaats worden opgenomen:</translation>
+    </message>
+    <message>
+        <source>These files are of one shot each, and the free names for them are not:</source>
+        <translation>Deze bestanden horen telkens bij één opname, maar de vrije namen ervoor niet:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Ontbreekt:</translation>
+    </message>
+    <message>
+        <source>Not taken into the catalogue:</source>
+        <translation>Niet opgenomen in de catalogus:</translation>
+    </message>
+    <message>
+        <source>It is not named like a photo</source>
+        <translation>De naam is niet die van een foto</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Weggelaten:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more (--json lists them)</source>
+        <translation>
+            <numerusform>en nog %1 (--json somt ze op)</numerusform>
+            <numerusform>en nog %1 (--json somt ze op)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos in the catalogue already.</source>
+        <translation>
+            <numerusform>%1 foto staat al in de catalogus.</numerusform>
+            <numerusform>%1 foto’s staan al in de catalogus.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files copied before.</source>
+        <translation>
+            <numerusform>%1 bestand was al eerder gekopieerd.</numerusform>
+            <numerusform>%1 bestanden waren al eerder gekopieerd.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos there twice among the sources.</source>
+        <translation>
+            <numerusform>%1 foto komt dubbel voor in de bronnen.</numerusform>
+            <numerusform>%1 foto’s komen dubbel voor in de bronnen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Er is niets geïmporteerd.</translation>
+    </message>
+    <message>
+        <source>Nothing would be imported.</source>
+        <translation>Er zou niets worden geïmporteerd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) would be copied</source>
+        <translation>
+            <numerusform>%1 bestand (%2) zou worden gekopieerd</numerusform>
+            <numerusform>%1 bestanden (%2) zouden worden gekopieerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos taken in where they lie.</source>
+        <comment>would be</comment>
+        <translation>
+            <numerusform>%1 foto op zijn plaats opgenomen.</numerusform>
+            <numerusform>%1 foto’s op hun plaats opgenomen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run:
+nothing was changed.</source>
+        <translation>Dit was een proef:
+er is niets gewijzigd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) copied to %3, each compared.</source>
+        <translation>
+            <numerusform>%1 bestand (%2) gekopieerd naar %3 en vergeleken.</numerusform>
+            <numerusform>%1 bestanden (%2) gekopieerd naar %3, elk vergeleken.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos new in the catalogue.</source>
+        <translation>
+            <numerusform>%1 nieuwe foto in de catalogus.</numerusform>
+            <numerusform>%1 nieuwe foto’s in de catalogus.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing; the same command tries again.</source>
+        <translation>
+            <numerusform>%1 bestand ontbreekt; dezelfde opdracht probeert het opnieuw.</numerusform>
+            <numerusform>%1 bestanden ontbreken; dezelfde opdracht probeert het opnieuw.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>a heading</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>There is no %1; %2 is used.</source>
+        <comment>languages</comment>
+        <translation>%1 bestaat niet; %2 wordt gebruikt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>done, all, what</comment>
+        <translation>%1 van %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3 found so far</source>
+        <comment>done, all, what</comment>
+        <translation>%1 van tot nu toe %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <comment>minutes and seconds</comment>
+        <translation>nog %1</translation>
+    </message>
+    <message>
+        <source>y yes</source>
+        <comment>answers, all that mean it</comment>
+        <translation>j ja</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was renamed.</source>
+        <translation>Afgebroken. Er is niets hernoemd.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lezen</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Hernoemen</translation>
+    </message>
+    <message>
+        <source>Cannot be renamed:</source>
+        <translation>Niet te hernoemen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <translation>
+            <numerusform>%1 foto heeft geen eigen datum; de tijd van het bestand wordt gebruikt.</numerusform>
+            <numerusform>%1 foto’s hebben geen eigen datum; de tijden van de bestanden worden gebruikt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files have their names already.</source>
+        <translation>
+            <numerusform>%1 bestand heeft zijn naam al.</numerusform>
+            <numerusform>%1 bestanden hebben hun naam al.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Er zou niets worden hernoemd: de nieuwe naam kan niet bij %1 van %2 foto. Met
+--skip-problems worden de andere hernoemd.</numerusform>
+            <numerusform>Er zou niets worden hernoemd: de nieuwe naam kan niet bij %1 van %2 foto’s. Met
+--skip-problems worden de andere hernoemd.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Er is niets hernoemd: de nieuwe naam kan niet bij %1 van %2 foto. Met
+--skip-problems worden de andere hernoemd.</numerusform>
+            <numerusform>Er is niets hernoemd: de nieuwe naam kan niet bij %1 van %2 foto’s. Met
+--skip-problems worden de andere hernoemd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to rename.</source>
+        <translation>Niets te hernoemen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be renamed. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 zou worden hernoemd. Dit was een proef: er is niets gewijzigd.</numerusform>
+            <numerusform>%1 zouden worden hernoemd. Dit was een proef: er is niets gewijzigd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was renamed.</source>
+        <translation>Er is niets hernoemd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files could not be given back the old name.</source>
+        <translation>
+            <numerusform>%1 bestand kon de oude naam niet terugkrijgen.</numerusform>
+            <numerusform>%1 bestanden konden de oude naam niet terugkrijgen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 hernoemd; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
+            <numerusform>%1 hernoemd; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 hernoemd.</numerusform>
+            <numerusform>%1 hernoemd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>In de weg</translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Rapport: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pictures could not be read and got a placeholder.</source>
+        <translation>
+            <numerusform>%1 afbeelding kon niet worden gelezen en is vervangen door een leeg vak.</numerusform>
+            <numerusform>%1 afbeeldingen konden niet worden gelezen en zijn vervangen door een leeg vak.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Made %1 photos in %2</source>
+        <translation>
+            <numerusform>%1 foto gemaakt in %2</numerusform>
+            <numerusform>%1 foto’s gemaakt in %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
+        <translation>Afgebroken. De tot nu toe gemaakte foto’s blijven staan; verwijder de map voor een nieuwe poging.</translation>
+    </message>
+    <message>
+        <source>not an image</source>
+        <translation>geen afbeelding</translation>
+    </message>
+    <message>
+        <source>loop</source>
+        <translation>lus</translation>
+    </message>
+    <message>
+        <source>Not taken in:</source>
+        <translation>Niet opgenomen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 original</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 van de opname</numerusform>
+            <numerusform>%1 van de opname</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 digitised</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 van de digitalisering</numerusform>
+            <numerusform>%1 van de digitalisering</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file time</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 van de bestandstijd</numerusform>
+            <numerusform>%1 van de bestandstijd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 none</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 zonder</numerusform>
+            <numerusform>%1 zonder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates read: %1</source>
+        <translation>Gelezen datums: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>files found</source>
+        <translation>
+            <numerusform>bestand gevonden</numerusform>
+            <numerusform>bestanden gevonden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>new</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>nieuw</numerusform>
+            <numerusform>nieuw</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>read again</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>opnieuw gelezen</numerusform>
+            <numerusform>opnieuw gelezen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>changed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>gewijzigd</numerusform>
+            <numerusform>gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>unchanged</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>ongewijzigd</numerusform>
+            <numerusform>ongewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>gone, now marked lost</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>verdwenen, nu als verloren gemarkeerd</numerusform>
+            <numerusform>verdwenen, nu als verloren gemarkeerd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing was stored.</source>
+        <translation>Dit was een proef: er is niets opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Catalogue: %1</source>
+        <translation>Catalogus: %1</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Inlezen</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <translation>Afgebroken. Wat tot nu toe is gelezen, staat in de catalogus; dezelfde opdracht gaat daar verder.</translation>
+    </message>
+    <message>
+        <source>Looking at</source>
+        <translation>Bekijken</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Groeperen</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Meten</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was moved is in the trash.</source>
+        <translation>Afgebroken. Wat is verplaatst, ligt in de prullenbak.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The same command goes on from there.</source>
+        <translation>Afgebroken. Dezelfde opdracht gaat daar verder.</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was moved.</source>
+        <translation>Afgebroken. Er is niets verplaatst.</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash? [y/N]</source>
+        <translation>%1 naar de prullenbak verplaatsen? [j/N]</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Verplaatsen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos like %2</source>
+        <translation>
+            <numerusform>%1 foto zoals %2</numerusform>
+            <numerusform>%1 foto’s zoals %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <comment>a file</comment>
+        <translation>Te bewaren: %1</translation>
+    </message>
+    <message>
+        <source>Keep %1: %2</source>
+        <comment>a file: why</comment>
+        <translation>Te bewaren: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, %2, score %3</source>
+        <comment>pixels, size, number</comment>
+        <translation>%1, %2, gelijkenis %3</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <comment>photo</comment>
+        <translation>grootste</translation>
+    </message>
+    <message>
+        <source>sharpest</source>
+        <comment>photo</comment>
+        <translation>scherpste</translation>
+    </message>
+    <message>
+        <source>has camera data</source>
+        <translation>met cameragegevens</translation>
+    </message>
+    <message>
+        <source>earliest</source>
+        <comment>photo</comment>
+        <translation>oudste</translation>
+    </message>
+    <message>
+        <source>first by name</source>
+        <translation>eerste op naam</translation>
+    </message>
+    <message>
+        <source>Not compared:</source>
+        <translation>Niet vergeleken:</translation>
+    </message>
+    <message numerus="yes">
+        <source>No similar photos among %1 photos.</source>
+        <translation>
+            <numerusform>Geen gelijkende foto’s onder %1 foto.</numerusform>
+            <numerusform>Geen gelijkende foto’s onder %1 foto’s.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 groups of similar photos</source>
+        <translation>
+            <numerusform>%1 groep gelijkende foto’s</numerusform>
+            <numerusform>%1 groepen gelijkende foto’s</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>among %1 photos</source>
+        <translation>
+            <numerusform>onder %1 foto</numerusform>
+            <numerusform>onder %1 foto’s</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos (%2) besides those to keep.</source>
+        <translation>
+            <numerusform>%1 foto (%2) naast die om te bewaren.</numerusform>
+            <numerusform>%1 foto’s (%2) naast die om te bewaren.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2; %3</source>
+        <comment>groups of similar photos; among how many; others</comment>
+        <translation>%1 %2; %3</translation>
+    </message>
+    <message>
+        <source>keep</source>
+        <comment>a photo</comment>
+        <translation>bewaren</translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>it goes there</comment>
+        <translation>prullenbak</translation>
+    </message>
+    <message>
+        <source>stay</source>
+        <comment>a photo does</comment>
+        <translation>blijft</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1, %2 photos:</source>
+        <translation>
+            <numerusform>Groep %1, %2 foto:</numerusform>
+            <numerusform>Groep %1, %2 foto’s:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>PHOTO</source>
+        <translation>FOTO</translation>
+    </message>
+    <message>
+        <source>CLUSTER</source>
+        <translation>CLUSTER</translation>
+    </message>
+    <message>
+        <source>TO ITS CENTRE</source>
+        <translation>MET ZIJN MIDDEN</translation>
+    </message>
+    <message>
+        <source>TO ITS OWN CENTRE</source>
+        <translation>MET HET EIGEN MIDDEN</translation>
+    </message>
+    <message>
+        <source>TO THE OTHER&apos;S</source>
+        <translation>MET HET ANDERE</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in one group.</source>
+        <translation>De foto’s lijken voor %1 op elkaar en zitten in één groep.</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in different groups.</source>
+        <translation>De foto’s lijken voor %1 op elkaar en zitten in verschillende groepen.</translation>
+    </message>
+    <message>
+        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</source>
+        <translation>Een foto komt in de eerste groep waarvan het midden, het gemiddelde van de foto’s op dat moment,
+voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</translation>
+    </message>
+    <message>
+        <source>The groups are as matching all photos again makes them.</source>
+        <translation>De groepen zijn zoals een nieuwe vergelijking van alle foto’s ze vormt.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <translation>‘lumidex similar --anew’ vormt de groepen helemaal opnieuw.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <translation>
+            <numerusform>%1 foto</numerusform>
+            <numerusform>%1 foto’s</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 files)</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 (%2 bestand)</numerusform>
+            <numerusform>%1 (%2 bestanden)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>so many photos</comment>
+        <translation>%1 hernoemen</translation>
+    </message>
+    <message>
+        <source>shift dates by %1</source>
+        <translation>datums %1 verschuiven</translation>
+    </message>
+    <message>
+        <source>set dates to %1</source>
+        <translation>datums op %1 zetten</translation>
+    </message>
+    <message>
+        <source>rotate left</source>
+        <translation>naar links draaien</translation>
+    </message>
+    <message>
+        <source>rotate right</source>
+        <translation>naar rechts draaien</translation>
+    </message>
+    <message>
+        <source>rotate 180</source>
+        <translation>180° draaien</translation>
+    </message>
+    <message>
+        <source>move similar photos to the trash</source>
+        <translation>gelijkende foto’s naar de prullenbak verplaatsen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Ja op alles</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nee</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Nee op alles</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>Alles opslaan</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Negeren</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Afbreken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerpen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Toepassen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Restore defaults</source>
+        <translation>Standaardwaarden herstellen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Nothing to move to the trash.</source>
+        <translation>Niets naar de prullenbak te verplaatsen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be moved to the trash. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 zou naar de prullenbak worden verplaatst. Dit was een proef: er is niets gewijzigd.</numerusform>
+            <numerusform>%1 zouden naar de prullenbak worden verplaatst. Dit was een proef: er is niets gewijzigd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was moved.</source>
+        <translation>Er is niets verplaatst.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 naar de prullenbak verplaatst; ‘lumidex undo’ haalt terug wat er nog ligt.</numerusform>
+            <numerusform>%1 naar de prullenbak verplaatst; ‘lumidex undo’ haalt terug wat er nog ligt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 naar de prullenbak verplaatst.</numerusform>
+            <numerusform>%1 naar de prullenbak verplaatst.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files</source>
+        <translation>
+            <numerusform>%1 bestand</numerusform>
+            <numerusform>%1 bestanden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not moved:</source>
+        <translation>Niet verplaatst:</translation>
+    </message>
+    <message>
+        <source>Left where they are</source>
+        <translation>Op hun plaats gelaten</translation>
+    </message>
+    <message>
+        <source>Doing again</source>
+        <translation>Opnieuw uitvoeren</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was done so far stays so.</source>
+        <translation>Afgebroken. Wat tot nu toe is gedaan, blijft zo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 steps of the %2 asked for.</source>
+        <translation>
+            <numerusform>Slechts %1 stap van de %2 gevraagde.</numerusform>
+            <numerusform>Slechts %1 stappen van de %2 gevraagde.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <translation>De instelling %1 is onzinnig (%2); de gebruikelijke grens wordt gebruikt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days and %2</source>
+        <comment>within so many</comment>
+        <translation>
+            <numerusform>%1 dag en %2</numerusform>
+            <numerusform>%1 dagen en %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <comment>a step</comment>
+        <translation>ongedaan gemaakt</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <comment>a step</comment>
+        <translation>opgegeven</translation>
+    </message>
+    <message>
+        <source>There is nothing that could be undone.</source>
+        <translation>Er is niets dat ongedaan kan worden gemaakt.</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>WAT</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>BESTANDEN</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <comment>so many bytes</comment>
+        <translation>BEWAARD</translation>
+    </message>
+    <message>
+        <source>Left as they are</source>
+        <translation>Gelaten zoals ze zijn</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <translation>Van ‘%1’ is niets opnieuw gedaan.</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <translation>Van ‘%1’ is niets ongedaan gemaakt.</translation>
+    </message>
+    <message>
+        <source>Done again: %1.</source>
+        <translation>Opnieuw gedaan: %1.</translation>
+    </message>
+    <message>
+        <source>Taken back: %1.</source>
+        <translation>Ongedaan gemaakt: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Done again: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Opnieuw gedaan: %1, op %2 bestand na.</numerusform>
+            <numerusform>Opnieuw gedaan: %1, op %2 bestanden na.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Taken back: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Ongedaan gemaakt: %1, op %2 bestand na.</numerusform>
+            <numerusform>Ongedaan gemaakt: %1, op %2 bestanden na.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <translation>Oudere stappen wachten erop; ‘lumidex undo --skip’ laat het voorgoed zoals het is.</translation>
+    </message>
+    <message>
+        <source>There is nothing to skip.</source>
+        <translation>Er is niets over te slaan.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Opgegeven: %1.</translation>
+    </message>
+    <message>
+        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <translation>Wat ervan is bewaard (%1), blijft tot het te oud of te veel is.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 older steps cannot be undone any more.</source>
+        <translation>
+            <numerusform>%1 oudere stap kan niet meer ongedaan worden gemaakt.</numerusform>
+            <numerusform>%1 oudere stappen kunnen niet meer ongedaan worden gemaakt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Steps can be undone within %1.</source>
+        <translation>Stappen kunnen ongedaan worden gemaakt binnen %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Er is niets opnieuw te doen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Er is niets ongedaan te maken.</translation>
+    </message>
+</context>
+<context>
+    <name>Zenvora::Lumidex::Utils</name>
+    <message>
+        <source>Attention</source>
+        <translation>Let op</translation>
+    </message>
+    <message>
+        <source>All of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Geen van de geselecteerde bestanden heeft leesrechten; ze worden niet toegevoegd.</translation>
+    </message>
+    <message>
+        <source>Some of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Sommige van de geselecteerde bestanden hebben geen leesrechten; ze worden niet toegevoegd.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</source>
+        <translation>Sommige van de geselecteerde foto’s staan op verwisselbare opslag. Wilt u ze naar de harde schijf kopiëren?</translation>
+    </message>
+    <message>
+        <source>The selected directory is temporary, select another directory.</source>
+        <translation>De geselecteerde map is tijdelijk. Kies een andere map.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
+        <translation>Sommige van de geselecteerde foto’s hebben een alleen-lezen formaat (bijvoorbeeld %1). Na toepassing van het gereedschap worden ze geconverteerd naar JPG of PNG.</translation>
+    </message>
+    <message>
+        <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
+        <translation>De geselecteerde foto heeft een alleen-lezen formaat (%1). Na toepassing van het gereedschap wordt deze geconverteerd naar JPG of PNG.</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk %1</source>
+        <translation>Er is niet genoeg ruimte op de schijf %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit files in this folder: %1</source>
+        <translation>Geen toestemming om bestanden in deze map te bewerken: %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit file: %1</source>
+        <translation>Geen toestemming om dit bestand te bewerken: %1</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>dag</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>dagen</translation>
+    </message>
+    <message>
+        <source>Expired</source>
+        <translation>Verlopen</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>One day</source>
+        <translation>dag</translation>
+    </message>
+    <message>
+        <source>Nominative day</source>
+        <translation>dagen</translation>
+    </message>
+    <message>
+        <source>Genetive day</source>
+        <translation>dagen</translation>
+    </message>
+    <message>
+        <source>Plural day</source>
+        <translation>dagen</translation>
+    </message>
+    <message>
+        <source>One album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>Nominative album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>Genetive album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>Plural album</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>album</source>
+        <translation>album</translation>
+    </message>
+    <message>
+        <source>albums</source>
+        <translation>albums</translation>
+    </message>
+    <message>
+        <source>One group</source>
+        <translation>groep</translation>
+    </message>
+    <message>
+        <source>Nominative group</source>
+        <translation>groepen</translation>
+    </message>
+    <message>
+        <source>Genetive group</source>
+        <translation>groepen</translation>
+    </message>
+    <message>
+        <source>Plural group</source>
+        <translation>groepen</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>groep</translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation>groepen</translation>
+    </message>
+    <message>
+        <source>One photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Nominative photo</source>
+        <translation>foto’s</translation>
+    </message>
+    <message>
+        <source>Genetive photo</source>
+        <translation>foto’s</translation>
+    </message>
+    <message>
+        <source>Plural photo</source>
+        <translation>foto’s</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>foto’s</translation>
+    </message>
+</context>
+</TS>

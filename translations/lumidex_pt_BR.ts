@@ -1,0 +1,1543 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en_US">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Select folder</source>
+        <translation>Selecionar pasta</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sim</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Sim para &amp;todos</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Não</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>Nã&amp;o para todos</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Salvar tudo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorar</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abortar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Redefinir</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>Restaurar padrões</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Albums</source>
+        <translation>Álbuns</translation>
+    </message>
+    <message>
+        <source>Proposed albums</source>
+        <translation>Álbuns propostos</translation>
+    </message>
+    <message>
+        <source>Similar photos</source>
+        <translation>Fotos semelhantes</translation>
+    </message>
+    <message>
+        <source>Groups by year</source>
+        <translation>Grupos por ano</translation>
+    </message>
+    <message>
+        <source>No similar photos</source>
+        <translation>Nenhuma foto semelhante</translation>
+    </message>
+    <message>
+        <source>Groups appear here once the catalogue holds photos that are alike.</source>
+        <translation>Os grupos aparecerão aqui assim que o catálogo tiver fotos parecidas.</translation>
+    </message>
+    <message>
+        <source>Albums by year</source>
+        <translation>Álbuns por ano</translation>
+    </message>
+    <message>
+        <source>No albums yet</source>
+        <translation>Ainda não há álbuns</translation>
+    </message>
+    <message>
+        <source>Albums appear here once there are enough photos of a holiday or of a month&apos;s weekends. Scan more folders and try again.</source>
+        <translation>Os álbuns aparecerão aqui assim que houver fotos suficientes de um feriado ou dos fins de semana de um mês. Leia mais pastas e tente novamente.</translation>
+    </message>
+    <message>
+        <source>Unnamed album</source>
+        <translation>Álbum sem nome</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Sem data</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Aceito</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Sem imagem</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more</source>
+        <translation>
+            <numerusform>e mais %1</numerusform>
+            <numerusform>e mais %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Made with Lumidex. This page holds all its pictures and needs no other file.</source>
+        <translation>Feito com o Lumidex. Esta página contém todas as suas imagens e não precisa de nenhum outro arquivo.</translation>
+    </message>
+</context>
+<context>
+    <name>Terminal</name>
+    <message>
+        <source>Drawing</source>
+        <translation>Desenhando</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <comment>of so many</comment>
+        <translation>imagens</translation>
+    </message>
+    <message>
+        <source>The catalogue holds no photos yet. Run: lumidex scan DIR</source>
+        <translation>O catálogo ainda não contém fotos. Execute: lumidex scan PASTA</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <translation>
+            <numerusform>A %1 foto do catálogo não estava mais lá na última leitura. Falta algum disco?</numerusform>
+            <numerusform>Todas as %1 fotos do catálogo não estavam mais lá na última leitura. Falta algum disco?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted.</source>
+        <translation>Interrompido.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>a name</comment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>No album was accepted.</source>
+        <translation>Nenhum álbum foi aceito.</translation>
+    </message>
+    <message>
+        <source>Accepted before that: %1.</source>
+        <translation>Aceitos antes disso: %1.</translation>
+    </message>
+    <message>
+        <source>The page %1 is written; it shows all chosen albums as accepted.</source>
+        <translation>A página %1 foi gravada; ela mostra todos os álbuns escolhidos como aceitos.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sim</translation>
+    </message>
+    <message numerus="yes">
+        <source>yes, %1 more now</source>
+        <translation>
+            <numerusform>sim, agora mais %1</numerusform>
+            <numerusform>sim, agora mais %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ALBUM</source>
+        <translation>ÁLBUM</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <translation>QUANDO</translation>
+    </message>
+    <message>
+        <source>FIRST DAY</source>
+        <translation>PRIMEIRO DIA</translation>
+    </message>
+    <message>
+        <source>LAST DAY</source>
+        <translation>ÚLTIMO DIA</translation>
+    </message>
+    <message>
+        <source>PHOTOS</source>
+        <translation>FOTOS</translation>
+    </message>
+    <message>
+        <source>ACCEPTED</source>
+        <translation>ACEITO</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 photos)</source>
+        <translation>
+            <numerusform>%1 (%2 foto)</numerusform>
+            <numerusform>%1 (%2 fotos)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Accepted %1: %2 photos.</source>
+        <translation>
+            <numerusform>%1 aceito: %2 foto.</numerusform>
+            <numerusform>%1 aceito: %2 fotos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %1 photos to %2, accepted before.</source>
+        <translation>
+            <numerusform>%1 foto adicionada a %2, aceito anteriormente.</numerusform>
+            <numerusform>%1 fotos adicionadas a %2, aceito anteriormente.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1, accepted before.</source>
+        <translation>Nada a mudar em %1, aceito anteriormente.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <comment>albums from</comment>
+        <translation>
+            <numerusform>%1 foto</numerusform>
+            <numerusform>%1 fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 of them have no date</source>
+        <comment>photos; how many</comment>
+        <translation>
+            <numerusform>%1, %2 delas sem data</numerusform>
+            <numerusform>%1, %2 delas sem data</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>Nenhum álbum foi aceito ainda. “lumidex albums” mostra propostas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 accepted albums.</source>
+        <translation>
+            <numerusform>%1 álbum aceito.</numerusform>
+            <numerusform>%1 álbuns aceitos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No albums to propose from %1: an album needs 20 photos or more of one
+holiday, or of the weekends of one month.</source>
+        <translation>Nenhum álbum a propor a partir de %1: um álbum precisa de pelo menos 20 fotos
+de um mesmo feriado ou dos fins de semana de um mês.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 albums</source>
+        <translation>
+            <numerusform>%1 álbum</numerusform>
+            <numerusform>%1 álbuns</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 from %2; %3 accepted.</source>
+        <comment>albums, photos, how many</comment>
+        <translation>
+            <numerusform>%1 a partir de %2; %3 aceito.</numerusform>
+            <numerusform>%1 a partir de %2; %3 aceitos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Calendar: %1 (from the server)</source>
+        <translation>Calendário: %1 (do servidor)</translation>
+    </message>
+    <message>
+        <source>Calendar: %1</source>
+        <translation>Calendário: %1</translation>
+    </message>
+    <message>
+        <source>The calendar has no holidays for %1.</source>
+        <translation>O calendário não tem feriados para %1.</translation>
+    </message>
+    <message>
+        <source>HOLIDAY</source>
+        <translation>FERIADO</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>DIAS</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(sem nome)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holidays for %2.</source>
+        <translation>
+            <numerusform>%1 feriado para %2.</numerusform>
+            <numerusform>%1 feriados para %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no mistakes found.</source>
+        <translation>%1: nenhum erro encontrado.</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>evento %1</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <comment>of the events of a language</comment>
+        <translation>lista</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 mistakes found.</source>
+        <translation>
+            <numerusform>%1: %2 erro encontrado.</numerusform>
+            <numerusform>%1: %2 erros encontrados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The calendar was not updated: %1</source>
+        <translation>O calendário não foi atualizado: %1</translation>
+    </message>
+    <message>
+        <source>There is no calendar.</source>
+        <translation>Não há calendário.</translation>
+    </message>
+    <message>
+        <source>In use as before: %1</source>
+        <translation>Continua em uso: %1</translation>
+    </message>
+    <message>
+        <source>The calendar was updated: %1</source>
+        <translation>O calendário foi atualizado: %1</translation>
+    </message>
+    <message>
+        <source>The calendar is up to date: %1</source>
+        <translation>O calendário está atualizado: %1</translation>
+    </message>
+    <message>
+        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>O calendário de feriados não pôde ser lido até o fim, por isso faltam feriados. Tente: lumidex calendar check ou lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>O calendário de feriados %1 não pôde ser lido até o fim, por isso faltam feriados. Tente: lumidex calendar check ou lumidex calendar update.</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>ilegível</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>formato</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>espaço</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>pasta</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>arquivo</translation>
+    </message>
+    <message>
+        <source>Volume of</source>
+        <translation>Volume de</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Arquivos</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Necessário</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <comment>room on a disk</comment>
+        <translation>Livre</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>free room</comment>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>O quê</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Onde</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Por quê</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files checked</source>
+        <translation>
+            <numerusform>%1 arquivo verificado</numerusform>
+            <numerusform>%1 arquivos verificados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is in the way.</source>
+        <translation>nada impede.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 things in the way.</source>
+        <translation>
+            <numerusform>%1 impedimento.</numerusform>
+            <numerusform>%1 impedimentos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was changed.</source>
+        <translation>Interrompido. Nada foi alterado.</translation>
+    </message>
+    <message>
+        <source>There are no photos in the given folders.</source>
+        <translation>Não há fotos nas pastas indicadas.</translation>
+    </message>
+    <message>
+        <source>Trying</source>
+        <translation>Experimentando</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <comment>of so many</comment>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Editando</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay so.</source>
+        <translation>Interrompido. As fotos editadas até agora permanecem assim.</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>na posição normal</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>espelhada</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>de cabeça para baixo</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>de cabeça para baixo, espelhada</translation>
+    </message>
+    <message>
+        <source>turned left, mirrored</source>
+        <translation>girada à esquerda, espelhada</translation>
+    </message>
+    <message>
+        <source>turned right</source>
+        <translation>girada à direita</translation>
+    </message>
+    <message>
+        <source>turned right, mirrored</source>
+        <translation>girada à direita, espelhada</translation>
+    </message>
+    <message>
+        <source>turned left</source>
+        <translation>girada à esquerda</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>sem data</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos would be edited. This was a dry run: nothing was changed.</source>
+        <translation>
+            <numerusform>%1 foto seria editada. Isto foi uma simulação: nada foi alterado.</numerusform>
+            <numerusform>%1 fotos seriam editadas. Isto foi uma simulação: nada foi alterado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nada foi alterado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 foto editada; “lumidex undo” desfaz isso.</numerusform>
+            <numerusform>%1 fotos editadas; “lumidex undo” desfaz isso.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited.</source>
+        <translation>
+            <numerusform>%1 foto editada.</numerusform>
+            <numerusform>%1 fotos editadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be edited</source>
+        <translation>Não podem ser editadas</translation>
+    </message>
+    <message>
+        <source>Not edited</source>
+        <translation>Não editadas</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Comparando</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <comment>of so many</comment>
+        <translation>arquivos</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Copiando</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <translation>Interrompido. O que foi copiado está completo e comparado; o mesmo comando copia o resto.</translation>
+    </message>
+    <message>
+        <source>Would be copied to %1:</source>
+        <translation>Seriam copiados para %1:</translation>
+    </message>
+    <message>
+        <source>Would be taken in where they lie:</source>
+        <translation>Seriam incluídas onde estão:</translation>
+    </message>
+    <message>
+        <source>These files are of one shot each, and the free names for them are not:</source>
+        <translation>Os arquivos de cada um destes disparos andam juntos, mas os nomes livres para eles não:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Faltam:</translation>
+    </message>
+    <message>
+        <source>Not taken into the catalogue:</source>
+        <translation>Não incluídos no catálogo:</translation>
+    </message>
+    <message>
+        <source>It is not named like a photo</source>
+        <translation>O nome não é de foto</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Deixados de fora:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more (--json lists them)</source>
+        <translation>
+            <numerusform>e mais %1 (--json mostra todos)</numerusform>
+            <numerusform>e mais %1 (--json mostra todos)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos in the catalogue already.</source>
+        <translation>
+            <numerusform>%1 foto já está no catálogo.</numerusform>
+            <numerusform>%1 fotos já estão no catálogo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files copied before.</source>
+        <translation>
+            <numerusform>%1 arquivo já tinha sido copiado.</numerusform>
+            <numerusform>%1 arquivos já tinham sido copiados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos there twice among the sources.</source>
+        <translation>
+            <numerusform>%1 foto aparece duas vezes nas origens.</numerusform>
+            <numerusform>%1 fotos aparecem duas vezes nas origens.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nada foi importado.</translation>
+    </message>
+    <message>
+        <source>Nothing would be imported.</source>
+        <translation>Nada seria importado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) would be copied</source>
+        <translation>
+            <numerusform>%1 arquivo (%2) seria copiado</numerusform>
+            <numerusform>%1 arquivos (%2) seriam copiados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos taken in where they lie.</source>
+        <comment>would be</comment>
+        <translation>
+            <numerusform>%1 foto incluída onde está.</numerusform>
+            <numerusform>%1 fotos incluídas onde estão.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run:
+nothing was changed.</source>
+        <translation>Isto foi uma simulação:
+nada foi alterado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files (%2) copied to %3, each compared.</source>
+        <translation>
+            <numerusform>%1 arquivo (%2) copiado para %3 e comparado.</numerusform>
+            <numerusform>%1 arquivos (%2) copiados para %3, todos comparados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos new in the catalogue.</source>
+        <translation>
+            <numerusform>%1 nova foto no catálogo.</numerusform>
+            <numerusform>%1 novas fotos no catálogo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing; the same command tries again.</source>
+        <translation>
+            <numerusform>Falta %1 arquivo; o mesmo comando tenta novamente.</numerusform>
+            <numerusform>Faltam %1 arquivos; o mesmo comando tenta novamente.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>a heading</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>There is no %1; %2 is used.</source>
+        <comment>languages</comment>
+        <translation>%1 não existe; %2 será usado.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>done, all, what</comment>
+        <translation>%1 de %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3 found so far</source>
+        <comment>done, all, what</comment>
+        <translation>%1 de %2 %3 até agora</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <comment>minutes and seconds</comment>
+        <translation>faltam %1</translation>
+    </message>
+    <message>
+        <source>y yes</source>
+        <comment>answers, all that mean it</comment>
+        <translation>s sim</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was renamed.</source>
+        <translation>Interrompido. Nada foi renomeado.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lendo</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Renomeando</translation>
+    </message>
+    <message>
+        <source>Cannot be renamed:</source>
+        <translation>Não podem ser renomeadas:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <translation>
+            <numerusform>%1 foto não tem data própria; a hora do arquivo é usada.</numerusform>
+            <numerusform>%1 fotos não têm data própria; as horas dos arquivos são usadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files have their names already.</source>
+        <translation>
+            <numerusform>%1 arquivo já tem seu nome.</numerusform>
+            <numerusform>%1 arquivos já têm seus nomes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Nada seria renomeado: o novo nome é impossível para %1 de %2 foto. Com
+--skip-problems, as outras são renomeadas.</numerusform>
+            <numerusform>Nada seria renomeado: o novo nome é impossível para %1 de %2 fotos. Com
+--skip-problems, as outras são renomeadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
+others are renamed.</source>
+        <translation>
+            <numerusform>Nada foi renomeado: o novo nome é impossível para %1 de %2 foto. Com
+--skip-problems, as outras são renomeadas.</numerusform>
+            <numerusform>Nada foi renomeado: o novo nome é impossível para %1 de %2 fotos. Com
+--skip-problems, as outras são renomeadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to rename.</source>
+        <translation>Nada a renomear.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be renamed. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 seria renomeada. Isto foi uma simulação: nada foi alterado.</numerusform>
+            <numerusform>%1 seriam renomeadas. Isto foi uma simulação: nada foi alterado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was renamed.</source>
+        <translation>Nada foi renomeado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files could not be given back the old name.</source>
+        <translation>
+            <numerusform>Não foi possível devolver o nome antigo a %1 arquivo.</numerusform>
+            <numerusform>Não foi possível devolver o nome antigo a %1 arquivos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 renomeada; “lumidex undo” desfaz isso.</numerusform>
+            <numerusform>%1 renomeadas; “lumidex undo” desfaz isso.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 renamed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 renomeada.</numerusform>
+            <numerusform>%1 renomeadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>O que impede</translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Relatório: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pictures could not be read and got a placeholder.</source>
+        <translation>
+            <numerusform>%1 imagem não pôde ser lida e foi substituída por um espaço reservado.</numerusform>
+            <numerusform>%1 imagens não puderam ser lidas e foram substituídas por um espaço reservado.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Made %1 photos in %2</source>
+        <translation>
+            <numerusform>%1 foto criada em %2</numerusform>
+            <numerusform>%1 fotos criadas em %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
+        <translation>Interrompido. As fotos criadas até agora permanecem; exclua a pasta antes de tentar novamente.</translation>
+    </message>
+    <message>
+        <source>not an image</source>
+        <translation>não é imagem</translation>
+    </message>
+    <message>
+        <source>loop</source>
+        <translation>laço</translation>
+    </message>
+    <message>
+        <source>Not taken in:</source>
+        <translation>Não incluídos:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 original</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 do disparo</numerusform>
+            <numerusform>%1 do disparo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 digitised</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 da digitalização</numerusform>
+            <numerusform>%1 da digitalização</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file time</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 da hora do arquivo</numerusform>
+            <numerusform>%1 da hora do arquivo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 none</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 sem data</numerusform>
+            <numerusform>%1 sem data</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates read: %1</source>
+        <translation>Datas lidas: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>files found</source>
+        <translation>
+            <numerusform>arquivo encontrado</numerusform>
+            <numerusform>arquivos encontrados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>new</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>novo</numerusform>
+            <numerusform>novos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>read again</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>lido novamente</numerusform>
+            <numerusform>lidos novamente</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>changed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>alterado</numerusform>
+            <numerusform>alterados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>unchanged</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>inalterado</numerusform>
+            <numerusform>inalterados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>gone, now marked lost</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>desaparecido, agora marcado como perdido</numerusform>
+            <numerusform>desaparecidos, agora marcados como perdidos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing was stored.</source>
+        <translation>Isto foi uma simulação: nada foi salvo.</translation>
+    </message>
+    <message>
+        <source>Catalogue: %1</source>
+        <translation>Catálogo: %1</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Lendo pastas</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <translation>Interrompido. O que foi lido até agora está no catálogo; o mesmo comando continua a partir daí.</translation>
+    </message>
+    <message>
+        <source>Looking at</source>
+        <translation>Examinando</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Agrupando</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Medindo</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was moved is in the trash.</source>
+        <translation>Interrompido. O que foi movido está na lixeira.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The same command goes on from there.</source>
+        <translation>Interrompido. O mesmo comando continua a partir daí.</translation>
+    </message>
+    <message>
+        <source>Interrupted. Nothing was moved.</source>
+        <translation>Interrompido. Nada foi movido.</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash? [y/N]</source>
+        <translation>Mover %1 para a lixeira? [s/N]</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Movendo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos like %2</source>
+        <translation>
+            <numerusform>%1 foto como %2</numerusform>
+            <numerusform>%1 fotos como %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <comment>a file</comment>
+        <translation>Manter %1</translation>
+    </message>
+    <message>
+        <source>Keep %1: %2</source>
+        <comment>a file: why</comment>
+        <translation>Manter %1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2, score %3</source>
+        <comment>pixels, size, number</comment>
+        <translation>%1, %2, semelhança %3</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <comment>photo</comment>
+        <translation>a maior</translation>
+    </message>
+    <message>
+        <source>sharpest</source>
+        <comment>photo</comment>
+        <translation>a mais nítida</translation>
+    </message>
+    <message>
+        <source>has camera data</source>
+        <translation>com dados da câmera</translation>
+    </message>
+    <message>
+        <source>earliest</source>
+        <comment>photo</comment>
+        <translation>a mais antiga</translation>
+    </message>
+    <message>
+        <source>first by name</source>
+        <translation>a primeira pelo nome</translation>
+    </message>
+    <message>
+        <source>Not compared:</source>
+        <translation>Não comparadas:</translation>
+    </message>
+    <message numerus="yes">
+        <source>No similar photos among %1 photos.</source>
+        <translation>
+            <numerusform>Nenhuma foto semelhante entre %1 foto.</numerusform>
+            <numerusform>Nenhuma foto semelhante entre %1 fotos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 groups of similar photos</source>
+        <translation>
+            <numerusform>%1 grupo de fotos semelhantes</numerusform>
+            <numerusform>%1 grupos de fotos semelhantes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>among %1 photos</source>
+        <translation>
+            <numerusform>entre %1 foto</numerusform>
+            <numerusform>entre %1 fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos (%2) besides those to keep.</source>
+        <translation>
+            <numerusform>%1 foto (%2) além das que convém manter.</numerusform>
+            <numerusform>%1 fotos (%2) além das que convém manter.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2; %3</source>
+        <comment>groups of similar photos; among how many; others</comment>
+        <translation>%1 %2; %3</translation>
+    </message>
+    <message>
+        <source>keep</source>
+        <comment>a photo</comment>
+        <translation>manter</translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>it goes there</comment>
+        <translation>lixeira</translation>
+    </message>
+    <message>
+        <source>stay</source>
+        <comment>a photo does</comment>
+        <translation>fica</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1, %2 photos:</source>
+        <translation>
+            <numerusform>Grupo %1, %2 foto:</numerusform>
+            <numerusform>Grupo %1, %2 fotos:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>PHOTO</source>
+        <translation>FOTO</translation>
+    </message>
+    <message>
+        <source>CLUSTER</source>
+        <translation>GRUPO</translation>
+    </message>
+    <message>
+        <source>TO ITS CENTRE</source>
+        <translation>COM SEU CENTRO</translation>
+    </message>
+    <message>
+        <source>TO ITS OWN CENTRE</source>
+        <translation>COM O PRÓPRIO CENTRO</translation>
+    </message>
+    <message>
+        <source>TO THE OTHER&apos;S</source>
+        <translation>COM O DA OUTRA</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in one group.</source>
+        <translation>As fotos têm semelhança %1 entre si e estão em um mesmo grupo.</translation>
+    </message>
+    <message>
+        <source>The photos score %1 against each other and are in different groups.</source>
+        <translation>As fotos têm semelhança %1 entre si e estão em grupos diferentes.</translation>
+    </message>
+    <message>
+        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
+above %1 against; later photos move the centre.</source>
+        <translation>Uma foto entra no primeiro grupo com cujo centro, a média das suas fotos naquele momento, a
+semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
+    </message>
+    <message>
+        <source>The groups are as matching all photos again makes them.</source>
+        <translation>Os grupos são os que uma nova comparação de todas as fotos forma.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <translation>“lumidex similar --anew” forma os grupos do zero.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos</source>
+        <translation>
+            <numerusform>%1 foto</numerusform>
+            <numerusform>%1 fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%2 files)</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 (%2 arquivo)</numerusform>
+            <numerusform>%1 (%2 arquivos)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>so many photos</comment>
+        <translation>renomear %1</translation>
+    </message>
+    <message>
+        <source>shift dates by %1</source>
+        <translation>deslocar datas em %1</translation>
+    </message>
+    <message>
+        <source>set dates to %1</source>
+        <translation>definir datas como %1</translation>
+    </message>
+    <message>
+        <source>rotate left</source>
+        <translation>girar à esquerda</translation>
+    </message>
+    <message>
+        <source>rotate right</source>
+        <translation>girar à direita</translation>
+    </message>
+    <message>
+        <source>rotate 180</source>
+        <translation>girar 180°</translation>
+    </message>
+    <message>
+        <source>move similar photos to the trash</source>
+        <translation>mover fotos semelhantes para a lixeira</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Sim para todos</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Não para todos</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>Salvar tudo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorar</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abortar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Redefinir</translation>
+    </message>
+    <message>
+        <source>Restore defaults</source>
+        <translation>Restaurar padrões</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Nothing to move to the trash.</source>
+        <translation>Nada a mover para a lixeira.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 would be moved to the trash. This was a dry run: nothing was changed.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 seria movida para a lixeira. Isto foi uma simulação: nada foi alterado.</numerusform>
+            <numerusform>%1 seriam movidas para a lixeira. Isto foi uma simulação: nada foi alterado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was moved.</source>
+        <translation>Nada foi movido.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash; &quot;lumidex undo&quot; brings back what is still there.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 movida para a lixeira; “lumidex undo” traz de volta o que ainda estiver lá.</numerusform>
+            <numerusform>%1 movidas para a lixeira; “lumidex undo” traz de volta o que ainda estiver lá.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 moved to the trash.</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 movida para a lixeira.</numerusform>
+            <numerusform>%1 movidas para a lixeira.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files</source>
+        <translation>
+            <numerusform>%1 arquivo</numerusform>
+            <numerusform>%1 arquivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not moved:</source>
+        <translation>Não movidas:</translation>
+    </message>
+    <message>
+        <source>Left where they are</source>
+        <translation>Deixados onde estão</translation>
+    </message>
+    <message>
+        <source>Doing again</source>
+        <translation>Refazendo</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Desfazendo</translation>
+    </message>
+    <message>
+        <source>Interrupted. What was done so far stays so.</source>
+        <translation>Interrompido. O que foi feito até agora permanece assim.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %1 steps of the %2 asked for.</source>
+        <translation>
+            <numerusform>Apenas %1 etapa das %2 pedidas.</numerusform>
+            <numerusform>Apenas %1 etapas das %2 pedidas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <translation>A configuração %1 não faz sentido (%2); o limite habitual é usado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days and %2</source>
+        <comment>within so many</comment>
+        <translation>
+            <numerusform>%1 dia e %2</numerusform>
+            <numerusform>%1 dias e %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <comment>a step</comment>
+        <translation>desfeita</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <comment>a step</comment>
+        <translation>abandonada</translation>
+    </message>
+    <message>
+        <source>There is nothing that could be undone.</source>
+        <translation>Não há nada que possa ser desfeito.</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>O QUÊ</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>ARQUIVOS</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <comment>so many bytes</comment>
+        <translation>GUARDADO</translation>
+    </message>
+    <message>
+        <source>Left as they are</source>
+        <translation>Deixados como estão</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <translation>Nada de “%1” foi refeito.</translation>
+    </message>
+    <message>
+        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <translation>Nada de “%1” foi desfeito.</translation>
+    </message>
+    <message>
+        <source>Done again: %1.</source>
+        <translation>Refeito: %1.</translation>
+    </message>
+    <message>
+        <source>Taken back: %1.</source>
+        <translation>Desfeito: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Done again: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Refeito: %1, exceto %2 arquivo.</numerusform>
+            <numerusform>Refeito: %1, exceto %2 arquivos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Taken back: %1, but for %2 files.</source>
+        <translation>
+            <numerusform>Desfeito: %1, exceto %2 arquivo.</numerusform>
+            <numerusform>Desfeito: %1, exceto %2 arquivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <translation>Etapas mais antigas esperam por esta; “lumidex undo --skip” a deixa como está para sempre.</translation>
+    </message>
+    <message>
+        <source>There is nothing to skip.</source>
+        <translation>Não há nada a pular.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Abandonado: %1.</translation>
+    </message>
+    <message>
+        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <translation>O que está guardado dela (%1) permanece até ficar antigo demais ou grande demais.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 older steps cannot be undone any more.</source>
+        <translation>
+            <numerusform>%1 etapa mais antiga não pode mais ser desfeita.</numerusform>
+            <numerusform>%1 etapas mais antigas não podem mais ser desfeitas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Steps can be undone within %1.</source>
+        <translation>As etapas podem ser desfeitas dentro de %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Não há nada a refazer.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Não há nada a desfazer.</translation>
+    </message>
+</context>
+<context>
+    <name>Zenvora::Lumidex::Utils</name>
+    <message>
+        <source>Attention</source>
+        <translation>Atenção</translation>
+    </message>
+    <message>
+        <source>All of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Nenhum dos arquivos selecionados tem permissão de leitura; eles não serão adicionados.</translation>
+    </message>
+    <message>
+        <source>Some of the selected files do not have read permissions, they will not be added.</source>
+        <translation>Alguns dos arquivos selecionados não têm permissão de leitura; eles não serão adicionados.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are on removable storage. Would you like copy they to your hard drive?</source>
+        <translation>Algumas das fotos selecionadas estão em armazenamento removível. Deseja copiá-las para o disco rígido?</translation>
+    </message>
+    <message>
+        <source>The selected directory is temporary, select another directory.</source>
+        <translation>A pasta selecionada é temporária. Selecione outra pasta.</translation>
+    </message>
+    <message>
+        <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
+        <translation>Algumas das fotos selecionadas estão em formatos somente leitura (por exemplo, %1). Elas serão convertidas em JPG ou PNG após a aplicação da ferramenta.</translation>
+    </message>
+    <message>
+        <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
+        <translation>A foto selecionada está em um formato somente leitura (%1). Ela será convertida em JPG ou PNG após a aplicação da ferramenta.</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk %1</source>
+        <translation>Não há espaço suficiente no disco %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit files in this folder: %1</source>
+        <translation>Você não tem permissão para editar arquivos nesta pasta: %1</translation>
+    </message>
+    <message>
+        <source>You do not have permission to edit file: %1</source>
+        <translation>Você não tem permissão para editar o arquivo: %1</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>dia</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>dias</translation>
+    </message>
+    <message>
+        <source>Expired</source>
+        <translation>Expirado</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>One day</source>
+        <translation>dia</translation>
+    </message>
+    <message>
+        <source>Nominative day</source>
+        <translation>dias</translation>
+    </message>
+    <message>
+        <source>Genetive day</source>
+        <translation>dias</translation>
+    </message>
+    <message>
+        <source>Plural day</source>
+        <translation>dias</translation>
+    </message>
+    <message>
+        <source>One album</source>
+        <translation>álbum</translation>
+    </message>
+    <message>
+        <source>Nominative album</source>
+        <translation>álbuns</translation>
+    </message>
+    <message>
+        <source>Genetive album</source>
+        <translation>álbuns</translation>
+    </message>
+    <message>
+        <source>Plural album</source>
+        <translation>álbuns</translation>
+    </message>
+    <message>
+        <source>album</source>
+        <translation>álbum</translation>
+    </message>
+    <message>
+        <source>albums</source>
+        <translation>álbuns</translation>
+    </message>
+    <message>
+        <source>One group</source>
+        <translation>grupo</translation>
+    </message>
+    <message>
+        <source>Nominative group</source>
+        <translation>grupos</translation>
+    </message>
+    <message>
+        <source>Genetive group</source>
+        <translation>grupos</translation>
+    </message>
+    <message>
+        <source>Plural group</source>
+        <translation>grupos</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>grupo</translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation>grupos</translation>
+    </message>
+    <message>
+        <source>One photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Nominative photo</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>Genetive photo</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>Plural photo</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>fotos</translation>
+    </message>
+</context>
+</TS>
