@@ -1392,6 +1392,58 @@ above %1 against; later photos move the centre.</source>
         <source>There is nothing to take back.</source>
         <translation>Es gibt nichts rückgängig zu machen.</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>Diese Dateien gehören zu anderen Aufnahmen als die, deren Namen sie dort teilen:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>Dateizeit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1 Einzelbild</numerusform>
+            <numerusform>%1 Einzelbilder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>DATUM</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>AUS</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>KAMERA</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>POSITION</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>BILD</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>AUSRICHTUNG</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>GRÖSSE</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>Zweifelhafte Positionen:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Nicht gelesen</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

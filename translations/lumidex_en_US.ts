@@ -1392,6 +1392,58 @@ above %1 against; later photos move the centre.</translation>
         <source>There is nothing to take back.</source>
         <translation>There is nothing to take back.</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>These files are of other shots than those whose names they share there:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>file time</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1 frame</numerusform>
+            <numerusform>%1 frames</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>DATE</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>FROM</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>CAMERA</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>POSITION</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>PICTURE</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>ORIENTATION</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>SIZE</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>Doubtful positions:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Not read</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

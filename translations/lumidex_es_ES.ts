@@ -1392,6 +1392,58 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <source>There is nothing to take back.</source>
         <translation>No hay nada que deshacer.</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>Estos archivos son de otras tomas que aquellos cuyos nombres comparten allí:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>hora del archivo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1 fotograma</numerusform>
+            <numerusform>%1 fotogramas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>FECHA</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>DE</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>CÁMARA</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>POSICIÓN</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>IMAGEN</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>ORIENTACIÓN</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>TAMAÑO</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>Posiciones dudosas:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Sin leer</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1392,6 +1392,58 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <source>There is nothing to take back.</source>
         <translation>Il n’y a rien à annuler.</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>Ces fichiers sont d’autres prises de vue que ceux dont ils partagent le nom à cet endroit&#xa0;:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>heure du fichier</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1 vue</numerusform>
+            <numerusform>%1 vues</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>DATE</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>D’APRÈS</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>APPAREIL</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>POSITION</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>IMAGE</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>ORIENTATION</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>TAILLE</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>Positions douteuses&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Non lues</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1392,6 +1392,58 @@ più di %1; le foto successive spostano il centro.</translation>
         <source>There is nothing to take back.</source>
         <translation>Non c’è nulla da annullare.</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>Questi file sono di scatti diversi da quelli di cui condividono lì il nome:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>ora del file</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1 fotogramma</numerusform>
+            <numerusform>%1 fotogrammi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>DATA</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>DA</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>FOTOCAMERA</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>POSIZIONE</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>IMMAGINE</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>ORIENTAMENTO</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>DIMENSIONE</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>Posizioni dubbie:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Non lette</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1326,6 +1326,57 @@ above %1 against; later photos move the centre.</source>
         <source>There is nothing to take back.</source>
         <translation>元に戻すものはありません。</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>次のファイルは、そこで名前を共有するものとは別の撮影のものです:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>ファイルの時刻</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1コマ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>出典</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>疑わしい位置:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>読み取らなかったもの</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

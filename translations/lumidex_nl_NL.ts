@@ -1392,6 +1392,58 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <source>There is nothing to take back.</source>
         <translation>Er is niets ongedaan te maken.</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>Deze bestanden zijn van andere opnamen dan die waarmee ze daar de naam delen:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>bestandstijd</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1 beeld</numerusform>
+            <numerusform>%1 beelden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>DATUM</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>UIT</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>CAMERA</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>POSITIE</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>AFBEELDING</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>ORIËNTATIE</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>GROOTTE</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>Twijfelachtige posities:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Niet gelezen</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1392,6 +1392,58 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <source>There is nothing to take back.</source>
         <translation>Não há nada a desfazer.</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>Estes arquivos são de disparos diferentes daqueles cujos nomes compartilham ali:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>hora do arquivo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1 quadro</numerusform>
+            <numerusform>%1 quadros</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>DATA</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>DE</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>CÂMERA</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>POSIÇÃO</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>IMAGEM</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>ORIENTAÇÃO</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>TAMANHO</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>Posições duvidosas:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Não lidas</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1458,6 +1458,59 @@ above %1 against; later photos move the centre.</source>
         <source>There is nothing to take back.</source>
         <translation>Отменять нечего.</translation>
     </message>
+    <message>
+        <source>These files are of other shots than those whose names they share there:</source>
+        <translation>Эти файлы относятся к другим снимкам, чем те, с чьими именами они там совпадают:</translation>
+    </message>
+    <message>
+        <source>file time</source>
+        <comment>where a date is from</comment>
+        <translation>время файла</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 frames</source>
+        <translation>
+            <numerusform>%1 кадр</numerusform>
+            <numerusform>%1 кадра</numerusform>
+            <numerusform>%1 кадров</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>ДАТА</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>ИЗ</translation>
+    </message>
+    <message>
+        <source>CAMERA</source>
+        <translation>КАМЕРА</translation>
+    </message>
+    <message>
+        <source>POSITION</source>
+        <translation>МЕСТО</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>ИЗОБРАЖЕНИЕ</translation>
+    </message>
+    <message>
+        <source>ORIENTATION</source>
+        <translation>ОРИЕНТАЦИЯ</translation>
+    </message>
+    <message>
+        <source>SIZE</source>
+        <translation>РАЗМЕР</translation>
+    </message>
+    <message>
+        <source>Doubtful positions:</source>
+        <translation>Сомнительные места:</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Не прочитаны</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

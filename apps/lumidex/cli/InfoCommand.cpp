@@ -3,6 +3,7 @@
 #include "LogLines.h"
 #include "Options.h"
 #include "Progress.h"
+#include "Words.h"
 
 #include <host/PhotoChoice.h>
 
@@ -60,7 +61,7 @@ class InfoRun {
   void Read() {
     // Doubtful positions are told with the file's name, below.
     const LogLines::Hush hush;
-    Progress progress(session_.console, "Reading", "photos");
+    Progress progress(session_.console, Say(Words::tr("Reading")), Say(Words::tr("photos", "of so many")));
     std::uint64_t done = 0;
     for (const ioPath& photo : chosen_) {
       if (session_.interrupted) {
@@ -78,9 +79,9 @@ class InfoRun {
 
   void Note() const {
     if (view_.interrupted) {
-      session_.console.Note("Interrupted.");
+      session_.console.Note(Say(Words::tr("Interrupted.")));
     } else if (view_.photos.empty() && view_.findings.empty()) {
-      session_.console.Note("There are no photos in the given folders.");
+      session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
     }
   }
 

@@ -6,6 +6,7 @@
 #include "TerminalText.h"
 #include "TextTable.h"
 #include "ValueTexts.h"
+#include "Words.h"
 
 #include <algorithm>
 #include <cmath>
@@ -50,7 +51,7 @@ std::string SourceText(Source source) {
     case Source::Digitised:
       return "DateTimeDigitized";
     case Source::FileTime:
-      return "file time";
+      return Say(Words::tr("file time", "where a date is from"));
     case Source::None:
       break;
   }
@@ -76,7 +77,10 @@ std::string FrameText(const Conf::FrameInfo& frame) {
   if (frame.width > 0 && frame.height > 0) {
     text += (text.empty() ? "" : " ") + std::to_string(frame.width) + " x " + std::to_string(frame.height);
   }
-  return frame.frames > 1 ? text + ", " + std::to_string(frame.frames) + " frames" : text;
+  return frame.frames > 1
+             ? text + ", " +
+                   Say(Words::tr("%1 frames", nullptr, frame.frames), {std::to_string(frame.frames)})
+             : text;
 }
 
 std::string PhotosText(const std::vector<Host::PhotoInfo>& photos) {
@@ -84,14 +88,14 @@ std::string PhotosText(const std::vector<Host::PhotoInfo>& photos) {
     return {};
   }
   // Names last: they are the longest.
-  TextTable table({{"DATE"},
-                   {"FROM"},
-                   {"CAMERA"},
-                   {"POSITION"},
-                   {"PICTURE"},
-                   {"ORIENTATION"},
-                   {"SIZE", TextTable::Align::Right},
-                   {"PHOTO"}});
+  TextTable table({{Say(Words::tr("DATE"))},
+                   {Say(Words::tr("FROM"))},
+                   {Say(Words::tr("CAMERA"))},
+                   {Say(Words::tr("POSITION"))},
+                   {Say(Words::tr("PICTURE"))},
+                   {Say(Words::tr("ORIENTATION"))},
+                   {Say(Words::tr("SIZE")), TextTable::Align::Right},
+                   {Say(Words::tr("PHOTO"))}});
   for (const Host::PhotoInfo& photo : photos) {
     table.AddRow({DateText(photo.date), SourceText(photo.date.source), photo.camera.toStdString(),
                   PositionText(photo.position), FrameText(photo.frame),
@@ -107,7 +111,7 @@ std::string DoubtsText(const std::vector<Host::PhotoInfo>& photos) {
       text += "  " + EscapeForTerminal(photo.photo.utf8string() + ": " + doubt) + ".\n";
     }
   }
-  return text.empty() ? text : "\nDoubtful positions:\n" + text;
+  return text.empty() ? text : '\n' + Say(Words::tr("Doubtful positions:")) + '\n' + text;
 }
 
 void WriteReference(JsonWriter& json, const char* name, const QString& reference) {
@@ -184,7 +188,8 @@ std::string InfoDocument(const InfoView& view) {
 }
 
 std::string InfoText(const InfoView& view) {
-  return FindingsText("Not read", view.findings) + PhotosText(view.photos) + DoubtsText(view.photos);
+  return FindingsText(Say(Words::tr("Not read")), view.findings) + PhotosText(view.photos) +
+         DoubtsText(view.photos);
 }
 
 }  // namespace Zenvora::Lumidex::Cli
