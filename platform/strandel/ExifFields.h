@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace Zenvora::Strandel {
 
@@ -11,6 +14,11 @@ struct ExifFields {
   std::string originalSubSeconds;
   std::string digitised;
   std::string digitisedSubSeconds;
+  /// Degrees, minutes and seconds, each as numerator and denominator, and the sides that they count to.
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> latitude;
+  std::string latitudeSide;
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> longitude;
+  std::string longitudeSide;
 };
 
 }  // namespace Zenvora::Strandel

@@ -21,8 +21,13 @@ constexpr std::uint64_t kMostRead = std::uint64_t{64} * 1024 * 1024;
 constexpr std::size_t kMaxText = 256;
 
 enum Tag : std::uint16_t {
+  kLatitudeSide = 0x0001,
+  kLatitude = 0x0002,
+  kLongitudeSide = 0x0003,
+  kLongitude = 0x0004,
   kModel = 0x0110,
   kExifDirectory = 0x8769,
+  kGpsDirectory = 0x8825,
   kDateTimeOriginal = 0x9003,
   kDateTimeDigitised = 0x9004,
   kSubSecondsOriginal = 0x9291,
@@ -62,11 +67,23 @@ std::string TextOf(const Exiv2::Exifdatum& datum) {
   return text.substr(0, std::min(text.find('\0'), kMaxText));
 }
 
+std::vector<std::pair<std::uint32_t, std::uint32_t>> PartsOf(const Exiv2::Exifdatum& datum) {
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> parts;
+  if (datum.typeId() == Exiv2::unsignedRational) {
+    for (long i = 0; i < std::min(datum.count(), 4L); ++i) {
+      const Exiv2::Rational part = datum.toRational(i);
+      parts.emplace_back(static_cast<std::uint32_t>(part.first), static_cast<std::uint32_t>(part.second));
+    }
+  }
+  return parts;
+}
+
 struct Found {
   ExifFields fields;
   /// A text that is not empty by its length, but holds nothing: perhaps it was not read.
   bool blank = false;
   std::uint64_t exifDirectory = 0;
+  std::uint64_t gpsDirectory = 0;
 };
 
 class Collector {
@@ -79,7 +96,29 @@ class Collector {
   }
 
  private:
+  void TakePosition(const Exiv2::Exifdatum& datum) {
+    ExifFields& fields = found_.fields;
+    switch (datum.tag()) {
+      case kLatitudeSide:
+        fields.latitudeSide = TextOf(datum);
+        return;
+      case kLatitude:
+        fields.latitude = PartsOf(datum);
+        return;
+      case kLongitudeSide:
+        fields.longitudeSide = TextOf(datum);
+        return;
+      case kLongitude:
+        fields.longitude = PartsOf(datum);
+        return;
+      default:
+        return;
+    }
+  }
   void Take(const Exiv2::Exifdatum& datum) {
+    if (datum.groupName() == "GPSInfo") {
+      return TakePosition(datum);
+    }
     switch (datum.tag()) {
       case kModel:
         return TakeText(datum, modelRank_, found_.fields.model);
@@ -94,6 +133,11 @@ class Collector {
       case kExifDirectory:
         if (RankOf(datum.groupName()) > 0 && datum.count() == 1) {
           found_.exifDirectory = static_cast<std::uint32_t>(datum.toLong());
+        }
+        return;
+      case kGpsDirectory:
+        if (RankOf(datum.groupName()) > 0 && datum.count() == 1) {
+          found_.gpsDirectory = static_cast<std::uint32_t>(datum.toLong());
         }
         return;
       default:
@@ -152,8 +196,8 @@ ExivImage::ExivImage(PhotoSource& source) : copy_(source) {
 ExivImage::~ExivImage() = default;
 
 ExivOutcome ExivImage::ReadMetadata(std::string& cause) {
-  // The directories, the EXIF directory, the rest: no file takes more rounds.
-  constexpr int kMostRounds = 3;
+  // The directories, those of EXIF and GPS, the rest: no file takes more rounds.
+  constexpr int kMostRounds = 4;
   ExivOutcome outcome = ReadOnce(cause);
   for (int round = 1; round < kMostRounds && ReadMore(); ++round) {
     outcome = ReadOnce(cause);
@@ -184,6 +228,9 @@ bool ExivImage::ReadMore() {
   }
   const Found found = Collector().Collect(image_->exifData());
   if (found.exifDirectory != 0 && copy_.ReadAround(found.exifDirectory)) {
+    return true;
+  }
+  if (found.gpsDirectory != 0 && copy_.ReadAround(found.gpsDirectory)) {
     return true;
   }
   return (found.blank || SaysNothing(found.fields)) && copy_.ReadFront(kMostRead);

@@ -1,4 +1,5 @@
 #include "ExivImage.h"
+#include "GpsDegrees.h"
 #include "PictureMarks.h"
 
 #include <zenvora/strandel/PhotoFacts.h>
@@ -14,11 +15,20 @@ std::string WithoutBlanks(const std::string& text) {
   return QString::fromStdString(text).trimmed().toStdString();
 }
 
+std::optional<PhotoPosition> PositionOf(const ExifFields& fields) {
+  constexpr double kQuarterTurn = 90;
+  constexpr double kHalfTurn = 180;
+  const std::optional<double> latitude = GpsDegrees(fields.latitude, fields.latitudeSide, kQuarterTurn);
+  const std::optional<double> longitude = GpsDegrees(fields.longitude, fields.longitudeSide, kHalfTurn);
+  return latitude && longitude ? std::optional(PhotoPosition{*latitude, *longitude}) : std::nullopt;
+}
+
 void Take(const ExifFields& fields, PhotoFacts& facts) {
   facts.status = PhotoFacts::Status::Read;
   facts.original = ParseExifDateTime(fields.original, fields.originalSubSeconds);
   facts.digitised = ParseExifDateTime(fields.digitised, fields.digitisedSubSeconds);
   facts.cameraModel = QString::fromStdString(WithoutBlanks(fields.model));
+  facts.position = PositionOf(fields);
 }
 
 void Refuse(PhotoFacts& facts, const std::string& cause) {

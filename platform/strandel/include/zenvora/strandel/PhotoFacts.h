@@ -6,9 +6,16 @@
 #include <QDateTime>
 #include <QString>
 
+#include <optional>
 #include <string>
 
 namespace Zenvora::Strandel {
+
+/// A place on the earth in degrees: -90..90, positive to the north, and -180..180, positive to the east.
+struct PhotoPosition {
+  double latitude = 0;
+  double longitude = 0;
+};
 
 /// What a scan needs to know of a photo file's metadata.
 struct PhotoFacts {
@@ -28,6 +35,8 @@ struct PhotoFacts {
   QDateTime digitised;
   /// EXIF Model (0x0110) without surrounding blanks; empty when absent.
   QString cameraModel;
+  /// EXIF GPSLatitude and GPSLongitude with their references; none when one is absent or makes no sense.
+  std::optional<PhotoPosition> position;
 };
 
 /// Reads the metadata of one file. Never throws for bad content, never changes the file and never waits for
