@@ -26,6 +26,7 @@ class JsonWriter {
   void Number(std::string_view name, long long number);
   /// The shortest number that reads back as this one; null when it is infinite or none.
   void Real(std::string_view name, float number);
+  void Real(std::string_view name, double number);
   void Truth(std::string_view name, bool value);
   void Null(std::string_view name);
   /// "2023-12-24"; null when invalid.
@@ -45,6 +46,8 @@ class JsonWriter {
   std::string Finish();
 
  private:
+  template <class Float>
+  void WriteReal(std::string_view name, Float number);
   void Next(std::string_view name);
   void Open(std::string_view name, char bracket);
   void Close(char bracket);

@@ -6,6 +6,7 @@
 #include "Interrupt.h"
 #include "JsonWriter.h"
 #include "LogLines.h"
+#include "StatsCommand.h"
 
 #include <host/HostError.h>
 
@@ -121,8 +122,10 @@ ExitCode RunCommand(const ParsedCommandLine& parsed, Output& output, Console& co
   App::ApplicationOf<QCoreApplication> application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("lumidex"));
   QCoreApplication::setApplicationVersion(QStringLiteral(LUMIDEX_VERSION));
-  Session session{parsed.globals, output, console, Interrupted(), {}};
-  return parsed.action(session);
+  Session session{parsed.globals, output, console, Interrupted(), {}, {}};
+  const ExitCode code = parsed.action(session);
+  NoteUse(parsed.command, session);
+  return code;
 }
 
 }  // namespace

@@ -325,6 +325,21 @@ std::vector<PhotoRecord> Catalogue::Photos() const {
   return photos;
 }
 
+std::vector<TagUse> Catalogue::Tags() const {
+  const CatalogueDatabase& database = impl_->Database();
+  QSqlQuery query = database.Prepare(
+      "SELECT t.type, t.name, count(p.number) FROM tags t LEFT JOIN photo_tags pt ON pt.tag = t.number"
+      " LEFT JOIN photos p ON p.number = pt.photo AND p.lost = 0"
+      " GROUP BY t.number ORDER BY t.type, t.name");
+  database.Run(query);
+  std::vector<TagUse> tags;
+  while (database.Next(query)) {
+    tags.push_back({{static_cast<TagType>(query.value(0).toInt()), query.value(1).toString()},
+                    static_cast<std::size_t>(query.value(2).toULongLong())});
+  }
+  return tags;
+}
+
 std::unordered_map<std::string, std::vector<Tag>> Catalogue::PhotoTags() const {
   const CatalogueDatabase& database = impl_->Database();
   QSqlQuery query = database.Prepare(

@@ -50,6 +50,12 @@ struct FileStamp {
   bool isOutdated = false;  ///< A former version of the program read the file, and less of it.
 };
 
+/// A tag, and how many photos that are not lost have it.
+struct TagUse {
+  Tag tag;
+  std::size_t photos = 0;
+};
+
 /// What accepting an album changed.
 struct AcceptResult {
   QString albumId;
@@ -111,6 +117,8 @@ class Catalogue {
   /// the missing members, at its end; nothing is ever taken out. One transaction. Throws, having stored
   /// nothing, when a member is not in the catalogue.
   AcceptResult AcceptAlbum(const Album& proposal);
+  /// Tags that were ever given, by type, then name.
+  std::vector<TagUse> Tags() const;
   /// The tags of all photos that are not lost, by photo id; each photo's by type, then name. Photos without
   /// tags are not among them.
   std::unordered_map<std::string, std::vector<Tag>> PhotoTags() const;
