@@ -15,8 +15,9 @@ constexpr std::array kLatin = {
     std::pair{u'\u0442', "t"}, std::pair{u'\u0443', "y"}, std::pair{u'\u0445', "x"},
     std::pair{u'\u0455', "s"}, std::pair{u'\u0456', "i"}, std::pair{u'\u0458', "j"},
     // Letters with strokes and ligatures of the Latin script.
-    std::pair{u'\u00E6', "ae"}, std::pair{u'\u00F8', "o"}, std::pair{u'\u0111', "d"},
-    std::pair{u'\u0131', "i"}, std::pair{u'\u0142', "l"}, std::pair{u'\u0153', "oe"},
+    std::pair{u'\u00DF', "ss"}, std::pair{u'\u00E6', "ae"}, std::pair{u'\u00F8', "o"},
+    std::pair{u'\u0111', "d"}, std::pair{u'\u0131', "i"}, std::pair{u'\u0142', "l"},
+    std::pair{u'\u0153', "oe"},
     // What keyboards and word processors make of a hyphen and an apostrophe.
     std::pair{u'\u2010', "-"}, std::pair{u'\u2011', "-"}, std::pair{u'\u2013', "-"},
     std::pair{u'\u2014', "-"}, std::pair{u'\u2019', "'"}};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <zenvora/strandel/Export.h>
+#include <zenvora/usage/Export.h>
 
 #include <map>
 #include <string>
@@ -12,7 +12,7 @@ namespace Zenvora::Strandel {
 ///
 /// They are there as soon as the library is loaded, and never change. What `HandleEvent` may be called on,
 /// and what it blocks on, is up to the implementation.
-class ZENVORA_STRANDEL_EXPORT IStatisticsEventHandler {
+class ZENVORA_USAGE_EXPORT IStatisticsEventHandler {
  public:
   using Parameters = std::map<std::string, std::string>;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <zenvora/core/ioPath.h>
-#include <zenvora/strandel/Export.h>
+#include <zenvora/usage/Export.h>
 #include <zenvora/strandel/IStatisticsEventHandler.h>
 
 #include <QDate>
@@ -23,7 +23,7 @@ namespace Zenvora::Strandel {
 ///
 /// Thread-safety: as a value: distinct objects from any thread. `HandleEvent` blocks on the disk; an event
 /// that cannot be noted is logged and forgotten.
-class ZENVORA_STRANDEL_EXPORT StatisticsFile : public IStatisticsEventHandler {
+class ZENVORA_USAGE_EXPORT StatisticsFile : public IStatisticsEventHandler {
  public:
   static constexpr std::uint64_t kMostBytes = std::uint64_t{1} << 20U;
 
@@ -52,12 +52,12 @@ struct Statistics {
 };
 
 /// The name of the older file: "-older" before the extension.
-ZENVORA_STRANDEL_EXPORT ioPath OlderStatistics(const ioPath& file);
+ZENVORA_USAGE_EXPORT ioPath OlderStatistics(const ioPath& file);
 
 /// All that is noted in the file and the older one. A missing file holds nothing. Blocks on the disk.
-ZENVORA_STRANDEL_EXPORT Statistics ReadStatistics(const ioPath& file);
+ZENVORA_USAGE_EXPORT Statistics ReadStatistics(const ioPath& file);
 
 /// Deletes both files. Why one is still there, in English with its name; empty: both are gone.
-ZENVORA_STRANDEL_EXPORT std::string ClearStatistics(const ioPath& file);
+ZENVORA_USAGE_EXPORT std::string ClearStatistics(const ioPath& file);
 
 }  // namespace Zenvora::Strandel
