@@ -134,6 +134,13 @@ void TakeTagWords(Words& words) {
       rewritten.insert(rewritten.end(), word, words.end());
       break;
     }
+    const bool takesNext =
+        WantsValue(*word) || *word == "--add" || *word == "--remove" || *word == "--locale";
+    if (takesNext && word + 1 != words.end()) {
+      rewritten.push_back(*word);
+      rewritten.push_back(MarkVerbatim(*++word));
+      continue;
+    }
     const bool adds = !word->empty() && word->front() == '+';
     const bool removes = word->size() > 2 && (*word)[0] == '-' && (*word)[1] != '-';
     if (adds || removes) {

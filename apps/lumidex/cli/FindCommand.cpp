@@ -30,9 +30,9 @@ short form of the interface language, such as 3/1/2015 or 01.03.15. A year of
 two digits is the latest one up to this year.
 
 TAG is a word in any of the nine languages: --tag Flugzeug and --tag jet find
-photos with the tag Plane, too. BOX is SOUTH,WEST,NORTH,EAST in degrees; west of
-the date line to east of it when WEST is greater. TEXT is a part of the file's
-path, of the camera's name or of a tag.
+photos with the tag Plane, too. BOX is SOUTH,WEST,NORTH,EAST in degrees; it
+runs over the date line when WEST is greater than EAST. TEXT is a part of the
+file's path, of the camera's name or of a tag.
 
 Examples:
   lumidex find --date "2023-06-01 - 2023-08-31" --tag Beach

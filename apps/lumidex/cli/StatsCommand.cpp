@@ -23,8 +23,8 @@ constexpr char kDescription[] =
     "Count what you use, for yourself, or stop counting.\n"
     "\n"
     "Statistics are off until you turn them on. They are kept in one file on this\n"
-    "computer and never sent anywhere: the day, the command, and how many photos went\n"
-    "in and came out. They hold no names, no paths, and nothing from your photos.";
+    "computer and never sent anywhere: the day, the command, how many photos went in\n"
+    "and how many came out. They hold no names, no paths, nothing of your photos.";
 
 constexpr char kFooter[] = "\"lumidex help stats COMMAND\" has the examples of a command.";
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <zenvora/core/ioPath.h>
-#include <zenvora/usage/Export.h>
 #include <zenvora/strandel/IStatisticsEventHandler.h>
+#include <zenvora/usage/Export.h>
 
 #include <QDate>
 
