@@ -1,7 +1,7 @@
 # The documented way in. Everything is built through the presets of CMakePresets.json.
 
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-onnx run test test-dev test-asan test-tsan lint lint-format format bench fuzz clean \
+.PHONY: help translations setup setup-onnx run test test-dev test-asan test-tsan lint lint-format format bench fuzz clean \
   windows-toolchain test-windows windows-package
 
 # Where ccache is installed it serves every build, wherever the tree lies.
@@ -19,6 +19,7 @@ help:
 	@echo "make windows-toolchain    what building for Windows needs, once per machine"
 	@echo "make test-windows         the tests for 64-bit Windows, under Wine"
 	@echo "make windows-package      a zip for 64-bit Windows, tried out under Wine"
+	@echo "make translations         take new texts of the sources into translations/*.ts"
 	@echo "make clean                remove everything that was built"
 
 setup:
@@ -58,6 +59,9 @@ lint: setup lint-format
 
 lint-format: setup
 	tools/lint.sh format
+
+translations: setup
+	@tools/translations.py
 
 format: setup
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i

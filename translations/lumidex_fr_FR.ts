@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>N&amp;o to All</source>
-        <translation>N&amp;on pour tout</translation>
+        <translation>Non po&amp;ur tout</translation>
     </message>
     <message>
         <source>Save</source>

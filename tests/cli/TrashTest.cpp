@@ -314,6 +314,7 @@ TEST_F(TrashCommand, DoesNotSurpriseTheNextScan) {
 constexpr char kNoTerminal[] = "what is typed on a console cannot be written from outside";
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAskedAndAnsweredWithYes, kNoTerminal);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAnsweredWithNoByAnythingElse, kNoTerminal);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAnsweredInTheLanguageOrInEnglish, kNoTerminal);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, CanBeInterrupted, kNoTerminal);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, LeavesWhatWasChangedWhileItWasAsked, kNoTerminal);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsNotAskedWhenThereIsNothingToMove, kNoTerminal);
@@ -327,7 +328,7 @@ class TrashQuestion : public TrashCommand {
     QElapsedTimer timer;
     timer.start();
     std::string shown;
-    while (shown.find("[y/N] ") == std::string::npos && timer.elapsed() < kHangMs &&
+    while (shown.find("] ") == std::string::npos && timer.elapsed() < kHangMs &&
            process.state() != QProcess::NotRunning) {
       process.waitForReadyRead(10);
       shown += terminal_.Read();
@@ -369,6 +370,16 @@ TEST_F(TrashQuestion, IsAnsweredWithNoByAnythingElse) {
     EXPECT_EQ(State(), before_) << answer;
   }
   EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("nothing that could be undone"));
+}
+
+TEST_F(TrashQuestion, IsAnsweredInTheLanguageOrInEnglish) {
+  for (const char* const no : {"n\n", "nein\n", "\n", "oui\n"}) {
+    EXPECT_EQ(Answer(no, {"--lang", "de_DE"}).exitCode, 1) << no;
+    EXPECT_THAT(asked_, HasSubstr("in den Papierkorb verschieben? [j/N] "));
+  }
+  EXPECT_EQ(Answer("Yes\n", {"--lang", "de_DE"}).exitCode, 0);
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_EQ(Answer("\u0414\u0410\n", {"--lang", "ru_RU"}).exitCode, 0) << "in capitals";
 }
 
 TEST_F(TrashQuestion, CanBeInterrupted) {
