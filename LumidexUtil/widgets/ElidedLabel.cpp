@@ -34,10 +34,17 @@ int DrawWholeLines(QPainter& painter, const LabelText& text, QSize room, Qt::Ali
     int end = 0;
     y = 0;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine(), y += lineHeight) {
+      const bool last = isLast(y);
+      if (last) {
+        rest = line.textStart();
+      }
+      if (last && piece.whole) {
+        // It shows as a row of its own. The layout is not ended either, which would give this line a width.
+        break;
+      }
       line.setLineWidth(room.width());
       end = line.textStart() + line.textLength();
-      if (isLast(y)) {
-        rest = line.textStart();
+      if (last) {
         break;
       }
     }
@@ -47,10 +54,8 @@ int DrawWholeLines(QPainter& painter, const LabelText& text, QSize room, Qt::Ali
       for (int i = 0; i < whole; ++i) {
         layout.lineAt(i).draw(&painter, QPointF(0, i * lineHeight));
       }
-      layout.endLayout();
       return rest;
     }
-    layout.endLayout();
   }
 }
 

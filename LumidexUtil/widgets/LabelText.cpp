@@ -14,7 +14,7 @@ namespace Zenvora::Lumidex {
 namespace {
 
 /// From here on a text is looked through once instead of at each repaint.
-constexpr int kLong = 8192;
+constexpr int kLong = 6000;
 
 struct Entry {
   /// Shares the data of the label's text, so that no other text can have its address.
@@ -39,8 +39,11 @@ LongText& LongTextOf(const void* owner, const QString& origin) {
 
 /// Whether what follows a piece of text can only make it wider, and items begin where characters say so.
 bool HasUsualSpacing(const QFont& font) {
+  // 0: not set, in either unit.
+  const qreal letters = font.letterSpacing();
+  const qreal least = font.letterSpacingType() == QFont::PercentageSpacing ? 100 : 0;
   return font.capitalization() == QFont::MixedCase && font.wordSpacing() >= 0 &&
-         font.letterSpacing() >= (font.letterSpacingType() == QFont::PercentageSpacing ? 100 : 0);
+         (letters == 0 || letters >= least);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ class LongText;
 class LabelText {
  public:
   /// Shorter than any text that is not shown in part.
-  static constexpr int kFirstLook = 2048;
+  static constexpr int kFirstLook = 512;
   static constexpr int kLookFurther = 4;
 
   struct Piece {

@@ -129,7 +129,7 @@ LongText::LongText(const QString& text) : text_(text) {
 int LongText::SafeEnd(int from, int sure) {
   const int whole = text_.size();
   // Not where it would overflow, and not for a handful of units.
-  if (whole - from <= sure || whole - from - sure <= 2 * kItem) {
+  if (whole - from <= sure || whole - from - sure <= kItem + kVisible) {
     return whole;
   }
   Head head;
