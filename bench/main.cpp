@@ -10,7 +10,7 @@
 #include <benchmark/benchmark.h>
 #include <glog/logging.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QTemporaryDir>
 
 #include <fstream>
@@ -66,9 +66,10 @@ int main(int argc, char** argv) {
     qputenv(folder, home.path().toUtf8());
   }
   qputenv("TZ", "UTC");
+  qputenv("QT_QPA_PLATFORM", "offscreen");
   FLAGS_logtostderr = true;
   google::InitGoogleLogging(argv[0]);
-  App::ApplicationOf<QCoreApplication> application(argc, argv);
+  App::ApplicationOf<QApplication> application(argc, argv);
   const ioPath folder(home.path());
   Bench::WriteCalendar(folder);
   auto& services = application.GetServices();

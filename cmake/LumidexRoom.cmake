@@ -7,7 +7,7 @@ include(GenerateExportHeader)
 set(LUMIDEX_FLOORS
   core=0
   lumidex=1
-  app=2 quillet=2 tavolin=2 strandel=2 qtutility=2 alerts=2
+  app=2 quillet=2 tavolin=2 strandel=2 usage=2 qtutility=2 alerts=2
   LumidexUtil=3
   host=4
   cli=5 gui=5)

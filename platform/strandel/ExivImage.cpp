@@ -160,11 +160,11 @@ ExivImage::ExivImage(PhotoSource& source) : copy_(source) {
 
 ExivImage::~ExivImage() = default;
 
-ExivOutcome ExivImage::ReadMetadata(std::string& cause, ExivReach reach) {
+ExivOutcome ExivImage::ReadMetadata(std::string& cause) {
   // The directories, the EXIF directory, that of the position, the rest: no file takes more rounds.
   constexpr int kMostRounds = 4;
   ExivOutcome outcome = ReadOnce(cause);
-  for (int round = 1; round < kMostRounds && ReadMore(reach); ++round) {
+  for (int round = 1; round < kMostRounds && ReadMore(); ++round) {
     outcome = ReadOnce(cause);
   }
   return outcome;
@@ -187,20 +187,18 @@ ExivOutcome ExivImage::ReadOnce(std::string& cause) {
 }
 
 /// True when it brought bytes that may hold what is missing.
-bool ExivImage::ReadMore(ExivReach reach) {
+bool ExivImage::ReadMore() {
   if (!copy_.Begun() || copy_.Complete()) {
     return false;
   }
-  const bool position = reach == ExivReach::Position;
   const Found found = Collector().Collect(image_->exifData());
   if (found.exifDirectory != 0 && copy_.ReadAround(found.exifDirectory)) {
     return true;
   }
-  if (position && found.gpsDirectory != 0 && copy_.ReadAround(found.gpsDirectory)) {
+  if (found.gpsDirectory != 0 && copy_.ReadAround(found.gpsDirectory)) {
     return true;
   }
-  return (found.blank || (position && found.blankPosition) || LacksFacts(found.fields)) &&
-         copy_.ReadFront(kMostRead);
+  return (found.blank || found.blankPosition || LacksFacts(found.fields)) && copy_.ReadFront(kMostRead);
 }
 
 ExifFields ExivImage::Fields() const {

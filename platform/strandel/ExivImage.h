@@ -21,12 +21,6 @@ enum class ExivOutcome {
   Nonsense,   ///< Something in it makes no sense.
 };
 
-/// Which metadata must have been read, of files that are read in parts.
-enum class ExivReach {
-  Dates,     ///< And the camera.
-  Position,  ///< These and where the photo was taken.
-};
-
 /// A file being read by Exiv2.
 ///
 /// One at a time in the whole process, in whatever thread, for as long as it lives: reading metadata also
@@ -45,7 +39,7 @@ class ExivImage {
 
   /// Reads the metadata, and of TIFF and raw files as much as that takes. Throws nothing but
   /// `std::bad_alloc`. `cause` says what is damaged; what was found before the damage is there nevertheless.
-  ExivOutcome ReadMetadata(std::string& cause, ExivReach reach = ExivReach::Dates);
+  ExivOutcome ReadMetadata(std::string& cause);
 
   ExifFields Fields() const;
   Exiv2::Image& Image() { return *image_; }
@@ -56,7 +50,7 @@ class ExivImage {
 
  private:
   ExivOutcome ReadOnce(std::string& cause);
-  bool ReadMore(ExivReach reach);
+  bool ReadMore();
 
   PartialCopy copy_;
   std::unique_lock<std::mutex> lock_;

@@ -1,18 +1,23 @@
-#include "PhotoReading.h"
+#include "ExivImage.h"
+#include "FormatName.h"
+#include "HeifSize.h"
+#include "ImageMetadata.h"
 #include "PictureMarks.h"
 
+#include <zenvora/core/FileState.h>
+#include <zenvora/strandel/PhotoFacts.h>
+
 #include <exception>
+#include <functional>
 #include <new>
+#include <utility>
 
 namespace Zenvora::Strandel {
 
 namespace {
 
-/// What a reading goes for, and who gets it.
-struct Wish {
-  ExivReach reach;
-  const TakeImage& take;
-};
+/// Sees an image and its file while Exiv2 is locked, and may move data out of the image.
+using TakeImage = std::function<void(Exiv2::Image&, PhotoSource&)>;
 
 std::string WithoutBlanks(const std::string& text) {
   return QString::fromStdString(text).trimmed().toStdString();
@@ -48,14 +53,14 @@ std::string WhatIsMissing(Exiv2::Image& image, ExivOutcome outcome, const std::s
   }
 }
 
-void ReadWithExiv2(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
+void ReadWithExiv2(PhotoSource& source, const TakeImage& take, PhotoFacts& facts) {
   ExivImage image(source);
   if (!image.IsPicture()) {
     Refuse(facts, "Its content is of no known picture format");
     return;
   }
   std::string cause;
-  const ExivOutcome outcome = image.ReadMetadata(cause, wish.reach);
+  const ExivOutcome outcome = image.ReadMetadata(cause);
   if (image.Image().exifData().empty()) {
     const std::string missing = WhatIsMissing(image.Image(), outcome, cause);
     if (!missing.empty()) {
@@ -64,14 +69,12 @@ void ReadWithExiv2(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
     }
   }
   Take(image.Fields(), facts);
-  if (wish.take) {
-    wish.take(image.Image(), source);
-  }
+  take(image.Image(), source);
 }
 
-void ReadKnownFormat(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
+void ReadKnownFormat(PhotoSource& source, const TakeImage& take, PhotoFacts& facts) {
   try {
-    ReadWithExiv2(source, wish, facts);
+    ReadWithExiv2(source, take, facts);
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception& error) {
@@ -83,7 +86,7 @@ bool SaysNothing(const PhotoFacts& facts) {
   return !facts.original.isValid() && !facts.digitised.isValid() && facts.cameraModel.isEmpty();
 }
 
-void ReadContent(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
+void ReadContent(PhotoSource& source, const TakeImage& take, PhotoFacts& facts) {
   if (source.Size() == 0) {
     Refuse(facts, "It is empty");
     return;
@@ -92,7 +95,7 @@ void ReadContent(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
     Take(ExifFields(), facts);
     return;
   }
-  ReadKnownFormat(source, wish, facts);
+  ReadKnownFormat(source, take, facts);
   // Exiv2 takes films for pictures, and gives a picture up for a colour profile that it does not like.
   if (BeginsLikeContainer(source) && SaysNothing(facts)) {
     if (HasPictureBrand(source)) {
@@ -104,16 +107,15 @@ void ReadContent(PhotoSource& source, const Wish& wish, PhotoFacts& facts) {
   }
 }
 
-}  // namespace
-
-PhotoFacts ReadPhoto(const ioPath& file, ExivReach reach, const TakeImage& take) {
+/// `take` is called when there is an image.
+PhotoFacts ReadPhoto(const ioPath& file, const TakeImage& take) {
   PhotoFacts facts;
   PhotoSource source;
   if (!source.Open(file, facts.cause)) {
     return facts;
   }
   try {
-    ReadContent(source, {reach, take}, facts);
+    ReadContent(source, take, facts);
   } catch (const std::bad_alloc&) {
     Refuse(facts, "Reading it takes more memory than there is");
   }
@@ -126,8 +128,28 @@ PhotoFacts ReadPhoto(const ioPath& file, ExivReach reach, const TakeImage& take)
   return facts;
 }
 
+QSize SizeOf(const Exiv2::Image& image, PhotoSource& source) {
+  const QSize inBoxes = image.imageType() == Exiv2::ImageType::bmff ? ReadHeifSize(source) : QSize();
+  return inBoxes.isEmpty() ? QSize(image.pixelWidth(), image.pixelHeight()) : inBoxes;
+}
+
+}  // namespace
+
 PhotoFacts ReadPhotoFacts(const ioPath& file) {
-  return ReadPhoto(file, ExivReach::Dates, nullptr);
+  ImageMetadata::File known;
+  known.modifiedNs = QueryFile(file).modifiedNs;
+  Exiv2::ExifData exif;
+  PhotoFacts facts = ReadPhoto(file, [&known, &exif](Exiv2::Image& image, PhotoSource& source) {
+    known.format = FormatName(image);
+    const QSize size = SizeOf(image, source);
+    known.width = size.width();
+    known.height = size.height();
+    std::swap(exif, image.exifData());
+  });
+  if (facts.status == PhotoFacts::Status::Read) {
+    facts.metadata.reset(new ImageMetadata(std::move(exif), std::move(known)));
+  }
+  return facts;
 }
 
 }  // namespace Zenvora::Strandel

@@ -201,7 +201,15 @@ TEST_F(CatalogueFile, IsNotBroughtUpToDateByReaders) {
 
 /// What later versions added is taken out again.
 void MakeOlder(const ioPath& file, int version) {
-  std::vector<std::string> statements = {"DROP TABLE trashed"};
+  std::vector<std::string> statements = {"DROP TABLE tag_changes",
+                                         "DROP TABLE photo_tags",
+                                         "DROP TABLE tags",
+                                         "ALTER TABLE photos DROP COLUMN latitude",
+                                         "ALTER TABLE photos DROP COLUMN longitude",
+                                         "ALTER TABLE photos DROP COLUMN reading"};
+  if (version < 4) {
+    statements.emplace_back("DROP TABLE trashed");
+  }
   if (version < 3) {
     statements.insert(statements.end(), {"DROP TABLE cluster_photos", "DROP TABLE clusters",
                                          "DROP TABLE features", "DROP TABLE analysers"});
@@ -264,6 +272,9 @@ TEST_P(FormerCatalogue, IsBroughtUpToDateWithAllThatItHolds) {
   EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), Catalogue::kSchemaVersion);
   EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM cluster_photos"}), QVariant(0));
   EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM trashed"}), QVariant(0));
+  EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM photo_tags"}), QVariant(0));
+  // So that the next scan reads them again.
+  EXPECT_TRUE(Catalogue(file_, Mode::ReadOnly).Stamps("/p").at("/p/0").isOutdated);
   EXPECT_EQ(RunSql(file_, {"PRAGMA foreign_key_check"}), QVariant(true));
 }
 
@@ -291,7 +302,8 @@ TEST_P(FormerCatalogue, StaysAsItWasWhenItCannotBeBroughtUpToDate) {
   // A table that the next version wants to make.
   RunSql(file_, {GetParam() < 2   ? "CREATE TABLE changes (a)"
                  : GetParam() < 3 ? "CREATE TABLE clusters (a)"
-                                  : "CREATE TABLE trashed (a)"});
+                 : GetParam() < 4 ? "CREATE TABLE trashed (a)"
+                                  : "CREATE TABLE tags (a)"});
   const std::string before = Content(file_, GetParam());
   EXPECT_THAT(OpeningError(file_, Mode::ReadWrite), HasSubstr("already exists"));
   EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), GetParam());
@@ -304,7 +316,7 @@ TEST_P(FormerCatalogue, StaysAsItWasWhenItCannotBeBroughtUpToDate) {
   EXPECT_EQ(tables, GetParam() - 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Versions, FormerCatalogue, testing::Values(1, 2, 3));
+INSTANTIATE_TEST_SUITE_P(Versions, FormerCatalogue, testing::Values(1, 2, 3, 4));
 
 TEST_F(CatalogueFile, SaysThatItIsDamaged) {
   MakeFilled(2000);

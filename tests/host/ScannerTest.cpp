@@ -1,6 +1,8 @@
+#include "RawSql.h"
 #include "Records.h"
 
 #include <host/Scanner.h>
+#include <support/GpsPhoto.h>
 #include <support/LeftOut.h>
 #include <support/Obstacles.h>
 #include <support/PhotoMaker.h>
@@ -518,6 +520,32 @@ struct NameRow {
   const char* name;
   bool isPhoto;
 };
+
+TEST_F(Scanner, TakesCameraAndPlaceIn) {
+  const ioPath photo = WriteJpeg(root_ / "a.jpg", Taken("2021:05:01 10:20:30"));
+  Test::AddGps(photo, {"48/1 30/1", "N", "2/1 15/1", "W"});
+  WriteJpeg(root_ / "b.jpg");
+  Run();
+  const std::vector<PhotoRecord> photos = catalogue_.Photos();
+  ASSERT_EQ(photos.size(), 2U);
+  EXPECT_EQ(photos[0].camera, QStringLiteral("Model X"));
+  ASSERT_TRUE(photos[0].position);
+  EXPECT_DOUBLE_EQ(photos[0].position->latitude, 48.5);
+  EXPECT_DOUBLE_EQ(photos[0].position->longitude, -2.25);
+  EXPECT_TRUE(photos[1].camera.isEmpty());
+  EXPECT_FALSE(photos[1].position);
+}
+
+TEST_F(Scanner, ReadsAgainWhatAFormerVersionReadLessOf) {
+  Test::AddGps(WriteJpeg(root_ / "a.jpg"), {"48/1", "N", "2/1", "E"});
+  Run();
+  EXPECT_EQ(Run().unchanged, 1U);
+  ASSERT_TRUE(Test::RunSql(catalogue_.File(), {"UPDATE photos SET reading = 0, latitude = NULL"}).isValid());
+  const ScanResult again = Run();
+  EXPECT_EQ(again.updated, 1U);
+  EXPECT_TRUE(Only().position);
+  EXPECT_EQ(Run().unchanged, 1U);
+}
 
 class PhotoNames : public testing::TestWithParam<NameRow> {};
 

@@ -261,6 +261,7 @@ class AlbumsRun {
     }
     Report();
     Accept();
+    session_.Count(ItemType::Album, view_.photos, view_.rows.size());
     session_.output.Print(session_.globals.json ? AlbumsDocument(view_) : AlbumsText(view_));
     return Judge();
   }

@@ -27,6 +27,7 @@ constexpr char kFooter[] =
   lumidex albums                       see which albums they would make
   lumidex albums --accept "Christmas, December 2023"
   lumidex albums --report albums.html  the same as a page with pictures
+  lumidex find --tag Beach --date "2023-06-01 - 2023-08-31"
   lumidex rename --pattern "{date}_{number:3}" ~/Pictures/trip
   lumidex undo                         take that back
   lumidex sample /tmp/demo             make photos to try things out on
@@ -77,11 +78,14 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   AddAlbumsCommand(*program, chosen);
   AddSimilarCommand(*program, chosen);
   AddInfoCommand(*program, chosen);
+  AddFindCommand(*program, chosen);
+  AddTagCommand(*program, chosen);
   AddRenameCommand(*program, chosen);
   AddEditCommands(*program, chosen);
   AddUndoCommands(*program, chosen);
   AddCalendarCommand(*program, chosen);
   AddSampleCommand(*program, chosen);
+  AddStatsCommand(*program, chosen);
   return program;
 }
 
@@ -117,8 +121,41 @@ Words::iterator FindCommand(Words& words) {
   return word;
 }
 
+/// Of the command `tag`, "+Beach" gives a tag and "-Family" takes one away. A dash with a single letter stays
+/// an option.
+void TakeTagWords(Words& words) {
+  const auto command = FindCommand(words);
+  if (command == words.end() || *command != "tag") {
+    return;
+  }
+  Words rewritten(words.begin(), command + 1);
+  for (auto word = command + 1; word != words.end(); ++word) {
+    if (*word == "--") {
+      rewritten.insert(rewritten.end(), word, words.end());
+      break;
+    }
+    const bool takesNext =
+        WantsValue(*word) || *word == "--add" || *word == "--remove" || *word == "--locale";
+    if (takesNext && word + 1 != words.end()) {
+      rewritten.push_back(*word);
+      rewritten.push_back(MarkVerbatim(*++word));
+      continue;
+    }
+    const bool adds = !word->empty() && word->front() == '+';
+    const bool removes = word->size() > 2 && (*word)[0] == '-' && (*word)[1] != '-';
+    if (adds || removes) {
+      rewritten.emplace_back(adds ? "--add" : "--remove");
+      rewritten.push_back(MarkVerbatim(word->substr(1)));
+    } else {
+      rewritten.push_back(*word);
+    }
+  }
+  words = std::move(rewritten);
+}
+
 /// `help COMMAND` is `COMMAND --help`. Words behind "--" are no options, whatever they begin with.
 Words Rewritten(Words words) {
+  TakeTagWords(words);
   const auto mark = std::find(words.begin(), words.end(), "--");
   if (mark != words.end()) {
     std::transform(mark + 1, words.end(), mark + 1, [](const std::string& word) {
@@ -194,6 +231,13 @@ std::vector<std::string> NamesOfCommands(const CLI::App& command) {
 std::string HelpHint(const CLI::App& command) {
   const CLI::App* const parent = command.get_parent();
   return parent ? HelpHint(*parent) + ' ' + command.get_name() : "lumidex help";
+}
+
+/// "calendar show"; empty for the program itself.
+std::string NameOf(const CLI::App& command) {
+  const CLI::App* const parent = command.get_parent();
+  const std::string above = parent ? NameOf(*parent) : std::string();
+  return parent ? above + (above.empty() ? "" : " ") + command.get_name() : above;
 }
 
 /// The innermost command that was given.
@@ -298,6 +342,7 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   }
   parsed.globals = globals;
   parsed.action = chosen;
+  parsed.command = NameOf(GivenCommand(*program));
   return parsed;
 }
 

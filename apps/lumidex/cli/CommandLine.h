@@ -12,6 +12,7 @@ struct ParsedCommandLine {
   Globals globals;
   /// Empty: there is nothing to run, only `text` to print.
   Action action;
+  std::string command;  ///< Its name: "scan", "calendar show".
   std::string text;
 };
 

@@ -21,5 +21,8 @@ void AddEditCommands(CLI::App& program, Action& chosen);
 void AddUndoCommands(CLI::App& program, Action& chosen);
 void AddCalendarCommand(CLI::App& program, Action& chosen);
 void AddSampleCommand(CLI::App& program, Action& chosen);
+void AddFindCommand(CLI::App& program, Action& chosen);
+void AddTagCommand(CLI::App& program, Action& chosen);
+void AddStatsCommand(CLI::App& program, Action& chosen);
 
 }  // namespace Zenvora::Lumidex::Cli

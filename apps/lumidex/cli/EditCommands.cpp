@@ -148,6 +148,7 @@ class EditRun {
     } else if (!photos_.empty()) {
       Edit();
     }
+    session_.Count(ItemType::Photo, view_.photos, view_.edited);
     view_.recovered = session_.recovered;
     session_.output.Print(session_.globals.json ? EditDocument(view_) : EditText(view_));
     Note();

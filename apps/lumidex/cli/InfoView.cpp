@@ -32,7 +32,7 @@ std::string CoordinateText(double degrees, const QString& reference, const char*
   return number + ' ' + hemisphere + (reference == QLatin1String(hemisphere) ? "" : "?");
 }
 
-std::string PositionText(const std::optional<Host::PhotoPosition>& position) {
+std::string PositionText(const std::optional<Host::StatedPosition>& position) {
   if (!position || position->place == Quillet::Geo::GPSData::Invalid()) {
     return position ? "?" : "";
   }
@@ -122,7 +122,7 @@ void WriteReference(JsonWriter& json, const char* name, const QString& reference
   }
 }
 
-void WritePosition(JsonWriter& json, const std::optional<Host::PhotoPosition>& position) {
+void WritePosition(JsonWriter& json, const std::optional<Host::StatedPosition>& position) {
   if (!position) {
     json.Null("position");
     return;

@@ -103,6 +103,15 @@ void JsonWriter::Number(std::string_view name, long long number) {
 }
 
 void JsonWriter::Real(std::string_view name, float number) {
+  WriteReal(name, number);
+}
+
+void JsonWriter::Real(std::string_view name, double number) {
+  WriteReal(name, number);
+}
+
+template <class Float>
+void JsonWriter::WriteReal(std::string_view name, Float number) {
   Next(name);
   text_ += RealText(number);
 }

@@ -46,6 +46,8 @@ class JsonWriter {
   std::string Finish();
 
  private:
+  template <class Float>
+  void WriteReal(std::string_view name, Float number);
   void Next(std::string_view name);
   void Open(std::string_view name, char bracket);
   void Close(char bracket);

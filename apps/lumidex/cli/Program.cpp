@@ -7,6 +7,7 @@
 #include "JsonWriter.h"
 #include "LogLines.h"
 #include "Options.h"
+#include "StatsCommand.h"
 #include "Words.h"
 
 #include <host/HostError.h>
@@ -123,9 +124,11 @@ ExitCode RunCommand(const ParsedCommandLine& parsed, Output& output, Console& co
   QCoreApplication::setApplicationName(QStringLiteral("lumidex"));
   QCoreApplication::setApplicationVersion(QStringLiteral(LUMIDEX_VERSION));
   const LanguageScope language(parsed.globals, console);
-  Session session{parsed.globals, output, console, Interrupted(), {}};
+  Session session{parsed.globals, output, console, Interrupted(), {}, {}};
   try {
-    return parsed.action(session);
+    const ExitCode code = parsed.action(session);
+    NoteUse(parsed.command, session);
+    return code;
   } catch (const Host::HostError&) {
     // What the host gives up on request it reports like any failure; here the language is still in force.
     ThrowIfInterrupted(Say(Words::tr("Interrupted.")).c_str());

@@ -7,6 +7,7 @@
 #include "TerminalText.h"
 #include "Words.h"
 
+#include <LumidexUtil/UpdateStat.h>
 #include <host/PhotoChoice.h>
 #include <host/RenamePattern.h>
 #include <host/ShotDates.h>
@@ -107,6 +108,8 @@ class RenameRun {
     if (!arguments_.dryRun && !view_.plan.renames.empty()) {
       Rename();
     }
+    session_.Count(ItemType::Photo, view_.shots, view_.result.files);
+    session_.usage = UpdateStat(pattern_.MainMode(), std::move(session_.usage));
     view_.recovered = session_.recovered;
     session_.output.Print(session_.globals.json ? RenameDocument(view_) : RenameText(view_));
     if (view_.result.cancelled) {

@@ -272,6 +272,7 @@ ExitCode RunScan(const ScanArguments& arguments, Session& session) {
     });
   }
 
+  session.Count(ItemType::Photo, result.found, result.added + result.updated);
   session.output.Print(session.globals.json ? ResultDocument(arguments, file, result)
                                             : ResultText(arguments, file, result));
   if (result.cancelled) {

@@ -1,8 +1,10 @@
 #include "Session.h"
 
+#include <LumidexUtil/UpdateStat.h>
 #include <host/Catalogue.h>
 
 #include <filesystem>
+#include <utility>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -32,6 +34,10 @@ ioPath AbsolutePath(const std::string& argument) {
 
 ioPath Session::CatalogueFile() const {
   return globals.catalogue.empty() ? Host::Catalogue::DefaultFile() : AbsolutePath(globals.catalogue);
+}
+
+void Session::Count(ItemType type, std::size_t itemsIn, std::size_t itemsOut) {
+  usage = UpdateStat(type, UpdateStat(LaunchMode::CommandLine, itemsIn, itemsOut, std::move(usage)));
 }
 
 }  // namespace Zenvora::Lumidex::Cli

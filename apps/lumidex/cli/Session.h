@@ -6,9 +6,11 @@
 
 #include <zenvora/core/Exception.h>
 #include <zenvora/core/ioPath.h>
+#include <zenvora/lumidex/ItemType.h>
 
 #include <atomic>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -31,9 +33,13 @@ struct Session {
   const std::atomic<bool>& interrupted;
   /// What was finished or taken back of former runs that stopped half way, in sentences.
   std::vector<std::string> recovered;
+  /// What usage statistics, if the user wants any, tell of this run besides the command: see `UpdateStat`.
+  std::map<std::string, std::string> usage;
 
   /// The catalogue's file, absolute.
   ioPath CatalogueFile() const;
+  /// Notes for the statistics what kind of items the run was about, how many went in and how many came out.
+  void Count(ItemType type, std::size_t itemsIn, std::size_t itemsOut);
 };
 
 /// A command with its arguments, ready to run.

@@ -129,6 +129,7 @@ class SimilarRun {
       Trash();
       view_.recovered = session_.recovered;
     }
+    session_.Count(ItemType::Photo, view_.photos, view_.groups.size());
     session_.output.Print(session_.globals.json ? SimilarDocument(view_) : SimilarText(view_));
     if (view_.cancelled) {
       session_.console.Note(Say(view_.trash

@@ -243,7 +243,7 @@ const ioPath& Catalogue::File() const {
 std::unordered_map<ioPath, FileStamp> Catalogue::Stamps(const ioPath& folder) const {
   const CatalogueDatabase& database = impl_->Database();
   QSqlQuery query = database.Prepare(
-      "SELECT path, size, modified_ns, lost FROM photos WHERE path = ? OR (path >= ? AND path < ?)");
+      "SELECT path, size, modified_ns, lost, reading FROM photos WHERE path = ? OR (path >= ? AND path < ?)");
   const auto [first, behind] = RangeBelow(folder);
   query.addBindValue(PathBytes(folder));
   query.addBindValue(first);
@@ -252,7 +252,7 @@ std::unordered_map<ioPath, FileStamp> Catalogue::Stamps(const ioPath& folder) co
   std::unordered_map<ioPath, FileStamp> stamps;
   while (database.Next(query)) {
     stamps[PathOf(query.value(0))] = {query.value(1).toULongLong(), query.value(2).toLongLong(),
-                                      query.value(3).toBool()};
+                                      query.value(3).toBool(), query.value(4).toInt() < kReading};
   }
   return stamps;
 }
@@ -265,10 +265,12 @@ void Catalogue::Store(const std::vector<PhotoRecord>& batch) {
   WriteTransaction transaction(database);
   {
     QSqlQuery query = database.Prepare(
-        "INSERT INTO photos (id, path, size, modified_ns, taken, taken_source, camera) VALUES (?, ?, ?, ?, "
-        "?, ?, ?)"
+        "INSERT INTO photos (id, path, size, modified_ns, taken, taken_source, camera, latitude, longitude,"
+        " reading) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"
         " ON CONFLICT (path) DO UPDATE SET size = excluded.size, modified_ns = excluded.modified_ns,"
-        " taken = excluded.taken, taken_source = excluded.taken_source, camera = excluded.camera, lost = 0");
+        " taken = excluded.taken, taken_source = excluded.taken_source, camera = excluded.camera,"
+        " latitude = excluded.latitude, longitude = excluded.longitude, reading = excluded.reading, lost = "
+        "0");
     for (const PhotoRecord& photo : batch) {
       query.addBindValue(Tavolin::GenerateUuid());
       query.addBindValue(PathBytes(photo.path));
@@ -277,6 +279,9 @@ void Catalogue::Store(const std::vector<PhotoRecord>& batch) {
       query.addBindValue(TakenText(photo.taken));
       query.addBindValue(static_cast<int>(photo.takenSource));
       query.addBindValue(NotNull(photo.camera));
+      query.addBindValue(LatitudeOf(photo));
+      query.addBindValue(LongitudeOf(photo));
+      query.addBindValue(kReading);
       database.Run(query);
     }
   }
@@ -318,6 +323,35 @@ std::vector<PhotoRecord> Catalogue::Photos() const {
     photos.push_back(PhotoOf(query));
   }
   return photos;
+}
+
+std::vector<TagUse> Catalogue::Tags() const {
+  const CatalogueDatabase& database = impl_->Database();
+  QSqlQuery query = database.Prepare(
+      "SELECT t.type, t.name, count(p.number) FROM tags t LEFT JOIN photo_tags pt ON pt.tag = t.number"
+      " LEFT JOIN photos p ON p.number = pt.photo AND p.lost = 0"
+      " GROUP BY t.number ORDER BY t.type, t.name");
+  database.Run(query);
+  std::vector<TagUse> tags;
+  while (database.Next(query)) {
+    tags.push_back({{static_cast<TagType>(query.value(0).toInt()), query.value(1).toString()},
+                    static_cast<std::size_t>(query.value(2).toULongLong())});
+  }
+  return tags;
+}
+
+std::unordered_map<std::string, std::vector<Tag>> Catalogue::PhotoTags() const {
+  const CatalogueDatabase& database = impl_->Database();
+  QSqlQuery query = database.Prepare(
+      "SELECT p.id, t.type, t.name FROM photo_tags pt JOIN photos p ON p.number = pt.photo"
+      " JOIN tags t ON t.number = pt.tag WHERE p.lost = 0 ORDER BY p.number, t.type, t.name");
+  database.Run(query);
+  std::unordered_map<std::string, std::vector<Tag>> tags;
+  while (database.Next(query)) {
+    tags[query.value(0).toString().toStdString()].push_back(
+        {static_cast<TagType>(query.value(1).toInt()), query.value(2).toString()});
+  }
+  return tags;
 }
 
 AcceptResult Catalogue::AcceptAlbum(const Album& proposal) {

@@ -62,6 +62,14 @@ QString NotNull(const QString& text) {
   return text.isNull() ? QStringLiteral("") : text;
 }
 
+QVariant LatitudeOf(const PhotoRecord& photo) {
+  return photo.position ? QVariant(photo.position->latitude) : QVariant(QVariant::Double);
+}
+
+QVariant LongitudeOf(const PhotoRecord& photo) {
+  return photo.position ? QVariant(photo.position->longitude) : QVariant(QVariant::Double);
+}
+
 PhotoRecord PhotoOf(const QSqlQuery& row) {
   PhotoRecord photo;
   photo.id = row.value(0).toString();
@@ -71,6 +79,9 @@ PhotoRecord PhotoOf(const QSqlQuery& row) {
   photo.taken = TakenOf(row.value(4).toString());
   photo.takenSource = static_cast<DateSource>(row.value(5).toInt());
   photo.camera = row.value(6).toString();
+  if (!row.value(7).isNull() && !row.value(8).isNull()) {
+    photo.position = PhotoPosition{row.value(7).toDouble(), row.value(8).toDouble()};
+  }
   return photo;
 }
 
@@ -121,13 +132,17 @@ bool PhotoPathUpdate::Set(const QByteArray& from, const QByteArray& to) {
 
 void UpdatePhotoRow(const CatalogueDatabase& database, const PhotoRecord& photo) {
   QSqlQuery query = database.Prepare(
-      "UPDATE photos SET size = ?, modified_ns = ?, taken = ?, taken_source = ?, camera = ?, lost = 0"
+      "UPDATE photos SET size = ?, modified_ns = ?, taken = ?, taken_source = ?, camera = ?, latitude = ?,"
+      " longitude = ?, reading = ?, lost = 0"
       " WHERE path = ?");
   query.addBindValue(static_cast<qlonglong>(photo.size));
   query.addBindValue(static_cast<qlonglong>(photo.modifiedNs));
   query.addBindValue(TakenText(photo.taken));
   query.addBindValue(static_cast<int>(photo.takenSource));
   query.addBindValue(NotNull(photo.camera));
+  query.addBindValue(LatitudeOf(photo));
+  query.addBindValue(LongitudeOf(photo));
+  query.addBindValue(kReading);
   query.addBindValue(PathBytes(photo.path));
   database.Run(query);
 }

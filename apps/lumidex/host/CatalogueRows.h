@@ -26,9 +26,18 @@ QDateTime TakenOf(const QString& text);
 /// A null text would be NULL, which the tables do not take.
 QString NotNull(const QString& text);
 
+/// What a scan takes in of a photo today. To be raised with each thing more: it makes scans read again what
+/// they read with a lower number.
+constexpr int kReading = 1;
+
+/// NULL when there is none.
+QVariant LatitudeOf(const PhotoRecord& photo);
+QVariant LongitudeOf(const PhotoRecord& photo);
+
 /// The columns of a photo that `PhotoOf` reads, of the table `photos` as `p`.
-constexpr char kPhotoColumns[] = "p.id, p.path, p.size, p.modified_ns, p.taken, p.taken_source, p.camera";
-constexpr int kPhotoColumnCount = 7;
+constexpr char kPhotoColumns[] =
+    "p.id, p.path, p.size, p.modified_ns, p.taken, p.taken_source, p.camera, p.latitude, p.longitude";
+constexpr int kPhotoColumnCount = 9;
 /// A photo that is not lost, from the current row, whose first columns are those.
 PhotoRecord PhotoOf(const QSqlQuery& row);
 

@@ -115,6 +115,27 @@ const Statements& Migration(int fromVersion) {
           " modified_ns INTEGER NOT NULL)",
           "CREATE INDEX trashed_by_step ON trashed (step)",
       },
+      {
+          "ALTER TABLE photos ADD COLUMN latitude REAL",
+          "ALTER TABLE photos ADD COLUMN longitude REAL",
+          "ALTER TABLE photos ADD COLUMN reading INTEGER NOT NULL DEFAULT 0",
+          "CREATE TABLE tags ("
+          " number INTEGER PRIMARY KEY,"
+          " type INTEGER NOT NULL,"
+          " name TEXT NOT NULL,"
+          " UNIQUE (type, name))",
+          "CREATE TABLE photo_tags ("
+          " photo INTEGER NOT NULL REFERENCES photos (number),"
+          " tag INTEGER NOT NULL REFERENCES tags (number),"
+          " PRIMARY KEY (photo, tag)) WITHOUT ROWID",
+          "CREATE INDEX photo_tags_by_tag ON photo_tags (tag)",
+          "CREATE TABLE tag_changes ("
+          " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
+          " photo INTEGER NOT NULL REFERENCES photos (number),"
+          " tag INTEGER NOT NULL REFERENCES tags (number),"
+          " added INTEGER NOT NULL CHECK (added IN (0, 1)),"
+          " PRIMARY KEY (step, photo, tag)) WITHOUT ROWID",
+      },
   };
   static_assert(kCatalogueApplicationId == 1280132184, "the first migration writes it");
   CHECK_EQ(migrations.size(), static_cast<std::size_t>(Catalogue::kSchemaVersion));

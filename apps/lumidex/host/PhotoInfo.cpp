@@ -44,7 +44,7 @@ void DoubtReference(const Axis& axis, const QString& reference, double degrees,
                    " is assumed");
 }
 
-void Doubt(PhotoPosition& position) {
+void Doubt(StatedPosition& position) {
   if (position.place == Quillet::Geo::GPSData::Invalid()) {
     position.doubts.emplace_back("its position has numbers over zero and is none");
     return;
@@ -56,13 +56,15 @@ void Doubt(PhotoPosition& position) {
   }
 }
 
-std::optional<PhotoPosition> PositionOf(const Metadata& metadata) {
+}  // namespace
+
+std::optional<StatedPosition> PositionOf(const Metadata& metadata) {
   const bool hasLatitude = !GpsProperty(metadata, IImageMetadata::TAG_LATITUDE).IsEmpty();
   const bool hasLongitude = !GpsProperty(metadata, IImageMetadata::TAG_LONGITUDE).IsEmpty();
   if (!hasLatitude && !hasLongitude) {
     return std::nullopt;
   }
-  PhotoPosition position;
+  StatedPosition position;
   position.place = Util::GetGPSData(metadata);
   position.latitudeReference = GpsText(metadata, "GPSLatitudeRef");
   position.longitudeReference = GpsText(metadata, "GPSLongitudeRef");
@@ -74,8 +76,6 @@ std::optional<PhotoPosition> PositionOf(const Metadata& metadata) {
   }
   return position;
 }
-
-}  // namespace
 
 PhotoInfo ReadPhotoInfo(const ioPath& photo) {
   const Metadata metadata = Util::GetMetadata(photo);

@@ -1,6 +1,7 @@
 #include "FolderWalker.h"
 #include "MetadataReaders.h"
 
+#include <host/PhotoInfo.h>
 #include <host/Scanner.h>
 
 #include <zenvora/core/ErrorText.h>
@@ -136,7 +137,7 @@ void ScanRun::Take(const FolderWalker::Found& found) {
   ++progress_.found;
   const auto known = stamps_.find(found.path);
   const bool isKnown = known != stamps_.end();
-  const bool isUnchanged = isKnown && !options_.full && !known->second.lost &&
+  const bool isUnchanged = isKnown && !options_.full && !known->second.lost && !known->second.isOutdated &&
                            known->second.size == found.state.size &&
                            known->second.modifiedNs == found.state.modifiedNs;
   if (isKnown) {
@@ -232,6 +233,16 @@ ScanResult ScanRun::Finish() {
   return std::move(result_);
 }
 
+/// The one place that says which camera and place a photo has.
+void TakeCameraAndPlace(const Strandel::PhotoFacts& facts, PhotoRecord& record) {
+  record.camera = facts.cameraModel;
+  // Whoever searches a place does not look for photos that may be somewhere else.
+  const auto stated = PositionOf(facts.metadata);
+  if (stated && stated->doubts.empty()) {
+    record.position = PhotoPosition{stated->place.GetLatitude(), stated->place.GetLongitude()};
+  }
+}
+
 void TakeDate(const Strandel::PhotoFacts& facts, PhotoRecord& record) {
   if (facts.original.isValid()) {
     record.taken = facts.original;
@@ -284,7 +295,7 @@ bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding) {
   record.path = file;
   record.size = state.size;
   record.modifiedNs = state.modifiedNs;
-  record.camera = facts.cameraModel;
+  TakeCameraAndPlace(facts, record);
   TakeDate(facts, record);
   return true;
 }

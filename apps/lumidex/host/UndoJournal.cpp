@@ -6,6 +6,7 @@
 #include "ProcessLock.h"
 #include "ShotNames.h"
 #include "StepState.h"
+#include "TagSteps.h"
 #include "TrashSteps.h"
 
 #include <LumidexUtil/UndoFileHolder.h>
@@ -107,6 +108,7 @@ class UndoJournal::Impl {
                     const UndoProgress& progress);
   TrashResult MoveToTrash(const QString& name, const std::vector<TrashPhoto>& photos,
                           const std::atomic<bool>& cancelled, const UndoProgress& progress);
+  UndoResult ChangeTags(const QString& name, const TagWishes& wishes);
   ioPath PlanEdit(const ioPath& photo);
   void FinishEdit();
   void DropEdit();
@@ -149,6 +151,7 @@ class UndoJournal::Impl {
                             const UndoProgress& progress);
   bool MoveOne(const SeenFile& file, const ioPath& kept, TrashResult& result) const;
   void SettleTrash(qlonglong step);
+  UndoResult ReverseTags(const StepRow& step, bool redo);
   UndoResult ReverseTrash(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                           const UndoProgress& progress);
   bool IsKept(const ChangeRow& change, bool redo) const;
@@ -173,6 +176,7 @@ class UndoJournal::Impl {
   const CatalogueDatabase database_;
   const KeptFiles kept_;
   const TrashSteps trash_;
+  const TagSteps tags_;
   qlonglong step_ = 0;
   std::optional<ChangeRow> edit_;
 };
@@ -183,7 +187,8 @@ UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker, cons
       catalogue_(catalogue, Catalogue::Mode::ReadWrite),
       database_(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
       kept_(FolderOf(catalogue.absolute())),
-      trash_(database_, locker, trash) {
+      trash_(database_, locker, trash),
+      tags_(database_) {
   // What the journal says must be on the disk before the photos change.
   database_.Execute("PRAGMA synchronous = FULL");
   TakeLock(FolderOf(catalogue.absolute()));
@@ -874,6 +879,38 @@ UndoResult UndoJournal::Impl::ReverseTrash(StepRow& step, bool redo, const std::
   return result;
 }
 
+// --- Tags
+
+UndoResult UndoJournal::Impl::ChangeTags(const QString& name, const TagWishes& wishes) {
+  UndoResult result;
+  result.name = name;
+  WriteTransaction transaction(database_);
+  const qlonglong step = InsertStep(name, 0, {});
+  result.files = tags_.Apply(step, wishes);
+  if (result.files == 0) {
+    return result;
+  }
+  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
+  query.addBindValue(static_cast<int>(State::Done));
+  query.addBindValue(static_cast<qlonglong>(result.files));
+  query.addBindValue(step);
+  database_.Run(query);
+  query.finish();
+  transaction.Commit();
+  DropUndone();
+  return result;
+}
+
+UndoResult UndoJournal::Impl::ReverseTags(const StepRow& step, bool redo) {
+  UndoResult result;
+  result.name = step.name;
+  WriteTransaction transaction(database_);
+  result.files = tags_.Reverse(step.number, redo);
+  SetState("steps", step.number, redo ? State::Done : State::Undone);
+  transaction.Commit();
+  return result;
+}
+
 UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancelled,
                                       const UndoProgress& progress) {
   std::vector<StepRow> steps = ReadSteps(redo ? "state = 4 AND number > (SELECT coalesce(max(number), 0) "
@@ -884,6 +921,9 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
     return {};
   }
   StepRow& step = steps.front();
+  if (tags_.Has(step.number)) {
+    return ReverseTags(step, redo);
+  }
   if (!trash_.Files(step.number).empty()) {
     return ReverseTrash(step, redo, cancelled, progress);
   }
@@ -1045,6 +1085,11 @@ TrashResult UndoJournal::MoveToTrash(const QString& name, const std::vector<Tras
                                      const std::atomic<bool>& cancelled, const UndoProgress& progress) {
   impl_->EndStep();
   return impl_->MoveToTrash(name, photos, cancelled, progress);
+}
+
+UndoResult UndoJournal::ChangeTags(const QString& name, const TagWishes& wishes) {
+  impl_->EndStep();
+  return impl_->ChangeTags(name, wishes);
 }
 
 ioPath UndoJournal::PlanEdit(const ioPath& photo) {

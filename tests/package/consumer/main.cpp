@@ -1,11 +1,12 @@
-// What a program of somebody else does with the library: words a count, checks what it is about to save and
-// groups twenty photos of a weekend.
+// What a program of somebody else does with the library: words a count, checks what it is about to save,
+// asks for metadata and groups twenty photos of a weekend.
 
 #include <LumidexUtil/CheckFilesReadable.h>
 #include <LumidexUtil/CheckFilesToCopyBeforeAdd.h>
 #include <LumidexUtil/CheckFormatsWritable.h>
 #include <LumidexUtil/CheckSaveAvailable.h>
 #include <LumidexUtil/HolidayAlbums.h>
+#include <LumidexUtil/MetadataReaders.h>
 #include <LumidexUtil/Wording.h>
 
 #include <QCoreApplication>
@@ -29,6 +30,16 @@ bool IsReadyToSave(const QString& program) {
          Zenvora::Util::CheckFilesToCopyBeforeAddDialog({}).isEmpty();
 }
 
+// A program is no photo.
+bool SaysThatItIsNoPhoto(const QString& program) {
+  try {
+    Zenvora::Util::GetMetadata(Zenvora::ioPath(program));
+    return false;
+  } catch (const Zenvora::Exception&) {
+    return true;
+  }
+}
+
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   if (Zenvora::Util::GetCountString("photo", "photos", 3) != QStringLiteral("photos")) {
@@ -38,6 +49,11 @@ int main(int argc, char** argv) {
 
   if (!IsReadyToSave(QCoreApplication::applicationFilePath())) {
     std::cerr << "something is in the way\n";
+    return 1;
+  }
+
+  if (!SaysThatItIsNoPhoto(QCoreApplication::applicationFilePath())) {
+    std::cerr << "metadata of a program\n";
     return 1;
   }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <host/HostError.h>
+#include <host/Tags.h>
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/Album.h>
@@ -10,6 +11,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -21,6 +23,12 @@ enum class DateSource : int { None = 0, Original = 1, Digitised = 2, FileTime = 
 /// "original", "digitised", "file time" or "none".
 const char* DateSourceName(DateSource source);
 
+/// Where a photo was taken, in degrees: -90..90, positive to the north, and -180..180, positive to the east.
+struct PhotoPosition {
+  double latitude = 0;
+  double longitude = 0;
+};
+
 /// One photo as the catalogue knows it.
 struct PhotoRecord {
   QString id;                   ///< Empty in a record that is not stored yet.
@@ -29,7 +37,8 @@ struct PhotoRecord {
   std::int64_t modifiedNs = 0;  ///< Modification time, nanoseconds since 1970-01-01 UTC.
   QDateTime taken;              ///< Local time of the camera; invalid: unknown.
   DateSource takenSource = DateSource::None;
-  QString camera;
+  QString camera;  ///< Its model; empty: unknown.
+  std::optional<PhotoPosition> position;
   bool lost = false;  ///< The file was missing at the last scan of its folder.
 };
 
@@ -38,6 +47,13 @@ struct FileStamp {
   std::uint64_t size = 0;
   std::int64_t modifiedNs = 0;
   bool lost = false;
+  bool isOutdated = false;  ///< A former version of the program read the file, and less of it.
+};
+
+/// A tag, and how many photos that are not lost have it.
+struct TagUse {
+  Tag tag;
+  std::size_t photos = 0;
 };
 
 /// What accepting an album changed.
@@ -71,7 +87,7 @@ class Catalogue {
     ReadWrite,  ///< Made with its folders when missing, brought up to date when older.
     ReadOnly,   ///< Must exist. Nothing is written; an older schema is refused with a hint to run a scan.
   };
-  static constexpr int kSchemaVersion = 4;
+  static constexpr int kSchemaVersion = 5;
   static constexpr int kBusyTimeoutMs = 10'000;
 
   Catalogue(const ioPath& file, Mode mode);
@@ -101,6 +117,12 @@ class Catalogue {
   /// the missing members, at its end; nothing is ever taken out. One transaction. Throws, having stored
   /// nothing, when a member is not in the catalogue.
   AcceptResult AcceptAlbum(const Album& proposal);
+  /// Tags that were ever given, by type, then name.
+  std::vector<TagUse> Tags() const;
+  /// The tags of all photos that are not lost, by photo id; each photo's by type, then name. Photos without
+  /// tags are not among them.
+  std::unordered_map<std::string, std::vector<Tag>> PhotoTags() const;
+
   /// Accepted albums by first day, then name.
   std::vector<StoredAlbum> Albums() const;
 

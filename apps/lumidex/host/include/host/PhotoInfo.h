@@ -3,7 +3,10 @@
 #include <zenvora/core/ioPath.h>
 #include <zenvora/quillet/FrameInfo.h>
 #include <zenvora/quillet/GPSData.h>
+#include <zenvora/strandel/IImageMetadata.h>
 #include <zenvora/tavolin/FileDateTime.h>
+
+#include <boost/smart_ptr/intrusive_ptr.hpp>
 
 #include <QString>
 
@@ -15,7 +18,7 @@
 namespace Zenvora::Lumidex::Host {
 
 /// Where a photo says that it was taken.
-struct PhotoPosition {
+struct StatedPosition {
   Quillet::Geo::GPSData place = Quillet::Geo::GPSData::Invalid();
   /// As written, "N"; empty: none.
   QString latitudeReference;
@@ -29,10 +32,13 @@ struct PhotoInfo {
   ioPath photo;
   std::uint64_t size = 0;  ///< Bytes.
   QString camera;          ///< Without blanks at its ends; empty: not known.
-  std::optional<PhotoPosition> position;
+  std::optional<StatedPosition> position;
   Tavolin::FileDate date;
   Conf::FrameInfo frame;
 };
+
+/// None when the metadata say nothing of a place. Pure.
+std::optional<StatedPosition> PositionOf(const boost::intrusive_ptr<Proc::IImageMetadata>& metadata);
 
 /// Reads one photo. Throws `Strandel::MetadataError` when it cannot be read. Blocks on the disk; safe from
 /// any thread.

@@ -2,6 +2,7 @@
 
 #include <host/HostError.h>
 #include <host/RenamePlan.h>
+#include <host/Tags.h>
 #include <host/TrashPlan.h>
 
 #include <zenvora/core/ioPath.h>
@@ -63,6 +64,13 @@ struct TrashResult : UndoResult {
   std::vector<TrashMove> moved;
 };
 
+/// Which tags photos are to get and to lose.
+struct TagWishes {
+  std::vector<ioPath> photos;  ///< By the paths that the catalogue has them under.
+  std::vector<Tag> add;
+  std::vector<Tag> remove;  ///< None that is to be added.
+};
+
 /// What is kept at most, the latest steps first.
 struct UndoLimits {
   static constexpr int kDefaultDays = 90;
@@ -110,6 +118,10 @@ class UndoJournal : public IUndo {
   /// there now, with all that the catalogue knew of them.
   TrashResult MoveToTrash(const QString& name, const std::vector<TrashPhoto>& photos,
                           const std::atomic<bool>& cancelled, const UndoProgress& progress);
+
+  /// Gives photos tags and takes some from them, as one step: all or, when it throws, none. The files are not
+  /// touched. `files` of the result: photos that have other tags now; 0: there is no step.
+  UndoResult ChangeTags(const QString& name, const TagWishes& wishes);
 
   /// The name for the side file of an edit of `photo`, in its folder: hidden, and removed by recovery when it
   /// is still there. To be called within a step, before the side file is made.

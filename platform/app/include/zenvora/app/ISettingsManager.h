@@ -27,6 +27,8 @@ inline constexpr char kDownloadBaseUrl[] = "Download/BaseUrl";
 inline constexpr char kUndoDays[] = "Undo/Days";
 /// How much is kept for that, such as 500M or 5G; absent: 5G.
 inline constexpr char kUndoSize[] = "Undo/Size";
+/// "true": usage statistics are kept on this computer; anything else or absent: not.
+inline constexpr char kStatistics[] = "Statistics/Enabled";
 /// The folder that photos were copied to last, before they were added; absent: the user's pictures folder.
 inline constexpr char kLastUsedCopyDirectory[] = "LumidexLastUsedCopyDirectory";
 }  // namespace SettingsKey

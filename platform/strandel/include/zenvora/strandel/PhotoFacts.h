@@ -2,6 +2,9 @@
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/strandel/Export.h>
+#include <zenvora/strandel/IImageMetadata.h>
+
+#include <boost/smart_ptr/intrusive_ptr.hpp>
 
 #include <QDateTime>
 #include <QString>
@@ -28,6 +31,8 @@ struct PhotoFacts {
   QDateTime digitised;
   /// EXIF Model (0x0110) without surrounding blanks; empty when absent.
   QString cameraModel;
+  /// What else the file says; null unless it was read.
+  boost::intrusive_ptr<Proc::IImageMetadata> metadata;
 };
 
 /// Reads the metadata of one file. Never throws for bad content, never changes the file and never waits for

@@ -1,0 +1,90 @@
+#include "FindView.h"
+
+#include "JsonWriter.h"
+#include "TagText.h"
+#include "TerminalText.h"
+#include "TextTable.h"
+
+#include <LumidexUtil/SearchHelper.h>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+std::string TakenText(const Host::PhotoRecord& photo) {
+  return photo.taken.isValid() ? photo.taken.toString(QStringLiteral("yyyy-MM-dd HH:mm")).toStdString() : "-";
+}
+
+std::string CameraText(const Host::PhotoRecord& photo) {
+  return photo.camera.isEmpty() ? "-" : photo.camera.toStdString();
+}
+
+void WritePosition(JsonWriter& json, const Host::PhotoRecord& photo) {
+  if (!photo.position) {
+    json.Null("position");
+    return;
+  }
+  json.BeginObject("position");
+  json.Real("latitude", photo.position->latitude);
+  json.Real("longitude", photo.position->longitude);
+  json.EndObject();
+}
+
+void WriteDates(JsonWriter& json, const FindView& view) {
+  if (!view.dates) {
+    json.Null("dates");
+    return;
+  }
+  json.BeginObject("dates");
+  json.Day("first", view.dates->first);
+  json.Day("last", view.dates->second);
+  json.EndObject();
+}
+
+}  // namespace
+
+std::string FindDocument(const FindView& view) {
+  JsonWriter json("lumidex.find", 1);
+  json.Path("catalogue", view.catalogue);
+  WriteDates(json, view);
+  json.Number("searched", static_cast<long long>(view.photos));
+  json.BeginArray("photos");
+  for (const FindView::Row& row : view.rows) {
+    json.BeginObject();
+    json.Text("id", row.photo.id);
+    json.Path("path", row.photo.path);
+    json.Moment("taken", row.photo.taken);
+    json.Text("takenSource", Host::DateSourceName(row.photo.takenSource));
+    json.Text("camera", row.photo.camera);
+    WritePosition(json, row.photo);
+    WriteTags(json, "tags", row.tags);
+    json.EndObject();
+  }
+  json.EndArray();
+  return json.Finish();
+}
+
+std::string FindText(const FindView& view) {
+  std::string text;
+  if (!view.rows.empty()) {
+    TextTable table({{"TAKEN"}, {"CAMERA"}, {"TAGS"}, {"FILE"}});
+    for (const FindView::Row& row : view.rows) {
+      table.AddRow(
+          {TakenText(row.photo), CameraText(row.photo), TagNames(row.tags), row.photo.path.utf8string()});
+    }
+    text = table.Text() + '\n';
+  }
+  text += GroupDigits(view.rows.size()) + " of " + Counted(view.photos, "photo");
+  // How a short date was understood.
+  return text + (view.dates ? ", taken " + SearchHelper::GetDatesStr(*view.dates).toStdString() : "") + ".\n";
+}
+
+std::string FindPaths(const FindView& view) {
+  std::string text;
+  for (const FindView::Row& row : view.rows) {
+    text += row.photo.path.utf8string() + '\n';
+  }
+  return text;
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <host/Catalogue.h>
+#include <host/TagDictionary.h>
+
+#include <QDate>
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// A part of the earth between two parallels and two meridians, in degrees, borders included. Where `west` is
+/// greater than `east` it runs over the date line.
+struct PlaceBox {
+  double south = -90;
+  double west = -180;
+  double north = 90;
+  double east = 180;
+
+  bool Holds(const PhotoPosition& position) const;
+};
+
+/// What photos are looked for; all of it must fit, and what is not set fits all.
+struct PhotoFilter {
+  /// First and last day, both included; a null date is open. By the camera's own clock, which knows no zone.
+  std::optional<std::pair<QDate, QDate>> dates;
+  QString camera;  ///< Part of the model's name.
+  std::optional<PlaceBox> place;
+  std::vector<TagMeaning> tags;
+  std::vector<QString> texts;  ///< Parts of the path, of the camera's or of a tag's name.
+};
+
+using TagsOfPhotos = std::unordered_map<std::string, std::vector<Tag>>;
+
+/// The photos that fit, in their order. Texts are compared by `LookAlikeForm`, names of tags in the language
+/// `locale`. A photo without a date, camera or place fits no filter of these. Pure.
+std::vector<const PhotoRecord*> FindPhotos(const std::vector<PhotoRecord>& photos, const TagsOfPhotos& tags,
+                                           const PhotoFilter& filter, const std::string& locale);
+
+/// Reads a date filter: first the form that is stored ("2015-03-01 - 2015-03-09", "2015-03-01"; one date of
+/// two may be left out), then the one that is shown in the language `locale` ("01.03.2015 - 09.03.2015").
+/// Years of two digits are the latest ones up to that of `today`. None, with the fault in English to be put
+/// behind "needs", when it is neither, or begins after its end. Pure.
+std::optional<std::pair<QDate, QDate>> ReadDates(const QString& text, const std::string& locale,
+                                                 const QDate& today, std::string& fault);
+
+/// Reads "SOUTH,WEST,NORTH,EAST" in degrees; the fault as above. Pure.
+std::optional<PlaceBox> ReadPlaceBox(const QString& text, std::string& fault);
+
+}  // namespace Zenvora::Lumidex::Host
