@@ -70,7 +70,7 @@ TEST_F(LanguageOption, ChangesNoDocumentAndNoExitCode) {
                                 {"albums", "--accept", "nothing"},
                                 {"similar", "--min", "100"}}) {
     const Ran english = Run(QStringList{"--json"} + command);
-    for (const char* const language : {"de_DE", "ja_JP", "ru_RU"}) {
+    for (const char* const language : {"de_DE", "ja_JP"}) {
       const Ran other = Run(QStringList{"--json", "--lang", language} + command);
       const std::string name = command.join(QLatin1Char(' ')).toStdString() + ", " + language;
       if (command.first() != QLatin1String("albums")) {

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -30,21 +31,37 @@ bool IsConsole(DWORD stream) {
   return GetConsoleMode(GetStdHandle(stream), &mode) != 0;
 }
 
-/// False at the end of the input; an interruption ends it, too.
-bool ReadByte(char& byte, const std::atomic<bool>& interrupted) {
-  DWORD count = 0;
-  return !interrupted && ReadFile(GetStdHandle(STD_INPUT_HANDLE), &byte, 1, &count, nullptr) && count == 1;
+/// False at the end of the input; an interruption ends it, too. Bytes of a console would be in its code page,
+/// which has few of the letters of most languages.
+bool ReadPiece(std::string& piece, const std::atomic<bool>& interrupted) {
+  constexpr wchar_t kEndOfInput = 0x1A;
+  std::array<wchar_t, 2> units{};
+  const auto read = [&interrupted](wchar_t& unit) {
+    DWORD count = 0;
+    return !interrupted && ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), &unit, 1, &count, nullptr) &&
+           count == 1;
+  };
+  if (!read(units[0]) || units[0] == kEndOfInput) {
+    return false;
+  }
+  const bool isHalf = QChar::isHighSurrogate(units[0]);
+  if (isHalf && !read(units[1])) {
+    return false;
+  }
+  piece = QString::fromWCharArray(units.data(), isHalf ? 2 : 1).toStdString();
+  return true;
 }
 
 #else
 
 /// False at the end of the input, and on an interruption: its handler lets a read go on.
-bool ReadByte(char& byte, const std::atomic<bool>& interrupted) {
+bool ReadPiece(std::string& piece, const std::atomic<bool>& interrupted) {
   constexpr int kPauseMs = 50;
   while (!interrupted) {
     pollfd input = {STDIN_FILENO, POLLIN, 0};
     if (poll(&input, 1, kPauseMs) > 0) {
-      return read(STDIN_FILENO, &byte, 1) == 1;
+      piece.resize(1);
+      return read(STDIN_FILENO, piece.data(), 1) == 1;
     }
   }
   return false;
@@ -86,11 +103,11 @@ std::optional<std::string> AskForLine(Console& console, const std::string& quest
                                       const std::atomic<bool>& interrupted) {
   console.Show(question + ' ');
   std::string line;
-  for (char byte = 0; ReadByte(byte, interrupted) && line.size() < kLongestLine;) {
-    if (byte == '\n') {
+  for (std::string piece; ReadPiece(piece, interrupted) && line.size() < kLongestLine;) {
+    if (piece == "\n") {
       return interrupted ? std::nullopt : std::optional(line);
     }
-    line += byte;
+    line += piece;
   }
   // No line of an answer ends the one of the question.
   console.Show("\n");
