@@ -1,7 +1,7 @@
 # The documented way in. Everything is built through the presets of CMakePresets.json.
 
 .DEFAULT_GOAL := help
-.PHONY: help setup setup-onnx run test test-dev test-asan test-tsan lint lint-format format bench clean \
+.PHONY: help setup setup-onnx setup-gallery gallery gallery-pictures run test test-dev test-asan test-tsan lint lint-format format bench clean \
   windows-toolchain test-windows windows-package
 
 # Where ccache is installed it serves every build, wherever the tree lies.
@@ -14,6 +14,8 @@ help:
 	@echo "make test                 the tests, then again under the sanitizers"
 	@echo "make lint                 clang-format and clang-tidy as gates"
 	@echo "make bench                the benchmarks' table"
+	@echo "make gallery              the library's widgets in a window, with controls"
+	@echo "make gallery-pictures     their pictures for the documentation"
 	@echo "make format               put the sources into form"
 	@echo "make windows-toolchain    what building for Windows needs, once per machine"
 	@echo "make test-windows         the tests for 64-bit Windows, under Wine"
@@ -26,6 +28,9 @@ setup:
 setup-onnx: setup
 	@tools/setup.sh onnx
 
+setup-gallery: setup
+	@tools/setup.sh gallery
+
 run: setup
 	cmake --preset release
 	cmake --build --preset release --target lumidex_cli
@@ -36,6 +41,7 @@ test: setup test-tsan test-asan test-dev
 # What is off by default is tested and linted all the same, in one of the builds.
 OPTIONS_dev = -DLUMIDEX_ONNX=ON
 test-dev lint: setup-onnx
+test-dev: setup-gallery
 
 test-dev test-asan: test-%: setup
 	cmake --preset $* $(OPTIONS_$*)
@@ -66,6 +72,11 @@ bench: setup
 	cmake --preset release
 	cmake --build --preset release --target lumidex_bench
 	build/release/bin/lumidex_bench
+
+gallery gallery-pictures: setup-gallery
+	cmake --preset release
+	cmake --build --preset release --target lumidex_gallery
+	$(if $(filter gallery,$@),build/release/bin/lumidex_gallery,xvfb-run -a build/release/bin/lumidex_gallery --pictures docs/pictures)
 
 windows-toolchain:
 	@tools/windows/toolchain.sh

@@ -18,6 +18,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -71,6 +72,9 @@ GalleryWindow::GalleryWindow() {
   form->addRow(QStringLiteral("Pixels"), stage_);
   statusBar();
   Apply();
+  for (QComboBox* const box : {text_, name_}) {
+    box->lineEdit()->setCursorPosition(0);
+  }
 }
 
 GalleryWindow::~GalleryWindow() = default;

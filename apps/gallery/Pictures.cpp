@@ -22,7 +22,8 @@ namespace Zenvora::Lumidex::Gallery {
 
 namespace {
 
-constexpr int kFontHeight = 13;
+/// Of the pixels of a line of this one none is lost when its height is rounded.
+constexpr int kFontHeight = 12;
 
 const char* const kFamilies[] = {"DejaVu Sans", "IPAexGothic", "Noto Color Emoji"};
 
@@ -162,7 +163,7 @@ QString UseFontsOfPictures() {
   font.setPixelSize(kFontHeight);
   // As it is drawn depends on the desktop's settings otherwise.
   font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
-  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setHintingPreference(QFont::PreferFullHinting);
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication::setFont(font);
   QApplication::setPalette(MakePalette(false));
