@@ -22,8 +22,8 @@ namespace Zenvora::Lumidex::Gallery {
 
 namespace {
 
-/// Of the pixels of a line of this one none is lost when its height is rounded.
-constexpr int kFontHeight = 12;
+/// At this height what lies under the letters, such as "_", survives the rounding of lines.
+constexpr int kFontHeight = 14;
 
 const char* const kFamilies[] = {"DejaVu Sans", "IPAexGothic", "Noto Color Emoji"};
 
