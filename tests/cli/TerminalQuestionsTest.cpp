@@ -78,7 +78,7 @@ class GivenInAdvance : public testing::Test {
   Output output_;
   Console console_{true};
   std::atomic<bool> interrupted_{false};
-  Session session_{globals_, output_, console_, interrupted_, {}};
+  Session session_{globals_, output_, console_, interrupted_, {}, {}};
   std::string unanswered_;
 };
 

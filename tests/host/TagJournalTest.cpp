@@ -152,7 +152,7 @@ TEST_F(TagJournal, KeepsTagsWithAPhotoThatGoesToTheTrash) {
   Change({"a.jpg"}, {Own("Beach")});
   const auto known = [](const ioPath& path) {
     const FileState state = QueryFile(path);
-    return KnownFile{path, state.size, state.modifiedNs};
+    return SeenFile{path, state.size, state.modifiedNs};
   };
   const TrashPhoto going = {known(Photo("a.jpg")), known(Photo("b.jpg")), {}};
   ASSERT_EQ(journal_.MoveToTrash(QStringLiteral("trash"), {going}, never_, nullptr).photos, 1U);
