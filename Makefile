@@ -1,7 +1,7 @@
 # The documented way in. Everything is built through the presets of CMakePresets.json.
 
 .DEFAULT_GOAL := help
-.PHONY: help translations setup setup-onnx run test test-dev test-asan test-tsan lint lint-format format bench fuzz clean \
+.PHONY: help translations setup setup-onnx setup-gallery gallery gallery-pictures run test test-dev test-asan test-tsan lint lint-format format bench fuzz clean \
   windows-toolchain test-windows windows-package
 
 # Where ccache is installed it serves every build, wherever the tree lies.
@@ -15,6 +15,8 @@ help:
 	@echo "make lint                 clang-format and clang-tidy as gates"
 	@echo "make bench                the benchmarks' table"
 	@echo "make fuzz [SECONDS=15]    each reader of files from elsewhere, fed with inputs made to break it"
+	@echo "make gallery              the library's widgets in a window, with controls"
+	@echo "make gallery-pictures     their pictures for the documentation"
 	@echo "make format               put the sources into form"
 	@echo "make windows-toolchain    what building for Windows needs, once per machine"
 	@echo "make test-windows         the tests for 64-bit Windows, under Wine"
@@ -28,6 +30,9 @@ setup:
 setup-onnx: setup
 	@tools/setup.sh onnx
 
+setup-gallery: setup
+	@tools/setup.sh gallery
+
 run: setup
 	cmake --preset release
 	cmake --build --preset release --target lumidex_cli
@@ -38,6 +43,7 @@ test: setup test-tsan test-asan test-dev
 # What is off by default is tested and linted all the same, in one of the builds.
 OPTIONS_dev = -DLUMIDEX_ONNX=ON
 test-dev lint: setup-onnx
+test-dev: setup-gallery
 
 test-dev test-asan: test-%: setup
 	cmake --preset $* $(OPTIONS_$*)
@@ -78,6 +84,11 @@ fuzz: setup
 	cmake --preset fuzz
 	cmake --build --preset fuzz
 	tools/fuzz.sh $(SECONDS)
+
+gallery gallery-pictures: setup-gallery
+	cmake --preset release
+	cmake --build --preset release --target lumidex_gallery
+	$(if $(filter gallery,$@),build/release/bin/lumidex_gallery,xvfb-run -a build/release/bin/lumidex_gallery --pictures docs/pictures)
 
 windows-toolchain:
 	@tools/windows/toolchain.sh

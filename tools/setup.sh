@@ -4,6 +4,7 @@
 #   tools/setup.sh windows    what the Windows build needs besides
 #   tools/setup.sh bench      what the benchmarks compare with
 #   tools/setup.sh fuzz       what the fuzzers are built with
+#   tools/setup.sh gallery    what the gallery's pictures need
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -59,6 +59,12 @@ int DrawWholeLines(QPainter& painter, const LabelText& text, QSize room, Qt::Ali
   }
 }
 
+/// To screen readers, if there are any.
+void TellNewName(QWidget& label) {
+  QAccessibleEvent event(&label, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
+}
+
 }  // namespace
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QFrame(parent) {
@@ -74,7 +80,7 @@ void ElidedLabel::SetOriginText(const QString& text) {
   originText_ = text;
   update();
   setToolTip(text);
-  TellNewName();
+  TellNewName(*this);
 }
 
 const QString ElidedLabel::GetOriginText() const {
@@ -110,13 +116,8 @@ void ElidedLabel::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) {
     LabelText::Forget(this, originText_);
     update();
-    TellNewName();
+    TellNewName(*this);
   }
-}
-
-void ElidedLabel::TellNewName() {
-  QAccessibleEvent event(this, QAccessible::NameChanged);
-  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace Zenvora::Lumidex

@@ -523,7 +523,7 @@ struct NameRow {
 
 TEST_F(Scanner, TakesCameraAndPlaceIn) {
   const ioPath photo = WriteJpeg(root_ / "a.jpg", Taken("2021:05:01 10:20:30"));
-  Test::AddGps(photo, {"48/1 30/1", "N", "2/1 15/1", "W"});
+  Zenvora::Test::AddGps(photo, {"48/1 30/1", "N", "2/1 15/1", "W"});
   WriteJpeg(root_ / "b.jpg");
   Run();
   const std::vector<PhotoRecord> photos = catalogue_.Photos();
@@ -537,10 +537,11 @@ TEST_F(Scanner, TakesCameraAndPlaceIn) {
 }
 
 TEST_F(Scanner, ReadsAgainWhatAFormerVersionReadLessOf) {
-  Test::AddGps(WriteJpeg(root_ / "a.jpg"), {"48/1", "N", "2/1", "E"});
+  Zenvora::Test::AddGps(WriteJpeg(root_ / "a.jpg"), {"48/1", "N", "2/1", "E"});
   Run();
   EXPECT_EQ(Run().unchanged, 1U);
-  ASSERT_TRUE(Test::RunSql(catalogue_.File(), {"UPDATE photos SET reading = 0, latitude = NULL"}).isValid());
+  ASSERT_TRUE(
+      Zenvora::Test::RunSql(catalogue_.File(), {"UPDATE photos SET reading = 0, latitude = NULL"}).isValid());
   const ScanResult again = Run();
   EXPECT_EQ(again.updated, 1U);
   EXPECT_TRUE(Only().position);

@@ -633,8 +633,12 @@ TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
   Rename({{"a.jpg", "x.jpg"}});
   ASSERT_TRUE(Photo("x.jpg").rename(Photo("a.jpg")));
   StopIn(1);
-  for (const char* const table : {"trashed", "cluster_photos", "clusters", "features", "analysers"}) {
+  for (const char* const table : {"tag_changes", "photo_tags", "tags", "trashed", "cluster_photos",
+                                  "clusters", "features", "analysers"}) {
     Sql(std::string("DROP TABLE ") + table);
+  }
+  for (const char* const column : {"latitude", "longitude", "reading"}) {
+    Sql(std::string("ALTER TABLE photos DROP COLUMN ") + column);
   }
   Sql("PRAGMA user_version = 2");
   EXPECT_TRUE(NeedsRecovery(catalogue_));

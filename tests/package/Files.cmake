@@ -10,6 +10,7 @@ foreach(file IN ITEMS ${libraries}
     ${HEADERS}/LumidexUtil/Export.h ${HEADERS}/LumidexUtil/HolidayAlbums.h ${HEADERS}/LumidexUtil/Wording.h
     ${HEADERS}/LumidexUtil/CheckFilesReadable.h ${HEADERS}/LumidexUtil/CheckFilesToCopyBeforeAdd.h
     ${HEADERS}/LumidexUtil/CheckFormatsWritable.h ${HEADERS}/LumidexUtil/CheckSaveAvailable.h
+    ${HEADERS}/LumidexUtil/ElidedLabel.h ${HEADERS}/LumidexUtil/UIControllerUser.h
     ${HEADERS}/zenvora/core/ioPath.h ${HEADERS}/zenvora/lumidex/DataModel.h
     ${DATADIR}/lumidex/HolidayEvents.json ${DOCDIR}/LICENSE)
   if(NOT EXISTS "${TREE}/${file}")

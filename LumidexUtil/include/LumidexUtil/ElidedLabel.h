@@ -45,8 +45,6 @@ class LUMIDEXUTIL_EXPORT ElidedLabel : public QFrame {
  private:
   friend class AccessibleLabel;
 
-  void TellNewName();
-
   QString originText_;
   Qt::Alignment alignment_ = Qt::AlignLeft;
 };

@@ -116,11 +116,6 @@ void JsonWriter::WriteReal(std::string_view name, Float number) {
   text_ += RealText(number);
 }
 
-void JsonWriter::Real(std::string_view name, double number) {
-  Next(name);
-  text_ += RealText(number);
-}
-
 void JsonWriter::Truth(std::string_view name, bool value) {
   Next(name);
   text_ += value ? "true" : "false";

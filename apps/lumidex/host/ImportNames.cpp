@@ -214,6 +214,7 @@ std::vector<JoinedShot> FindJoins(const std::vector<ImportCopy>& copies,
     shotOf.emplace(file.path, file.shot);
   }
   std::vector<ioPath> there;
+  there.reserve(entries.size());
   for (const ioPath& entry : entries) {
     there.push_back(Sibling(copies.front().target, entry.utf8string()));
   }
