@@ -1444,6 +1444,146 @@ above %1 against; later photos move the centre.</source>
         <source>Not read</source>
         <translation>Nicht gelesen</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>AUFGENOMMEN</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>SCHLAGWÖRTER</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 von %2 Foto, aufgenommen %3.</numerusform>
+            <numerusform>%1 von %2 Fotos, aufgenommen %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>%1 von %2 Foto.</numerusform>
+            <numerusform>%1 von %2 Fotos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>Die Statistik ist eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>Die Statistik ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>Datei: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>TAG</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>BEFEHL</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>EINZELHEITEN</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>Die Statistik ist eingeschaltet; %1 Zeile.</numerusform>
+            <numerusform>Die Statistik ist eingeschaltet; %1 Zeilen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>Die Statistik ist ausgeschaltet; %1 Zeile.</numerusform>
+            <numerusform>Die Statistik ist ausgeschaltet; %1 Zeilen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>%1 Zeile der Statistik ist nicht lesbar.</numerusform>
+            <numerusform>%1 Zeilen der Statistik sind nicht lesbar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>Die Statistik ist gelöscht.</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>Schlagwörter: %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>Kein Foto hat das Schlagwort „%1“.</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>eigenes</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>Noch kein Foto hat ein Schlagwort. Rufen Sie auf: lumidex tag DATEI +SCHLAGWORT</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>SCHLAGWORT</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>ART</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>Nicht in der Liste</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>Nicht verschlagwortet</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 Foto geändert; „lumidex undo“ macht es rückgängig.</numerusform>
+            <numerusform>%1 Fotos geändert; „lumidex undo“ macht es rückgängig.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>%1 Foto geändert.</numerusform>
+            <numerusform>%1 Fotos geändert.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

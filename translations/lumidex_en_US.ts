@@ -1444,6 +1444,146 @@ above %1 against; later photos move the centre.</translation>
         <source>Not read</source>
         <translation>Not read</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>TAKEN</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>TAGS</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FILE</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 of %2 photo, taken %3.</numerusform>
+            <numerusform>%1 of %2 photos, taken %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>%1 of %2 photo.</numerusform>
+            <numerusform>%1 of %2 photos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>Statistics are on.</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>Statistics are off.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>File: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>DAY</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>COMMAND</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>DETAILS</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>Statistics are on; %1 line.</numerusform>
+            <numerusform>Statistics are on; %1 lines.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>Statistics are off; %1 line.</numerusform>
+            <numerusform>Statistics are off; %1 lines.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>%1 line of the statistics cannot be read.</numerusform>
+            <numerusform>%1 lines of the statistics cannot be read.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>The statistics are deleted.</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>tag %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>No photo has the tag &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>system</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>icon</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>automatic</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>own</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>No photo has a tag yet. Run: lumidex tag FILE +TAG</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>TAG</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TYPE</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>Not in the list</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>Not tagged</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 photo changed; &quot;lumidex undo&quot; takes it back.</numerusform>
+            <numerusform>%1 photos changed; &quot;lumidex undo&quot; takes it back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>%1 photo changed.</numerusform>
+            <numerusform>%1 photos changed.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

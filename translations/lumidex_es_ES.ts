@@ -1444,6 +1444,146 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <source>Not read</source>
         <translation>Sin leer</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>TOMADA</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>ETIQUETAS</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARCHIVO</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tomada %3.</numerusform>
+            <numerusform>%1 de %2 fotos, tomadas %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>%1 de %2 foto.</numerusform>
+            <numerusform>%1 de %2 fotos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>Las estadísticas están activadas.</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>Las estadísticas están desactivadas.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>Archivo: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>DÍA</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>ORDEN</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>DETALLES</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>Las estadísticas están activadas; %1 línea.</numerusform>
+            <numerusform>Las estadísticas están activadas; %1 líneas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>Las estadísticas están desactivadas; %1 línea.</numerusform>
+            <numerusform>Las estadísticas están desactivadas; %1 líneas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>No se puede leer %1 línea de las estadísticas.</numerusform>
+            <numerusform>No se pueden leer %1 líneas de las estadísticas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>Las estadísticas se han borrado.</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>etiquetas: %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>Ninguna foto tiene la etiqueta «%1».</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>sistema</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>icono</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>automática</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>propia</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>Todavía ninguna foto tiene etiqueta. Ejecute: lumidex tag ARCHIVO +ETIQUETA</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>ETIQUETA</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TIPO</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>No están en la lista</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>Sin etiquetar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 foto cambiada; «lumidex undo» lo deshace.</numerusform>
+            <numerusform>%1 fotos cambiadas; «lumidex undo» lo deshace.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>%1 foto cambiada.</numerusform>
+            <numerusform>%1 fotos cambiadas.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1444,6 +1444,146 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <source>Not read</source>
         <translation>Non lues</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>PRISE</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>MOTS-CLÉS</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FICHIER</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 sur %2 photo, prise %3.</numerusform>
+            <numerusform>%1 sur %2 photos, prises %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>%1 sur %2 photo.</numerusform>
+            <numerusform>%1 sur %2 photos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>Les statistiques sont activées.</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>Les statistiques sont désactivées.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>Fichier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>JOUR</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>COMMANDE</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>DÉTAILS</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>Les statistiques sont activées&#xa0;; %1 ligne.</numerusform>
+            <numerusform>Les statistiques sont activées&#xa0;; %1 lignes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>Les statistiques sont désactivées&#xa0;; %1 ligne.</numerusform>
+            <numerusform>Les statistiques sont désactivées&#xa0;; %1 lignes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>%1 ligne des statistiques est illisible.</numerusform>
+            <numerusform>%1 lignes des statistiques sont illisibles.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>Les statistiques sont supprimées.</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>mots-clés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>Aucune photo n’a le mot-clé «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>système</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>icône</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>automatique</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>personnel</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>Aucune photo n’a encore de mot-clé. Lancez&#xa0;: lumidex tag FICHIER +MOT-CLÉ</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>MOT-CLÉ</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TYPE</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>Absents de la liste</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>Sans changement de mots-clés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 photo changée&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
+            <numerusform>%1 photos changées&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>%1 photo changée.</numerusform>
+            <numerusform>%1 photos changées.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1444,6 +1444,146 @@ più di %1; le foto successive spostano il centro.</translation>
         <source>Not read</source>
         <translation>Non lette</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>SCATTATA</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>TAG</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FILE</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 di %2 foto, scattata %3.</numerusform>
+            <numerusform>%1 di %2 foto, scattate %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>%1 di %2 foto.</numerusform>
+            <numerusform>%1 di %2 foto.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>Le statistiche sono attive.</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>Le statistiche sono disattivate.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>File: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>GIORNO</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>COMANDO</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>DETTAGLI</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>Le statistiche sono attive; %1 riga.</numerusform>
+            <numerusform>Le statistiche sono attive; %1 righe.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>Le statistiche sono disattivate; %1 riga.</numerusform>
+            <numerusform>Le statistiche sono disattivate; %1 righe.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>%1 riga delle statistiche è illeggibile.</numerusform>
+            <numerusform>%1 righe delle statistiche sono illeggibili.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>Le statistiche sono eliminate.</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>tag: %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>Nessuna foto ha il tag «%1».</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>sistema</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>icona</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>automatico</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>proprio</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>Nessuna foto ha ancora un tag. Esegua: lumidex tag FILE +TAG</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>TAG</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TIPO</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>Non nell’elenco</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>Senza tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 foto cambiata; «lumidex undo» annulla la modifica.</numerusform>
+            <numerusform>%1 foto cambiate; «lumidex undo» annulla la modifica.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>%1 foto cambiata.</numerusform>
+            <numerusform>%1 foto cambiate.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

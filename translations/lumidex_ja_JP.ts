@@ -1377,6 +1377,139 @@ above %1 against; later photos move the centre.</source>
         <source>Not read</source>
         <translation>読み取らなかったもの</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>撮影日時</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ファイル</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>写真%2枚のうち%1枚、撮影 %3。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>写真%2枚のうち%1枚。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>統計はオンです。</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>統計はオフです。</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>ファイル: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>詳細</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>統計はオン、%1行です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>統計はオフ、%1行です。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>統計の%1行を読み取れません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>統計を削除しました。</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>タグ: %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>タグ「%1」の付いた写真はありません。</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>システム</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>アイコン</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>独自</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>タグの付いた写真はまだありません。次を実行してください: lumidex tag ファイル +タグ</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>一覧にないもの</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>タグを付けなかったもの</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>写真%1枚を変更しました。「lumidex undo」で元に戻せます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>写真%1枚を変更しました。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

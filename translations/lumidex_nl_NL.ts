@@ -1444,6 +1444,146 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <source>Not read</source>
         <translation>Niet gelezen</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>GENOMEN</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>TAGS</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>BESTAND</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 van %2 foto, genomen %3.</numerusform>
+            <numerusform>%1 van %2 foto’s, genomen %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>%1 van %2 foto.</numerusform>
+            <numerusform>%1 van %2 foto’s.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>De statistieken staan aan.</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>De statistieken staan uit.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>Bestand: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>DAG</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>OPDRACHT</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>DETAILS</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>De statistieken staan aan; %1 regel.</numerusform>
+            <numerusform>De statistieken staan aan; %1 regels.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>De statistieken staan uit; %1 regel.</numerusform>
+            <numerusform>De statistieken staan uit; %1 regels.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>%1 regel van de statistieken is onleesbaar.</numerusform>
+            <numerusform>%1 regels van de statistieken zijn onleesbaar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>De statistieken zijn verwijderd.</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>tags: %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>Geen foto heeft de tag ‘%1’.</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>systeem</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>pictogram</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>eigen</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>Nog geen foto heeft een tag. Voer uit: lumidex tag BESTAND +TAG</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>TAG</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>SOORT</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>Niet in de lijst</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>Niet getagd</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 foto gewijzigd; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
+            <numerusform>%1 foto’s gewijzigd; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>%1 foto gewijzigd.</numerusform>
+            <numerusform>%1 foto’s gewijzigd.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1444,6 +1444,146 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <source>Not read</source>
         <translation>Não lidas</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>TIRADA</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>ETIQUETAS</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARQUIVO</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tirada %3.</numerusform>
+            <numerusform>%1 de %2 fotos, tiradas %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>%1 de %2 foto.</numerusform>
+            <numerusform>%1 de %2 fotos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>As estatísticas estão ativadas.</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>As estatísticas estão desativadas.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>Arquivo: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>DIA</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>COMANDO</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>DETALHES</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>As estatísticas estão ativadas; %1 linha.</numerusform>
+            <numerusform>As estatísticas estão ativadas; %1 linhas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>As estatísticas estão desativadas; %1 linha.</numerusform>
+            <numerusform>As estatísticas estão desativadas; %1 linhas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>%1 linha das estatísticas está ilegível.</numerusform>
+            <numerusform>%1 linhas das estatísticas estão ilegíveis.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>As estatísticas foram excluídas.</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>etiquetas: %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>Nenhuma foto tem a etiqueta “%1”.</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>sistema</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>ícone</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>automática</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>própria</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>Nenhuma foto tem etiqueta ainda. Execute: lumidex tag ARQUIVO +ETIQUETA</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>ETIQUETA</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TIPO</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>Fora da lista</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>Não etiquetadas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>%1 foto alterada; “lumidex undo” desfaz isso.</numerusform>
+            <numerusform>%1 fotos alteradas; “lumidex undo” desfaz isso.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>%1 foto alterada.</numerusform>
+            <numerusform>%1 fotos alteradas.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

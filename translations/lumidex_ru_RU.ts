@@ -1511,6 +1511,153 @@ above %1 against; later photos move the centre.</source>
         <source>Not read</source>
         <translation>Не прочитаны</translation>
     </message>
+    <message>
+        <source>TAKEN</source>
+        <translation>СНЯТО</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>МЕТКИ</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ФАЙЛ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 из %2 фотографии, снято %3.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos.</source>
+        <comment>found, searched</comment>
+        <translation>
+            <numerusform>%1 из %2 фотографии.</numerusform>
+            <numerusform>%1 из %2 фотографий.</numerusform>
+            <numerusform>%1 из %2 фотографий.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Statistics are on.</source>
+        <translation>Статистика включена.</translation>
+    </message>
+    <message>
+        <source>Statistics are off.</source>
+        <translation>Статистика выключена.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>Файл: %1</translation>
+    </message>
+    <message>
+        <source>DAY</source>
+        <translation>ДЕНЬ</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>КОМАНДА</translation>
+    </message>
+    <message>
+        <source>DETAILS</source>
+        <translation>ПОДРОБНОСТИ</translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are on; %1 lines.</source>
+        <translation>
+            <numerusform>Статистика включена; %1 строка.</numerusform>
+            <numerusform>Статистика включена; %1 строки.</numerusform>
+            <numerusform>Статистика включена; %1 строк.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Statistics are off; %1 lines.</source>
+        <translation>
+            <numerusform>Статистика выключена; %1 строка.</numerusform>
+            <numerusform>Статистика выключена; %1 строки.</numerusform>
+            <numerusform>Статистика выключена; %1 строк.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 lines of the statistics cannot be read.</source>
+        <translation>
+            <numerusform>Не читается %1 строка статистики.</numerusform>
+            <numerusform>Не читаются %1 строки статистики.</numerusform>
+            <numerusform>Не читаются %1 строк статистики.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statistics are deleted.</source>
+        <translation>Статистика удалена.</translation>
+    </message>
+    <message>
+        <source>tag %1</source>
+        <comment>+one -another</comment>
+        <translation>метки: %1</translation>
+    </message>
+    <message>
+        <source>No photo has the tag &quot;%1&quot;.</source>
+        <translation>Метки «%1» нет ни у одной фотографии.</translation>
+    </message>
+    <message>
+        <source>system</source>
+        <comment>kind of tag</comment>
+        <translation>системная</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <comment>kind of tag</comment>
+        <translation>со значком</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <comment>kind of tag</comment>
+        <translation>автоматическая</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <comment>kind of tag</comment>
+        <translation>своя</translation>
+    </message>
+    <message>
+        <source>No photo has a tag yet. Run: lumidex tag FILE +TAG</source>
+        <translation>Меток пока нет ни у одной фотографии. Выполните: lumidex tag ФАЙЛ +МЕТКА</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>МЕТКА</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>ТИП</translation>
+    </message>
+    <message>
+        <source>Not in the list</source>
+        <translation>Нет в списке</translation>
+    </message>
+    <message>
+        <source>Not tagged</source>
+        <translation>Метки не изменены</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <translation>
+            <numerusform>Метки изменены у %1 фотографии; «lumidex undo» отменит это.</numerusform>
+            <numerusform>Метки изменены у %1 фотографий; «lumidex undo» отменит это.</numerusform>
+            <numerusform>Метки изменены у %1 фотографий; «lumidex undo» отменит это.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos changed.</source>
+        <translation>
+            <numerusform>Метки изменены у %1 фотографии.</numerusform>
+            <numerusform>Метки изменены у %1 фотографий.</numerusform>
+            <numerusform>Метки изменены у %1 фотографий.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

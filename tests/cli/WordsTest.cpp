@@ -124,7 +124,8 @@ TEST(StepsOfTheJournal, AreKnownByTheirEnglishNames) {
                                 "rotate 180",
                                 "shift dates by -2d3h",
                                 "set dates to 2024-05-17 18:30:00",
-                                "move similar photos to the trash"};
+                                "move similar photos to the trash",
+                                "tag +Beach -Family"};
   for (const char* const name : kNames) {
     {
       const InterfaceTexts language("en_US");

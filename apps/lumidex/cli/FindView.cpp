@@ -4,6 +4,7 @@
 #include "TagText.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "Words.h"
 
 #include <LumidexUtil/SearchHelper.h>
 
@@ -67,16 +68,24 @@ std::string FindDocument(const FindView& view) {
 std::string FindText(const FindView& view) {
   std::string text;
   if (!view.rows.empty()) {
-    TextTable table({{"TAKEN"}, {"CAMERA"}, {"TAGS"}, {"FILE"}});
+    TextTable table({{Say(Words::tr("TAKEN"))},
+                     {Say(Words::tr("CAMERA"))},
+                     {Say(Words::tr("TAGS"))},
+                     {Say(Words::tr("FILE"))}});
     for (const FindView::Row& row : view.rows) {
       table.AddRow(
           {TakenText(row.photo), CameraText(row.photo), TagNames(row.tags), row.photo.path.utf8string()});
     }
     text = table.Text() + '\n';
   }
-  text += GroupDigits(view.rows.size()) + " of " + Counted(view.photos, "photo");
+  const int amount = Amount(view.photos);
   // How a short date was understood.
-  return text + (view.dates ? ", taken " + SearchHelper::GetDatesStr(*view.dates).toStdString() : "") + ".\n";
+  const std::string dates = view.dates ? SearchHelper::GetDatesStr(*view.dates).toStdString() : std::string();
+  return text +
+         Say(view.dates ? Words::tr("%1 of %2 photos, taken %3.", "found, searched, dates", amount)
+                        : Words::tr("%1 of %2 photos.", "found, searched", amount),
+             {GroupDigits(view.rows.size()), GroupDigits(view.photos), dates}) +
+         '\n';
 }
 
 std::string FindPaths(const FindView& view) {

@@ -6,6 +6,7 @@
 #include "Options.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "Words.h"
 
 #include <LumidexUtil/UpdateStat.h>
 #include <host/UsageStatistics.h>
@@ -65,11 +66,11 @@ constexpr char kSwitchFooter[] =
 Exit codes: 0 done; 4 the settings cannot be written.)";
 
 std::string StateText() {
-  return Host::AreStatisticsOn() ? "Statistics are on" : "Statistics are off";
+  return Say(Host::AreStatisticsOn() ? Words::tr("Statistics are on.") : Words::tr("Statistics are off."));
 }
 
 std::string FileText() {
-  return "File: " + EscapeForTerminal(Host::StatisticsFileOfUser().utf8string()) + '\n';
+  return Say(Words::tr("File: %1"), {EscapeForTerminal(Host::StatisticsFileOfUser().utf8string())}) + '\n';
 }
 
 std::string StatsDocument(const Strandel::Statistics& statistics) {
@@ -104,14 +105,19 @@ std::string ParametersText(const Strandel::StatisticsEvent& event) {
 std::string StatsText(const Strandel::Statistics& statistics) {
   std::string text;
   if (!statistics.events.empty()) {
-    TextTable table({{"DAY"}, {"COMMAND"}, {"DETAILS"}});
+    TextTable table({{Say(Words::tr("DAY"))}, {Say(Words::tr("COMMAND"))}, {Say(Words::tr("DETAILS"))}});
     for (const Strandel::StatisticsEvent& event : statistics.events) {
       table.AddRow({event.day.isValid() ? event.day.toString(Qt::ISODate).toStdString() : "-", event.name,
                     ParametersText(event)});
     }
     text = table.Text() + '\n';
   }
-  return text + StateText() + "; " + Counted(statistics.events.size(), "line") + ".\n" + FileText();
+  const int lines = Amount(statistics.events.size());
+  return text +
+         Say(Host::AreStatisticsOn() ? Words::tr("Statistics are on; %1 lines.", nullptr, lines)
+                                     : Words::tr("Statistics are off; %1 lines.", nullptr, lines),
+             {GroupDigits(statistics.events.size())}) +
+         '\n' + FileText();
 }
 
 ExitCode RunShow(Session& session) {
@@ -121,7 +127,9 @@ ExitCode RunShow(Session& session) {
   }
   session.output.Print(session.globals.json ? StatsDocument(statistics) : StatsText(statistics));
   if (statistics.damaged > 0) {
-    session.console.Warning(Counted(statistics.damaged, "line") + " of the statistics cannot be read.");
+    session.console.Warning(
+        Say(Words::tr("%1 lines of the statistics cannot be read.", nullptr, Amount(statistics.damaged)),
+            {GroupDigits(statistics.damaged)}));
     return ExitCode::Findings;
   }
   return ExitCode::Done;
@@ -142,7 +150,7 @@ ExitCode RunClear(Session& session) {
   if (!fault.empty()) {
     throw Failure("failed", "The statistics cannot be deleted: " + fault + ".");
   }
-  return Tell(session, "The statistics are deleted. " + StateText() + ".\n");
+  return Tell(session, Say(Words::tr("The statistics are deleted.")) + ' ' + StateText() + '\n');
 }
 
 ExitCode RunSwitch(bool on, Session& session) {
@@ -150,7 +158,7 @@ ExitCode RunSwitch(bool on, Session& session) {
     throw Failure("failed",
                   "The settings in " + App::UserSettingsFile().utf8string() + " cannot be written.");
   }
-  return Tell(session, StateText() + ".\n" + (on ? FileText() : std::string()));
+  return Tell(session, StateText() + '\n' + (on ? FileText() : std::string()));
 }
 
 void AddPart(CLI::App& stats, const char* name, const char* description, const char* footer,

@@ -69,6 +69,9 @@ std::string StepText(const std::string& name) {
   if (const auto date = Behind(name, "set dates to ")) {
     return Say(Words::tr("set dates to %1"), {*date});
   }
+  if (const auto tags = Behind(name, "tag ")) {
+    return Say(Words::tr("tag %1", "+one -another"), {*tags});
+  }
   constexpr const char* kWhole[] = {QT_TRANSLATE_NOOP("Terminal", "rotate left"),
                                     QT_TRANSLATE_NOOP("Terminal", "rotate right"),
                                     QT_TRANSLATE_NOOP("Terminal", "rotate 180"),

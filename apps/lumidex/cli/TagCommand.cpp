@@ -4,6 +4,7 @@
 #include "Options.h"
 #include "TagText.h"
 #include "TagView.h"
+#include "Words.h"
 
 #include <host/LookAlikes.h>
 #include <host/PhotoChoice.h>
@@ -156,7 +157,7 @@ class TagRun {
     view_.recovered = session_.recovered;
     session_.output.Print(session_.globals.json ? TagDocument(view_) : TagTextOf(view_));
     if (!arguments_.files.empty() && view_.photos.empty() && view_.findings.empty()) {
-      session_.console.Note("There are no photos in the given folders.");
+      session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
     }
     return Judge();
   }
@@ -230,7 +231,7 @@ class TagRun {
     for (const std::string& word : arguments_.remove) {
       const std::vector<Tag> meant = words.ToRemove(word);
       if (meant.empty()) {
-        session_.console.Note("No photo has the tag \"" + word + "\".");
+        session_.console.Note(Say(Words::tr("No photo has the tag \"%1\"."), {word}));
       }
       for (const Tag& tag : meant) {
         if (std::find(wishes.add.begin(), wishes.add.end(), tag) != wishes.add.end()) {

@@ -5,6 +5,7 @@
 #include "TagText.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "Words.h"
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -22,21 +23,37 @@ const char* KindName(TagView::Kind kind) {
   return "tags";
 }
 
+std::string TypeText(Host::TagType type) {
+  switch (type) {
+    case Host::TagType::Own:
+      break;
+    case Host::TagType::System:
+      return Say(Words::tr("system", "kind of tag"));
+    case Host::TagType::Icon:
+      return Say(Words::tr("icon", "kind of tag"));
+    case Host::TagType::Automatic:
+      return Say(Words::tr("automatic", "kind of tag"));
+  }
+  return Say(Words::tr("own", "kind of tag"));
+}
+
 std::string AllTagsText(const TagView& view) {
   if (view.tags.empty()) {
-    return "No photo has a tag yet. Run: lumidex tag FILE +TAG\n";
+    return Say(Words::tr("No photo has a tag yet. Run: lumidex tag FILE +TAG")) + '\n';
   }
-  TextTable table({{"TAG"}, {"TYPE"}, {"PHOTOS", TextTable::Align::Right}});
+  TextTable table({{Say(Words::tr("TAG"))},
+                   {Say(Words::tr("TYPE"))},
+                   {Say(Words::tr("PHOTOS")), TextTable::Align::Right}});
   for (const Host::TagUse& use : view.tags) {
-    table.AddRow({TagName(use.tag), Host::TagTypeName(use.tag.type), GroupDigits(use.photos)});
+    table.AddRow({TagName(use.tag), TypeText(use.tag.type), GroupDigits(use.photos)});
   }
   return table.Text();
 }
 
 std::string PhotosText(const TagView& view) {
-  std::string text = FindingsText("Not in the list", view.findings);
+  std::string text = FindingsText(Say(Words::tr("Not in the list")), view.findings);
   if (!view.photos.empty()) {
-    TextTable table({{"TAGS"}, {"FILE"}});
+    TextTable table({{Say(Words::tr("TAGS"))}, {Say(Words::tr("FILE"))}});
     for (const TagView::Row& row : view.photos) {
       table.AddRow({TagNames(row.tags), row.path.utf8string()});
     }
@@ -46,12 +63,17 @@ std::string PhotosText(const TagView& view) {
 }
 
 std::string ChangeText(const TagView& view) {
-  const std::string findings = FindingsText("Not tagged", view.findings);
+  const std::string findings = FindingsText(Say(Words::tr("Not tagged")), view.findings);
   if (view.changed == 0) {
-    return findings + "Nothing was changed.\n";
+    return findings + Say(Words::tr("Nothing was changed.")) + '\n';
   }
-  return findings + Counted(view.changed, "photo") + " changed" +
-         (view.canBeUndone ? "; \"lumidex undo\" takes it back.\n" : ".\n");
+  const int amount = Amount(view.changed);
+  return findings +
+         Say(view.canBeUndone
+                 ? Words::tr("%1 photos changed; \"lumidex undo\" takes it back.", nullptr, amount)
+                 : Words::tr("%1 photos changed.", nullptr, amount),
+             {GroupDigits(view.changed)}) +
+         '\n';
 }
 
 }  // namespace
