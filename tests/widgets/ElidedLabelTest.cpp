@@ -297,7 +297,7 @@ TEST(ElidedLabel, IsAlignedToTheLeftAtFirst) {
 
 TEST(ElidedLabel, PaintsItsFrameFirst) {
   Probe label;
-  label.setFrameStyle(QFrame::Box | QFrame::Plain);
+  label.setFrameShape(QFrame::Box);
   label.resize(100, 2 * kLine);
   label.SetOriginText(QStringLiteral("summer holidays"));
   PaintRecorder recorder;
@@ -373,7 +373,7 @@ TEST_F(ShownLabel, IsRepaintedOnNoOtherChange) {
 
 TEST_F(ShownLabel, PassesChangesToTheFrame) {
   // The frame follows the style's width of frames.
-  label_.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  label_.setFrameShape(QFrame::StyledPanel);
   label_.setStyleSheet(QStringLiteral("QFrame { border: 7px solid black }"));
   EXPECT_EQ(label_.frameWidth(), 7);
 }

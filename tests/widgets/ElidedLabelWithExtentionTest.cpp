@@ -26,6 +26,7 @@ class Named : public ElidedLabelWithExtention {
   }
   int Width() const override { return ElidedLabelWithExtention::Width(); }
   void PrepareLastRowText(QString& row) override { ElidedLabelWithExtention::PrepareLastRowText(row); }
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): what the base stores is meant
   QString Stored() const { return ElidedLabel::GetOriginText(); }
   QString Shown() {
     QString text;
