@@ -207,18 +207,15 @@ TEST_F(ImportPlanning, LeavesWhatLiesInTheFolderOfCopiesByWhicheverWay) {
 }
 
 TEST_F(ImportPlanning, ShortensNamesThatTheCountMakesTooLong) {
-  // Of two bytes each: none is cut in two.
-  std::string base;
-  for (int i = 0; i < 125; ++i) {
-    base += "\xD0\xB1";
+  const auto nameOf = [](int letters, const char* end) {
+    return std::string(static_cast<std::size_t>(letters), 'x') + end;
+  };
+  for (int i = 1; i <= 3; ++i) {
+    MakePhoto("card/" + std::to_string(i) + "/" + nameOf(251, ".jpg"), i);
   }
-  const std::string name = base + ".jpg";
-  MakePhoto("card/1/" + name, 1);
-  MakePhoto("card/2/" + name, 2);
-  MakePhoto("card/3/" + name, 3);
   const ImportPlan plan = PlanTo({Card()});
   EXPECT_THAT(TargetNames(plan),
-              ElementsAre(name, base.substr(0, 248) + "(1).jpg", base.substr(0, 244) + "(1)(3).jpg"));
+              ElementsAre(nameOf(251, ".jpg"), nameOf(248, "(1).jpg"), nameOf(245, "(1)(3).jpg")));
   EXPECT_EQ(Carry(plan).copied, 3U);
   EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
 }
@@ -344,6 +341,8 @@ TEST_F(ImportPlanning, HasNothingToDoWithoutPhotos) {
 
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, AsksAboutFilesThatCannotBeRead, Zenvora::Test::kAccessLists);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, KeepsNamesThatAreNoText, Zenvora::Test::kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, CutsNamesBetweenCharacters,
+                              "lengths count in characters there, but for rare ones");
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, FindsFreeNamesThatAreNoTextToo, Zenvora::Test::kNamesAreText);
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, SeesADeviceByWhatTheKernelTells,
                               "devices are told there by themselves");
@@ -389,6 +388,20 @@ TEST_F(ImportPlanning, KeepsNamesThatAreNoText) {
     EXPECT_THAT(TargetNames(plan),
                 testing::UnorderedElementsAre("a\xFF.jpg", "a\x80.jpg", "\xD0\xB1.jpg", "two\nlines.jpg"));
   }
+}
+
+TEST_F(ImportPlanning, CutsNamesBetweenCharacters) {
+  std::string base;
+  for (int i = 0; i < 125; ++i) {
+    base += "\xD0\xB1";
+  }
+  for (int i = 1; i <= 3; ++i) {
+    MakePhoto("card/" + std::to_string(i) + "/" + base + ".jpg", i);
+  }
+  const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan), ElementsAre(base + ".jpg", base.substr(0, 248) + "(1).jpg",
+                                             base.substr(0, 244) + "(1)(3).jpg"));
+  EXPECT_EQ(Carry(plan).copied, 3U);
 }
 
 TEST_F(ImportPlanning, FindsFreeNamesThatAreNoTextToo) {
