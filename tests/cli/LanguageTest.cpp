@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 
+#include <regex>
 #include <string>
 
 namespace Zenvora::Test {
@@ -60,6 +61,12 @@ TEST_F(LanguageOption, ChangesNoDocumentAndNoExitCode) {
   ScanTwoAlbums();
   tree.Write("photos/broken.jpg", "no picture");
   tree.Write("calendar.json", "{\"events\": {}}");
+  // What is done by the first run of all is told by it alone.
+  ASSERT_EQ(Run({"similar", "--min", "100"}).exitCode, Run({"similar", "--min", "100"}).exitCode);
+  // Others use the disk meanwhile.
+  const auto lasting = [](const Ran& ran) {
+    return std::regex_replace(ran.out, std::regex("\"bytesFree\": [0-9]+"), "");
+  };
   for (const QStringList& command :
        std::vector<QStringList>{{"scan", "--dry-run", "--full", "photos"},
                                 {"check", "photos"},
@@ -74,7 +81,7 @@ TEST_F(LanguageOption, ChangesNoDocumentAndNoExitCode) {
       const Ran other = Run(QStringList{"--json", "--lang", language} + command);
       const std::string name = command.join(QLatin1Char(' ')).toStdString() + ", " + language;
       if (command.first() != QLatin1String("albums")) {
-        EXPECT_EQ(other.out, english.out) << name;
+        EXPECT_EQ(lasting(other), lasting(english)) << name;
         EXPECT_EQ(other.err, english.err) << name;
       }
       EXPECT_EQ(other.exitCode, english.exitCode) << name;

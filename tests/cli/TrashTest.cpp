@@ -328,8 +328,11 @@ class TrashQuestion : public TrashCommand {
     QElapsedTimer timer;
     timer.start();
     std::string shown;
-    while (shown.find("] ") == std::string::npos && timer.elapsed() < kHangMs &&
-           process.state() != QProcess::NotRunning) {
+    // The bar of the progress has brackets as well.
+    const auto isAsked = [&shown] {
+      return shown.size() > 2 && shown.compare(shown.size() - 2, 2, "] ") == 0;
+    };
+    while (!isAsked() && timer.elapsed() < kHangMs && process.state() != QProcess::NotRunning) {
       process.waitForReadyRead(10);
       shown += terminal_.Read();
     }

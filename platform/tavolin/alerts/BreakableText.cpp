@@ -12,12 +12,22 @@ namespace {
 
 /// Characters as people count them; what the narrowest boxes show in a line.
 constexpr int kLongestRun = 40;
-/// Half of a small screen. UTF-16 units, where nothing takes more room.
+/// Half of a small screen, in letters.
 constexpr int kLongestText = 800;
+
+/// The scripts of East Asia, whose characters are as wide as two letters. Those outside of the basic plane
+/// are two units anyway.
+bool IsWide(QChar unit) {
+  const char16_t code = unit.unicode();
+  return (code >= 0x1100 && code < 0x1200) || (code >= 0x2E80 && code < 0xD7B0) ||
+         (code >= 0xF900 && code < 0xFB00) || (code >= 0xFE30 && code < 0xFE70) ||
+         (code >= 0xFF00 && code < 0xFF61);
+}
 
 /// How much of a line a unit takes: line ends all of it.
 int RoomOf(QChar unit) {
   constexpr int kTab = 10;
+  constexpr int kWide = 2;
   switch (unit.unicode()) {
     case u'\n':
     case u'\r':
@@ -27,7 +37,7 @@ int RoomOf(QChar unit) {
     case u'\t':
       return kTab;
     default:
-      return 1;
+      return IsWide(unit) ? kWide : 1;
   }
 }
 

@@ -9,6 +9,8 @@
 #include <LumidexUtil/MetadataReaders.h>
 #include <LumidexUtil/Wording.h>
 
+#include <zenvora/core/Exception.h>
+
 #include <QCoreApplication>
 #include <QTimer>
 
