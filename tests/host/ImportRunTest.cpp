@@ -234,6 +234,19 @@ TEST_F(ImportRunning, ListsWhatIsThereWhenTheCatalogueFailsOnTheWay) {
   EXPECT_EQ(Carry(PlanTo({Card()})).added, 3U) << "the next run takes them in";
 }
 
+TEST_F(ImportRunning, AsksForRoomAgainBeforeEachCopy) {
+  const auto photos = MakePhotos("card", 2);
+  const ImportPlan plan = PlanTo({Card()});
+  const auto disk = std::make_shared<Zenvora::Test::FakeDiskSpace>();
+  disk->otherwise = static_cast<std::int64_t>(QueryFile(photos[0]).size) - 1;
+  const App::ServiceScope<App::IDiskSpace> scope(disk);
+  const ImportResult result = Carry(plan);
+  EXPECT_EQ(result.copied, 0U);
+  EXPECT_THAT(result.stopped, HasSubstr("The disk is full"));
+  ASSERT_THAT(result.missing, SizeIs(2));
+  EXPECT_EQ(result.missing[0].kind, Missing::NotReached);
+}
+
 TEST_F(ImportRunning, GivesNoNameThatIsTaken) {
   MakePhotos("card", 2);
   const ImportPlan plan = PlanTo({Card()});
