@@ -48,7 +48,7 @@ TEST_F(FindCommand, GoesByDatesInBothForms) {
   EXPECT_THAT(Found({"--date", "2023-06-01 - 2023-06-30"}), ElementsAre("a.jpg", "b.jpg"));
   EXPECT_THAT(Found({"--date", "2023-06-02 - "}), ElementsAre("b.jpg"));
   EXPECT_THAT(Found({"--date", "3/1/15"}), ElementsAre("c.jpg"));
-  EXPECT_THAT(Found({"--locale", "de_DE", "--date", "01.06.23 - 01.06.2023"}), ElementsAre("a.jpg"));
+  EXPECT_THAT(Found({"--lang", "de_DE", "--date", "01.06.23 - 01.06.2023"}), ElementsAre("a.jpg"));
   // How it was understood.
   EXPECT_THAT(Run({"find", "--date", "3/1/15"}).out, HasSubstr(", taken 2015-03-01.\n"));
 }

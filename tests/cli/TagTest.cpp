@@ -85,19 +85,19 @@ TEST_F(TagCommand, TakesAllWordsBehindTwoDashesForFiles) {
 }
 
 TEST_F(TagCommand, ShowsBuiltInTagsInTheLanguageOfTheInterface) {
-  ASSERT_EQ(Run({"tag", "--locale", "de_DE", "photos/a.jpg", "+Flugzeug", "+Beach", "+Reisen"}).exitCode, 0);
+  ASSERT_EQ(Run({"tag", "--lang", "de_DE", "photos/a.jpg", "+Flugzeug", "+Beach", "+Reisen"}).exitCode, 0);
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("own Beach", "system Travel", "icon plane"));
   EXPECT_EQ(Run({"tag"}).out,
             "TAG     TYPE    PHOTOS\n"
             "Beach   own          1\n"
             "Travel  system       1\n"
             "Plane   icon         1\n");
-  EXPECT_EQ(Run({"tag", "--locale", "de_DE"}).out,
-            "TAG       TYPE    PHOTOS\n"
-            "Beach     own          1\n"
-            "Reisen    system       1\n"
-            "Flugzeug  icon         1\n");
-  const Ran photo = Run({"tag", "--locale", "fr_FR", "photos/a.jpg"});
+  EXPECT_EQ(Run({"tag", "--lang", "de_DE"}).out,
+            "SCHLAGWORT  ART      FOTOS\n"
+            "Beach       eigenes      1\n"
+            "Reisen      System       1\n"
+            "Flugzeug    Symbol       1\n");
+  const Ran photo = Run({"tag", "--lang", "fr_FR", "photos/a.jpg"});
   EXPECT_THAT(photo.out, HasSubstr("Beach, Voyage, Avion  "));
 }
 
@@ -148,7 +148,7 @@ TEST_F(TagCommand, RefusesLinesThatMakeNoSense) {
                                                           {"tag", "photos", "+Beach\a"},
                                                           {"tag", "photos", "+" + QString(201, 'x')},
                                                           {"tag", "photos", "--add"},
-                                                          {"tag", "--locale", "xx", "photos"}}) {
+                                                          {"tag", "--lang", "xx", "photos"}}) {
     const Ran ran = Run(line);
     EXPECT_EQ(ran.exitCode, 2) << line.join(QLatin1Char(' ')).toStdString() << ran.out;
   }

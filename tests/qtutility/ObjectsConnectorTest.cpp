@@ -1,3 +1,5 @@
+#include "ConnectorObjects.h"
+
 #include <support/LogCapture.h>
 
 #include <zenvora/qtutility/ObjectsConnector.h>
@@ -15,39 +17,6 @@
 #include <vector>
 
 namespace Zenvora::Util {
-
-class Emitter : public QObject {
-  Q_OBJECT
-
- Q_SIGNALS:
-  void asked(int question, QString& answer);
-  void told(int number);
-};
-
-class Receiver : public QObject {
-  Q_OBJECT
-
- public:
-  explicit Receiver(const QString& name = QStringLiteral("a")) : name_(name) {}
-  std::vector<int> heard;
-  std::thread::id thread;
-
- public Q_SLOTS:
-  void Answer(int question, QString& answer) {
-    heard.push_back(question);
-    answer += name_;
-  }
-  void Hear(int number) {
-    heard.push_back(number);
-    thread = std::this_thread::get_id();
-  }
-
- Q_SIGNALS:
-  void passedOn(int number);
-
- private:
-  const QString name_;
-};
 
 namespace {
 
@@ -278,30 +247,6 @@ TEST(ObjectsConnector, RunsReceiversInTheirOwnThreadWhenItIsToldTo) {
   other.wait();
 }
 
-TEST(ObjectsConnector, ServesManyThreadsAtOnce) {
-  const QString id = Id();
-  const LogCapture log;
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([id] {
-      for (int turn = 0; turn < 200; ++turn) {
-        Emitter emitter;
-        Receiver receiver;
-        const QString own = id + QString::number(turn % 7);
-        ObjectsConnector::registerEmitter(own, &emitter, kTold, true);
-        ObjectsConnector::registerReceiver(own, &receiver, kHear);
-        Q_EMIT emitter.told(turn);
-        EXPECT_EQ(receiver.heard, std::vector<int>{turn});
-      }
-    });
-  }
-  for (std::thread& thread : threads) {
-    thread.join();
-  }
-  EXPECT_TRUE(log.Lines(google::GLOG_ERROR).empty());
-}
-
 }  // namespace
 }  // namespace Zenvora::Util
 
-#include "ObjectsConnectorTest.moc"

@@ -49,7 +49,6 @@ struct FindArguments {
   std::string place;
   std::vector<std::string> tags;
   std::vector<std::string> texts;
-  std::string locale;
   bool paths = false;
 };
 
@@ -91,7 +90,6 @@ std::string TextOf(const FindView& view, const FindArguments& arguments, bool js
 }
 
 ExitCode RunFind(const FindArguments& arguments, Session& session) {
-  const LocaleScope locale(arguments.locale, session);
   const Host::PhotoFilter filter = FilterOf(arguments);
   FindView view;
   view.catalogue = session.CatalogueFile();
@@ -141,10 +139,6 @@ void AddFindCommand(CLI::App& program, Action& chosen) {
   command
       ->add_flag("--paths", arguments->paths, "Print nothing but the files, one on each line, as they are.")
       ->disable_flag_override();
-  command
-      ->add_option("--locale", arguments->locale, "Dates and names of tags of that language, such as de_DE.")
-      ->option_text("LOCALE")
-      ->transform(Text());
   command->callback([arguments, &chosen] {
     chosen = [arguments](Session& session) { return RunFind(*arguments, session); };
   });

@@ -47,7 +47,7 @@ Examples:
   lumidex tag ~/Pictures/trip +Beach +Family
   lumidex tag IMG_1.jpg IMG_2.jpg -Family
   lumidex tag IMG_1.jpg                 the tags of a photo
-  lumidex tag --locale de_DE            all tags, in German
+  lumidex tag --lang de_DE              all tags, in German
 
 Exit codes: 0 done; 1 there is nothing to show or to change; 3 some photos are
 not in the catalogue; 4 none are, or the catalogue cannot be written.)";
@@ -58,7 +58,6 @@ struct TagArguments {
   std::vector<std::string> files;
   std::vector<std::string> add;
   std::vector<std::string> remove;
-  std::string locale;
 
   bool Changes() const { return !add.empty() || !remove.empty(); }
 };
@@ -287,14 +286,8 @@ void AddTagCommand(CLI::App& program, Action& chosen) {
       ->option_text("TAG")
       ->allow_extra_args(false)
       ->transform(Text());
-  command->add_option("--locale", arguments->locale, "Names of tags in that language, such as de_DE.")
-      ->option_text("LOCALE")
-      ->transform(Text());
   command->callback([arguments, &chosen] {
-    chosen = [arguments](Session& session) {
-      const LocaleScope locale(arguments->locale, session);
-      return TagRun(*arguments, session).Run();
-    };
+    chosen = [arguments](Session& session) { return TagRun(*arguments, session).Run(); };
   });
 }
 
