@@ -3,6 +3,7 @@
 #include "CliFixture.h"
 
 #include <QJsonArray>
+#include <QRegularExpression>
 
 #include <string>
 
@@ -41,6 +42,12 @@ const Spoken kSpoken[] = {
 
 class LanguageOption : public CliTest {};
 
+/// The document without what others on the disk change.
+std::string Lasting(const std::string& document) {
+  static const QRegularExpression free(QStringLiteral("\"bytesFree\": \\d+"));
+  return QString::fromStdString(document).remove(free).toStdString();
+}
+
 TEST_F(LanguageOption, SpeaksEachOfTheNine) {
   ScanTwoAlbums();
   for (const Spoken& spoken : kSpoken) {
@@ -60,6 +67,7 @@ TEST_F(LanguageOption, ChangesNoDocumentAndNoExitCode) {
   ScanTwoAlbums();
   tree.Write("photos/broken.jpg", "no picture");
   tree.Write("calendar.json", "{\"events\": {}}");
+  Run({"similar"});
   for (const QStringList& command :
        std::vector<QStringList>{{"scan", "--dry-run", "--full", "photos"},
                                 {"check", "photos"},
@@ -74,7 +82,7 @@ TEST_F(LanguageOption, ChangesNoDocumentAndNoExitCode) {
       const Ran other = Run(QStringList{"--json", "--lang", language} + command);
       const std::string name = command.join(QLatin1Char(' ')).toStdString() + ", " + language;
       if (command.first() != QLatin1String("albums")) {
-        EXPECT_EQ(other.out, english.out) << name;
+        EXPECT_EQ(Lasting(other.out), Lasting(english.out)) << name;
         EXPECT_EQ(other.err, english.err) << name;
       }
       EXPECT_EQ(other.exitCode, english.exitCode) << name;
