@@ -20,7 +20,7 @@ const QString kTold = QStringLiteral("2told(int)");
 const QString kHear = QStringLiteral("1Hear(int)");
 
 TEST(ObjectsConnector, ServesManyThreadsAtOnce) {
-    const LogCapture log;
+  const LogCapture log;
   std::vector<std::thread> threads;
   for (int i = 0; i < 4; ++i) {
     // Nobody may connect with an object that another thread is destroying.

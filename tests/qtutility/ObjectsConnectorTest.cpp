@@ -249,4 +249,3 @@ TEST(ObjectsConnector, RunsReceiversInTheirOwnThreadWhenItIsToldTo) {
 
 }  // namespace
 }  // namespace Zenvora::Util
-
