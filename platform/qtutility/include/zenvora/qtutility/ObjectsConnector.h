@@ -17,8 +17,8 @@ namespace Zenvora::Util {
 ///
 /// Thread-safety: any thread may register, but each its own objects: an object of another thread, null or a
 /// signature that the object does not have is logged as an error and leaves everything as it was.
-/// Objects under one id in several threads are the callers' affair: none may be destroyed while another thread
-/// registers or emits under that id.
+/// Objects under one id in several threads are the callers' affair: none may be destroyed while another
+/// thread registers or emits under that id.
 class ZENVORA_QTUTILITY_EXPORT ObjectsConnector {
  public:
   ObjectsConnector() = delete;
