@@ -29,7 +29,10 @@ QPalette MakePalette(bool dark) {
 }
 
 void Stage::Show(QWidget& widget, qreal pixelRatio) {
-  setPixmap(QPixmap::fromImage(Photograph(widget, pixelRatio)));
+  const QImage image = Photograph(widget, pixelRatio);
+  // Forms squeeze their last row.
+  setMinimumHeight(image.height());
+  setPixmap(QPixmap::fromImage(image));
 }
 
 }  // namespace Zenvora::Lumidex::Gallery
