@@ -147,6 +147,18 @@ TEST_F(InfoCommand, FlagsDoubtfulPositions) {
   }
 }
 
+TEST_F(InfoCommand, KeepsTheHemisphereOfTheEquatorAndTheFirstMeridian) {
+  PhotoTags tags = FullTags();
+  tags.more = {{"Exif.GPSInfo.GPSLatitude", "0/1 0/1 0/1", ""},
+               {"Exif.GPSInfo.GPSLatitudeRef", "S", ""},
+               {"Exif.GPSInfo.GPSLongitude", "0/1 0/1 0/1", ""},
+               {"Exif.GPSInfo.GPSLongitudeRef", "W", ""}};
+  WriteJpeg(Photos() / "a.jpg", tags);
+  const Ran ran = Info({"photos"});
+  EXPECT_EQ(ran.exitCode, 0);
+  EXPECT_THAT(ran.out, HasSubstr("0.000000 S, 0.000000 W  "));
+}
+
 TEST_F(InfoCommand, NamesFilesThatCannotBeReadAndTheCause) {
   WriteJpeg(Photos() / "a.jpg", FullTags());
   const ioPath broken = tree.Write("photos/b.jpg", std::string(1000, 'x'));

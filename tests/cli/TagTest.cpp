@@ -112,6 +112,11 @@ TEST_F(TagCommand, MakesOneTagOfWordsThatLookAlike) {
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("own Caf\u00E9 Roma"));
 }
 
+TEST_F(TagCommand, MakesOneTagOfNewWordsThatLookAlike) {
+  ASSERT_EQ(Run({"tag", "photos/a.jpg", "+Beach", "+beach", "+B\u0435ach", "+Bea\u200Bch"}).exitCode, 0);
+  EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("own Beach"));
+}
+
 TEST_F(TagCommand, SaysThatThereIsNothingToShowOrToChange) {
   const Ran none = Run({"tag"});
   EXPECT_EQ(none.exitCode, 1);
@@ -145,6 +150,8 @@ TEST_F(TagCommand, RefusesLinesThatMakeNoSense) {
   for (const QStringList& line : std::vector<QStringList>{{"tag", "+Beach"},
                                                           {"tag", "photos", "+"},
                                                           {"tag", "photos", "+ "},
+                                                          {"tag", "photos", "+\u200B"},
+                                                          {"tag", "photos", "+New", "-new"},
                                                           {"tag", "photos", "+Beach\a"},
                                                           {"tag", "photos", "+" + QString(201, 'x')},
                                                           {"tag", "photos", "--add"},

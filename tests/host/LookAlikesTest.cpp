@@ -36,6 +36,13 @@ TEST(LookAlikes, AreEqual) {
   }
 }
 
+TEST(LookAlikes, AreEqualWhateverCannotBeSeenInThem) {
+  for (const char* const text :
+       {"Bea\u200Bch", "Bea\u00ADch", "\uFEFFBeach", "\u200FBeach\u202C", "Beach\uFE0F"}) {
+    EXPECT_EQ(Form(text), "beach");
+  }
+}
+
 TEST(LookAlikes, AreNotWhatOnlyResemblesThem) {
   for (const auto& [left, right] : Pairs{{"Beach", "Beech"},
                                          {"Кот", "Код"},
@@ -53,6 +60,8 @@ TEST(LookAlikes, LeaveNothingOfBlanksAndAccentsAlone) {
   EXPECT_EQ(Form(""), "");
   EXPECT_EQ(Form(" \t\n"), "");
   EXPECT_EQ(Form("\u0301"), "");
+  EXPECT_EQ(Form("\u200B\u200D\u2060"), "");
+  EXPECT_EQ(Form("\u3164\u2800"), "");
 }
 
 TEST(LookAlikes, StayAsTheyAreWhenAskedTwice) {

@@ -74,6 +74,15 @@ TEST(ReadingADateFilter, RefusesWhatIsNoDateOrRunsBackwards) {
   EXPECT_NE(Read("31/12/15", "es_ES"), std::nullopt);
 }
 
+TEST(ReadingADateFilter, PassesNothingOver) {
+  for (const char* const text :
+       {"2015-03-01..2015-03-09", "2015-03-01-2015-03-09", "2015-03-01 to 2015-03-09", "2015-03-01T10:00",
+        "2015-03-01x", "+200-03-01", "2015-03-01 - x - 2015-03-09", "2015-03-01 - 2015-03-09 - 2015-03-10",
+        "3/1/15 - 3/5/15 - 3/9/15"}) {
+    EXPECT_EQ(Read(text), std::nullopt) << text;
+  }
+}
+
 TEST(ReadingADateFilter, SaysWhatItNeeds) {
   std::string fault;
   ReadDates(QStringLiteral("soon"), "de_DE", kToday, fault);
@@ -117,6 +126,10 @@ TEST(Boxes, HoldTheirBordersAndRunOverTheDateLine) {
   EXPECT_TRUE(over.Holds({-17, 178}));
   EXPECT_TRUE(over.Holds({-14, -172}));
   EXPECT_FALSE(over.Holds({-14, 0}));
+  // The same meridian by both of its names.
+  EXPECT_TRUE((PlaceBox{-20, 170, 0, 180}.Holds({-17, -180})));
+  EXPECT_TRUE((PlaceBox{-20, -180, 0, -170}.Holds({-17, 180})));
+  EXPECT_FALSE((PlaceBox{-20, 170, 0, 179}.Holds({-17, -180})));
 }
 
 class SearchOfPhotos : public ::testing::Test {

@@ -91,6 +91,17 @@ TEST_F(StatisticsFiles, PassOverDamagedLines) {
   EXPECT_THAT(statistics.events[1].parameters, IsEmpty());
 }
 
+TEST_F(StatisticsFiles, NoteBehindALineThatBrokeOff) {
+  const std::string torn = "{\"day\":\"2026-03-04\",\"event\":\"sc";
+  tree_.Write("data/lumidex/statistics.jsonl", torn);
+  Note("albums");
+  EXPECT_EQ(Zenvora::Test::ReadFile(file_),
+            torn + "\n{\"day\":\"2026-03-04\",\"event\":\"albums\",\"parameters\":{}}\n");
+  const Statistics statistics = ReadStatistics(file_);
+  EXPECT_EQ(statistics.damaged, 1U);
+  EXPECT_EQ(statistics.events.size(), 1U);
+}
+
 TEST_F(StatisticsFiles, KeepAnOlderFileWhenOneIsFull) {
   StatisticsFile handler = Handler(100);
   for (int i = 0; i < 8; ++i) {

@@ -27,7 +27,8 @@ bool IsDoubtful(const Host::PhotoInfo& photo) {
 /// With a question mark when the hemisphere is a guess.
 std::string CoordinateText(double degrees, const QString& reference, const char* positive,
                            const char* negative) {
-  const char* const hemisphere = degrees < 0 ? negative : positive;
+  // Zero keeps the sign of its reference.
+  const char* const hemisphere = std::signbit(degrees) ? negative : positive;
   const std::string number = QString::number(std::abs(degrees), 'f', kDecimals).toStdString();
   return number + ' ' + hemisphere + (reference == QLatin1String(hemisphere) ? "" : "?");
 }

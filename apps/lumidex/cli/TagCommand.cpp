@@ -85,7 +85,8 @@ class TagWords {
   explicit TagWords(std::vector<Host::TagUse> known)
       : known_(std::move(known)), locale_(App::GetCurrentLocale()) {}
 
-  Tag ToAdd(const std::string& text) const {
+  /// Later words that look alike mean the same tag.
+  Tag ToAdd(const std::string& text) {
     const QString word = CleanWord(text);
     if (const std::optional<Tag> named = TagDictionary::Shipped().Named(word, locale_)) {
       return *named;
@@ -97,7 +98,8 @@ class TagWords {
         return use.tag;
       }
     }
-    return {Host::TagType::Own, word};
+    known_.push_back({{Host::TagType::Own, word}, 0});
+    return known_.back().tag;
   }
 
   /// All tags that the word can mean, as they are shown, in English or by their keys.
@@ -118,7 +120,7 @@ class TagWords {
   }
 
  private:
-  const std::vector<Host::TagUse> known_;
+  std::vector<Host::TagUse> known_;
   const std::string locale_;
 };
 
@@ -222,7 +224,7 @@ class TagRun {
   }
 
   Host::TagWishes WishesFor(const Catalogue& catalogue) {
-    const TagWords words(catalogue.Tags());
+    TagWords words(catalogue.Tags());
     Host::TagWishes wishes;
     for (const std::string& word : arguments_.add) {
       AddOnce(wishes.add, words.ToAdd(word));

@@ -27,6 +27,14 @@ bool IsAccent(QChar character) {
   return character.unicode() >= 0x0300 && character.unicode() <= 0x036F;
 }
 
+/// What takes no room of its own, as programs put it into texts that are copied, and letters that are blank.
+bool IsInvisible(QChar character) {
+  const char16_t code = character.unicode();
+  const bool choosesVariant = code >= 0xFE00 && code <= 0xFE0F;
+  const bool isBlankLetter = code == 0x115F || code == 0x1160 || code == 0x2800;
+  return choosesVariant || isBlankLetter || character.category() == QChar::Other_Format;
+}
+
 void Append(QChar character, QString& form) {
   for (const auto& [letter, latin] : kLatin) {
     if (character == QChar(letter)) {
@@ -45,7 +53,7 @@ QString LookAlikeForm(const QString& text) {
   const QString folded =
       text.normalized(QString::NormalizationForm_KD).toCaseFolded().normalized(QString::NormalizationForm_KD);
   for (const QChar character : folded) {
-    if (!IsAccent(character)) {
+    if (!IsAccent(character) && !IsInvisible(character)) {
       Append(character, form);
     }
   }

@@ -4,6 +4,8 @@
 #include <zenvora/core/FileState.h>
 #include <zenvora/quillet/ImageLoader.h>
 
+#include <cmath>
+
 namespace Zenvora::Lumidex::Host {
 
 namespace {
@@ -40,7 +42,7 @@ void DoubtReference(const Axis& axis, const QString& reference, double degrees,
   const std::string fault = reference.isEmpty()
                                 ? "does not say the reference of its " + name
                                 : "gives \"" + reference.toStdString() + "\" as the reference of its " + name;
-  doubts.push_back("it " + fault + "; " + (degrees < 0 ? axis.negativeName : axis.positiveName) +
+  doubts.push_back("it " + fault + "; " + (std::signbit(degrees) ? axis.negativeName : axis.positiveName) +
                    " is assumed");
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -137,6 +138,34 @@ bool IsHalfOpen(const QString& text, const std::pair<QDate, QDate>& dates) {
          (dates.first.isValid() ? parts.last() : parts.first()).trimmed().isEmpty();
 }
 
+/// Nothing but a date, or nothing. The library would take "2015-03-01..2015-03-09" for its first day.
+bool IsPlainDate(const QString& part) {
+  constexpr int kLength = 10;
+  constexpr std::array kSeparators = {4, 7};
+  const QString date = part.trimmed();
+  for (int i = 0; i < date.size(); ++i) {
+    const bool isDigit = date[i] >= QLatin1Char('0') && date[i] <= QLatin1Char('9');
+    if (isDigit == (i == kSeparators[0] || i == kSeparators[1])) {
+      return false;
+    }
+  }
+  return date.isEmpty() || date.size() == kLength;
+}
+
+/// The form that is stored; null dates for every other text.
+std::pair<QDate, QDate> StoredDates(const QString& text) {
+  const QStringList parts = text.split(SearchHelper::DATES_SEPARATOR);
+  return std::all_of(parts.begin(), parts.end(), IsPlainDate) ? SearchHelper::StrToDates(text)
+                                                              : std::pair<QDate, QDate>();
+}
+
+/// The form that is shown; null dates for what is none.
+std::pair<QDate, QDate> ShownDates(const QString& text, const std::string& locale, const QDate& today) {
+  const ShortDates reader(locale, today);
+  const QStringList parts = text.split(SearchHelper::DATES_SEPARATOR);
+  return {reader.Read(parts.first()), reader.Read(parts.last())};
+}
+
 bool IsWhole(const std::pair<QDate, QDate>& dates) {
   return dates.first.isValid() && dates.second.isValid();
 }
@@ -144,9 +173,13 @@ bool IsWhole(const std::pair<QDate, QDate>& dates) {
 }  // namespace
 
 bool PlaceBox::Holds(const PhotoPosition& position) const {
-  const bool isBetween = west <= east ? position.longitude >= west && position.longitude <= east
-                                      : position.longitude >= west || position.longitude <= east;
-  return isBetween && position.latitude >= south && position.latitude <= north;
+  const auto isBetween = [this](double longitude) {
+    return west <= east ? longitude >= west && longitude <= east : longitude >= west || longitude <= east;
+  };
+  // The date line has two names.
+  const double longitude = position.longitude;
+  const bool isWithin = isBetween(longitude) || (std::abs(longitude) == kHalfTurn && isBetween(-longitude));
+  return isWithin && position.latitude >= south && position.latitude <= north;
 }
 
 std::vector<const PhotoRecord*> FindPhotos(const std::vector<PhotoRecord>& photos, const TagsOfPhotos& tags,
@@ -163,13 +196,12 @@ std::vector<const PhotoRecord*> FindPhotos(const std::vector<PhotoRecord>& photo
 
 std::optional<std::pair<QDate, QDate>> ReadDates(const QString& text, const std::string& locale,
                                                  const QDate& today, std::string& fault) {
-  std::pair<QDate, QDate> dates = SearchHelper::StrToDates(text);
+  std::pair<QDate, QDate> dates = StoredDates(text);
   if (!IsWhole(dates) && !IsHalfOpen(text, dates)) {
-    const ShortDates reader(locale, today);
-    const QStringList parts = text.split(SearchHelper::DATES_SEPARATOR);
-    dates = {reader.Read(parts.first()), reader.Read(parts.last())};
+    dates = ShownDates(text, locale, today);
   }
-  if (!IsWhole(dates) && !IsHalfOpen(text, dates)) {
+  // A filter has two dates at most: what stands between them is not to be passed over.
+  if (text.count(SearchHelper::DATES_SEPARATOR) > 1 || (!IsWhole(dates) && !IsHalfOpen(text, dates))) {
     const QDate example(2015, 3, 1);
     const QLocale spoken(QString::fromStdString(locale));
     fault = "dates such as \"2015-03-01 - 2015-03-09\", 2015-03-01 or " +

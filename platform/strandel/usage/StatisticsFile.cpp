@@ -87,6 +87,13 @@ void ReadFrom(const ioPath& file, Statistics& statistics) {
   }
 }
 
+/// True for a last line without its end, as a computer leaves it that loses its power.
+bool BreaksOff(const ioPath& file) {
+  std::ifstream stream(file.for_system(), std::ios::binary);
+  char last = '\n';
+  return stream.seekg(-1, std::ios::end) && stream.get(last) && last != '\n';
+}
+
 /// Why the line is not in the file now; empty: it is.
 std::string Append(const ioPath& file, const std::string& line) {
   if (const std::error_code error = MakeFolders(file.parent_path())) {
@@ -96,9 +103,10 @@ std::string Append(const ioPath& file, const std::string& line) {
   if (!fault.empty()) {
     return fault;
   }
+  const bool isTorn = BreaksOff(file);
   std::ofstream stream(file.for_system(), std::ios::binary | std::ios::app);
   // Handed to the system as a whole when the stream is closed.
-  stream << line;
+  stream << (isTorn ? '\n' + line : line);
   stream.close();
   return stream ? std::string() : file.utf8string() + " cannot be written";
 }
