@@ -60,7 +60,7 @@ bool IsSolid(uint code) {
 
 /// What a text from its beginning to some place says of directions and scripts.
 struct Head {
-  bool hasLeft = false;    ///< Letters that run to the right.
+  bool hasLeft = false;    ///< Letters that run from left to right, or marks that make others do so.
   bool hasOther = false;   ///< Anything else that has a direction, or sets one.
   bool hasStrong = false;  ///< So the text's own direction is known.
   bool hasScript = false;
@@ -85,11 +85,15 @@ void Head::Add(uint code) {
     case QChar::DirL:
       hasLeft = true;
       break;
+    case QChar::DirLRE:
+    case QChar::DirLRO:
+      // Also of the numbers behind them.
+      hasLeft = true;
+      hasOther = true;
+      break;
     case QChar::DirR:
     case QChar::DirAL:
     case QChar::DirAN:
-    case QChar::DirLRE:
-    case QChar::DirLRO:
     case QChar::DirRLE:
     case QChar::DirRLO:
     case QChar::DirPDF:

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QMetaMethod>
 #include <QObject>
+#include <QPointer>
 #include <QSet>
 #include <QThread>
 
@@ -33,6 +34,17 @@ struct Meeting {
   std::vector<Receiver> receivers;
 };
 
+struct Known {
+  /// An object may be disconnected from everything, and then nobody hears of its end.
+  QPointer<QObject> alive;
+  QSet<QString> ids;
+};
+
+/// The code of the macro with the signature as Qt spells it.
+QByteArray Normalized(const QByteArray& method) {
+  return method.left(1) + QMetaObject::normalizedSignature(method.mid(1).constData());
+}
+
 class Registry {
  public:
   /// Never destroyed: objects that live until the end of the process still leave it.
@@ -45,13 +57,16 @@ class Registry {
   void AddReceiver(const QString& id, const Receiver& receiver);
 
  private:
+  bool IsAlive(QObject* object) const { return !known_.value(object).alive.isNull(); }
+  /// Those who have met under the id, and whoever had the address of `object` before it.
+  void ForgetTheGone(const QString& id, QObject* object);
   void Watch(const QString& id, QObject* object);
   void Remove(QObject* object);
 
   /// Recursive: connecting calls `connectNotify`, which may register something.
   std::recursive_mutex mutex_;
   QHash<QString, Meeting> meetings_;
-  QHash<QObject*, QSet<QString>> idsOf_;
+  QHash<QObject*, Known> known_;
 };
 
 bool MayRegister(const QString& id, const QObject* object, const QByteArray& method,
@@ -70,7 +85,7 @@ bool MayRegister(const QString& id, const QObject* object, const QByteArray& met
   const QByteArray signature = QMetaObject::normalizedSignature(method.mid(1).constData());
   const bool known = type == QMetaMethod::Signal
                          ? object->metaObject()->indexOfSignal(signature.constData()) >= 0
-                         : object->metaObject()->indexOfMethod(signature.constData()) >= 0;
+                         : object->metaObject()->indexOfSlot(signature.constData()) >= 0;
   if (method.isEmpty() || method[0] != code || !known) {
     LOG(ERROR) << name << " is not connected under " << id.toStdString() << ": it has no "
                << (type == QMetaMethod::Signal ? "signal " : "slot ") << method.constData();
@@ -95,6 +110,7 @@ void Connect(const QString& id, QObject* emitter, const Signal& signal, const Re
 
 void Registry::AddEmitter(const QString& id, QObject* emitter, const Signal& signal) {
   const std::lock_guard<std::recursive_mutex> lock(mutex_);
+  ForgetTheGone(id, emitter);
   auto& signals_ = meetings_[id].emitters[emitter];
   const auto same = [&](const Signal& other) { return other.signature == signal.signature; };
   if (std::any_of(signals_.begin(), signals_.end(), same)) {
@@ -105,12 +121,15 @@ void Registry::AddEmitter(const QString& id, QObject* emitter, const Signal& sig
   const auto receivers = meetings_[id].receivers;
   Watch(id, emitter);
   for (const Receiver& receiver : receivers) {
-    Connect(id, emitter, signal, receiver);
+    if (IsAlive(receiver.object)) {
+      Connect(id, emitter, signal, receiver);
+    }
   }
 }
 
 void Registry::AddReceiver(const QString& id, const Receiver& receiver) {
   const std::lock_guard<std::recursive_mutex> lock(mutex_);
+  ForgetTheGone(id, receiver.object);
   auto& receivers = meetings_[id].receivers;
   const auto same = [&](const Receiver& other) {
     return other.object == receiver.object && other.slot == receiver.slot;
@@ -123,22 +142,41 @@ void Registry::AddReceiver(const QString& id, const Receiver& receiver) {
   Watch(id, receiver.object);
   for (auto it = emitters.begin(); it != emitters.end(); ++it) {
     for (const Signal& signal : it.value()) {
-      Connect(id, it.key(), signal, receiver);
+      if (IsAlive(it.key())) {
+        Connect(id, it.key(), signal, receiver);
+      }
+    }
+  }
+}
+
+void Registry::ForgetTheGone(const QString& id, QObject* object) {
+  const Meeting meeting = meetings_.value(id);
+  std::vector<QObject*> met = {object};
+  for (auto it = meeting.emitters.begin(); it != meeting.emitters.end(); ++it) {
+    met.push_back(it.key());
+  }
+  for (const Receiver& receiver : meeting.receivers) {
+    met.push_back(receiver.object);
+  }
+  for (QObject* const one : met) {
+    if (!IsAlive(one)) {
+      Remove(one);
     }
   }
 }
 
 void Registry::Watch(const QString& id, QObject* object) {
-  QSet<QString>& ids = idsOf_[object];
-  if (ids.isEmpty()) {
+  Known& known = known_[object];
+  if (known.ids.isEmpty()) {
+    known.alive = object;
     QObject::connect(object, &QObject::destroyed, [object] { Instance().Remove(object); });
   }
-  ids.insert(id);
+  known.ids.insert(id);
 }
 
 void Registry::Remove(QObject* object) {
   const std::lock_guard<std::recursive_mutex> lock(mutex_);
-  const QSet<QString> ids = idsOf_.take(object);
+  const QSet<QString> ids = known_.take(object).ids;
   for (const QString& id : ids) {
     const auto meeting = meetings_.find(id);
     if (meeting == meetings_.end()) {
@@ -160,14 +198,14 @@ void ObjectsConnector::registerEmitter(const QString& id, QObject* emitter, cons
                                        bool acrossThreads) {
   const QByteArray signature = signal.toUtf8();
   if (MayRegister(id, emitter, signature, QMetaMethod::Signal)) {
-    Registry::Instance().AddEmitter(id, emitter, {signature, acrossThreads});
+    Registry::Instance().AddEmitter(id, emitter, {Normalized(signature), acrossThreads});
   }
 }
 
 void ObjectsConnector::registerReceiver(const QString& id, QObject* receiver, const QString& slot) {
   const QByteArray signature = slot.toUtf8();
   if (MayRegister(id, receiver, signature, QMetaMethod::Slot)) {
-    Registry::Instance().AddReceiver(id, {receiver, signature});
+    Registry::Instance().AddReceiver(id, {receiver, Normalized(signature)});
   }
 }
 

@@ -110,6 +110,37 @@ TEST(ObjectsConnector, ForgetsEmittersThatAreGone) {
   EXPECT_EQ(Ask(*emitter, 1), QString());
 }
 
+TEST(ObjectsConnector, ForgetsObjectsThatWereDisconnectedFromEverything) {
+  // Which ends the connection by which their end is heard of.
+  auto emitter = std::make_unique<Emitter>();
+  ObjectsConnector::registerEmitter(Id(), emitter.get(), kAsked, false);
+  emitter->disconnect();
+  emitter.reset();
+  auto receiver = std::make_unique<Receiver>();
+  ObjectsConnector::registerReceiver(Id(), receiver.get(), kAnswer);
+  receiver->disconnect();
+  receiver.reset();
+  Emitter late;
+  ObjectsConnector::registerEmitter(Id(), &late, kAsked, false);
+  EXPECT_EQ(Ask(late, 1), QString());
+}
+
+TEST(ObjectsConnector, KnowsNewObjectsAtAddressesOfOldOnes) {
+  alignas(Emitter) unsigned char place[sizeof(Emitter)];
+  alignas(Receiver) unsigned char seat[sizeof(Receiver)];
+  for (int i = 0; i < 2; ++i) {
+    auto* const emitter = new (place) Emitter;
+    auto* const receiver = new (seat) Receiver;
+    ObjectsConnector::registerEmitter(Id(), emitter, kAsked, false);
+    ObjectsConnector::registerReceiver(Id(), receiver, kAnswer);
+    EXPECT_EQ(Ask(*emitter, 1), QStringLiteral("a")) << i;
+    emitter->disconnect();
+    receiver->disconnect();
+    emitter->~Emitter();
+    receiver->~Receiver();
+  }
+}
+
 TEST(ObjectsConnector, LetsOneObjectBeBothAndHaveSeveralIds) {
   Emitter emitter;
   Receiver receiver;
@@ -170,7 +201,8 @@ TEST(ObjectsConnector, SaysWhatItCannotConnect) {
         error([&] { ObjectsConnector::registerEmitter(Id(), &emitter, QString::fromLatin1(signal), false); }),
         "Zenvora::Util::Emitter is not connected under " + id + ": it has no signal " + signal);
   }
-  for (const char* slot : {"1Missing()", "Answer(int,QString&)", "2Answer(int,QString&)", ""}) {
+  for (const char* slot :
+       {"1Missing()", "Answer(int,QString&)", "2Answer(int,QString&)", "1passedOn(int)", ""}) {
     EXPECT_EQ(error([&] { ObjectsConnector::registerReceiver(Id(), &receiver, QString::fromLatin1(slot)); }),
               "Zenvora::Util::Receiver is not connected under " + id + ": it has no slot " + slot);
   }
@@ -184,6 +216,18 @@ TEST(ObjectsConnector, TakesSignaturesAsTheyAreWritten) {
   Receiver receiver;
   ObjectsConnector::registerEmitter(Id(), &emitter, QString::fromLatin1(SIGNAL(asked(int, QString&))), false);
   ObjectsConnector::registerReceiver(Id(), &receiver, QString::fromLatin1(SLOT(Answer(int, QString&))));
+  EXPECT_EQ(Ask(emitter, 1), QStringLiteral("a"));
+}
+
+TEST(ObjectsConnector, TakesOneSignatureInTwoSpellingsForTheSame) {
+  Emitter emitter;
+  Receiver receiver;
+  for (const char* signal : {"2asked(int,QString&)", "2asked( int, QString & )"}) {
+    ObjectsConnector::registerEmitter(Id(), &emitter, QString::fromLatin1(signal), false);
+  }
+  for (const char* slot : {"1Answer(int,QString&)", "1Answer(int , QString&)"}) {
+    ObjectsConnector::registerReceiver(Id(), &receiver, QString::fromLatin1(slot));
+  }
   EXPECT_EQ(Ask(emitter, 1), QStringLiteral("a"));
 }
 

@@ -61,6 +61,13 @@ std::vector<Sample> Samples() {
        QStringLiteral("a (") + Filled(QStringLiteral("b c ")) + hebrew + QStringLiteral(")"), true},
       {"an open bracket in two directions",
        hebrew + QStringLiteral("a (") + Filled(hebrew) + QStringLiteral(")"), false},
+      {"an open bracket in an embedding to the right",
+       QStringLiteral("\u202a") + hebrew + QStringLiteral("(") + Filled(hebrew) + QStringLiteral("a)"),
+       false},
+      {"an open bracket behind an override to the right",
+       hebrew + QStringLiteral("\u202d") + hebrew + QStringLiteral("\u202c1 (2 ") + Filled(hebrew) +
+           QStringLiteral(")"),
+       false},
       {"too many brackets",
        hebrew + QStringLiteral("(a) ") + Filled(hebrew) + Filled(QStringLiteral("("), 100), false},
       {"an embedding", QStringLiteral("a \u202b") + Filled(QStringLiteral("b ") + hebrew), true},
