@@ -77,7 +77,10 @@ GalleryWindow::GalleryWindow() {
   }
 }
 
-GalleryWindow::~GalleryWindow() = default;
+GalleryWindow::~GalleryWindow() {
+  // While the controller is still there for who tells of it.
+  hide();
+}
 
 void GalleryWindow::ShowMessage(const QString& text) {
   statusBar()->showMessage(text);
