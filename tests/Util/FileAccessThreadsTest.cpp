@@ -2,6 +2,7 @@
 
 #include <LumidexUtil/FileAccessLocker.h>
 #include <LumidexUtil/Rename.h>
+#include <support/OnThreads.h>
 #include <support/TempTree.h>
 
 #include <zenvora/lumidex/FileAccessLockerGuard.h>
@@ -9,9 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <functional>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace Zenvora::Lumidex {
@@ -19,17 +18,6 @@ namespace {
 
 constexpr int kThreads = 16;
 constexpr int kPaths = 64;
-
-void OnAllThreads(const std::function<void(int)>& work) {
-  std::vector<std::thread> threads;
-  threads.reserve(kThreads);
-  for (int i = 0; i < kThreads; ++i) {
-    threads.emplace_back(work, i);
-  }
-  for (std::thread& thread : threads) {
-    thread.join();
-  }
-}
 
 TEST(FileAccessOnManyThreads, LetsOneThreadAtATimeHoldAPath) {
   constexpr int kRounds = 20'000;
@@ -42,7 +30,7 @@ TEST(FileAccessOnManyThreads, LetsOneThreadAtATimeHoldAPath) {
   }
   // Plain numbers: only the locks keep them whole.
   std::vector<std::uint64_t> counts(kPaths);
-  OnAllThreads([&](int thread) {
+  Zenvora::Test::OnThreads(kThreads, [&](int thread) {
     auto state = static_cast<std::uint32_t>(thread + 1);
     for (int round = 0; round < kRounds; ++round) {
       state = state * 1664525U + 1013904223U;
@@ -66,7 +54,7 @@ TEST(FileAccessOnManyThreads, LosesNoFileThatManyMove) {
     tree.Write(std::to_string(i) + "-0", std::to_string(i));
   }
   // Every thread walks a file of its own along.
-  OnAllThreads([&](int thread) {
+  Zenvora::Test::OnThreads(kThreads, [&](int thread) {
     const std::string own = std::to_string(thread) + "-";
     for (int round = 0; round < kRounds; ++round) {
       Util::Rename(*locker, tree.Path(own + std::to_string(round)),

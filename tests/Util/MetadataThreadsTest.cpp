@@ -1,15 +1,14 @@
 // One file's metadata asked by many threads, and many files read by them.
 
 #include <LumidexUtil/MetadataReaders.h>
+#include <support/OnThreads.h>
 #include <support/PhotoMaker.h>
 #include <support/TempTree.h>
 
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <functional>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace Zenvora::Test {
@@ -17,17 +16,6 @@ namespace {
 
 constexpr int kThreads = 8;
 constexpr int kRounds = 50;
-
-void OnAllThreads(const std::function<void(int)>& work) {
-  std::vector<std::thread> threads;
-  threads.reserve(kThreads);
-  for (int i = 0; i < kThreads; ++i) {
-    threads.emplace_back(work, i);
-  }
-  for (std::thread& thread : threads) {
-    thread.join();
-  }
-}
 
 PhotoTags Tags(int number) {
   PhotoTags tags;
@@ -42,7 +30,7 @@ TEST(MetadataThreads, AskOneFilesMetadata) {
   const TempTree tree;
   const auto metadata = Util::GetMetadata(WriteJpeg(tree.Path("a.jpg"), Tags(10)));
   std::atomic<int> right{0};
-  OnAllThreads([&](int) {
+  OnThreads(kThreads, [&](int) {
     for (int round = 0; round < kRounds; ++round) {
       const auto own = metadata;
       right += Util::GetGPSData(own) == Quillet::Geo::GPSData(-10.5, 20.25) &&
@@ -62,7 +50,7 @@ TEST(MetadataThreads, ReadFilesOfTheirOwn) {
     files.push_back(WriteJpeg(tree.Path(std::to_string(i)), Tags(i)));
   }
   std::atomic<int> right{0};
-  OnAllThreads([&](int thread) {
+  OnThreads(kThreads, [&](int thread) {
     for (int round = 0; round < kRounds; ++round) {
       const int number = (thread + round) % kThreads;
       const auto metadata = Util::GetMetadata(files[static_cast<std::size_t>(number)]);
