@@ -201,12 +201,21 @@ TEST_F(CatalogueFile, IsNotBroughtUpToDateByReaders) {
 
 /// What later versions added is taken out again.
 void MakeOlder(const ioPath& file, int version) {
-  std::vector<std::string> statements = {"DROP TABLE tag_changes",
-                                         "DROP TABLE photo_tags",
-                                         "DROP TABLE tags",
-                                         "ALTER TABLE photos DROP COLUMN latitude",
-                                         "ALTER TABLE photos DROP COLUMN longitude",
-                                         "ALTER TABLE photos DROP COLUMN reading"};
+  std::vector<std::string> statements = {"DROP TABLE imported",
+                                         "DROP TABLE album_change_photos",
+                                         "DROP TABLE album_changes",
+                                         "DROP TABLE days_of_use",
+                                         "ALTER TABLE photos DROP COLUMN edges",
+                                         "ALTER TABLE photos DROP COLUMN content",
+                                         "ALTER TABLE photos DROP COLUMN camera_id",
+                                         "ALTER TABLE steps DROP COLUMN kind",
+                                         "ALTER TABLE steps DROP COLUMN day"};
+  if (version < 5) {
+    statements.insert(statements.end(),
+                      {"DROP TABLE tag_changes", "DROP TABLE photo_tags", "DROP TABLE tags",
+                       "ALTER TABLE photos DROP COLUMN latitude", "ALTER TABLE photos DROP COLUMN longitude",
+                       "ALTER TABLE photos DROP COLUMN reading"});
+  }
   if (version < 4) {
     statements.emplace_back("DROP TABLE trashed");
   }
@@ -303,20 +312,20 @@ TEST_P(FormerCatalogue, StaysAsItWasWhenItCannotBeBroughtUpToDate) {
   RunSql(file_, {GetParam() < 2   ? "CREATE TABLE changes (a)"
                  : GetParam() < 3 ? "CREATE TABLE clusters (a)"
                  : GetParam() < 4 ? "CREATE TABLE trashed (a)"
-                                  : "CREATE TABLE tags (a)"});
+                 : GetParam() < 5 ? "CREATE TABLE tags (a)"
+                                  : "CREATE TABLE imported (a)"});
   const std::string before = Content(file_, GetParam());
   EXPECT_THAT(OpeningError(file_, Mode::ReadWrite), HasSubstr("already exists"));
   EXPECT_EQ(RunSql(file_, {"PRAGMA user_version"}).toInt(), GetParam());
   EXPECT_EQ(Content(file_, GetParam()), before);
   // What the version has stays; of the next ones there is nothing but that table.
-  const int tables =
-      RunSql(file_,
-             {"SELECT count(*) FROM sqlite_master WHERE name IN ('steps', 'features', 'trashed_by_step')"})
-          .toInt();
+  const int tables = RunSql(file_, {"SELECT count(*) FROM sqlite_master WHERE name IN"
+                                    " ('steps', 'features', 'trashed_by_step', 'tag_changes')"})
+                         .toInt();
   EXPECT_EQ(tables, GetParam() - 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Versions, FormerCatalogue, testing::Values(1, 2, 3, 4));
+INSTANTIATE_TEST_SUITE_P(Versions, FormerCatalogue, testing::Values(1, 2, 3, 4, 5));
 
 TEST_F(CatalogueFile, SaysThatItIsDamaged) {
   MakeFilled(2000);

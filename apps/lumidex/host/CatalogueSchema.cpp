@@ -136,6 +136,50 @@ const Statements& Migration(int fromVersion) {
           " added INTEGER NOT NULL CHECK (added IN (0, 1)),"
           " PRIMARY KEY (step, photo, tag)) WITHOUT ROWID",
       },
+      {
+          "ALTER TABLE steps ADD COLUMN kind INTEGER NOT NULL DEFAULT 0",
+          "UPDATE steps SET kind = CASE WHEN moves IS NOT NULL THEN 1"
+          " WHEN EXISTS (SELECT 1 FROM trashed t WHERE t.step = steps.number) THEN 3"
+          " WHEN EXISTS (SELECT 1 FROM tag_changes c WHERE c.step = steps.number) THEN 4"
+          " ELSE 2 END",
+          // What is older than the counting of days is as old as its first day.
+          "ALTER TABLE steps ADD COLUMN day INTEGER NOT NULL DEFAULT 0",
+          "CREATE TABLE days_of_use ("
+          " one INTEGER PRIMARY KEY CHECK (one = 1),"
+          " count INTEGER NOT NULL,"
+          " last TEXT NOT NULL)",
+          "ALTER TABLE photos ADD COLUMN edges BLOB",
+          "ALTER TABLE photos ADD COLUMN content BLOB",
+          "ALTER TABLE photos ADD COLUMN camera_id TEXT",
+          "CREATE TABLE imported ("
+          " number INTEGER PRIMARY KEY AUTOINCREMENT,"
+          " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
+          " state INTEGER NOT NULL,"
+          " path BLOB NOT NULL,"
+          " source BLOB NOT NULL,"
+          " photo INTEGER REFERENCES photos (number),"
+          " size INTEGER NOT NULL,"
+          " modified_ns INTEGER NOT NULL,"
+          " digest BLOB NOT NULL,"
+          " place BLOB,"
+          " note BLOB,"
+          " device INTEGER NOT NULL DEFAULT 0,"
+          " file INTEGER NOT NULL DEFAULT 0)",
+          "CREATE INDEX imported_by_step ON imported (step)",
+          "CREATE TABLE album_changes ("
+          " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
+          " album_id TEXT NOT NULL,"
+          " name TEXT NOT NULL,"
+          " first_day TEXT,"
+          " created INTEGER NOT NULL CHECK (created IN (0, 1)),"
+          " PRIMARY KEY (step, album_id)) WITHOUT ROWID",
+          "CREATE TABLE album_change_photos ("
+          " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
+          " album_id TEXT NOT NULL,"
+          " position INTEGER NOT NULL,"
+          " photo INTEGER NOT NULL REFERENCES photos (number),"
+          " PRIMARY KEY (step, album_id, position)) WITHOUT ROWID",
+      },
   };
   static_assert(kCatalogueApplicationId == 1280132184, "the first migration writes it");
   CHECK_EQ(migrations.size(), static_cast<std::size_t>(Catalogue::kSchemaVersion));

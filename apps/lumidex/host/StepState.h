@@ -13,6 +13,17 @@ enum class State : int {
   GivenUp = 6
 };
 
+/// What a step of the journal did. The numbers are stored.
+enum class StepKind : int {
+  Unknown = 0,
+  Rename = 1,
+  Edit = 2,
+  Trash = 3,
+  Tags = 4,
+  Import = 5,
+  Albums = 6,
+};
+
 inline bool IsUnderWay(State state) {
   return state == State::Doing || state == State::Undoing || state == State::Redoing;
 }

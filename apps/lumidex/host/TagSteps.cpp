@@ -85,13 +85,6 @@ std::size_t TagSteps::Apply(qlonglong step, const TagWishes& wishes) const {
   return changed.size();
 }
 
-bool TagSteps::Has(qlonglong step) const {
-  QSqlQuery query = database_.Prepare("SELECT EXISTS (SELECT 1 FROM tag_changes WHERE step = ?)");
-  query.addBindValue(step);
-  database_.Run(query);
-  return database_.Next(query) && query.value(0).toBool();
-}
-
 std::size_t TagSteps::Reverse(qlonglong step, bool redo) const {
   struct Change {
     qlonglong photo;

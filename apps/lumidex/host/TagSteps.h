@@ -20,8 +20,6 @@ class TagSteps {
   /// Gives photos tags and takes some from them, and notes for the step what that changed. What is in the
   /// catalogue under none of the paths is passed over. Returns how many photos have other tags now.
   std::size_t Apply(qlonglong step, const TagWishes& wishes) const;
-  /// True when the step changed tags.
-  bool Has(qlonglong step) const;
   /// Takes back what the step changed, or does it again. Returns of how many photos.
   std::size_t Reverse(qlonglong step, bool redo) const;
 

@@ -36,6 +36,7 @@ struct StepRow {
   qlonglong number = 0;
   QString name;
   State state = State::Doing;
+  StepKind kind = StepKind::Unknown;
   std::vector<FileMove> moves;
 };
 
@@ -112,7 +113,7 @@ class UndoJournal::Impl {
   ioPath PlanEdit(const ioPath& photo);
   void FinishEdit();
   void DropEdit();
-  void BeginStep(const QString& name);
+  void BeginStep(const QString& name, StepKind kind = StepKind::Edit);
   void EndStep();
   void RegisterFileChange(DataModel& item, const ioPath& newPath);
   UndoResult Reverse(bool redo, const std::atomic<bool>& cancelled, const UndoProgress& progress);
@@ -136,7 +137,7 @@ class UndoJournal::Impl {
   void RecoverMoves(StepRow& step);
   void StoreMoves(const StepRow& step);
   void RecoverChanges(StepRow& step);
-  void RecoverTrash(StepRow& step, std::vector<TrashedFile>& files);
+  void RecoverTrash(StepRow& step);
   bool SettleChange(ChangeRow& change);
 
   Drive DriveMoves(const std::vector<FileMove>& moves, std::size_t at, std::size_t goal,
@@ -160,7 +161,7 @@ class UndoJournal::Impl {
   void FinishReversal(ChangeRow& change, bool redo);
   void Exchange(ChangeRow& change, bool redo);
 
-  qlonglong InsertStep(const QString& name, std::size_t files, const QByteArray& moves);
+  qlonglong InsertStep(StepKind kind, const QString& name, std::size_t files, const QByteArray& moves);
   std::vector<StepRow> ReadSteps(const char* condition, bool withMoves) const;
   std::vector<ChangeRow> ReadChanges(qlonglong step) const;
   void SetState(const char* table, qlonglong number, State state) const;
@@ -217,9 +218,11 @@ void UndoJournal::Impl::TakeLock(const ioPath& folder) {
 
 // --- The tables
 
-qlonglong UndoJournal::Impl::InsertStep(const QString& name, std::size_t files, const QByteArray& moves) {
-  QSqlQuery query =
-      database_.Prepare("INSERT INTO steps (name, begun, state, files, moves) VALUES (?, ?, ?, ?, ?)");
+qlonglong UndoJournal::Impl::InsertStep(StepKind kind, const QString& name, std::size_t files,
+                                        const QByteArray& moves) {
+  QSqlQuery query = database_.Prepare(
+      "INSERT INTO steps (kind, name, begun, state, files, moves) VALUES (?, ?, ?, ?, ?, ?)");
+  query.addBindValue(static_cast<int>(kind));
   query.addBindValue(NotNull(name));
   query.addBindValue(App::GetCurrentDateTime().toUTC().toString(Qt::ISODate));
   query.addBindValue(static_cast<int>(State::Doing));
@@ -230,7 +233,8 @@ qlonglong UndoJournal::Impl::InsertStep(const QString& name, std::size_t files, 
 }
 
 std::vector<StepRow> UndoJournal::Impl::ReadSteps(const char* condition, bool withMoves) const {
-  const std::string sql = std::string("SELECT number, name, state, moves FROM steps WHERE ") + condition;
+  const std::string sql =
+      std::string("SELECT number, name, state, kind, moves FROM steps WHERE ") + condition;
   QSqlQuery query = database_.Prepare(sql.c_str());
   database_.Run(query);
   std::vector<StepRow> steps;
@@ -239,8 +243,9 @@ std::vector<StepRow> UndoJournal::Impl::ReadSteps(const char* condition, bool wi
     step.number = query.value(0).toLongLong();
     step.name = query.value(1).toString();
     step.state = static_cast<State>(query.value(2).toInt());
-    if (withMoves && !query.value(3).isNull()) {
-      step.moves = UnpackMoves(query.value(3).toByteArray());
+    step.kind = static_cast<StepKind>(query.value(3).toInt());
+    if (withMoves && !query.value(4).isNull()) {
+      step.moves = UnpackMoves(query.value(4).toByteArray());
     }
     steps.push_back(std::move(step));
   }
@@ -442,7 +447,7 @@ UndoResult UndoJournal::Impl::Rename(const QString& name, const RenamePlan& plan
   }
   StepRow step;
   step.moves = IdentifyMoves(plan.steps);
-  step.number = InsertStep(name, plan.renames.size(), PackMoves(step.moves));
+  step.number = InsertStep(StepKind::Rename, name, plan.renames.size(), PackMoves(step.moves));
   const std::size_t reached = DriveOrReturn(step, 0, step.moves.size(), cancelled, progress, result);
   result.files = reached == step.moves.size() ? plan.renames.size() : reached;
   return result;
@@ -491,11 +496,11 @@ UndoResult UndoJournal::Impl::ReverseMoves(StepRow& step, bool redo, const std::
 
 // --- Edits
 
-void UndoJournal::Impl::BeginStep(const QString& name) {
+void UndoJournal::Impl::BeginStep(const QString& name, StepKind kind) {
   if (step_ != 0) {
     EndStep();
   }
-  step_ = InsertStep(name, 0, {});
+  step_ = InsertStep(kind, name, 0, {});
 }
 
 ioPath UndoJournal::Impl::PlanEdit(const ioPath& photo) {
@@ -789,7 +794,7 @@ TrashResult UndoJournal::Impl::MoveToTrash(const QString& name, const std::vecto
                                            const std::atomic<bool>& cancelled, const UndoProgress& progress) {
   TrashResult result;
   result.name = name;
-  BeginStep(name);
+  BeginStep(name, StepKind::Trash);
   std::size_t looked = 0;
   for (const TrashPhoto& photo : photos) {
     if (cancelled) {
@@ -885,7 +890,7 @@ UndoResult UndoJournal::Impl::ChangeTags(const QString& name, const TagWishes& w
   UndoResult result;
   result.name = name;
   WriteTransaction transaction(database_);
-  const qlonglong step = InsertStep(name, 0, {});
+  const qlonglong step = InsertStep(StepKind::Tags, name, 0, {});
   result.files = tags_.Apply(step, wishes);
   if (result.files == 0) {
     return result;
@@ -921,14 +926,22 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
     return {};
   }
   StepRow& step = steps.front();
-  if (tags_.Has(step.number)) {
-    return ReverseTags(step, redo);
+  switch (step.kind) {
+    case StepKind::Rename:
+      return ReverseMoves(step, redo, cancelled, progress);
+    case StepKind::Edit:
+      return ReverseChanges(step, redo, cancelled, progress);
+    case StepKind::Trash:
+      return ReverseTrash(step, redo, cancelled, progress);
+    case StepKind::Tags:
+      return ReverseTags(step, redo);
+    case StepKind::Import:
+    case StepKind::Albums:
+    case StepKind::Unknown:
+      break;
   }
-  if (!trash_.Files(step.number).empty()) {
-    return ReverseTrash(step, redo, cancelled, progress);
-  }
-  return step.moves.empty() ? ReverseChanges(step, redo, cancelled, progress)
-                            : ReverseMoves(step, redo, cancelled, progress);
+  ThrowHostError(database_.File().utf8string(),
+                 "The journal of " + database_.File().utf8string() + " holds a step of an unknown kind");
 }
 
 std::optional<UndoStep> UndoJournal::Impl::SkipLast() {
@@ -952,17 +965,16 @@ std::optional<UndoStep> UndoJournal::Impl::SkipLast() {
 
 void UndoJournal::Impl::Recover() {
   for (StepRow& step : ReadSteps("state IN (1, 3, 5) ORDER BY number", true)) {
-    std::vector<TrashedFile> files = trash_.Files(step.number);
-    if (!files.empty()) {
-      RecoverTrash(step, files);
-    } else if (step.moves.empty()) {
-      RecoverChanges(step);
-    } else {
+    if (step.kind == StepKind::Trash) {
+      RecoverTrash(step);
+    } else if (step.kind == StepKind::Rename) {
       RecoverMoves(step);
+    } else {
+      RecoverChanges(step);
     }
   }
   std::set<std::string> wanted = {kLockName};
-  for (const StepRow& step : ReadSteps("moves IS NULL", false)) {
+  for (const StepRow& step : ReadSteps("kind = 2", false)) {
     for (const ChangeRow& change : ReadChanges(step.number)) {
       if (change.state == State::Undone || IsUnderWay(change.state)) {
         wanted.insert(change.KeptAfter());
@@ -1034,9 +1046,9 @@ void UndoJournal::Impl::RecoverChanges(StepRow& step) {
   }
 }
 
-void UndoJournal::Impl::RecoverTrash(StepRow& step, std::vector<TrashedFile>& files) {
+void UndoJournal::Impl::RecoverTrash(StepRow& step) {
   const std::string name = "\"" + step.name.toStdString() + "\"";
-  for (const TrashedFile& file : files) {
+  for (const TrashedFile& file : trash_.Files(step.number)) {
     if (IsUnderWay(file.state) && trash_.IsOutOfReach(file)) {
       notes.push_back(name + " had been broken off and is finished once " +
                       file.place.file.parent_path().utf8string() + " can be reached again.");

@@ -87,7 +87,7 @@ class Catalogue {
     ReadWrite,  ///< Made with its folders when missing, brought up to date when older.
     ReadOnly,   ///< Must exist. Nothing is written; an older schema is refused with a hint to run a scan.
   };
-  static constexpr int kSchemaVersion = 5;
+  static constexpr int kSchemaVersion = 6;
   static constexpr int kBusyTimeoutMs = 10'000;
 
   Catalogue(const ioPath& file, Mode mode);
