@@ -360,7 +360,7 @@ std::vector<SimilarGroup> SimilarPhotos::Impl::Groups(std::size_t least) const {
       groups.push_back({id, VectorOf(query.value(kPhotoColumnCount + 6).toByteArray()), {}});
     }
     SimilarGroup& group = groups.back();
-    SimilarMember member{PhotoOf(query), FeaturesOf(query, kPhotoColumnCount), 0};
+    SimilarMember member{PhotoOf(query), FeaturesOf(query, kPhotoColumnCount), 0, {}};
     member.score = Quillet::MatchTemplate(member.features.vector, group.centre);
     group.members.push_back(std::move(member));
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <host/Catalogue.h>
+#include <host/PhotoOrigin.h>
 
 #include <QString>
 
@@ -46,6 +47,7 @@ struct SimilarMember {
   PhotoRecord photo;
   PhotoFeatures features;
   float score = 0;  ///< Against the centre of its group, as `MatchTemplate` has it.
+  std::optional<PhotoOrigin> origin;  ///< Empty: not read since the file changed.
 };
 
 struct SimilarGroup {
