@@ -3,6 +3,7 @@
 #include "OpenJournal.h"
 #include "Options.h"
 #include "Progress.h"
+#include "StepRoom.h"
 #include "ValueTexts.h"
 #include "Words.h"
 
@@ -45,6 +46,10 @@ constexpr char kEditNote[] =
     R"(JPEG, PNG, WebP, TIFF and most raw files can be edited; the picture in them
 stays as it is, bit for bit. Others are listed with the reason. A folder stands
 for the photos in it, not for those below; a link for the photo it leads to.
+
+The originals are kept for undo up to a limit (lumidex help undo). Where older
+steps had to be forgotten for it, you are asked; where nobody can be asked,
+nothing is changed unless --forget-older is given.
 )";
 
 constexpr char kRotateExamples[] =
@@ -72,14 +77,16 @@ Examples:
 
 constexpr char kExitCodes[] =
     R"(
-Exit codes: 0 done; 1 there are no photos; 3 some photos cannot be edited;
-4 none can, or the catalogue cannot be written; 130 interrupted, the photos
+Exit codes: 0 done; 1 there are no photos, or the answer was no; 3 some photos
+cannot be edited; 4 none can, the limit of what is kept for undo forbids it, or
+the catalogue cannot be written; 130 interrupted, the photos
 edited so far stay so.)";
 
 struct EditArguments {
   std::string what;
   std::vector<std::string> files;
   bool dryRun = false;
+  RoomWish room;
 };
 
 /// What is to be done to each photo.
@@ -135,6 +142,7 @@ class EditRun {
     view_.argument = order_.argument;
     view_.turns = order_.edit.turn != Strandel::Turn::None;
     view_.dryRun = arguments.dryRun;
+    view_.roomWish = arguments.room;
   }
 
   ExitCode Run() {
@@ -143,10 +151,14 @@ class EditRun {
       journal_.emplace(session_);
     }
     Choose();
+    view_.room = RoomFor(session_, photos_, arguments_.room);
     if (arguments_.dryRun) {
       Try();
     } else if (!photos_.empty()) {
-      Edit();
+      view_.declined = !AgreeOnRoom(session_, view_.room, arguments_.room);
+      if (!view_.declined) {
+        Edit();
+      }
     }
     session_.Count(ItemType::Photo, view_.photos, view_.edited);
     view_.recovered = session_.recovered;
@@ -190,6 +202,7 @@ class EditRun {
     if (!journal_) {
       journal_.emplace(session_);
     }
+    journal_->Get().KeepOriginals(!arguments_.room.noUndo);
     Host::UndoResult result;
     {
       Progress progress(session_.console, Say(Words::tr("Editing")), Say(Words::tr("photos", "of so many")));
@@ -205,7 +218,7 @@ class EditRun {
     view_.interrupted = result.cancelled;
     view_.findings.insert(view_.findings.end(), result.findings.begin(), result.findings.end());
     if (result.files > 0) {
-      journal_->Prune();
+      view_.forgotten = journal_->Prune(view_.room.forgotten);
       view_.canBeUndone = journal_->CanUndoLast();
     }
   }
@@ -215,7 +228,7 @@ class EditRun {
       session_.console.Note(Say(arguments_.dryRun
                                     ? Words::tr("Interrupted.")
                                     : Words::tr("Interrupted. The photos edited so far stay so.")));
-    } else if (photos_.empty() && view_.findings.empty()) {
+    } else if (photos_.empty() && view_.findings.empty() && !view_.declined) {
       session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
     }
   }
@@ -227,7 +240,7 @@ class EditRun {
     if (!view_.findings.empty()) {
       return view_.edited > 0 ? ExitCode::Partly : ExitCode::Failed;
     }
-    return photos_.empty() ? ExitCode::Findings : ExitCode::Done;
+    return photos_.empty() || view_.declined ? ExitCode::Findings : ExitCode::Done;
   }
 
   const EditArguments& arguments_;
@@ -253,6 +266,7 @@ CLI::Option* AddCommand(CLI::App& program, Action& chosen, const char* name, con
   command
       ->add_flag("--dry-run", arguments->dryRun, "Only tell what would be changed in which photo, and how.")
       ->disable_flag_override();
+  AddRoomOptions(*command, arguments->room);
   command->callback([arguments, makeOrder, &chosen] {
     chosen = [arguments, makeOrder](Session& session) {
       return EditRun(*arguments, makeOrder(*arguments), session).Run();

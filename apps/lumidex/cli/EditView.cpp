@@ -5,6 +5,7 @@
 #include "OrientationText.h"
 #include "TerminalText.h"
 #include "TextTable.h"
+#include "UndoView.h"
 #include "Words.h"
 
 namespace Zenvora::Lumidex::Cli {
@@ -37,16 +38,16 @@ std::string OutcomeText(const EditView& view) {
     return Say(Words::tr("%1 photos would be edited. This was a dry run: nothing was changed.", nullptr,
                          amount),
                {photos}) +
-           '\n';
+           '\n' + (view.edited > 0 ? RoomText(view.room, view.roomWish) : std::string());
   }
   if (view.edited == 0) {
     return Say(Words::tr("Nothing was changed.")) + '\n';
   }
   return Say(view.canBeUndone
                  ? Words::tr("%1 photos edited; \"lumidex undo\" takes it back.", nullptr, amount)
-                 : Words::tr("%1 photos edited.", nullptr, amount),
+                 : Words::tr("%1 photos edited; it cannot be undone.", nullptr, amount),
              {photos}) +
-         '\n';
+         '\n' + ForgottenLine(view.forgotten);
 }
 
 void WriteTried(JsonWriter& json, const std::vector<TriedEdit>& tried) {
@@ -79,6 +80,8 @@ std::string EditDocument(const EditView& view) {
   }
   WriteFindings(json, view.findings);
   json.Truth("canBeUndone", view.canBeUndone);
+  WriteRoom(json, view.room, view.roomWish);
+  json.Number("forgotten", static_cast<long long>(view.forgotten));
   WriteRecovered(json, view.recovered);
   return json.Finish();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "StepRoom.h"
+
 #include <host/UndoJournal.h>
 
 #include <zenvora/core/ioPath.h>
@@ -29,7 +31,11 @@ struct EditView {
   bool turns = false;      ///< The orientation is what changes, not the date.
   std::vector<TriedEdit> tried;
   std::vector<Host::UndoFinding> findings;
+  Host::JournalRoom room;  ///< What undo has to keep and to forget for it.
+  RoomWish roomWish;
+  bool declined = false;  ///< The person did not want older steps forgotten.
   bool canBeUndone = false;
+  std::size_t forgotten = 0;  ///< Older steps that cannot be taken back any more.
   std::vector<std::string> recovered;
 };
 

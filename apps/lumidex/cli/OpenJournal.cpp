@@ -1,6 +1,8 @@
 #include "OpenJournal.h"
 
+#include "TerminalText.h"
 #include "UndoSettings.h"
+#include "Words.h"
 
 #include <LumidexUtil/FileAccessLocker.h>
 #include <host/HostError.h>
@@ -8,6 +10,8 @@
 #include <zenvora/app/Application.h>
 
 #include <glog/logging.h>
+
+#include <algorithm>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -21,13 +25,29 @@ OpenJournal::OpenJournal(Session& session)
   }
 }
 
-std::size_t OpenJournal::Prune() {
+std::size_t OpenJournal::Prune(const std::vector<Host::UndoStep>& announced) {
   try {
-    return journal_->Prune(StoredLimits(session_.console), App::GetCurrentDateTime().toUTC());
+    const Host::UndoLimits limits = StoredLimits(session_.console);
+    const std::vector<Host::UndoStep> before = journal_->Steps();
+    const std::size_t dropped = journal_->Prune(limits, announced);
+    const std::size_t tooOld = static_cast<std::size_t>(std::count_if(
+        before.begin(), before.end(),
+        [&limits](const Host::UndoStep& step) { return !step.givenUp && step.daysOfUse > limits.days; }));
+    if (tooOld > 0) {
+      session_.console.Note(
+          Say(Words::tr("%1 steps cannot be undone any more: more than %2 days of use have passed since.",
+                        nullptr, Amount(tooOld)),
+              {GroupDigits(tooOld), GroupDigits(static_cast<unsigned long long>(limits.days))}));
+    }
+    return dropped - tooOld;
   } catch (const Host::HostError& error) {
     session_.console.Warning(error.what());
     return 0;
   }
+}
+
+std::size_t OpenJournal::ApplyLimits() {
+  return journal_->Prune(StoredLimits(session_.console));
 }
 
 bool OpenJournal::CanUndoLast() const {

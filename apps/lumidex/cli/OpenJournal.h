@@ -23,9 +23,12 @@ class OpenJournal {
   Host::UndoJournal& Get() { return *journal_; }
   IFileAccessLocker& Locker() { return *locker_; }
 
-  /// Forgets what is beyond the limits of the settings. A failure is only worth a warning: what was asked
-  /// for is done. Returns how many steps were forgotten.
-  std::size_t Prune();
+  /// After a step: forgets the older ones that were announced as far as the limits of the settings ask for
+  /// it, and those that are too old, which is noted. A failure is only worth a warning: what was asked for is
+  /// done. Returns how many of those announced are forgotten.
+  std::size_t Prune(const std::vector<Host::UndoStep>& announced = {});
+  /// Forgets all that is beyond the limits. Returns how many steps cannot be taken back any more.
+  std::size_t ApplyLimits();
   /// True when the step done last can be undone.
   bool CanUndoLast() const;
 

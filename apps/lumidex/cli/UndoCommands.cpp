@@ -27,7 +27,8 @@ constexpr char kUndoDescription[] =
 constexpr char kUndoFooter[] =
     R"(What was taken back can be done again with "lumidex redo", until something new
 is done. The originals of edited photos are kept beside the catalogue: usually
-for 90 days, and no more than 5 GiB of them.
+for 90 days on which steps are made or taken back, and no more than 5 GiB of
+them. A step that needs older ones forgotten for that asks first.
 
 Examples:
   lumidex undo
@@ -108,7 +109,7 @@ class UndoRun {
 
   void Work(OpenJournal& journal) {
     if (view_.limits) {
-      view_.forgotten = journal.Prune();
+      view_.forgotten = journal.ApplyLimits();
     } else if (view_.steps) {
       view_.steps = journal.Get().Steps();
     } else if (view_.skipped) {
@@ -212,8 +213,10 @@ void AddUndoCommand(CLI::App& program, Action& chosen) {
           ->excludes(last)
           ->excludes(list);
   command
-      ->add_option("--keep-days", arguments->keepDays,
-                   "From now on, keep steps for so many days, 0 to 36500; take nothing back.")
+      ->add_option(
+          "--keep-days", arguments->keepDays,
+          "From now on, keep steps for so many days of use, 0 to 36500; take nothing back. A day counts "
+          "when steps are made or taken back on it, so a wrong clock makes nothing old.")
       ->option_text("N")
       ->check(WholeNumber(0, kMostDays))
       ->excludes(last)

@@ -36,8 +36,7 @@ std::string StepsText(const std::vector<UndoStep>& steps) {
                    {Say(Words::tr("KEPT", "so many bytes")), TextTable::Align::Right},
                    {""}});
   for (const UndoStep& step : steps) {
-    const QString when = step.begun.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm"));
-    table.AddRow({when.toStdString(), StepText(step.name.toStdString()), GroupDigits(step.files),
+    table.AddRow({WhenText(step), StepText(step.name.toStdString()), GroupDigits(step.files),
                   SizeText(step.keptBytes), StateText(step)});
   }
   return table.Text();
@@ -83,28 +82,9 @@ std::string SkippedText(const std::vector<UndoStep>& steps) {
 }
 
 std::string LimitsLine(const UndoView& view) {
-  const std::string forgotten =
-      view.forgotten == 0
-          ? std::string()
-          : ' ' + Say(Words::tr("%1 older steps cannot be undone any more.", nullptr, Amount(view.forgotten)),
-                      {GroupDigits(view.forgotten)});
-  return Say(Words::tr("Steps can be undone within %1."), {LimitsText(*view.limits)}) + forgotten + '\n';
-}
-
-void WriteSteps(JsonWriter& json, const char* name, const std::vector<UndoStep>& steps) {
-  json.BeginArray(name);
-  for (const UndoStep& step : steps) {
-    json.BeginObject();
-    json.Number("number", step.number);
-    json.Text("name", step.name);
-    json.Text("begun", step.begun.toUTC().toString(Qt::ISODate));
-    json.Truth("undone", step.undone);
-    json.Truth("givenUp", step.givenUp);
-    json.Number("files", static_cast<long long>(step.files));
-    json.Number("keptBytes", static_cast<long long>(step.keptBytes));
-    json.EndObject();
-  }
-  json.EndArray();
+  const std::string forgotten = ForgottenLine(view.forgotten);
+  return Say(Words::tr("Steps can be undone within %1."), {LimitsText(*view.limits)}) +
+         (forgotten.empty() ? "\n" : ' ' + forgotten);
 }
 
 void WriteDone(JsonWriter& json, const std::vector<UndoResult>& results) {
@@ -128,6 +108,40 @@ void WriteLimits(JsonWriter& json, const UndoView& view) {
 }
 
 }  // namespace
+
+std::string ForgottenLine(std::size_t steps) {
+  return steps == 0 ? std::string()
+                    : Say(Words::tr("%1 older steps cannot be undone any more.", nullptr, Amount(steps)),
+                          {GroupDigits(steps)}) +
+                          '\n';
+}
+
+std::string WhenText(const UndoStep& step) {
+  return step.begun.isValid()
+             ? step.begun.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")).toStdString()
+             : Say(Words::tr("unknown", "a date"));
+}
+
+void WriteSteps(JsonWriter& json, const char* name, const std::vector<UndoStep>& steps) {
+  json.BeginArray(name);
+  for (const UndoStep& step : steps) {
+    json.BeginObject();
+    json.Number("number", step.number);
+    json.Text("name", step.name);
+    if (step.begun.isValid()) {
+      json.Text("begun", step.begun.toUTC().toString(Qt::ISODate));
+    } else {
+      json.Null("begun");
+    }
+    json.Truth("undone", step.undone);
+    json.Truth("givenUp", step.givenUp);
+    json.Number("files", static_cast<long long>(step.files));
+    json.Number("keptBytes", static_cast<long long>(step.keptBytes));
+    json.Number("daysOfUse", step.daysOfUse);
+    json.EndObject();
+  }
+  json.EndArray();
+}
 
 std::string UndoDocument(const UndoView& view) {
   JsonWriter json("lumidex.undo", 1);

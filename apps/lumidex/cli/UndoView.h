@@ -1,5 +1,7 @@
 #pragma once
 
+#include "JsonWriter.h"
+
 #include <host/UndoJournal.h>
 
 #include <zenvora/core/ioPath.h>
@@ -26,6 +28,13 @@ struct UndoView {
   std::size_t forgotten = 0;
   std::vector<std::string> recovered;
 };
+
+/// When the step was begun, in local time.
+std::string WhenText(const Host::UndoStep& step);
+/// That so many older steps cannot be undone any more, as a line; empty for none.
+std::string ForgottenLine(std::size_t steps);
+/// An array with all that is known of steps.
+void WriteSteps(JsonWriter& json, const char* name, const std::vector<Host::UndoStep>& steps);
 
 /// docs/formats/json-output.md, lumidex.undo.
 std::string UndoDocument(const UndoView& view);

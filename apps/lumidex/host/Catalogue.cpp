@@ -101,15 +101,24 @@ std::unique_ptr<CatalogueDatabase> OpenForReading(const ioPath& file) {
     }
     database = std::make_unique<CatalogueDatabase>(file, Access::Frozen, Catalogue::kBusyTimeoutMs);
   }
-  RequireCurrentVersion(*database);
   return database;
 }
 
 }  // namespace
 
+std::unique_ptr<CatalogueDatabase> OpenAsItIs(const ioPath& file) {
+  RequireUsablePlace(file, Catalogue::Mode::ReadOnly);
+  return OpenForReading(file);
+}
+
 std::unique_ptr<CatalogueDatabase> OpenCatalogue(const ioPath& file, Catalogue::Mode mode) {
-  RequireUsablePlace(file, mode);
-  return mode == Catalogue::Mode::ReadOnly ? OpenForReading(file) : OpenForWriting(file);
+  if (mode == Catalogue::Mode::ReadWrite) {
+    RequireUsablePlace(file, mode);
+    return OpenForWriting(file);
+  }
+  auto database = OpenAsItIs(file);
+  RequireCurrentVersion(*database);
+  return database;
 }
 
 const char* DateSourceName(DateSource source) {

@@ -277,6 +277,10 @@ void BringUpToDate(const CatalogueDatabase& database) {
   TurnOnWriteAheadLog(database);
 }
 
+void RequireKnownVersion(const CatalogueDatabase& database) {
+  RequireNotNewer(database, ReadIdentity(database).version);
+}
+
 bool HasJournal(const CatalogueDatabase& database) {
   constexpr int kFirstWithJournal = 2;
   const Identity identity = ReadIdentity(database);

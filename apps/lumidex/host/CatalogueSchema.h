@@ -11,6 +11,10 @@ namespace Zenvora::Lumidex::Host {
 /// Opens a catalogue as the class `Catalogue` does, with all that it refuses.
 std::unique_ptr<CatalogueDatabase> OpenCatalogue(const ioPath& file, Catalogue::Mode mode);
 
+/// Opens a catalogue for reading, of whatever version it is. Throws for what is not ours and what is not
+/// there.
+std::unique_ptr<CatalogueDatabase> OpenAsItIs(const ioPath& file);
+
 /// SQLite's application id of catalogues: "LMDX".
 constexpr int kCatalogueApplicationId = 0x4C4D4458;
 
@@ -21,6 +25,9 @@ void RequireOwnFile(const ioPath& file);
 /// Makes the tables or brings them up to date, one transaction for each version. Two processes may do it at
 /// once. Throws when the catalogue is newer than this program or somebody else's.
 void BringUpToDate(const CatalogueDatabase& database);
+
+/// Throws when a newer program made the catalogue.
+void RequireKnownVersion(const CatalogueDatabase& database);
 
 /// False also for what is not ours and for what a newer program made.
 bool HasJournal(const CatalogueDatabase& database);

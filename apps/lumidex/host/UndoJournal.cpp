@@ -1,6 +1,7 @@
 #include "CatalogueDatabase.h"
 #include "CatalogueRows.h"
 #include "CatalogueSchema.h"
+#include "DaysOfUse.h"
 #include "FileMoves.h"
 #include "KeptFiles.h"
 #include "ProcessLock.h"
@@ -8,6 +9,7 @@
 #include "StepState.h"
 #include "TagSteps.h"
 #include "TrashSteps.h"
+#include "UndoSteps.h"
 
 #include <LumidexUtil/UndoFileHolder.h>
 #include <host/Catalogue.h>
@@ -118,9 +120,9 @@ class UndoJournal::Impl {
   void RegisterFileChange(DataModel& item, const ioPath& newPath);
   UndoResult Reverse(bool redo, const std::atomic<bool>& cancelled, const UndoProgress& progress);
   std::optional<UndoStep> SkipLast();
-  /// Those of a condition, with the order in which they are wanted.
-  std::vector<UndoStep> Steps(const char* condition = "1 ORDER BY s.number DESC") const;
-  std::size_t Prune(const UndoLimits& limits, const QDateTime& now);
+  std::vector<UndoStep> Steps() const { return QuerySteps(database_); }
+  std::size_t Prune(const UndoLimits& limits, const std::vector<UndoStep>* announced);
+  void KeepOriginals(bool keep) { keeps_ = keep; }
 
   std::vector<std::string> notes;
 
@@ -179,6 +181,7 @@ class UndoJournal::Impl {
   const TrashSteps trash_;
   const TagSteps tags_;
   qlonglong step_ = 0;
+  bool keeps_ = true;
   std::optional<ChangeRow> edit_;
 };
 
@@ -193,6 +196,7 @@ UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker, cons
   // What the journal says must be on the disk before the photos change.
   database_.Execute("PRAGMA synchronous = FULL");
   TakeLock(FolderOf(catalogue.absolute()));
+  CountDayOfUse(database_);
   Recover();
 }
 
@@ -221,10 +225,12 @@ void UndoJournal::Impl::TakeLock(const ioPath& folder) {
 qlonglong UndoJournal::Impl::InsertStep(StepKind kind, const QString& name, std::size_t files,
                                         const QByteArray& moves) {
   QSqlQuery query = database_.Prepare(
-      "INSERT INTO steps (kind, name, begun, state, files, moves) VALUES (?, ?, ?, ?, ?, ?)");
+      "INSERT INTO steps (kind, name, begun, state, files, moves, day)"
+      " VALUES (?, ?, ?, ?, ?, ?, (SELECT coalesce(max(count), 0) FROM days_of_use))");
   query.addBindValue(static_cast<int>(kind));
   query.addBindValue(NotNull(name));
-  query.addBindValue(App::GetCurrentDateTime().toUTC().toString(Qt::ISODate));
+  // Empty where the clock is beyond what can be written.
+  query.addBindValue(NotNull(App::GetCurrentDateTime().toUTC().toString(Qt::ISODate)));
   query.addBindValue(static_cast<int>(State::Doing));
   query.addBindValue(static_cast<qlonglong>(files));
   query.addBindValue(moves.isNull() ? QVariant(QVariant::ByteArray) : QVariant(moves));
@@ -323,41 +329,16 @@ void UndoJournal::Impl::DropUndone() const {
   }
 }
 
-std::vector<UndoStep> UndoJournal::Impl::Steps(const char* condition) const {
-  const std::string sql = std::string(
-                              "SELECT s.number, s.name, s.begun, s.state, s.files, (SELECT "
-                              "total(c.kept_size) FROM changes c WHERE"
-                              " c.step = s.number) FROM steps s WHERE ") +
-                          condition;
-  QSqlQuery query = database_.Prepare(sql.c_str());
-  database_.Run(query);
-  std::vector<UndoStep> steps;
-  while (database_.Next(query)) {
-    UndoStep step;
-    step.number = query.value(0).toLongLong();
-    step.name = query.value(1).toString();
-    step.begun = QDateTime::fromString(query.value(2).toString(), Qt::ISODate);
-    const auto state = static_cast<State>(query.value(3).toInt());
-    step.undone = state == State::Undone;
-    step.givenUp = state == State::GivenUp;
-    step.files = static_cast<std::size_t>(query.value(4).toULongLong());
-    step.keptBytes = static_cast<std::uint64_t>(query.value(5).toDouble());
-    steps.push_back(std::move(step));
-  }
-  return steps;
-}
-
-std::size_t UndoJournal::Impl::Prune(const UndoLimits& limits, const QDateTime& now) {
-  std::uint64_t bytes = 0;
+/// Without `announced` all that is beyond the limits goes; with it, of what could be taken back only that.
+std::size_t UndoJournal::Impl::Prune(const UndoLimits& limits, const std::vector<UndoStep>* announced) {
   std::size_t dropped = 0;
-  bool beyond = false;
-  for (const UndoStep& step : Steps()) {
-    bytes += step.keptBytes;
-    // Older steps cannot be undone before a newer one: where one goes, so do all before it.
-    beyond = beyond || bytes > limits.bytes || step.begun.addDays(limits.days) < now;
-    if (beyond && step.number != step_) {
+  for (const UndoStep& step : StepsBeyond(QuerySteps(database_), limits, 0)) {
+    const auto isIt = [&step](const UndoStep& other) { return other.number == step.number; };
+    const bool mayGo = announced == nullptr || step.givenUp || IsTooOld(step, limits) ||
+                       std::any_of(announced->begin(), announced->end(), isIt);
+    if (mayGo && step.number != step_) {
       DropStep(step.number);
-      ++dropped;
+      dropped += step.givenUp ? 0 : 1;
     }
   }
   return dropped;
@@ -534,8 +515,10 @@ void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPat
     StoreChange(change, 0);
     return;
   }
-  kept_.Keep(change.path, change.KeptBefore());
-  change.digestBefore = DigestOf(kept_.PathOf(change.KeptBefore()));
+  if (keeps_) {
+    kept_.Keep(change.path, change.KeptBefore());
+  }
+  change.digestBefore = DigestOf(keeps_ ? kept_.PathOf(change.KeptBefore()) : change.path);
   if (!change.side.empty()) {
     change.digestAfter = DigestOf(change.side);
   }
@@ -586,7 +569,7 @@ void UndoJournal::Impl::SettleStep(const StepRow& step) {
     return;
   }
   QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(State::Done));
+  query.addBindValue(static_cast<int>(keeps_ ? State::Done : State::GivenUp));
   query.addBindValue(static_cast<qlonglong>(files));
   query.addBindValue(step.number);
   database_.Run(query);
@@ -945,7 +928,7 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
 }
 
 std::optional<UndoStep> UndoJournal::Impl::SkipLast() {
-  std::vector<UndoStep> steps = Steps("s.state = 2 ORDER BY s.number DESC LIMIT 1");
+  std::vector<UndoStep> steps = QuerySteps(database_, "s.state = 2 ORDER BY s.number DESC LIMIT 1");
   if (steps.empty()) {
     return std::nullopt;
   }
@@ -1158,8 +1141,17 @@ std::vector<UndoStep> UndoJournal::Steps() const {
   return impl_->Steps();
 }
 
-std::size_t UndoJournal::Prune(const UndoLimits& limits, const QDateTime& now) {
-  return impl_->Prune(limits, now);
+void UndoJournal::KeepOriginals(bool keep) {
+  impl_->EndStep();
+  impl_->KeepOriginals(keep);
+}
+
+std::size_t UndoJournal::Prune(const UndoLimits& limits) {
+  return impl_->Prune(limits, nullptr);
+}
+
+std::size_t UndoJournal::Prune(const UndoLimits& limits, const std::vector<UndoStep>& announced) {
+  return impl_->Prune(limits, &announced);
 }
 
 bool NeedsRecovery(const ioPath& catalogue) {

@@ -30,11 +30,12 @@ namespace Zenvora::Lumidex::Host {
 struct UndoStep {
   std::int64_t number = 0;      ///< Grows with every step; never used twice.
   QString name;                 ///< What the person did.
-  QDateTime begun;              ///< UTC.
+  QDateTime begun;              ///< UTC; invalid: the clock showed no year from 1 to 9999.
   bool undone = false;          ///< Taken back; it can be done again.
   bool givenUp = false;         ///< Can be neither taken back nor done again.
   std::size_t files = 0;        ///< Files that it changed or moved.
   std::uint64_t keptBytes = 0;  ///< What is kept for it, as if nothing were shared with the photos.
+  std::int64_t daysOfUse = 0;   ///< How many days the journal was used on since.
 };
 
 /// A file that could not be treated as asked.
@@ -71,7 +72,7 @@ struct TagWishes {
   std::vector<Tag> remove;  ///< None that is to be added.
 };
 
-/// What is kept at most, the latest steps first.
+/// What is kept at most, the latest steps first. Days are days of use: such on which the journal was opened.
 struct UndoLimits {
   static constexpr int kDefaultDays = 90;
   static constexpr std::uint64_t kDefaultBytes = std::uint64_t{5} << 30U;
@@ -131,6 +132,10 @@ class UndoJournal : public IUndo {
   /// The edit planned last did not happen: nothing is left of it, unless the photo says otherwise.
   void DropEdit();
 
+  /// Whether the originals of edits to come are kept, as they are at first. A step without them is given up
+  /// from its beginning: it cannot be taken back.
+  void KeepOriginals(bool keep);
+
   void BeginStep(const QString& name) override;
   /// A step without changes is forgotten.
   void EndStep() override;
@@ -149,8 +154,12 @@ class UndoJournal : public IUndo {
 
   /// All steps, the latest first.
   std::vector<UndoStep> Steps() const;
-  /// Forgets the oldest steps that are beyond the limits, with their originals. Returns how many.
-  std::size_t Prune(const UndoLimits& limits, const QDateTime& now);
+  /// Forgets the oldest steps that are beyond the limits, with their originals. Returns how many of them
+  /// could have been taken back.
+  std::size_t Prune(const UndoLimits& limits);
+  /// The same, but of what could be taken back only what is too old, and those that were announced
+  /// (`PlanRoom`): the others stay, whatever the limits say.
+  std::size_t Prune(const UndoLimits& limits, const std::vector<UndoStep>& announced);
 
  private:
   class Impl;

@@ -1,0 +1,149 @@
+#include "ChangeFixture.h"
+
+#include <QJsonArray>
+
+namespace Zenvora::Test {
+namespace {
+
+/// What edits do where the limit of what is kept for undo is reached.
+class UndoLimits : public ChangeTest {
+ protected:
+  /// A photo with so many bytes.
+  ioPath PhotoOf(const std::string& name, std::size_t bytes) const {
+    const ioPath photo = Photo(name);
+    const std::string content = ReadFile(photo);
+    EXPECT_LT(content.size(), bytes);
+    // Behind the end of the picture: an edit takes it along.
+    return tree.Write(photo, content + std::string(bytes - content.size(), '\n'));
+  }
+  void Limit(const QString& size) const { ASSERT_EQ(Run({"undo", "--keep-size", size}).exitCode, 0); }
+  QJsonArray Steps() const { return Run({"undo", "--list", "--json"}).Json()["steps"].toArray(); }
+
+  static constexpr std::size_t kBytes = 40'000;
+};
+
+TEST_F(UndoLimits, RefuseWhatDoesNotFitAlone) {
+  const std::string before = ReadFile(PhotoOf("a.jpg", kBytes));
+  PhotoOf("small.jpg", 20'000);
+  ASSERT_EQ(Run({"rotate", "right", "photos/small.jpg"}).exitCode, 0);
+  Limit("30K");
+  const Ran ran = Run({"rotate", "right", "photos/a.jpg"});
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_EQ(
+      ran.err,
+      "lumidex: error: Nothing was changed. To be taken back it needs 39 KiB of originals kept, and the "
+      "limit is 30 KiB. \"lumidex undo --keep-size 40K\" raises the limit; with --no-undo nothing is "
+      "kept, and it cannot be taken back.\n");
+  EXPECT_EQ(ReadFile(Photos() / "a.jpg"), before);
+  EXPECT_EQ(Steps().size(), 1);
+  const QJsonObject error = Run({"rotate", "--json", "right", "photos/a.jpg"}).Json();
+  EXPECT_EQ(error["kind"].toString(), QStringLiteral("undo-limit"));
+
+  // What was said is enough, and older steps stay as long as they can.
+  Limit("40K");
+  const Ran raised = Run({"rotate", "right", "--forget-older", "photos/a.jpg"});
+  EXPECT_EQ(raised.exitCode, 0) << raised.err;
+  EXPECT_EQ(raised.out,
+            "1 photo edited; \"lumidex undo\" takes it back.\n1 older step cannot be undone any more.\n");
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_EQ(ReadFile(Photos() / "a.jpg"), before);
+}
+
+TEST_F(UndoLimits, ForgetOlderStepsOnlyWhenTheyMay) {
+  PhotoOf("a.jpg", kBytes);
+  PhotoOf("b.jpg", kBytes);
+  ASSERT_EQ(Run({"rotate", "right", "photos/a.jpg"}).exitCode, 0);
+  Limit("60K");
+  const std::string before = ReadFile(Photos() / "b.jpg");
+  const Ran refused = Run({"shift-date", "+1h", "photos/b.jpg"});
+  EXPECT_EQ(refused.exitCode, 4);
+  EXPECT_THAT(
+      refused.err,
+      HasSubstr("Nothing was changed. --forget-older allows it. \"lumidex undo --keep-size 79K\" makes "
+                "room for all of them. To keep 39 KiB of originals within the limit of 60 KiB, undo "
+                "would have to forget 1 older step"));
+  EXPECT_THAT(refused.err, HasSubstr("  rotate right\n"));
+  EXPECT_EQ(ReadFile(Photos() / "b.jpg"), before);
+  EXPECT_EQ(Steps().size(), 1);
+
+  const Ran dry = Run({"shift-date", "--dry-run", "+1h", "photos/b.jpg"});
+  EXPECT_EQ(dry.exitCode, 0);
+  EXPECT_THAT(dry.out, HasSubstr("undo would have to forget 1 older step"));
+  const QJsonObject document = Run({"shift-date", "--dry-run", "--json", "+1h", "photos/b.jpg"}).Json();
+  const QJsonObject undo = document["undo"].toObject();
+  EXPECT_TRUE(undo["fits"].toBool());
+  EXPECT_TRUE(undo["keeps"].toBool());
+  EXPECT_EQ(undo["bytesNeeded"].toInt(), static_cast<int>(kBytes));
+  EXPECT_EQ(undo["bytesLimit"].toInt(), 60 * 1024);
+  ASSERT_EQ(undo["forgets"].toArray().size(), 1);
+  EXPECT_EQ(undo["forgets"].toArray()[0].toObject()["name"].toString(), QStringLiteral("rotate right"));
+
+  const QJsonObject done = Run({"shift-date", "--forget-older", "--json", "+1h", "photos/b.jpg"}).Json();
+  EXPECT_TRUE(done["canBeUndone"].toBool());
+  EXPECT_EQ(done["forgotten"].toInt(), 1);
+  ASSERT_EQ(Steps().size(), 1);
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_EQ(ReadFile(Photos() / "b.jpg"), before);
+}
+
+TEST_F(UndoLimits, AreTakenForWhatTheyAreByADryRun) {
+  PhotoOf("a.jpg", kBytes);
+  Limit("1K");
+  const Ran dry = Run({"rotate", "--dry-run", "left", "photos"});
+  EXPECT_EQ(dry.exitCode, 0);
+  EXPECT_THAT(dry.out, HasSubstr("It would be refused. To be taken back it needs 39 KiB of originals kept"));
+  EXPECT_FALSE(Run({"rotate", "--dry-run", "--json", "left", "photos"})
+                   .Json()["undo"]
+                   .toObject()["fits"]
+                   .toBool(true));
+  EXPECT_THAT(Run({"rotate", "--dry-run", "--no-undo", "left", "photos"}).out,
+              HasSubstr("Nothing would be kept: it could not be taken back."));
+}
+
+TEST_F(UndoLimits, DoNotMatterForWhatNeedsNoUndo) {
+  const ioPath photo = PhotoOf("a.jpg", kBytes);
+  Limit("1K");
+  const std::string before = ReadFile(photo);
+  const Ran ran = Run({"rotate", "--no-undo", "right", "photos"});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_THAT(ran.out, HasSubstr("edited; it cannot be undone."));
+  EXPECT_NE(ReadFile(photo), before);
+  EXPECT_EQ(Run({"undo"}).exitCode, 1);
+  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("given up"));
+  EXPECT_EQ(Run({"rotate", "--no-undo", "--forget-older", "right", "photos"}).exitCode, 2);
+}
+
+TEST_F(UndoLimits, LeaveStepsThatKeepNothingAlone) {
+  PhotoOf("a.jpg", kBytes);
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  tree.Write("config/lumidex/lumidex.ini", "[Undo]\nSize=1K\n");
+  // Nobody was asked, so nothing goes.
+  EXPECT_THAT(Rename("x").out, HasSubstr("takes it back"));
+  EXPECT_EQ(Steps().size(), 2);
+  const Ran both = Run({"undo", "--last", "2"});
+  EXPECT_EQ(both.exitCode, 0) << both.out;
+}
+
+TEST_F(UndoLimits, CountDaysOfUse) {
+  PhotoOf("a.jpg", kBytes);
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ASSERT_EQ(Run({"undo", "--keep-days", "2"}).exitCode, 0);
+  ChangeCatalogue(DefaultCatalogue(), "UPDATE steps SET begun = '1971-01-01T00:00:00Z'");
+  EXPECT_EQ(Rename("x").err, "");
+  ChangeCatalogue(DefaultCatalogue(), "UPDATE days_of_use SET count = 3");
+  const Ran later = Run({"rename", "--pattern", "y", "photos"});
+  EXPECT_EQ(later.exitCode, 0);
+  EXPECT_THAT(later.err, HasSubstr("2 steps cannot be undone any more: more than 2 days of use have passed since."));
+  EXPECT_EQ(Steps().size(), 1);
+}
+
+TEST_F(UndoLimits, ListStepsOfNoDate) {
+  PhotoOf("a.jpg", kBytes);
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ChangeCatalogue(DefaultCatalogue(), "UPDATE steps SET begun = ''");
+  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("unknown  rotate right"));
+  EXPECT_TRUE(Steps()[0].toObject()["begun"].isNull());
+}
+
+}  // namespace
+}  // namespace Zenvora::Test
