@@ -11,13 +11,23 @@ namespace Zenvora::Tavolin {
 /// harms nobody, and a server sees one request per user and week at the most.
 inline constexpr std::chrono::hours kFreshFor{7 * 24};
 
+/// A server that gave nothing is asked again after that time, not by every program started meanwhile.
+inline constexpr std::chrono::hours kAskAgainAfter{24};
+
 /// Long enough for a lost connection attempt to be repeated three times (after 1, 3 and 7 seconds on Linux),
 /// short enough that nobody takes the program for hung.
 inline constexpr std::chrono::seconds kStallTimeout{15};
 
-/// The largest body allowed takes about that long at 300 kbit/s; whoever is slower than that is served
-/// tomorrow.
+/// For a request that somebody wanted to be made now. The largest body allowed takes about that long at
+/// 300 kbit/s.
 inline constexpr std::chrono::minutes kTotalTimeout{2};
+
+/// For a request that nobody asked for, without a copy that could serve. Thirteen kilobytes need a second of
+/// it on a slow line.
+inline constexpr std::chrono::seconds kTotalTimeoutWithoutCopy{20};
+
+/// The same with a copy that serves anyhow. As long as a person bears a command that says nothing.
+inline constexpr std::chrono::seconds kTotalTimeoutWithCopy{5};
 
 /// Some three hundred times the calendar shipped today, and still harmless to hold in memory twice.
 inline constexpr qint64 kSizeLimit = qint64{4} * 1024 * 1024;

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <chrono>
 
 namespace Zenvora::Tavolin {
 
@@ -43,6 +44,14 @@ QString BaseFault(const QUrl& base) {
 
 QString Encoded(const QString& text) {
   return QString::fromLatin1(QUrl::toPercentEncoding(text));
+}
+
+bool IsYoungerThan(std::chrono::milliseconds limit, const QDateTime& moment, const QDateTime& now) {
+  if (!moment.isValid() || !now.isValid()) {
+    return false;
+  }
+  const qint64 age = moment.msecsTo(now);
+  return age >= 0 && age < limit.count();
 }
 
 }  // namespace
@@ -92,11 +101,11 @@ Address RedirectAddress(const QUrl& from, const QByteArray& location) {
 }
 
 bool IsFresh(const QDateTime& modified, const QDateTime& now) {
-  if (!modified.isValid() || !now.isValid()) {
-    return false;
-  }
-  const qint64 age = modified.msecsTo(now);
-  return age >= 0 && age < std::chrono::milliseconds(kFreshFor).count();
+  return IsYoungerThan(kFreshFor, modified, now);
+}
+
+bool WasAskedLately(const QDateTime& asked, const QDateTime& now) {
+  return IsYoungerThan(kAskAgainAfter, asked, now);
 }
 
 bool IsEtag(const QByteArray& text) {

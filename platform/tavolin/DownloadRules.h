@@ -31,6 +31,10 @@ Address RedirectAddress(const QUrl& from, const QByteArray& location);
 /// True when a copy of that age needs no request. A copy from the future has no known age.
 bool IsFresh(const QDateTime& modified, const QDateTime& now);
 
+/// True when the server was asked so short a time ago that it is left alone. A request from the future, which
+/// a clock that was put back leaves behind, counts for nothing.
+bool WasAskedLately(const QDateTime& asked, const QDateTime& now);
+
 /// True for an entity tag in its standard form (RFC 9110, 8.8.3) of bearable length.
 bool IsEtag(const QByteArray& text);
 

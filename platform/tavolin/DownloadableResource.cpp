@@ -54,7 +54,9 @@ class DownloadableResource::Impl {
   QString Apply(const DownloadReply& reply) const;
   QString ApplyBody(const DownloadReply& reply) const;
   QString ApplyNotModified() const;
-  App::DownloadRequest MakeRequest(const QUrl& url, const std::optional<ResourceStore::Copy>& copy) const;
+  QString CannotBeWritten(const QString& fault) const;
+  App::DownloadRequest MakeRequest(const QUrl& url, const std::optional<ResourceStore::Copy>& copy,
+                                   bool isWanted) const;
 
   QString name;
   QString format;
@@ -80,14 +82,15 @@ std::optional<ResourceStore::Copy> DownloadableResource::Impl::FindCopy(bool com
   return std::nullopt;
 }
 
-App::DownloadRequest DownloadableResource::Impl::MakeRequest(
-    const QUrl& url, const std::optional<ResourceStore::Copy>& copy) const {
+App::DownloadRequest DownloadableResource::Impl::MakeRequest(const QUrl& url,
+                                                             const std::optional<ResourceStore::Copy>& copy,
+                                                             bool isWanted) const {
   App::DownloadRequest request;
   request.url = url;
   request.etag = copy ? store.ReadEtag(url, copy->body) : QByteArray();
   request.sizeLimit = kSizeLimit;
   request.stallTimeout = kStallTimeout;
-  request.totalTimeout = kTotalTimeout;
+  request.totalTimeout = isWanted ? kTotalTimeout : copy ? kTotalTimeoutWithCopy : kTotalTimeoutWithoutCopy;
   request.redirectLimit = kRedirectLimit;
   return request;
 }
@@ -114,7 +117,15 @@ QString DownloadableResource::Impl::ApplyBody(const DownloadReply& reply) const 
     return QStringLiteral("the body is not valid: ") + fault;
   }
   fault = store.Write(flight ? flight->url : QUrl(), reply.body, reply.etag, App::GetCurrentDateTime());
-  return fault.isEmpty() ? QString() : QStringLiteral("%1 cannot be written: %2").arg(store.File(), fault);
+  if (!fault.isEmpty()) {
+    return CannotBeWritten(fault);
+  }
+  store.ForgetAsked();
+  return {};
+}
+
+QString DownloadableResource::Impl::CannotBeWritten(const QString& fault) const {
+  return QStringLiteral("%1 cannot be written: %2").arg(store.File(), fault);
 }
 
 QString DownloadableResource::Impl::ApplyNotModified() const {
@@ -128,7 +139,9 @@ QString DownloadableResource::Impl::ApplyNotModified() const {
   // Another process may have replaced the copy; the answer says nothing of that one.
   if (ResourceStore::Digest(flight->url, copy->body) == flight->conditionalOn) {
     const QString fault = store.Touch(App::GetCurrentDateTime());
-    if (!fault.isEmpty()) {
+    if (fault.isEmpty()) {
+      store.ForgetAsked();
+    } else {
       LOG(WARNING) << "The age of " << Utf8(store.File()) << " cannot be set: " << Utf8(fault);
     }
   }
@@ -190,7 +203,21 @@ void DownloadableResource::StartDownload(bool force) {
     Response(Failure(address.fault));
     return;
   }
-  const App::DownloadRequest request = impl_->MakeRequest(address.url, copy);
+  const QDateTime now = App::GetCurrentDateTime();
+  if (!force && WasAskedLately(impl_->store.LastAsked(address.url), now)) {
+    LOG(INFO) << Utf8(DisplayText(address.url))
+              << " gave nothing when it was asked last, less than a day ago; "
+              << (copy ? "the stored copy serves" : "there is no stored copy that could serve");
+    SetStatus(copy ? Status::Ready : Status::Failed);
+    return;
+  }
+  // Before the request: a program that is ended while it waits has asked, too.
+  const QString unmarked = impl_->store.MarkAsked(address.url, now);
+  if (!unmarked.isEmpty()) {
+    Response(Failure(impl_->CannotBeWritten(unmarked)));
+    return;
+  }
+  const App::DownloadRequest request = impl_->MakeRequest(address.url, copy, force);
   const auto flight = std::make_shared<Flight>();
   flight->url = address.url;
   flight->conditionalOn =

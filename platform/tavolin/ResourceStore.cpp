@@ -56,8 +56,9 @@ ResourceStore::ResourceStore(const QString& section, const QString& name, const 
   const ioPath folder = cache / "lumidex" / ioPath(section);
   const QString file = name + QLatin1Char('.') + format;
   file_ = (folder / ioPath(file)).qstring();
-  // No resource begins with a dot, so none can have this name.
+  // No resource begins with a dot, so none can have these names.
   etagFile_ = (folder / ioPath(QLatin1Char('.') + file + QStringLiteral(".etag"))).qstring();
+  askedFile_ = (folder / ioPath(QLatin1Char('.') + file + QStringLiteral(".asked"))).qstring();
 }
 
 ResourceStore::Lookup ResourceStore::Read() const {
@@ -97,15 +98,10 @@ QByteArray ResourceStore::ReadEtag(const QUrl& url, const QByteArray& body) cons
 
 QString ResourceStore::Write(const QUrl& url, const QByteArray& body, const QByteArray& etag,
                              const QDateTime& now) const {
-  if (file_.isEmpty()) {
-    return QStringLiteral("the user has no cache folder");
+  QString fault = MakeFolder();
+  if (fault.isEmpty()) {
+    fault = WriteWhole(file_, body, now);
   }
-  const ioPath folder = ioPath(file_).parent_path();
-  if (const std::error_code error = MakeFolders(folder)) {
-    return QStringLiteral("the folder %1 cannot be made: %2")
-        .arg(folder.qstring(), QString::fromStdString(ErrorText(error)));
-  }
-  QString fault = WriteWhole(file_, body, now);
   if (!fault.isEmpty()) {
     return fault;
   }
@@ -120,6 +116,37 @@ QString ResourceStore::Touch(const QDateTime& now) const {
   if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) ||
       !file.setFileTime(now, QFileDevice::FileModificationTime)) {
     return file.errorString();
+  }
+  return {};
+}
+
+QDateTime ResourceStore::LastAsked(const QUrl& url) const {
+  QFile file(askedFile_);
+  if (!QFileInfo(askedFile_).isFile() || !file.open(QIODevice::ReadOnly)) {
+    return {};
+  }
+  const QByteArray digest = Digest(url, {});
+  return file.read(digest.size() + 1) == digest ? file.fileTime(QFileDevice::FileModificationTime)
+                                                : QDateTime();
+}
+
+QString ResourceStore::MarkAsked(const QUrl& url, const QDateTime& now) const {
+  const QString fault = MakeFolder();
+  return fault.isEmpty() ? WriteWhole(askedFile_, Digest(url, {}), now) : fault;
+}
+
+void ResourceStore::ForgetAsked() const {
+  QFile::remove(askedFile_);
+}
+
+QString ResourceStore::MakeFolder() const {
+  if (file_.isEmpty()) {
+    return QStringLiteral("the user has no cache folder");
+  }
+  const ioPath folder = ioPath(file_).parent_path();
+  if (const std::error_code error = MakeFolders(folder)) {
+    return QStringLiteral("the folder %1 cannot be made: %2")
+        .arg(folder.qstring(), QString::fromStdString(ErrorText(error)));
   }
   return {};
 }

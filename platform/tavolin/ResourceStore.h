@@ -9,10 +9,12 @@
 
 namespace Zenvora::Tavolin {
 
-/// The stored copy of one resource, and beside it the entity tag that the server gave for it.
+/// The stored copy of one resource, beside it the entity tag that the server gave for it, and a mark while
+/// the server owes an answer.
 ///
 /// The tag is stored with a digest of the body and of the address it came from. A tag without its body (two
-/// writers at once, a crash between the two files, another server) is thus recognised and not used.
+/// writers at once, a crash between the two files, another server) is thus recognised and not used. The mark
+/// holds the digest of the address alone; its time is the file's.
 ///
 /// Thread-safety: every operation works on whole files; stores of one resource may be used from several
 /// threads and processes at once. Blocks on the disk. Throws nothing of its own: faults come back as texts.
@@ -44,12 +46,24 @@ class ResourceStore {
   /// Gives the copy the age of `now`. Returns why it could not.
   QString Touch(const QDateTime& now) const;
 
+  /// When `url` was asked last without success; not valid when it was not.
+  QDateTime LastAsked(const QUrl& url) const;
+  /// Remembers that `url` is asked at `now`. Returns why it could not; a copy could not be stored then
+  /// either.
+  QString MarkAsked(const QUrl& url, const QDateTime& now) const;
+  /// To be called when the server has answered: from now on the copy's age counts.
+  void ForgetAsked() const;
+
   /// What ties a tag to its body and address.
   static QByteArray Digest(const QUrl& url, const QByteArray& body);
 
  private:
+  /// Makes the folder of the files. Returns why it could not.
+  QString MakeFolder() const;
+
   QString file_;
   QString etagFile_;
+  QString askedFile_;
 };
 
 }  // namespace Zenvora::Tavolin

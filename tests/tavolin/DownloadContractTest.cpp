@@ -17,6 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kWeek = std::chrono::hours(7 * 24);
+constexpr auto kDay = std::chrono::hours(24);
 constexpr char kPath[] = "/files/holidayEvents/HolidayEvents.json";
 
 /// A network and the server at its other end.
@@ -182,6 +183,7 @@ TEST_P(DownloadContract, KeepsAResourceFresh) {
   world->Offer(Failed(QStringLiteral("why")));
   EXPECT_EQ(download(), Status::Failed);
 
+  PassTime(kDay);
   world->Offer(Fetched(Calendar("one"), "\"v1\""));
   EXPECT_EQ(download(), Status::Ready);
   EXPECT_EQ(StoredBody(), Calendar("one"));
@@ -198,10 +200,12 @@ TEST_P(DownloadContract, KeepsAResourceFresh) {
   EXPECT_EQ(download(), Status::Ready);
   EXPECT_EQ(StoredTime(), kept);
 
+  PassTime(kDay);
   world->Offer(Fetched("<html>", "\"v2\""));
   EXPECT_EQ(download(), Status::Ready);
   EXPECT_EQ(StoredBody(), Calendar("one"));
 
+  PassTime(kDay);
   world->Offer(Fetched(Calendar("two"), "\"v2\""));
   EXPECT_EQ(download(), Status::Ready);
   EXPECT_EQ(StoredBody(), Calendar("two"));
@@ -218,7 +222,7 @@ TEST_P(DownloadContract, GivesUpSilentlyWhenTheResourceIsDestroyed) {
     resource.StartDownload(false);
   }
   CalendarResource next;
-  next.StartDownload(false);
+  next.StartDownload(true);
   EXPECT_TRUE(world->RunUntil([&] { return !next.calls.all.empty(); }));
   EXPECT_TRUE(calls.all.empty());
 }

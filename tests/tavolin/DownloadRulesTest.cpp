@@ -122,6 +122,18 @@ TEST(DownloadRules, CallsACopyFreshForAWeek) {
   EXPECT_FALSE(IsFresh(written, {}));
 }
 
+TEST(DownloadRules, LeavesAServerAloneForADay) {
+  const QDateTime asked(QDate(2024, 2, 27), QTime(12, 0), Qt::UTC);
+  EXPECT_TRUE(WasAskedLately(asked, asked));
+  EXPECT_TRUE(WasAskedLately(asked, asked.addDays(1).addMSecs(-1)));
+  EXPECT_FALSE(WasAskedLately(asked, asked.addDays(1)));
+  EXPECT_FALSE(WasAskedLately(asked, asked.addYears(100)));
+  EXPECT_FALSE(WasAskedLately(asked, asked.addMSecs(-1)));
+  EXPECT_FALSE(WasAskedLately(asked, asked.addYears(-100)));
+  EXPECT_FALSE(WasAskedLately({}, asked));
+  EXPECT_FALSE(WasAskedLately(asked, {}));
+}
+
 TEST(DownloadRules, KnowsEntityTags) {
   for (const char* good : {"\"\"", "\"a\"", "W/\"a\"", "\"!#[]\\\"", "\"\xe4\""}) {
     EXPECT_TRUE(IsEtag(good)) << good;

@@ -30,6 +30,7 @@ using Zenvora::Test::IsSuperuser;
 using namespace std::chrono_literals;
 
 constexpr auto kWeek = std::chrono::hours(7 * 24);
+constexpr auto kDay = std::chrono::hours(24);
 
 void ExpectEnded(const CalendarResource& resource, Status status) {
   EXPECT_EQ(resource.GetStatus(), status);
@@ -173,8 +174,19 @@ TEST_F(ResourceTest, AsksForTheResourceWithinTheLimits) {
   EXPECT_EQ(request.etag, QByteArray());
   EXPECT_EQ(request.sizeLimit, 4 * 1024 * 1024);
   EXPECT_EQ(request.stallTimeout, 15s);
-  EXPECT_EQ(request.totalTimeout, 2min);
+  EXPECT_EQ(request.totalTimeout, 20s);
   EXPECT_EQ(request.redirectLimit, 5);
+}
+
+TEST_F(ResourceTest, WaitsLessWithACopyAndMoreForWhoeverWantsAnAnswer) {
+  StoreCopy(Calendar("old"), 2 * kWeek);
+  CalendarResource unasked;
+  unasked.StartDownload(false);
+  CalendarResource wanted;
+  wanted.StartDownload(true);
+  ASSERT_EQ(network->requests.size(), 2U);
+  EXPECT_EQ(network->requests[0].totalTimeout, 5s);
+  EXPECT_EQ(network->requests[1].totalTimeout, 2min);
 }
 
 TEST_F(ResourceTest, UsesAFreshCopyWithoutAsking) {
@@ -192,6 +204,7 @@ TEST_F(ResourceTest, AsksWhenTheCopyIsAWeekOldOrFromTheFuture) {
   for (const std::chrono::milliseconds age :
        {std::chrono::milliseconds(kWeek), std::chrono::milliseconds(50 * kWeek),
         std::chrono::milliseconds(-1s)}) {
+    PassTime(kDay);
     network->requests.clear();
     StoreCopy(Calendar("kept"), age);
     CalendarResource resource;
@@ -211,6 +224,7 @@ TEST_F(ResourceTest, AsksWheneverItIsForced) {
 
 TEST_F(ResourceTest, AsksWhenTheCopyIsBroken) {
   for (const char* broken : {"", "{", "[]", "{}", "{\"events\": []}"}) {
+    PassTime(kDay);
     network->requests.clear();
     StoreCopy(broken, 0h);
     const Zenvora::Test::LogCapture log;
@@ -250,6 +264,103 @@ TEST_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace) {
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, DoesNotWaitForAPipeInTheCopysPlace,
                               Zenvora::Test::kNoPipesInFolders);
 #endif
+
+// ---- How often is asked
+
+TEST_F(ResourceTest, AsksAServerThatGivesNothingOnceADay) {
+  for (const bool hasCopy : {false, true}) {
+    if (hasCopy) {
+      PassTime(kDay);
+      StoreCopy(Calendar("old"), 2 * kWeek);
+    }
+    network->requests.clear();
+    for (const auto pause : {0ms, 1ms, std::chrono::milliseconds(kDay) - 2ms}) {
+      PassTime(pause);
+      CalendarResource resource;
+      resource.StartDownload(false);
+      network->Answer(Failed(QStringLiteral("no")));
+      ExpectEnded(resource, hasCopy ? Status::Ready : Status::Failed);
+    }
+    EXPECT_EQ(network->requests.size(), 1U);
+    PassTime(1ms);
+    CalendarResource nextDay;
+    nextDay.StartDownload(false);
+    EXPECT_EQ(network->requests.size(), 2U);
+  }
+}
+
+TEST_F(ResourceTest, SaysInTheLogThatItDoesNotAskAgain) {
+  CalendarResource first;
+  first.StartDownload(false);
+  ASSERT_TRUE(network->Answer(Failed(QStringLiteral("no"))));
+  const Zenvora::Test::LogCapture log;
+  CalendarResource second;
+  second.StartDownload(false);
+  EXPECT_EQ(Warnings(log), "");
+  ASSERT_EQ(log.Lines(google::GLOG_INFO).size(), 1U);
+  EXPECT_NE(log.Lines(google::GLOG_INFO)[0].text.find(kAddress), std::string::npos);
+}
+
+// A clock that runs in another century for one run must not keep the server from being asked for good.
+TEST_F(ResourceTest, AsksWhenTheLastRequestIsFromAnotherClock) {
+  const QDateTime today = clock->now;
+  for (const QDateTime& wrong : {QDateTime(QDate(2100, 1, 1), QTime(0, 0)), today.addSecs(1),
+                                 QDateTime(QDate(1980, 1, 1), QTime(0, 0))}) {
+    clock->now = wrong;
+    CalendarResource before;
+    before.StartDownload(true);
+    ASSERT_TRUE(network->Answer(Failed(QStringLiteral("no"))));
+    network->requests.clear();
+
+    clock->now = today;
+    CalendarResource resource;
+    resource.StartDownload(false);
+    EXPECT_EQ(network->requests.size(), 1U) << wrong.toString().toStdString();
+    ASSERT_TRUE(network->Answer(Failed(QStringLiteral("no"))));
+    CalendarResource again;
+    again.StartDownload(false);
+    EXPECT_EQ(network->requests.size(), 1U) << "today's clock counts from now on";
+  }
+}
+
+TEST_F(ResourceTest, AsksAgainForWhoeverWantsItAndAtAnotherServer) {
+  CalendarResource first;
+  first.StartDownload(false);
+  ASSERT_TRUE(network->Answer(Failed(QStringLiteral("no"))));
+  CalendarResource wanted;
+  wanted.StartDownload(true);
+  EXPECT_EQ(network->requests.size(), 2U);
+  SetBaseUrl("http://other.test");
+  CalendarResource elsewhere;
+  elsewhere.StartDownload(false);
+  EXPECT_EQ(network->requests.size(), 3U);
+}
+
+TEST_F(ResourceTest, HasAskedAlsoWhenItIsEndedBeforeTheAnswer) {
+  { CalendarResource().StartDownload(false); }
+  CalendarResource next;
+  next.StartDownload(false);
+  ExpectEnded(next, Status::Failed);
+  EXPECT_EQ(network->requests.size(), 1U);
+}
+
+TEST_F(ResourceTest, AsksAtOnceForACopyThatWasRemoved) {
+  StoreCopyWithTag(Calendar("one"), "\"v1\"", 0h);
+  ASSERT_TRUE(QFile::remove(CopyName()));
+  CalendarResource resource;
+  resource.StartDownload(false);
+  EXPECT_EQ(network->requests.size(), 1U);
+}
+
+TEST_F(ResourceTest, AsksWhenTheMarkSaysNothing) {
+  for (const char* const content : {"", "not a digest"}) {
+    tree.Write("cache/lumidex/holidayEvents/.HolidayEvents.json.asked", content);
+    network->requests.clear();
+    CalendarResource resource;
+    resource.StartDownload(false);
+    EXPECT_EQ(network->requests.size(), 1U) << content;
+  }
+}
 
 // ---- Entity tags
 
@@ -478,7 +589,7 @@ TEST_F(ResourceTest, KeepsTheFormerCopyWhenTheBodyIsNotValid) {
 
     CalendarResource next;
     network->requests.clear();
-    next.StartDownload(false);
+    next.StartDownload(true);
     ASSERT_EQ(network->requests.size(), 1U);
     EXPECT_EQ(network->requests[0].etag, "\"v1\"");
   }
@@ -526,7 +637,7 @@ TEST_F(ResourceTest, LogsACauseAsAPartOfItsSentence) {
   for (const char* const cause : {"no route", "no route."}) {
     const Zenvora::Test::LogCapture log;
     CalendarResource resource;
-    resource.StartDownload(false);
+    resource.StartDownload(true);
     ASSERT_TRUE(network->Answer(Failed(QString::fromLatin1(cause))));
     EXPECT_NE(Warnings(log).find("failed: no route; "), std::string::npos) << Warnings(log);
   }
@@ -534,14 +645,17 @@ TEST_F(ResourceTest, LogsACauseAsAPartOfItsSentence) {
 
 // ---- A cache that cannot be written
 
-TEST_F(ResourceTest, FailsWhenTheCacheFolderCannotBeMade) {
+TEST_F(ResourceTest, AsksNobodyWhenTheAnswerCouldNotBeStored) {
   tree.Write("cache", "a file where the folder would be");
-  const Zenvora::Test::LogCapture log;
-  CalendarResource resource;
-  resource.StartDownload(false);
-  ASSERT_TRUE(network->Answer(Fetched(Calendar("new"))));
-  ExpectEnded(resource, Status::Failed);
-  EXPECT_NE(Warnings(log).find(CopyName().toStdString()), std::string::npos) << Warnings(log);
+  for (const bool force : {false, true}) {
+    const Zenvora::Test::LogCapture log;
+    CalendarResource resource;
+    resource.StartDownload(force);
+    ExpectEnded(resource, Status::Failed);
+    EXPECT_NE(Warnings(log).find(CopyName().toStdString() + " cannot be written"), std::string::npos)
+        << Warnings(log);
+  }
+  EXPECT_TRUE(network->requests.empty());
 }
 
 TEST_F(ResourceTest, FailsWhenAFolderStandsInTheCopysPlace) {
@@ -603,8 +717,8 @@ TEST_F(ResourceTest, ServesTheFormerCopyFromAFolderWithoutPermission) {
   const Zenvora::Test::LogCapture log;
   CalendarResource resource;
   resource.StartDownload(false);
-  ASSERT_TRUE(network->Answer(Fetched(Calendar("new"), "\"v2\"")));
   ExpectEnded(resource, Status::Ready);
+  EXPECT_TRUE(network->requests.empty());
   EXPECT_EQ(StoredBody(), Calendar("old"));
   EXPECT_NE(Warnings(log).find("cannot be written"), std::string::npos) << Warnings(log);
 }
@@ -631,7 +745,8 @@ TEST_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull) {
   EXPECT_EQ(StoredBody(), Calendar("old"));
   EXPECT_NE(Warnings(log).find("cannot be written"), std::string::npos) << Warnings(log);
   const QDir folder(QFileInfo(CopyName()).path());
-  EXPECT_EQ(folder.entryList(QDir::Files | QDir::Hidden).size(), 2);
+  // The copy, its tag, and the mark that the server was asked.
+  EXPECT_EQ(folder.entryList(QDir::Files | QDir::Hidden).size(), 3);
 }
 #else
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ResourceTest, ServesTheFormerCopyWhenTheDiskIsFull,
@@ -966,7 +1081,7 @@ TEST_F(ResourceTest, TellsDerivedClassesOfEveryStatusAndAnswer) {
   Observed resource;
   resource.StartDownload(false);
   ASSERT_TRUE(network->Answer(Failed(QStringLiteral("no"))));
-  resource.StartDownload(false);
+  resource.StartDownload(true);
   ASSERT_TRUE(network->Answer(Fetched(Calendar("new"))));
   EXPECT_EQ(resource.answers, 2);
   EXPECT_EQ(resource.statuses,

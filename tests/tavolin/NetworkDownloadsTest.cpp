@@ -637,6 +637,7 @@ TEST_F(RealResourceTest, KeepsTheCopyWhenTheTransferBreaks) {
   HttpAnswer chunked = announced;
   chunked.chunked = true;
   for (const HttpAnswer& answer : {announced, unannounced, chunked}) {
+    PassTime(std::chrono::hours(24));
     StoreCopy(Calendar("old"), std::chrono::hours(400));
     server.Answer("/files/holidayEvents/HolidayEvents.json", answer);
     const Zenvora::Test::LogCapture log;
@@ -647,6 +648,44 @@ TEST_F(RealResourceTest, KeepsTheCopyWhenTheTransferBreaks) {
     EXPECT_EQ(StoredBody(), Calendar("old"));
     EXPECT_NE(Warnings(log).find(server.BaseUrl().toStdString()), std::string::npos) << Warnings(log);
   }
+}
+
+/// The real network with a twentieth of the time.
+class HurriedDownloads : public App::IDownloads {
+ public:
+  std::unique_ptr<Pending> Fetch(const App::DownloadRequest& request, Done done) override {
+    constexpr int kHurry = 20;
+    App::DownloadRequest hurried = request;
+    hurried.stallTimeout /= kHurry;
+    hurried.totalTimeout /= kHurry;
+    return network_->Fetch(hurried, std::move(done));
+  }
+
+ private:
+  const std::shared_ptr<App::IDownloads> network_ = MakeNetworkDownloads();
+};
+
+TEST_F(RealResourceTest, LeavesAServerThatTricklesAndAsksItNoMoreThatDay) {
+  HttpAnswer answer = WithBody(Calendar("new"));
+  answer.endless = true;
+  answer.length = -2;
+  answer.pieceSize = 1;
+  answer.pause = std::chrono::milliseconds(5);
+  server.Answer("/files/holidayEvents/HolidayEvents.json", answer);
+  const App::ServiceScope<App::IDownloads> scope(std::make_shared<HurriedDownloads>());
+  StoreCopy(Calendar("old"), std::chrono::hours(400));
+  for (int run = 0; run < 3; ++run) {
+    const Zenvora::Test::LogCapture log;
+    CalendarResource resource;
+    resource.StartDownload(false);
+    ASSERT_TRUE(RunUntil([&] { return !resource.calls.all.empty(); }));
+    EXPECT_TRUE(resource.calls.all[0].ok);
+    EXPECT_EQ(StoredBody(), Calendar("old"));
+    EXPECT_EQ(Warnings(log).find("it took longer than 0.25 s") != std::string::npos, run == 0)
+        << Warnings(log);
+    PassTime(std::chrono::hours(7));
+  }
+  EXPECT_EQ(server.Requests().size(), 1U);
 }
 
 }  // namespace Zenvora::Tavolin

@@ -35,10 +35,10 @@ class ZENVORA_TAVOLIN_EXPORT IDownloadableResourceInfo {
 ///
 /// The address is `<base>/<section>/<name>.<format>`, the base URL from the settings (`App::SettingsKey`);
 /// without one no network is touched. The stored copy is `lumidex/<section>/<name>.<format>` in the user's
-/// cache folder, with its entity tag beside it. A body is stored only when it is valid for its format and
-/// section, and replaces the former copy in one step. A stored copy that is not valid does not serve.
-/// docs/decisions/downloads.md has the rules and figures. What goes wrong is logged as a warning; nothing
-/// here throws because of it.
+/// cache folder, with its entity tag, and while the server owes an answer the time of the request, beside it.
+/// A body is stored only when it is valid for its format and section, and replaces the former copy in one
+/// step. A stored copy that is not valid does not serve. docs/decisions/downloads.md has the rules and
+/// figures. What goes wrong is logged as a warning; nothing here throws because of it.
 ///
 /// The handler set by `SetDownloadHandler` runs exactly once for each `StartDownload`: inside it, or later
 /// from the event loop of the thread that called it, at the latest when the application quits or its object
@@ -65,9 +65,13 @@ class ZENVORA_TAVOLIN_EXPORT DownloadableResource : public IDownloadableResource
   void Init(const QString& name, const QString& format, const QString& section);
   void SetDownloadHandler(Handler handler);
   /// Makes the resource ready: from the stored copy when it is younger than a week, else from the server,
-  /// else from the stored copy whatever its age. `force`: asks the server whatever the copy's age. While a
-  /// download is under way a second call does nothing. Does not block on the network; blocks on the disk
-  /// while the stored copy is read.
+  /// else from the stored copy whatever its age. A server that gave nothing is asked again after a day, and
+  /// nobody is asked while the cache folder cannot be written. The answer is awaited for 5 seconds when a
+  /// copy can serve, else for 20.
+  ///
+  /// `force`, for somebody who wants an answer now: asks the server whatever the copy's age and whenever it
+  /// was asked last, and waits for up to two minutes. While a download is under way a second call does
+  /// nothing. Does not block on the network; blocks on the disk while the stored copy is read.
   void StartDownload(bool force);
 
   const QString& GetName() const override;
