@@ -70,6 +70,25 @@ TEST_F(FailingCommand, SuggestsWhatMayHaveBeenMeant) {
   EXPECT_THAT(Run({"frobnicate"}).err, Not(HasSubstr("did you mean")));
 }
 
+TEST_F(FailingCommand, SaysWhereAnOptionBelongs) {
+  EXPECT_THAT(Run({"--locale", "ja_JP", "albums"}).err,
+              HasSubstr("The option --locale belongs behind its command: lumidex albums --locale (see"));
+  EXPECT_THAT(Run({"--locale=ja_JP", "calendar", "show"}).err,
+              HasSubstr("belongs behind its command: lumidex calendar show --locale (see"));
+  EXPECT_THAT(
+      Run({"similar", "--locale", "ja_JP"}).err,
+      HasSubstr("There is no option --locale of \"similar\"; it belongs to: albums, calendar show (see"));
+  EXPECT_THAT(
+      Run({"--locale", "ja_JP"}).err,
+      HasSubstr("There is no option --locale in front of a command; it belongs to: albums, calendar show"));
+}
+
+TEST_F(FailingCommand, NamesAMistypedOptionBeforeTheOneThatIsMissing) {
+  EXPECT_THAT(Run({"rename", "--patern", "{date}", "a"}).err, HasSubstr("did you mean \"--pattern\"?"));
+  EXPECT_THAT(Run({"rename", "--dry", "a"}).err, HasSubstr("did you mean \"--dry-run\"?"));
+  EXPECT_THAT(Run({"scan", "extra word", "--frob"}).err, HasSubstr("There is no option --frob (see"));
+}
+
 TEST_F(FailingCommand, WritesItsFailureAsADocumentToo) {
   for (const QStringList& arguments :
        {QStringList{"--json"}, QStringList{"scan", "--json"}, QStringList{"frob", "--json"},

@@ -49,7 +49,15 @@ TEST_F(FindCommand, GoesByDatesInBothForms) {
   EXPECT_THAT(Found({"--date", "2023-06-02 - "}), ElementsAre("b.jpg"));
   EXPECT_THAT(Found({"--date", "3/1/15"}), ElementsAre("c.jpg"));
   EXPECT_THAT(Found({"--lang", "de_DE", "--date", "01.06.23 - 01.06.2023"}), ElementsAre("a.jpg"));
+  EXPECT_THAT(Found({"--date", "2023"}), ElementsAre("a.jpg", "b.jpg"));
+  EXPECT_THAT(Found({"--date", "2015-03"}), ElementsAre("c.jpg"));
+  EXPECT_THAT(Found({"--date", "2023-06-02 -"}), ElementsAre("b.jpg"));
+  EXPECT_THAT(Found({"--date", "- 2023-06-01"}), ElementsAre("c.jpg", "a.jpg"));
+  EXPECT_THAT(Found({"--date=- 2022"}), ElementsAre("c.jpg"));
   // How it was understood.
+  EXPECT_THAT(Run({"find", "--date", "2023"}).out, HasSubstr(", taken 2023-01-01 - 2023-12-31.\n"));
+  EXPECT_THAT(Run({"find", "--date", "2023-06 -"}).out, HasSubstr(", taken 2023-06-01 or later.\n"));
+  EXPECT_THAT(Run({"find", "--date", "- 2023-06"}).out, HasSubstr(", taken 2023-06-30 or earlier.\n"));
   EXPECT_THAT(Run({"find", "--date", "3/1/15"}).out, HasSubstr(", taken 2015-03-01.\n"));
 }
 
@@ -62,6 +70,7 @@ TEST_F(FindCommand, GoesByPlaceAlsoSouthOfTheEquator) {
 TEST_F(FindCommand, GoesByCameraTagAndText) {
   EXPECT_THAT(Found({"--camera", "no such"}), IsEmpty());
   EXPECT_THAT(Found({"--tag", "Flugzeug"}), ElementsAre("a.jpg"));
+  EXPECT_THAT(Found({"--tag", "Strand"}), ElementsAre("a.jpg"));
   EXPECT_THAT(Found({"--tag", "\u0421amera"}), IsEmpty());
   EXPECT_THAT(Found({"--tag", "jet", "--tag", "BEACH"}), ElementsAre("a.jpg"));
   EXPECT_THAT(Found({"--tag", "jet", "--tag", "Family"}), IsEmpty());

@@ -14,82 +14,8 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using Days = std::pair<QDate, QDate>;
-
-const QDate kToday(2026, 6, 15);
-
-std::optional<Days> Read(const char* text, const char* locale = "en_US") {
-  std::string fault;
-  const std::optional<Days> dates = ReadDates(QString::fromUtf8(text), locale, kToday, fault);
-  EXPECT_EQ(dates.has_value(), fault.empty()) << text;
-  return dates;
-}
-
-TEST(ReadingADateFilter, TakesTheStoredFormInEveryLanguage) {
-  for (const char* const locale : {"en_US", "de_DE", "ja_JP"}) {
-    EXPECT_EQ(Read("2015-03-01 - 2015-03-09", locale), Days(QDate(2015, 3, 1), QDate(2015, 3, 9)));
-    EXPECT_EQ(Read("2015-03-01", locale), Days(QDate(2015, 3, 1), QDate(2015, 3, 1)));
-  }
-}
-
-TEST(ReadingADateFilter, LeavesOneSideOpen) {
-  EXPECT_EQ(Read("2015-03-01 - "), Days(QDate(2015, 3, 1), QDate()));
-  EXPECT_EQ(Read(" - 2015-03-09"), Days(QDate(), QDate(2015, 3, 9)));
-  EXPECT_EQ(Read("01.03.15 - ", "de_DE"), Days(QDate(2015, 3, 1), QDate()));
-}
-
-TEST(ReadingADateFilter, TakesTheShownFormOfTheLanguage) {
-  const std::vector<std::pair<const char*, const char*>> rows = {
-      {"en_US", "3/1/15 - 3/9/15"},         {"de_DE", "01.03.15 - 09.03.15"},
-      {"es_ES", "1/3/15 - 9/3/15"},         {"fr_FR", "01/03/2015 - 09/03/2015"},
-      {"it_IT", "01/03/15 - 09/03/15"},     {"ja_JP", "2015/03/01 - 2015/03/09"},
-      {"nl_NL", "01-03-2015 - 09-03-2015"}, {"pt_BR", "01/03/2015 - 09/03/2015"},
-      {"ru_RU", "01.03.2015 - 09.03.2015"}};
-  for (const auto& [locale, text] : rows) {
-    EXPECT_EQ(Read(text, locale), Days(QDate(2015, 3, 1), QDate(2015, 3, 9))) << locale;
-  }
-  EXPECT_EQ(Read("1.3.2015", "de_DE"), Days(QDate(2015, 3, 1), QDate(2015, 3, 1)));
-  EXPECT_EQ(Read("3/1/2015", "en_US"), Days(QDate(2015, 3, 1), QDate(2015, 3, 1)));
-  EXPECT_EQ(Read("1/3/15", "fr_FR"), Days(QDate(2015, 3, 1), QDate(2015, 3, 1)));
-}
-
-TEST(ReadingADateFilter, TakesShortYearsForThoseOfTheLastHundred) {
-  EXPECT_EQ(Read("01.01.26", "de_DE")->first.year(), 2026);
-  EXPECT_EQ(Read("01.01.27", "de_DE")->first.year(), 1927);
-  EXPECT_EQ(Read("01.01.99", "de_DE")->first.year(), 1999);
-  EXPECT_EQ(Read("01.01.00", "de_DE")->first.year(), 2000);
-}
-
-TEST(ReadingADateFilter, RefusesWhatIsNoDateOrRunsBackwards) {
-  for (const char* const text :
-       {"", " - ", "yesterday", "2015", "2015-03", "2015-02-29", "2015-03-01 - x", "x - 2015-03-01",
-        "13/1/15", "3/1/015", "3/1/20155", "3/1", "3-1-15", "3/1/15/1", "/1/15", "03.01.15",
-        "2015-03-09 - 2015-03-01", "+3/1/15", "٣/١/١٥"}) {
-    EXPECT_EQ(Read(text), std::nullopt) << text;
-  }
-  // The order of another language.
-  EXPECT_EQ(Read("31/12/15", "en_US"), std::nullopt);
-  EXPECT_NE(Read("31/12/15", "es_ES"), std::nullopt);
-}
-
-TEST(ReadingADateFilter, PassesNothingOver) {
-  for (const char* const text :
-       {"2015-03-01..2015-03-09", "2015-03-01-2015-03-09", "2015-03-01 to 2015-03-09", "2015-03-01T10:00",
-        "2015-03-01x", "+200-03-01", "2015-03-01 - x - 2015-03-09", "2015-03-01 - 2015-03-09 - 2015-03-10",
-        "3/1/15 - 3/5/15 - 3/9/15"}) {
-    EXPECT_EQ(Read(text), std::nullopt) << text;
-  }
-}
-
-TEST(ReadingADateFilter, SaysWhatItNeeds) {
-  std::string fault;
-  ReadDates(QStringLiteral("soon"), "de_DE", kToday, fault);
-  EXPECT_THAT(fault, HasSubstr("2015-03-01 or 01.03.15, not \"soon\""));
-  ReadDates(QStringLiteral("2015-03-09 - 2015-03-01"), "de_DE", kToday, fault);
-  EXPECT_THAT(fault, HasSubstr("the first day before the last one"));
-}
 
 std::optional<PlaceBox> Box(const char* text) {
   std::string fault;

@@ -1,9 +1,14 @@
+#include "TagSynonyms.h"
+
+#include <host/LookAlikes.h>
 #include <host/TagDictionary.h>
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <optional>
 #include <ostream>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -99,6 +104,34 @@ TEST(WordsForTagging, NeverNameAutomaticTags) {
   EXPECT_EQ(Named("", "en_US"), std::nullopt);
 }
 
+TEST(WordsForTagging, LeaveAWordThatOnlyHelpsToFindAsItIs) {
+  EXPECT_EQ(Named("Beach", "en_US"), std::nullopt);
+  EXPECT_EQ(Named("Strand", "de_DE"), std::nullopt);
+}
+
+// A word of two things finds photos of both: only where languages leave no choice.
+TEST(Synonyms, HaveEachWordForOneThing) {
+  std::map<std::string, std::string> owners;
+  std::set<std::string> shared;
+  for (const TagSynonym& synonym : TagSynonyms()) {
+    std::set<QString> forms;
+    for (const char* const list : synonym) {
+      for (const QString& word : QString::fromUtf8(list).split(QLatin1Char(','))) {
+        EXPECT_FALSE(word.isEmpty()) << synonym[0];
+        EXPECT_EQ(word, word.simplified()) << synonym[0];
+        forms.insert(LookAlikeForm(word));
+      }
+    }
+    for (const QString& form : forms) {
+      if (!owners.emplace(form.toStdString(), synonym[0]).second) {
+        shared.insert(form.toStdString());
+      }
+    }
+  }
+  // The sea in German, a lake in Dutch.
+  EXPECT_EQ(shared, std::set<std::string>{"meer"});
+}
+
 TEST(WordsForTagging, AreUniqueInEachLanguage) {
   // Else the order of the dictionaries would decide what a word means.
   for (const char* const locale :
@@ -143,10 +176,18 @@ INSTANTIATE_TEST_SUITE_P(
         MeaningRow{"Flugzeug", Own("Plane"), true}, MeaningRow{"Plane", Own("Flugzeug"), true},
         MeaningRow{"собака", Own("dog"), true}, MeaningRow{"Beach", Own("beach"), true},
         MeaningRow{"CAFÉ", Own("Cafe"), true},
+        // Things that no dictionary names, in all languages and numbers.
+        MeaningRow{"Strand", Own("Beach"), true}, MeaningRow{"Beach", Own("playa"), true},
+        MeaningRow{"пляжи", Own("ビーチ"), true}, MeaningRow{"Hochzeit", Own("Wedding"), true},
+        // And in those that a dictionary does not speak.
+        MeaningRow{"Hund", Automatic("Dog"), true}, MeaningRow{"puppies", Own("Hund"), true},
+        MeaningRow{"Schnee", Own("Snow"), true}, MeaningRow{"Snow", Icon("snow"), true},
         // Not others.
-        MeaningRow{"Jet", Automatic("Bird"), false}, MeaningRow{"Beach", Own("Beaches"), false},
-        MeaningRow{"Plane", Own("Plan"), false}, MeaningRow{"Dog", Automatic("Hot dog"), false},
-        MeaningRow{"", Icon("plane"), false}, MeaningRow{"Plane", System("Travel"), false},
+        MeaningRow{"Strand", Icon("palm"), false}, MeaningRow{"Strand", Own("Sea"), false},
+        MeaningRow{"Strand", Own("Strandbad"), false}, MeaningRow{"Jet", Automatic("Bird"), false},
+        MeaningRow{"Beach", Own("Beach house"), false}, MeaningRow{"Plane", Own("Plan"), false},
+        MeaningRow{"Dog", Automatic("Hot dog"), false}, MeaningRow{"", Icon("plane"), false},
+        MeaningRow{"Plane", System("Travel"), false},
         MeaningRow{"Airplane,Plane", Automatic("Airplane"), false}));
 
 }  // namespace

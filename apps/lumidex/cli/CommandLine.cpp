@@ -192,6 +192,24 @@ std::size_t EditDistance(const std::string& left, const std::string& right) {
   return row.back();
 }
 
+/// The only name that goes on where `wrong` ends ("--dry" of "--dry-run"), or the other way round; else
+/// empty.
+std::string NameWithSameStart(const std::string& wrong, const std::vector<std::string>& known) {
+  constexpr std::size_t kLeast = 3;
+  std::string found;
+  for (const std::string& name : known) {
+    const std::size_t length = std::min(name.size(), wrong.size());
+    if (length < kLeast || name.compare(0, length, wrong, 0, length) != 0) {
+      continue;
+    }
+    if (!found.empty() && found != name) {
+      return {};
+    }
+    found = name;
+  }
+  return found;
+}
+
 std::string Suggestion(const std::string& wrong, const std::vector<std::string>& known) {
   constexpr std::size_t kTypingErrors = 2;
   std::string best;
@@ -202,6 +220,9 @@ std::string Suggestion(const std::string& wrong, const std::vector<std::string>&
       least = distance;
       best = name;
     }
+  }
+  if (best.empty()) {
+    best = NameWithSameStart(wrong, known);
   }
   return best.empty() ? "" : "; did you mean \"" + best + "\"?";
 }
@@ -254,17 +275,56 @@ const CLI::App& GivenCommand(const CLI::App& command) {
   ThrowUsage(command, "There is no command \"" + word + '"' + Suggestion(word, NamesOfCommands(command)));
 }
 
+bool HasOption(const CLI::App& command, const std::string& name) {
+  const std::vector<std::string> names = NamesOfOptions(command);
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// The commands below that have the option, by their names.
+std::vector<std::string> CommandsWith(const std::string& option, const CLI::App& command) {
+  std::vector<std::string> names;
+  for (const CLI::App* const sub : command.get_subcommands({})) {
+    const std::vector<std::string> below = CommandsWith(option, *sub);
+    names.insert(names.end(), below.begin(), below.end());
+    if (sub->get_subcommands({}).empty() && HasOption(*sub, option)) {
+      names.push_back(NameOf(*sub));
+    }
+  }
+  return names;
+}
+
+/// What a word that begins with a dash could have meant.
+[[noreturn]] void ThrowNoOption(const CLI::App& program, const CLI::App& command, const std::string& word) {
+  const std::string option = word.substr(0, word.find('='));
+  const std::string name = NameOf(command);
+  if (HasOption(command, option)) {
+    ThrowUsage(command,
+               "The option " + option + " belongs behind its command: lumidex " + name + ' ' + option);
+  }
+  const std::vector<std::string> others = CommandsWith(option, program);
+  const std::string fault = name.empty() ? "There is no option " + word + " in front of a command"
+                                         : "There is no option " + word + " of \"" + name + '"';
+  ThrowUsage(command, others.empty()
+                          ? "There is no option " + word + Suggestion(option, NamesOfOptions(command))
+                          : fault + "; it belongs to: " + CLI::detail::join(others, ", "));
+}
+
+void CheckLeftOverOption(const CLI::App& program) {
+  for (const std::string& word : program.remaining(true)) {
+    const std::string plain = Unmarked(word);
+    if (plain.size() > 1 && plain.front() == '-' && !IsVerbatim(word)) {
+      ThrowNoOption(program, GivenCommand(program), plain);
+    }
+  }
+}
+
 void CheckLeftOvers(const CLI::App& program) {
+  CheckLeftOverOption(program);
   const std::vector<std::string> left = program.remaining(true);
   const CLI::App& command = GivenCommand(program);
   const bool wantsCommand = !command.get_subcommands({}).empty();
   if (!left.empty()) {
     const std::string first = Unmarked(left.front());
-    const bool isOption = first.size() > 1 && first.front() == '-' && !IsVerbatim(left.front());
-    if (isOption) {
-      ThrowUsage(command, "There is no option " + first +
-                              Suggestion(first.substr(0, first.find('=')), NamesOfOptions(command)));
-    }
     if (wantsCommand) {
       ThrowNoCommand(command, first);
     }
@@ -337,6 +397,10 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     std::string text = error.what();
     const std::size_t colon = text.find(": ");
     ThrowUsage(GivenCommand(*program), colon == std::string::npos ? text : text.erase(colon, 1));
+  } catch (const CLI::RequiredError& error) {
+    // "--patern x" is why --pattern is missing.
+    CheckLeftOverOption(*program);
+    ThrowUsage(GivenCommand(*program), WithoutPeriod(error.what()));
   } catch (const CLI::ParseError& error) {
     ThrowUsage(GivenCommand(*program), WithoutPeriod(error.what()));
   }

@@ -5,6 +5,7 @@
 #include "Options.h"
 
 #include <host/Catalogue.h>
+#include <host/DateFilter.h>
 #include <host/PhotoSearch.h>
 
 #include <zenvora/app/Application.h>
@@ -24,18 +25,23 @@ constexpr char kDescription[] =
     "Case, accents and letters that look alike make no difference.";
 
 constexpr char kFooter[] =
-    R"(DATES is a day or two with " - " between them: "2015-03-01 - 2015-03-09",
-2015-03-01, or "2015-03-01 - " for that day and all later ones; also in the
-short form of the interface language, such as 3/1/2015 or 01.03.15. A year of
-two digits is the latest one up to this year.
+    R"(DATES is a year, a month or a day: 2015, 2015-03, 2015-03-01; or two of them
+with " - " between them: "2015-03-01 - 2015-03-09". One may be left out:
+"2015-03 -" is that month and all later ones. A day can also be in the short
+form of the interface language, such as 3/1/2015 or 01.03.15; a year of two
+digits is the latest one up to this year.
 
 TAG is a word in any of the nine languages: --tag Flugzeug and --tag jet find
-photos with the tag Plane, too. BOX is SOUTH,WEST,NORTH,EAST in degrees; it
-runs over the date line when WEST is greater than EAST. TEXT is a part of the
-file's path, of the camera's name or of a tag.
+photos with the tag Plane, --tag Strand those with a tag Beach of your own. A
+word that is not known is found as it is written.
+
+BOX is SOUTH,WEST,NORTH,EAST in degrees; it runs over the date line when WEST
+is greater than EAST. TEXT is a part of the file's path, of the camera's name
+or of a tag.
 
 Examples:
   lumidex find --date "2023-06-01 - 2023-08-31" --tag Beach
+  lumidex find --date 2023-12 --text Canon
   lumidex find --camera "EOS 80D" --place 48.8,2.2,48.9,2.5
   lumidex find --text trip --tag Family --tag Travel
   lumidex find --tag Screenshot --paths | xargs -d '\n' ls -l

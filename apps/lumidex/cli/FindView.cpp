@@ -42,6 +42,24 @@ void WriteDates(JsonWriter& json, const FindView& view) {
   json.EndObject();
 }
 
+/// With the days, for they show how a short date was understood.
+std::string CountText(const FindView& view) {
+  const int amount = Amount(view.photos);
+  const std::pair<QDate, QDate> dates = view.dates.value_or(std::pair<QDate, QDate>());
+  QString text = Words::tr("%1 of %2 photos.", "found, searched", amount);
+  if (dates.first.isValid() && dates.second.isValid()) {
+    text = Words::tr("%1 of %2 photos, taken %3.", "found, searched, dates", amount);
+  } else if (dates.first.isValid()) {
+    text = Words::tr("%1 of %2 photos, taken %3 or later.", "found, searched, date", amount);
+  } else if (dates.second.isValid()) {
+    text = Words::tr("%1 of %2 photos, taken %3 or earlier.", "found, searched, date", amount);
+  }
+  const QDate open = dates.first.isValid() ? dates.first : dates.second;
+  const bool isOpen = dates.first.isValid() != dates.second.isValid();
+  return Say(text, {GroupDigits(view.rows.size()), GroupDigits(view.photos),
+                    SearchHelper::GetDatesStr(isOpen ? std::pair(open, open) : dates).toStdString()});
+}
+
 }  // namespace
 
 std::string FindDocument(const FindView& view) {
@@ -78,14 +96,7 @@ std::string FindText(const FindView& view) {
     }
     text = table.Text() + '\n';
   }
-  const int amount = Amount(view.photos);
-  // How a short date was understood.
-  const std::string dates = view.dates ? SearchHelper::GetDatesStr(*view.dates).toStdString() : std::string();
-  return text +
-         Say(view.dates ? Words::tr("%1 of %2 photos, taken %3.", "found, searched, dates", amount)
-                        : Words::tr("%1 of %2 photos.", "found, searched", amount),
-             {GroupDigits(view.rows.size()), GroupDigits(view.photos), dates}) +
-         '\n';
+  return text + CountText(view) + '\n';
 }
 
 std::string FindPaths(const FindView& view) {

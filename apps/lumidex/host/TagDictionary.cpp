@@ -1,3 +1,5 @@
+#include "TagSynonyms.h"
+
 #include <LumidexUtil/Resource.h>
 #include <host/HostError.h>
 #include <host/LookAlikes.h>
@@ -8,6 +10,8 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -15,6 +19,10 @@ namespace {
 
 constexpr char kEnglish[] = "en_US";
 constexpr char kRussian[] = "ru_RU";
+
+/// As `TagSynonym` orders them.
+constexpr std::array kLocales = {kEnglish, "de_DE", "es_ES", "fr_FR", "it_IT",
+                                 "ja_JP",  "nl_NL", "pt_BR", kRussian};
 
 QJsonObject ReadJson(const QString& path) {
   QFile file(path);
@@ -68,6 +76,7 @@ TagDictionary::TagDictionary() {
   Read(TagType::System, Util::Resource::GetName(Util::Resource::SysTagTr));
   Read(TagType::Icon, Util::Resource::GetName(QStringLiteral("IconTag")));
   Read(TagType::Automatic, Util::Resource::GetName(Util::Resource::AutoTag));
+  TakeSynonyms();
 }
 
 void TagDictionary::Read(TagType type, const QString& name) {
@@ -78,18 +87,31 @@ void TagDictionary::Read(TagType type, const QString& name) {
     entry.forms.insert(LookAlikeForm(member.key()));
     const QJsonObject texts = member.value().toObject();
     for (auto text = texts.begin(); text != texts.end(); ++text) {
-      const std::string locale = text.key().toStdString();
-      const QStringList words = text.value().toString().split(QLatin1Char(','));
-      for (const QString& word : words) {
-        entry.forms.insert(LookAlikeForm(word));
-        if (locale == kEnglish || locale == kRussian) {
-          entry.bridges.insert(LookAlikeForm(word));
-        }
-      }
-      entry.words.emplace(locale, words);
+      entry.Take(text.key().toStdString(), text.value().toString());
     }
     entries_.push_back(std::move(entry));
   }
+}
+
+void TagDictionary::TakeSynonyms() {
+  for (const TagSynonym& synonym : TagSynonyms()) {
+    Entry entry;
+    for (std::size_t i = 0; i < kLocales.size(); ++i) {
+      entry.Take(kLocales[i], QString::fromUtf8(synonym[i]));
+    }
+    entries_.push_back(std::move(entry));
+  }
+}
+
+void TagDictionary::Entry::Take(const std::string& locale, const QString& list) {
+  const QStringList taken = list.split(QLatin1Char(','));
+  for (const QString& word : taken) {
+    forms.insert(LookAlikeForm(word));
+    if (locale == kEnglish || locale == kRussian) {
+      bridges.insert(LookAlikeForm(word));
+    }
+  }
+  words.emplace(locale, taken);
 }
 
 const TagDictionary::Entry* TagDictionary::Find(const Tag& tag) const {
@@ -112,7 +134,7 @@ std::optional<Tag> TagDictionary::Named(const QString& word, const std::string& 
   const QString form = LookAlikeForm(word);
   const auto find = [this](const auto& fits) -> std::optional<Tag> {
     for (const Entry& entry : entries_) {
-      if (entry.tag.type != TagType::Automatic && fits(entry)) {
+      if (entry.tag && entry.tag->type != TagType::Automatic && fits(entry)) {
         return entry.tag;
       }
     }
@@ -128,26 +150,30 @@ std::optional<Tag> TagDictionary::Named(const QString& word, const std::string& 
       return tag;
     }
   }
-  return find([&form](const Entry& entry) { return LookAlikeForm(entry.tag.name) == form; });
+  return find([&form](const Entry& entry) { return LookAlikeForm(entry.tag->name) == form; });
 }
 
 TagMeaning TagDictionary::MeaningOf(const QString& word) const {
   TagMeaning meaning;
+  const auto take = [&meaning](const Entry& entry) {
+    if (entry.tag) {
+      meaning.tags.insert(*entry.tag);
+    }
+    meaning.words.insert(entry.forms.begin(), entry.forms.end());
+  };
   const QString form = LookAlikeForm(word);
   meaning.words.insert(form);
   std::set<QString> bridges;
   for (const Entry& entry : entries_) {
     if (entry.forms.count(form) > 0) {
-      meaning.tags.insert(entry.tag);
-      meaning.words.insert(entry.forms.begin(), entry.forms.end());
+      take(entry);
       bridges.insert(entry.bridges.begin(), entry.bridges.end());
     }
   }
   // One step only: from word to word one would get anywhere.
   for (const Entry& entry : entries_) {
     if (Share(entry.bridges, bridges)) {
-      meaning.tags.insert(entry.tag);
-      meaning.words.insert(entry.forms.begin(), entry.forms.end());
+      take(entry);
     }
   }
   return meaning;

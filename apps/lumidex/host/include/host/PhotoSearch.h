@@ -42,14 +42,8 @@ using TagsOfPhotos = std::unordered_map<std::string, std::vector<Tag>>;
 std::vector<const PhotoRecord*> FindPhotos(const std::vector<PhotoRecord>& photos, const TagsOfPhotos& tags,
                                            const PhotoFilter& filter, const std::string& locale);
 
-/// Reads a date filter: first the form that is stored ("2015-03-01 - 2015-03-09", "2015-03-01"; one date of
-/// two may be left out), then the one that is shown in the language `locale` ("01.03.2015 - 09.03.2015").
-/// Years of two digits are the latest ones up to that of `today`. None, with the fault in English to be put
-/// behind "needs", when it is neither, or begins after its end. Pure.
-std::optional<std::pair<QDate, QDate>> ReadDates(const QString& text, const std::string& locale,
-                                                 const QDate& today, std::string& fault);
-
-/// Reads "SOUTH,WEST,NORTH,EAST" in degrees; the fault as above. Pure.
+/// Reads "SOUTH,WEST,NORTH,EAST" in degrees. None, with the fault in English to be
+/// put behind "needs", when it is something else. Pure.
 std::optional<PlaceBox> ReadPlaceBox(const QString& text, std::string& fault);
 
 }  // namespace Zenvora::Lumidex::Host

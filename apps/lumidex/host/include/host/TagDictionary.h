@@ -21,7 +21,8 @@ struct TagMeaning {
   bool Includes(const Tag& tag) const;
 };
 
-/// The words of the dictionaries that the library carries: docs/formats/dictionaries.md.
+/// The words of the dictionaries that the library carries (docs/formats/dictionaries.md), and words for
+/// further things that people tag.
 ///
 /// Words are compared by `LookAlikeForm`. Thread-safety: nothing changes once it is made; any thread.
 class TagDictionary {
@@ -39,19 +40,24 @@ class TagDictionary {
   std::optional<Tag> Named(const QString& word, const std::string& locale) const;
 
   /// All that the word may mean in any language: the tags that it names, those that share an English or a
-  /// Russian word with one of these, and the words of all of them.
+  /// Russian word with one of these, and the words of all of them. A word of another thing that people tag
+  /// ("Strand") means own tags with the words for it in the other languages ("Beach").
   TagMeaning MeaningOf(const QString& word) const;
 
  private:
   struct Entry {
-    Tag tag;
+    std::optional<Tag> tag;                    ///< None: words that mean the same, and no tag.
     std::map<std::string, QStringList> words;  ///< By locale; the first is the name.
     std::set<QString> forms;                   ///< Of all words and the key.
     std::set<QString> bridges;                 ///< Of the English and Russian words.
+
+    /// The words of a language, separated by commas.
+    void Take(const std::string& locale, const QString& list);
   };
 
   TagDictionary();
   void Read(TagType type, const QString& name);
+  void TakeSynonyms();
   const Entry* Find(const Tag& tag) const;
 
   std::vector<Entry> entries_;
