@@ -1,4 +1,6 @@
+#include "DetachedWork.h"
 #include "DownloadRules.h"
+#include "HostLookup.h"
 
 #include <zenvora/app/IDownloads.h>
 #include <zenvora/tavolin/NetworkDownloads.h>
@@ -7,6 +9,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -90,7 +93,10 @@ class Transfer : public App::IDownloads::Pending {
   Transfer& operator=(const Transfer&) = delete;
 
  private:
+  /// Looks the host up first. Qt would do that on a thread that it waits for when the application ends: name
+  /// servers that say nothing would hold the program long after the request was given up.
   void Ask(const QUrl& url);
+  void AskHost(const QUrl& url);
   void DropReply();
   void Settle(DownloadReply reply);
   void Fail(const QString& error) { Settle(Failure(error)); }
@@ -114,8 +120,10 @@ class Transfer : public App::IDownloads::Pending {
   int redirects_ = 0;
   bool headersSeen_ = false;
   bool settled_ = false;
-  // Last, so that it goes first: no slot runs while the rest is destroyed.
+  // Behind the rest, so that it goes before it: no slot runs while the rest is destroyed.
   QObject here_;
+  // Delivers to `here_`.
+  std::unique_ptr<DetachedWork> lookup_;
 };
 
 Transfer::Transfer(const DownloadRequest& request, App::IDownloads::Done done)
@@ -143,6 +151,27 @@ Transfer::~Transfer() {
 }
 
 void Transfer::Ask(const QUrl& url) {
+  RestartStallTimer();
+  const QString host = url.host();
+  if (!QHostAddress(host).isNull()) {
+    AskHost(url);
+    return;
+  }
+  lookup_ = std::make_unique<DetachedWork>(
+      here_, [name = QUrl::toAce(host)] { return FindHostFault(name); },
+      [this, url, host](const QString& fault) {
+        if (settled_) {
+          return;
+        }
+        if (fault.isEmpty()) {
+          AskHost(url);
+        } else {
+          Fail(QStringLiteral("the host %1 is not found: %2").arg(host, fault));
+        }
+      });
+}
+
+void Transfer::AskHost(const QUrl& url) {
   headersSeen_ = false;
   reply_ = manager_.get(MakeRequest(url, request_.etag));
   reply_->setReadBufferSize(kReadBuffer);

@@ -327,6 +327,25 @@ TEST_F(NetworkDownloadsTest, DoesNotUnpackWhatItDidNotAskToBePacked) {
 
 // ---- Connections that fail
 
+TEST_F(NetworkDownloadsTest, FindsHostsByTheirNames) {
+  server.Answer("/a", WithBody("body"));
+  auto request = Request("/a");
+  request.url.setHost(QStringLiteral("localhost"));
+  const App::DownloadReply reply = Fetch(request);
+  EXPECT_EQ(reply.outcome, Outcome::Fetched) << reply.error.toStdString();
+  EXPECT_EQ(reply.body, "body");
+}
+
+TEST_F(NetworkDownloadsTest, NamesAHostThatIsNotFound) {
+  auto request = Request("/a");
+  // Longer than any name can be: no name server is asked.
+  const QString host =
+      (QString(60, QLatin1Char('a')) + QLatin1Char('.')).repeated(5) + QStringLiteral("invalid");
+  request.url = QUrl(QStringLiteral("http://") + host + QStringLiteral("/a"));
+  ASSERT_TRUE(request.url.isValid());
+  ExpectFailure(Fetch(request), "the host " + host.toStdString() + " is not found");
+}
+
 TEST_F(NetworkDownloadsTest, FailsWhenNobodyListens) {
   auto request = Request("/a");
   {
