@@ -241,8 +241,8 @@ void RequireFolder(const ioPath& folder) {
     throw Failure("no-folder", "There is no folder " + folder.utf8string() + ".");
   }
   if (state.error) {
-    throw Failure("no-folder",
-                  "There is no folder " + folder.utf8string() + " (" + ErrorText(state.error) + ").");
+    // It may well be there.
+    throw Failure("no-folder", folder.utf8string() + " cannot be reached: " + ErrorText(state.error) + ".");
   }
 }
 
