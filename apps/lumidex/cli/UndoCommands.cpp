@@ -208,7 +208,7 @@ CLI::Validator Size() {
 }
 
 CLI::Option* AddLast(CLI::App& command, UndoArguments& arguments) {
-  return command.add_option("--last", arguments.last, "So many steps, 1 to 1000. Usual: 1.")
+  return command.add_option("--last", arguments.last, "So many steps, 1 to 1000. Default: 1.")
       ->option_text("N")
       ->check(WholeNumber(1, kMostSteps));
 }
