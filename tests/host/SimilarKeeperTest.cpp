@@ -114,10 +114,105 @@ TEST(SimilarKeeper, NeedsNoReasonWhenItIsAlone) {
   EXPECT_THAT(choice.reasons, IsEmpty());
 }
 
+/// As a camera wrote it.
+SimilarMember Original(const std::string& name) {
+  SimilarMember member = Taken(name, QDate(2021, 1, 1), DateSource::Original);
+  member.photo.camera = QStringLiteral("Model X");
+  PhotoOrigin origin;
+  origin.cameraTags = true;
+  origin.makerNote = true;
+  origin.quantisation = 4;
+  origin.bytesPerPixel = 0.5;
+  member.origin = origin;
+  return member;
+}
+
+KeeperChoice AgainstOriginal(const SimilarMember& copy) {
+  return SuggestKeeper({copy, Original("z")});
+}
+
+TEST(SimilarKeeper, IsTheCamerasFileAndNotASharperOrLargerCopy) {
+  SimilarMember stripped = Sized("a", 400, 300);
+  stripped.features.sharpness = 99;
+  stripped.origin = PhotoOrigin();
+  const KeeperChoice choice = AgainstOriginal(stripped);
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::CameraFile));
+}
+
+TEST(SimilarKeeper, IsNoCopyThatKeptTheCamerasData) {
+  SimilarMember enlarged = Original("a");
+  enlarged.features.width = 400;
+  enlarged.features.height = 300;
+  enlarged.origin->sizeAsTold = false;
+  EXPECT_EQ(AgainstOriginal(enlarged).index, 1U);
+  SimilarMember edited = Original("a");
+  edited.origin->edited = true;
+  EXPECT_THAT(AgainstOriginal(edited).reasons, ElementsAre(KeeperReason::CameraFile));
+  SimilarMember noteless = Original("a");
+  noteless.features.width = 400;
+  noteless.origin->makerNote = false;
+  EXPECT_THAT(AgainstOriginal(noteless).reasons, ElementsAre(KeeperReason::MakerNote));
+  SimilarMember written = Original("a");
+  written.features.sharpness = 99;
+  written.origin->quantisation = 1;
+  written.origin->hasJfif = true;
+  EXPECT_THAT(AgainstOriginal(written).reasons, ElementsAre(KeeperReason::LeastTouched));
+  SimilarMember coarse = Original("a");
+  coarse.features.sharpness = 99;
+  coarse.origin->quantisation = 20;
+  EXPECT_THAT(AgainstOriginal(coarse).reasons, ElementsAre(KeeperReason::Finer));
+}
+
+TEST(SimilarKeeper, ComparesBytesAndNamesWhereNothingElseDiffers) {
+  SimilarMember thin = Original("a");
+  thin.origin->bytesPerPixel = 0.3;
+  EXPECT_THAT(AgainstOriginal(thin).reasons, ElementsAre(KeeperReason::MoreBytes));
+  SimilarMember named = Original("zz");
+  named.origin->cameraName = true;
+  const KeeperChoice choice = SuggestKeeper({Original("a"), named});
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::CameraName));
+}
+
+TEST(SimilarKeeper, IsTheSharpestOfABurst) {
+  SimilarMember sharp = Original("b");
+  sharp.features.sharpness = 12;
+  // Cameras adapt a little to each shot.
+  sharp.origin->quantisation = 4.2;
+  const KeeperChoice choice = SuggestKeeper({Original("a"), sharp});
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::Sharpest));
+}
+
+TEST(SimilarKeeper, IsNeverDegraded) {
+  SimilarMember copy = Sized("a", 4, 3);
+  SimilarMember broken = Original("z");
+  broken.origin->degradation = "it breaks off";
+  const KeeperChoice choice = SuggestKeeper({broken, copy});
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::Whole));
+}
+
+TEST(SimilarKeeper, IsAnyOfDegradedOnesWhenThereIsNoOther) {
+  SimilarMember broken = Original("z");
+  broken.origin->degradation = "it breaks off";
+  SimilarMember copy = broken;
+  copy.origin->makerNote = false;
+  EXPECT_EQ(SuggestKeeper({copy, broken}).index, 1U);
+}
+
 TEST(SimilarKeeper, NamesItsReasons) {
-  EXPECT_STREQ(KeeperReasonName(KeeperReason::Largest), "largest");
-  EXPECT_STREQ(KeeperReasonName(KeeperReason::Sharpest), "sharpest");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::Whole), "whole");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraFile), "the camera's own file");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraData), "has camera data");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::MakerNote), "has the maker's note");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::Largest), "largest");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::LeastTouched), "not written by another program");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::Finer), "compressed less");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::Sharpest), "sharpest");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::MoreBytes), "more bytes a pixel");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraName), "named by the camera");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::Earliest), "earliest");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::FirstName), "first by name");
 }

@@ -22,12 +22,26 @@ constexpr int kScoreDigits = 3;
 
 std::string ReasonText(Host::KeeperReason reason) {
   switch (reason) {
-    case Host::KeeperReason::Largest:
-      return Say(Words::tr("largest", "photo"));
-    case Host::KeeperReason::Sharpest:
-      return Say(Words::tr("sharpest", "photo"));
+    case Host::KeeperReason::Whole:
+      return Say(Words::tr("whole", "photo"));
+    case Host::KeeperReason::CameraFile:
+      return Say(Words::tr("the camera's own file"));
     case Host::KeeperReason::CameraData:
       return Say(Words::tr("has camera data"));
+    case Host::KeeperReason::MakerNote:
+      return Say(Words::tr("has the maker's note"));
+    case Host::KeeperReason::Largest:
+      return Say(Words::tr("largest", "photo"));
+    case Host::KeeperReason::LeastTouched:
+      return Say(Words::tr("not written by another program"));
+    case Host::KeeperReason::Finer:
+      return Say(Words::tr("compressed less"));
+    case Host::KeeperReason::Sharpest:
+      return Say(Words::tr("sharpest", "photo"));
+    case Host::KeeperReason::MoreBytes:
+      return Say(Words::tr("more bytes a pixel"));
+    case Host::KeeperReason::CameraName:
+      return Say(Words::tr("named by the camera"));
     case Host::KeeperReason::Earliest:
       return Say(Words::tr("earliest", "photo"));
     case Host::KeeperReason::FirstName:

@@ -1,7 +1,11 @@
+#include "CopyCheck.h"
 #include "JudgedPictures.h"
 #include "PhotoPixels.h"
+#include "PictureAligner.h"
 #include "PictureEnd.h"
+#include "PictureVerdictRules.h"
 #include "PixelSources.h"
+#include "PlainBars.h"
 
 #include <zenvora/core/FileState.h>
 
@@ -77,18 +81,72 @@ JudgedPicture ReadJudgedPicture(const ioPath& file) {
   return picture;
 }
 
+namespace {
+
+PictureVerdict Unknown(bool isKept, const std::string& cause) {
+  return {Verdict::Unknown,
+          (isKept ? "the one to keep cannot be compared: " : "it cannot be compared: ") + cause, 0};
+}
+
+QImage Scaled(const QImage& picture, const QSize& size) {
+  return picture.size() == size ? picture
+                                : picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                      .convertToFormat(QImage::Format_RGB32);
+}
+
+/// As they are, and within plain borders, bars and captions.
+std::optional<PictureVerdict> JudgeAligned(const QImage& photo, const QImage& kept) {
+  AlignedFinding finding = Align(kept, photo);
+  if (const auto verdict = VerdictOfAligned(finding)) {
+    return verdict;
+  }
+  const QRect ours = WithinPlainBars(photo);
+  const QRect theirs = WithinPlainBars(kept);
+  if (ours == photo.rect() && theirs == kept.rect()) {
+    return std::nullopt;
+  }
+  finding = Align(kept.copy(theirs), photo.copy(ours));
+  if (VerdictOfAligned(finding)) {
+    return PictureVerdict{Verdict::Alike, "the same picture with a border or a caption", 0};
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
 PictureVerdict JudgePictures(const JudgedPicture& photo, const JudgedPicture& kept) {
-  for (const JudgedPicture* const picture : {&photo, &kept}) {
+  for (const JudgedPicture* const picture : {&kept, &photo}) {
     if (picture->image.isNull()) {
-      return {
-          Verdict::Unknown,
-          std::string(picture == &kept ? "the one to keep cannot be compared: " : "it cannot be compared: ") +
-              picture->cause,
-          0};
+      return Unknown(picture == &kept, picture->cause);
+    }
+    if (!picture->degradation.empty()) {
+      return Unknown(picture == &kept, picture->degradation);
     }
   }
-  return photo.image == kept.image ? PictureVerdict{Verdict::Same, "the same pixels", 0}
-                                   : PictureVerdict{Verdict::Unknown, "its pixels are not the same", 0};
+  constexpr int kLeastSide = 16;
+  const QSize compared = photo.image.width() * photo.image.height() < kept.image.width() * kept.image.height()
+                             ? photo.image.size()
+                             : kept.image.size();
+  if (photo.size == kept.size && photo.image == kept.image && !photo.isPreview && !kept.isPreview) {
+    return {Verdict::Same, "the same pixels", 0};
+  }
+  if (std::min(compared.width(), compared.height()) < kLeastSide) {
+    return Unknown(compared != photo.image.size(), "it has too few pixels");
+  }
+  if (IsScaled(photo.size, kept.size)) {
+    const CopyFinding finding =
+        CompareAsCopies(Scaled(kept.image, compared), Scaled(photo.image, compared), photo.size != kept.size);
+    if (const auto verdict = VerdictOfCopies(finding, compared, photo, kept)) {
+      return *verdict;
+    }
+  }
+  if (const auto verdict = JudgeAligned(photo.image, kept.image)) {
+    return *verdict;
+  }
+  if (VerdictOfAligned(Align(kept.image, photo.image.mirrored(true, false), true))) {
+    return {Verdict::Alike, "the same picture, mirrored", 0};
+  }
+  return {Verdict::Different, "shows something else", 0};
 }
 
 class JudgedAgainst::Impl {

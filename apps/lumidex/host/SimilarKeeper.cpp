@@ -13,8 +13,9 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-/// Of two decodings of one scene the sharpness differs by some hundredths.
-constexpr double kAsSharp = 0.9;
+/// Of two decodings of one scene the sharpness differs by some hundredths, and cameras adapt their
+/// compression to each shot of a burst.
+constexpr double kNearly = 0.9;
 
 std::int64_t PixelsOf(const SimilarMember& member) {
   return std::int64_t{member.features.width} * member.features.height;
@@ -25,8 +26,25 @@ bool HasCameraDate(const SimilarMember& member) {
          member.photo.takenSource == DateSource::Digitised;
 }
 
+/// Nothing speaks for or against a file that was not looked at.
+PhotoOrigin OriginOf(const SimilarMember& member) {
+  return member.origin.value_or(PhotoOrigin());
+}
+
+/// A copy of another size keeps what the camera wrote of the picture, and it is not true any more.
 bool HasCameraData(const SimilarMember& member) {
-  return HasCameraDate(member) || !member.photo.camera.isEmpty();
+  return (HasCameraDate(member) || !member.photo.camera.isEmpty()) && OriginOf(member).sizeAsTold;
+}
+
+bool IsCameraFile(const SimilarMember& member) {
+  const PhotoOrigin origin = OriginOf(member);
+  return origin.raw || (origin.cameraTags && origin.sizeAsTold && !origin.edited);
+}
+
+/// How much speaks for a general program as the writer of the file.
+int Traces(const SimilarMember& member) {
+  const PhotoOrigin origin = OriginOf(member);
+  return (origin.hasJfif ? 1 : 0) + (origin.standardTables ? 1 : 0) + (origin.edited ? 1 : 0);
 }
 
 /// Those that are left, of a group.
@@ -82,12 +100,26 @@ class Candidates {
 
 const char* KeeperReasonName(KeeperReason reason) {
   switch (reason) {
-    case KeeperReason::Largest:
-      return "largest";
-    case KeeperReason::Sharpest:
-      return "sharpest";
+    case KeeperReason::Whole:
+      return "whole";
+    case KeeperReason::CameraFile:
+      return "the camera's own file";
     case KeeperReason::CameraData:
       return "has camera data";
+    case KeeperReason::MakerNote:
+      return "has the maker's note";
+    case KeeperReason::Largest:
+      return "largest";
+    case KeeperReason::LeastTouched:
+      return "not written by another program";
+    case KeeperReason::Finer:
+      return "compressed less";
+    case KeeperReason::Sharpest:
+      return "sharpest";
+    case KeeperReason::MoreBytes:
+      return "more bytes a pixel";
+    case KeeperReason::CameraName:
+      return "named by the camera";
     case KeeperReason::Earliest:
       return "earliest";
     case KeeperReason::FirstName:
@@ -98,14 +130,35 @@ const char* KeeperReasonName(KeeperReason reason) {
 
 KeeperChoice SuggestKeeper(const std::vector<SimilarMember>& members) {
   Candidates candidates(members);
+  candidates.Weigh(KeeperReason::Whole,
+                   [](const SimilarMember& member) { return OriginOf(member).degradation.empty(); });
+  candidates.Weigh(KeeperReason::CameraFile, IsCameraFile);
+  candidates.Weigh(KeeperReason::CameraData, HasCameraData);
+  candidates.Weigh(KeeperReason::MakerNote,
+                   [](const SimilarMember& member) { return OriginOf(member).makerNote; });
   candidates.Weigh(KeeperReason::Largest, [most = candidates.Most(PixelsOf)](const SimilarMember& member) {
     return PixelsOf(member) == most;
   });
+  const auto untouched = [](const SimilarMember& member) { return -Traces(member); };
+  candidates.Weigh(KeeperReason::LeastTouched,
+                   [&, most = candidates.Most(untouched)](const SimilarMember& member) {
+                     return untouched(member) == most;
+                   });
+  const auto fineness = [](const SimilarMember& member) { return -OriginOf(member).quantisation; };
+  candidates.Weigh(KeeperReason::Finer, [&, most = candidates.Most(fineness)](const SimilarMember& member) {
+    return fineness(member) >= most / kNearly;
+  });
   const auto sharpness = [](const SimilarMember& member) { return member.features.sharpness; };
   candidates.Weigh(KeeperReason::Sharpest, [most = candidates.Most(sharpness)](const SimilarMember& member) {
-    return member.features.sharpness >= most * kAsSharp;
+    return member.features.sharpness >= most * kNearly;
   });
-  candidates.Weigh(KeeperReason::CameraData, HasCameraData);
+  const auto fullness = [](const SimilarMember& member) { return OriginOf(member).bytesPerPixel; };
+  candidates.Weigh(KeeperReason::MoreBytes,
+                   [&, most = candidates.Most(fullness)](const SimilarMember& member) {
+                     return fullness(member) >= most * kNearly;
+                   });
+  candidates.Weigh(KeeperReason::CameraName,
+                   [](const SimilarMember& member) { return OriginOf(member).cameraName; });
   // The times of files say when they were copied. Undated photos come last.
   const auto earliness = [](const SimilarMember& member) {
     return HasCameraDate(member) ? -member.photo.taken.toMSecsSinceEpoch()

@@ -16,8 +16,10 @@ struct PhotoOrigin {
   bool sizeAsTold = true;   ///< EXIF tells no size, or the picture's own (turned or not).
   bool edited = false;      ///< Software that edits pictures has left its name.
   bool cameraName = false;  ///< Named as cameras and phones name files.
-  /// The file was put together by a general program: a JFIF header before the camera's data.
-  bool generalWriter = false;
+  /// A JPEG file with a JFIF header, which general programs write and most cameras do not.
+  bool hasJfif = false;
+  /// A JPEG file with the quantisation tables of the standard, as general programs scale them.
+  bool standardTables = false;
   /// The mean of the light's quantisation table of a JPEG file; finer is smaller. 0: nothing is quantised, or
   /// unknown.
   double quantisation = 0;

@@ -8,16 +8,25 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// By what a photo is better than others of its group.
+/// By what a photo is better than others of its group, the weightiest first.
 enum class KeeperReason {
+  Whole,       ///< All of its picture can be decoded.
+  CameraFile,  ///< It is as the camera wrote it: the camera's data, its size, no trace of an editing program.
+  CameraData,  ///< It has the date or the camera that the camera wrote, and the size that they tell.
+  MakerNote,   ///< It has the maker's note.
   Largest,     ///< The most pixels.
-  Sharpest,    ///< The most detail; less than a tenth more does not count.
-  CameraData,  ///< It has the date or the camera that the camera wrote.
-  Earliest,    ///< Taken before the others, by the camera's clock.
-  FirstName,   ///< They differ in nothing but their names.
+  LeastTouched,  ///< No general program has written the file.
+  Finer,         ///< Its light is quantised more finely; by less than a tenth does not count.
+  Sharpest,      ///< The most detail; less than a tenth more does not count.
+  MoreBytes,     ///< More bytes a pixel; less than a tenth more does not count.
+  CameraName,    ///< Its name is as the camera gave it.
+  Earliest,      ///< Taken before the others, by the camera's clock.
+  FirstName,     ///< They differ in nothing but their names.
 };
 
-/// "largest", "sharpest", "has camera data", "earliest", "first by name".
+/// "whole", "the camera's own file", "has camera data", "has the maker's note", "largest", "not written by
+/// another program", "compressed less", "sharpest", "more bytes a pixel", "named by the camera", "earliest",
+/// "first by name".
 const char* KeeperReasonName(KeeperReason reason);
 
 /// Which photo of a group to keep.
