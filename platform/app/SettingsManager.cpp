@@ -3,6 +3,7 @@
 #include <zenvora/app/RealServices.h>
 #include <zenvora/app/UserFolders.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/core/PrivateFiles.h>
 
 #include <glog/logging.h>
 
@@ -76,6 +77,7 @@ class IniSettings : public ISettingsManager {
     if (const std::size_t line = FirstLineNotIni(Text()); line != 0) {
       return "its line " + std::to_string(line) + " is not in INI form";
     }
+    MakePrivateFolders(file_.parent_path());
     IniFile file(file_);
     if (!file.isWritable()) {
       return "no access";
@@ -84,6 +86,8 @@ class IniSettings : public ISettingsManager {
       file.setValue(QString::fromStdString(key), QString::fromStdString(value));
     }
     file.sync();
+    // They name folders and say what is done with photos.
+    MakePrivate(file_);
     return file.status() == QSettings::NoError ? "" : "writing failed";
   }
 

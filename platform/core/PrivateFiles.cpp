@@ -3,14 +3,12 @@
 #include <zenvora/core/PrivateFiles.h>
 
 #ifdef _WIN32
-#include <windows.h>
-
 #include <aclapi.h>
-#include <sddl.h>
-
 #include <memory>
+#include <sddl.h>
 #include <string>
 #include <vector>
+#include <windows.h>
 #else
 #include <cerrno>
 #include <sys/stat.h>
@@ -78,7 +76,7 @@ std::error_code MakePrivate(const ioPath& place) {
   }
   const mode_t mode = facts.st_mode & 07777U;
   return (mode & kOthers) == 0 || chmod(place.native().c_str(), mode & ~kOthers) == 0 ? std::error_code()
-                                                                                    : LastSystemError();
+                                                                                      : LastSystemError();
 }
 
 #endif

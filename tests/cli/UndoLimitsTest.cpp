@@ -1,6 +1,12 @@
 #include "ChangeFixture.h"
 
+#include <support/LeftOut.h>
+#include <support/SmallDisk.h>
+
 #include <QJsonArray>
+
+#include <filesystem>
+#include <fstream>
 
 namespace Zenvora::Test {
 namespace {
@@ -133,7 +139,8 @@ TEST_F(UndoLimits, CountDaysOfUse) {
   ChangeCatalogue(DefaultCatalogue(), "UPDATE days_of_use SET count = 3");
   const Ran later = Run({"rename", "--pattern", "y", "photos"});
   EXPECT_EQ(later.exitCode, 0);
-  EXPECT_THAT(later.err, HasSubstr("2 steps cannot be undone any more: more than 2 days of use have passed since."));
+  EXPECT_THAT(later.err,
+              HasSubstr("2 steps cannot be undone any more: more than 2 days of use have passed since."));
   EXPECT_EQ(Steps().size(), 1);
 }
 
@@ -144,6 +151,49 @@ TEST_F(UndoLimits, ListStepsOfNoDate) {
   EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("unknown  rotate right"));
   EXPECT_TRUE(Steps()[0].toObject()["begun"].isNull());
 }
+
+#ifdef _WIN32
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoLimits, TellWhatWasDoneOnAFullDisk, "nobody can make a small disk here");
+#else
+TEST_F(UndoLimits, TellWhatWasDoneOnAFullDisk) {
+  const ioPath place = tree.MakeFolder("disk");
+  const SmallDisk disk(place, std::size_t{8} << 20U);
+  if (!disk.IsThere()) {
+    GTEST_SKIP() << "this user cannot make a small disk";
+  }
+  std::vector<std::string> before;
+  for (int i = 0; i < 8; ++i) {
+    before.push_back(ReadFile(PhotoOf("p" + std::to_string(i) + ".jpg", 400'000)));
+  }
+  const QString catalogue = Text(place / "c.sqlite");
+  ASSERT_EQ(Run({"--catalogue", catalogue, "scan", "photos"}).exitCode, 0);
+  const auto fill = [&place](const char* name, std::uintmax_t but) {
+    const std::uintmax_t free = std::filesystem::space(place.native()).available;
+    std::ofstream((place / name).native(), std::ios::binary) << std::string(free > but ? free - but : 0, 'f');
+  };
+  // For the reserve, and then not for all originals.
+  fill("filler", 4'000'000);
+  const Ran ran = Run({"--catalogue", catalogue, "rotate", "right", "photos"});
+  EXPECT_EQ(ran.exitCode, 3) << ran.out << ran.err;
+  EXPECT_THAT(ran.out, HasSubstr("Not edited:\n"));
+  EXPECT_THAT(ran.out, HasSubstr("No space left on device"));
+  EXPECT_THAT(ran.out, HasSubstr("photos edited; \"lumidex undo\" takes it back."));
+  int edited = 0;
+  for (int i = 0; i < 8; ++i) {
+    edited += ReadFile(Photos() / ("p" + std::to_string(i) + ".jpg")) != before[static_cast<std::size_t>(i)];
+  }
+  EXPECT_GT(edited, 0);
+  EXPECT_LT(edited, 8);
+  EXPECT_THAT(ran.out, HasSubstr("\n" + std::to_string(edited) + " photos edited"));
+
+  fill("rest", 0);
+  const Ran undo = Run({"--catalogue", catalogue, "undo"});
+  EXPECT_EQ(undo.exitCode, 0) << undo.out << undo.err;
+  for (int i = 0; i < 8; ++i) {
+    EXPECT_EQ(ReadFile(Photos() / ("p" + std::to_string(i) + ".jpg")), before[static_cast<std::size_t>(i)]);
+  }
+}
+#endif
 
 }  // namespace
 }  // namespace Zenvora::Test

@@ -30,7 +30,9 @@ BATCHES = [
     ("turn the names round", ["rename", "--order", "date", "--pattern", "N_{{number:4}}"]),
     ("rotate", ["rotate", "right"]),
     ("shift-date", ["shift-date", "+1h"]),
+    ("rotate without undo", ["rotate", "left", "--no-undo"]),
     ("undo", ["undo"]),
+    ("undo without redo", ["undo", "--no-redo"]),
     ("redo", ["redo"]),
 ]
 
@@ -77,7 +79,7 @@ class Catalogue:
         return files
 
     def kept_names(self):
-        return sorted(name for name in os.listdir(self.kept) if name != "lock") if os.path.isdir(self.kept) else []
+        return sorted(name for name in os.listdir(self.kept) if name not in ("lock", "reserve")) if os.path.isdir(self.kept) else []
 
 
 def picture(content, name):
@@ -155,7 +157,9 @@ def play(catalogue, spare, batch, arguments, random_source, duration):
     if arguments[0] not in ("undo", "redo"):
         numbers = {step["number"] for step in known["steps"]}
         new = [step for step in steps["steps"] if step["number"] not in numbers and not step["undone"]]
-        if new:
+        if "--no-undo" in arguments:
+            require(all(step["givenUp"] for step in new), f"{batch}: the journal promises what nobody can take back")
+        elif new:
             require(new[0]["files"] == done or is_rename, f"{batch}: {done} files are changed, the journal says {new[0]['files']}")
             code, output = catalogue.run(["undo"])
             require(code == 0, f"{batch}: it cannot be taken back: {output.decode(errors='replace')}")
@@ -164,6 +168,7 @@ def play(catalogue, spare, batch, arguments, random_source, duration):
             require(catalogue.snapshot() == now, f"{batch}: doing it again does not give the same photos")
         else:
             require(done == 0, f"{batch}: {done} files are changed, and the journal does not know of it")
+    require(not steps["steps"] or os.path.exists(os.path.join(catalogue.kept, "lock")), "the undo folder is gone")
     # One version is kept of each photo that a step changed.
     require(len(set(catalogue.kept_names())) == len(catalogue.kept_names()), "kept twice")
     return killed, done

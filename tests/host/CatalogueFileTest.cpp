@@ -124,6 +124,55 @@ TEST_F(CatalogueFile, SaysSoWhenItCannotBeOpened) {
   EXPECT_EQ(Catalogue(file_, Mode::ReadOnly).CountPhotos(), 3U);
 }
 
+TEST_F(CatalogueFile, IsMadeAgainWhenItsFirstTransactionWasBrokenOff) {
+  // As a kill leaves a file that a program was just making: half its pages written, and the journal that
+  // takes them back.
+  const ioPath original = tree_.Path("original");
+  const ioPath journal(file_.utf8string() + "-journal");
+  {
+    CatalogueDatabase database(original, CatalogueDatabase::Access::ReadWrite, 0);
+    database.Execute("PRAGMA cache_size = 1");
+    database.Execute("BEGIN IMMEDIATE");
+    database.Execute("CREATE TABLE photos (number INTEGER PRIMARY KEY, data BLOB)");
+    for (int i = 0; i < 50; ++i) {
+      database.Execute("INSERT INTO photos (data) VALUES (randomblob(4000))");
+    }
+    fs::copy_file(original.native(), file_.native());
+    fs::copy_file(original.native().native() + fs::path("-journal").native(), journal.native());
+    database.Execute("ROLLBACK");
+  }
+  ASSERT_GT(file_.file_size(), 0U);
+  EXPECT_THAT(OpeningError(file_, Mode::ReadOnly), HasSubstr("run a scan"));
+  Catalogue(file_, Mode::ReadWrite).Store({Photo("/p/a")});
+  EXPECT_EQ(Catalogue(file_, Mode::ReadOnly).CountPhotos(), 1U);
+}
+
+TEST_F(CatalogueFile, IsNeverThereByHalves) {
+  // Whoever looks while catalogues are made sees none, or all of one.
+  std::vector<ioPath> files;
+  for (int i = 0; i < 20; ++i) {
+    files.push_back(tree_.Path("c" + std::to_string(i) + ".sqlite"));
+  }
+  std::atomic<bool> made{false};
+  std::thread watcher([&] {
+    for (std::size_t i = 0; i < files.size();) {
+      if (files[i].exists()) {
+        EXPECT_EQ(OpeningError(files[i], Mode::ReadOnly), "(no error)");
+        ++i;
+      } else if (made) {
+        ADD_FAILURE() << files[i].utf8string();
+        break;
+      }
+    }
+  });
+  for (const ioPath& file : files) {
+    Catalogue(file, Mode::ReadWrite);
+  }
+  made = true;
+  watcher.join();
+  EXPECT_EQ(Names().size(), files.size());
+}
+
 TEST_F(CatalogueFile, IsFilledWhenItIsEmpty) {
   tree_.Write("catalogue.sqlite", "");
   EXPECT_THAT(OpeningError(file_, Mode::ReadOnly), HasSubstr("run a scan"));

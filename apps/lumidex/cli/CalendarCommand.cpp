@@ -61,10 +61,15 @@ constexpr char kUpdateDescription[] =
     "Ask the server for a newer calendar.\n"
     "\n"
     "The server is the setting BaseUrl in the group Download of lumidex.ini. The\n"
-    "calendar in use stays when the server gives none.";
+    "calendar in use stays when the server gives none. \"lumidex albums\" asks by\n"
+    "itself once a week, and once a day a server that gave nothing, for at most 5\n"
+    "seconds where there is a calendar of it; this command asks now, and waits.";
 
 constexpr char kUpdateFooter[] =
-    R"(Exit codes: 0 the calendar is the server's; 3 the server gave none, the
+    R"(Examples:
+  lumidex calendar update
+
+Exit codes: 0 the calendar is the server's; 3 the server gave none, the
 calendar in use stays; 4 no server is set, or there is no calendar at all;
 130 interrupted.)";
 
@@ -254,10 +259,10 @@ void AddShow(CLI::App& calendar, const Arguments& arguments, Action& chosen) {
   command->footer(kShowFooter);
   command
       ->add_option("--locale", arguments->locale,
-                   "The language, such as de_DE. Usual: that of the interface.")
+                   "The language, such as de_DE. Default: that of the interface.")
       ->option_text("LOCALE")
       ->transform(Text());
-  command->add_option("--year", arguments->year, "The year of the dates, 1 to 9998. Usual: this year.")
+  command->add_option("--year", arguments->year, "The year of the dates, 1 to 9998. Default: this year.")
       ->option_text("YEAR")
       ->check(WholeNumber(1, 9998));
   command->callback([arguments, &chosen] {
@@ -268,7 +273,7 @@ void AddShow(CLI::App& calendar, const Arguments& arguments, Action& chosen) {
 void AddCheck(CLI::App& calendar, const Arguments& arguments, Action& chosen) {
   CLI::App* const command = calendar.add_subcommand("check", kCheckDescription);
   command->footer(kCheckFooter);
-  command->add_option("FILE", arguments->file, "The calendar file. Usual: the calendar in use.")
+  command->add_option("FILE", arguments->file, "The calendar file. Default: the calendar in use.")
       ->transform(Text());
   command->callback([arguments, &chosen] {
     chosen = [arguments](Session& session) { return RunCheck(*arguments, session); };

@@ -59,12 +59,12 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   program->set_version_flag("-V,--version", VersionText(), "Print the version, and what runs models.");
   program
       ->add_option("-c,--catalogue,--catalog", globals.catalogue,
-                   "The catalogue's file. Usual: lumidex/catalogue.sqlite in your data folder.")
+                   "The catalogue's file. Default: lumidex/catalogue.sqlite in your data folder.")
       ->option_text("FILE")
       ->transform(Text());
   program
       ->add_option("--lang", globals.language,
-                   "Speak that language, such as de_DE. Usual: that of the settings, or the system's.")
+                   "Speak that language, such as de_DE. Default: that of the settings, or the system's.")
       ->option_text("LANG")
       ->transform(Text());
   program->add_flag("--json", globals.json, "Print the result as one JSON document.")

@@ -44,7 +44,7 @@ Examples:
   lumidex find --date 2023-12 --text Canon
   lumidex find --camera "EOS 80D" --place 48.8,2.2,48.9,2.5
   lumidex find --text trip --tag Family --tag Travel
-  lumidex find --tag Screenshot --paths | xargs -d '\n' ls -l
+  lumidex find --tag Screenshot --paths | xargs -r -d '\n' ls -l
 
 Exit codes: 0 photos were found; 1 none were; 4 there is no catalogue, or it
 cannot be read.)";

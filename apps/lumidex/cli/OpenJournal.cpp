@@ -7,7 +7,8 @@
 #include <LumidexUtil/FileAccessLocker.h>
 #include <host/HostError.h>
 
-#include <zenvora/app/Application.h>
+#include <zenvora/app/RealServices.h>
+#include <zenvora/core/PrivateFiles.h>
 
 #include <glog/logging.h>
 
@@ -19,6 +20,8 @@ OpenJournal::OpenJournal(Session& session)
     : session_(session),
       locker_(FileAccessLocker::Create()),
       journal_(std::make_unique<Host::UndoJournal>(session.CatalogueFile(), *locker_)) {
+  // Also those that a former program stored.
+  MakePrivate(App::UserSettingsFile());
   for (const std::string& note : journal_->RecoveryNotes()) {
     session.console.Note(note);
     session.recovered.push_back(note);

@@ -209,12 +209,12 @@ void AddRenameCommand(CLI::App& program, Action& chosen) {
       ->option_text("PATTERN")
       ->required()
       ->transform(Text());
-  command->add_option("--start", arguments->start, "The first number, 0 to 4294967295. Usual: 1.")
+  command->add_option("--start", arguments->start, "The first number, 0 to 4294967295. Default: 1.")
       ->option_text("N")
       ->check(WholeNumber(0, 4'294'967'295));
   command
       ->add_option("--order", arguments->order,
-                   "In which order photos are numbered: given, date or name. Usual: given.")
+                   "In which order photos are numbered: given, date or name. Default: given.")
       ->option_text("ORDER")
       ->check(OneOf({"given", "date", "name"}));
   command

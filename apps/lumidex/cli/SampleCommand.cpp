@@ -91,10 +91,10 @@ void AddSampleCommand(CLI::App& program, Action& chosen) {
   command->add_option("DIR", arguments->folder, "The folder to make, with its parents.")
       ->required()
       ->transform(Text());
-  command->add_option("--seed", arguments->seed, "Which collection, 0 to 4294967295. Usual: 1.")
+  command->add_option("--seed", arguments->seed, "Which collection, 0 to 4294967295. Default: 1.")
       ->option_text("N")
       ->check(WholeNumber(0, 4'294'967'295));
-  command->add_option("--photos", arguments->photos, "About how many photos, 50 to 100000. Usual: 360.")
+  command->add_option("--photos", arguments->photos, "About how many photos, 50 to 100000. Default: 360.")
       ->option_text("N")
       ->check(WholeNumber(kLeastPhotos, kMostPhotos));
   command->callback([arguments, &chosen] {

@@ -241,8 +241,8 @@ void RequireFolder(const ioPath& folder) {
     throw Failure("no-folder", "There is no folder " + folder.utf8string() + ".");
   }
   if (state.error) {
-    throw Failure("no-folder",
-                  "There is no folder " + folder.utf8string() + " (" + ErrorText(state.error) + ").");
+    // It may well be there.
+    throw Failure("no-folder", folder.utf8string() + " cannot be reached: " + ErrorText(state.error) + ".");
   }
 }
 
@@ -303,7 +303,7 @@ void AddScanCommand(CLI::App& program, Action& chosen) {
       ->disable_flag_override();
   command
       ->add_option("--threads", arguments->threads,
-                   "Files read at a time, 1 to 64. Usual: one for each core, at most 8.")
+                   "Files read at a time, 1 to 64. Default: one for each core, at most 8.")
       ->option_text("N")
       ->check(WholeNumber(1, 64));
   command->callback([arguments, &chosen] {

@@ -415,7 +415,7 @@ void AddSimilarCommand(CLI::App& program, Action& chosen) {
   command->footer(kFooter);
   command
       ->add_option("--min", arguments->least,
-                   "Photos that a group needs to be shown, 1 to 1000000. Usual: 2.")
+                   "Photos that a group needs to be shown, 1 to 1000000. Default: 2.")
       ->option_text("N")
       ->check(WholeNumber(1, 1'000'000));
   auto* const report =
@@ -473,7 +473,7 @@ void AddSimilarCommand(CLI::App& program, Action& chosen) {
       ->transform(Text());
   command
       ->add_option("--threads", arguments->threads,
-                   "Photos looked at at a time, 1 to 64. Usual: one for each core, at most 8.")
+                   "Photos looked at at a time, 1 to 64. Default: one for each core, at most 8.")
       ->option_text("N")
       ->check(WholeNumber(1, 64));
   command->callback([arguments, &chosen] {

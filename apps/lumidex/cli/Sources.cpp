@@ -13,10 +13,13 @@ std::vector<ioPath> ExistingSources(const std::vector<std::string>& names) {
   for (const std::string& name : names) {
     sources.push_back(AbsolutePath(name));
     const FileState state = QueryFile(sources.back());
-    if (state.kind == FileState::Kind::Missing || state.error) {
-      const std::string cause =
-          state.kind == FileState::Kind::Missing ? "." : " (" + ErrorText(state.error) + ").";
-      throw Failure("no-source", "There is no file or folder " + sources.back().utf8string() + cause);
+    if (state.kind == FileState::Kind::Missing) {
+      throw Failure("no-source", "There is no file or folder " + sources.back().utf8string() + ".");
+    }
+    if (state.error) {
+      // It may well be there.
+      throw Failure("no-source",
+                    sources.back().utf8string() + " cannot be reached: " + ErrorText(state.error) + ".");
     }
   }
   return sources;

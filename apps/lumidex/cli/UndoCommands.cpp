@@ -2,11 +2,14 @@
 #include "OpenJournal.h"
 #include "Options.h"
 #include "Progress.h"
+#include "Question.h"
 #include "TerminalText.h"
 #include "UndoSettings.h"
 #include "UndoView.h"
 #include "ValueTexts.h"
 #include "Words.h"
+
+#include <host/JournalRoom.h>
 
 #include <memory>
 #include <optional>
@@ -35,6 +38,7 @@ Examples:
   lumidex undo --list                    what could be taken back
   lumidex undo --last 3                  the last three steps
   lumidex undo --skip                    leave the last step as it is, for good
+  lumidex undo --no-redo                 where the disk is full
   lumidex undo --keep-days 365 --keep-size 20G
   lumidex undo --keep-size 0             keep no originals at all
 
@@ -61,6 +65,7 @@ struct UndoArguments {
   bool redo = false;
   bool list = false;
   bool skip = false;
+  bool noRedo = false;
   int last = 1;
   int keepDays = -1;
   std::string keepSize;
@@ -87,7 +92,11 @@ class UndoRun {
       view_.skipped.emplace();
     }
     // Without a catalogue nothing was ever done, and none is made for finding that out.
-    if (view_.catalogue.exists()) {
+    if (view_.steps) {
+      // Looking needs no right to write. What was broken off is finished where it can be.
+      RecoverIfNeeded(session_);
+      view_.steps = Host::ReadUndoSteps(view_.catalogue);
+    } else if (view_.catalogue.exists()) {
       OpenJournal journal(session_);
       Work(journal);
     }
@@ -110,14 +119,14 @@ class UndoRun {
   void Work(OpenJournal& journal) {
     if (view_.limits) {
       view_.forgotten = journal.ApplyLimits();
-    } else if (view_.steps) {
-      view_.steps = journal.Get().Steps();
     } else if (view_.skipped) {
-      if (const std::optional<Host::UndoStep> step = journal.Get().SkipLast()) {
+      if (const std::optional<Host::SkippedStep> step = journal.Get().SkipLast()) {
         view_.skipped->push_back(*step);
       }
     } else {
-      for (int i = 0; i < arguments_.last && TakeStep(journal.Get()); ++i) {
+      journal.Get().KeepForRedo(!arguments_.noRedo);
+      for (int i = 0; i < arguments_.last && (TakeStep(journal.Get()) || GoOnWithoutRedo(journal.Get()));
+           ++i) {
       }
     }
   }
@@ -135,6 +144,21 @@ class UndoRun {
     view_.interrupted = result.cancelled;
     const bool whole = result.findings.empty() && !result.cancelled;
     view_.done.push_back(std::move(result));
+    return whole;
+  }
+
+  /// Where only the room for doing it again is missing, and the person can do without.
+  bool GoOnWithoutRedo(Host::UndoJournal& journal) {
+    if (view_.done.empty() || !view_.done.back().lacksRoomForRedo || arguments_.noRedo || !CanAsk() ||
+        !Ask(session_.console, UndoText(view_), Say(Words::tr("Go on without what redo needs? [y/N]")),
+             session_.interrupted)) {
+      return false;
+    }
+    journal.KeepForRedo(false);
+    const std::size_t before = view_.done.back().files;
+    view_.done.pop_back();
+    const bool whole = TakeStep(journal);
+    view_.done.back().files += before;
     return whole;
   }
 
@@ -184,7 +208,7 @@ CLI::Validator Size() {
 }
 
 CLI::Option* AddLast(CLI::App& command, UndoArguments& arguments) {
-  return command.add_option("--last", arguments.last, "So many steps, 1 to 1000. Usual: 1.")
+  return command.add_option("--last", arguments.last, "So many steps, 1 to 1000. Default: 1.")
       ->option_text("N")
       ->check(WholeNumber(1, kMostSteps));
 }
@@ -212,6 +236,14 @@ void AddUndoCommand(CLI::App& program, Action& chosen) {
           ->disable_flag_override()
           ->excludes(last)
           ->excludes(list);
+  command
+      ->add_flag(
+          "--no-redo", arguments->noRedo,
+          "Keep nothing for redo, neither of this nor of what was taken back before: undo needs no new "
+          "room beside the catalogue then.")
+      ->disable_flag_override()
+      ->excludes(list)
+      ->excludes(skip);
   command
       ->add_option(
           "--keep-days", arguments->keepDays,

@@ -13,6 +13,8 @@ namespace Zenvora::Lumidex::Cli {
 
 namespace {
 
+using Host::BlockedStep;
+using Host::SkippedStep;
 using Host::UndoResult;
 using Host::UndoStep;
 
@@ -62,21 +64,46 @@ std::string ResultText(const UndoResult& result, bool redo) {
     text += Say(Words::tr("Older steps wait for it; \"lumidex undo --skip\" leaves it as it is for good.")) +
             '\n';
   }
+  if (result.lacksRoomForRedo) {
+    text += Say(Words::tr("There is no room for keeping what redo needs; \"lumidex undo --no-redo\" does "
+                          "without.")) +
+            '\n';
+  }
   return text;
 }
 
-std::string SkippedText(const std::vector<UndoStep>& steps) {
+/// What waits in vain for a step that was skipped.
+std::string BlockedText(const BlockedStep& blocked) {
+  constexpr std::size_t kMostShown = 10;
+  const std::size_t files = blocked.files.size();
+  std::string text =
+      Say(Words::tr("Undo of \"%1\" (%2) will leave %3 files as they are, for this step changed "
+                    "them since:",
+                    nullptr, Amount(files)),
+          {EscapeForTerminal(StepText(blocked.step.name.toStdString())), WhenText(blocked.step),
+           GroupDigits(files)}) +
+      '\n';
+  for (std::size_t i = 0; i < files && i < kMostShown; ++i) {
+    text += "  " + EscapeForTerminal(blocked.files[i].utf8string()) + '\n';
+  }
+  return files > kMostShown ? text + "  ...\n" : text;
+}
+
+std::string SkippedText(const std::vector<SkippedStep>& steps) {
   if (steps.empty()) {
     return Say(Words::tr("There is nothing to skip.")) + '\n';
   }
   std::string text;
-  for (const UndoStep& step : steps) {
+  for (const SkippedStep& step : steps) {
     text += Say(Words::tr("Given up: %1."), {EscapeForTerminal(StepText(step.name.toStdString()))});
     if (step.keptBytes > 0) {
       text += ' ' + Say(Words::tr("What is kept of it (%1) stays until it is too old or too much."),
                         {SizeText(step.keptBytes)});
     }
     text += '\n';
+    for (const BlockedStep& blocked : step.blocked) {
+      text += BlockedText(blocked);
+    }
   }
   return text;
 }
@@ -94,6 +121,7 @@ void WriteDone(JsonWriter& json, const std::vector<UndoResult>& results) {
     json.Text("name", result.name);
     json.Number("files", static_cast<long long>(result.files));
     WriteFindings(json, result.findings);
+    json.Truth("lacksRoomForRedo", result.lacksRoomForRedo);
     json.EndObject();
   }
   json.EndArray();
@@ -105,6 +133,45 @@ void WriteLimits(JsonWriter& json, const UndoView& view) {
   json.Number("bytes", static_cast<long long>(view.limits->bytes));
   json.EndObject();
   json.Number("forgotten", static_cast<long long>(view.forgotten));
+}
+
+void WriteFacts(JsonWriter& json, const UndoStep& step) {
+  json.Number("number", step.number);
+  json.Text("name", step.name);
+  if (step.begun.isValid()) {
+    json.Text("begun", step.begun.toUTC().toString(Qt::ISODate));
+  } else {
+    json.Null("begun");
+  }
+  json.Truth("undone", step.undone);
+  json.Truth("givenUp", step.givenUp);
+  json.Number("files", static_cast<long long>(step.files));
+  json.Number("keptBytes", static_cast<long long>(step.keptBytes));
+  json.Number("daysOfUse", step.daysOfUse);
+}
+
+void WriteSkipped(JsonWriter& json, const std::vector<SkippedStep>& steps) {
+  json.BeginArray("skipped");
+  for (const SkippedStep& step : steps) {
+    json.BeginObject();
+    WriteFacts(json, step);
+    json.BeginArray("blocked");
+    for (const BlockedStep& blocked : step.blocked) {
+      json.BeginObject();
+      WriteFacts(json, blocked.step);
+      json.BeginArray("left");
+      for (const ioPath& file : blocked.files) {
+        json.BeginObject();
+        json.Path("path", file);
+        json.EndObject();
+      }
+      json.EndArray();
+      json.EndObject();
+    }
+    json.EndArray();
+    json.EndObject();
+  }
+  json.EndArray();
 }
 
 }  // namespace
@@ -126,18 +193,7 @@ void WriteSteps(JsonWriter& json, const char* name, const std::vector<UndoStep>&
   json.BeginArray(name);
   for (const UndoStep& step : steps) {
     json.BeginObject();
-    json.Number("number", step.number);
-    json.Text("name", step.name);
-    if (step.begun.isValid()) {
-      json.Text("begun", step.begun.toUTC().toString(Qt::ISODate));
-    } else {
-      json.Null("begun");
-    }
-    json.Truth("undone", step.undone);
-    json.Truth("givenUp", step.givenUp);
-    json.Number("files", static_cast<long long>(step.files));
-    json.Number("keptBytes", static_cast<long long>(step.keptBytes));
-    json.Number("daysOfUse", step.daysOfUse);
+    WriteFacts(json, step);
     json.EndObject();
   }
   json.EndArray();
@@ -153,7 +209,7 @@ std::string UndoDocument(const UndoView& view) {
   } else if (view.steps) {
     WriteSteps(json, "steps", *view.steps);
   } else if (view.skipped) {
-    WriteSteps(json, "skipped", *view.skipped);
+    WriteSkipped(json, *view.skipped);
   } else {
     WriteDone(json, view.done);
   }

@@ -20,7 +20,7 @@ struct UndoView {
   bool interrupted = false;
   std::vector<Host::UndoResult> done;  ///< In the order in which it was done.
   /// With `--skip`: the step, if there was one.
-  std::optional<std::vector<Host::UndoStep>> skipped;
+  std::optional<std::vector<Host::SkippedStep>> skipped;
   /// With `--list`: all steps, the latest first.
   std::optional<std::vector<Host::UndoStep>> steps;
   /// With `--keep-days` and `--keep-size`: what holds now, and how many steps were forgotten for it.

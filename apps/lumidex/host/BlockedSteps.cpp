@@ -75,7 +75,8 @@ Paths FilesInTheWay(const CatalogueDatabase& database, qlonglong older, const Tr
 }
 
 std::vector<BlockedStep> OlderThan(const CatalogueDatabase& database, qlonglong number, const Traces& newer) {
-  const std::string older = "s.state = 2 AND s.number < " + std::to_string(number) + " ORDER BY s.number DESC";
+  const std::string older =
+      "s.state = 2 AND s.number < " + std::to_string(number) + " ORDER BY s.number DESC";
   std::vector<BlockedStep> blocked;
   for (UndoStep& step : QuerySteps(database, older.c_str())) {
     BlockedStep entry;

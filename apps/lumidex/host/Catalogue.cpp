@@ -7,6 +7,7 @@
 #include <zenvora/app/UserFolders.h>
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/core/PrivateFiles.h>
 #include <zenvora/strandel/PhotoFacts.h>
 #include <zenvora/tavolin/Uuid.h>
 
@@ -54,8 +55,19 @@ void RequireUsablePlace(const ioPath& file, Catalogue::Mode mode) {
 
 void MakeFolderOf(const ioPath& file) {
   const ioPath folder = file.parent_path();
-  if (const std::error_code error = folder.empty() ? std::error_code() : MakeFolders(folder)) {
+  if (const std::error_code error = folder.empty() ? std::error_code() : MakePrivateFolders(folder)) {
     ThrowCatalogueError(file, "its folder cannot be made (" + ErrorText(error) + ")");
+  }
+}
+
+/// Also what a former program made is for nobody else. Whose files it is not cannot close them, which is no
+/// reason not to use them.
+void CloseToOthers(const ioPath& file) {
+  if (file == Catalogue::DefaultFile()) {
+    MakePrivate(file.parent_path());
+  }
+  for (const char* const end : {"", "-wal", "-shm", "-journal"}) {
+    MakePrivate(ioPath(file.utf8string() + end));
   }
 }
 
@@ -79,9 +91,12 @@ void RequireWritable(const ioPath& file) {
 std::unique_ptr<CatalogueDatabase> OpenForWriting(const ioPath& file) {
   MakeFolderOf(file);
   RequireWritable(file);
-  if (file.file_size() > 0) {
+  if (QueryFile(file).kind == FileState::Kind::Missing) {
+    MakeNewCatalogue(file);
+  } else if (file.file_size() > 0) {
     RequireOwnFile(file);
   }
+  CloseToOthers(file);
   auto database = std::make_unique<CatalogueDatabase>(file, CatalogueDatabase::Access::ReadWrite,
                                                       Catalogue::kBusyTimeoutMs);
   BringUpToDate(*database);

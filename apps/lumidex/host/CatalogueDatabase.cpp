@@ -91,8 +91,11 @@ QString SqliteUri(const ioPath& absoluteFile, const char* query) {
   return QStringLiteral("file://") + QString::fromLatin1(encoded) + QLatin1Char('?') + QLatin1String(query);
 }
 
-CatalogueDatabase::CatalogueDatabase(const ioPath& file, Access access, int busyTimeoutMs)
-    : file_(file), busyTimeoutMs_(busyTimeoutMs), connection_(NewConnectionName()) {
+CatalogueDatabase::CatalogueDatabase(const ioPath& file, Access access, int busyTimeoutMs,
+                                     const ioPath& shownAs)
+    : file_(shownAs.empty() ? file : shownAs),
+      busyTimeoutMs_(busyTimeoutMs),
+      connection_(NewConnectionName()) {
   database_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_);
   database_.setDatabaseName(SqliteUri(file.absolute(), UriQuery(access)));
   database_.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));

@@ -24,7 +24,8 @@ class CatalogueDatabase {
   /// SQLite's code for a damaged file.
   static constexpr int kCorrupt = 11;
 
-  CatalogueDatabase(const ioPath& file, Access access, int busyTimeoutMs);
+  /// `shownAs`: how the file is called in messages; empty: as it is.
+  CatalogueDatabase(const ioPath& file, Access access, int busyTimeoutMs, const ioPath& shownAs = {});
   ~CatalogueDatabase();
   CatalogueDatabase(const CatalogueDatabase&) = delete;
   CatalogueDatabase& operator=(const CatalogueDatabase&) = delete;

@@ -1,9 +1,21 @@
 #include "CatalogueSchema.h"
 
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileNames.h>
+#include <zenvora/core/FileState.h>
+#include <zenvora/core/NewFile.h>
+#include <zenvora/core/PrivateFiles.h>
+#include <zenvora/tavolin/Uuid.h>
+
 #include <glog/logging.h>
 
+#include <algorithm>
+#include <array>
 #include <chrono>
+#include <cstddef>
+#include <fstream>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -247,9 +259,30 @@ void TurnOnWriteAheadLog(const CatalogueDatabase& database) {
   LOG(WARNING) << "The catalogue " << database.File() << " works without a write-ahead log for now";
 }
 
+/// True when a first transaction was broken off on what was empty before: opening the file for writing takes
+/// it back, and until then its pages are nobody's. SQLite's journal file says so.
+bool IsMadeFromNothing(const ioPath& file) {
+  constexpr std::array<unsigned char, 8> kMagic = {0xd9, 0xd5, 0x05, 0xf9, 0x20, 0xa1, 0x63, 0xd7};
+  constexpr std::size_t kSizeBefore = 16;
+  const ioPath journal(file.utf8string() + "-journal");
+  if (QueryFile(journal).kind != FileState::Kind::File) {
+    return false;
+  }
+  std::ifstream stream(journal.for_system(), std::ios::binary);
+  std::array<char, kSizeBefore + 4> head{};
+  return stream.read(head.data(), head.size()) &&
+         std::equal(
+             kMagic.begin(), kMagic.end(), head.begin(),
+             [](unsigned char left, char right) { return left == static_cast<unsigned char>(right); }) &&
+         std::all_of(head.begin() + kSizeBefore, head.end(), [](char byte) { return byte == 0; });
+}
+
 }  // namespace
 
 void RequireOwnFile(const ioPath& file) {
+  if (IsMadeFromNothing(file)) {
+    return;
+  }
   using Access = CatalogueDatabase::Access;
   auto database = std::make_unique<CatalogueDatabase>(file, Access::Frozen, 0);
   int code = 0;
@@ -275,6 +308,31 @@ void BringUpToDate(const CatalogueDatabase& database) {
     }
   }
   TurnOnWriteAheadLog(database);
+}
+
+void MakeNewCatalogue(const ioPath& file) {
+  constexpr int kTokenLength = 13;
+  const std::string token = Tavolin::GenerateUuid().left(kTokenLength).toStdString();
+  const ioPath draft(file.utf8string() + ".new-" + token);
+  const auto require = [&file](const std::error_code& error) {
+    if (error) {
+      ThrowCatalogueError(file, "it cannot be made (" + ErrorText(error) + ")");
+    }
+  };
+  NewFile made;
+  require(made.Create(draft));
+  require(made.Close(false));
+  // SQLite gives the files beside it the same rights.
+  MakePrivate(draft);
+  BringUpToDate(
+      CatalogueDatabase(draft, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs, file));
+  const std::error_code error = MoveToFreeName(draft, file);
+  if (!error) {
+    made.Release();
+    SyncFolderOf(file);
+  } else if (error != std::errc::file_exists) {
+    require(error);
+  }
 }
 
 void RequireKnownVersion(const CatalogueDatabase& database) {

@@ -26,6 +26,10 @@ void RequireOwnFile(const ioPath& file);
 /// once. Throws when the catalogue is newer than this program or somebody else's.
 void BringUpToDate(const CatalogueDatabase& database);
 
+/// Gives a missing catalogue its name when it is complete, so that none is ever there by halves. Nothing
+/// happens when another process was faster. Throws `HostError`.
+void MakeNewCatalogue(const ioPath& file);
+
 /// Throws when a newer program made the catalogue.
 void RequireKnownVersion(const CatalogueDatabase& database);
 

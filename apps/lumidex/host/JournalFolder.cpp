@@ -52,10 +52,6 @@ JournalFolder::~JournalFolder() {
   }
 }
 
-std::set<std::string> JournalFolder::OwnNames() {
-  return {kLockName, kReserveName};
-}
-
 void JournalFolder::Open() {
   if (isOpen_) {
     return;
@@ -73,9 +69,10 @@ void JournalFolder::TakeLock() {
     error = lock_.Take(folder_ / kLockName);
   }
   if (error) {
-    Fail(folder_, error == std::errc::resource_unavailable_try_again
-                      ? "another program is renaming or editing photos with it; try again when that has finished"
-                      : ErrorText(error));
+    Fail(folder_,
+         error == std::errc::resource_unavailable_try_again
+             ? "another program is renaming or editing photos with it; try again when that has finished"
+             : ErrorText(error));
   }
   isOpen_ = true;
   needed_ = reserve_.Wanted() > 0;

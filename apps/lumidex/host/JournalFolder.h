@@ -6,8 +6,6 @@
 #include <zenvora/core/ioPath.h>
 
 #include <cstdint>
-#include <set>
-#include <string>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -28,8 +26,6 @@ class JournalFolder {
   /// Makes the folder and takes the lock where that has not been done.
   void Open();
   const ioPath& Path() const { return folder_; }
-  /// Names in it that are no versions.
-  static std::set<std::string> OwnNames();
 
   /// Holds what the journal itself needs, and `more` bytes. Throws `HostError` when there is no such room:
   /// then nothing may be begun.

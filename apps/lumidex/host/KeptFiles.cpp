@@ -24,7 +24,11 @@ constexpr int kTokenLength = 13;
 constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
 [[noreturn]] void Fail(const ioPath& file, const std::string& what, const std::error_code& error) {
-  ThrowHostError(file.utf8string(), what + ' ' + file.utf8string() + ": " + ErrorText(error));
+  const std::string text = what + ' ' + file.utf8string() + ": " + ErrorText(error);
+  if (error == std::errc::no_space_on_device) {
+    BOOST_THROW_EXCEPTION(NoRoomError() << TagFilename(file.utf8string()) << TagDescription(text));
+  }
+  ThrowHostError(file.utf8string(), text);
 }
 
 /// Opening what is no file could wait for ever.
@@ -101,20 +105,24 @@ std::int64_t NumberOf(const std::string& name) {
   return isVersion && digits > 0 && digits <= kMostDigits ? std::stoll(name.substr(0, digits)) : 0;
 }
 
-void Reproduce(const ioPath& from, const ioPath& to) {
+/// True when it took room.
+bool Reproduce(const ioPath& from, const ioPath& to) {
   RequireFile(from);
   if (ShareBlocks(from, to)) {
-    return SyncFolderOf(to);
+    SyncFolderOf(to);
+    return false;
   }
   // Who has the file under another name might change it where it lies; a link's second name would lead there,
   // too, or nowhere.
   std::error_code error;
   const bool isLink = std::filesystem::is_symlink(std::filesystem::symlink_status(from.for_system(), error));
   const bool isAlone = !isLink && QueryFile(from).names == 1;
-  if (!isAlone || AddName(from, to)) {
+  const bool copies = !isAlone || AddName(from, to);
+  if (copies) {
     Copy(from, to);
   }
   SyncFolderOf(to);
+  return copies;
 }
 
 }  // namespace
@@ -126,9 +134,9 @@ QByteArray DigestOf(const ioPath& file) {
   return hash.result();
 }
 
-void KeptFiles::Keep(const ioPath& file, const std::string& name) const {
+bool KeptFiles::Keep(const ioPath& file, const std::string& name) const {
   PathOf(name).remove();
-  Reproduce(file, PathOf(name));
+  return Reproduce(file, PathOf(name));
 }
 
 void KeptFiles::PutBeside(const std::string& name, const ioPath& side) const {

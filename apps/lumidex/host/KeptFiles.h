@@ -1,5 +1,7 @@
 #pragma once
 
+#include <host/HostError.h>
+
 #include <zenvora/core/ioPath.h>
 
 #include <QByteArray>
@@ -10,6 +12,9 @@
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
+
+/// There is no room on the disk.
+class NoRoomError : public HostError {};
 
 /// SHA-1 of a file's content. Throws `HostError` when it cannot be read.
 QByteArray DigestOf(const ioPath& file);
@@ -24,8 +29,8 @@ class KeptFiles {
   /// Keeps what `file` holds now, with its time and, as far as the system lets us, its rights, its owner and
   /// what people noted of it (`NewFile::TakeRightsOf`), safe on the disk when this returns: its blocks are
   /// shared where the file system can, or the file gets a second name, else it is copied. What was kept under
-  /// the name before is replaced.
-  void Keep(const ioPath& file, const std::string& name) const;
+  /// the name before is replaced. True when it takes room: a copy.
+  bool Keep(const ioPath& file, const std::string& name) const;
   /// Makes the new file `side` of what is kept, likewise.
   void PutBeside(const std::string& name, const ioPath& side) const;
   /// Whether it was there does not matter.

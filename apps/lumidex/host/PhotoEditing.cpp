@@ -28,36 +28,65 @@ UndoResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QSt
   result.name = name;
   journal.BeginStep(name);
   std::size_t looked = 0;
+  // Where nothing can be written down any more, nothing more is changed: what was done is told.
+  std::string stopped;
+  const auto tellLater = [&result](const ioPath& photo, const HostError& failure) {
+    result.findings.push_back({photo, photo.utf8string() +
+                                          " is edited, but that could not be written down (" +
+                                          failure.what() + "). The next run of lumidex does it"});
+  };
   for (const ioPath& photo : photos) {
     if (cancelled) {
       result.cancelled = true;
       break;
     }
+    if (!stopped.empty()) {
+      result.findings.push_back({photo, photo.utf8string() + " is as it was: " + stopped});
+      continue;
+    }
     const ioPath file = FileOf(photo);
-    const ioPath side = journal.PlanEdit(file);
     bool replaced = false;
     try {
-      write(file, side);
-      DataModel item;
-      item.SetPath(file);
-      item.SetSize(file.file_size());
-      UndoFileHolder holder(&journal, locker, item, side, false);
-      holder.Process();
-      replaced = true;
-    } catch (const std::exception& failure) {
-      journal.DropEdit();
-      result.findings.push_back({photo, failure.what()});
+      const ioPath side = journal.PlanEdit(file);
+      try {
+        write(file, side);
+        DataModel item;
+        item.SetPath(file);
+        item.SetSize(file.file_size());
+        UndoFileHolder holder(&journal, locker, item, side, false);
+        holder.Process();
+        replaced = true;
+      } catch (const std::exception& failure) {
+        result.findings.push_back({photo, failure.what()});
+        journal.DropEdit();
+      }
+    } catch (const HostError& failure) {
+      // Not the photo's fault, but the journal's, which finds out later how far it was.
+      if (result.findings.empty() || result.findings.back().file != photo) {
+        result.findings.push_back({photo, photo.utf8string() + " is as it was: " + failure.what()});
+      }
+      stopped = failure.what();
     }
     if (replaced) {
-      // Not to be dropped when this fails: the next journal finds out how far it was.
-      journal.FinishEdit();
       ++result.files;
+      try {
+        journal.FinishEdit();
+      } catch (const HostError& failure) {
+        tellLater(photo, failure);
+        stopped = failure.what();
+      }
     }
     if (progress) {
       progress(++looked, photos.size());
     }
   }
-  journal.EndStep();
+  try {
+    journal.EndStep();
+  } catch (const HostError& failure) {
+    if (stopped.empty() && !photos.empty()) {
+      tellLater(photos.back(), failure);
+    }
+  }
   return result;
 }
 

@@ -1,10 +1,11 @@
+#include "BlockedSteps.h"
 #include "CatalogueDatabase.h"
 #include "CatalogueRows.h"
 #include "CatalogueSchema.h"
 #include "DaysOfUse.h"
 #include "FileMoves.h"
+#include "JournalFolder.h"
 #include "KeptFiles.h"
-#include "ProcessLock.h"
 #include "ShotNames.h"
 #include "StepState.h"
 #include "TagSteps.h"
@@ -31,9 +32,6 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-constexpr std::chrono::milliseconds kBusyPause(50);
-constexpr int kBusyAttempts = 40;
-
 struct StepRow {
   qlonglong number = 0;
   QString name;
@@ -57,10 +55,6 @@ struct ChangeRow {
   std::string KeptBefore() const { return Kept("-before"); }
   std::string KeptAfter() const { return Kept("-after"); }
 };
-
-ioPath FolderOf(const ioPath& catalogue) {
-  return ioPath(catalogue.utf8string() + ".undo");
-}
 
 /// Short, whatever the length of the photo's own name, and hidden from scans.
 ioPath SideName(const ioPath& photo) {
@@ -92,8 +86,6 @@ bool BelongsToWhatStays(const ioPath& file, const std::vector<UndoFinding>& find
          });
 }
 
-const char* const kLockName = "lock";
-
 /// What the photo's file says, for the catalogue.
 std::optional<PhotoRecord> Read(const ioPath& photo) {
   PhotoRecord record;
@@ -101,11 +93,15 @@ std::optional<PhotoRecord> Read(const ioPath& photo) {
   return ReadPhoto(photo, record, ignored) ? std::make_optional(record) : std::nullopt;
 }
 
+/// Behind the sentence that tells why something could not be written down.
+const char* const kNotedLater = " What was done stays, and the next run writes it down.";
+
 }  // namespace
 
 class UndoJournal::Impl {
  public:
   Impl(const ioPath& catalogue, IFileAccessLocker& locker, const Tavolin::ITrash& trash);
+  ~Impl();
 
   UndoResult Rename(const QString& name, const RenamePlan& plan, const std::atomic<bool>& cancelled,
                     const UndoProgress& progress);
@@ -119,10 +115,17 @@ class UndoJournal::Impl {
   void EndStep();
   void RegisterFileChange(DataModel& item, const ioPath& newPath);
   UndoResult Reverse(bool redo, const std::atomic<bool>& cancelled, const UndoProgress& progress);
-  std::optional<UndoStep> SkipLast();
+  std::optional<SkippedStep> SkipLast();
   std::vector<UndoStep> Steps() const { return QuerySteps(database_); }
   std::size_t Prune(const UndoLimits& limits, const std::vector<UndoStep>* announced);
+  std::vector<BlockedStep> BlockedBy(const std::vector<ioPath>& files) const {
+    return StepsBlockedBy(database_, files);
+  }
   void KeepOriginals(bool keep) { keeps_ = keep; }
+  void KeepForRedo(bool keep) { keepsForRedo_ = keep; }
+  /// Writes down what happened to files. When the disk is full, in the room that was held for that.
+  template <class Work>
+  void Finish(const Work& work);
 
   std::vector<std::string> notes;
 
@@ -133,7 +136,6 @@ class UndoJournal::Impl {
     std::optional<UndoFinding> failure;
   };
 
-  void TakeLock(const ioPath& folder);
   void Recover();
   void SweepKept(const std::set<std::string>& wanted);
   void RecoverMoves(StepRow& step);
@@ -163,6 +165,7 @@ class UndoJournal::Impl {
   void FinishReversal(ChangeRow& change, bool redo);
   void Exchange(ChangeRow& change, bool redo);
 
+  void Prepare(std::uint64_t more = 0);
   qlonglong InsertStep(StepKind kind, const QString& name, std::size_t files, const QByteArray& moves);
   std::vector<StepRow> ReadSteps(const char* condition, bool withMoves) const;
   std::vector<ChangeRow> ReadChanges(qlonglong step) const;
@@ -174,7 +177,8 @@ class UndoJournal::Impl {
   void SettleStep(const StepRow& step);
 
   IFileAccessLocker& locker_;
-  ProcessLock lock_;
+  // Before the catalogue, which may need the room that it holds.
+  JournalFolder folder_;
   const Catalogue catalogue_;
   const CatalogueDatabase database_;
   const KeptFiles kept_;
@@ -182,41 +186,50 @@ class UndoJournal::Impl {
   const TagSteps tags_;
   qlonglong step_ = 0;
   bool keeps_ = true;
+  bool keepsForRedo_ = true;
+  /// Why the room that was held is in use: nothing more is begun. Empty: it is not.
+  std::string fault_;
+  /// What is taken back lacks the room for the version that redo would need.
+  bool lacksRoomForRedo_ = false;
   std::optional<ChangeRow> edit_;
 };
 
 UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker, const Tavolin::ITrash& trash)
     : locker_(locker),
+      folder_(catalogue.absolute()),
       // Makes or updates it.
       catalogue_(catalogue, Catalogue::Mode::ReadWrite),
       database_(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
-      kept_(FolderOf(catalogue.absolute())),
+      kept_(folder_.Path()),
       trash_(database_, locker, trash),
       tags_(database_) {
   // What the journal says must be on the disk before the photos change.
   database_.Execute("PRAGMA synchronous = FULL");
-  TakeLock(FolderOf(catalogue.absolute()));
-  CountDayOfUse(database_);
+  // The log must not need more room than is held for it.
+  database_.Execute("PRAGMA wal_autocheckpoint = 64");
+  folder_.Open();
   Recover();
+  CountDayOfUse(database_);
 }
 
-void UndoJournal::Impl::TakeLock(const ioPath& folder) {
-  const auto fail = [&folder](const std::string& cause) {
-    ThrowHostError(folder.utf8string(),
-                   "The undo journal " + folder.utf8string() + " cannot be used: " + cause);
-  };
-  if (const std::error_code error = MakeFolders(folder)) {
-    fail(ErrorText(error));
+UndoJournal::Impl::~Impl() {
+  try {
+    folder_.SetNeeded(database_.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state <> 6)").toBool());
+  } catch (const std::exception&) {
+    // Then it stays as it was.
   }
-  std::error_code error = lock_.Take(folder / kLockName);
-  for (int i = 1; error == std::errc::resource_unavailable_try_again && i < kBusyAttempts; ++i) {
-    App::SleepFor(kBusyPause);
-    error = lock_.Take(folder / kLockName);
-  }
-  if (error) {
-    fail(error == std::errc::resource_unavailable_try_again
-             ? "another program is renaming or editing photos with it; try again when that has finished"
-             : ErrorText(error));
+}
+
+template <class Work>
+void UndoJournal::Impl::Finish(const Work& work) {
+  try {
+    work();
+  } catch (const HostError& failure) {
+    fault_ = failure.what();
+    if (!folder_.Release()) {
+      throw;
+    }
+    work();
   }
 }
 
@@ -428,6 +441,9 @@ UndoResult UndoJournal::Impl::Rename(const QString& name, const RenamePlan& plan
   }
   StepRow step;
   step.moves = IdentifyMoves(plan.steps);
+  // Twice its moves, and the pages with its photos: all is one transaction.
+  constexpr std::uint64_t kBytesEach = 8192;
+  Prepare(std::min<std::uint64_t>(kBytesEach * step.moves.size(), 3 * database_.File().file_size()));
   step.number = InsertStep(StepKind::Rename, name, plan.renames.size(), PackMoves(step.moves));
   const std::size_t reached = DriveOrReturn(step, 0, step.moves.size(), cancelled, progress, result);
   result.files = reached == step.moves.size() ? plan.renames.size() : reached;
@@ -450,7 +466,14 @@ std::size_t UndoJournal::Impl::DriveOrReturn(StepRow& step, std::size_t begin, s
       result.findings.push_back(*drive.failure);
     }
   }
-  SettleMoves(step, drive.at);
+  try {
+    Finish([this, &step, &drive] {
+      StepRow settled = step;
+      SettleMoves(settled, drive.at);
+    });
+  } catch (const HostError& failure) {
+    result.findings.push_back({database_.File(), std::string(failure.what()) + kNotedLater});
+  }
   return drive.at;
 }
 
@@ -477,14 +500,24 @@ UndoResult UndoJournal::Impl::ReverseMoves(StepRow& step, bool redo, const std::
 
 // --- Edits
 
+/// Before anything is begun: room for writing down what happens, for taking it back, and `more` bytes.
+void UndoJournal::Impl::Prepare(std::uint64_t more) {
+  fault_.clear();
+  folder_.Hold(more);
+}
+
 void UndoJournal::Impl::BeginStep(const QString& name, StepKind kind) {
   if (step_ != 0) {
     EndStep();
   }
+  Prepare();
   step_ = InsertStep(kind, name, 0, {});
 }
 
 ioPath UndoJournal::Impl::PlanEdit(const ioPath& photo) {
+  if (!fault_.empty()) {
+    ThrowHostError(database_.File().utf8string(), fault_);
+  }
   ChangeRow change;
   change.path = photo;
   change.side = SideName(photo);
@@ -515,8 +548,10 @@ void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPat
     StoreChange(change, 0);
     return;
   }
-  if (keeps_) {
-    kept_.Keep(change.path, change.KeptBefore());
+  if (keeps_ && kept_.Keep(change.path, change.KeptBefore())) {
+    // Taking it back makes another copy here, and one in the photo's folder.
+    const bool isHere = QueryFile(change.path).identity.first == QueryFile(folder_.Path()).identity.first;
+    folder_.HoldForCopy(QueryFile(change.path).size * (isHere ? 2 : 1));
   }
   change.digestBefore = DigestOf(keeps_ ? kept_.PathOf(change.KeptBefore()) : change.path);
   if (!change.side.empty()) {
@@ -530,12 +565,14 @@ void UndoJournal::Impl::FinishEdit() {
   if (edit_) {
     SyncFolderOf(edit_->path);
     const auto photo = Read(edit_->path);
-    WriteTransaction transaction(database_);
-    SetState("changes", edit_->number, State::Done);
-    if (photo) {
-      UpdatePhotoRow(database_, *photo);
-    }
-    transaction.Commit();
+    Finish([this, &photo] {
+      WriteTransaction transaction(database_);
+      SetState("changes", edit_->number, State::Done);
+      if (photo) {
+        UpdatePhotoRow(database_, *photo);
+      }
+      transaction.Commit();
+    });
     edit_.reset();
   }
 }
@@ -544,7 +581,7 @@ void UndoJournal::Impl::DropEdit() {
   if (edit_) {
     // Not on the caller's word: the answer of a server can be lost, and the photo be replaced all the same.
     ChangeRow change = *std::exchange(edit_, std::nullopt);
-    SettleChange(change);
+    Finish([this, &change] { SettleChange(change); });
   }
 }
 
@@ -555,21 +592,23 @@ void UndoJournal::Impl::EndStep() {
   StepRow step;
   step.number = std::exchange(step_, 0);
   edit_.reset();
-  SettleStep(step);
+  Finish([this, &step] { SettleStep(step); });
 }
 
 /// Finds out what became of each change of an edit step, and closes the step.
 void UndoJournal::Impl::SettleStep(const StepRow& step) {
   std::size_t files = 0;
+  bool isKept = false;
   for (ChangeRow& change : ReadChanges(step.number)) {
     files += change.state == State::Done || SettleChange(change) ? 1 : 0;
+    isKept = isKept || change.adopted || IsKept(change, false);
   }
   if (files == 0) {
     DropStep(step.number);
     return;
   }
   QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(keeps_ ? State::Done : State::GivenUp));
+  query.addBindValue(static_cast<int>(isKept ? State::Done : State::GivenUp));
   query.addBindValue(static_cast<qlonglong>(files));
   query.addBindValue(step.number);
   database_.Run(query);
@@ -623,7 +662,14 @@ void UndoJournal::Impl::Exchange(ChangeRow& change, bool redo) {
   change.side = SideName(change.path);
   change.state = redo ? State::Redoing : State::Undoing;
   StoreChange(change, kept_.PathOf(incoming).file_size());
-  kept_.Keep(change.path, outgoing);
+  if (redo || keepsForRedo_) {
+    try {
+      kept_.Keep(change.path, outgoing);
+    } catch (const NoRoomError&) {
+      lacksRoomForRedo_ = true;
+      throw;
+    }
+  }
   DataModel item;
   item.SetPath(change.path);
   UndoFileHolder holder(nullptr, locker_, item, change.side, false);
@@ -725,6 +771,7 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
   std::size_t looked = 0;
   bool anyLeft = false;
   bool anyHope = false;
+  lacksRoomForRedo_ = false;
   for (ChangeRow& change : changes) {
     if (change.state != goal) {
       if (cancelled) {
@@ -745,8 +792,15 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
         result.findings.push_back({change.path, failure.what()});
       }
       if (possible) {
-        FinishReversal(change, redo);
         ++result.files;
+        try {
+          FinishReversal(change, redo);
+        } catch (const HostError& failure) {
+          anyLeft = true;
+          anyHope = true;
+          result.findings.push_back({change.path, std::string(failure.what()) + kNotedLater});
+          break;
+        }
       }
     }
     if (progress) {
@@ -754,8 +808,18 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
     }
   }
   const State state = anyLeft ? StateInPart(step.number, anyHope) : goal;
-  SetState("steps", step.number, state);
+  try {
+    if (state == State::Undone && !keepsForRedo_) {
+      // Neither can it be done again.
+      DropStep(step.number);
+    } else {
+      SetState("steps", step.number, state);
+    }
+  } catch (const HostError& failure) {
+    result.findings.push_back({database_.File(), std::string(failure.what()) + kNotedLater});
+  }
   result.stands = !redo && state == State::Done;
+  result.lacksRoomForRedo = lacksRoomForRedo_;
   return result;
 }
 
@@ -802,7 +866,11 @@ TrashResult UndoJournal::Impl::MoveToTrash(const QString& name, const std::vecto
       progress(++looked, photos.size());
     }
   }
-  SettleTrash(std::exchange(step_, 0));
+  try {
+    Finish([this, step = std::exchange(step_, 0)] { SettleTrash(step); });
+  } catch (const HostError& failure) {
+    result.findings.push_back({database_.File(), std::string(failure.what()) + kNotedLater});
+  }
   return result;
 }
 
@@ -872,6 +940,7 @@ UndoResult UndoJournal::Impl::ReverseTrash(StepRow& step, bool redo, const std::
 UndoResult UndoJournal::Impl::ChangeTags(const QString& name, const TagWishes& wishes) {
   UndoResult result;
   result.name = name;
+  Prepare();
   WriteTransaction transaction(database_);
   const qlonglong step = InsertStep(StepKind::Tags, name, 0, {});
   result.files = tags_.Apply(step, wishes);
@@ -908,6 +977,10 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
   if (steps.empty()) {
     return {};
   }
+  if (!redo && !keepsForRedo_) {
+    // What could be done again gives its room.
+    DropUndone();
+  }
   StepRow& step = steps.front();
   switch (step.kind) {
     case StepKind::Rename:
@@ -927,12 +1000,14 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
                  "The journal of " + database_.File().utf8string() + " holds a step of an unknown kind");
 }
 
-std::optional<UndoStep> UndoJournal::Impl::SkipLast() {
-  std::vector<UndoStep> steps = QuerySteps(database_, "s.state = 2 ORDER BY s.number DESC LIMIT 1");
+std::optional<SkippedStep> UndoJournal::Impl::SkipLast() {
+  const std::vector<UndoStep> steps = QuerySteps(database_, "s.state = 2 ORDER BY s.number DESC LIMIT 1");
   if (steps.empty()) {
     return std::nullopt;
   }
-  UndoStep& step = steps.front();
+  SkippedStep step;
+  static_cast<UndoStep&>(step) = steps.front();
+  step.blocked = StepsBlockedBy(database_, step.number);
   for (const ChangeRow& change : ReadChanges(step.number)) {
     // Of an exchange that was broken off out of reach. What it was made from is kept.
     if (!change.adopted && !change.side.empty()) {
@@ -941,7 +1016,7 @@ std::optional<UndoStep> UndoJournal::Impl::SkipLast() {
   }
   SetState("steps", step.number, State::GivenUp);
   step.givenUp = true;
-  return std::move(step);
+  return step;
 }
 
 // --- Recovery
@@ -956,7 +1031,7 @@ void UndoJournal::Impl::Recover() {
       RecoverChanges(step);
     }
   }
-  std::set<std::string> wanted = {kLockName};
+  std::set<std::string> wanted;
   for (const StepRow& step : ReadSteps("kind = 2", false)) {
     for (const ChangeRow& change : ReadChanges(step.number)) {
       if (change.state == State::Undone || IsUnderWay(change.state)) {
@@ -1127,7 +1202,11 @@ UndoResult UndoJournal::UndoLast(const std::atomic<bool>& cancelled, const UndoP
   return impl_->Reverse(false, cancelled, progress);
 }
 
-std::optional<UndoStep> UndoJournal::SkipLast() {
+std::vector<BlockedStep> UndoJournal::BlockedBy(const std::vector<ioPath>& files) const {
+  return impl_->BlockedBy(files);
+}
+
+std::optional<SkippedStep> UndoJournal::SkipLast() {
   impl_->EndStep();
   return impl_->SkipLast();
 }
@@ -1144,6 +1223,10 @@ std::vector<UndoStep> UndoJournal::Steps() const {
 void UndoJournal::KeepOriginals(bool keep) {
   impl_->EndStep();
   impl_->KeepOriginals(keep);
+}
+
+void UndoJournal::KeepForRedo(bool keep) {
+  impl_->KeepForRedo(keep);
 }
 
 std::size_t UndoJournal::Prune(const UndoLimits& limits) {

@@ -1,5 +1,6 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/core/PrivateFiles.h>
 #include <zenvora/strandel/StatisticsFile.h>
 
 #include <glog/logging.h>
@@ -96,7 +97,7 @@ bool BreaksOff(const ioPath& file) {
 
 /// Why the line is not in the file now; empty: it is.
 std::string Append(const ioPath& file, const std::string& line) {
-  if (const std::error_code error = MakeFolders(file.parent_path())) {
+  if (const std::error_code error = MakePrivateFolders(file.parent_path())) {
     return "the folder of " + file.utf8string() + " cannot be made: " + ErrorText(error);
   }
   std::string fault = FindFault(file);
@@ -105,6 +106,7 @@ std::string Append(const ioPath& file, const std::string& line) {
   }
   const bool isTorn = BreaksOff(file);
   std::ofstream stream(file.for_system(), std::ios::binary | std::ios::app);
+  MakePrivate(file);
   // Handed to the system as a whole when the stream is closed.
   stream << (isTorn ? '\n' + line : line);
   stream.close();

@@ -38,6 +38,17 @@ struct UndoStep {
   std::int64_t daysOfUse = 0;   ///< How many days the journal was used on since.
 };
 
+/// A step that cannot be taken back, or not whole, for what was done since.
+struct BlockedStep {
+  UndoStep step;
+  std::vector<ioPath> files;  ///< That stand in another way than it left them.
+};
+
+/// A step that was given up. `blocked`: the older ones that wait for it in vain.
+struct SkippedStep : UndoStep {
+  std::vector<BlockedStep> blocked;
+};
+
 /// A file that could not be treated as asked.
 struct UndoFinding {
   ioPath file;
@@ -50,6 +61,8 @@ struct UndoResult {
   std::size_t files = 0;  ///< Changed or renamed.
   bool cancelled = false;
   bool stands = false;  ///< Of an undo: not all of the step could be taken back, and older ones wait for it.
+  /// Of an undo: something was left for want of the room that redo needs (`UndoJournal::KeepForRedo`).
+  bool lacksRoomForRedo = false;
   std::vector<UndoFinding> findings;
 };
 
@@ -85,7 +98,9 @@ using UndoProgress = std::function<void(std::size_t, std::size_t)>;
 
 /// The history of what was done to photo files, kept in the catalogue: what is to be done is on the disk
 /// before it is done, and the originals lie in a folder beside the catalogue (its name with ".undo") until
-/// they are too old or too many. docs/decisions/undo.md tells how, docs/formats/catalogue.md has the tables.
+/// they are too old or too many. Room for finishing a step and for taking it back is held there before the
+/// step begins: both work when the disk is full. docs/decisions/undo.md tells how, docs/formats/catalogue.md
+/// has the tables.
 ///
 /// Whatever was under way when the program or the machine stopped is finished or taken back when the next
 /// journal is opened, as soon as its photos can be reached. One journal of a catalogue can be open at a time,
@@ -135,6 +150,9 @@ class UndoJournal : public IUndo {
   /// Whether the originals of edits to come are kept, as they are at first. A step without them is given up
   /// from its beginning: it cannot be taken back.
   void KeepOriginals(bool keep);
+  /// Whether what undo replaces is kept for redo, as it is at first. Without, undo needs no new room beside
+  /// the catalogue, but what was taken back, now and before, cannot be done again.
+  void KeepForRedo(bool keep);
 
   void BeginStep(const QString& name) override;
   /// A step without changes is forgotten.
@@ -148,7 +166,10 @@ class UndoJournal : public IUndo {
   UndoResult UndoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
   /// Gives the last step that stands up: it stays as it is for good, and the next undo takes the one before.
   /// What is kept of it goes when `Prune` forgets it. Returns the step; empty: there was none.
-  std::optional<UndoStep> SkipLast();
+  std::optional<SkippedStep> SkipLast();
+  /// Steps that stand and could not be taken back, or not whole, if these files were changed for good. The
+  /// latest first.
+  std::vector<BlockedStep> BlockedBy(const std::vector<ioPath>& files) const;
   /// Does again what was taken back last.
   UndoResult RedoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
 

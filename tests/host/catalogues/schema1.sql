@@ -1,0 +1,16 @@
+PRAGMA application_id = 1280132184;
+CREATE TABLE photos ( number INTEGER PRIMARY KEY, id TEXT NOT NULL UNIQUE, path BLOB NOT NULL UNIQUE, size INTEGER NOT NULL, modified_ns INTEGER NOT NULL, taken TEXT, taken_source INTEGER NOT NULL, camera TEXT NOT NULL, lost INTEGER NOT NULL DEFAULT 0 CHECK (lost IN (0, 1)));
+CREATE TABLE albums ( number INTEGER PRIMARY KEY, id TEXT NOT NULL UNIQUE, name TEXT NOT NULL UNIQUE, first_day TEXT);
+CREATE TABLE album_photos ( album INTEGER NOT NULL REFERENCES albums (number), position INTEGER NOT NULL, photo INTEGER NOT NULL REFERENCES photos (number), PRIMARY KEY (album, position), UNIQUE (album, photo)) WITHOUT ROWID;
+CREATE INDEX album_photos_by_photo ON album_photos (photo);
+CREATE TABLE album_attributes ( album INTEGER NOT NULL REFERENCES albums (number), attribute INTEGER NOT NULL, value TEXT NOT NULL, PRIMARY KEY (album, attribute)) WITHOUT ROWID;
+INSERT INTO photos (number, id, path, size, modified_ns, taken, taken_source, camera, lost) VALUES (1, '0bf62da9-626a-4902-8e41-d37d135d9969', CAST('@ROOT@/photos/renamed.jpg' AS BLOB), 247, 1715940000000000000, '2024-05-17T10:00:00.000', 1, 'Model A', 0);
+INSERT INTO photos (number, id, path, size, modified_ns, taken, taken_source, camera, lost) VALUES (2, '61a4a04a-3c4b-40a6-9fe6-96d568212439', CAST('@ROOT@/photos/b.jpg' AS BLOB), 247, 1715940060000000000, '2024-05-17T11:01:00.000', 1, 'Model B', 0);
+INSERT INTO photos (number, id, path, size, modified_ns, taken, taken_source, camera, lost) VALUES (3, 'adac1cd7-b667-4efb-8ad6-98065694ceb4', CAST('@ROOT@/photos/lost.jpg' AS BLOB), 247, 1715940180000000000, '2024-05-17T10:03:00.000', 1, 'Model D', 1);
+INSERT INTO photos (number, id, path, size, modified_ns, taken, taken_source, camera, lost) VALUES (4, 'c3d7d223-c696-48ab-8e0c-b804d014ed4b', CAST('@ROOT@/photos/trash.jpg' AS BLOB), 247, 1715940240000000000, '2024-05-17T10:04:00.000', 1, 'Model E', 0);
+INSERT INTO photos (number, id, path, size, modified_ns, taken, taken_source, camera, lost) VALUES (5, '16788ece-7f79-4501-a99f-79e8b4f85ea8', CAST('@ROOT@/photos/c.jpg' AS BLOB), 247, 1715940120000000000, '2024-05-17T10:02:00.000', 1, 'Model C', 0);
+INSERT INTO albums (number, id, name, first_day) VALUES (1, '{11111111-2222-3333-4444-555555555555}', 'Trip, May 2024', '2024-05-17');
+INSERT INTO album_photos (album, position, photo) VALUES (1, 0, 2);
+INSERT INTO album_photos (album, position, photo) VALUES (1, 1, 5);
+INSERT INTO album_attributes (album, attribute, value) VALUES (1, 0, 'kept');
+PRAGMA user_version = 1;
