@@ -119,6 +119,17 @@ TEST_F(FindCommand, NeedsACatalogueAndMakesNone) {
   EXPECT_FALSE(tree.Path("none.sqlite").exists());
 }
 
+TEST_F(FindCommand, NamesWhereADateIsFromAsInfoDoes) {
+  WriteJpeg(Photos() / "undated.jpg", PhotoTags());
+  ASSERT_EQ(Run({"scan", "photos"}).exitCode, 0);
+  const QString photo = Text(Photos() / "undated.jpg");
+  const QJsonObject found =
+      Run({"find", "--json", "--text", "undated"}).Json()["photos"].toArray()[0].toObject();
+  const QJsonObject told = Run({"info", "--json", photo}).Json()["photos"].toArray()[0].toObject();
+  EXPECT_EQ(found["takenSource"].toString(), QStringLiteral("fileTime"));
+  EXPECT_EQ(found["takenSource"], told["dateSource"]);
+}
+
 TEST_F(FindCommand, WritesOneDocumentWithAllItsMembers) {
   const QJsonObject document = Run({"find", "--json", "--date", "2023-06-02 - "}).Json();
   EXPECT_EQ(document["format"].toString(), QStringLiteral("lumidex.find"));

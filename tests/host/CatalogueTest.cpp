@@ -311,7 +311,7 @@ TEST_F(CatalogueContent, KeepsLostPhotosInTheirAlbums) {
 TEST(DateSourceName, NamesEverySource) {
   EXPECT_STREQ(DateSourceName(DateSource::Original), "original");
   EXPECT_STREQ(DateSourceName(DateSource::Digitised), "digitised");
-  EXPECT_STREQ(DateSourceName(DateSource::FileTime), "file time");
+  EXPECT_STREQ(DateSourceName(DateSource::FileTime), "fileTime");
   EXPECT_STREQ(DateSourceName(DateSource::None), "none");
 }
 

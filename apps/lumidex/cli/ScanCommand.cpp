@@ -161,7 +161,7 @@ std::string ResultDocument(const ScanArguments& arguments, const ioPath& catalog
   json.Number("lost", static_cast<long long>(result.lost));
   json.BeginObject("dated");
   for (const DateSource source : kDateSources) {
-    const std::string name = source == DateSource::FileTime ? "fileTime" : Host::DateSourceName(source);
+    const std::string name = Host::DateSourceName(source);
     json.Number(name, static_cast<long long>(result.dated[static_cast<int>(source)]));
   }
   json.EndObject();

@@ -145,7 +145,7 @@ const char* DateSourceName(DateSource source) {
     case DateSource::Digitised:
       return "digitised";
     case DateSource::FileTime:
-      return "file time";
+      return "fileTime";
   }
   return "none";
 }

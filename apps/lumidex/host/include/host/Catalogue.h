@@ -20,7 +20,7 @@ namespace Zenvora::Lumidex::Host {
 /// Where a photo's date came from. The numbers are stored.
 enum class DateSource : int { None = 0, Original = 1, Digitised = 2, FileTime = 3 };
 
-/// "original", "digitised", "file time" or "none".
+/// "original", "digitised", "fileTime" or "none".
 const char* DateSourceName(DateSource source);
 
 /// Where a photo was taken, in degrees: -90..90, positive to the north, and -180..180, positive to the east.
