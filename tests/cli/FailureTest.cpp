@@ -83,6 +83,11 @@ TEST_F(FailingCommand, SaysWhereAnOptionBelongs) {
       HasSubstr("There is no option --locale in front of a command; it belongs to: albums, calendar show"));
 }
 
+TEST_F(FailingCommand, SaysHowATagOfOneLetterIsTakenAway) {
+  EXPECT_THAT(Run({"tag", "photos", "-x"}).err,
+              HasSubstr("There is no option -x; to take away the tag x, write --remove x (see"));
+}
+
 TEST_F(FailingCommand, NamesAMistypedOptionBeforeTheOneThatIsMissing) {
   EXPECT_THAT(Run({"rename", "--patern", "{date}", "a"}).err, HasSubstr("did you mean \"--pattern\"?"));
   EXPECT_THAT(Run({"rename", "--dry", "a"}).err, HasSubstr("did you mean \"--dry-run\"?"));

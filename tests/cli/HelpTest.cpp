@@ -65,7 +65,9 @@ TEST_F(HelpPages, ComeWithOptionsOfTheProgram) {
                                                           {"--catalogue=x", "help", "albums"},
                                                           {"--catalogue", "x", "help", "albums"},
                                                           {"help", "-q", "albums"},
-                                                          {"help", "help", "albums"}}) {
+                                                          {"help", "help", "albums"},
+                                                          {"help", "albums", "--report"},
+                                                          {"help", "albums", "--frob", "x"}}) {
     const Ran ran = Run(line);
     EXPECT_EQ(ran.exitCode, 0) << line.join(QLatin1Char(' ')).toStdString();
     EXPECT_EQ(ran.out, page) << line.join(QLatin1Char(' ')).toStdString();

@@ -172,6 +172,10 @@ Words Rewritten(Words words) {
     while (command != words.end() && *command == "help") {
       command = words.erase(command);
     }
+    // Options and their values say nothing of the page, and one without its value is no fault here.
+    command = FindCommand(words);
+    const auto isOption = [](const std::string& word) { return word.size() > 1 && word.front() == '-'; };
+    words.erase(std::find_if(command, words.end(), isOption), words.end());
     words.emplace_back("--help");
   }
   return words;
@@ -300,6 +304,11 @@ std::vector<std::string> CommandsWith(const std::string& option, const CLI::App&
   if (HasOption(command, option)) {
     ThrowUsage(command,
                "The option " + option + " belongs behind its command: lumidex " + name + ' ' + option);
+  }
+  if (name == "tag" && word.size() == 2) {
+    const std::string tag = word.substr(1);
+    ThrowUsage(command,
+               "There is no option " + word + "; to take away the tag " + tag + ", write --remove " + tag);
   }
   const std::vector<std::string> others = CommandsWith(option, program);
   const std::string fault = name.empty() ? "There is no option " + word + " in front of a command"
