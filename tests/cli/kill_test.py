@@ -4,6 +4,7 @@
 Each round runs one batch over all photos of a folder and kills it (SIGKILL) after a random time. The next start of
 lumidex recovers. Then
   - every picture is there once, byte for byte as it was before the batch or as an undisturbed run makes it,
+  - the catalogue of a first scan is not there yet, or sound,
   - a rename is done as a whole or not at all,
   - no side file is left, neither among the photos nor in the undo folder,
   - journal and disk agree: taking the step back, if the journal has it, gives the very files from before: their names,
@@ -174,6 +175,30 @@ def play(catalogue, spare, batch, arguments, random_source, duration):
     return killed, done
 
 
+def play_first_scans(program, root, photos, rounds, random_source):
+    """Kills the very first scan: what is there then is no catalogue yet, or a sound one."""
+    started = time.monotonic()
+    place = os.path.join(root, "first")
+    for number in range(rounds + 1):
+        shutil.rmtree(place, ignore_errors=True)
+        os.makedirs(place)
+        command = [program, "--json", "--catalogue", os.path.join(place, "catalogue.sqlite")]
+        process = subprocess.Popen(command + ["scan", photos], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        if number == 0:
+            # How long it takes when nobody disturbs it.
+            process.wait()
+            took = time.monotonic() - started
+        else:
+            time.sleep(random_source.uniform(0, took))
+            process.send_signal(signal.SIGKILL)
+            process.wait()
+        for arguments, codes in ((["undo", "--list"], (0,)), (["undo"], (1,)), (["scan", photos], (0, 1)), (["albums"], (0, 1))):
+            done = subprocess.run(command + arguments, capture_output=True, check=False)
+            require(done.returncode in codes,
+                    f"first scan: {arguments[0]} ends with {done.returncode}: {done.stdout.decode(errors='replace')}")
+    shutil.rmtree(place)
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--lumidex", required=True)
@@ -216,7 +241,9 @@ def main():
 
     killed = 0
     partly = 0
+    number = -1
     try:
+        play_first_scans(arguments.lumidex, root, catalogue.photos, max(5, arguments.rounds // 4), random_source)
         for number in range(arguments.rounds):
             batch, words = random_source.choice(BATCHES)
             words = [word.replace("{{round}}", str(number)).replace("{{", "{").replace("}}", "}") for word in words]

@@ -219,6 +219,9 @@ class EditRun {
     view_.findings.insert(view_.findings.end(), result.findings.begin(), result.findings.end());
     if (result.files > 0) {
       view_.forgotten = journal_->Prune(view_.room.forgotten);
+      if (arguments_.room.noUndo) {
+        view_.blocked = journal_->Get().BlockedBy(photos_);
+      }
       view_.canBeUndone = journal_->CanUndoLast();
     }
   }

@@ -47,7 +47,7 @@ std::string OutcomeText(const EditView& view) {
                  ? Words::tr("%1 photos edited; \"lumidex undo\" takes it back.", nullptr, amount)
                  : Words::tr("%1 photos edited; it cannot be undone.", nullptr, amount),
              {photos}) +
-         '\n' + ForgottenLine(view.forgotten);
+         '\n' + ForgottenLine(view.forgotten) + BlockedText(view.blocked);
 }
 
 void WriteTried(JsonWriter& json, const std::vector<TriedEdit>& tried) {
@@ -81,6 +81,7 @@ std::string EditDocument(const EditView& view) {
   WriteFindings(json, view.findings);
   json.Truth("canBeUndone", view.canBeUndone);
   WriteRoom(json, view.room, view.roomWish);
+  WriteBlocked(json, view.blocked);
   json.Number("forgotten", static_cast<long long>(view.forgotten));
   WriteRecovered(json, view.recovered);
   return json.Finish();

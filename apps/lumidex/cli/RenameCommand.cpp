@@ -178,7 +178,7 @@ class RenameRun {
       return ExitCode::Interrupted;
     }
     if (!view_.result.findings.empty()) {
-      return ExitCode::Failed;
+      return view_.result.files > 0 ? ExitCode::Partly : ExitCode::Failed;
     }
     if (view_.refused || view_.shots == 0) {
       return ExitCode::Findings;

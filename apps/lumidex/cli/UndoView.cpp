@@ -73,7 +73,7 @@ std::string ResultText(const UndoResult& result, bool redo) {
 }
 
 /// What waits in vain for a step that was skipped.
-std::string BlockedText(const BlockedStep& blocked) {
+std::string LineOfBlocked(const BlockedStep& blocked) {
   constexpr std::size_t kMostShown = 10;
   const std::size_t files = blocked.files.size();
   std::string text =
@@ -101,9 +101,7 @@ std::string SkippedText(const std::vector<SkippedStep>& steps) {
                         {SizeText(step.keptBytes)});
     }
     text += '\n';
-    for (const BlockedStep& blocked : step.blocked) {
-      text += BlockedText(blocked);
-    }
+    text += BlockedText(step.blocked);
   }
   return text;
 }
@@ -155,17 +153,31 @@ void WriteSkipped(JsonWriter& json, const std::vector<SkippedStep>& steps) {
   for (const SkippedStep& step : steps) {
     json.BeginObject();
     WriteFacts(json, step);
-    json.BeginArray("blocked");
-    for (const BlockedStep& blocked : step.blocked) {
+    WriteBlocked(json, step.blocked);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+}  // namespace
+
+std::string BlockedText(const std::vector<BlockedStep>& steps) {
+  std::string text;
+  for (const BlockedStep& step : steps) {
+    text += LineOfBlocked(step);
+  }
+  return text;
+}
+
+void WriteBlocked(JsonWriter& json, const std::vector<BlockedStep>& steps) {
+  json.BeginArray("blocked");
+  for (const BlockedStep& blocked : steps) {
+    json.BeginObject();
+    WriteFacts(json, blocked.step);
+    json.BeginArray("left");
+    for (const ioPath& file : blocked.files) {
       json.BeginObject();
-      WriteFacts(json, blocked.step);
-      json.BeginArray("left");
-      for (const ioPath& file : blocked.files) {
-        json.BeginObject();
-        json.Path("path", file);
-        json.EndObject();
-      }
-      json.EndArray();
+      json.Path("path", file);
       json.EndObject();
     }
     json.EndArray();
@@ -173,8 +185,6 @@ void WriteSkipped(JsonWriter& json, const std::vector<SkippedStep>& steps) {
   }
   json.EndArray();
 }
-
-}  // namespace
 
 std::string ForgottenLine(std::size_t steps) {
   return steps == 0 ? std::string()

@@ -33,6 +33,10 @@ struct UndoView {
 std::string WhenText(const Host::UndoStep& step);
 /// That so many older steps cannot be undone any more, as a line; empty for none.
 std::string ForgottenLine(std::size_t steps);
+/// What older steps will leave as it is for a later one; empty for none.
+std::string BlockedText(const std::vector<Host::BlockedStep>& blocked);
+/// The array "blocked".
+void WriteBlocked(JsonWriter& json, const std::vector<Host::BlockedStep>& blocked);
 /// An array with all that is known of steps.
 void WriteSteps(JsonWriter& json, const char* name, const std::vector<Host::UndoStep>& steps);
 

@@ -105,7 +105,7 @@ std::int64_t NumberOf(const std::string& name) {
   return isVersion && digits > 0 && digits <= kMostDigits ? std::stoll(name.substr(0, digits)) : 0;
 }
 
-/// True when it took room.
+/// True when a copy in the other direction takes room as well: nothing can be shared between the two folders.
 bool Reproduce(const ioPath& from, const ioPath& to) {
   RequireFile(from);
   if (ShareBlocks(from, to)) {
@@ -117,12 +117,12 @@ bool Reproduce(const ioPath& from, const ioPath& to) {
   std::error_code error;
   const bool isLink = std::filesystem::is_symlink(std::filesystem::symlink_status(from.for_system(), error));
   const bool isAlone = !isLink && QueryFile(from).names == 1;
-  const bool copies = !isAlone || AddName(from, to);
-  if (copies) {
+  const bool mayNotShare = isAlone && AddName(from, to);
+  if (!isAlone || mayNotShare) {
     Copy(from, to);
   }
   SyncFolderOf(to);
-  return copies;
+  return mayNotShare || QueryFile(from).identity.first != QueryFile(to).identity.first;
 }
 
 }  // namespace

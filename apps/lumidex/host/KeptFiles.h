@@ -29,7 +29,8 @@ class KeptFiles {
   /// Keeps what `file` holds now, with its time and, as far as the system lets us, its rights, its owner and
   /// what people noted of it (`NewFile::TakeRightsOf`), safe on the disk when this returns: its blocks are
   /// shared where the file system can, or the file gets a second name, else it is copied. What was kept under
-  /// the name before is replaced. True when it takes room: a copy.
+  /// the name before is replaced. True when it is a copy, and
+  /// putting it back makes another one.
   bool Keep(const ioPath& file, const std::string& name) const;
   /// Makes the new file `side` of what is kept, likewise.
   void PutBeside(const std::string& name, const ioPath& side) const;

@@ -3,6 +3,7 @@
 #include "CatalogueRows.h"
 #include "CatalogueSchema.h"
 #include "DaysOfUse.h"
+#include "EditChanges.h"
 #include "FileMoves.h"
 #include "JournalFolder.h"
 #include "KeptFiles.h"
@@ -21,7 +22,6 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
-#include <zenvora/tavolin/Uuid.h>
 
 #include <algorithm>
 #include <optional>
@@ -39,28 +39,6 @@ struct StepRow {
   StepKind kind = StepKind::Unknown;
   std::vector<FileMove> moves;
 };
-
-struct ChangeRow {
-  qlonglong number = 0;
-  State state = State::Planned;
-  ioPath path;
-  ioPath side;
-  bool adopted = false;
-  QByteArray digestBefore;
-  QByteArray digestAfter;
-
-  std::string Kept(const char* version) const {
-    return std::to_string(number) + version + path.extension().utf8string();
-  }
-  std::string KeptBefore() const { return Kept("-before"); }
-  std::string KeptAfter() const { return Kept("-after"); }
-};
-
-/// Short, whatever the length of the photo's own name, and hidden from scans.
-ioPath SideName(const ioPath& photo) {
-  const std::string token = Tavolin::GenerateUuid().left(13).toStdString();
-  return photo.parent_path() / ioPath(".lumidex-" + token + photo.extension().utf8string());
-}
 
 /// Of a step after files of it were moved back or again.
 State StateOfTrash(const std::vector<TrashedFile>& files, State goal, bool anyHope) {
@@ -168,9 +146,7 @@ class UndoJournal::Impl {
   void Prepare(std::uint64_t more = 0);
   qlonglong InsertStep(StepKind kind, const QString& name, std::size_t files, const QByteArray& moves);
   std::vector<StepRow> ReadSteps(const char* condition, bool withMoves) const;
-  std::vector<ChangeRow> ReadChanges(qlonglong step) const;
   void SetState(const char* table, qlonglong number, State state) const;
-  void StoreChange(const ChangeRow& change, std::uint64_t keptSize) const;
   void DropChange(const ChangeRow& change) const;
   void DropStep(qlonglong step) const;
   void DropUndone() const;
@@ -271,47 +247,11 @@ std::vector<StepRow> UndoJournal::Impl::ReadSteps(const char* condition, bool wi
   return steps;
 }
 
-std::vector<ChangeRow> UndoJournal::Impl::ReadChanges(qlonglong step) const {
-  QSqlQuery query = database_.Prepare(
-      "SELECT number, state, path, side, adopted, digest_before, digest_after FROM changes WHERE step = ?"
-      " ORDER BY number");
-  query.addBindValue(step);
-  database_.Run(query);
-  std::vector<ChangeRow> changes;
-  while (database_.Next(query)) {
-    ChangeRow change;
-    change.number = query.value(0).toLongLong();
-    change.state = static_cast<State>(query.value(1).toInt());
-    change.path = PathOf(query.value(2));
-    change.side = PathOf(query.value(3));
-    change.adopted = query.value(4).toBool();
-    change.digestBefore = query.value(5).toByteArray();
-    change.digestAfter = query.value(6).toByteArray();
-    changes.push_back(std::move(change));
-  }
-  return changes;
-}
-
 void UndoJournal::Impl::SetState(const char* table, qlonglong number, State state) const {
   const std::string sql = std::string("UPDATE ") + table + " SET state = ? WHERE number = ?";
   QSqlQuery query = database_.Prepare(sql.c_str());
   query.addBindValue(static_cast<int>(state));
   query.addBindValue(number);
-  database_.Run(query);
-}
-
-void UndoJournal::Impl::StoreChange(const ChangeRow& change, std::uint64_t keptSize) const {
-  QSqlQuery query = database_.Prepare(
-      "UPDATE changes SET state = ?, side = ?, adopted = ?, kept_size = ?, digest_before = ?, digest_after = "
-      "?"
-      " WHERE number = ?");
-  query.addBindValue(static_cast<int>(change.state));
-  query.addBindValue(PathBytes(change.side));
-  query.addBindValue(change.adopted ? 1 : 0);
-  query.addBindValue(static_cast<qlonglong>(keptSize));
-  query.addBindValue(change.digestBefore);
-  query.addBindValue(change.digestAfter);
-  query.addBindValue(change.number);
   database_.Run(query);
 }
 
@@ -325,7 +265,7 @@ void UndoJournal::Impl::DropChange(const ChangeRow& change) const {
 }
 
 void UndoJournal::Impl::DropStep(qlonglong step) const {
-  const std::vector<ChangeRow> changes = ReadChanges(step);
+  const std::vector<ChangeRow> changes = ReadChanges(database_, step);
   QSqlQuery query = database_.Prepare("DELETE FROM steps WHERE number = ?");
   query.addBindValue(step);
   database_.Run(query);
@@ -545,7 +485,7 @@ void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPat
     change.state = State::Doing;
     change.adopted = true;
     change.side = newPath;
-    StoreChange(change, 0);
+    StoreChange(database_, change, 0);
     return;
   }
   if (keeps_ && kept_.Keep(change.path, change.KeptBefore())) {
@@ -558,7 +498,7 @@ void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPat
     change.digestAfter = DigestOf(change.side);
   }
   change.state = State::Doing;
-  StoreChange(change, kept_.PathOf(change.KeptBefore()).file_size());
+  StoreChange(database_, change, kept_.PathOf(change.KeptBefore()).file_size());
 }
 
 void UndoJournal::Impl::FinishEdit() {
@@ -599,7 +539,7 @@ void UndoJournal::Impl::EndStep() {
 void UndoJournal::Impl::SettleStep(const StepRow& step) {
   std::size_t files = 0;
   bool isKept = false;
-  for (ChangeRow& change : ReadChanges(step.number)) {
+  for (ChangeRow& change : ReadChanges(database_, step.number)) {
     files += change.state == State::Done || SettleChange(change) ? 1 : 0;
     isKept = isKept || change.adopted || IsKept(change, false);
   }
@@ -640,7 +580,7 @@ bool UndoJournal::Impl::SettleChange(ChangeRow& change) {
       change.state = State::Done;
       const auto photo = Read(change.path);
       WriteTransaction transaction(database_);
-      StoreChange(change, kept_.PathOf(change.KeptBefore()).file_size());
+      StoreChange(database_, change, kept_.PathOf(change.KeptBefore()).file_size());
       if (photo) {
         UpdatePhotoRow(database_, *photo);
       }
@@ -661,7 +601,7 @@ void UndoJournal::Impl::Exchange(ChangeRow& change, bool redo) {
   }
   change.side = SideName(change.path);
   change.state = redo ? State::Redoing : State::Undoing;
-  StoreChange(change, kept_.PathOf(incoming).file_size());
+  StoreChange(database_, change, kept_.PathOf(incoming).file_size());
   if (redo || keepsForRedo_) {
     try {
       kept_.Keep(change.path, outgoing);
@@ -673,7 +613,14 @@ void UndoJournal::Impl::Exchange(ChangeRow& change, bool redo) {
   DataModel item;
   item.SetPath(change.path);
   UndoFileHolder holder(nullptr, locker_, item, change.side, false);
-  kept_.PutBeside(incoming, change.side);
+  try {
+    kept_.PutBeside(incoming, change.side);
+  } catch (const NoRoomError&) {
+    ThrowHostError(
+        change.path.utf8string(),
+        change.path.utf8string() + " is left as it is: its disk has no room for its other version (" +
+            std::to_string(kept_.PathOf(incoming).file_size()) + " bytes). Make room there and try again");
+  }
   holder.Process();
   SyncFolderOf(change.path);
 }
@@ -689,7 +636,7 @@ void UndoJournal::Impl::FinishReversal(ChangeRow& change, bool redo) {
     SetState("changes", change.number, change.state);
   } else {
     change.side.clear();
-    StoreChange(change, kept_.PathOf(outgoing).file_size());
+    StoreChange(database_, change, kept_.PathOf(outgoing).file_size());
     if (photo) {
       UpdatePhotoRow(database_, *photo);
     }
@@ -750,7 +697,7 @@ State UndoJournal::Impl::StateInPart(qlonglong step, bool anyHope) const {
     // Else no older step could ever be taken back.
     return State::GivenUp;
   }
-  const std::vector<ChangeRow> changes = ReadChanges(step);
+  const std::vector<ChangeRow> changes = ReadChanges(database_, step);
   // What was taken back goes with the next step: only where no photo needs its original.
   const bool allUndone = std::all_of(changes.begin(), changes.end(),
                                      [](const ChangeRow& change) { return change.state == State::Undone; });
@@ -763,7 +710,7 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
   result.name = step.name;
   const State goal = redo ? State::Done : State::Undone;
   SetState("steps", step.number, redo ? State::Redoing : State::Undoing);
-  std::vector<ChangeRow> changes = ReadChanges(step.number);
+  std::vector<ChangeRow> changes = ReadChanges(database_, step.number);
   if (!redo) {
     // A photo that was changed twice goes back step by step.
     std::reverse(changes.begin(), changes.end());
@@ -1008,7 +955,7 @@ std::optional<SkippedStep> UndoJournal::Impl::SkipLast() {
   SkippedStep step;
   static_cast<UndoStep&>(step) = steps.front();
   step.blocked = StepsBlockedBy(database_, step.number);
-  for (const ChangeRow& change : ReadChanges(step.number)) {
+  for (const ChangeRow& change : ReadChanges(database_, step.number)) {
     // Of an exchange that was broken off out of reach. What it was made from is kept.
     if (!change.adopted && !change.side.empty()) {
       change.side.remove();
@@ -1033,7 +980,7 @@ void UndoJournal::Impl::Recover() {
   }
   std::set<std::string> wanted;
   for (const StepRow& step : ReadSteps("kind = 2", false)) {
-    for (const ChangeRow& change : ReadChanges(step.number)) {
+    for (const ChangeRow& change : ReadChanges(database_, step.number)) {
       if (change.state == State::Undone || IsUnderWay(change.state)) {
         wanted.insert(change.KeptAfter());
       }

@@ -1,0 +1,52 @@
+#include "EditChanges.h"
+
+#include "CatalogueRows.h"
+
+#include <zenvora/tavolin/Uuid.h>
+
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+ioPath SideName(const ioPath& photo) {
+  const std::string token = Tavolin::GenerateUuid().left(13).toStdString();
+  return photo.parent_path() / ioPath(".lumidex-" + token + photo.extension().utf8string());
+}
+
+std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step) {
+  QSqlQuery query = database.Prepare(
+      "SELECT number, state, path, side, adopted, digest_before, digest_after FROM changes WHERE step = ?"
+      " ORDER BY number");
+  query.addBindValue(step);
+  database.Run(query);
+  std::vector<ChangeRow> changes;
+  while (database.Next(query)) {
+    ChangeRow change;
+    change.number = query.value(0).toLongLong();
+    change.state = static_cast<State>(query.value(1).toInt());
+    change.path = PathOf(query.value(2));
+    change.side = PathOf(query.value(3));
+    change.adopted = query.value(4).toBool();
+    change.digestBefore = query.value(5).toByteArray();
+    change.digestAfter = query.value(6).toByteArray();
+    changes.push_back(std::move(change));
+  }
+  return changes;
+}
+
+void StoreChange(const CatalogueDatabase& database, const ChangeRow& change, std::uint64_t keptSize) {
+  QSqlQuery query = database.Prepare(
+      "UPDATE changes SET state = ?, side = ?, adopted = ?, kept_size = ?, digest_before = ?, digest_after = "
+      "?"
+      " WHERE number = ?");
+  query.addBindValue(static_cast<int>(change.state));
+  query.addBindValue(PathBytes(change.side));
+  query.addBindValue(change.adopted ? 1 : 0);
+  query.addBindValue(static_cast<qlonglong>(keptSize));
+  query.addBindValue(change.digestBefore);
+  query.addBindValue(change.digestAfter);
+  query.addBindValue(change.number);
+  database.Run(query);
+}
+
+}  // namespace Zenvora::Lumidex::Host

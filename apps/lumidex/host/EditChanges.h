@@ -1,0 +1,41 @@
+#pragma once
+
+#include "CatalogueDatabase.h"
+#include "StepState.h"
+
+#include <zenvora/core/ioPath.h>
+
+#include <QByteArray>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Host {
+
+/// A photo that a step edits: a row of `changes`.
+struct ChangeRow {
+  qlonglong number = 0;
+  State state = State::Planned;
+  ioPath path;
+  ioPath side;
+  bool adopted = false;
+  QByteArray digestBefore;
+  QByteArray digestAfter;
+
+  std::string Kept(const char* version) const {
+    return std::to_string(number) + version + path.extension().utf8string();
+  }
+  std::string KeptBefore() const { return Kept("-before"); }
+  std::string KeptAfter() const { return Kept("-after"); }
+};
+
+/// A name for the side file of a photo: short, whatever the length of the photo's own, and hidden from scans.
+ioPath SideName(const ioPath& photo);
+
+/// Of a step, in the order in which they were made.
+std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step);
+/// All but the step and the path.
+void StoreChange(const CatalogueDatabase& database, const ChangeRow& change, std::uint64_t keptSize);
+
+}  // namespace Zenvora::Lumidex::Host
