@@ -3,6 +3,7 @@
 
 #include "Hashes.h"
 #include "Measure.h"
+#include "Verdicts.h"
 
 #include <CLI/CLI.hpp>
 
@@ -145,7 +146,8 @@ int main(int argc, char** argv) {
   Zenvora::Bench::PhotoChoice choice;
   int longerSide = 1600;
   std::size_t listed = 0;
-  options.add_option("folder", folder, "Photos, with the folders below")->required();
+  options.add_option("folder", folder,
+                     "Photos, with the folders below; without it verdicts on drawn pictures are measured");
   options.add_option("--same", same,
                      "Table of files that show the same: names on one line, tabulators between");
   options.add_option("--moment", choice.moment, "Seconds within which one camera's photos show the same");
@@ -153,10 +155,24 @@ int main(int argc, char** argv) {
   options.add_option("--side", longerSide, "Longer side of the pictures that are changed")
       ->check(CLI::Range(200, 20000));
   options.add_option("--list", listed, "How many of the worst pairs to list");
+  Zenvora::Bench::VerdictOptions verdicts;
+  verdicts.seeds = {101, 202, 303};
+  bool onlyVerdicts = false;
+  options.add_flag("--verdicts", onlyVerdicts, "Measure the verdicts on the folder's photos instead");
+  options.add_option("--seeds", verdicts.seeds, "Of the drawn pictures")->delimiter(',');
+  options.add_option("--originals", verdicts.originals, "Photos for each seed, or of the folder");
+  options.add_option("--drawn", verdicts.drawn, "Pages, receipts and so on, of each kind for each seed")
+      ->check(CLI::Range(3, 1000));
   CLI11_PARSE(options, argc, argv);
   choice.folder = Zenvora::ioPath(folder);
   choice.same = Zenvora::ioPath(same);
+  verdicts.folder = choice.folder;
   try {
+    if (onlyVerdicts || folder.empty()) {
+      const bool met = Zenvora::Bench::MeasureVerdicts(verdicts);
+      std::printf("goals: %s\n", met ? "met" : "NOT met");
+      return met ? 0 : 1;
+    }
     return Zenvora::Bench::Run(choice, longerSide, listed);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "lumidex_similar_quality: %s\n", error.what());

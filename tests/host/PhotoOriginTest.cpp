@@ -118,6 +118,13 @@ TEST_F(PhotoOriginTest, TellsWhatBreaksOff) {
             "it breaks off before the end of its picture");
 }
 
+TEST_F(PhotoOriginTest, TellsDamage) {
+  EXPECT_EQ(ReadBytes(TestPictures::Damaged(Encoded(Scene(SceneKind::Houses))).toStdString()).degradation,
+            "a part of the picture is damaged");
+  // What cameras put behind the picture is no damage.
+  EXPECT_EQ(ReadBytes(Encoded(Scene(SceneKind::Houses)).toStdString() + "camera's trailer").degradation, "");
+}
+
 TEST_F(PhotoOriginTest, SaysNothingForWhatIsNoPhoto) {
   const PhotoOrigin text = ReadBytes("no picture");
   EXPECT_FALSE(text.cameraTags);

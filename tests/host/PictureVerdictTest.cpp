@@ -290,5 +290,17 @@ TEST_F(PictureVerdictFiles, AreComparedByTheirPixels) {
   EXPECT_EQ(against.Judge(tree_.Path("missing.jpg")).verdict, Verdict::Unknown);
 }
 
+TEST_F(PictureVerdictFiles, ThatAreDamagedAreDecodedAsFarAsTheyGoAndNotJudged) {
+  const ioPath whole = Save(Photo(), "whole.jpg");
+  const ioPath damaged =
+      tree_.Write("damaged.jpg", TestPictures::Damaged(Encoded(Photo(), "JPEG", 90)).toStdString());
+  const JudgedPicture picture = ReadJudgedPicture(damaged);
+  EXPECT_EQ(picture.image.size(), QSize(640, 480));
+  EXPECT_EQ(picture.image.pixel(100, 20), ReadJudgedPicture(whole).image.pixel(100, 20));
+  EXPECT_EQ(picture.degradation, "a part of the picture is damaged");
+  EXPECT_EQ(JudgePicture(damaged, whole).verdict, Verdict::Unknown);
+  EXPECT_EQ(JudgePicture(whole, damaged).verdict, Verdict::Unknown);
+}
+
 }  // namespace
 }  // namespace Zenvora::Lumidex::Host

@@ -38,6 +38,20 @@ inline QByteArray Encoded(const QImage& image, const char* format = "JPEG", int 
   return bytes;
 }
 
+/// A tenth of the bytes in the middle are others, as on a failing disk; decoders give up there.
+inline QByteArray Damaged(QByteArray jpeg) {
+  std::uint32_t lot = 12345;
+  const int begin = jpeg.size() / 2;
+  for (int i = begin; i < begin + jpeg.size() / 10; ++i) {
+    lot = lot * 1664525U + 1013904223U;
+    jpeg[i] = static_cast<char>(lot >> 24U);
+  }
+  // One that no decoder goes on behind.
+  jpeg[begin] = '\xFF';
+  jpeg[begin + 1] = '\xC0';
+  return jpeg;
+}
+
 /// A JPEG file with this EXIF thumbnail; null: none.
 inline ioPath WithThumbnail(const Zenvora::Test::TempTree& tree, const std::string& name,
                             const QImage& picture, const QImage& thumbnail, int orientation = 1) {

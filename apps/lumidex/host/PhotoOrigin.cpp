@@ -1,10 +1,13 @@
+#include "JpegMending.h"
 #include "JpegTables.h"
+#include "PhotoPixels.h"
 #include "PictureEnd.h"
 #include "ShotNames.h"
 
 #include <host/PhotoOrigin.h>
 
 #include <zenvora/core/FileState.h>
+#include <zenvora/quillet/FileDevice.h>
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <QRegularExpression>
@@ -13,6 +16,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <exception>
 #include <fstream>
 
@@ -64,6 +68,17 @@ std::string BeginningOf(const ioPath& file) {
   stream.read(bytes.data(), kLooked);
   bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(stream.gcount(), 0)));
   return bytes;
+}
+
+bool IsDamaged(const ioPath& file) {
+  // What is larger is not decoded either.
+  constexpr std::uint64_t kMost = 512ULL * 1024 * 1024;
+  Quillet::FileDevice device(file);
+  if (QueryFile(file).size > kMost || !device.isOpen()) {
+    return false;
+  }
+  QByteArray bytes = device.readAll();
+  return MendJpeg(bytes);
 }
 
 QSize SizeOf(const Metadata& metadata, const JpegTables& tables) {
@@ -128,6 +143,8 @@ PhotoOrigin ReadPhotoOrigin(const ioPath& file) {
   }
   if (EndsTooSoon(file)) {
     origin.degradation = "it breaks off before the end of its picture";
+  } else if (tables.isJpeg && IsDamaged(file)) {
+    origin.degradation = kDamagedText;
   }
   return origin;
 }

@@ -1,5 +1,7 @@
 #include "PhotoPixels.h"
 
+#include "JpegMending.h"
+
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
@@ -91,6 +93,22 @@ QImage InSrgb(QImage image) {
   return image;
 }
 
+/// As far as it goes; null when that is nothing.
+QImage ReadDamagedJpeg(QIODevice& device, const QSize& size, bool upright) {
+  QByteArray bytes = device.seek(0) ? device.readAll() : QByteArray();
+  if (!MendJpeg(bytes)) {
+    return {};
+  }
+  QBuffer buffer(&bytes);
+  if (!buffer.open(QIODevice::ReadOnly)) {
+    return {};
+  }
+  QImageReader reader(&buffer);
+  reader.setAutoTransform(upright);
+  reader.setScaledSize(size);
+  return reader.read();
+}
+
 }  // namespace
 
 QSize FittedSize(const QSize& size, int longerSide) {
@@ -138,6 +156,10 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
     reader.setScaledSize(wished);
   }
   QImage image = reader.read();
+  if (image.isNull() && jpeg) {
+    image = ReadDamagedJpeg(device, wished, upright);
+    result.isDamaged = !image.isNull();
+  }
   if (image.isNull()) {
     result.cause = "nothing of the picture can be decoded";
     return result;

@@ -20,8 +20,12 @@ struct DecodedPicture {
   QImage image;  ///< Null when there is a cause.
   /// The whole picture's, turned as the image is; empty when its head cannot be read.
   QSize size;
-  std::string cause;  ///< In English, without the file's name.
+  std::string cause;       ///< In English, without the file's name.
+  bool isDamaged = false;  ///< A part of the image is not what the picture shows.
 };
+
+/// What is told of damaged pictures.
+constexpr const char* kDamagedText = "a part of the picture is damaged";
 
 /// Decodes a picture in one of the formats that photos come in, no larger than `longerSide`, in sRGB, turned
 /// upright when `upright`. No image for other formats, for pictures that would take too much memory, which is

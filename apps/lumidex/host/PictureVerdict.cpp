@@ -71,7 +71,9 @@ JudgedPicture ReadJudgedPicture(const ioPath& file) {
       picture.image = OnWhite(found.image);
       picture.size = picture.size.isEmpty() ? picture.image.size() : picture.size;
     }
-    if (EndsTooSoon(file)) {
+    if (found.isDamaged) {
+      picture.degradation = kDamagedText;
+    } else if (EndsTooSoon(file)) {
       picture.degradation = "it breaks off before the end of its picture";
     }
   } catch (const std::exception& error) {

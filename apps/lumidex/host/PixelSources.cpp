@@ -199,7 +199,8 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
   }
   DecodedPicture decoded = DecodePicture(device, longerSide, true);
   if (!decoded.image.isNull() && LongerSide(decoded.image) >= LongerSide(best)) {
-    return {std::move(decoded.image), PixelSource::Picture, mark == "\xFF\xD8", decoded.size, {}};
+    return {std::move(decoded.image), PixelSource::Picture, mark == "\xFF\xD8", decoded.size, {},
+            decoded.isDamaged};
   }
   if (best.isNull() && !tiff) {
     best = AnyPreview(file, longerSide);

@@ -16,9 +16,10 @@ namespace Zenvora::Lumidex::Host {
 struct FoundPixels {
   QImage image;  ///< Upright.
   PixelSource source = PixelSource::None;
-  bool isJpeg = false;  ///< The pixels were decoded from the JPEG file itself.
-  QSize size;           ///< As in `PhotoDescription`.
-  std::string cause;    ///< When the image is null.
+  bool isJpeg = false;     ///< The pixels were decoded from the JPEG file itself.
+  QSize size;              ///< As in `PhotoDescription`.
+  std::string cause;       ///< When the image is null.
+  bool isDamaged = false;  ///< A part of the image is not what the picture shows.
 };
 
 /// JPEG pictures with at least so many pixels may be shown by a preview that the file carries.
