@@ -1,4 +1,5 @@
 #include "ChangeFixture.h"
+#include "Terminal.h"
 
 #include <support/LeftOut.h>
 #include <support/SmallDisk.h>
@@ -152,9 +153,63 @@ TEST_F(UndoLimits, ListStepsOfNoDate) {
   EXPECT_TRUE(Steps()[0].toObject()["begun"].isNull());
 }
 
+TEST_F(UndoLimits, LetUndoDoWithoutRedo) {
+  const std::string before = ReadFile(PhotoOf("a.jpg", kBytes));
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  const Ran undo = Run({"undo", "--no-redo"});
+  EXPECT_EQ(undo.exitCode, 0);
+  EXPECT_EQ(undo.out, "Taken back: rotate right.\n");
+  EXPECT_EQ(ReadFile(Photos() / "a.jpg"), before);
+  EXPECT_EQ(Run({"redo"}).exitCode, 1);
+  EXPECT_EQ(Steps().size(), 0);
+  EXPECT_EQ(Run({"undo", "--no-redo", "--list"}).exitCode, 2);
+  EXPECT_EQ(Run({"undo", "--no-redo", "--skip"}).exitCode, 2);
+}
+
+TEST_F(UndoLimits, NameWhatNoUndoLeavesBehind) {
+  const ioPath photo = PhotoOf("a.jpg", kBytes);
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  const Ran text = Run({"rotate", "left", "--no-undo", "photos"});
+  EXPECT_THAT(text.out, HasSubstr("Undo of \"rotate right\" ("));
+  EXPECT_THAT(text.out, HasSubstr("\n  " + photo.utf8string() + "\n"));
+  const QJsonObject json = Run({"rotate", "left", "--no-undo", "--json", "photos"}).Json();
+  EXPECT_FALSE(json["canBeUndone"].toBool(true));
+  EXPECT_EQ(json["blocked"].toArray()[0].toObject()["name"].toString(), QStringLiteral("rotate right"));
+}
+
 #ifdef _WIN32
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoLimits, AreAskedAboutAtATerminal, "terminals are made otherwise there");
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoLimits, TellWhatWasDoneOnAFullDisk, "nobody can make a small disk here");
 #else
+TEST_F(UndoLimits, AreAskedAboutAtATerminal) {
+  PhotoOf("a.jpg", kBytes);
+  const std::string before = ReadFile(PhotoOf("b.jpg", kBytes));
+  ASSERT_EQ(Run({"rotate", "right", "photos/a.jpg"}).exitCode, 0);
+  Limit("60K");
+  const auto answer = [this](const char* typed) {
+    const Terminal terminal(100);
+    terminal.Type(typed);
+    ProcessOnTerminal process(terminal, false, true);
+    Start(process, {"rotate", "left", "photos/b.jpg"});
+    Ran ran = Finish(process);
+    ran.err = terminal.Read();
+    return ran;
+  };
+  const Ran no = answer("n\n");
+  EXPECT_EQ(no.exitCode, 1) << no.err;
+  EXPECT_THAT(no.err, HasSubstr("undo would have to forget 1 older step"));
+  EXPECT_THAT(no.err, HasSubstr("  rotate right"));
+  EXPECT_THAT(no.err, HasSubstr("Forget them and go on? [y/N]"));
+  EXPECT_EQ(no.out, "Nothing was changed.\n");
+  EXPECT_EQ(ReadFile(Photos() / "b.jpg"), before);
+  EXPECT_EQ(Steps().size(), 1);
+  const Ran yes = answer("y\n");
+  EXPECT_EQ(yes.exitCode, 0) << yes.err;
+  EXPECT_THAT(yes.out, HasSubstr("1 older step cannot be undone any more."));
+  EXPECT_NE(ReadFile(Photos() / "b.jpg"), before);
+  EXPECT_EQ(Steps().size(), 1);
+}
+
 TEST_F(UndoLimits, TellWhatWasDoneOnAFullDisk) {
   const ioPath place = tree.MakeFolder("disk");
   const SmallDisk disk(place, std::size_t{8} << 20U);

@@ -156,6 +156,7 @@ class EditRun {
       Try();
     } else if (!photos_.empty()) {
       view_.declined = !AgreeOnRoom(session_, view_.room, arguments_.room);
+      view_.interrupted = view_.declined && session_.interrupted;
       if (!view_.declined) {
         Edit();
       }
