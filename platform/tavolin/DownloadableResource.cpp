@@ -211,11 +211,13 @@ void DownloadableResource::StartDownload(bool force) {
     SetStatus(copy ? Status::Ready : Status::Failed);
     return;
   }
-  // Before the request: a program that is ended while it waits has asked, too.
-  const QString unmarked = impl_->store.MarkAsked(address.url, now);
-  if (!unmarked.isEmpty()) {
-    Response(Failure(impl_->CannotBeWritten(unmarked)));
-    return;
+  if (copy) {
+    // Before the request: a program that is ended while it waits has asked, too.
+    const QString unmarked = impl_->store.MarkAsked(address.url, now);
+    if (!unmarked.isEmpty()) {
+      Response(Failure(impl_->CannotBeWritten(unmarked)));
+      return;
+    }
   }
   const App::DownloadRequest request = impl_->MakeRequest(address.url, copy, force);
   const auto flight = std::make_shared<Flight>();
@@ -275,6 +277,10 @@ void DownloadableResource::Response(const DownloadReply& reply) {
                  << (served ? "; the stored copy serves" : "; there is no stored copy that could serve");
   }
   if (const auto flight = std::move(impl_->flight)) {
+    if (!fault.isEmpty()) {
+      // Where no mark can be written no copy can be stored either, and that was said.
+      impl_->store.MarkAsked(flight->url, App::GetCurrentDateTime());
+    }
     flight->answered = true;
     flight->watch.reset();
     flight->pending.reset();

@@ -35,7 +35,10 @@ class ProposingAlbums : public ::testing::Test {
   ProposingAlbums() {
     tree.Write("resources/HolidayEvents.json",
                R"({"events": {"en_US": [{"event": "May Day", "start": "01.05", "end": "01.05"}]}})");
+    // What one test was told of its server is nothing to the next one.
+    qputenv("XDG_CACHE_HOME", QByteArray::fromStdString(tree.Path("cache").utf8string()));
   }
+  ~ProposingAlbums() override { qputenv("XDG_CACHE_HOME", formerCache_); }
 
   void HaveServer() { settings->SetString(App::SettingsKey::kDownloadBaseUrl, "http://localhost:9/"); }
 
@@ -44,6 +47,7 @@ class ProposingAlbums : public ::testing::Test {
   std::shared_ptr<ScriptedDownloads> network = std::make_shared<ScriptedDownloads>();
 
  private:
+  const QByteArray formerCache_ = qgetenv("XDG_CACHE_HOME");
   App::ServiceScope<App::ISettingsManager> settingsScope_{settings};
   App::ServiceScope<App::ILookAndFeelManager> languageScope_{std::make_shared<FakeLookAndFeel>("en_US")};
   App::ServiceScope<App::IHostEnvironment> environmentScope_{

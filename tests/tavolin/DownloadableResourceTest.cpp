@@ -337,11 +337,23 @@ TEST_F(ResourceTest, AsksAgainForWhoeverWantsItAndAtAnotherServer) {
 }
 
 TEST_F(ResourceTest, HasAskedAlsoWhenItIsEndedBeforeTheAnswer) {
+  StoreCopy(Calendar("old"), 2 * kWeek);
   { CalendarResource().StartDownload(false); }
   CalendarResource next;
   next.StartDownload(false);
-  ExpectEnded(next, Status::Failed);
+  ExpectEnded(next, Status::Ready);
   EXPECT_EQ(network->requests.size(), 1U);
+}
+
+TEST_F(ResourceTest, AsksForEachOfTwoAtOnceThatHaveNoCopy) {
+  CalendarResource first;
+  CalendarResource second;
+  first.StartDownload(false);
+  second.StartDownload(false);
+  ASSERT_TRUE(network->Answer(Fetched(Calendar("new"))));
+  ASSERT_TRUE(network->Answer(Fetched(Calendar("new"))));
+  ExpectEnded(first, Status::Ready);
+  ExpectEnded(second, Status::Ready);
 }
 
 TEST_F(ResourceTest, AsksAtOnceForACopyThatWasRemoved) {
@@ -645,13 +657,26 @@ TEST_F(ResourceTest, LogsACauseAsAPartOfItsSentence) {
 
 // ---- A cache that cannot be written
 
-TEST_F(ResourceTest, AsksNobodyWhenTheAnswerCouldNotBeStored) {
+TEST_F(ResourceTest, FailsWhenTheCacheFolderCannotBeMade) {
   tree.Write("cache", "a file where the folder would be");
+  const Zenvora::Test::LogCapture log;
+  CalendarResource resource;
+  resource.StartDownload(false);
+  ASSERT_TRUE(network->Answer(Fetched(Calendar("new"))));
+  ExpectEnded(resource, Status::Failed);
+  EXPECT_NE(Warnings(log).find(CopyName().toStdString()), std::string::npos) << Warnings(log);
+}
+
+// A folder stands where the mark would go.
+TEST_F(ResourceTest, AsksNobodyWithACopyThatNoAnswerCouldReplace) {
+  StoreCopy(Calendar("old"), 2 * kWeek);
+  ASSERT_TRUE(
+      QDir().mkpath(QFileInfo(CopyName()).path() + QStringLiteral("/.HolidayEvents.json.asked/inner")));
   for (const bool force : {false, true}) {
     const Zenvora::Test::LogCapture log;
     CalendarResource resource;
     resource.StartDownload(force);
-    ExpectEnded(resource, Status::Failed);
+    ExpectEnded(resource, Status::Ready);
     EXPECT_NE(Warnings(log).find(CopyName().toStdString() + " cannot be written"), std::string::npos)
         << Warnings(log);
   }

@@ -65,9 +65,8 @@ class ZENVORA_TAVOLIN_EXPORT DownloadableResource : public IDownloadableResource
   void Init(const QString& name, const QString& format, const QString& section);
   void SetDownloadHandler(Handler handler);
   /// Makes the resource ready: from the stored copy when it is younger than a week, else from the server,
-  /// else from the stored copy whatever its age. A server that gave nothing is asked again after a day, and
-  /// nobody is asked while the cache folder cannot be written. The answer is awaited for 5 seconds when a
-  /// copy can serve, else for 20.
+  /// else from the stored copy whatever its age. A server that gave nothing is asked again after a day. The
+  /// answer is awaited for 5 seconds when a copy can serve, else for 20.
   ///
   /// `force`, for somebody who wants an answer now: asks the server whatever the copy's age and whenever it
   /// was asked last, and waits for up to two minutes. While a download is under way a second call does
