@@ -269,11 +269,11 @@ def statistics_hold_nothing_of_photos(room):
 
 PROMISES = [
     ("scan", "Your files are only read.", scan_only_reads),
-    ("scan", "Photos whose files are gone are marked lost, not forgotten.", lost_is_not_forgotten),
+    ("scan", "are marked lost, not forgotten.", lost_is_not_forgotten),
     ("scan", "Only tell what would be done; make and change no catalogue.", dry_scan_makes_nothing),
     ("import", "Your files are only read.", import_only_reads),
     ("import", "What is there already is left alone", import_only_reads),
-    ("check", "changes nothing.", check_changes_nothing),
+    ("check", "hanges nothing.", check_changes_nothing),
     ("albums", "your files stay as they are.", albums_leave_files),
     ("albums", "when one name does not, nothing is accepted.", one_unknown_album_accepts_none),
     ("albums", "A report replaces an older page of its name, but never a photo", report_replaces_pages_only),
