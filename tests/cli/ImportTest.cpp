@@ -94,13 +94,113 @@ TEST_F(ImportCommand, SaysThatThereIsNothing) {
   EXPECT_FALSE(DefaultCatalogue().exists());
 }
 
-TEST_F(ImportCommand, TellsWhatItLeftOut) {
-  tree.Write("photos/card/clip.mov", "x");
+TEST_F(ImportCommand, CopiesFilmsWithWhatBelongsToThem) {
+  for (const char* const name :
+       {"GOPR1.MP4", "GOPR1.THM", "GOPR1.LRV", "00001.MTS", "NOTE.WAV", "img0.mov"}) {
+    tree.Write(std::string("photos/card/") + name, name);
+  }
   const Ran ran = ImportTo();
-  EXPECT_EQ(ran.exitCode, 0);
-  ASSERT_EQ(ran.Json()["left"].toArray().size(), 1);
-  EXPECT_EQ(ran.Json()["left"].toArray()[0].toObject()["kind"].toString(), QStringLiteral("not-a-photo"));
+  EXPECT_EQ(ran.exitCode, 0) << ran.out;
+  EXPECT_EQ(ran.Json()["copied"].toInt(), 9);
+  EXPECT_EQ(ran.Json()["added"].toInt(), 3) << "the catalogue takes photos only";
+  EXPECT_EQ(ReadText(Copies() / "GOPR1.MP4"), "GOPR1.MP4");
+  EXPECT_TRUE(ran.Json()["safeToFormat"].toBool());
+  const Ran again = ImportTo();
+  EXPECT_EQ(again.Json()["copied"].toInt(), 0);
+  EXPECT_EQ(again.Json()["known"].toArray().size(), 9);
+  EXPECT_TRUE(again.Json()["safeToFormat"].toBool());
 }
+
+TEST_F(ImportCommand, FilmsOfOneNameKeepTheirThumbnails) {
+  for (const char* const folder : {"100", "101"}) {
+    tree.Write("photos/" + std::string(folder) + "/GOPR1.MP4", std::string("film of ") + folder);
+    tree.Write("photos/" + std::string(folder) + "/GOPR1.THM", std::string("thumbnail of ") + folder);
+  }
+  ASSERT_EQ(ImportTo().exitCode, 0);
+  for (const char* const name : {"GOPR1", "GOPR1(1)"}) {
+    const std::string film = ReadText(Copies() / ioPath(std::string(name) + ".MP4"));
+    const std::string thumbnail = ReadText(Copies() / ioPath(std::string(name) + ".THM"));
+    ASSERT_GT(film.size(), 4U) << name;
+    EXPECT_EQ(film.substr(film.size() - 3), thumbnail.substr(thumbnail.size() - 3)) << name;
+  }
+}
+
+TEST_F(ImportCommand, NamesWhatItLeftAndSaysThatNothingMayBeErased) {
+  tree.Write("photos/card/notes.txt", "x");
+  tree.Write("photos/card/.secret.jpg", "x");
+  const Ran ran = ImportTo();
+  EXPECT_EQ(ran.exitCode, 1);
+  ASSERT_EQ(ran.Json()["left"].toArray().size(), 2);
+  EXPECT_EQ(ran.Json()["left"].toArray()[0].toObject()["kind"].toString(), QStringLiteral("hidden"));
+  EXPECT_EQ(ran.Json()["left"].toArray()[1].toObject()["kind"].toString(), QStringLiteral("not-a-photo"));
+  EXPECT_TRUE(ran.Json()["safeToFormat"].isBool());
+  EXPECT_FALSE(ran.Json()["safeToFormat"].toBool());
+  const Ran told = Run({"import", Text(Photos()), "--to", Text(Copies())});
+  EXPECT_EQ(told.exitCode, 1);
+  EXPECT_THAT(told.out, HasSubstr("notes.txt"));
+  EXPECT_THAT(told.out, HasSubstr(".secret.jpg"));
+  EXPECT_THAT(told.out, HasSubstr("do not format or empty it yet"));
+  EXPECT_THAT(told.out, Not(HasSubstr("safe to format")));
+}
+
+TEST_F(ImportCommand, IsSafeToFormatWhenNothingIsLeft) {
+  tree.Write("photos/card/.DS_Store", "x");
+  tree.Write("photos/.Trashes/501/old.jpg", "x");
+  const Ran ran = Run({"import", Text(Photos()), "--to", Text(Copies())});
+  EXPECT_EQ(ran.exitCode, 0) << ran.out;
+  EXPECT_THAT(ran.out, HasSubstr("safe to format"));
+  EXPECT_THAT(ran.out, HasSubstr("what lies beside it was not looked at")) << "it is no whole volume";
+  EXPECT_THAT(ran.out, HasSubstr("2 housekeeping files"));
+}
+
+TEST_F(ImportCommand, IsNotSafeToFormatWhereTheCopiesLie) {
+  const Ran ran = Run({"import", Text(Photos()), "--to", Text(Photos() / "copies")});
+  EXPECT_THAT(ran.out, HasSubstr("do not format or empty it."));
+  EXPECT_THAT(ran.out, Not(HasSubstr("safe to format")));
+}
+
+TEST_F(ImportCommand, SaysWhyNothingIsCopied) {
+  tree.Write("photos/card/clip.mov", "x");
+  const Ran ran = Run({"import", Text(Photos())});
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_THAT(ran.out, HasSubstr("4 files are not copied: they do not lie on removable storage"));
+  EXPECT_THAT(ran.out, HasSubstr("--to DIR"));
+  EXPECT_THAT(ran.out, Not(HasSubstr("safe to format")));
+  EXPECT_THAT(Run({"import", "--no-copy", Text(Photos())}).out,
+              HasSubstr("4 files are not copied, as you said"));
+}
+
+TEST_F(ImportCommand, CanBeTakenBack) {
+  const Ran ran = Run({"import", Text(Photos()), "--to", Text(Copies())});
+  EXPECT_THAT(ran.out, HasSubstr("\"lumidex undo\" moves the copies of this run to the trash"));
+  const Ran list = Run({"--json", "undo", "--list"});
+  ASSERT_EQ(list.Json()["steps"].toArray().size(), 1);
+  const QJsonObject step = list.Json()["steps"].toArray()[0].toObject();
+  EXPECT_EQ(step["kind"].toString(), QStringLiteral("import"));
+  EXPECT_EQ(step["files"].toInt(), 3);
+  const Ran undone = Run({"undo"});
+  EXPECT_EQ(undone.exitCode, 0) << undone.out << undone.err;
+  EXPECT_THAT(undone.out, HasSubstr("3 copies are in the trash now"));
+  EXPECT_FALSE((Copies() / "img0.jpg").exists());
+  EXPECT_TRUE((Photos() / "card/img0.jpg").exists());
+  EXPECT_EQ(ImportTo().Json()["copied"].toInt(), 3);
+}
+
+#ifdef _WIN32
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, NeverWritesThroughALink, "making links needs a right there");
+#else
+TEST_F(ImportCommand, NeverWritesThroughALink) {
+  const ioPath victim = tree.Write("victim", "mine");
+  tree.MakeFolder("copies/.lumidex-import");
+  ASSERT_EQ(symlink(victim.native().c_str(), (Copies() / ".lumidex-import/manifest.jsonl").native().c_str()),
+            0);
+  const Ran ran = Run({"import", Text(Photos()), "--to", Text(Copies())});
+  EXPECT_EQ(ran.exitCode, 4);
+  EXPECT_THAT(ran.out, HasSubstr("manifest.jsonl is a link to somewhere else"));
+  EXPECT_EQ(ReadText(victim), "mine");
+  EXPECT_FALSE((Copies() / "img0.jpg").exists());
+}
+#endif
 
 TEST_F(ImportCommand, WarnsOfShotsThatFallApart) {
   tree.Write("photos/card/img0.xmp", "stars");

@@ -9,7 +9,11 @@ in a row. After each kill
 Then the same command runs undisturbed, and
   - every source has exactly one copy, with its time,
   - every photo is in the catalogue once,
-  - no part of a copy is left, and a further run finds nothing to do.
+  - no part of a copy is left, and a further run finds nothing to do,
+  - the journal's steps of imports hold each copy once.
+Then all of these steps are taken back and done again, and the albums of the photos are accepted, all of it killed likewise:
+  - each copy is whole in its place or in the trash, and after the last undo all are in the trash, after the last redo in place,
+  - albums are accepted all or not at all, as the journal says; undo leaves none, and redo the same ones.
 
     import_kill_test.py --lumidex PROGRAM [--rounds 50] [--photos 100] [--seed N] [--folder EMPTY_FOLDER]
 """
@@ -57,21 +61,81 @@ def check_copies(card, copies, what):
     require(len(contents) == len(set(contents)), f"{what}: a photo is copied twice")
 
 
+def kill_at_random(command, random_source, took):
+    """True when the program was still at work."""
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    time.sleep(random_source.uniform(0, took * 1.05))
+    at_work = process.poll() is None
+    process.send_signal(signal.SIGKILL)
+    process.wait()
+    return at_work
+
+
+def ask(command, codes=(0,)):
+    done = subprocess.run(command, capture_output=True, check=False)
+    require(done.returncode in codes, f"{command[4:]} ends with {done.returncode}: {done.stdout.decode(errors='replace')}")
+    return json.loads(done.stdout)
+
+
+def check_undo(lumidex, copies, trash, whole, random_source):
+    """Takes all imports back and does them again, killed now and then. Returns how many runs were killed."""
+    steps = [step for step in ask(lumidex + ["undo", "--list"])["steps"] if step["kind"] == "import"]
+    require(sum(step["files"] for step in steps) == len(whole), "the steps do not hold each copy once")
+    killed = 0
+    took = 0.3
+    for command, here, there in (("undo", trash, copies), ("redo", copies, trash)):
+        for _ in range(random_source.randint(0, 3)):
+            killed += kill_at_random(lumidex + [command, "--last", "9"], random_source, took)
+            contents = sorted(content for content, _ in list(snapshot(copies).values()) + list(snapshot(trash).values()))
+            require(contents == sorted(content for content, _ in whole.values()), f"killed {command}: a copy is not whole")
+        started = time.monotonic()
+        ask(lumidex + [command, "--last", "9"], (0, 1))
+        took = max(0.1, time.monotonic() - started)
+        require(sorted(snapshot(here).values()) == sorted(whole.values()), f"after {command} a copy is not where it belongs")
+        require(not snapshot(there), f"after {command} something is left behind")
+    require(snapshot(copies) == whole, "after redo the copies have other names")
+    return killed
+
+
+def check_albums(lumidex, random_source):
+    killed = 0
+    took = 0.5
+
+    def accepted():
+        return ask(lumidex + ["albums", "--accepted", "--list"])["albums"]
+
+    def stands():
+        return any(step["kind"] == "albums" and not step["undone"] for step in ask(lumidex + ["undo", "--list"])["steps"])
+
+    for _ in range(random_source.randint(0, 3)):
+        killed += kill_at_random(lumidex + ["albums", "--accept", "all"], random_source, took)
+        require(bool(accepted()) == stands(), "albums are accepted without a step, or a step without albums")
+    ask(lumidex + ["albums", "--accept", "all"])
+    albums = accepted()
+    require(albums, "there are no albums to accept")
+    for command, goal in (("undo", []), ("redo", albums)):
+        for _ in range(random_source.randint(0, 2)):
+            if accepted() != goal:
+                killed += kill_at_random(lumidex + [command], random_source, 0.3)
+            require(accepted() in ([], albums), f"killed {command}: only some of the albums are there")
+        if accepted() != goal:
+            ask(lumidex + [command])
+        require(accepted() == goal, f"after {command} there are other albums")
+    return killed
+
+
 def play(program, root, card, random_source, took):
     copies = os.path.join(root, "copies")
     catalogue = os.path.join(root, "catalogue.sqlite")
     command = [program, "--json", "--catalogue", catalogue, "import", os.path.join(root, "card"), "--to", copies]
     shutil.rmtree(copies, ignore_errors=True)
+    shutil.rmtree(catalogue + ".undo", ignore_errors=True)
     for end in ("", "-wal", "-shm"):
         if os.path.exists(catalogue + end):
             os.remove(catalogue + end)
     killed = 0
     for number in range(random_source.randint(1, 4)):
-        process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        time.sleep(random_source.uniform(0, took * 1.05))
-        killed += process.poll() is None
-        process.send_signal(signal.SIGKILL)
-        process.wait()
+        killed += kill_at_random(command, random_source, took)
         check_copies(card, snapshot(copies), f"kill {number + 1}")
         require(snapshot(os.path.join(root, "card")) == card, "a source was changed")
     partly = 0 < len(snapshot(copies)) < len(card)
@@ -90,6 +154,11 @@ def play(program, root, card, random_source, took):
             f"a further run has something to do: {again['copied']} copied, {again['added']} added")
     scan = subprocess.run([program, "--json", "--catalogue", catalogue, "scan", copies], capture_output=True, check=False)
     require(json.loads(scan.stdout)["unchanged"] == len(card), "the catalogue does not have each photo")
+    lumidex = [program, "--json", "--catalogue", catalogue]
+    trash = os.path.join(root, "home", "Trash", "files")
+    shutil.rmtree(os.path.join(root, "home", "Trash"), ignore_errors=True)
+    killed += check_undo(lumidex, copies, trash, now, random_source)
+    killed += check_albums(lumidex, random_source)
     return killed, partly, took
 
 
@@ -131,7 +200,7 @@ def main():
     except Failed as failure:
         print(f"import_kill_test: round {number}: {failure}; the folder is kept: {root}", file=sys.stderr)
         return 1
-    print(f"import_kill_test: {arguments.rounds} rounds over {len(card)} photos, {killed} imports killed, {partly} rounds with"
+    print(f"import_kill_test: {arguments.rounds} rounds over {len(card)} photos, {killed} runs killed, {partly} rounds with"
           " something done by then: only whole copies were seen, and none is missing")
     shutil.rmtree(root, ignore_errors=True)
     return 0

@@ -251,6 +251,7 @@ TEST_F(CatalogueFile, IsNotBroughtUpToDateByReaders) {
 /// What later versions added is taken out again.
 void MakeOlder(const ioPath& file, int version) {
   std::vector<std::string> statements = {"DROP TABLE imported",
+                                         "DROP TABLE album_change_attributes",
                                          "DROP TABLE album_change_photos",
                                          "DROP TABLE album_changes",
                                          "DROP TABLE days_of_use",

@@ -65,11 +65,11 @@ class ImportTest : public testing::Test {
     const App::ServiceScope<App::IFolderDialog> scope(std::make_shared<OneFolder>(folder));
     ImportPlanOptions options;
     options.copyAll = true;
-    return PlanImport(GatherSources(sources), Stored().Photos(), options, nullptr);
+    return PlanImport(GatherSources(sources, Gathered::Everything), Stored().Photos(), options, nullptr);
   }
   ImportPlan PlanTo(const std::vector<ioPath>& sources) { return PlanTo(sources, Copies()); }
   ImportPlan Plan(const std::vector<ioPath>& sources) {
-    return PlanImport(GatherSources(sources), Stored().Photos(), {}, nullptr);
+    return PlanImport(GatherSources(sources, Gathered::Everything), Stored().Photos(), {}, nullptr);
   }
   ImportResult Carry(const ImportPlan& plan, const ImportOptions& options = {}) {
     return RunImport(plan, Stored(), options, nullptr);

@@ -151,5 +151,21 @@ TEST(ImportManifest, FailsAgainAfterAFailure) {
 
 #endif
 
+/// Looking first is not enough: the link may come in between.
+TEST(ImportManifest, IsNotOpenedThroughALink) {
+  const Zenvora::Test::TempTree tree;
+  const ioPath victim = tree.Write("victim", "untouched");
+  tree.MakeFolder("copies/.lumidex-import");
+  std::error_code error;
+  std::filesystem::create_symlink(victim.native(),
+                                  tree.Path("copies/.lumidex-import/manifest.jsonl").native(), error);
+  if (error) {
+    GTEST_SKIP() << "this user may make no links: " << error.message();
+  }
+  EXPECT_THROW(ImportManifest(tree.Path("copies")), HostError);
+  EXPECT_EQ(Zenvora::Test::ReadFile(victim), "untouched");
+  EXPECT_TRUE(ImportManifest::Read(tree.Path("copies")).empty());
+}
+
 }  // namespace
 }  // namespace Zenvora::Lumidex::Host

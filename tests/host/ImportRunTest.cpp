@@ -406,6 +406,32 @@ TEST_F(ImportRunning, CopiesTenThousandFiles) {
   EXPECT_THAT(again.known, SizeIs(10'000));
 }
 
+/// Whoever may write in the folder of copies could let an import write anywhere else.
+TEST_F(ImportRunning, NeverFollowsLinksOfItsOwnFolder) {
+  MakePhotos("card", 2);
+  const ioPath victim = tree.Write("victim/file", "untouched");
+  const ioPath own = Copies() / ".lumidex-import";
+  for (const std::string& name :
+       {std::string(), std::string("manifest.jsonl"), std::string("lock"), std::string("part-1.JPG")}) {
+    fs::remove_all(Copies().native());
+    fs::create_directories((name.empty() ? Copies() : own).native());
+    const ioPath link = name.empty() ? own : own / ioPath(name);
+    std::error_code error;
+    name.empty() ? fs::create_directory_symlink(tree.Path("victim").native(), link.native(), error)
+                 : fs::create_symlink(victim.native(), link.native(), error);
+    if (error) {
+      GTEST_SKIP() << "this user may make no links: " << error.message();
+    }
+    const ImportPlan plan = PlanTo({Card()});
+    EXPECT_THAT(plan.obstacle, HasSubstr(link.utf8string() + " is a link")) << name;
+    EXPECT_THAT(ErrorOf([&] { Carry(plan); }), HasSubstr(link.utf8string() + " is a link")) << name;
+    EXPECT_EQ(ReadFile(victim), "untouched") << name;
+    EXPECT_THAT(NamesIn(tree.Path("victim")), ElementsAre("file")) << name;
+    EXPECT_TRUE(fs::is_symlink(link.native())) << name;
+    EXPECT_THAT(NamesIn(Copies()), IsEmpty()) << name;
+  }
+}
+
 #ifdef _WIN32
 
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportRunning, KeepsNamesOfEveryKind, Zenvora::Test::kNamesAreText);

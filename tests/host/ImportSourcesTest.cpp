@@ -20,7 +20,7 @@ using Zenvora::Test::Slashes;
 class ImportSources : public ImportTest {
  protected:
   std::vector<std::string> Taken(const std::vector<ioPath>& sources) {
-    found_ = GatherSources(sources);
+    found_ = GatherSources(sources, Gathered::Everything);
     std::vector<std::string> paths;
     for (const ImportSource& file : found_.files) {
       paths.push_back(Relative(file.path));
@@ -43,23 +43,74 @@ class ImportSources : public ImportTest {
   GatheredSources found_;
 };
 
-TEST_F(ImportSources, ArePhotosWithWhatLiesBesideThem) {
+TEST_F(ImportSources, ArePhotosAndFilmsWithWhatLiesBesideThem) {
   for (const char* const name :
        {"card/IMG_1.CR2", "card/IMG_1.JPG", "card/IMG_1.xmp", "card/IMG_1.CR2.xmp", "card/IMG_2.JPG"}) {
     tree.Write(name, name);
   }
   tree.Write("card/alone.xmp", "x");
-  tree.Write("card/clip.mov", "x");
+  tree.Write("card/notes.txt", "x");
   tree.Write("card/.hidden.jpg", "x");
-  EXPECT_THAT(Taken({Card()}), UnorderedElementsAre("card/IMG_1.CR2", "card/IMG_1.JPG", "card/IMG_1.xmp",
-                                                    "card/IMG_1.CR2.xmp", "card/IMG_2.JPG"));
+  tree.Write("card/.closet/b.jpg", "x");
+  EXPECT_THAT(Taken({Card()}),
+              UnorderedElementsAre("card/IMG_1.CR2", "card/IMG_1.JPG", "card/IMG_1.xmp", "card/IMG_1.CR2.xmp",
+                                   "card/IMG_2.JPG", "card/alone.xmp"));
   std::map<std::string, std::size_t> shots;
   for (const ImportSource& file : found_.files) {
     shots[Relative(file.path)] = file.shot;
   }
   EXPECT_EQ(shots["card/IMG_1.CR2"], shots["card/IMG_1.CR2.xmp"]);
   EXPECT_NE(shots["card/IMG_1.CR2"], shots["card/IMG_2.JPG"]);
-  EXPECT_THAT(Left(LeftFile::Kind::NotAPhoto), ElementsAre("card/alone.xmp", "card/clip.mov"));
+  EXPECT_THAT(Left(LeftFile::Kind::NotAPhoto), ElementsAre("card/notes.txt"));
+  EXPECT_THAT(Left(LeftFile::Kind::Hidden), ElementsAre("card/.closet/b.jpg", "card/.hidden.jpg"));
+}
+
+TEST_F(ImportSources, FilmsLeadWhatBelongsToThem) {
+  for (const char* const name : {"card/GOPR1.MP4", "card/GOPR1.LRV", "card/GOPR1.THM", "card/GOPR1.xmp",
+                                 "card/IMG_2.HEIC", "card/IMG_2.MOV", "card/00001.MTS", "card/NOTE.WAV"}) {
+    tree.Write(name, name);
+  }
+  EXPECT_THAT(Taken({Card()}), testing::SizeIs(8));
+  EXPECT_THAT(found_.left, IsEmpty());
+  std::map<std::string, ImportSource> files;
+  for (const ImportSource& file : found_.files) {
+    files[Relative(file.path)] = file;
+  }
+  for (const char* const name : {"card/GOPR1.LRV", "card/GOPR1.THM", "card/GOPR1.xmp"}) {
+    EXPECT_EQ(files[name].shot, files["card/GOPR1.MP4"].shot) << name;
+    EXPECT_FALSE(files[name].leads) << name;
+  }
+  EXPECT_TRUE(files["card/GOPR1.MP4"].leads);
+  EXPECT_TRUE(files["card/00001.MTS"].leads);
+  EXPECT_TRUE(files["card/IMG_2.HEIC"].leads);
+  EXPECT_FALSE(files["card/IMG_2.MOV"].leads) << "it is part of the photo";
+  EXPECT_EQ(files["card/IMG_2.HEIC"].shot, files["card/IMG_2.MOV"].shot);
+  EXPECT_TRUE(files["card/NOTE.WAV"].isAlone);
+}
+
+TEST_F(ImportSources, HousekeepingIsLeftWithoutAWord) {
+  tree.Write("card/DCIM/100/a.jpg", "x");
+  for (const char* const name :
+       {"card/.DS_Store", "card/DCIM/100/._a.jpg", "card/DCIM/100/Thumbs.db", "card/.Trashes/501/b.jpg",
+        "card/System Volume Information/IndexerVolumeGuid", "card/LOST.DIR/1", "card/MISC/AUTPRINT.MRK",
+        "card/DCIM/CANONMSC/M0100.CTG", "card/PRIVATE/AVCHD/BDMV/INDEX.BDM",
+        "card/PRIVATE/AVCHD/BDMV/PLAYLIST/00000.MPL", "card/PRIVATE/M4ROOT/MEDIAPRO.XML",
+        "card/.lumidex-import/manifest.jsonl"}) {
+    tree.Write(name, "x");
+  }
+  EXPECT_THAT(Taken({Card()}), ElementsAre("card/DCIM/100/a.jpg"));
+  EXPECT_THAT(found_.left, IsEmpty());
+  EXPECT_EQ(found_.housekeeping, 12U);
+}
+
+TEST_F(ImportSources, WhatOnlyLooksLikeHousekeepingIsTold) {
+  for (const char* const name :
+       {"card/MISC/letter.doc", "card/INDEX.BDM", "card/version.txt", "card/Trashes.txt", "card/.hidden/x"}) {
+    tree.Write(name, "x");
+  }
+  EXPECT_THAT(Taken({Card()}), IsEmpty());
+  EXPECT_THAT(found_.left, testing::SizeIs(5));
+  EXPECT_EQ(found_.housekeeping, 0U);
 }
 
 TEST_F(ImportSources, BringTheirSideFilesButNoOtherPhotosWhenNamedThemselves) {

@@ -40,12 +40,15 @@ constexpr char kDescription[] =
     "Proposes an album for each holiday and for the weekends of each month that hold\n"
     "20 photos or more, in the order of time. FIRST DAY is the first day of the\n"
     "holiday or weekend, LAST DAY that of the latest photo. Accepting stores an\n"
-    "album in the catalogue; your files stay as they are.";
+    "album in the catalogue, and \"lumidex undo\" takes that back; your files stay as\n"
+    "they are.";
 
 constexpr char kFooter[] =
     R"(NAME is an album's name and time as shown: "Christmas, December 2023". It must
 fit exactly one album; when one name does not, nothing is accepted. Accepting
-an album again adds the photos that are new since.
+an album again adds the photos that are new since. All that one run accepts is
+one step: undo removes the albums that it made, and takes the photos that it
+added out of those that were there.
 
 Examples:
   lumidex albums
@@ -292,25 +295,40 @@ class AlbumsRun {
   }
 
   void Accept() {
+    if (chosen_.empty()) {
+      return;
+    }
+    ThrowIfInterrupted((Say(Words::tr("Interrupted.")) + NothingAccepted()).c_str());
+    std::vector<Album> albums;
     for (const std::size_t place : chosen_) {
-      ThrowIfInterrupted((Say(Words::tr("Interrupted.")) + DoneSoFar()).c_str());
-      const Album& album = proposals_[place];
-      try {
-        view_.accepted.push_back({album.GetModel().GetName(), catalogue_.AcceptAlbum(album)});
-      } catch (const Host::HostError& error) {
-        throw Failure("failed", error.what() + DoneSoFar());
+      albums.push_back(proposals_[place]);
+    }
+    try {
+      OpenJournal journal(session_);
+      const std::vector<Host::AcceptResult> results = journal.Get().AcceptAlbums(StepName(albums), albums);
+      bool anyChange = false;
+      for (std::size_t i = 0; i < albums.size(); ++i) {
+        view_.accepted.push_back({albums[i].GetModel().GetName(), results[i]});
+        anyChange = anyChange || results[i].created || results[i].photosAdded > 0;
       }
+      journal.Prune();
+      view_.canBeUndone = anyChange && journal.CanUndoLast();
+    } catch (const Host::HostError& error) {
+      throw Failure("failed", error.what() + NothingAccepted());
     }
   }
 
+  /// As the journal has it, in English.
+  static QString StepName(const std::vector<Album>& albums) {
+    return albums.size() == 1
+               ? QStringLiteral("accept album %1")
+                     .arg(QString::fromStdString(OneLineName(albums.front().GetModel().GetName())))
+               : QStringLiteral("accept %1 albums").arg(albums.size());
+  }
+
   // For a run that ends half way.
-  std::string DoneSoFar() const {
-    std::string names;
-    for (const AcceptedRow& row : view_.accepted) {
-      names += (names.empty() ? "" : ", ") + Say(Words::tr("\"%1\"", "a name"), {OneLineName(row.name)});
-    }
-    std::string text = ' ' + (names.empty() ? Say(Words::tr("No album was accepted."))
-                                            : Say(Words::tr("Accepted before that: %1."), {names}));
+  std::string NothingAccepted() const {
+    std::string text = ' ' + Say(Words::tr("No album was accepted."));
     if (view_.report) {
       text += ' ' + Say(Words::tr("The page %1 is written; it shows all chosen albums as accepted."),
                         {view_.report->utf8string()});

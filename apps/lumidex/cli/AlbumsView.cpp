@@ -80,7 +80,7 @@ std::string AcceptedLines(const AlbumsView& view) {
   for (const AcceptedRow& row : view.accepted) {
     text += AcceptedLine(row);
   }
-  return text;
+  return view.canBeUndone ? text + Say(Words::tr("\"lumidex undo\" takes it back.")) + '\n' : text;
 }
 
 /// What stands behind "from".
@@ -171,6 +171,7 @@ std::string AlbumsDocument(const AlbumsView& view) {
     json.EndObject();
   }
   json.EndArray();
+  json.Truth("canBeUndone", view.canBeUndone);
   WriteReportMember(json, view.report, view.missingPictures);
   if (view.calendarFault) {
     json.Text("calendarFault", *view.calendarFault);

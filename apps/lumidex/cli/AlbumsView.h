@@ -39,6 +39,7 @@ struct AlbumsView {
   bool withMembers = false;
   std::vector<AlbumRow> rows;  ///< By first day, then name.
   std::vector<AcceptedRow> accepted;
+  bool canBeUndone = false;  ///< What was accepted.
   std::optional<ioPath> report;
   int missingPictures = 0;
   /// Why holidays are missing, for a person.

@@ -17,13 +17,14 @@ using Words = std::vector<std::string>;
 
 constexpr char kDescription[] =
     "Lumidex keeps track of your photos, proposes albums for holidays and weekends,\n"
-    "and renames, turns and redates photos. Whatever it changes can be undone, and\n"
-    "it never deletes a photo.";
+    "and renames, turns and redates photos. \"lumidex undo\" takes back imports,\n"
+    "accepted albums, tags, renames, edits and moves to the trash; its help page says\n"
+    "what it does not cover. Lumidex never deletes a photo.";
 
 constexpr char kFooter[] =
     R"(Examples:
   lumidex scan ~/Pictures              take the photos into the catalogue
-  lumidex import /media/card           copy photos off a card, and take them in
+  lumidex import /media/card           copy photos and films off a card
   lumidex albums                       see which albums they would make
   lumidex albums --accept "Christmas, December 2023"
   lumidex albums --report albums.html  the same as a page with pictures

@@ -28,18 +28,27 @@ namespace {
 using Outcome = Host::ImportPlan::Outcome;
 
 constexpr char kDescription[] =
-    "Copy photos off a card, and take them into the catalogue.\n"
+    "Copy photos and films off a card, and take the photos into the catalogue.\n"
     "\n"
-    "Copies what lies on removable storage, with --to everything; the rest is taken\n"
-    "in where it lies. Every copy is read back from the disk and compared before it\n"
-    "counts. Your files are only read. What is there already is left alone, and a\n"
-    "run that stopped half way is completed when repeated.";
+    "Copies what lies on removable storage, with --to everything; other photos are\n"
+    "taken in where they lie. Every copy is read back from the disk and compared\n"
+    "before it counts. Your files are only read. What is there already is left alone,\n"
+    "and a run that stopped half way is completed when repeated. \"lumidex undo\"\n"
+    "moves the copies of a run to the trash.";
 
 constexpr char kFooter[] =
-    R"help(A folder stands for all photos in it and below it, with their side files (.xmp
-and others); hidden files and folders are passed over. Copies keep their names;
-where one is taken, "(1)" is put behind it. Beside the copies a hidden folder
-.lumidex-import lists each of them with its source and its SHA-256.
+    R"help(A folder stands for all photos and films in it and below it, with what belongs
+to them: thumbnails, spoken notes, settings (.xmp and others). Copies keep their
+names; where one is taken, "(1)" is put behind it. Beside the copies a hidden
+folder .lumidex-import lists each of them with its source and its SHA-256.
+
+Everything else on what is copied off is left and named, hidden files among it,
+but for what cameras and systems keep for themselves (.DS_Store, Thumbs.db,
+AUTPRINT.MRK and such). "Safe to format" is said only when nothing is left.
+
+Undo moves copies to the trash that are what they were; changed ones stay. The
+list of copies stays, too, and photos taken in where they lie stay in the
+catalogue: to copy nothing is no step that undo knows.
 
 Without --to, --yes and --no-copy the questions are asked on the terminal;
 where nobody can be asked, nothing is imported.
@@ -50,9 +59,10 @@ Examples:
   lumidex import --dry-run /media/card --to ~/Pictures/2024
   lumidex import --no-copy ~/Downloads/photos
 
-Exit codes: 0 done; 1 nothing was imported because you said so or there are no
-photos, or there is something to look at; 3 some files are missing or cannot be
-read; 4 nothing could be imported; 130 interrupted.)help";
+Exit codes: 0 done; 1 nothing was imported because you said so or there is
+nothing to import, something is left, or there is something to look at; 3 some
+files are missing or cannot be read; 4 nothing could be imported;
+130 interrupted.)help";
 
 struct ImportArguments {
   std::vector<std::string> sources;
@@ -87,6 +97,7 @@ class ImportCommand {
       : arguments_(arguments), session_(session) {
     view_.catalogue = session.CatalogueFile();
     view_.dryRun = arguments.dryRun;
+    view_.noCopy = arguments.noCopy;
   }
 
   ExitCode Run() {
@@ -95,12 +106,17 @@ class ImportCommand {
     if (!arguments_.dryRun) {
       RecoverIfNeeded(session_);
     }
-    const Host::GatheredSources sources = Host::GatherSources(roots);
+    view_.sources = roots;
+    const Host::GatheredSources sources = Host::GatherSources(roots, Host::Gathered::Everything);
     view_.found = sources.files.size();
     Plan(sources, given);
     if (!arguments_.dryRun && view_.plan.outcome == Outcome::Ready && view_.plan.obstacle.empty() &&
         !(view_.plan.copies.empty() && view_.plan.stays.empty())) {
       Import();
+      LookAtJournal();
+    }
+    if (!arguments_.dryRun) {
+      view_.verdict = Host::JudgeSources(roots, view_.plan, view_.result);
     }
     view_.recovered = session_.recovered;
     session_.output.Print(session_.globals.json ? ImportDocument(view_) : ImportText(view_));
@@ -150,12 +166,29 @@ class ImportCommand {
         [&progress](const Host::ImportProgress& now) { progress.Update(now.files, now.totalFiles); });
   }
 
+  /// The step is written. Somebody who works with the journal meanwhile is no reason to wait.
+  void LookAtJournal() {
+    if (view_.result.step == 0) {
+      return;
+    }
+    try {
+      OpenJournal journal(session_);
+      journal.Prune();
+      for (const Host::UndoStep& step : journal.Get().Steps()) {
+        view_.canBeUndone = view_.canBeUndone || (step.number == view_.result.step && !step.undone &&
+                                                  !step.givenUp && !step.underWay);
+      }
+    } catch (const Host::HostError& error) {
+      VLOG(1) << "the journal was not looked at: " << error.what();
+    }
+  }
+
   void Tell() const {
     if (view_.result.cancelled) {
       session_.console.Note(Say(Words::tr(
           "Interrupted. What was copied is whole and compared; the same command copies the rest.")));
     } else if (view_.found == 0) {
-      session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
+      session_.console.Note(Say(Words::tr("There are no photos or films in the given folders.")));
     }
   }
 
@@ -166,7 +199,8 @@ class ImportCommand {
     if (!view_.plan.obstacle.empty()) {
       return ExitCode::Failed;
     }
-    ExitCode code = ExitCode::Done;
+    ExitCode code =
+        view_.verdict.kind == Host::ImportVerdict::Kind::SomethingLeft ? ExitCode::Findings : ExitCode::Done;
     if (view_.plan.outcome == Outcome::Declined || view_.found == 0 || !view_.plan.splits.empty() ||
         !view_.plan.joins.empty()) {
       code = ExitCode::Findings;
@@ -174,7 +208,7 @@ class ImportCommand {
     for (const Host::LeftFile& left : view_.plan.left) {
       if (left.kind == Host::LeftFile::Kind::Unreadable) {
         code = Graver(code, ExitCode::Partly);
-      } else if (left.kind == Host::LeftFile::Kind::Loop) {
+      } else if (left.kind == Host::LeftFile::Kind::Loop || left.copiedOff) {
         code = Graver(code, ExitCode::Findings);
       }
     }

@@ -115,9 +115,12 @@ void WritePlan(JsonWriter& json, const Host::ImportPlan& plan) {
     json.Text("kind", LeftKindName(left.kind));
     json.Path("path", left.path);
     json.Text("cause", left.cause);
+    json.Truth("copiedOff", left.copiedOff);
     json.EndObject();
   }
   json.EndArray();
+  json.Number("housekeeping", static_cast<long long>(plan.housekeeping));
+  json.Number("inPlace", static_cast<long long>(plan.photosInPlace + plan.filmsInPlace));
   json.BeginArray("splits");
   for (const Host::SplitShot& split : plan.splits) {
     json.BeginObject();
@@ -227,23 +230,51 @@ std::string FindingsText(const ImportView& view) {
   return Say(Words::tr("Not taken into the catalogue:")) + '\n' + table.Text(2) + '\n';
 }
 
+void WriteVerdict(JsonWriter& json, const ImportView& view) {
+  using Kind = Host::ImportVerdict::Kind;
+  if (view.dryRun || view.verdict.kind == Kind::NotAsked) {
+    json.Null("safeToFormat");
+  } else {
+    json.Truth("safeToFormat", view.verdict.kind == Kind::NothingLeft);
+  }
+  json.Truth("wholeVolumes", view.verdict.wholeVolumes);
+  json.Truth("canBeUndone", view.canBeUndone);
+}
+
+std::string ReasonText(const LeftFile& file) {
+  return !file.cause.empty()                   ? file.cause
+         : file.kind == LeftFile::Kind::Hidden ? Say(Words::tr("It is hidden"))
+                                               : Say(Words::tr("It is neither a photo nor a film, nor what "
+                                                               "belongs to one"));
+}
+
+std::string SourcesText(const ImportView& view) {
+  std::string names;
+  for (const ioPath& source : view.sources) {
+    names += (names.empty() ? "" : ", ") + EscapeForTerminal(source.utf8string());
+  }
+  return names;
+}
+
 std::string LeftText(const ImportView& view) {
   if (view.plan.left.empty()) {
     return {};
   }
   TextTable table({{}, {}});
-  // What could not be read comes first: the rest is nothing to worry about.
+  // What would be lost with the source, and what could not be read, comes first: each is named.
+  const auto matters = [](const LeftFile& file) {
+    return file.copiedOff || file.kind != LeftFile::Kind::NotAPhoto;
+  };
   std::vector<LeftFile> left = view.plan.left;
-  std::stable_sort(left.begin(), left.end(), [](const LeftFile& one, const LeftFile& other) {
-    return (one.kind != LeftFile::Kind::NotAPhoto) > (other.kind != LeftFile::Kind::NotAPhoto);
+  std::stable_sort(left.begin(), left.end(), [&matters](const LeftFile& one, const LeftFile& other) {
+    return matters(one) > matters(other);
   });
   std::size_t shown = 0;
   for (const LeftFile& file : left) {
-    if (file.kind == LeftFile::Kind::NotAPhoto && shown >= kMostLeftLines) {
+    if (!matters(file) && shown >= kMostLeftLines) {
       break;
     }
-    table.AddRow({file.path.utf8string(),
-                  file.cause.empty() ? Say(Words::tr("It is not named like a photo")) : file.cause});
+    table.AddRow({file.path.utf8string(), ReasonText(file)});
     ++shown;
   }
   std::string text = Say(Words::tr("Left out:")) + '\n' + table.Text(2);
@@ -312,7 +343,70 @@ std::string OutcomeText(const ImportView& view) {
                 {GroupDigits(missing)}) +
             '\n';
   }
+  if (view.canBeUndone) {
+    text += Say(Words::tr("\"lumidex undo\" moves the copies of this run to the trash.")) + '\n';
+  }
   return text;
+}
+
+/// What stays where it is, and why.
+std::string InPlaceText(const ImportView& view) {
+  const Host::ImportPlan& plan = view.plan;
+  const std::size_t files = plan.photosInPlace + plan.filmsInPlace;
+  if (plan.outcome != Host::ImportPlan::Outcome::Ready || files == 0) {
+    return {};
+  }
+  std::string text;
+  if (view.noCopy || plan.copyDeclined) {
+    text = Say(
+        Words::tr("%1 files are not copied, as you said: they stay where they are.", nullptr, Amount(files)),
+        {GroupDigits(files)});
+  } else {
+    text = Say(Words::tr("%1 files are not copied: they do not lie on removable storage and stay where they "
+                         "are. \"--to DIR\" copies them.",
+                         nullptr, Amount(files)),
+               {GroupDigits(files)});
+  }
+  text += '\n';
+  if (plan.filmsInPlace > 0) {
+    text += Say(Words::tr("%1 of them are films, which the catalogue does not take.", nullptr,
+                          Amount(plan.filmsInPlace)),
+                {GroupDigits(plan.filmsInPlace)}) +
+            '\n';
+  }
+  return text;
+}
+
+std::string HousekeepingText(const ImportView& view) {
+  const std::size_t files = view.plan.copiesOff ? view.plan.housekeeping : 0;
+  return files == 0 ? std::string()
+                    : Say(Words::tr("%1 housekeeping files of cameras and systems are left.", nullptr,
+                                    Amount(files)),
+                          {GroupDigits(files)}) +
+                          '\n';
+}
+
+std::string VerdictText(const ImportView& view) {
+  using Kind = Host::ImportVerdict::Kind;
+  const std::string sources = SourcesText(view);
+  switch (view.verdict.kind) {
+    case Kind::NotAsked:
+      return {};
+    case Kind::SomethingLeft:
+      return Say(Words::tr("Not everything in %1 is copied: do not format or empty it yet."), {sources}) +
+             '\n';
+    case Kind::CopiesWithin:
+      return Say(Words::tr("Copies lie in %1 itself: do not format or empty it."), {sources}) + '\n';
+    case Kind::NothingLeft:
+      break;
+  }
+  return Say(view.verdict.wholeVolumes
+                 ? Words::tr("Nothing is left in %1: each file has a compared copy elsewhere. It is safe to "
+                             "format.")
+                 : Words::tr("Nothing is left in %1: each file has a compared copy elsewhere. As far as this "
+                             "folder goes it is safe to format; what lies beside it was not looked at."),
+             {sources}) +
+         '\n';
 }
 
 }  // namespace
@@ -321,6 +415,8 @@ const char* LeftKindName(LeftFile::Kind kind) {
   switch (kind) {
     case LeftFile::Kind::NotAPhoto:
       return "not-a-photo";
+    case LeftFile::Kind::Hidden:
+      return "hidden";
     case LeftFile::Kind::NoFile:
       return "no-file";
     case LeftFile::Kind::Unreadable:
@@ -347,6 +443,7 @@ std::string ImportDocument(const ImportView& view) {
   json.Text("stopped", view.result.stopped);
   WritePlan(json, view.plan);
   WriteResult(json, view.result);
+  WriteVerdict(json, view);
   WriteRecovered(json, view.recovered);
   return json.Finish();
 }
@@ -355,7 +452,8 @@ std::string ImportText(const ImportView& view) {
   return LeftText(view) + ShotsText(view.plan) + (view.dryRun ? PlanText(view) : "") + MissingText(view) +
          FindingsText(view) +
          (view.result.stopped.empty() ? "" : EscapeForTerminal(view.result.stopped) + '\n') +
-         KnownText(view) + OutcomeText(view);
+         KnownText(view) + OutcomeText(view) + InPlaceText(view) + HousekeepingText(view) +
+         (view.dryRun ? "" : VerdictText(view));
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -2,6 +2,7 @@
 
 #include <host/Import.h>
 #include <host/ImportPlan.h>
+#include <host/ImportVerdict.h>
 
 #include <zenvora/core/ioPath.h>
 
@@ -13,10 +14,14 @@ namespace Zenvora::Lumidex::Cli {
 /// All that one import, or its dry run, shows.
 struct ImportView {
   ioPath catalogue;
+  std::vector<ioPath> sources;  ///< As they were given, absolute.
   bool dryRun = false;
-  std::size_t found = 0;  ///< Photos and side files.
+  bool noCopy = false;    ///< The user said so.
+  std::size_t found = 0;  ///< Photos and films, and what belongs to them.
   Host::ImportPlan plan;
   Host::ImportResult result;  ///< Of the run; of a dry run empty.
+  Host::ImportVerdict verdict;
+  bool canBeUndone = false;  ///< The copies of this run.
   std::vector<std::string> recovered;
 };
 
@@ -24,7 +29,7 @@ struct ImportView {
 std::string ImportDocument(const ImportView& view);
 std::string ImportText(const ImportView& view);
 
-/// "not-a-photo", "no-file", "unreadable", "loop".
+/// "not-a-photo", "hidden", "no-file", "unreadable", "loop".
 const char* LeftKindName(Host::LeftFile::Kind kind);
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -46,6 +46,15 @@ std::optional<std::string> CountsText(std::string text) {
   return isWhole ? std::optional(PhotosAndFilesText(*photos, *files)) : std::nullopt;
 }
 
+/// "3 files to /folder", as the journal has it.
+std::optional<std::string> ImportText(std::string text) {
+  const auto files = TakeNumber(text);
+  const auto folder = files ? Behind(text, *files == 1 ? " file to " : " files to ") : std::nullopt;
+  return folder ? std::optional(Say(Words::tr("import %1 files to %2", nullptr, Amount(*files)),
+                                    {GroupDigits(*files), *folder}))
+                : std::nullopt;
+}
+
 }  // namespace
 
 std::string PhotosText(std::size_t photos) {
@@ -71,6 +80,18 @@ std::string StepText(const std::string& name) {
   }
   if (const auto tags = Behind(name, "tag ")) {
     return Say(Words::tr("tag %1", "+one -another"), {*tags});
+  }
+  if (const auto what = Behind(name, "import ")) {
+    return ImportText(*what).value_or(name);
+  }
+  if (const auto album = Behind(name, "accept album ")) {
+    return Say(Words::tr("accept album %1"), {*album});
+  }
+  if (auto what = Behind(name, "accept ")) {
+    const auto albums = TakeNumber(*what);
+    return albums && *what == " albums"
+               ? Say(Words::tr("accept %1 albums", nullptr, Amount(*albums)), {GroupDigits(*albums)})
+               : name;
   }
   constexpr const char* kWhole[] = {QT_TRANSLATE_NOOP("Terminal", "rotate left"),
                                     QT_TRANSLATE_NOOP("Terminal", "rotate right"),

@@ -21,14 +21,26 @@ namespace {
 constexpr int kMostSteps = 1'000;
 
 constexpr char kUndoDescription[] =
-    "Take back what was done to photos: renames, turns, dates.\n"
+    "Take back what was done: imports, albums, tags, renames, edits, the trash.\n"
     "\n"
     "Without an option, the last step. The photos get back their names and every\n"
     "byte of what they were. A photo that was changed since by others is left as it\n"
     "is, and listed; older steps wait then, until --skip gives this one up.";
 
 constexpr char kUndoFooter[] =
-    R"(What was taken back can be done again with "lumidex redo", until something new
+    R"(These are steps that can be taken back, within the limits below:
+  import           copies that are what they were go to the trash, others stay
+  albums --accept  the albums that were made, or the photos that were added
+  tag              the tags that were given or taken
+  rename           the old names
+  rotate, shift-date, set-date
+                   every byte of what the photos were
+  similar --trash  what is still in the trash comes back
+These are none: scan, photos that an import took in where they lie (they stay in
+the catalogue), the list of copies beside an import, what "similar" found out,
+settings, usage statistics, downloaded calendars, reports and sample photos.
+
+What was taken back can be done again with "lumidex redo", until something new
 is done. The originals of edited photos are kept beside the catalogue: usually
 for 90 days on which steps are made or taken back, and no more than 5 GiB of
 them. A step that needs older ones forgotten for that asks first.

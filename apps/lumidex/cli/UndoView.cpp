@@ -19,9 +19,10 @@ using Host::UndoResult;
 using Host::UndoStep;
 
 std::string StateText(const UndoStep& step) {
-  return step.undone    ? Say(Words::tr("undone", "a step"))
-         : step.givenUp ? Say(Words::tr("given up", "a step"))
-                        : std::string();
+  return step.undone     ? Say(Words::tr("undone", "a step"))
+         : step.givenUp  ? Say(Words::tr("given up", "a step"))
+         : step.underWay ? Say(Words::tr("goes on", "a step"))
+                         : std::string();
 }
 
 const char* KindName(const UndoView& view) {
@@ -60,6 +61,18 @@ std::string ResultText(const UndoResult& result, bool redo) {
                 {name, GroupDigits(left)});
   }
   text += '\n';
+  if (!redo && result.kind == Host::StepKind::Import && result.files > 0) {
+    text += Say(Words::tr("%1 copies are in the trash now.", nullptr, Amount(result.files)),
+                {GroupDigits(result.files)}) +
+            '\n';
+  }
+  if (result.lastCopies > 0) {
+    text += Say(Words::tr("Of %1 of them the source is not there: do not empty the trash before you have "
+                          "found it.",
+                          nullptr, Amount(result.lastCopies)),
+                {GroupDigits(result.lastCopies)}) +
+            '\n';
+  }
   if (result.stands && left > 0) {
     text += Say(Words::tr("Older steps wait for it; \"lumidex undo --skip\" leaves it as it is for good.")) +
             '\n';
@@ -116,8 +129,10 @@ void WriteDone(JsonWriter& json, const std::vector<UndoResult>& results) {
   json.BeginArray("done");
   for (const UndoResult& result : results) {
     json.BeginObject();
+    json.Text("kind", Host::StepKindName(result.kind));
     json.Text("name", result.name);
     json.Number("files", static_cast<long long>(result.files));
+    json.Number("lastCopies", static_cast<long long>(result.lastCopies));
     WriteFindings(json, result.findings);
     json.Truth("lacksRoomForRedo", result.lacksRoomForRedo);
     json.EndObject();
@@ -135,6 +150,7 @@ void WriteLimits(JsonWriter& json, const UndoView& view) {
 
 void WriteFacts(JsonWriter& json, const UndoStep& step) {
   json.Number("number", step.number);
+  json.Text("kind", Host::StepKindName(step.kind));
   json.Text("name", step.name);
   if (step.begun.isValid()) {
     json.Text("begun", step.begun.toUTC().toString(Qt::ISODate));
@@ -143,6 +159,7 @@ void WriteFacts(JsonWriter& json, const UndoStep& step) {
   }
   json.Truth("undone", step.undone);
   json.Truth("givenUp", step.givenUp);
+  json.Truth("underWay", step.underWay);
   json.Number("files", static_cast<long long>(step.files));
   json.Number("keptBytes", static_cast<long long>(step.keptBytes));
   json.Number("daysOfUse", step.daysOfUse);

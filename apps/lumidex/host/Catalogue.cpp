@@ -1,3 +1,4 @@
+#include "AlbumSteps.h"
 #include "CatalogueDatabase.h"
 #include "CatalogueRows.h"
 #include "CatalogueSchema.h"
@@ -12,8 +13,6 @@
 #include <zenvora/tavolin/Uuid.h>
 
 #include <filesystem>
-#include <optional>
-#include <unordered_set>
 #include <utility>
 
 #ifdef _WIN32
@@ -156,101 +155,9 @@ class Catalogue::Impl {
 
   const CatalogueDatabase& Database() const { return *database_; }
 
-  std::optional<qlonglong> FindNumber(const char* sql, const QString& text) const {
-    QSqlQuery query = database_->Prepare(sql);
-    query.addBindValue(text);
-    database_->Run(query);
-    return database_->Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
-  }
-
-  /// The album's number. `result` gets its id, and whether it is new.
-  qlonglong FindOrMakeAlbum(const Album& proposal, AcceptResult& result) const;
-  /// The photos' numbers, each once. Throws for ids that are not in the catalogue.
-  std::vector<qlonglong> NumbersOf(const Album& proposal) const;
-  int AddMembers(qlonglong album, const std::vector<qlonglong>& photos) const;
-
  private:
-  void StoreAttributes(qlonglong album, const Album& proposal) const;
-
   std::unique_ptr<CatalogueDatabase> database_;
 };
-
-qlonglong Catalogue::Impl::FindOrMakeAlbum(const Album& proposal, AcceptResult& result) const {
-  const QString name = NotNull(proposal.GetModel().GetName());
-  QSqlQuery known = database_->Prepare("SELECT number, id FROM albums WHERE name = ?");
-  known.addBindValue(name);
-  database_->Run(known);
-  if (database_->Next(known)) {
-    result.albumId = known.value(1).toString();
-    return known.value(0).toLongLong();
-  }
-  result.albumId = Tavolin::GenerateUuid();
-  result.created = true;
-  const QDate firstDay = proposal.GetModel().GetDateTime().date();
-  QSqlQuery added = database_->Prepare("INSERT INTO albums (id, name, first_day) VALUES (?, ?, ?)");
-  added.addBindValue(result.albumId);
-  added.addBindValue(name);
-  added.addBindValue(firstDay.isValid() ? QVariant(firstDay.toString(Qt::ISODate))
-                                        : QVariant(QVariant::String));
-  database_->Run(added);
-  const qlonglong album = added.lastInsertId().toLongLong();
-  StoreAttributes(album, proposal);
-  return album;
-}
-
-void Catalogue::Impl::StoreAttributes(qlonglong album, const Album& proposal) const {
-  QSqlQuery query = database_->Prepare(
-      "INSERT OR REPLACE INTO album_attributes (album, attribute, value) VALUES (?, ?, ?)");
-  for (const auto& [attribute, value] : proposal.GetAttributes()) {
-    query.addBindValue(album);
-    query.addBindValue(static_cast<int>(attribute));
-    query.addBindValue(NotNull(value));
-    database_->Run(query);
-  }
-}
-
-std::vector<qlonglong> Catalogue::Impl::NumbersOf(const Album& proposal) const {
-  QSqlQuery query = database_->Prepare("SELECT number FROM photos WHERE id = ?");
-  std::vector<qlonglong> numbers;
-  std::unordered_set<qlonglong> taken;
-  for (const QString& id : proposal.GetPhotoIds()) {
-    query.addBindValue(id);
-    database_->Run(query);
-    if (!database_->Next(query)) {
-      database_->Fail("it knows no photo with the id \"" + id.toStdString() + "\", which the album \"" +
-                      proposal.GetModel().GetName().toStdString() + "\" holds");
-    }
-    const qlonglong number = query.value(0).toLongLong();
-    if (taken.insert(number).second) {
-      numbers.push_back(number);
-    }
-  }
-  return numbers;
-}
-
-int Catalogue::Impl::AddMembers(qlonglong album, const std::vector<qlonglong>& photos) const {
-  QSqlQuery last = database_->Prepare("SELECT max(position) FROM album_photos WHERE album = ?");
-  last.addBindValue(album);
-  database_->Run(last);
-  database_->Next(last);
-  qlonglong position = last.value(0).isNull() ? 0 : last.value(0).toLongLong() + 1;
-  last.finish();
-
-  QSqlQuery query =
-      database_->Prepare("INSERT OR IGNORE INTO album_photos (album, position, photo) VALUES (?, ?, ?)");
-  int added = 0;
-  for (const qlonglong photo : photos) {
-    query.addBindValue(album);
-    query.addBindValue(position);
-    query.addBindValue(photo);
-    database_->Run(query);
-    if (query.numRowsAffected() > 0) {
-      ++added;
-      ++position;
-    }
-  }
-  return added;
-}
 
 Catalogue::Catalogue(const ioPath& file, Mode mode) : impl_(std::make_unique<Impl>(file, mode)) {}
 
@@ -379,11 +286,8 @@ std::unordered_map<std::string, std::vector<Tag>> Catalogue::PhotoTags() const {
 }
 
 AcceptResult Catalogue::AcceptAlbum(const Album& proposal) {
-  AcceptResult result;
   WriteTransaction transaction(impl_->Database());
-  const std::vector<qlonglong> photos = impl_->NumbersOf(proposal);
-  const qlonglong album = impl_->FindOrMakeAlbum(proposal, result);
-  result.photosAdded = impl_->AddMembers(album, photos);
+  const AcceptResult result = AcceptProposal(impl_->Database(), proposal).result;
   if (result.created || result.photosAdded > 0) {
     transaction.Commit();
   }

@@ -166,17 +166,11 @@ const Statements& Migration(int fromVersion) {
           "CREATE TABLE imported ("
           " number INTEGER PRIMARY KEY AUTOINCREMENT,"
           " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
-          " state INTEGER NOT NULL,"
           " path BLOB NOT NULL,"
           " source BLOB NOT NULL,"
-          " photo INTEGER REFERENCES photos (number),"
           " size INTEGER NOT NULL,"
           " modified_ns INTEGER NOT NULL,"
-          " digest BLOB NOT NULL,"
-          " place BLOB,"
-          " note BLOB,"
-          " device INTEGER NOT NULL DEFAULT 0,"
-          " file INTEGER NOT NULL DEFAULT 0)",
+          " digest BLOB NOT NULL)",
           "CREATE INDEX imported_by_step ON imported (step)",
           "CREATE TABLE album_changes ("
           " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
@@ -191,6 +185,12 @@ const Statements& Migration(int fromVersion) {
           " position INTEGER NOT NULL,"
           " photo INTEGER NOT NULL REFERENCES photos (number),"
           " PRIMARY KEY (step, album_id, position)) WITHOUT ROWID",
+          "CREATE TABLE album_change_attributes ("
+          " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
+          " album_id TEXT NOT NULL,"
+          " attribute INTEGER NOT NULL,"
+          " value TEXT NOT NULL,"
+          " PRIMARY KEY (step, album_id, attribute)) WITHOUT ROWID",
       },
   };
   static_assert(kCatalogueApplicationId == 1280132184, "the first migration writes it");

@@ -64,6 +64,16 @@ std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice cho
   return entries;
 }
 
+bool LeadsElsewhere(const ioPath& path) {
+  WIN32_FIND_DATAW found;
+  const HANDLE search = FindFirstFileW(path.for_system().c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) {
+    return false;
+  }
+  FindClose(search);
+  return KindOf(found) == FolderEntry::Kind::Link;
+}
+
 #else
 
 namespace {
@@ -109,6 +119,11 @@ std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice cho
     error = LastSystemError();
   }
   return entries;
+}
+
+bool LeadsElsewhere(const ioPath& path) {
+  struct stat facts = {};
+  return lstat(path.native().c_str(), &facts) == 0 && S_ISLNK(facts.st_mode);
 }
 
 #endif

@@ -29,4 +29,7 @@ enum class EntryChoice {
 /// What is in the folder, in no order, links not followed. What could be read before an error stays.
 std::vector<FolderEntry> ReadFolderEntries(const ioPath& folder, EntryChoice choice, std::error_code& error);
 
+/// True when there is a symbolic link, on Windows also a junction, of that name, wherever it leads.
+bool LeadsElsewhere(const ioPath& path);
+
 }  // namespace Zenvora::Lumidex::Host

@@ -1,7 +1,5 @@
 #include "FolderWalker.h"
 
-#include "FolderEntries.h"
-
 #include <zenvora/core/ErrorText.h>
 
 #include <algorithm>
@@ -40,7 +38,8 @@ bool IsAtOrBelow(const ioPath& path, const ioPath& folder) {
   return std::mismatch(start.begin(), start.end(), whole.begin(), whole.end()).first == start.end();
 }
 
-FolderWalker::FolderWalker(const std::vector<ioPath>& roots, Wanted wanted) : wanted_(wanted) {
+FolderWalker::FolderWalker(const std::vector<ioPath>& roots, Wanted wanted, PassOver passOver)
+    : wanted_(wanted), passOver_(std::move(passOver)) {
   for (const ioPath& root : roots) {
     if (QueryFile(root).kind == FileState::Kind::File) {
       if (takenFiles_.insert(root).second) {
@@ -130,7 +129,11 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
                                std::vector<std::string>& files) {
   std::error_code error;
   std::vector<ioPath> links;
-  for (const FolderEntry& entry : ReadFolderEntries(folder.path, EntryChoice::NotHidden, error)) {
+  const EntryChoice choice = wanted_ == Wanted::Files ? EntryChoice::All : EntryChoice::NotHidden;
+  for (const FolderEntry& entry : ReadFolderEntries(folder.path, choice, error)) {
+    if (passOver_ && passOver_(folder.path / entry.name, entry)) {
+      continue;
+    }
     if (const std::string fault = FaultOfEntry(entry.name); !fault.empty()) {
       Report(ScanFinding::Kind::Unreadable, folder.path / entry.name, fault);
       continue;
@@ -216,7 +219,7 @@ void FolderWalker::TakeFileLink(const ioPath& link) {
 bool FolderWalker::IsFoundWithoutLink(const ioPath& target) const {
   const FileState home = QueryFile(target.parent_path());
   return home.kind == FileState::Kind::Folder && visited_.count(home.identity) > 0 &&
-         !HasHiddenName(target) && IsWanted(target);
+         (wanted_ == Wanted::Files || !HasHiddenName(target)) && IsWanted(target);
 }
 
 bool FolderWalker::IsHidden(const ioPath& file) const {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "FolderEntries.h"
+
 #include <host/Scanner.h>
 
 #include <zenvora/core/FileState.h>
 
 #include <deque>
+#include <functional>
 #include <set>
 #include <string>
 #include <unordered_set>
@@ -27,11 +30,14 @@ class FolderWalker {
 
   enum class Wanted {
     Photos,  ///< Files that are named like photos.
-    Files,   ///< All of them; pipes and devices are findings then.
+    Files,   ///< All of them, hidden ones too; pipes and devices are findings then.
   };
+  /// Asked for each entry of a folder, links too; true: it is passed over, a folder with all below it.
+  using PassOver = std::function<bool(const ioPath& path, const FolderEntry& entry)>;
 
   /// `roots`: existing files and folders by their canonical paths. Files are taken whatever their names.
-  explicit FolderWalker(const std::vector<ioPath>& roots, Wanted wanted = Wanted::Photos);
+  explicit FolderWalker(const std::vector<ioPath>& roots, Wanted wanted = Wanted::Photos,
+                        PassOver passOver = nullptr);
 
   /// The next file; false at the end.
   bool Next(Found& found);
@@ -60,6 +66,7 @@ class FolderWalker {
   void ReportUnreadableFolder(const ioPath& path, const std::string& cause);
 
   const Wanted wanted_;
+  const PassOver passOver_;
   std::unordered_set<ioPath> rootFolders_;
   std::unordered_set<ioPath> walkedRoots_;
   /// Root files, and what file links led to.

@@ -1,11 +1,14 @@
+#include "CatalogueDatabase.h"
 #include "CopyVerifiers.h"
 #include "FileCopy.h"
 #include "FolderEntries.h"
 #include "ImportManifest.h"
+#include "ImportSteps.h"
 #include "ProcessLock.h"
 
 #include <host/Import.h>
 
+#include <zenvora/app/Application.h>
 #include <zenvora/app/ISettingsManager.h>
 #include <zenvora/app/Services.h>
 #include <zenvora/core/ErrorText.h>
@@ -39,7 +42,9 @@ constexpr int kMostThreads = 16;
 /// Copies that get their names together: each such step waits for the disk a few times.
 constexpr std::size_t kBatchSize = 64;
 constexpr auto kBatchAge = std::chrono::seconds(1);
-constexpr char kPartStart[] = "part-";
+/// Somebody may only be looking whether an import is at work.
+constexpr int kLockAttempts = 10;
+constexpr std::chrono::milliseconds kLockPause(20);
 
 int ThreadCount(const ImportOptions& options) {
   const int cores = static_cast<int>(std::thread::hardware_concurrency());
@@ -52,8 +57,10 @@ int ThreadCount(const ImportOptions& options) {
 class Workshop {
  public:
   explicit Workshop(const ioPath& folder) : copies_(folder), folder_(ImportFolder(folder)) {
+    RefuseLinks();
     MakeSafely(folder_);
-    if (const std::error_code error = lock_.Take(folder_ / "lock")) {
+    RefuseLinks();
+    if (const std::error_code error = TakeLock()) {
       const bool busy = error == std::errc::resource_unavailable_try_again;
       ThrowHostError(folder.utf8string(), busy ? "Another import is at work in " + folder.utf8string() + "."
                                                : "Nothing can be copied to " + folder.utf8string() + ": " +
@@ -78,6 +85,21 @@ class Workshop {
   ImportManifest& Manifest() { return *manifest_; }
 
  private:
+  void RefuseLinks() const {
+    if (const std::string fault = FindLinkFault(copies_); !fault.empty()) {
+      ThrowHostError(copies_.utf8string(), fault);
+    }
+  }
+
+  std::error_code TakeLock() {
+    std::error_code error = lock_.Take(folder_ / "lock");
+    for (int i = 1; error == std::errc::resource_unavailable_try_again && i < kLockAttempts; ++i) {
+      App::SleepFor(kLockPause);
+      error = lock_.Take(folder_ / "lock");
+    }
+    return error;
+  }
+
   /// With their names on the disk: what is in a folder is lost with it.
   void MakeSafely(const ioPath& folder) const {
     std::vector<ioPath> made;
@@ -154,6 +176,7 @@ class ImportRun {
 
   void CopyAll() {
     workshop_.emplace(plan_.folder);
+    journal_.emplace(catalogue_.File());
     // Canonical, so that a photo has one path however its folder is named.
     std::error_code error;
     folder_ = plan_.folder.canonical(error);
@@ -177,12 +200,29 @@ class ImportRun {
       Collect(true);
     }
     Settle();
+    CloseStep();
     for (; next < plan_.copies.size(); ++next) {
       Miss(next, Missing::NotReached,
            IsCancelled() ? "the import was interrupted" : "the import ended before");
     }
     verifiers_.reset();
+    journal_.reset();
     workshop_.reset();
+  }
+
+  /// While the folder of copies is still locked: a step whose import is not at work was broken off.
+  void CloseStep() {
+    if (result_.step == 0) {
+      return;
+    }
+    try {
+      if (journal_->rows.Close(result_.step) == 0) {
+        result_.step = 0;
+      }
+    } catch (const HostError& error) {
+      // The next opening of the journal closes it.
+      Stop(error.what());
+    }
   }
 
   /// As the library does when it is told to copy: the next import begins there.
@@ -267,7 +307,9 @@ class ImportRun {
                          result.verified.modifiedNs, result.state.modifiedNs});
     }
     try {
-      // Before the names: a copy under its name is always in the list, also after a kill in between.
+      // Before the names: a copy under its name is always in the journal and in the list, also after a kill
+      // in between.
+      NoteStep(records);
       workshop_->Manifest().Append(records);
     } catch (const HostError& error) {
       GiveUpBatch(error.what());
@@ -288,6 +330,24 @@ class ImportRun {
     }
   }
 
+  void NoteStep(const std::vector<ManifestRecord>& records) {
+    std::vector<ImportedCopy> copies;
+    copies.reserve(records.size());
+    for (const ManifestRecord& record : records) {
+      copies.push_back({folder_ / record.file, record.source, record.size, record.modifiedNs, record.sha256});
+    }
+    result_.step = journal_->rows.Note(result_.step, folder_, copies);
+  }
+
+  /// A copy that the journal has and that did not get its name.
+  void DropFromStep(const ImportCopy& copy) {
+    try {
+      journal_->rows.Drop(result_.step, folder_ / copy.target.filename());
+    } catch (const HostError& error) {
+      Stop(error.what());
+    }
+  }
+
   /// The first cause counts: the others follow from it.
   void Stop(const std::string& cause) {
     if (result_.stopped.empty()) {
@@ -304,6 +364,7 @@ class ImportRun {
     });
     if (error) {
       result.task.copy.remove();
+      DropFromStep(copy);
       const bool taken = error == std::errc::file_exists;
       Miss(result.task.index, taken ? Missing::NameTaken : Missing::NotWritten,
            taken ? "something else got the name " + copy.target.filename().utf8string() + " meanwhile"
@@ -326,7 +387,10 @@ class ImportRun {
     Stop(cause);
     for (const CopyVerifiers::Result& result : batch_) {
       result.task.copy.remove();
-      Miss(result.task.index, Missing::NotWritten, "the list of copies cannot be written");
+      if (result_.step != 0) {
+        DropFromStep(plan_.copies[result.task.index]);
+      }
+      Miss(result.task.index, Missing::NotWritten, "it cannot be noted that it was copied");
     }
     batch_.clear();
   }
@@ -396,7 +460,19 @@ class ImportRun {
   const ImportOptions& options_;
   const ImportProgressHandler& progress_;
 
+  /// A connection of its own: what it says must be on the disk before copies get their names.
+  struct Journal {
+    explicit Journal(const ioPath& catalogue)
+        : database(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
+          rows(database) {
+      database.Execute("PRAGMA synchronous = FULL");
+    }
+    const CatalogueDatabase database;
+    const ImportRows rows;
+  };
+
   std::optional<Workshop> workshop_;
+  std::optional<Journal> journal_;
   ioPath folder_;
   std::vector<CopyVerifiers::Result> batch_;
   SteadyClock::time_point batchBegun_;

@@ -1,9 +1,13 @@
 #include "ImportManifest.h"
 
+#include "FolderEntries.h"
+#include "ProcessLock.h"
+
 #include <host/HostError.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
 
 #include <QJsonDocument>
@@ -15,8 +19,13 @@
 #include <utility>
 
 #ifdef _WIN32
+#include <cstdint>
+#include <fcntl.h>
 #include <io.h>
+#include <windows.h>
 #else
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -26,6 +35,7 @@ namespace {
 
 constexpr char kFolderName[] = ".lumidex-import";
 constexpr char kManifestName[] = "manifest.jsonl";
+constexpr char kLockName[] = "lock";
 constexpr char kFirstLine[] = "{\"format\":\"lumidex.import-manifest\",\"version\":1}\n";
 /// A line that is longer is none of ours.
 constexpr std::size_t kMostLine = std::size_t{1} << 20U;
@@ -65,11 +75,50 @@ bool GetNumber(const QJsonObject& object, const QString& name, Number& number) {
   return ok;
 }
 
+/// For reading and adding; never through a link, and nothing but a regular file.
 std::FILE* OpenToAppend(const ioPath& file) {
 #ifdef _WIN32
-  return _wfopen(file.for_system().c_str(), L"abN");
+  const HANDLE handle =
+      CreateFileW(file.for_system().c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                  nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+  BY_HANDLE_FILE_INFORMATION facts;
+  if (handle == INVALID_HANDLE_VALUE) {
+    errno = EACCES;
+    return nullptr;
+  }
+  if (!GetFileInformationByHandle(handle, &facts) ||
+      (facts.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+    CloseHandle(handle);
+    errno = ELOOP;
+    return nullptr;
+  }
+  const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_APPEND | _O_BINARY);
+  if (descriptor < 0) {
+    CloseHandle(handle);
+    return nullptr;
+  }
+  std::FILE* const stream = _fdopen(descriptor, "a+b");
+  if (stream == nullptr) {
+    _close(descriptor);
+  }
+  return stream;
 #else
-  return std::fopen(file.native().c_str(), "abe");
+  const int descriptor =
+      open(file.native().c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666);
+  if (descriptor < 0) {
+    return nullptr;
+  }
+  struct stat facts = {};
+  if (fstat(descriptor, &facts) != 0 || !S_ISREG(facts.st_mode)) {
+    close(descriptor);
+    errno = EINVAL;
+    return nullptr;
+  }
+  std::FILE* const stream = fdopen(descriptor, "a+b");
+  if (stream == nullptr) {
+    close(descriptor);
+  }
+  return stream;
 #endif
 }
 
@@ -81,11 +130,11 @@ bool Sync(std::FILE* stream) {
 #endif
 }
 
-/// True when what was written last ends in the middle of a line.
-bool IsTorn(const ioPath& file) {
-  std::ifstream stream(file.for_system(), std::ios::binary);
-  stream.seekg(-1, std::ios::end);
-  return stream && stream.get() != '\n';
+/// True when what was written last ends in the middle of a line. Leaves the stream at its end.
+bool IsTorn(std::FILE* stream) {
+  const bool torn = std::fseek(stream, -1, SEEK_END) == 0 && std::fgetc(stream) != '\n';
+  std::fseek(stream, 0, SEEK_END);
+  return torn;
 }
 
 }  // namespace
@@ -122,7 +171,38 @@ ioPath ImportFolder(const ioPath& copies) {
   return copies / kFolderName;
 }
 
+std::string FindLinkFault(const ioPath& copies) {
+  const ioPath folder = ImportFolder(copies);
+  const auto refuse = [](const ioPath& link) {
+    return link.utf8string() +
+           " is a link to somewhere else, and imports do not write through links. Remove the link, then "
+           "import again.";
+  };
+  if (LeadsElsewhere(folder)) {
+    return refuse(folder);
+  }
+  std::error_code ignored;
+  for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::All, ignored)) {
+    const std::string name = entry.name.utf8string();
+    const bool isOurs = name == kManifestName || name == kLockName || name.rfind(kPartStart, 0) == 0;
+    if (isOurs && entry.kind == FolderEntry::Kind::Link) {
+      return refuse(folder / entry.name);
+    }
+  }
+  return {};
+}
+
+bool IsImportAtWork(const ioPath& copies) {
+  const ioPath file = ImportFolder(copies) / kLockName;
+  ProcessLock lock;
+  return QueryFile(file).kind == FileState::Kind::File &&
+         lock.Take(file) == std::errc::resource_unavailable_try_again;
+}
+
 std::vector<ManifestRecord> ImportManifest::Read(const ioPath& copies) {
+  if (!FindLinkFault(copies).empty()) {
+    return {};
+  }
   std::ifstream stream((ImportFolder(copies) / kManifestName).for_system(), std::ios::binary);
   std::vector<ManifestRecord> records;
   std::unordered_map<ioPath, std::size_t> places;
@@ -146,13 +226,12 @@ std::vector<ManifestRecord> ImportManifest::Read(const ioPath& copies) {
 class ImportManifest::Stream {
  public:
   explicit Stream(const ioPath& file) : file_(file) {
-    const bool isTorn = IsTorn(file);
     errno = 0;
     stream_ = OpenToAppend(file);
     if (stream_ == nullptr) {
       Throw();
     }
-    std::fseek(stream_, 0, SEEK_END);
+    const bool isTorn = IsTorn(stream_);
     const bool isNew = std::ftell(stream_) == 0;
     if (isNew || isTorn) {
       Write(isNew ? QByteArray(kFirstLine) : QByteArray("\n"));

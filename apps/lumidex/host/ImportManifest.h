@@ -30,14 +30,25 @@ std::optional<ManifestRecord> ParseManifestLine(const QByteArray& line);
 /// The hidden folder in a folder of copies that holds the list of them, and copies until they are verified.
 ioPath ImportFolder(const ioPath& copies);
 
+/// Why that folder is not worked with: it, or something of ours in it, is a link, through which an import
+/// would write to files elsewhere. One sentence; empty: nothing is wrong.
+std::string FindLinkFault(const ioPath& copies);
+
+/// True while an import is at work in the folder of copies, in whatever process.
+bool IsImportAtWork(const ioPath& copies);
+
+/// What the names of copies begin with that are not compared yet.
+constexpr char kPartStart[] = "part-";
+
 /// The list of the copies in one folder, by the names that they got. A kill at any moment leaves all records
 /// but the last ones readable.
 class ImportManifest {
  public:
-  /// What the list says now; empty when there is none, or it cannot be read.
+  /// What the list says now; empty when there is none, it cannot be read, or it is a link.
   static std::vector<ManifestRecord> Read(const ioPath& copies);
 
-  /// Opens the list of the folder to add to it; makes it when missing. Throws `HostError`.
+  /// Opens the list of the folder to add to it; makes it when missing. Links are not followed. Throws
+  /// `HostError`.
   explicit ImportManifest(const ioPath& copies);
   ~ImportManifest();
   ImportManifest(const ImportManifest&) = delete;

@@ -1,4 +1,5 @@
 #include "FolderEntries.h"
+#include "ImportManifest.h"
 #include "ImportNames.h"
 #include "ImportQuestions.h"
 #include "KnownContent.h"
@@ -13,6 +14,7 @@
 #include <zenvora/core/FileProbes.h>
 #include <zenvora/qtutility/DiskQuestions.h>
 #include <zenvora/tavolin/NativePath.h>
+#include <zenvora/tavolin/RemovableStorage.h>
 
 #include <QHash>
 #include <QSet>
@@ -39,11 +41,15 @@ class Planner {
           const ImportPlanOptions& options, const ImportPlanProgress& progress)
       : sources_(sources.files), photos_(photos), options_(options), progress_(progress) {
     plan_.left = sources.left;
+    plan_.housekeeping = sources.housekeeping;
   }
 
   ImportPlan Run() {
     if (!sources_.empty()) {
       KeepReadable() && FindKnown() && Place();
+    }
+    if (plan_.outcome == Outcome::Ready) {
+      SeeWhatIsCopiedOff();
     }
     if (plan_.outcome == Outcome::Ready && IsCancelled()) {
       plan_.outcome = Outcome::Interrupted;
@@ -90,7 +96,7 @@ class Planner {
       if (IsText(path) ? taken.contains(ReversibleText(path)) : OpensForReading(path)) {
         chosen_.push_back(i);
       } else {
-        plan_.left.push_back({LeftKind::Unreadable, path, kCannotBeRead});
+        plan_.left.push_back({LeftKind::Unreadable, path, kCannotBeRead, false});
       }
     }
     return !chosen_.empty();
@@ -101,13 +107,13 @@ class Planner {
     KnownContent content(photos_, options_.copyAll ? sources_ : std::vector<ImportSource>(), GoesOn());
     std::vector<std::size_t> fresh;
     std::uint64_t done = 0;
-    // Photos come first in their shots: what lies beside them is known by them.
+    // Photos and films come first in their shots: what lies beside them is known by them.
     for (const std::size_t i : chosen_) {
       const ImportSource& source = sources_[i];
       if (IsCancelled()) {
         return Stop(Outcome::Interrupted);
       }
-      if (!(source.isPhoto ? IsKnownPhoto(content, source) : IsKnownSideFile(source))) {
+      if (!(source.leads ? IsKnownPhoto(content, source) : IsKnownSideFile(source))) {
         fresh.push_back(i);
       }
       if (progress_) {
@@ -132,13 +138,13 @@ class Planner {
     return true;
   }
 
-  /// Beside the photo that is there already, under that photo's name.
+  /// Beside the photo or film that is there already, under its name.
   bool IsKnownSideFile(const ImportSource& source) {
-    const auto photos = photosThere_.find(source.shot);
-    if (photos == photosThere_.end()) {
+    const auto leaders = leadersThere_.find(source.shot);
+    if (leaders == leadersThere_.end()) {
       return false;
     }
-    const ioPath& photo = photos->second.front();
+    const ioPath& photo = leaders->second.front();
     const auto split = [](const ioPath& path) { return SplitShotName(path.filename().utf8string()); };
     const ioPath other = Sibling(photo, split(photo).base + split(source.path).suffix);
     const FileState state = QueryFile(other);
@@ -188,12 +194,12 @@ class Planner {
     }
     const KnownCopies copies(Tavolin::FromNative(folder), GoesOn());
     std::unordered_set<std::size_t> dropped;
-    // Photos first: by them it is known whose the side files are.
-    for (const bool photos : {true, false}) {
+    // Photos and films first: by them it is known whose the side files are.
+    for (const bool leaders : {true, false}) {
       for (const std::size_t i : chosen_) {
         const ImportSource& source = sources_[i];
-        const bool isAsked = source.isPhoto == photos && toCopy.contains(ReversibleText(source.path));
-        if (const auto copy = isAsked ? copies.Find(source, photosThere_[source.shot]) : std::nullopt) {
+        const bool isAsked = source.leads == leaders && toCopy.contains(ReversibleText(source.path));
+        if (const auto copy = isAsked ? copies.Find(source, leadersThere_[source.shot]) : std::nullopt) {
           AddKnown(KnownFile::Kind::Copied, source, *copy);
           dropped.insert(i);
           if (source.isPhoto) {
@@ -212,8 +218,8 @@ class Planner {
   void AddKnown(KnownFile::Kind kind, const ImportSource& source, const ioPath& other) {
     plan_.known.push_back({kind, source.path, other});
     placed_.push_back({source.path, other, source.shot});
-    if (source.isPhoto) {
-      photosThere_[source.shot].push_back(other);
+    if (source.leads) {
+      leadersThere_[source.shot].push_back(other);
     }
   }
 
@@ -235,7 +241,39 @@ class Planner {
       if (file.isPhoto) {
         plan_.stays.push_back(file.path);
       }
+      if (file.leads) {
+        ++(file.isPhoto ? plan_.photosInPlace : plan_.filmsInPlace);
+      }
+      // Else it lies in the folder of copies.
+      declined_ = declined_ || (source.isEmpty() && IsToLeave(file.path));
     }
+  }
+
+  /// What the user wants to be elsewhere afterwards, unless he said otherwise.
+  bool IsToLeave(const ioPath& file) {
+    if (options_.copyAll) {
+      return true;
+    }
+    const ioPath folder = file.parent_path();
+    const auto [known, isNew] = removable_.try_emplace(folder, false);
+    if (isNew) {
+      known->second = !Tavolin::GetRemovable({folder}).empty();
+    }
+    return known->second;
+  }
+
+  void SeeWhatIsCopiedOff() {
+    plan_.copyDeclined = declined_;
+    const auto leaves = [this](const ImportSource& source) { return IsToLeave(source.path); };
+    plan_.copiesOff = !declined_ && std::any_of(sources_.begin(), sources_.end(), leaves);
+    for (LeftFile& file : plan_.left) {
+      file.copiedOff = plan_.copiesOff && IsToLeave(file.path);
+    }
+    // Where files stay, what is hidden beside them stays hidden.
+    const auto end = std::remove_if(plan_.left.begin(), plan_.left.end(), [](const LeftFile& file) {
+      return file.kind == LeftKind::Hidden && !file.copiedOff;
+    });
+    plan_.left.erase(end, plan_.left.end());
   }
 
   /// Also by way of a link, which its name does not tell.
@@ -274,6 +312,10 @@ class Planner {
       plan_.obstacle = place.utf8string() + " is no folder.";
       return;
     }
+    if (const std::string fault = FindLinkFault(plan_.folder); !fault.empty()) {
+      plan_.obstacle = fault;
+      return;
+    }
     // As for any new file in a folder: its name lets folder and volume be found, and is never used.
     DataModel stub;
     stub.SetPath(place / "stub.dat");
@@ -299,9 +341,13 @@ class Planner {
   ImportPlan plan_;
   /// Of the sources, what is still in question.
   std::vector<std::size_t> chosen_;
-  /// Photos of the shots whose content is there already.
-  std::unordered_map<std::size_t, std::vector<ioPath>> photosThere_;
+  /// Photos of the shots whose content is there already; of shots without photos their films.
+  std::unordered_map<std::size_t, std::vector<ioPath>> leadersThere_;
   std::vector<PlacedFile> placed_;
+  /// Folders, whether they can be pulled out.
+  std::unordered_map<ioPath, bool> removable_;
+  /// Something that could be pulled out is not to be copied.
+  bool declined_ = false;
   /// Of the copies.
   std::vector<std::size_t> shots_;
 };

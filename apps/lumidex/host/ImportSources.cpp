@@ -1,5 +1,6 @@
 #include "FolderEntries.h"
 #include "FolderWalker.h"
+#include "Housekeeping.h"
 #include "ShotNames.h"
 
 #include <host/HostError.h>
@@ -33,6 +34,8 @@ ioPath CanonicalSource(const ioPath& source) {
 
 class Gatherer {
  public:
+  explicit Gatherer(Gathered wanted) : everything_(wanted == Gathered::Everything) {}
+
   GatheredSources Gather(const std::vector<ioPath>& sources) {
     std::vector<ioPath> roots;
     for (const ioPath& source : sources) {
@@ -44,7 +47,7 @@ class Gatherer {
       } else if (state.kind == FileState::Kind::Folder) {
         roots.push_back(path);
       } else {
-        result_.left.push_back({LeftKind::NoFile, path, "It is a pipe or a device"});
+        result_.left.push_back({LeftKind::NoFile, path, "It is a pipe or a device", false});
       }
     }
     Walk(roots);
@@ -55,24 +58,57 @@ class Gatherer {
 
  private:
   void Walk(const std::vector<ioPath>& roots) {
-    FolderWalker walker(roots, FolderWalker::Wanted::Files);
+    FolderWalker walker(
+        roots, FolderWalker::Wanted::Files,
+        [this](const ioPath& path, const FolderEntry& entry) { return PassOver(path, entry); });
     FolderWalker::Found found;
     while (walker.Next(found)) {
-      Add(found.path, found.state);
+      if (IsHidden(found.path)) {
+        result_.left.push_back({LeftKind::Hidden, found.path, "", false});
+      } else {
+        Add(found.path, found.state);
+      }
     }
     for (const ScanFinding& finding : walker.Findings()) {
       const bool isOther = QueryFile(finding.path).kind == FileState::Kind::Other;
       const LeftKind kind = isOther                                   ? LeftKind::NoFile
                             : finding.kind == ScanFinding::Kind::Loop ? LeftKind::Loop
                                                                       : LeftKind::Unreadable;
-      result_.left.push_back({kind, finding.path, finding.cause});
+      result_.left.push_back({kind, finding.path, finding.cause, false});
     }
+  }
+
+  bool PassOver(const ioPath& path, const FolderEntry& entry) {
+    if (!everything_) {
+      return entry.hidden;
+    }
+    if (entry.kind == FolderEntry::Kind::Folder ? IsHousekeepingFolder(path) : IsHousekeepingFile(path)) {
+      ++result_.housekeeping;
+      return true;
+    }
+    if (entry.hidden) {
+      hidden_.insert(path);
+    }
+    return false;
+  }
+
+  bool IsHidden(const ioPath& file) const {
+    for (ioPath place = file; !hidden_.empty() && place.parent_path() != place; place = place.parent_path()) {
+      if (hidden_.count(place) > 0) {
+        return true;
+      }
+    }
+    return false;
   }
 
   void Add(const ioPath& path, const FileState& state) {
     if (states_.emplace(path, state).second) {
-      (IsPhotoName(path) ? photos_ : others_).push_back(path);
+      (Leads(path) && beside_.count(path) == 0 ? leaders_ : others_).push_back(path);
     }
+  }
+
+  bool Leads(const ioPath& path) const {
+    return IsPhotoName(path) || (everything_ && IsFilmName(path.filename().utf8string()));
   }
 
   /// Each folder is read once, however many of its files were named.
@@ -80,7 +116,7 @@ class Gatherer {
     std::unordered_set<ioPath> folders;
     for (const ioPath& file : named_) {
       const ioPath folder = file.parent_path();
-      if (!IsPhotoName(file) || !folders.insert(folder).second) {
+      if (!Leads(file) || !folders.insert(folder).second) {
         continue;
       }
       std::error_code ignored;
@@ -96,38 +132,60 @@ class Gatherer {
   }
 
   void Group() {
-    std::size_t shot = 0;
-    std::unordered_set<ioPath> taken;
-    for (const ShotSet& set : GroupShots(photos_, others_)) {
-      for (const ShotFile& file : set.files) {
-        taken.insert(file.path);
-        result_.files.push_back({file.path, states_.at(file.path), IsPhotoName(file.path), shot});
-      }
-      ++shot;
-    }
+    AddShots(GroupShots(leaders_, others_));
+    std::vector<ioPath> alone;
     for (const ioPath& other : others_) {
-      if (taken.count(other) == 0 && beside_.count(other) == 0) {
-        const bool side = IsShotFile(other.filename().utf8string());
-        result_.left.push_back({LeftKind::NotAPhoto, other, side ? "It belongs to no photo here" : ""});
+      if (taken_.count(other) > 0 || beside_.count(other) > 0) {
+        continue;
+      }
+      if (everything_ && IsShotFile(other.filename().utf8string())) {
+        alone.push_back(other);
+      } else {
+        result_.left.push_back({LeftKind::NotAPhoto, other, "", false});
       }
     }
+    AddShots(GroupShots(alone, {}));
     std::sort(result_.left.begin(), result_.left.end(),
               [](const LeftFile& left, const LeftFile& right) { return left.path < right.path; });
   }
 
+  /// Photos first in their shots, then films: what lies beside them is known by them.
+  void AddShots(std::vector<ShotSet> shots) {
+    for (ShotSet& set : shots) {
+      const auto rank = [](const ShotFile& file) {
+        return IsPhotoName(file.path) ? 0 : IsFilmName(file.path.filename().utf8string()) ? 1 : 2;
+      };
+      std::stable_sort(
+          set.files.begin(), set.files.end(),
+          [&rank](const ShotFile& one, const ShotFile& other) { return rank(one) < rank(other); });
+      const int best = rank(set.files.front());
+      for (const ShotFile& file : set.files) {
+        taken_.insert(file.path);
+        result_.files.push_back({file.path, states_.at(file.path), IsPhotoName(file.path),
+                                 rank(file) == best && best < 2, best == 2, shots_});
+      }
+      ++shots_;
+    }
+  }
+
+  const bool everything_;
   GatheredSources result_;
   std::unordered_set<ioPath> named_;
   /// Not asked for by anybody: what is of no use among them is not worth a word.
   std::unordered_set<ioPath> beside_;
   std::unordered_map<ioPath, FileState> states_;
-  std::vector<ioPath> photos_;
+  std::unordered_set<ioPath> hidden_;
+  /// Photos and films.
+  std::vector<ioPath> leaders_;
   std::vector<ioPath> others_;
+  std::unordered_set<ioPath> taken_;
+  std::size_t shots_ = 0;
 };
 
 }  // namespace
 
-GatheredSources GatherSources(const std::vector<ioPath>& sources) {
-  return Gatherer().Gather(sources);
+GatheredSources GatherSources(const std::vector<ioPath>& sources, Gathered wanted) {
+  return Gatherer(wanted).Gather(sources);
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -95,7 +95,7 @@ KnownCopies::KnownCopies(const ioPath& folder, CopyGoesOn goesOn)
   }
   std::error_code ignored;
   for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::NotHidden, ignored)) {
-    if (IsPhotoName(entry.name)) {
+    if (IsPhotoName(entry.name) || IsFilmName(entry.name.utf8string())) {
       shots_.insert(ShotKey(folder / entry.name));
     }
   }
@@ -105,7 +105,7 @@ std::optional<ioPath> KnownCopies::Find(const ImportSource& source, const std::v
   for (auto [at, end] = byName_.equal_range(source.path.filename()); at != end; ++at) {
     const ManifestRecord& record = records_[at->second];
     const ioPath copy = folder_ / record.file;
-    if (record.size != source.state.size || !(source.isPhoto || IsOf(record, source, own))) {
+    if (record.size != source.state.size || !(source.leads || IsOf(record, source, own))) {
       continue;
     }
     const FileState state = QueryFile(copy);
@@ -123,7 +123,8 @@ bool KnownCopies::IsOf(const ManifestRecord& record, const ImportSource& source,
   const bool isBesideOwn =
       std::any_of(own.begin(), own.end(), [&shot](const ioPath& photo) { return ShotKey(photo) == shot; });
   // By its path alone it may be of a shot that bore the name before, whose photo it then lies beside.
-  return isBesideOwn || (record.source == source.path && (!own.empty() || shots_.count(shot) == 0));
+  return isBesideOwn ||
+         (record.source == source.path && (source.isAlone || !own.empty() || shots_.count(shot) == 0));
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -15,7 +15,8 @@ class ProcessLock {
   ProcessLock& operator=(const ProcessLock&) = delete;
 
   /// Makes the file when it is missing; its folder must exist. `resource_unavailable_try_again` while another
-  /// object, of this process or another, holds it. Does not wait.
+  /// object, of this process or another, holds it; `too_many_symbolic_link_levels` for a link, which is not
+  /// followed. Does not wait.
   std::error_code Take(const ioPath& file);
 
  private:

@@ -33,14 +33,22 @@ bool HasOneOf(std::string_view name, const std::array<std::string_view, kCount>&
   return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
 }
 
-bool IsCompanion(std::string_view name) {
-  // Settings of raw developers and of cameras, thumbnails, spoken notes, and films: short ones that are part
-  // of a photo, and those whose thumbnails lie beside them.
-  static constexpr std::array<std::string_view, 29> kExtensions = {
-      ".xmp", ".pp3", ".arp", ".dop", ".on1", ".vrd",  ".dr4", ".nksc", ".cos", ".json",
-      ".aae", ".thm", ".lrv", ".wav", ".m4a", ".mp3",  ".srt", ".xml",  ".mov", ".mp4",
-      ".m4v", ".avi", ".mts", ".3gp", ".mpg", ".insv", ".psd", ".psb",  ".xcf"};
+bool IsFilm(std::string_view name) {
+  // Of cameras, camcorders, telephones, drones and cameras that see all around.
+  static constexpr std::array<std::string_view, 25> kExtensions = {
+      ".mov", ".mp4",  ".m4v",  ".avi", ".mts", ".m2ts", ".m2t", ".3gp", ".3g2",
+      ".mkv", ".mpg",  ".mpeg", ".wmv", ".asf", ".mod",  ".tod", ".mxf", ".webm",
+      ".dv",  ".insv", ".360",  ".crm", ".r3d", ".nev",  ".braw"};
   return HasOneOf(name, kExtensions);
+}
+
+bool IsCompanion(std::string_view name) {
+  // Settings of raw developers and of cameras, thumbnails, spoken notes and layered pictures. Films are short
+  // ones that are part of a photo, and those whose thumbnails lie beside them.
+  static constexpr std::array<std::string_view, 23> kExtensions = {
+      ".xmp", ".pp3", ".arp", ".dop", ".on1", ".vrd", ".dr4", ".nksc", ".cos", ".json", ".aae", ".thm",
+      ".lrv", ".wav", ".m4a", ".mp3", ".aac", ".amr", ".srt", ".xml",  ".psd", ".psb",  ".xcf"};
+  return HasOneOf(name, kExtensions) || IsFilm(name);
 }
 
 bool IsDigit(char c) {
@@ -93,6 +101,10 @@ bool IsRawName(std::string_view name) {
       ".3fr", ".arw", ".cr2", ".cr3", ".crw", ".dcr", ".dng", ".erf", ".fff", ".iiq", ".kdc", ".mef", ".mos",
       ".mrw", ".nef", ".nrw", ".orf", ".pef", ".raf", ".raw", ".rw2", ".rwl", ".sr2", ".srf", ".srw", ".x3f"};
   return HasOneOf(name, kExtensions);
+}
+
+bool IsFilmName(std::string_view name) {
+  return IsFilm(name);
 }
 
 bool IsAppendixName(std::string_view name) {

@@ -45,6 +45,9 @@ bool IsShotFile(std::string_view name);
 /// True for names of raw files, from which all other pictures of a shot can be made again.
 bool IsRawName(std::string_view name);
 
+/// True for names of films, those included that are part of a photo.
+bool IsFilmName(std::string_view name);
+
 /// True for names of what says nothing without the photo that it lies beside: settings and thumbnails. Films,
 /// spoken notes and layered pictures are worth something by themselves.
 bool IsAppendixName(std::string_view name);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <host/StepKind.h>
+
 namespace Zenvora::Lumidex::Host {
 
 /// Of the journal's steps and of what they are made of. The numbers are stored.
@@ -11,17 +13,6 @@ enum class State : int {
   Undone = 4,
   Redoing = 5,
   GivenUp = 6
-};
-
-/// What a step of the journal did. The numbers are stored.
-enum class StepKind : int {
-  Unknown = 0,
-  Rename = 1,
-  Edit = 2,
-  Trash = 3,
-  Tags = 4,
-  Import = 5,
-  Albums = 6,
 };
 
 inline bool IsUnderWay(State state) {

@@ -1,3 +1,4 @@
+#include "AlbumSteps.h"
 #include "BlockedSteps.h"
 #include "CatalogueDatabase.h"
 #include "CatalogueRows.h"
@@ -5,6 +6,7 @@
 #include "DaysOfUse.h"
 #include "EditChanges.h"
 #include "FileMoves.h"
+#include "ImportSteps.h"
 #include "JournalFolder.h"
 #include "KeptFiles.h"
 #include "ShotNames.h"
@@ -86,6 +88,7 @@ class UndoJournal::Impl {
   TrashResult MoveToTrash(const QString& name, const std::vector<TrashPhoto>& photos,
                           const std::atomic<bool>& cancelled, const UndoProgress& progress);
   UndoResult ChangeTags(const QString& name, const TagWishes& wishes);
+  std::vector<AcceptResult> AcceptAlbums(const QString& name, const std::vector<Album>& proposals);
   ioPath PlanEdit(const ioPath& photo);
   void FinishEdit();
   void DropEdit();
@@ -120,6 +123,7 @@ class UndoJournal::Impl {
   void StoreMoves(const StepRow& step);
   void RecoverChanges(StepRow& step);
   void RecoverTrash(StepRow& step);
+  void RecoverImport(const StepRow& step);
   bool SettleChange(ChangeRow& change);
 
   Drive DriveMoves(const std::vector<FileMove>& moves, std::size_t at, std::size_t goal,
@@ -135,6 +139,11 @@ class UndoJournal::Impl {
   bool MoveOne(const SeenFile& file, const ioPath& kept, TrashResult& result) const;
   void SettleTrash(qlonglong step);
   UndoResult ReverseTags(const StepRow& step, bool redo);
+  UndoResult ReverseAlbums(const StepRow& step, bool redo);
+  UndoResult ReverseImport(const StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                           const UndoProgress& progress);
+  UndoResult ReverseStep(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                         const UndoProgress& progress);
   UndoResult ReverseTrash(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                           const UndoProgress& progress);
   bool IsKept(const ChangeRow& change, bool redo) const;
@@ -147,6 +156,8 @@ class UndoJournal::Impl {
   qlonglong InsertStep(StepKind kind, const QString& name, std::size_t files, const QByteArray& moves);
   std::vector<StepRow> ReadSteps(const char* condition, bool withMoves) const;
   void SetState(const char* table, qlonglong number, State state) const;
+  /// A step whose first doing is over.
+  void CloseStep(qlonglong step, std::size_t files, State state = State::Done) const;
   void DropChange(const ChangeRow& change) const;
   void DropStep(qlonglong step) const;
   void DropUndone() const;
@@ -160,6 +171,8 @@ class UndoJournal::Impl {
   const KeptFiles kept_;
   const TrashSteps trash_;
   const TagSteps tags_;
+  const AlbumSteps albums_;
+  const ImportSteps imports_;
   qlonglong step_ = 0;
   bool keeps_ = true;
   bool keepsForRedo_ = true;
@@ -178,7 +191,9 @@ UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker, cons
       database_(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
       kept_(folder_.Path()),
       trash_(database_, locker, trash),
-      tags_(database_) {
+      tags_(database_),
+      albums_(database_),
+      imports_(database_, trash_) {
   // What the journal says must be on the disk before the photos change.
   database_.Execute("PRAGMA synchronous = FULL");
   // The log must not need more room than is held for it.
@@ -255,6 +270,14 @@ void UndoJournal::Impl::SetState(const char* table, qlonglong number, State stat
   database_.Run(query);
 }
 
+void UndoJournal::Impl::CloseStep(qlonglong step, std::size_t files, State state) const {
+  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
+  query.addBindValue(static_cast<int>(state));
+  query.addBindValue(static_cast<qlonglong>(files));
+  query.addBindValue(step);
+  database_.Run(query);
+}
+
 void UndoJournal::Impl::DropChange(const ChangeRow& change) const {
   QSqlQuery query = database_.Prepare("DELETE FROM changes WHERE number = ?");
   query.addBindValue(change.number);
@@ -289,7 +312,7 @@ std::size_t UndoJournal::Impl::Prune(const UndoLimits& limits, const std::vector
     const auto isIt = [&step](const UndoStep& other) { return other.number == step.number; };
     const bool mayGo = announced == nullptr || step.givenUp || IsTooOld(step, limits) ||
                        std::any_of(announced->begin(), announced->end(), isIt);
-    if (mayGo && step.number != step_) {
+    if (mayGo && step.number != step_ && !step.underWay) {
       DropStep(step.number);
       dropped += step.givenUp ? 0 : 1;
     }
@@ -547,11 +570,7 @@ void UndoJournal::Impl::SettleStep(const StepRow& step) {
     DropStep(step.number);
     return;
   }
-  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(isKept ? State::Done : State::GivenUp));
-  query.addBindValue(static_cast<qlonglong>(files));
-  query.addBindValue(step.number);
-  database_.Run(query);
+  CloseStep(step.number, files, isKept ? State::Done : State::GivenUp);
   DropUndone();
 }
 
@@ -831,11 +850,7 @@ void UndoJournal::Impl::SettleTrash(qlonglong step) {
     DropStep(step);
     return;
   }
-  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(State::Done));
-  query.addBindValue(static_cast<qlonglong>(files));
-  query.addBindValue(step);
-  database_.Run(query);
+  CloseStep(step, files);
   DropUndone();
 }
 
@@ -894,12 +909,7 @@ UndoResult UndoJournal::Impl::ChangeTags(const QString& name, const TagWishes& w
   if (result.files == 0) {
     return result;
   }
-  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(State::Done));
-  query.addBindValue(static_cast<qlonglong>(result.files));
-  query.addBindValue(step);
-  database_.Run(query);
-  query.finish();
+  CloseStep(step, result.files);
   transaction.Commit();
   DropUndone();
   return result;
@@ -912,6 +922,50 @@ UndoResult UndoJournal::Impl::ReverseTags(const StepRow& step, bool redo) {
   result.files = tags_.Reverse(step.number, redo);
   SetState("steps", step.number, redo ? State::Done : State::Undone);
   transaction.Commit();
+  return result;
+}
+
+// --- Albums and imports
+
+std::vector<AcceptResult> UndoJournal::Impl::AcceptAlbums(const QString& name,
+                                                          const std::vector<Album>& proposals) {
+  WriteTransaction transaction(database_);
+  const qlonglong step = InsertStep(StepKind::Albums, name, 0, {});
+  std::vector<AcceptResult> results = albums_.Accept(step, proposals);
+  bool anyChange = false;
+  qlonglong photos = 0;
+  for (const AcceptResult& result : results) {
+    anyChange = anyChange || result.created || result.photosAdded > 0;
+    photos += result.photosAdded;
+  }
+  if (anyChange) {
+    CloseStep(step, static_cast<std::size_t>(photos));
+    transaction.Commit();
+    DropUndone();
+  }
+  return results;
+}
+
+UndoResult UndoJournal::Impl::ReverseAlbums(const StepRow& step, bool redo) {
+  UndoResult result;
+  result.name = step.name;
+  WriteTransaction transaction(database_);
+  result.files = albums_.Reverse(step.number, redo, result.findings);
+  SetState("steps", step.number, redo ? State::Done : State::Undone);
+  transaction.Commit();
+  return result;
+}
+
+UndoResult UndoJournal::Impl::ReverseImport(const StepRow& step, bool redo,
+                                            const std::atomic<bool>& cancelled,
+                                            const UndoProgress& progress) {
+  UndoResult result;
+  result.name = step.name;
+  imports_.RequireIdle(step.number);
+  SetState("steps", step.number, redo ? State::Redoing : State::Undoing);
+  const State state = imports_.Reverse(step.number, redo, cancelled, progress, result);
+  SetState("steps", step.number, state);
+  result.stands = !redo && state == State::Done;
   return result;
 }
 
@@ -928,7 +982,13 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
     // What could be done again gives its room.
     DropUndone();
   }
-  StepRow& step = steps.front();
+  UndoResult result = ReverseStep(steps.front(), redo, cancelled, progress);
+  result.kind = steps.front().kind;
+  return result;
+}
+
+UndoResult UndoJournal::Impl::ReverseStep(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                                          const UndoProgress& progress) {
   switch (step.kind) {
     case StepKind::Rename:
       return ReverseMoves(step, redo, cancelled, progress);
@@ -939,7 +999,9 @@ UndoResult UndoJournal::Impl::Reverse(bool redo, const std::atomic<bool>& cancel
     case StepKind::Tags:
       return ReverseTags(step, redo);
     case StepKind::Import:
+      return ReverseImport(step, redo, cancelled, progress);
     case StepKind::Albums:
+      return ReverseAlbums(step, redo);
     case StepKind::Unknown:
       break;
   }
@@ -974,9 +1036,16 @@ void UndoJournal::Impl::Recover() {
       RecoverTrash(step);
     } else if (step.kind == StepKind::Rename) {
       RecoverMoves(step);
+    } else if (step.kind == StepKind::Import) {
+      RecoverImport(step);
     } else {
       RecoverChanges(step);
     }
+  }
+  // Done while an import went on beside it: what was taken back before cannot be done again any more.
+  for (const StepRow& step : ReadSteps(
+           "state = 4 AND number < (SELECT coalesce(max(number), 0) FROM steps WHERE state = 2)", false)) {
+    DropStep(step.number);
   }
   std::set<std::string> wanted;
   for (const StepRow& step : ReadSteps("kind = 2", false)) {
@@ -1079,7 +1148,53 @@ void UndoJournal::Impl::RecoverTrash(StepRow& step) {
   }
 }
 
+void UndoJournal::Impl::RecoverImport(const StepRow& step) {
+  if (imports_.IsAtWork(step.number)) {
+    return;
+  }
+  const std::string name = "\"" + step.name.toStdString() + "\"";
+  if (const std::optional<ioPath> away = imports_.FindFolderAway(step.number)) {
+    notes.push_back(name + " had been broken off and is finished once " + away->utf8string() +
+                    " can be reached again.");
+    return;
+  }
+  if (step.state == State::Doing) {
+    const std::size_t files = imports_.Settle(step.number);
+    notes.push_back(name + " had been broken off; " + std::to_string(files) +
+                    (files == 1 ? " copy is" : " copies are") + " there. The same import copies the rest.");
+    return;
+  }
+  const bool redo = step.state == State::Redoing;
+  const std::atomic<bool> never{false};
+  const UndoResult result = ReverseImport(step, redo, never, nullptr);
+  notes.push_back(name + " had been broken off while it was " + (redo ? "done again" : "taken back") +
+                  "; now it is, with " + std::to_string(result.findings.size()) + " findings.");
+  for (const UndoFinding& finding : result.findings) {
+    notes.push_back(finding.cause + ".");
+  }
+}
+
 // --- The journal
+
+const char* StepKindName(StepKind kind) {
+  switch (kind) {
+    case StepKind::Rename:
+      return "rename";
+    case StepKind::Edit:
+      return "edit";
+    case StepKind::Trash:
+      return "trash";
+    case StepKind::Tags:
+      return "tags";
+    case StepKind::Import:
+      return "import";
+    case StepKind::Albums:
+      return "albums";
+    case StepKind::Unknown:
+      break;
+  }
+  return "unknown";
+}
 
 UndoJournal::UndoJournal(const ioPath& catalogue, IFileAccessLocker& locker)
     : UndoJournal(catalogue, locker, Tavolin::DesktopTrash()) {}
@@ -1107,6 +1222,12 @@ TrashResult UndoJournal::MoveToTrash(const QString& name, const std::vector<Tras
 UndoResult UndoJournal::ChangeTags(const QString& name, const TagWishes& wishes) {
   impl_->EndStep();
   return impl_->ChangeTags(name, wishes);
+}
+
+std::vector<AcceptResult> UndoJournal::AcceptAlbums(const QString& name,
+                                                    const std::vector<Album>& proposals) {
+  impl_->EndStep();
+  return impl_->AcceptAlbums(name, proposals);
 }
 
 ioPath UndoJournal::PlanEdit(const ioPath& photo) {

@@ -34,12 +34,14 @@ std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database, const char* 
   if (!HasJournal(database)) {
     return {};
   }
+  // A former version had neither.
+  const bool isCurrent = CountsDays(database);
   const std::string age =
-      CountsDays(database) ? "(SELECT coalesce(max(d.count), 0) FROM days_of_use d) - s.day" : "0";
+      isCurrent ? "(SELECT coalesce(max(d.count), 0) FROM days_of_use d) - s.day" : "0";
   const std::string sql =
       "SELECT s.number, s.name, s.begun, s.state, s.files,"
       " (SELECT total(c.kept_size) FROM changes c WHERE c.step = s.number), " +
-      age + " FROM steps s WHERE " + condition;
+      age + (isCurrent ? ", s.kind" : ", 0") + " FROM steps s WHERE " + condition;
   QSqlQuery query = database.Prepare(sql.c_str());
   database.Run(query);
   std::vector<UndoStep> steps;
@@ -54,6 +56,8 @@ std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database, const char* 
     step.files = static_cast<std::size_t>(query.value(4).toULongLong());
     step.keptBytes = static_cast<std::uint64_t>(query.value(5).toDouble());
     step.daysOfUse = query.value(6).toLongLong();
+    step.kind = static_cast<StepKind>(query.value(7).toInt());
+    step.underWay = step.kind == StepKind::Import && IsUnderWay(state);
     steps.push_back(std::move(step));
   }
   return steps;

@@ -42,6 +42,8 @@ struct ImportResult {
   std::uint64_t copied = 0;  ///< Files that got their names, whole and compared.
   std::uint64_t bytes = 0;   ///< Of those.
   std::uint64_t added = 0;   ///< Photos that are new in the catalogue, copied or not.
+  /// The step of the undo journal that holds the copies; 0: there are none.
+  std::int64_t step = 0;
   std::vector<MissingCopy> missing;
   /// Of the photos taken into the catalogue.
   std::vector<ScanFinding> findings;
@@ -63,10 +65,11 @@ using ImportProgressHandler = std::function<void(const ImportProgress&)>;
 
 /// Carries out a plan whose outcome is `Ready`. Sources are only read. A copy is written into a hidden folder
 /// beside its place, waited for until it is on the disk, read back from there, compared with what was read
-/// from the source (SHA-256), and noted in the list of copies; only then it gets its name, which nothing may
-/// have, and goes into the catalogue, some copies at a time. Content, time, permissions and noted attributes
-/// are kept. Before each copy the room is asked for again. What fails for one file is missing, and the others
-/// are copied; a full disk or a folder that takes no files ends the import.
+/// from the source (SHA-256), and noted in the undo journal and in the list of copies; only then it gets its
+/// name, which nothing may have, and goes into the catalogue, some copies at a time. The copies of a run are
+/// one step of the journal; what is taken in where it lies is none. Content, time, permissions and noted
+/// attributes are kept. Before each copy the room is asked for again. What fails for one file is missing, and
+/// the others are copied; a full disk or a folder that takes no files ends the import.
 ///
 /// A kill at any moment leaves whole, compared files under their names and nothing else that is seen; a plan
 /// made again then holds what is missing. A catalogue that fails ends the import, too. Throws `HostError`

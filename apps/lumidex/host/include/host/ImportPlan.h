@@ -70,6 +70,15 @@ struct ImportPlan {
   std::vector<ioPath> stays;
   std::vector<KnownFile> known;
   std::vector<LeftFile> left;
+  std::size_t housekeeping = 0;  ///< As of `GatheredSources`.
+  /// Sources are copied off: all that they hold is to be elsewhere afterwards. What of `left` speaks against
+  /// it has the mark.
+  bool copiesOff = false;
+  /// Of those that can be pulled out, some are not copied because the user said so.
+  bool copyDeclined = false;
+  /// What is not copied since it lies where it can stay, or the user said so.
+  std::size_t photosInPlace = 0;
+  std::size_t filmsInPlace = 0;
   std::vector<SplitShot> splits;
   std::vector<JoinedShot> joins;
   std::uint64_t bytes = 0;      ///< Of the copies.

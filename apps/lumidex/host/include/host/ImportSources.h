@@ -9,11 +9,15 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// A photo, or what lies beside one and belongs to it.
+/// A photo or a film, or what belongs to one: thumbnails, spoken notes, settings.
 struct ImportSource {
   ioPath path;  ///< Absolute; a link to a file keeps its own name.
   FileState state;
   bool isPhoto = false;
+  /// What the others of its shot are known by: each photo, or of a shot without one each film. All of a shot
+  /// without either is told by itself.
+  bool leads = false;
+  bool isAlone = false;  ///< Its shot has neither a photo nor a film.
   /// Equal for the files of one press of the shutter.
   std::size_t shot = 0;
 };
@@ -21,7 +25,8 @@ struct ImportSource {
 /// Something among the sources that is not taken.
 struct LeftFile {
   enum class Kind {
-    NotAPhoto,   ///< Neither named like a photo nor beside one.
+    NotAPhoto,   ///< Neither a photo nor a film, nor what belongs to one.
+    Hidden,      ///< Hidden itself, or below a hidden folder.
     NoFile,      ///< A pipe or a device: it is never opened.
     Unreadable,  ///< A file or folder that could not be read.
     Loop,        ///< A link that leads back.
@@ -29,17 +34,27 @@ struct LeftFile {
   Kind kind = Kind::NotAPhoto;
   ioPath path;
   std::string cause;  ///< English; empty when the kind says it all.
+  /// It lies on what is copied off: whoever erases that loses it. Planning finds out.
+  bool copiedOff = false;
 };
 
 struct GatheredSources {
   std::vector<ImportSource> files;
   std::vector<LeftFile> left;
+  /// Files and folders that cameras and systems keep for themselves; they are left without a word each.
+  std::size_t housekeeping = 0;
 };
 
-/// Finds the photos that `sources` (absolute paths) hold, and their side files: folders with all below them,
-/// as a scan goes through them, hidden things passed over. A photo that is named itself brings its side files
-/// along, but no other photo. Nothing is opened but folders. Throws `HostError` when a source does not exist.
-/// Blocks on the disk.
-GatheredSources GatherSources(const std::vector<ioPath>& sources);
+enum class Gathered {
+  Photos,      ///< Photos with what belongs to them; hidden things are passed over.
+  Everything,  ///< Films, too, and what belongs to nothing; the rest is left, hidden things among it.
+};
+
+/// Finds the photos and the films that `sources` (absolute paths) hold, and what belongs to such: folders
+/// with all below them, as a scan goes through them. What cameras and systems keep for themselves is passed
+/// over with `Everything`. A photo or a film that is named itself brings what lies beside it along, but none
+/// of another name. Nothing is opened but folders. Throws `HostError` when a source does not exist. Blocks on
+/// the disk.
+GatheredSources GatherSources(const std::vector<ioPath>& sources, Gathered wanted = Gathered::Photos);
 
 }  // namespace Zenvora::Lumidex::Host

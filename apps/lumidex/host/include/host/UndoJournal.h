@@ -1,11 +1,14 @@
 #pragma once
 
+#include <host/Catalogue.h>
 #include <host/HostError.h>
 #include <host/RenamePlan.h>
+#include <host/StepKind.h>
 #include <host/Tags.h>
 #include <host/TrashPlan.h>
 
 #include <zenvora/core/ioPath.h>
+#include <zenvora/lumidex/Album.h>
 #include <zenvora/lumidex/IFileAccessLocker.h>
 #include <zenvora/lumidex/IUndo.h>
 
@@ -28,11 +31,13 @@ namespace Zenvora::Lumidex::Host {
 
 /// What the journal knows of a step.
 struct UndoStep {
-  std::int64_t number = 0;      ///< Grows with every step; never used twice.
+  std::int64_t number = 0;  ///< Grows with every step; never used twice.
+  StepKind kind = StepKind::Unknown;
   QString name;                 ///< What the person did.
   QDateTime begun;              ///< UTC; invalid: the clock showed no year from 1 to 9999.
   bool undone = false;          ///< Taken back; it can be done again.
   bool givenUp = false;         ///< Can be neither taken back nor done again.
+  bool underWay = false;        ///< An import that goes on now.
   std::size_t files = 0;        ///< Files that it changed or moved.
   std::uint64_t keptBytes = 0;  ///< What is kept for it, as if nothing were shared with the photos.
   std::int64_t daysOfUse = 0;   ///< How many days the journal was used on since.
@@ -57,12 +62,15 @@ struct UndoFinding {
 
 /// What a batch of renames, an undo or a redo did.
 struct UndoResult {
+  StepKind kind = StepKind::Unknown;
   QString name;           ///< Of the step; empty: there was none.
   std::size_t files = 0;  ///< Changed or renamed.
   bool cancelled = false;
   bool stands = false;  ///< Of an undo: not all of the step could be taken back, and older ones wait for it.
   /// Of an undo: something was left for want of the room that redo needs (`UndoJournal::KeepForRedo`).
   bool lacksRoomForRedo = false;
+  /// Of the undo of an import: copies in the trash now whose sources are not to be found.
+  std::size_t lastCopies = 0;
   std::vector<UndoFinding> findings;
 };
 
@@ -138,6 +146,10 @@ class UndoJournal : public IUndo {
   /// Gives photos tags and takes some from them, as one step: all or, when it throws, none. The files are not
   /// touched. `files` of the result: photos that have other tags now; 0: there is no step.
   UndoResult ChangeTags(const QString& name, const TagWishes& wishes);
+
+  /// Accepts albums as one step: all or, when it throws, none (`Catalogue::AcceptAlbum`). Without a change
+  /// there is no step. Undo takes out what they gained, and the albums that were made.
+  std::vector<AcceptResult> AcceptAlbums(const QString& name, const std::vector<Album>& proposals);
 
   /// The name for the side file of an edit of `photo`, in its folder: hidden, and removed by recovery when it
   /// is still there. To be called within a step, before the side file is made.

@@ -1,0 +1,286 @@
+#include "AlbumSteps.h"
+
+#include "CatalogueRows.h"
+
+#include <zenvora/tavolin/Uuid.h>
+
+#include <optional>
+#include <unordered_set>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+std::optional<qlonglong> FindAlbum(const CatalogueDatabase& database, const char* sql, const QString& text) {
+  QSqlQuery query = database.Prepare(sql);
+  query.addBindValue(text);
+  database.Run(query);
+  return database.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
+}
+
+std::optional<qlonglong> FindAlbumById(const CatalogueDatabase& database, const QString& id) {
+  return FindAlbum(database, "SELECT number FROM albums WHERE id = ?", id);
+}
+
+QVariant DayText(const QDate& day) {
+  return day.isValid() ? QVariant(day.toString(Qt::ISODate)) : QVariant(QVariant::String);
+}
+
+qlonglong InsertAlbum(const CatalogueDatabase& database, const QString& id, const QString& name,
+                      const QVariant& firstDay) {
+  QSqlQuery query = database.Prepare("INSERT INTO albums (id, name, first_day) VALUES (?, ?, ?)");
+  query.addBindValue(id);
+  query.addBindValue(NotNull(name));
+  query.addBindValue(firstDay);
+  database.Run(query);
+  return query.lastInsertId().toLongLong();
+}
+
+void StoreAttribute(const CatalogueDatabase& database, qlonglong album, int attribute, const QString& value) {
+  QSqlQuery query =
+      database.Prepare("INSERT OR REPLACE INTO album_attributes (album, attribute, value) VALUES (?, ?, ?)");
+  query.addBindValue(album);
+  query.addBindValue(attribute);
+  query.addBindValue(NotNull(value));
+  database.Run(query);
+}
+
+/// The photos' numbers, each once. Throws for ids that are not in the catalogue.
+std::vector<qlonglong> NumbersOf(const CatalogueDatabase& database, const Album& proposal) {
+  QSqlQuery query = database.Prepare("SELECT number FROM photos WHERE id = ?");
+  std::vector<qlonglong> numbers;
+  std::unordered_set<qlonglong> taken;
+  for (const QString& id : proposal.GetPhotoIds()) {
+    query.addBindValue(id);
+    database.Run(query);
+    if (!database.Next(query)) {
+      database.Fail("it knows no photo with the id \"" + id.toStdString() + "\", which the album \"" +
+                    proposal.GetModel().GetName().toStdString() + "\" holds");
+    }
+    const qlonglong number = query.value(0).toLongLong();
+    if (taken.insert(number).second) {
+      numbers.push_back(number);
+    }
+  }
+  return numbers;
+}
+
+qlonglong NextPosition(const CatalogueDatabase& database, qlonglong album) {
+  QSqlQuery query =
+      database.Prepare("SELECT coalesce(max(position) + 1, 0) FROM album_photos WHERE album = ?");
+  query.addBindValue(album);
+  database.Run(query);
+  database.Next(query);
+  return query.value(0).toLongLong();
+}
+
+bool AddMember(const CatalogueDatabase& database, qlonglong album, qlonglong position, qlonglong photo) {
+  QSqlQuery query =
+      database.Prepare("INSERT OR IGNORE INTO album_photos (album, position, photo) VALUES (?, ?, ?)");
+  query.addBindValue(album);
+  query.addBindValue(position);
+  query.addBindValue(photo);
+  database.Run(query);
+  return query.numRowsAffected() > 0;
+}
+
+std::string ShownName(const QString& name) {
+  return '"' + QString(name).replace(QLatin1Char('\n'), QLatin1String(", ")).toStdString() + '"';
+}
+
+}  // namespace
+
+AcceptedAlbum AcceptProposal(const CatalogueDatabase& database, const Album& proposal) {
+  AcceptedAlbum accepted;
+  const std::vector<qlonglong> photos = NumbersOf(database, proposal);
+  const QString name = NotNull(proposal.GetModel().GetName());
+  qlonglong album = 0;
+  QSqlQuery known = database.Prepare("SELECT number, id FROM albums WHERE name = ?");
+  known.addBindValue(name);
+  database.Run(known);
+  if (database.Next(known)) {
+    album = known.value(0).toLongLong();
+    accepted.result.albumId = known.value(1).toString();
+  } else {
+    accepted.result.albumId = Tavolin::GenerateUuid();
+    accepted.result.created = true;
+    album = InsertAlbum(database, accepted.result.albumId, name,
+                        DayText(proposal.GetModel().GetDateTime().date()));
+    for (const auto& [attribute, value] : proposal.GetAttributes()) {
+      StoreAttribute(database, album, static_cast<int>(attribute), value);
+    }
+  }
+  known.finish();
+  qlonglong position = NextPosition(database, album);
+  for (const qlonglong photo : photos) {
+    if (AddMember(database, album, position, photo)) {
+      accepted.gained.emplace_back(position++, photo);
+    }
+  }
+  accepted.result.photosAdded = static_cast<int>(accepted.gained.size());
+  return accepted;
+}
+
+struct AlbumSteps::Change {
+  QString id;
+  QString name;
+  QVariant firstDay;
+  bool created = false;
+  std::vector<std::pair<int, QString>> attributes;
+  std::vector<std::pair<qlonglong, qlonglong>> photos;
+};
+
+std::vector<AcceptResult> AlbumSteps::Accept(qlonglong step, const std::vector<Album>& proposals) const {
+  std::vector<AcceptResult> results;
+  for (const Album& proposal : proposals) {
+    const AcceptedAlbum accepted = AcceptProposal(database_, proposal);
+    if (accepted.result.created || !accepted.gained.empty()) {
+      Note(step, proposal, accepted);
+    }
+    results.push_back(accepted.result);
+  }
+  return results;
+}
+
+void AlbumSteps::Note(qlonglong step, const Album& proposal, const AcceptedAlbum& accepted) const {
+  const QString& id = accepted.result.albumId;
+  QSqlQuery album = database_.Prepare(
+      "INSERT OR IGNORE INTO album_changes (step, album_id, name, first_day, created) VALUES (?, ?, ?, ?, "
+      "?)");
+  album.addBindValue(step);
+  album.addBindValue(id);
+  album.addBindValue(NotNull(proposal.GetModel().GetName()));
+  album.addBindValue(DayText(proposal.GetModel().GetDateTime().date()));
+  album.addBindValue(accepted.result.created ? 1 : 0);
+  database_.Run(album);
+  QSqlQuery photo = database_.Prepare(
+      "INSERT INTO album_change_photos (step, album_id, position, photo) VALUES (?, ?, ?, ?)");
+  for (const auto& [position, number] : accepted.gained) {
+    photo.addBindValue(step);
+    photo.addBindValue(id);
+    photo.addBindValue(position);
+    photo.addBindValue(number);
+    database_.Run(photo);
+  }
+  if (!accepted.result.created) {
+    return;
+  }
+  QSqlQuery attribute = database_.Prepare(
+      "INSERT INTO album_change_attributes (step, album_id, attribute, value) VALUES (?, ?, ?, ?)");
+  for (const auto& [key, value] : proposal.GetAttributes()) {
+    attribute.addBindValue(step);
+    attribute.addBindValue(id);
+    attribute.addBindValue(static_cast<int>(key));
+    attribute.addBindValue(NotNull(value));
+    database_.Run(attribute);
+  }
+}
+
+std::vector<AlbumSteps::Change> AlbumSteps::ReadChanges(qlonglong step) const {
+  std::vector<Change> changes;
+  QSqlQuery albums = database_.Prepare(
+      "SELECT album_id, name, first_day, created FROM album_changes WHERE step = ? ORDER BY name");
+  albums.addBindValue(step);
+  database_.Run(albums);
+  while (database_.Next(albums)) {
+    changes.push_back({albums.value(0).toString(),
+                       albums.value(1).toString(),
+                       albums.value(2),
+                       albums.value(3).toBool(),
+                       {},
+                       {}});
+  }
+  for (Change& change : changes) {
+    QSqlQuery photos = database_.Prepare(
+        "SELECT position, photo FROM album_change_photos WHERE step = ? AND album_id = ? ORDER BY position");
+    photos.addBindValue(step);
+    photos.addBindValue(change.id);
+    database_.Run(photos);
+    while (database_.Next(photos)) {
+      change.photos.emplace_back(photos.value(0).toLongLong(), photos.value(1).toLongLong());
+    }
+    QSqlQuery attributes = database_.Prepare(
+        "SELECT attribute, value FROM album_change_attributes WHERE step = ? AND album_id = ?");
+    attributes.addBindValue(step);
+    attributes.addBindValue(change.id);
+    database_.Run(attributes);
+    while (database_.Next(attributes)) {
+      change.attributes.emplace_back(attributes.value(0).toInt(), attributes.value(1).toString());
+    }
+  }
+  return changes;
+}
+
+std::size_t AlbumSteps::TakeOut(const Change& change, std::vector<UndoFinding>& findings) const {
+  const std::optional<qlonglong> album = FindAlbumById(database_, change.id);
+  if (!album) {
+    return 0;
+  }
+  std::size_t photos = 0;
+  QSqlQuery query = database_.Prepare("DELETE FROM album_photos WHERE album = ? AND photo = ?");
+  for (const auto& [position, photo] : change.photos) {
+    query.addBindValue(*album);
+    query.addBindValue(photo);
+    database_.Run(query);
+    photos += query.numRowsAffected() > 0 ? 1 : 0;
+  }
+  if (!change.created) {
+    return photos;
+  }
+  if (NextPosition(database_, *album) > 0) {
+    findings.push_back(
+        {database_.File(), "The album " + ShownName(change.name) + " stays: photos were added to it since"});
+    return photos;
+  }
+  for (const char* const sql :
+       {"DELETE FROM album_attributes WHERE album = ?", "DELETE FROM albums WHERE number = ?"}) {
+    QSqlQuery gone = database_.Prepare(sql);
+    gone.addBindValue(*album);
+    database_.Run(gone);
+  }
+  return photos;
+}
+
+/// With the id and the attributes that it had.
+qlonglong AlbumSteps::Make(const Change& change) const {
+  const qlonglong album = InsertAlbum(database_, change.id, change.name, change.firstDay);
+  for (const auto& [attribute, value] : change.attributes) {
+    StoreAttribute(database_, album, attribute, value);
+  }
+  return album;
+}
+
+std::size_t AlbumSteps::BringIn(const Change& change, std::vector<UndoFinding>& findings) const {
+  std::optional<qlonglong> album = FindAlbumById(database_, change.id);
+  if (!album && !change.created) {
+    findings.push_back({database_.File(), "The album " + ShownName(change.name) + " is not there any more"});
+    return 0;
+  }
+  if (!album && FindAlbum(database_, "SELECT number FROM albums WHERE name = ?", change.name)) {
+    findings.push_back(
+        {database_.File(), "There is another album of the name " + ShownName(change.name) + " now"});
+    return 0;
+  }
+  if (!album) {
+    album = Make(change);
+  }
+  std::size_t photos = 0;
+  for (const auto& [position, photo] : change.photos) {
+    // Its place may be another photo's now; it may be in the album itself.
+    photos += AddMember(database_, *album, position, photo) ||
+                      AddMember(database_, *album, NextPosition(database_, *album), photo)
+                  ? 1
+                  : 0;
+  }
+  return photos;
+}
+
+std::size_t AlbumSteps::Reverse(qlonglong step, bool redo, std::vector<UndoFinding>& findings) const {
+  std::size_t photos = 0;
+  for (const Change& change : ReadChanges(step)) {
+    photos += redo ? BringIn(change, findings) : TakeOut(change, findings);
+  }
+  return photos;
+}
+
+}  // namespace Zenvora::Lumidex::Host
