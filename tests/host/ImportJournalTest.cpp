@@ -277,6 +277,8 @@ TEST_F(ImportJournal, WaitsForAnImportAtWorkInTheFolder) {
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportJournal, UndoSurvivesKills, "a process is forked by means of Linux");
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportJournal, UndoNeedsNoRoomWhereTheCopiesLie,
                               "a small volume is mounted by means of Linux");
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportJournal, NothingIsCopiedThatCannotBeNoted,
+                              "a small volume is mounted by means of Linux");
 
 #else
 
@@ -350,6 +352,28 @@ TEST_F(ImportJournal, UndoNeedsNoRoomWhereTheCopiesLie) {
   const UndoResult rest = journal.UndoLast(never_, nullptr);
   EXPECT_EQ(undone.files + rest.files, 3U);
   EXPECT_THAT(NamesIn(tree.Path("disk/copies")), IsEmpty());
+}
+
+TEST_F(ImportJournal, NothingIsCopiedThatCannotBeNoted) {
+  const Zenvora::Test::SmallDisk disk(tree.MakeFolder("data"), std::size_t{4} << 20U);
+  if (!disk.IsThere()) {
+    GTEST_SKIP() << "only the superuser can mount a small volume";
+  }
+  MakePhotos("card", 3);
+  const ImportPlan plan = PlanTo({Card()});
+  {
+    std::ofstream filler(tree.Path("data/filler").native(), std::ios::binary);
+    filler << std::string(std::size_t{8} << 20U, 'f');
+  }
+  const ImportResult result = Carry(plan);
+  EXPECT_THAT(result.stopped, HasSubstr("catalogue"));
+  EXPECT_EQ(result.copied, 0U);
+  EXPECT_THAT(result.missing, SizeIs(3));
+  EXPECT_THAT(NamesIn(Copies()), IsEmpty());
+  EXPECT_THAT(PartsIn(Copies()), IsEmpty());
+  tree.Path("data/filler").remove();
+  EXPECT_EQ(Import().copied, 3U);
+  EXPECT_EQ(Undo().files, 3U);
 }
 
 #endif

@@ -629,9 +629,9 @@ TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
   Rename({{"a.jpg", "x.jpg"}});
   ASSERT_TRUE(Photo("x.jpg").rename(Photo("a.jpg")));
   StopIn(1);
-  for (const char* const table :
-       {"imported", "album_change_photos", "album_changes", "days_of_use", "tag_changes", "photo_tags",
-        "tags", "trashed", "cluster_photos", "clusters", "features", "analysers"}) {
+  for (const char* const table : {"imported", "album_change_photos", "album_change_attributes",
+                                  "album_changes", "days_of_use", "tag_changes", "photo_tags", "tags",
+                                  "trashed", "cluster_photos", "clusters", "features", "analysers"}) {
     Sql(std::string("DROP TABLE ") + table);
   }
   for (const char* const column :

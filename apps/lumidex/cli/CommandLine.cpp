@@ -18,8 +18,8 @@ using Words = std::vector<std::string>;
 constexpr char kDescription[] =
     "Lumidex keeps track of your photos, proposes albums for holidays and weekends,\n"
     "and renames, turns and redates photos. \"lumidex undo\" takes back imports,\n"
-    "accepted albums, tags, renames, edits and moves to the trash; its help page says\n"
-    "what it does not cover. Lumidex never deletes a photo.";
+    "accepted albums, tags, renames, edits and moves to the trash; its help page\n"
+    "says what it does not cover. Lumidex never deletes a photo.";
 
 constexpr char kFooter[] =
     R"(Examples:

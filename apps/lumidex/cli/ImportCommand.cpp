@@ -32,15 +32,16 @@ constexpr char kDescription[] =
     "\n"
     "Copies what lies on removable storage, with --to everything; other photos are\n"
     "taken in where they lie. Every copy is read back from the disk and compared\n"
-    "before it counts. Your files are only read. What is there already is left alone,\n"
-    "and a run that stopped half way is completed when repeated. \"lumidex undo\"\n"
-    "moves the copies of a run to the trash.";
+    "before it counts. Your files are only read. What is there already is left\n"
+    "alone, and a run that stopped half way is completed when repeated. \"lumidex\n"
+    "undo\" moves the copies of a run to the trash.";
 
 constexpr char kFooter[] =
     R"help(A folder stands for all photos and films in it and below it, with what belongs
-to them: thumbnails, spoken notes, settings (.xmp and others). Copies keep their
-names; where one is taken, "(1)" is put behind it. Beside the copies a hidden
-folder .lumidex-import lists each of them with its source and its SHA-256.
+to them: thumbnails, spoken notes, settings (.xmp and others). Copies keep
+their names; where one is taken, "(1)" is put behind it. Beside the copies a
+hidden folder .lumidex-import lists each of them with its source and its
+SHA-256.
 
 Everything else on what is copied off is left and named, hidden files among it,
 but for what cameras and systems keep for themselves (.DS_Store, Thumbs.db,

@@ -401,10 +401,11 @@ std::string VerdictText(const ImportView& view) {
       break;
   }
   return Say(view.verdict.wholeVolumes
-                 ? Words::tr("Nothing is left in %1: each file has a compared copy elsewhere. It is safe to "
+                 ? Words::tr("Nothing is left in %1: each file has a compared copy elsewhere.\nIt is safe to "
                              "format.")
-                 : Words::tr("Nothing is left in %1: each file has a compared copy elsewhere. As far as this "
-                             "folder goes it is safe to format; what lies beside it was not looked at."),
+                 : Words::tr(
+                       "Nothing is left in %1: each file has a compared copy elsewhere.\nAs far as this "
+                       "folder goes it is safe to format; what lies beside it was not\nlooked at."),
              {sources}) +
          '\n';
 }

@@ -36,9 +36,9 @@ constexpr char kUndoFooter[] =
   rotate, shift-date, set-date
                    every byte of what the photos were
   similar --trash  what is still in the trash comes back
-These are none: scan, photos that an import took in where they lie (they stay in
-the catalogue), the list of copies beside an import, what "similar" found out,
-settings, usage statistics, downloaded calendars, reports and sample photos.
+These are none: scan, photos that an import took in where they lie (they stay
+in the catalogue), the list of copies beside an import, what "similar" found
+out, settings, usage statistics, downloaded calendars, reports, sample photos.
 
 What was taken back can be done again with "lumidex redo", until something new
 is done. The originals of edited photos are kept beside the catalogue: usually

@@ -61,7 +61,7 @@ void AddShared(const Paths& left, const Paths& right, Paths& shared) {
 /// The files of `older` that stand in another way than it left them.
 Paths FilesInTheWay(const CatalogueDatabase& database, qlonglong older, const Traces& newer) {
   const Traces traces = TracesOf(database, older);
-  const Paths copies = PathsOf(database, "SELECT path FROM imported WHERE step = ? AND state = 2", older);
+  const Paths copies = PathsOf(database, "SELECT path FROM imported WHERE step = ?", older);
   Paths files;
   AddShared(traces.changed, newer.changed, files);
   AddShared(traces.changed, newer.gone, files);

@@ -241,10 +241,10 @@ class Planner {
       if (file.isPhoto) {
         plan_.stays.push_back(file.path);
       }
-      if (file.leads) {
+      // Else it lies in the folder of copies.
+      if (source.isEmpty() && file.leads) {
         ++(file.isPhoto ? plan_.photosInPlace : plan_.filmsInPlace);
       }
-      // Else it lies in the folder of copies.
       declined_ = declined_ || (source.isEmpty() && IsToLeave(file.path));
     }
   }

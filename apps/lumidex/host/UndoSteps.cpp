@@ -36,8 +36,7 @@ std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database, const char* 
   }
   // A former version had neither.
   const bool isCurrent = CountsDays(database);
-  const std::string age =
-      isCurrent ? "(SELECT coalesce(max(d.count), 0) FROM days_of_use d) - s.day" : "0";
+  const std::string age = isCurrent ? "(SELECT coalesce(max(d.count), 0) FROM days_of_use d) - s.day" : "0";
   const std::string sql =
       "SELECT s.number, s.name, s.begun, s.state, s.files,"
       " (SELECT total(c.kept_size) FROM changes c WHERE c.step = s.number), " +
