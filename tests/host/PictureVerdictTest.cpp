@@ -239,6 +239,7 @@ TEST(PictureVerdict, IsDifferentForPlainColours) {
   const auto plain = [](const QColor& colour) { return Plain({400, 300}, colour); };
   Expect(Verdict::Different, plain(QColor(20, 40, 200)), plain(QColor(30, 60, 215)), "two blues");
   Expect(Verdict::Different, plain(QColor(20, 40, 200)), plain(QColor(20, 40, 170)), "a darker blue");
+  Expect(Verdict::Different, plain(QColor(20, 40, 200)), plain(QColor(20, 40, 192)), "nearly that blue");
   Expect(Verdict::Same, Compressed(plain(QColor(20, 40, 200)), 60), plain(QColor(20, 40, 200)), "one blue");
 }
 
@@ -288,6 +289,16 @@ TEST_F(PictureVerdictFiles, AreComparedByTheirPixels) {
   EXPECT_EQ(against.Judge(Save(Photo(SceneKind::Cake), "other.jpg")).verdict, Verdict::Different);
   EXPECT_EQ(against.Judge(tree_.Write("text.jpg", "no picture")).verdict, Verdict::Unknown);
   EXPECT_EQ(against.Judge(tree_.Path("missing.jpg")).verdict, Verdict::Unknown);
+}
+
+TEST_F(PictureVerdictFiles, AreAlikeWhenTheLargerOneShowsMore) {
+  const ioPath large = Save(Photo(), "large.jpg");
+  const ioPath small = Save(Scaled(Photo(), 0.5), "small.jpg");
+  const PictureVerdict verdict = JudgePicture(large, small);
+  EXPECT_EQ(verdict.verdict, Verdict::Alike);
+  EXPECT_EQ(verdict.why, "the same picture, larger and with more detail");
+  EXPECT_EQ(JudgePicture(small, large).verdict, Verdict::Same);
+  EXPECT_EQ(JudgePicture(Save(Scaled(Photo(), 1.5), "enlarged.jpg"), large).verdict, Verdict::Same);
 }
 
 TEST_F(PictureVerdictFiles, ThatAreDamagedAreDecodedAsFarAsTheyGoAndNotJudged) {

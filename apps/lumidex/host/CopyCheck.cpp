@@ -185,6 +185,16 @@ PicturePlane Larger(PicturePlane a, const PicturePlane& b) {
   return a;
 }
 
+PicturePlane Smaller(PicturePlane a, const PicturePlane& b) {
+  for (int y = 0; y < a.Height(); ++y) {
+    float* const to = a.Row(y);
+    for (int x = 0; x < a.Width(); ++x) {
+      to[x] = std::min(to[x], b.At(x, y));
+    }
+  }
+  return a;
+}
+
 /// Grey levels that differ in any copy: rounding, and what is left of other filters.
 constexpr double kLightFloor = 9;
 constexpr double kColourFloor = 16;
@@ -278,10 +288,13 @@ CopyFinding CompareAsCopies(const QImage& first, const QImage& second, bool isSc
   const PicturePlanes b = PlanesOf(second);
   const Filter forth = FitFilter(a.light, b.light);
   const Filter back = FitFilter(b.light, a.light);
-  const PicturePlane errorForth = SquaredDifference(Filtered(a.light, forth), b.light);
-  const PicturePlane errorBack = SquaredDifference(Filtered(b.light, back), a.light);
-  const bool isForth = MeanOf(errorForth) <= MeanOf(errorBack);
-  const PicturePlane error = BoxMean(isForth ? errorForth : errorBack, kReach);
+  // A filter that takes noise away is wrong at edges, and none at all where the picture was scaled.
+  const auto errorOf = [](const PicturePlane& one, const PicturePlane& other) {
+    return BoxMean(SquaredDifference(one, other), kReach);
+  };
+  const PicturePlane error =
+      Smaller(errorOf(a.light, b.light),
+              Smaller(errorOf(Filtered(a.light, forth), b.light), errorOf(Filtered(b.light, back), a.light)));
 
   const PicturePlanes compressedA = PlanesOf(Compressed(first));
   const PicturePlanes compressedB = PlanesOf(Compressed(second));
@@ -296,6 +309,8 @@ CopyFinding CompareAsCopies(const QImage& first, const QImage& second, bool isSc
   std::tie(finding.seen, finding.alike) = SharesAlike(a.light, error, expected, allowance);
   finding.gain = forth.Sum();
   finding.brightness = MiddleDifference(a.light, b.light);
+  finding.otherTone = std::max({std::abs(finding.brightness), std::abs(MiddleDifference(a.blue, b.blue)),
+                                std::abs(MiddleDifference(a.red, b.red))});
   finding.sharpness = forth.Finest() / std::max(0.01, std::abs(forth.Sum()));
   finding.colour = ColourStrength(a);
   finding.otherColour = ColourStrength(b);

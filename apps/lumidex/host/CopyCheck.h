@@ -18,6 +18,7 @@ struct CopyFinding {
   double alike = 0;
   double gain = 1;        ///< The contrast of the second for that of the first.
   double brightness = 0;  ///< The middle one of the differences from the first to the second, in grey levels.
+  double otherTone = 0;   ///< The same without its sign, or that of a colour where it is more.
   /// How much of the finest detail the second has for that of the first; above 1 it was sharpened.
   double sharpness = 1;
   double colour = 0;  ///< How strong the first's colours are, in grey levels; the second's below.

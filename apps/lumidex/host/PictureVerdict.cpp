@@ -2,6 +2,7 @@
 #include "JudgedPictures.h"
 #include "PhotoPixels.h"
 #include "PictureAligner.h"
+#include "PictureDetail.h"
 #include "PictureEnd.h"
 #include "PictureVerdictRules.h"
 #include "PixelSources.h"
@@ -162,10 +163,27 @@ class JudgedAgainst::Impl {
     if (!picture_) {
       picture_ = ReadJudgedPicture(kept_);
     }
-    return JudgePictures(ReadJudgedPicture(photo), *picture_);
+    const JudgedPicture judged = ReadJudgedPicture(photo);
+    PictureVerdict verdict = JudgePictures(judged, *picture_);
+    if (verdict.verdict == Verdict::Same && IsLarger(judged.size) && HoldsMore(photo, judged.size)) {
+      verdict = {Verdict::Alike, "the same picture, larger and with more detail", verdict.worst};
+    }
+    return verdict;
   }
 
  private:
+  bool IsLarger(const QSize& size) const {
+    return size.width() > picture_->size.width() && size.height() > picture_->size.height();
+  }
+
+  /// At the full size of both, since pictures are compared at a smaller one.
+  bool HoldsMore(const ioPath& photo, const QSize& size) const {
+    constexpr int kMiddle = 512;
+    const int side = std::min({kMiddle, size.width(), size.height()});
+    const double scale = static_cast<double>(picture_->size.width()) / size.width();
+    return HoldsMoreDetail(ReadMiddle(photo, side), ReadMiddle(kept_, static_cast<int>(side * scale + 0.5)));
+  }
+
   const ioPath kept_;
   std::optional<JudgedPicture> picture_;
 };

@@ -44,8 +44,10 @@ PictureVerdict VerdictOfMatch(const CopyFinding& finding, const QSize& compared,
                               const JudgedPicture& kept) {
   const bool isScaled = photo.size != kept.size;
   const std::string edit = EditOf(finding, isScaled);
+  // Where there is nothing to see but a colour, the colour is the picture.
   constexpr double kLeastSeen = 0.01;
-  if (!edit.empty() && finding.seen < kLeastSeen) {
+  constexpr double kOneColour = 2;
+  if (finding.seen < kLeastSeen && finding.otherTone > kOneColour) {
     return {Verdict::Different, "another plain colour", finding.worst};
   }
   if (!edit.empty()) {
