@@ -130,6 +130,44 @@ def import_only_reads(room):
     require(not missing, f"{len(missing)} files have no copy")
 
 
+def visible(room, folder):
+    return {name: content for name, content in room.bytes_of(folder).items() if not name.startswith(".")}
+
+
+def import_is_undone(room):
+    before = room.files()
+    room.run("import", "photos", "--to", "target", "--yes", code=0)
+    copies = visible(room, "target")
+    trash = os.path.join("data", "Trash", "files")
+    require(room.read("undo", code=0)["done"][0]["kind"] == "import", "undo took something else back")
+    require(not visible(room, "target"), "a copy is still there")
+    require(sorted(visible(room, trash).values()) == sorted(copies.values()), "a copy is not in the trash")
+    room.run("redo", code=0)
+    require(visible(room, "target") == copies, "redo did not bring the copies back")
+    with open(room.path("target", sorted(copies)[0]), "ab") as file:
+        file.write(b"changed")
+    room.run("undo", code=3)
+    require(list(visible(room, "target")) == sorted(copies)[:1], "the changed copy did not stay, or others did")
+    require(room.files() == before, "a source was changed")
+
+
+def safe_only_when_nothing_is_left(room):
+    require("safe to format" in room.run("import", "photos", "--to", "target", code=0), "it is not said")
+    room.write("photos/letter.txt", "mine")
+    require("safe to format" not in room.run("import", "photos", "--to", "target", code=1), "it is said of a letter")
+
+
+def albums_are_undone(room):
+    room.run("scan", "photos", code=0)
+    room.run("albums", "--accept", "all", code=0)
+    accepted = room.read("albums", "--accepted", "--list")["albums"]
+    require(accepted, "there is no album to try it with")
+    room.run("undo", code=0)
+    require(not room.read("albums", "--accepted")["albums"], "an album is still accepted")
+    room.run("redo", code=0)
+    require(room.read("albums", "--accepted", "--list")["albums"] == accepted, "redo made other albums")
+
+
 def check_changes_nothing(room):
     untouched(room, ("check", "photos"))
 
@@ -273,6 +311,10 @@ PROMISES = [
     ("scan", "Only tell what would be done; make and change no catalogue.", dry_scan_makes_nothing),
     ("import", "Your files are only read.", import_only_reads),
     ("import", "What is there already is left alone", import_only_reads),
+    ("import", "\"lumidex undo\" moves the copies of a run to the trash.", import_is_undone),
+    ("import", "\"Safe to format\" is said only when nothing is left.", safe_only_when_nothing_is_left),
+    ("undo", "copies that are what they were go to the trash, others stay", import_is_undone),
+    ("undo", "the albums that were made, or the photos that were added", albums_are_undone),
     ("check", "hanges nothing.", check_changes_nothing),
     ("albums", "your files stay as they are.", albums_leave_files),
     ("albums", "when one name does not, nothing is accepted.", one_unknown_album_accepts_none),
