@@ -156,7 +156,7 @@ int main(int argc, char** argv) {
       ->check(CLI::Range(200, 20000));
   options.add_option("--list", listed, "How many of the worst pairs to list");
   Zenvora::Bench::VerdictOptions verdicts;
-  verdicts.seeds = {101, 202, 303};
+  verdicts.seeds = {1009, 50077, 902101};
   bool onlyVerdicts = false;
   options.add_flag("--verdicts", onlyVerdicts, "Measure the verdicts on the folder's photos instead");
   options.add_option("--seeds", verdicts.seeds, "Of the drawn pictures")->delimiter(',');
