@@ -98,7 +98,8 @@ class Grouping {
         continue;
       }
       DataModel model(name, texts_.makeId(), ItemType::Album);
-      model.SetDateTime(QDateTime(group.interval.first, QTime(0, 0)));
+      // What `QDateTime(QDate)` gives: where the clocks skip midnight, the day begins at one o'clock.
+      model.SetDateTime(group.interval.first.startOfDay(Qt::LocalTime));
       const Album::Attributes attributes = {{DataAttributeId::CoverPhoto, QString()},
                                             {DataAttributeId::Description, QString()}};
       albums.emplace_back(model, group.photoIds, attributes);

@@ -1,5 +1,7 @@
 #include "HolidayFixture.h"
 
+#include <support/Zone.h>
+
 #include <gmock/gmock.h>
 
 #include <QRegularExpression>
@@ -338,6 +340,21 @@ TEST_F(Generation, TakesEveryPhotoOfALargeCollection) {
   }
   EXPECT_EQ(members, expected);
 }
+
+#ifndef _WIN32
+TEST_F(Generation, BeginsAnAlbumLaterWhereMidnightIsSkipped) {
+  // The clocks go forward at midnight to the first Sunday of November.
+  const Zone zone("<-03>3<-02>,M11.1.0/0,M2.3.0/0");
+  const QDate day(2018, 11, 4);
+  ShipEvents({{"Spring", "04.11", "10.11"}});
+  const std::vector<Album> albums = Generate(PhotosOf(QDate(2018, 11, 6), 20));
+  ASSERT_THAT(albums, SizeIs(1));
+  const QDateTime date = albums[0].GetModel().GetDateTime();
+  EXPECT_TRUE(date.isValid());
+  EXPECT_EQ(date.date(), day);
+  EXPECT_EQ(date.time(), QTime(1, 0));
+}
+#endif
 
 }  // namespace
 }  // namespace Zenvora::Test

@@ -1,12 +1,12 @@
 #include <LumidexUtil/SearchHelper.h>
 #include <support/Doubles.h>
+#include <support/Zone.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QLocale>
 
-#include <ctime>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -18,21 +18,7 @@ namespace Zenvora::Lumidex {
 namespace {
 
 using Days = std::pair<QDate, QDate>;
-
-/// A time zone for a scope, in the form that every system's C library reads.
-class Zone {
- public:
-  explicit Zone(const char* name) { Set(name); }
-  ~Zone() { Set("UTC"); }
-  Zone(const Zone&) = delete;
-  Zone& operator=(const Zone&) = delete;
-
- private:
-  static void Set(const char* name) {
-    qputenv("TZ", name);
-    tzset();
-  }
-};
+using Zenvora::Test::Zone;
 
 std::string Text(const Days& days) {
   return SearchHelper::GetDatesStr(days).toStdString();

@@ -17,8 +17,9 @@ namespace Zenvora::Util {
 /// A photo belongs to the first event of the calendar that holds its day, else, on a Saturday or Sunday, to
 /// its weekend. `done`: called exactly once with the albums in the order of their names (UTF-16 units). An
 /// album's name is the event's name or "Weekend", a line feed and the interval text of
-/// `GetDateIntervalString`; its members are in the order of `photos`; its date-time is the first day, 00:00,
-/// of the interval of the photo that came first.
+/// `GetDateIntervalString`; its members are in the order of `photos`; its date-time is the first moment, in
+/// local time, of the first day of the interval of the photo that came first: 00:00, or later where the
+/// clocks skip midnight.
 ///
 /// The calendar is the resource "HolidayEvents" (docs/formats/calendar.md) in the interface language at the
 /// time of reading. Without a server's copy the one in the host's resource folder serves; without any, or
@@ -32,7 +33,6 @@ namespace Zenvora::Util {
 /// - Days are looked up in the year 1900. A photo of 29 February, or without a valid date, has no day there
 /// and joins only
 ///   the first event that runs over New Year; an undated one then dates its album to the year -1.
-/// - Where a clock change skips midnight the album's date-time is invalid while its date is right.
 ///
 /// Call it on the GUI thread, since the texts are worded in the interface language there. Returns at once.
 /// `done` runs on the same thread, inside this call or later from its event loop, which is needed in either

@@ -33,8 +33,8 @@ class ZENVORA_LUMIDEX_EXPORT DataModel {
   std::uint64_t GetSize() const { return size_; }
   void SetSize(std::uint64_t bytes) { size_ = bytes; }
 
-  /// Photos: when the picture was taken, local time of the camera. Albums: the first day at 00:00. Invalid:
-  /// unknown.
+  /// Photos: when the picture was taken, local time of the camera. Albums: when the first day begins.
+  /// Invalid: unknown.
   const QDateTime& GetDateTime() const { return dateTime_; }
   void SetDateTime(const QDateTime& dateTime) { dateTime_ = dateTime; }
 
