@@ -69,6 +69,19 @@ TEST_F(SimilarDataManagerTest, ReadsAllClustersOnceWhenItIsMade) {
   EXPECT_EQ(std::count(store_.events.begin(), store_.events.end(), "read"), 1);
 }
 
+TEST_F(SimilarDataManagerTest, EndsWithItsScopeToo) {
+  {
+    SimilarDataManager manager(std::make_shared<Zenvora::Test::FakeSimilarSource>(store_),
+                               std::make_shared<Zenvora::Test::FakeTransactions>(store_));
+    manager.AddToStorage({});
+  }
+  const std::unique_ptr<SimilarDataManager> owned =
+      std::make_unique<SimilarDataManager>(std::make_shared<Zenvora::Test::FakeSimilarSource>(store_),
+                                           std::make_shared<Zenvora::Test::FakeTransactions>(store_));
+  EXPECT_EQ(store_.events,
+            (Events{"read", kBegin, "commit", "end", "transactions released", "source released", "read"}));
+}
+
 TEST_F(SimilarDataManagerTest, CannotBeMadeWhenTheSourceFails) {
   const auto source = std::make_shared<Zenvora::Test::FakeSimilarSource>(store_);
   const auto transactions = std::make_shared<Zenvora::Test::FakeTransactions>(store_);

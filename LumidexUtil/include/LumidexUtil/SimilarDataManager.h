@@ -25,6 +25,8 @@ class LUMIDEXUTIL_EXPORT SimilarDataManager : public virtual IRefCountable,
   /// Shares both, neither null, and reads all clusters. Throws what the source throws.
   SimilarDataManager(const std::shared_ptr<ISimilarDataSource>& source,
                      const std::shared_ptr<ITransactionManager>& transactions);
+  /// For a manager that is held by its class. One that references were taken to ends with the last `Release`.
+  ~SimilarDataManager() override;
 
   unsigned int AddRef() const override;
   unsigned int GetRefCount() const override;
@@ -38,9 +40,6 @@ class LUMIDEXUTIL_EXPORT SimilarDataManager : public virtual IRefCountable,
   /// source. Throws what the source or the transaction throws. The store is as before then, but the manager
   /// is not: what it matched stays in memory. Discard it and make a new one.
   void AddToStorage(const std::vector<std::pair<QString, std::vector<float>>>& items) override;
-
- protected:
-  ~SimilarDataManager() override;
 
  private:
   class LUMIDEXUTIL_NO_EXPORT Impl;
