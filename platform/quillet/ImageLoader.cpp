@@ -1,4 +1,6 @@
+#include <zenvora/core/FileNotes.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/quillet/DecoderNotes.h>
 #include <zenvora/quillet/FileDevice.h>
 #include <zenvora/quillet/ImageLoader.h>
 
@@ -60,6 +62,8 @@ void AskReader(const ioPath& file, Conf::FrameInfo& info) {
       !QImageReader::supportedImageFormats().contains(name)) {
     return;
   }
+  TakeDecoderNotes();
+  const FileNotes notes(file);
   FileDevice device(file);
   QImageReader reader(&device, name);
   reader.setDecideFormatFromContent(false);

@@ -1,5 +1,6 @@
 #include "ExivImage.h"
 
+#include <zenvora/core/FileNotes.h>
 #include <zenvora/strandel/EmbeddedPreview.h>
 
 #include <algorithm>
@@ -78,6 +79,7 @@ EmbeddedPreview BestPreview(Exiv2::Image& image, int longerSide) {
 }  // namespace
 
 EmbeddedPreview ReadEmbeddedPreview(const ioPath& file, int longerSide) {
+  const FileNotes notes(file);
   PhotoSource source;
   std::string cause;
   if (!source.Open(file, cause) || source.Size() == 0) {

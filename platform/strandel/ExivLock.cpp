@@ -1,5 +1,7 @@
 #include "ExivLock.h"
 
+#include <zenvora/core/FileNotes.h>
+
 #include <exiv2/exiv2.hpp>
 #include <glog/logging.h>
 
@@ -9,7 +11,11 @@ namespace {
 
 // Broken metadata is no news worth a line on the terminal.
 void LogQuietly(int level, const char* text) {
-  VLOG(2) << "Exiv2 level " << level << ": " << text;
+  if (level >= Exiv2::LogMsg::warn) {
+    FileNotes::Take("Exiv2", text);
+  } else {
+    VLOG(2) << "Exiv2: " << text;
+  }
 }
 
 void SetUpOnce() {

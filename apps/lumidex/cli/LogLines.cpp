@@ -1,5 +1,7 @@
 #include "LogLines.h"
 
+#include <zenvora/core/FileNotes.h>
+
 #include <QString>
 #include <QtGlobal>
 
@@ -19,7 +21,7 @@ void ForwardQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, con
       return;
     case QtWarningMsg:
       // Qt warns of what it copes with; our own code says what a user must know.
-      VLOG(1) << text.toStdString();
+      FileNotes::Take("Qt", text.toStdString());
       return;
     case QtInfoMsg:
     case QtDebugMsg:

@@ -3,6 +3,7 @@
 #include "PhotoPixels.h"
 
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileNotes.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/quillet/FileDevice.h>
 #include <zenvora/strandel/EmbeddedPreview.h>
@@ -167,6 +168,7 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
   if (!found.cause.empty()) {
     return found;
   }
+  const FileNotes notes(file);
   Quillet::FileDevice device(file);
   if (!device.isOpen()) {
     found.cause = "the file cannot be opened";
