@@ -4,6 +4,7 @@
 #include "ExivLock.h"
 #include "PhotoIo.h"
 #include "PictureMarks.h"
+#include "PngRescue.h"
 
 #include <exiv2/webpimage.hpp>
 
@@ -138,7 +139,11 @@ bool LacksFacts(const ExifFields& fields) {
 
 }  // namespace
 
-ExivImage::ExivImage(PhotoSource& source) : copy_(source) {
+ExifFields FieldsIn(const Exiv2::ExifData& exif) {
+  return Collector().Collect(exif).fields;
+}
+
+ExivImage::ExivImage(PhotoSource& source) : source_(source), copy_(source) {
   // Read in parallel, but not where the copy is so large that several would be too much for some systems.
   if (source.Size() <= kMostRead && BeginsLikeTiff(source)) {
     copy_.Bytes();
@@ -176,6 +181,10 @@ ExivOutcome ExivImage::ReadOnce(std::string& cause) {
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const Exiv2::AnyError& error) {
+    if (Rescue()) {
+      cause.clear();
+      return ExivOutcome::Whole;
+    }
     cause = error.what();
     return IsAboutTheEnd(error.code()) ? ExivOutcome::BrokenOff : ExivOutcome::Nonsense;
   } catch (const std::exception& error) {
@@ -201,8 +210,12 @@ bool ExivImage::ReadMore() {
   return (found.blank || found.blankPosition || LacksFacts(found.fields)) && copy_.ReadFront(kMostRead);
 }
 
-ExifFields ExivImage::Fields() const {
-  return Collector().Collect(image_->exifData()).fields;
+/// True when all that went wrong is a text chunk of a PNG file.
+bool ExivImage::Rescue() {
+  const auto read = [this](std::uint64_t at, void* to, std::size_t count) {
+    return source_.Read(at, to, count);
+  };
+  return image_->imageType() == Exiv2::ImageType::png && RescuePng(read, source_.Size(), *image_);
 }
 
 void ExivImage::WantEverything() {

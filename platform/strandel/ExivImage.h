@@ -21,6 +21,9 @@ enum class ExivOutcome {
   Nonsense,   ///< Something in it makes no sense.
 };
 
+/// The fields that make up `PhotoFacts`.
+ExifFields FieldsIn(const Exiv2::ExifData& exif);
+
 /// A file being read by Exiv2.
 ///
 /// One at a time in the whole process, in whatever thread, for as long as it lives: reading metadata also
@@ -41,7 +44,6 @@ class ExivImage {
   /// `std::bad_alloc`. `cause` says what is damaged; what was found before the damage is there nevertheless.
   ExivOutcome ReadMetadata(std::string& cause);
 
-  ExifFields Fields() const;
   Exiv2::Image& Image() { return *image_; }
   /// To be called before the pictures inside of the file are asked for.
   void WantEverything();
@@ -50,8 +52,10 @@ class ExivImage {
 
  private:
   ExivOutcome ReadOnce(std::string& cause);
+  bool Rescue();
   bool ReadMore();
 
+  PhotoSource& source_;
   PartialCopy copy_;
   std::unique_lock<std::mutex> lock_;
   std::unique_ptr<Exiv2::Image> image_;

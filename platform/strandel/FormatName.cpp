@@ -7,7 +7,6 @@ namespace Zenvora::Strandel {
 
 namespace {
 
-/// Raw files of most makers are TIFF files: what is in them tells.
 bool HoldsSensorData(const Exiv2::ExifData& exif) {
   constexpr std::uint16_t kPhotometric = 0x0106;
   constexpr std::uint16_t kTiffEpStandard = 0x9216;
@@ -36,6 +35,10 @@ std::string NameOfBoxes(const std::string& mimeType) {
 
 }  // namespace
 
+std::string TiffFormatName(const Exiv2::ExifData& exif) {
+  return HoldsSensorData(exif) ? "RAW" : "TIFF";
+}
+
 std::string FormatName(const Exiv2::Image& image) {
   namespace Known = Exiv2::ImageType;
   switch (image.imageType()) {
@@ -56,7 +59,7 @@ std::string FormatName(const Exiv2::Image& image) {
     case Known::bmff:
       return NameOfBoxes(image.mimeType());
     case Known::tiff:
-      return image.mimeType() != "image/tiff" || HoldsSensorData(image.exifData()) ? "RAW" : "TIFF";
+      return image.mimeType() != "image/tiff" ? "RAW" : TiffFormatName(image.exifData());
     case Known::cr2:
     case Known::crw:
     case Known::mrw:

@@ -11,4 +11,7 @@ namespace Zenvora::Strandel {
 /// one that is not in it.
 std::string FormatName(const Exiv2::Image& image);
 
+/// The same of a TIFF structure: raw files of most makers are such, and what is in them tells.
+std::string TiffFormatName(const Exiv2::ExifData& exif);
+
 }  // namespace Zenvora::Strandel

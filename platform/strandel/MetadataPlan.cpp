@@ -1,6 +1,7 @@
 #include "MetadataPlan.h"
 
 #include "EditRefusal.h"
+#include "OtherDates.h"
 
 #include <zenvora/strandel/DateText.h>
 #include <zenvora/strandel/EditRules.h>
@@ -17,7 +18,10 @@ namespace {
 
 enum Tag : std::uint16_t {
   kNewSubfileType = 0x00FE,
+  kImageWidth = 0x0100,
+  kImageLength = 0x0101,
   kOrientation = 0x0112,
+  kPageNumber = 0x0129,
   kDateTime = 0x0132,
   kThumbnailOffset = 0x0201,
   kXmpPacket = 0x02BC,
@@ -63,13 +67,13 @@ constexpr std::array kXmpDates = {
     XmpDate{kChanged, "xmp", "ModifyDate"},
 };
 
-struct IptcDate {
+struct IptcSets {
   Source source;
   std::uint16_t date;
   std::uint16_t time;
 };
 constexpr std::uint16_t kIptcRecord = 2;
-constexpr std::array kIptcDates = {IptcDate{kOriginal, 55, 60}, IptcDate{kDigitised, 62, 63}};
+constexpr std::array kIptcDates = {IptcSets{kOriginal, 55, 60}, IptcSets{kDigitised, 62, 63}};
 
 const char* GroupOf(ExifDirectory directory) {
   switch (directory) {
@@ -115,9 +119,25 @@ int NumberOf(const Exiv2::Exifdatum* datum) {
   return datum == nullptr || datum->count() != 1 ? 0 : static_cast<int>(datum->toLong());
 }
 
-/// Of a TIFF file the second directory may be another page.
-bool HasThumbnail(const Exiv2::ExifData& exif) {
+/// True when what a TIFF file says of its second directory makes it a picture in its own right: as large as
+/// the first one, or a page by its number or its kind.
+bool IsPage(const Exiv2::ExifData& exif, int kind) {
+  constexpr int kPageOfSeveral = 2;
+  if ((kind & kPageOfSeveral) != 0 || Find(exif, ExifDirectory::Thumbnail, kPageNumber) != nullptr) {
+    return true;
+  }
+  const auto isAsLarge = [&exif](std::uint16_t tag) {
+    const int own = NumberOf(Find(exif, ExifDirectory::Thumbnail, tag));
+    return own > 0 && own >= NumberOf(Find(exif, ExifDirectory::Image, tag));
+  };
+  return isAsLarge(kImageWidth) && isAsLarge(kImageLength);
+}
+
+bool HasThumbnail(const Exiv2::ExifData& exif, bool isTiff) {
   const int kind = NumberOf(Find(exif, ExifDirectory::Thumbnail, kNewSubfileType));
+  if (isTiff && IsPage(exif, kind)) {
+    return false;
+  }
   return Find(exif, ExifDirectory::Thumbnail, kThumbnailOffset) != nullptr || kind % 2 == 1;
 }
 
@@ -136,8 +156,12 @@ std::string ExifText(const QDateTime& date) {
 
 class Planner {
  public:
-  Planner(const Exiv2::Image& photo, const PhotoEdit& edit)
-      : exif_(photo.exifData()), xmp_(photo.xmpData()), iptc_(photo.iptcData()), edit_(edit) {}
+  Planner(const Exiv2::Image& photo, const PhotoEdit& edit, bool isTiff)
+      : exif_(photo.exifData()),
+        xmp_(photo.xmpData()),
+        iptc_(photo.iptcData()),
+        edit_(edit),
+        hasThumbnail_(HasThumbnail(exif_, isTiff)) {}
 
   MetadataPlan Plan() {
     if (edit_.turn != Turn::None) {
@@ -162,7 +186,7 @@ class Planner {
     AddNumber(ExifDirectory::Image, turned);
     // It may count for the thumbnail instead of the photo's own; without it the photo's own counts for both.
     const Exiv2::Exifdatum* const own = Find(exif_, ExifDirectory::Thumbnail, kOrientation);
-    if (own != nullptr && HasThumbnail(exif_)) {
+    if (own != nullptr && hasThumbnail_) {
       AddNumber(ExifDirectory::Thumbnail, TurnedOrientation(NumberOf(own), edit_.turn));
     }
     AddXmp("tiff", "Orientation", [turned](const std::string&) { return std::to_string(turned); });
@@ -176,15 +200,14 @@ class Planner {
       AddXmp(property.space, property.name,
              [this, &property](const std::string& text) { return ChangedXmp(text, property.source); });
     }
-    for (const IptcDate& sets : kIptcDates) {
+    for (const IptcSets& sets : kIptcDates) {
       PlanIptc(sets);
     }
   }
 
   void PlanExif(const ExifDate& field) {
     const Exiv2::Exifdatum* const datum = Find(exif_, field.directory, field.tag);
-    const bool isThere =
-        datum != nullptr && (field.directory != ExifDirectory::Thumbnail || HasThumbnail(exif_));
+    const bool isThere = datum != nullptr && (field.directory != ExifDirectory::Thumbnail || hasThumbnail_);
     const std::string text = isThere ? TextOf(*datum) : std::string();
     const auto old = DateText::Parse(text);
     const bool isDate = old && old->HasTime();
@@ -259,14 +282,11 @@ class Planner {
     }
   }
 
-  void PlanIptc(const IptcDate& sets) {
-    constexpr std::size_t kDateSize = 8;
-    constexpr std::size_t kTimeSize = 11;
-    const std::string day = IptcText(sets.date, Exiv2::date, kDateSize);
-    const std::string time = IptcText(sets.time, Exiv2::time, kTimeSize);
-    const QDate oldDay = QDate::fromString(QString::fromStdString(day), QStringLiteral("yyyyMMdd"));
-    const QTime oldTime =
-        QTime::fromString(QString::fromStdString(time.substr(0, 6)), QStringLiteral("hhmmss"));
+  void PlanIptc(const IptcSets& sets) {
+    const std::string day = IptcText(iptc_, sets.date, Exiv2::date, kIptcDay);
+    const std::string time = IptcText(iptc_, sets.time, Exiv2::time, kIptcTime);
+    const QDate oldDay = IptcDay(day);
+    const QTime oldTime = IptcTime(time);
     QDateTime changed = date_;
     const QDateTime& master = before_[sets.source];
     if (!date_.isValid() && oldDay.isValid() && oldTime.isValid()) {
@@ -286,15 +306,6 @@ class Planner {
     }
   }
 
-  std::string IptcText(std::uint16_t number, Exiv2::TypeId type, std::size_t size) const {
-    const auto found = iptc_.findId(number, kIptcRecord);
-    if (found == iptc_.end() || found->typeId() != type) {
-      return std::string();
-    }
-    const std::string text = BytesOf(*found);
-    return text.size() == size ? text : std::string();
-  }
-
   void AddIptc(std::uint16_t number, const std::string& before, const std::string& after) {
     if (before != after) {
       plan_.iptc.push_back({kIptcRecord, number, before, after});
@@ -306,7 +317,7 @@ class Planner {
     change.directory = directory;
     change.tag = kOrientation;
     change.kind = ExifChange::Kind::Number;
-    change.number = static_cast<std::uint16_t>(number);
+    change.number = static_cast<std::uint32_t>(number);
     plan_.exif.push_back(change);
   }
 
@@ -335,6 +346,7 @@ class Planner {
   const Exiv2::XmpData& xmp_;
   const Exiv2::IptcData& iptc_;
   const PhotoEdit& edit_;
+  const bool hasThumbnail_;
   QDateTime date_;  ///< Invalid: the dates are shifted.
   std::array<QDateTime, kSources> before_;
   bool anyDate_ = false;
@@ -386,13 +398,24 @@ bool IsPlanned(const Exiv2::Exifdatum& datum, const MetadataPlan& plan) {
 
 bool IsDone(const Exiv2::ExifData& exif, const ExifChange& change) {
   const Exiv2::Exifdatum* const datum = Find(exif, change.directory, change.tag);
+  if (datum == nullptr || change.kind == ExifChange::Kind::Remove) {
+    return datum == nullptr && change.kind == ExifChange::Kind::Remove;
+  }
+  const auto isNumber = [&](Exiv2::TypeId type) {
+    return datum->typeId() == type && datum->count() == 1 &&
+           static_cast<std::uint32_t>(datum->toLong()) == change.number;
+  };
   switch (change.kind) {
-    case ExifChange::Kind::Remove:
-      return datum == nullptr;
     case ExifChange::Kind::Number:
-      return datum != nullptr && datum->typeId() == Exiv2::unsignedShort && NumberOf(datum) == change.number;
+      return isNumber(Exiv2::unsignedShort);
+    case ExifChange::Kind::Long:
+      return isNumber(Exiv2::unsignedLong);
+    case ExifChange::Kind::WholeRatio:
+      return isNumber(Exiv2::unsignedRational);
+    case ExifChange::Kind::Bytes:
+      return BytesOf(*datum) == change.text;
     default:
-      return datum != nullptr && std::strcmp(TextOf(*datum).c_str(), change.text.c_str()) == 0;
+      return std::strcmp(TextOf(*datum).c_str(), change.text.c_str()) == 0;
   }
 }
 
@@ -416,8 +439,8 @@ void CheckDone(const Data& data, const Changes& changes) {
 
 }  // namespace
 
-MetadataPlan PlanEdit(const Exiv2::Image& photo, const PhotoEdit& edit) {
-  return Planner(photo, edit).Plan();
+MetadataPlan PlanEdit(const Exiv2::Image& photo, const PhotoEdit& edit, bool isTiff) {
+  return Planner(photo, edit, isTiff).Plan();
 }
 
 void CheckAgainstPlan(const Exiv2::Image& before, const Exiv2::Image& after, const MetadataPlan& plan) {

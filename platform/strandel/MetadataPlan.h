@@ -14,12 +14,19 @@ enum class ExifDirectory { Image, Photo, Thumbnail };
 
 /// What becomes of one EXIF field, made where it is missing.
 struct ExifChange {
-  enum class Kind { Text, Number, Remove };
+  enum class Kind {
+    Text,
+    Number,      ///< SHORT.
+    Long,        ///< LONG.
+    WholeRatio,  ///< RATIONAL, over 1.
+    Bytes,       ///< UNDEFINED, at least one.
+    Remove,
+  };
   ExifDirectory directory = ExifDirectory::Image;
   std::uint16_t tag = 0;
   Kind kind = Kind::Remove;
-  std::string text;  ///< As it is stored, mostly with a NUL at its end.
-  std::uint16_t number = 0;
+  std::string text;  ///< Also of bytes. As it is stored; a text mostly with a NUL at its end.
+  std::uint32_t number = 0;
 };
 
 /// What becomes of one XMP property that is there.
@@ -44,8 +51,9 @@ struct MetadataPlan {
   std::vector<IptcChange> iptc;
 };
 
-/// What an edit changes in a photo that says this. Throws `EditRefusal`.
-MetadataPlan PlanEdit(const Exiv2::Image& photo, const PhotoEdit& edit);
+/// What an edit changes in a photo that says this; `isTiff`: it is a TIFF file, whose second directory may be
+/// another page. Throws `EditRefusal`.
+MetadataPlan PlanEdit(const Exiv2::Image& photo, const PhotoEdit& edit, bool isTiff);
 
 /// Throws `EditRefusal` when what a photo says differs from before in anything but the plan.
 void CheckAgainstPlan(const Exiv2::Image& before, const Exiv2::Image& after, const MetadataPlan& plan);

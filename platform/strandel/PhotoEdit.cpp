@@ -1,12 +1,16 @@
 #include "EditRefusal.h"
 #include "ExivLock.h"
 #include "MetadataPlan.h"
+#include "NewExif.h"
+#include "OtherDates.h"
 #include "PhotoSource.h"
 #include "PictureAnatomy.h"
+#include "PngRescue.h"
 #include "TextsInPlace.h"
 #include "TiffEdit.h"
 
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileNotes.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
 #include <zenvora/strandel/EditRules.h>
@@ -102,8 +106,24 @@ ExivPicture ReadMetadata(const std::string& bytes) {
   if (image == nullptr) {
     throw EditRefusal("its content is of no known picture format");
   }
-  image->readMetadata();
+  try {
+    image->readMetadata();
+  } catch (const Exiv2::AnyError&) {
+    const auto read = [&bytes](std::uint64_t at, void* to, std::size_t count) {
+      return at < bytes.size() ? bytes.copy(static_cast<char*>(to), count, static_cast<std::size_t>(at)) : 0;
+    };
+    if (image->imageType() != Exiv2::ImageType::png || !RescuePng(read, bytes.size(), *image)) {
+      throw;
+    }
+  }
   return image;
+}
+
+/// Such a block is no reason to say that the photo has no date.
+void RequireReadableExif(const Exiv2::Image& image, std::string_view block) {
+  if (image.exifData().empty() && !block.empty() && TiffEdit(std::string(block)).HasFields()) {
+    throw EditRefusal("its EXIF data are damaged");
+  }
 }
 
 /// The file with the plan carried out; all that the plan does not name stays where it is.
@@ -190,7 +210,14 @@ std::string Edited(const Content& content, const PhotoEdit& edit) {
   const auto lock = LockExiv();
   try {
     const ExivPicture image = ReadMetadata(content.bytes);
-    const MetadataPlan plan = PlanEdit(*image, edit);
+    const PictureAnatomy anatomy = Dissect(content.format, content.bytes);
+    const std::string_view block = ExifBlock(content.bytes, anatomy);
+    RequireReadableExif(*image, block);
+    MetadataPlan plan = PlanEdit(*image, edit, content.format == PictureFormat::Tiff);
+    if (block.empty() && !plan.exif.empty()) {
+      const std::vector<ExifChange> fields = FieldsOfNewExif(content.format, content.bytes, anatomy);
+      plan.exif.insert(plan.exif.end(), fields.begin(), fields.end());
+    }
     std::string after = Carry(plan, content.format, content.bytes);
     Check(content, after, *image, plan);
     return after;
@@ -239,7 +266,8 @@ std::string TextOf(const Exiv2::ExifData& exif, const char* key) {
   return found == exif.end() ? std::string() : found->toString();
 }
 
-Shown ShownBy(const Exiv2::ExifData& exif) {
+Shown ShownBy(const Exiv2::Image& image) {
+  const Exiv2::ExifData& exif = image.exifData();
   Shown shown;
   const auto orientation = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
   if (orientation != exif.end() && orientation->count() > 0) {
@@ -252,13 +280,19 @@ Shown ShownBy(const Exiv2::ExifData& exif) {
     shown.taken = ParseExifDateTime(TextOf(exif, "Exif.Photo.DateTimeDigitized"),
                                     TextOf(exif, "Exif.Photo.SubSecTimeDigitized"));
   }
+  if (!shown.taken.isValid()) {
+    shown.taken = XmpDate(image.xmpData());
+  }
+  if (!shown.taken.isValid()) {
+    shown.taken = IptcDate(image.iptcData());
+  }
   return shown;
 }
 
 Shown ReadShown(const std::string& bytes) {
   const auto lock = LockExiv();
   try {
-    return ShownBy(ReadMetadata(bytes)->exifData());
+    return ShownBy(*ReadMetadata(bytes));
   } catch (const Exiv2::AnyError& error) {
     throw EditRefusal(std::string("it is damaged: ") + error.what());
   }
@@ -267,6 +301,7 @@ Shown ReadShown(const std::string& bytes) {
 /// Whatever goes wrong in the work becomes an error that names the photo.
 template <class Work>
 void Explaining(const ioPath& photo, const Work& work) {
+  const FileNotes notes(photo);
   try {
     work();
   } catch (const EditRefusal& refusal) {

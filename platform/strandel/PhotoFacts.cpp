@@ -1,14 +1,17 @@
+#include "BigTiff.h"
 #include "ExivImage.h"
+#include "ExivLock.h"
 #include "FormatName.h"
 #include "HeifSize.h"
 #include "ImageMetadata.h"
+#include "OtherDates.h"
 #include "PictureMarks.h"
 
+#include <zenvora/core/FileNotes.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <exception>
-#include <functional>
 #include <new>
 #include <utility>
 
@@ -16,15 +19,25 @@ namespace Zenvora::Strandel {
 
 namespace {
 
-/// Sees an image and its file while Exiv2 is locked, and may move data out of the image.
-using TakeImage = std::function<void(Exiv2::Image&, PhotoSource&)>;
+/// What becomes of the metadata object.
+struct Picture {
+  std::string format;
+  QSize size;
+  Exiv2::ExifData exif;
+};
+
+constexpr const char* kUnknown = "Its content is of no known picture format";
+constexpr const char* kDamagedDirectory = "Its TIFF directory is damaged";
 
 std::string WithoutBlanks(const std::string& text) {
   return QString::fromStdString(text).trimmed().toStdString();
 }
 
-void Take(const ExifFields& fields, PhotoFacts& facts) {
+/// The file is a photo of that format that says this.
+void Take(std::string format, const ExifFields& fields, Picture& picture, PhotoFacts& facts) {
+  picture.format = std::move(format);
   facts.status = PhotoFacts::Status::Read;
+  facts.cause.clear();
   facts.original = ParseExifDateTime(fields.original, fields.originalSubSeconds);
   facts.digitised = ParseExifDateTime(fields.digitised, fields.digitisedSubSeconds);
   facts.cameraModel = QString::fromStdString(WithoutBlanks(fields.model));
@@ -47,34 +60,62 @@ std::string WhatIsMissing(Exiv2::Image& image, ExivOutcome outcome, const std::s
     case Exiv2::ImageType::cr2:
     case Exiv2::ImageType::orf:
     case Exiv2::ImageType::rw2:
-      return "Its TIFF directory is damaged";
+      return kDamagedDirectory;
     default:
       return outcome == ExivOutcome::Whole ? std::string() : "It is damaged: " + cause;
   }
 }
 
-void ReadWithExiv2(PhotoSource& source, const TakeImage& take, PhotoFacts& facts) {
+QSize SizeOf(const Exiv2::Image& image, PhotoSource& source) {
+  const QSize inBoxes = image.imageType() == Exiv2::ImageType::bmff ? ReadHeifSize(source) : QSize();
+  return inBoxes.isEmpty() ? QSize(image.pixelWidth(), image.pixelHeight()) : inBoxes;
+}
+
+void ReadWithExiv2(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
   ExivImage image(source);
   if (!image.IsPicture()) {
-    Refuse(facts, "Its content is of no known picture format");
+    Refuse(facts, kUnknown);
     return;
   }
   std::string cause;
   const ExivOutcome outcome = image.ReadMetadata(cause);
-  if (image.Image().exifData().empty()) {
-    const std::string missing = WhatIsMissing(image.Image(), outcome, cause);
+  Exiv2::Image& found = image.Image();
+  if (found.exifData().empty()) {
+    const std::string missing = WhatIsMissing(found, outcome, cause);
     if (!missing.empty()) {
       Refuse(facts, image.IsCut() ? "It is too large to be read to its end" : missing);
       return;
     }
   }
-  Take(image.Fields(), facts);
-  take(image.Image(), source);
+  Take(FormatName(found), FieldsIn(found.exifData()), picture, facts);
+  facts.xmp = XmpDate(found.xmpData());
+  facts.iptc = IptcDate(found.iptcData());
+  picture.size = SizeOf(found, source);
+  std::swap(picture.exif, found.exifData());
 }
 
-void ReadKnownFormat(PhotoSource& source, const TakeImage& take, PhotoFacts& facts) {
+void TakeBigTiff(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
+  const auto lock = LockExiv();
+  picture.exif = ReadBigTiff(source);
+  if (picture.exif.empty()) {
+    Refuse(facts, kDamagedDirectory);
+    return;
+  }
+  Take(TiffFormatName(picture.exif), FieldsIn(picture.exif), picture, facts);
+  const auto number = [&picture](const char* key) {
+    const auto found = picture.exif.findKey(Exiv2::ExifKey(key));
+    return found == picture.exif.end() || found->count() != 1 ? 0 : static_cast<int>(found->toLong());
+  };
+  picture.size = {number("Exif.Image.ImageWidth"), number("Exif.Image.ImageLength")};
+}
+
+void ReadKnownFormat(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
   try {
-    ReadWithExiv2(source, take, facts);
+    if (BeginsLikeBigTiff(source)) {
+      TakeBigTiff(source, picture, facts);
+    } else {
+      ReadWithExiv2(source, picture, facts);
+    }
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception& error) {
@@ -86,36 +127,35 @@ bool SaysNothing(const PhotoFacts& facts) {
   return !facts.original.isValid() && !facts.digitised.isValid() && facts.cameraModel.isEmpty();
 }
 
-void ReadContent(PhotoSource& source, const TakeImage& take, PhotoFacts& facts) {
+void ReadContent(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
   if (source.Size() == 0) {
     Refuse(facts, "It is empty");
     return;
   }
-  if (BeginsLikeOpaquePicture(source)) {
-    Take(ExifFields(), facts);
+  if (const std::string format = OpaqueFormat(source); !format.empty()) {
+    Take(format, ExifFields(), picture, facts);
     return;
   }
-  ReadKnownFormat(source, take, facts);
+  ReadKnownFormat(source, picture, facts);
   // Exiv2 takes films for pictures, and gives a picture up for a colour profile that it does not like.
   if (BeginsLikeContainer(source) && SaysNothing(facts)) {
-    if (HasPictureBrand(source)) {
-      facts.cause.clear();
-      Take(ExifFields(), facts);
+    if (const std::string format = FormatByBrand(source); !format.empty()) {
+      Take(format, ExifFields(), picture, facts);
+      picture.size = picture.size.isEmpty() ? ReadHeifSize(source) : picture.size;
     } else {
-      Refuse(facts, "Its content is of no known picture format");
+      Refuse(facts, kUnknown);
     }
   }
 }
 
-/// `take` is called when there is an image.
-PhotoFacts ReadPhoto(const ioPath& file, const TakeImage& take) {
+PhotoFacts ReadPhoto(const ioPath& file, Picture& picture) {
   PhotoFacts facts;
   PhotoSource source;
   if (!source.Open(file, facts.cause)) {
     return facts;
   }
   try {
-    ReadContent(source, take, facts);
+    ReadContent(source, picture, facts);
   } catch (const std::bad_alloc&) {
     Refuse(facts, "Reading it takes more memory than there is");
   }
@@ -128,26 +168,19 @@ PhotoFacts ReadPhoto(const ioPath& file, const TakeImage& take) {
   return facts;
 }
 
-QSize SizeOf(const Exiv2::Image& image, PhotoSource& source) {
-  const QSize inBoxes = image.imageType() == Exiv2::ImageType::bmff ? ReadHeifSize(source) : QSize();
-  return inBoxes.isEmpty() ? QSize(image.pixelWidth(), image.pixelHeight()) : inBoxes;
-}
-
 }  // namespace
 
 PhotoFacts ReadPhotoFacts(const ioPath& file) {
+  const FileNotes notes(file);
   ImageMetadata::File known;
   known.modifiedNs = QueryFile(file).modifiedNs;
-  Exiv2::ExifData exif;
-  PhotoFacts facts = ReadPhoto(file, [&known, &exif](Exiv2::Image& image, PhotoSource& source) {
-    known.format = FormatName(image);
-    const QSize size = SizeOf(image, source);
-    known.width = size.width();
-    known.height = size.height();
-    std::swap(exif, image.exifData());
-  });
+  Picture picture;
+  PhotoFacts facts = ReadPhoto(file, picture);
   if (facts.status == PhotoFacts::Status::Read) {
-    facts.metadata.reset(new ImageMetadata(std::move(exif), std::move(known)));
+    known.format = std::move(picture.format);
+    known.width = picture.size.width();
+    known.height = picture.size.height();
+    facts.metadata.reset(new ImageMetadata(std::move(picture.exif), std::move(known)));
   }
   return facts;
 }

@@ -1,84 +1,140 @@
 #include "PictureMarks.h"
 
+#include <zenvora/strandel/FormatByHead.h>
+
 #include <algorithm>
-#include <array>
-#include <cstring>
-#include <string>
+#include <string_view>
 
 namespace Zenvora::Strandel {
 
 namespace {
 
-using Head = std::array<char, 16>;
+constexpr const char* kJpegXl = "JPEG XL";
+constexpr const char* kRaw = "RAW";
 
-Head HeadOf(PhotoSource& source) {
-  Head head = {};
-  source.Read(0, head.data(), head.size());
+/// JPEG XL has a box of its own before the one with the brands.
+constexpr std::string_view kJxlMark("\0\0\0\x0CJXL \r\n\x87\n", 12);
+constexpr std::size_t kBrandBytes = kFormatHeadBytes - 16;
+
+struct Mark {
+  std::size_t at;
+  std::string_view bytes;
+  const char* format;
+};
+
+constexpr Mark kOpaqueMarks[] = {
+    {0, "FOVb", kRaw},         // Sigma X3F
+    {0, "IIII", kRaw},         // Phase One, older
+    {0, "MMMM", kRaw},         //
+    {0, "\xFF\x0A", kJpegXl},  // Bare
+};
+
+constexpr Mark kMarks[] = {
+    {0, "\xFF\xD8\xFF", "JPEG"},
+    {0, "\x89PNG\r\n\x1A\n", "PNG"},
+    {8, "WEBP", "WebP"},
+    {0, "GIF8", "GIF"},
+    {0, "BM", "BMP"},
+    {0, "8BPS", "PSD"},
+    {0, std::string_view("\0\0\0\x0CjP  ", 8), "JPEG 2000"},
+    {0, "\xFF\x4F\xFF\x51", "JPEG 2000"},
+    {0, "FUJIFILM", kRaw},
+    {0, std::string_view("IIU\0", 4), kRaw},
+    {0, "IIRO", kRaw},
+    {0, "IIRS", kRaw},
+    {0, "MMOR", kRaw},
+    {6, "HEAPCCDR", kRaw},
+    {0, std::string_view("\0MRM", 4), kRaw},
+    {0, std::string_view("II*\0", 4), "TIFF"},
+    {0, std::string_view("MM\0*", 4), "TIFF"},
+    {0, std::string_view("II+\0", 4), "TIFF"},
+    {0, std::string_view("MM\0+", 4), "TIFF"},
+};
+
+/// Of those that several formats use the least telling last.
+constexpr Mark kBrands[] = {
+    {0, "avif", "AVIF"}, {0, "avis", "AVIF"}, {0, "crx ", kRaw},   {0, "jxl ", kJpegXl}, {0, "heic", "HEIC"},
+    {0, "heif", "HEIC"}, {0, "heix", "HEIC"}, {0, "heim", "HEIC"}, {0, "heis", "HEIC"},  {0, "hevc", "HEIC"},
+    {0, "hevx", "HEIC"}, {0, "hevm", "HEIC"}, {0, "hevs", "HEIC"}, {0, "mif1", "HEIC"},  {0, "mif2", "HEIC"},
+    {0, "msf1", "HEIC"}, {0, "miaf", "HEIC"},
+};
+
+template <std::size_t count>
+std::string FormatIn(const Mark (&marks)[count], std::string_view head) {
+  const auto* const found = std::find_if(std::begin(marks), std::end(marks), [head](const Mark& mark) {
+    return head.size() >= mark.at && head.substr(mark.at, mark.bytes.size()) == mark.bytes;
+  });
+  return found == std::end(marks) ? std::string() : std::string(found->format);
+}
+
+std::string HeadOf(PhotoSource& source, std::size_t size) {
+  std::string head(size, '\0');
+  head.resize(source.Read(0, head.data(), head.size()));
   return head;
 }
 
-/// JPEG XL has a box of its own before the one with the brands.
-constexpr char kJxlMark[] = "\0\0\0\x0CJXL \r\n\x87\n";
-constexpr std::size_t kJxlMarkSize = sizeof kJxlMark - 1;
+/// What stands before the box with the brands.
+std::size_t BrandBoxAt(std::string_view head) {
+  return head.substr(0, kJxlMark.size()) == kJxlMark ? kJxlMark.size() : 0;
+}
+
+/// By the box with the brands, whose length comes to `length`; of several formats the one first in the list.
+std::string FormatByBrand(std::string_view box, std::size_t& length) {
+  if (box.size() < 16 || box.substr(4, 4) != "ftyp") {
+    return {};
+  }
+  const auto byte = [&box](std::size_t at) { return std::size_t{static_cast<unsigned char>(box[at])}; };
+  length = byte(0) << 24U | byte(1) << 16U | byte(2) << 8U | byte(3);
+  const Mark* best = std::end(kBrands);
+  // The first brand, a version, then what else it is compatible with.
+  for (std::size_t at = 8; at + 4 <= std::min({length, box.size(), kBrandBytes}); at += at == 8 ? 8 : 4) {
+    const Mark* const found = std::find_if(std::begin(kBrands), std::end(kBrands),
+                                           [&](const Mark& mark) { return mark.bytes == box.substr(at, 4); });
+    best = std::min(best, found);
+  }
+  return best == std::end(kBrands) ? std::string() : std::string(best->format);
+}
 
 }  // namespace
 
 bool BeginsLikeTiff(PhotoSource& source) {
-  const Head head = HeadOf(source);
-  return std::memcmp(head.data(), "II", 2) == 0 || std::memcmp(head.data(), "MM", 2) == 0;
+  const std::string head = HeadOf(source, 2);
+  return head == "II" || head == "MM";
 }
 
-bool BeginsLikeOpaquePicture(PhotoSource& source) {
-  struct Mark {
-    const char* bytes;
-    std::size_t length;
-  };
-  static constexpr Mark kMarks[] = {
-      {"FOVb", 4},             // Sigma X3F
-      {"IIII", 4},             // Phase One, older
-      {"MMMM", 4},             //
-      {"II+\0\x08\0\0\0", 8},  // BigTIFF
-      {"MM\0+\0\x08\0\0", 8},  //
-      {"\xFF\x0A", 2},         // JPEG XL, bare
-  };
-  const Head head = HeadOf(source);
-  return source.Size() > head.size() &&
-         std::any_of(std::begin(kMarks), std::end(kMarks), [&](const Mark& mark) {
-           return std::memcmp(head.data(), mark.bytes, mark.length) == 0;
-         });
+bool BeginsLikeBigTiff(PhotoSource& source) {
+  const std::string head = HeadOf(source, 8);
+  return head == std::string_view("II+\0\x08\0\0\0", 8) || head == std::string_view("MM\0+\0\x08\0\0", 8);
+}
+
+std::string OpaqueFormat(PhotoSource& source) {
+  constexpr std::uint64_t kMoreThanAMark = 16;
+  return source.Size() > kMoreThanAMark ? FormatIn(kOpaqueMarks, HeadOf(source, 4)) : std::string();
 }
 
 bool BeginsLikeContainer(PhotoSource& source) {
-  const Head head = HeadOf(source);
-  return std::memcmp(head.data() + 4, "ftyp", 4) == 0 ||
-         std::memcmp(head.data(), kJxlMark, kJxlMarkSize) == 0;
+  const std::string head = HeadOf(source, kJxlMark.size());
+  return head.compare(4 < head.size() ? 4 : head.size(), 4, "ftyp") == 0 || head == kJxlMark;
 }
 
-bool HasPictureBrand(PhotoSource& source) {
-  static constexpr std::array kBrands = {"heic", "heif", "heix", "heim", "heis", "hevc",
-                                         "hevx", "hevm", "hevs", "mif1", "mif2", "msf1",
-                                         "miaf", "avif", "avis", "crx ", "jxl "};
-  constexpr std::size_t kMostBytes = 256;
-  const std::size_t start =
-      std::memcmp(HeadOf(source).data(), kJxlMark, kJxlMarkSize) == 0 ? kJxlMarkSize : std::size_t{0};
-  std::string box(kMostBytes, '\0');
-  box.resize(source.Read(start, box.data(), box.size()));
-  if (box.size() < 16 || box.compare(4, 4, "ftyp") != 0) {
-    return false;
+std::string FormatByBrand(PhotoSource& source) {
+  const std::string head = HeadOf(source, kFormatHeadBytes);
+  const std::size_t start = BrandBoxAt(head);
+  std::size_t length = 0;
+  const std::string format = FormatByBrand(std::string_view(head).substr(start), length);
+  return start + length < source.Size() ? format : std::string();
+}
+
+std::string FormatByHead(std::string_view beginning) {
+  std::size_t length = 0;
+  std::string format = FormatByBrand(beginning.substr(BrandBoxAt(beginning)), length);
+  if (format.empty() && BrandBoxAt(beginning) != 0) {
+    format = kJpegXl;
   }
-  const auto byte = [&box](std::size_t at) { return std::size_t{static_cast<unsigned char>(box[at])}; };
-  const std::size_t length = byte(0) << 24U | byte(1) << 16U | byte(2) << 8U | byte(3);
-  if (start + length >= source.Size()) {
-    return false;
+  if (format.empty()) {
+    format = FormatIn(kOpaqueMarks, beginning);
   }
-  // The first brand, a version, then what else it is compatible with.
-  for (std::size_t at = 8; at + 4 <= std::min(length, box.size()); at += at == 8 ? 8 : 4) {
-    const std::string brand = box.substr(at, 4);
-    if (std::find(kBrands.begin(), kBrands.end(), brand) != kBrands.end()) {
-      return true;
-    }
-  }
-  return false;
+  return format.empty() ? FormatIn(kMarks, beginning) : format;
 }
 
 }  // namespace Zenvora::Strandel

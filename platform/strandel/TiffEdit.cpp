@@ -14,7 +14,7 @@ constexpr std::size_t kHeader = 8;
 constexpr std::size_t kEntry = 12;
 constexpr std::uint16_t kExifTag = 0x8769;
 
-enum Type : std::uint16_t { kAscii = 2, kShort = 3, kLong = 4 };
+enum Type : std::uint16_t { kAscii = 2, kShort = 3, kLong = 4, kRational = 5, kUndefined = 7 };
 
 [[noreturn]] void RefuseDamaged() {
   throw EditRefusal("its TIFF directory is damaged");
@@ -137,9 +137,15 @@ void TiffEdit::Apply(const ExifChange& change) {
     case ExifChange::Kind::Remove:
       return Remove(change.directory, change.tag);
     case ExifChange::Kind::Number:
-      return PutShort(Entry(change.directory, change.tag), change.number);
+      return PutNumberOf(kShort, 2, Entry(change.directory, change.tag), change.number);
+    case ExifChange::Kind::Long:
+      return PutNumberOf(kLong, 4, Entry(change.directory, change.tag), change.number);
+    case ExifChange::Kind::WholeRatio:
+      return PutRatio(Entry(change.directory, change.tag), change.number);
     case ExifChange::Kind::Text:
-      return PutText(Entry(change.directory, change.tag), change.text);
+      return PutBytes(kAscii, Entry(change.directory, change.tag), change.text);
+    case ExifChange::Kind::Bytes:
+      return PutBytes(kUndefined, Entry(change.directory, change.tag), change.text);
   }
 }
 
@@ -227,14 +233,21 @@ std::size_t TiffEdit::PointerTo(ExifDirectory directory) const {
   }
 }
 
-void TiffEdit::PutShort(std::size_t entry, std::uint16_t value) {
-  PutNumber(entry + 2, 2, kShort);
+void TiffEdit::PutNumberOf(std::uint16_t type, std::size_t size, std::size_t entry, std::uint32_t value) {
+  PutNumber(entry + 2, 2, type);
   PutNumber(entry + 4, 4, 1);
   PutNumber(entry + 8, 4, 0);
-  PutNumber(entry + 8, 2, value);
+  PutNumber(entry + 8, size, value);
 }
 
-void TiffEdit::PutText(std::size_t entry, const std::string& text) {
+void TiffEdit::PutRatio(std::size_t entry, std::uint32_t value) {
+  const std::size_t at = Append(std::string(8, '\0'));
+  PutNumber(at, 4, value);
+  PutNumber(at + 4, 4, 1);
+  PutNumberOf(kRational, 4, entry, static_cast<std::uint32_t>(at));
+}
+
+void TiffEdit::PutBytes(std::uint16_t type, std::size_t entry, const std::string& text) {
   const auto old = ValueAt(entry);
   if (text.size() <= 4) {
     bytes_.replace(entry + 8, 4, text + std::string(4 - text.size(), '\0'));
@@ -244,7 +257,7 @@ void TiffEdit::PutText(std::size_t entry, const std::string& text) {
     const std::size_t at = Append(text);
     PutNumber(entry + 8, 4, static_cast<std::uint32_t>(at));
   }
-  PutNumber(entry + 2, 2, kAscii);
+  PutNumber(entry + 2, 2, type);
   PutNumber(entry + 4, 4, static_cast<std::uint32_t>(text.size()));
 }
 

@@ -25,6 +25,9 @@ class TiffEdit {
   void Apply(const std::vector<ExifChange>& changes);
   const std::string& Bytes() const { return bytes_; }
 
+  /// True when the first directory has entries.
+  bool HasFields() const { return Find(ExifDirectory::Image)->count > 0; }
+
   /// Where in the structure the value of a field of the first directory stands; nothing when there is none or
   /// it stands nowhere.
   struct Range {
@@ -57,8 +60,9 @@ class TiffEdit {
   void MakeEntries(ExifDirectory directory, std::vector<std::uint16_t> tags);
   void Apply(const ExifChange& change);
   std::size_t Entry(ExifDirectory directory, std::uint16_t tag) const;
-  void PutShort(std::size_t entry, std::uint16_t value);
-  void PutText(std::size_t entry, const std::string& text);
+  void PutNumberOf(std::uint16_t type, std::size_t size, std::size_t entry, std::uint32_t value);
+  void PutRatio(std::size_t entry, std::uint32_t value);
+  void PutBytes(std::uint16_t type, std::size_t entry, const std::string& text);
   void Remove(ExifDirectory directory, std::uint16_t tag);
 
   std::string bytes_;

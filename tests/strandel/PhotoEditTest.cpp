@@ -13,6 +13,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -219,6 +220,15 @@ TEST(PhotoEdit, TellsWhatItWouldChangeAndWritesNothing) {
   }
 }
 
+TEST(PhotoEdit, TellsDatesThatStandOutsideOfExif) {
+  const TempTree tree;
+  const ioPath photo =
+      tree.Write("photo", With(MakeJpeg(PhotoTags()), Texts{{"Xmp.xmp.CreateDate", "2021-05-01T10:20:31"}}));
+  const EditEffect effect = TryEdit(photo, ShiftedBy(hours(1)));
+  EXPECT_EQ(effect.takenBefore, QDateTime(QDate(2021, 5, 1), QTime(10, 20, 31)));
+  EXPECT_EQ(effect.takenAfter, QDateTime(QDate(2021, 5, 1), QTime(11, 20, 31)));
+}
+
 TEST(PhotoEdit, TriesPhotosThatSayNothing) {
   const TempTree tree;
   PhotoTags digitised;
@@ -355,6 +365,44 @@ TEST(PhotoEdit, LeavesTheSecondPageOfATiff) {
   const std::string edited = Edited(bytes, Turned(Turn::Half));
   EXPECT_EQ(Text(edited, "Exif.Image.Orientation"), "8");
   EXPECT_EQ(DifferingBytes(bytes, edited), 1U);
+}
+
+/// Two directories of a TIFF file, both turned; the second one says more of itself.
+std::string TwoDirectories(std::vector<TiffBytes::Entry> ofSecond) {
+  constexpr unsigned kShort = 3;
+  constexpr unsigned kLong = 4;
+  TiffBytes tiff(TiffBytes::Order::LittleEndian);
+  ofSecond.push_back({0x0112, kShort, 1, 8});
+  std::sort(ofSecond.begin(), ofSecond.end(), [](const auto& a, const auto& b) { return a.tag < b.tag; });
+  const unsigned second = tiff.AddDirectory(ofSecond);
+  const unsigned first =
+      tiff.AddDirectory({{0x0100, kLong, 1, 640}, {0x0101, kLong, 1, 480}, {0x0112, kShort, 1, 6}});
+  std::string bytes = tiff.Finish(first);
+  return bytes.replace(first + 2 + 3 * 12, 4, tiff.Number(second, 4));
+}
+
+TEST(PhotoEdit, TellsAPageOfATiffFromAThumbnail) {
+  constexpr unsigned kShort = 3;
+  constexpr unsigned kLong = 4;
+  const TiffBytes::Entry wide = {0x0100, kLong, 1, 640};
+  const TiffBytes::Entry high = {0x0101, kLong, 1, 480};
+  const TiffBytes::Entry reduced = {0x00FE, kLong, 1, 1};
+  const TiffBytes::Entry coded = {0x0201, kLong, 1, 8};
+  const struct {
+    std::vector<TiffBytes::Entry> entries;
+    const char* orientation;
+  } rows[] = {// As large as the first page, coded as JPEG in the old way, or called reduced all the same.
+              {{wide, high, coded}, "8"},
+              {{reduced, wide, high}, "8"},
+              {{{0x00FE, kLong, 1, 3}}, "8"},
+              {{reduced, {0x0129, kShort, 2, 1}}, "8"},
+              {{reduced, {0x0100, kLong, 1, 160}, {0x0101, kLong, 1, 120}}, "1"},
+              {{coded}, "1"}};
+  for (const auto& row : rows) {
+    const std::string edited = Edited(TwoDirectories(row.entries), Turned(Turn::Right));
+    EXPECT_EQ(Text(edited, "Exif.Image.Orientation"), "3");
+    EXPECT_EQ(Text(edited, "Exif.Thumbnail.Orientation"), row.orientation) << &row - rows;
+  }
 }
 
 TEST(PhotoEdit, KeepsTheOrientationInXmpEqual) {
@@ -592,6 +640,16 @@ TEST(PhotoEdit, SaysThatThereIsNoDateToShift) {
                                    LossyWebP(), MakeJpeg(nonsense)}) {
     EXPECT_EQ(Refusal(bytes, ShiftedBy(hours(1))), "it has no date to shift");
   }
+}
+
+TEST(PhotoEdit, SaysThatAPhotoIsDamagedRatherThanUndated) {
+  std::string noDirectory = MakeJpeg(Tags());
+  noDirectory.replace(noDirectory.find("Exif") + 10, 4, "\xFF\xFF\xFF\xFF");
+  EXPECT_EQ(Refusal(noDirectory, ShiftedBy(hours(1))), "its TIFF directory is damaged");
+  std::string strayBytes = MakeJpeg(PhotoTags());
+  strayBytes.insert(2 + 18, "stray");
+  EXPECT_EQ(Refusal(strayBytes, ShiftedBy(hours(1))), "its JPEG data is damaged");
+  EXPECT_EQ(Refusal(MakeJpeg(PhotoTags()), ShiftedBy(hours(1))), "it has no date to shift");
 }
 
 TEST(PhotoEdit, NeverLeavesTheYearsOfEXIF) {

@@ -139,8 +139,7 @@ TEST(PanasonicRaw, SurvivesAPreviewThatIsNone) {
 }
 
 TEST(OpaquePictures, AreRecognisedByTheirFirstBytes) {
-  for (const std::string& mark : {std::string("FOVb"), std::string("IIII"), std::string("II+\0\x08\0\0\0", 8),
-                                  std::string("\xFF\x0A", 2)}) {
+  for (const std::string& mark : {std::string("FOVb"), std::string("IIII"), std::string("\xFF\x0A", 2)}) {
     const PhotoFacts facts = Facts(mark + std::string(64, '\x01'));
     EXPECT_EQ(facts.status, Status::Read) << mark;
     EXPECT_FALSE(facts.original.isValid());

@@ -18,7 +18,9 @@ class ZENVORA_STRANDEL_EXPORT DateText {
   /// Nothing for what is no date, and for days and times that do not exist.
   static std::optional<DateText> Parse(const std::string& text);
 
-  /// False for a year, a month or a day alone.
+  /// False for a year or a month alone.
+  bool HasDay() const { return parts_ >= kDay; }
+  /// False for a day alone, too.
   bool HasTime() const { return parts_ >= kMinute; }
   bool HasZone() const { return hasZone_; }
   /// The digits behind the seconds; mostly none.

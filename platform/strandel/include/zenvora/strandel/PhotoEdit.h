@@ -45,7 +45,8 @@ class ZENVORA_STRANDEL_EXPORT PhotoEditError : public Exception {
 struct EditEffect {
   int orientationBefore = 1;  ///< EXIF Orientation, 1..8; 1 also when none is there.
   int orientationAfter = 1;
-  QDateTime takenBefore;  ///< The original date, else the digitised one, as `PhotoFacts`; invalid: none.
+  /// The original date, else the digitised one, that of XMP or of IPTC, as `PhotoFacts`; invalid: none.
+  QDateTime takenBefore;
   QDateTime takenAfter;
 };
 

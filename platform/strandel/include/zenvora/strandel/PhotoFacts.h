@@ -29,6 +29,10 @@ struct PhotoFacts {
   QDateTime original;
   /// EXIF DateTimeDigitized (0x9004), likewise.
   QDateTime digitised;
+  /// When it was taken, else digitised, as its XMP and its IPTC data say, as written there; a day alone is
+  /// its midnight. Likewise invalid.
+  QDateTime xmp;
+  QDateTime iptc;
   /// EXIF Model (0x0110) without surrounding blanks; empty when absent.
   QString cameraModel;
   /// What else the file says; null unless it was read.
