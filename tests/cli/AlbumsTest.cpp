@@ -1,5 +1,6 @@
 #include "CliFixture.h"
 
+#include <QFile>
 #include <QJsonArray>
 
 #include <filesystem>
@@ -15,6 +16,12 @@ class AlbumsCommand : public CliTest {};
 
 QJsonObject AlbumOf(const QJsonObject& document, int place) {
   return document["albums"].toArray()[place].toObject();
+}
+
+void SetTimeOf(const ioPath& file, const QDateTime& time) {
+  QFile opened(file.qstring());
+  ASSERT_TRUE(opened.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(opened.setFileTime(time, QFileDevice::FileModificationTime));
 }
 
 TEST_F(AlbumsCommand, PrintsProposalsInTheOrderOfTime) {
@@ -67,6 +74,28 @@ TEST_F(AlbumsCommand, TellsTheFirstDayOfTheHolidayAndTheLastOfThePhotos) {
   MakePhotos("b", "2023:12:29", 15);
   Run({"scan", Text(Photos())});
   EXPECT_THAT(Run({"albums"}).out, HasSubstr("2023-12-18  2023-12-29      30"));
+}
+
+TEST_F(AlbumsCommand, LeavesOutPhotosThatOnlyTheTimesOfTheirFilesDate) {
+  MakePhotos("dated", "2023:05:13", 20);
+  for (int i = 0; i < 21; ++i) {
+    const ioPath photo = WriteJpeg(Photos() / ("copied" + std::to_string(i) + ".jpg"));
+    // On another weekend.
+    SetTimeOf(photo, QDateTime(QDate(2022, 7, 9), QTime(12, 0), Qt::UTC));
+  }
+  Run({"scan", Text(Photos())});
+  const Ran ran = Run({"albums"});
+  EXPECT_THAT(ran.out, HasSubstr("May 2023"));
+  EXPECT_THAT(ran.out, Not(HasSubstr("July 2022")));
+  EXPECT_THAT(ran.out, HasSubstr("21 photos were left out"));
+  EXPECT_THAT(ran.out, HasSubstr("lumidex albums --file-times"));
+  EXPECT_EQ(Run({"albums", "--json"}).Json()["leftOut"].toInt(), 21);
+  EXPECT_EQ(Run({"albums", "--accept", "Weekend, July 2022"}).exitCode, 4);
+
+  const Ran all = Run({"albums", "--file-times"});
+  EXPECT_THAT(all.out, HasSubstr("July 2022"));
+  EXPECT_THAT(all.out, Not(HasSubstr("left out")));
+  EXPECT_EQ(Run({"albums", "--json", "--file-times"}).Json()["leftOut"].toInt(-1), 0);
 }
 
 TEST_F(AlbumsCommand, ListsMembers) {

@@ -312,6 +312,8 @@ TEST(DateSourceName, NamesEverySource) {
   EXPECT_STREQ(DateSourceName(DateSource::Original), "original");
   EXPECT_STREQ(DateSourceName(DateSource::Digitised), "digitised");
   EXPECT_STREQ(DateSourceName(DateSource::FileTime), "fileTime");
+  EXPECT_STREQ(DateSourceName(DateSource::Xmp), "xmp");
+  EXPECT_STREQ(DateSourceName(DateSource::Iptc), "iptc");
   EXPECT_STREQ(DateSourceName(DateSource::None), "none");
 }
 

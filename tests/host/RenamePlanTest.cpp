@@ -207,6 +207,10 @@ TEST(RenamePlan, IsRefusedForPhotosWithoutADate) {
   ExpectRefused(MakeRenamePlan(shots, Pattern("{datetime}_{number}"), {}, Options()),
                 {"1 NoDate b.jpg >  : "});
   EXPECT_TRUE(MakeRenamePlan(shots, Pattern("x{number}"), {}, Options()).problems.empty());
+  EXPECT_EQ(MakeRenamePlan(shots, Pattern("{date}"), {}, Options()).problems[0].cause, "has no date");
+  shots[1].dateFault = "It is empty";
+  EXPECT_EQ(MakeRenamePlan(shots, Pattern("{date}"), {}, Options()).problems[0].cause,
+            "cannot be read for its date: It is empty");
 }
 
 TEST(RenamePlan, IsRefusedForNamesThatFilesShouldNotHave) {
@@ -262,8 +266,8 @@ TEST(RenamePlan, IsRefusedForTwoFilesOfAShotThatDifferByCaseOnly) {
 
 TEST(RenamePlan, IsRefusedForTwoFilesOfOneNameThoughTheirShotsDiffer) {
   // As where the number of a version is taken to the extension.
-  const std::vector<RenameShot> shots = {{{"a", {{"a_2.nef.xmp", "0.nef.xmp"}}}, {}},
-                                         {{"b", {{"b.nef.xmp", ".nef.xmp"}}}, {}}};
+  const std::vector<RenameShot> shots = {{{"a", {{"a_2.nef.xmp", "0.nef.xmp"}}}, {}, {}},
+                                         {{"b", {{"b.nef.xmp", ".nef.xmp"}}}, {}, {}}};
   RenameOptions options = Options();
   options.start = 1;
   std::vector<RenameShot> many(10, RenameShot());

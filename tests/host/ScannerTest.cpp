@@ -1,6 +1,7 @@
 #include "RawSql.h"
 #include "Records.h"
 
+#include <host/PhotoDate.h>
 #include <host/Scanner.h>
 #include <support/GpsPhoto.h>
 #include <support/LeftOut.h>
@@ -123,6 +124,31 @@ TEST_F(Scanner, DatesPhotosByTheBestSource) {
   EXPECT_EQ(photos[0].taken.date(), QDate(2015, 6, 7));
   EXPECT_EQ(photos[1].takenSource, DateSource::Digitised);
   EXPECT_EQ(photos[2].takenSource, DateSource::Original);
+}
+
+TEST(PhotoDates, AreTheFirstThatThereIs) {
+  Strandel::PhotoFacts facts;
+  constexpr std::int64_t kMoment = 1'000'000'000'123'456'789;
+  EXPECT_EQ(DateOf(facts, kMoment).taken, QDateTime::fromMSecsSinceEpoch(1'000'000'000'123));
+  struct Row {
+    QDateTime Strandel::PhotoFacts::*place;
+    DateSource source;
+  };
+  DateSource former = DateSource::FileTime;
+  EXPECT_EQ(DateOf(facts, kMoment).source, former);
+  EXPECT_TRUE(IsBetterSource(former, DateSource::None));
+  for (const Row& row :
+       {Row{&Strandel::PhotoFacts::iptc, DateSource::Iptc}, Row{&Strandel::PhotoFacts::xmp, DateSource::Xmp},
+        Row{&Strandel::PhotoFacts::digitised, DateSource::Digitised},
+        Row{&Strandel::PhotoFacts::original, DateSource::Original}}) {
+    facts.*row.place = QDateTime(QDate(2021, 1, 1 + static_cast<int>(row.source)), QTime(1, 2));
+    EXPECT_EQ(DateOf(facts, kMoment).source, row.source);
+    EXPECT_EQ(DateOf(facts, kMoment).taken, facts.*row.place);
+    EXPECT_TRUE(IsBetterSource(row.source, former));
+    EXPECT_FALSE(IsBetterSource(former, row.source));
+    EXPECT_FALSE(IsBetterSource(former, former));
+    former = row.source;
+  }
 }
 
 TEST_F(Scanner, ReadsUnchangedFilesOnlyOnce) {

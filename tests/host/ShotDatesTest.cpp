@@ -69,11 +69,14 @@ TEST(ShotDates, AreTheBestOfAllFilesOfTheShot) {
     EXPECT_EQ(Day(date), row.day);
   }
   EXPECT_EQ(dates.Of(Shot({fake, silent})).source, DateSource::FileTime);
+  EXPECT_EQ(dates.Of(Shot({fake, silent})).fault, "");
   EXPECT_TRUE(dates.Of(Shot({silent})).taken.isValid());
   for (const std::vector<ioPath>& files :
        {std::vector<ioPath>{fake}, {settings}, {tree.Path("gone.jpg")}, {}}) {
     EXPECT_FALSE(dates.Of(Shot(files)).taken.isValid());
     EXPECT_EQ(dates.Of(Shot(files)).source, DateSource::None);
+    const bool hasPhoto = !files.empty() && files != std::vector<ioPath>{settings};
+    EXPECT_EQ(dates.Of(Shot(files)).fault.empty(), !hasPhoto);
   }
   EXPECT_FALSE(tree.Path("none.sqlite").exists());
 }

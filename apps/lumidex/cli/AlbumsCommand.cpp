@@ -39,9 +39,10 @@ constexpr char kDescription[] =
     "\n"
     "Proposes an album for each holiday and for the weekends of each month that hold\n"
     "20 photos or more, in the order of time. FIRST DAY is the first day of the\n"
-    "holiday or weekend, LAST DAY that of the latest photo. Accepting stores an\n"
-    "album in the catalogue, and \"lumidex undo\" takes that back; your files stay as\n"
-    "they are.";
+    "holiday or weekend, LAST DAY that of the latest photo. Photos that say no date\n"
+    "are left out, for the times of files tell when they were copied. Accepting\n"
+    "stores an album in the catalogue, and \"lumidex undo\" takes that back; your\n"
+    "files stay as they are.";
 
 constexpr char kFooter[] =
     R"(NAME is an album's name and time as shown: "Christmas, December 2023". It must
@@ -53,6 +54,7 @@ added out of those that were there.
 Examples:
   lumidex albums
   lumidex albums --list                  with the files of each album
+  lumidex albums --file-times            also photos that only their files date
   lumidex albums --locale ja_JP          with the holidays of Japan
   lumidex albums --accept "Christmas, December 2023"
   lumidex albums --accept all --report albums.html
@@ -69,6 +71,7 @@ cannot be written; 130 interrupted.)";
 struct AlbumsArguments {
   std::string locale;
   bool list = false;
+  bool fileTimes = false;
   bool accepted = false;
   std::vector<std::string> accept;
   std::string report;
@@ -272,7 +275,7 @@ class AlbumsRun {
  private:
   void Propose() {
     const CalendarWatch watch;
-    proposals_ = Host::ProposeAlbums(Host::MakeModels(photos_.All()), &session_.interrupted);
+    proposals_ = Host::ProposeAlbums(Host::MakeModels(ToPropose()), &session_.interrupted);
     view_.calendarFault = watch.Fault();
     SortByTime(proposals_);
     chosen_ = ChosenAlbums(arguments_.accept, proposals_);
@@ -281,6 +284,19 @@ class AlbumsRun {
       view_.rows[place].accepted = true;
       view_.rows[place].notAccepted = 0;
     }
+  }
+
+  /// The time of a file tells when it was copied as often as when the photo was taken.
+  std::vector<PhotoRecord> ToPropose() {
+    std::vector<PhotoRecord> photos = photos_.All();
+    if (!arguments_.fileTimes) {
+      const auto end = std::remove_if(photos.begin(), photos.end(), [](const PhotoRecord& photo) {
+        return photo.takenSource == Host::DateSource::FileTime;
+      });
+      view_.leftOut = static_cast<std::size_t>(std::distance(end, photos.end()));
+      photos.erase(end, photos.end());
+    }
+    return photos;
   }
 
   // Before anything is accepted: where no page can be written nothing was done.
@@ -371,6 +387,10 @@ void AddAlbumsCommand(CLI::App& program, Action& chosen) {
   const auto arguments = std::make_shared<AlbumsArguments>();
   command->footer(kFooter);
   command->add_flag("--list", arguments->list, "List the files of each album, too.")->disable_flag_override();
+  command
+      ->add_flag("--file-times", arguments->fileTimes,
+                 "Propose albums also of photos that only the times of their files date.")
+      ->disable_flag_override();
   auto* const accept = command
                            ->add_option("--accept", arguments->accept,
                                         "Accept the album of that name, or all. Can be given several times.")

@@ -118,6 +118,17 @@ std::string SummaryText(const AlbumsView& view) {
          '\n';
 }
 
+std::string LeftOutText(const AlbumsView& view) {
+  return view.leftOut == 0
+             ? std::string()
+             : Say(Words::tr(
+                       "%1 photos were left out, for only the times of their files date them. To take them "
+                       "in, run: lumidex albums --file-times",
+                       nullptr, Amount(view.leftOut)),
+                   {GroupDigits(view.leftOut)}) +
+                   '\n';
+}
+
 void WriteMembers(JsonWriter& json, const AlbumRow& row) {
   json.BeginArray("members");
   for (const Host::PhotoRecord* const photo : row.photos) {
@@ -160,6 +171,7 @@ std::string AlbumsDocument(const AlbumsView& view) {
   json.Text("locale", view.locale);
   json.Number("photos", static_cast<long long>(view.photos));
   json.Number("undated", static_cast<long long>(view.undated));
+  json.Number("leftOut", static_cast<long long>(view.leftOut));
   WriteRows(json, view);
   json.BeginArray("accepted");
   for (const auto& [name, result] : view.accepted) {
@@ -186,7 +198,8 @@ std::string AlbumsText(const AlbumsView& view) {
   if (view.withMembers) {
     text += MembersText(view);
   }
-  return text + SummaryText(view) + AcceptedLines(view) + ReportLines(view.report, view.missingPictures);
+  return text + SummaryText(view) + LeftOutText(view) + AcceptedLines(view) +
+         ReportLines(view.report, view.missingPictures);
 }
 
 }  // namespace Zenvora::Lumidex::Cli

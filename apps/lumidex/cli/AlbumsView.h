@@ -35,6 +35,7 @@ struct AlbumsView {
   std::string locale;
   std::size_t photos = 0;   ///< Looked at.
   std::size_t undated = 0;  ///< Of these: without a date.
+  std::size_t leftOut = 0;  ///< Of these: not proposed, for only the times of their files date them.
   bool areStored = false;   ///< The rows are the accepted albums, not proposals.
   bool withMembers = false;
   std::vector<AlbumRow> rows;  ///< By first day, then name.

@@ -5,9 +5,8 @@
 #include "Progress.h"
 #include "Words.h"
 
+#include <host/HostError.h>
 #include <host/PhotoChoice.h>
-
-#include <zenvora/strandel/MetadataSettings.h>
 
 #include <memory>
 
@@ -18,8 +17,9 @@ namespace {
 constexpr char kDescription[] =
     "Show what photos say of themselves: date, camera, position, picture.\n"
     "\n"
-    "The date is that of DateTimeOriginal, else of DateTimeDigitized, else the time\n"
-    "of the file; FROM says which. Positions are in decimal degrees. A question mark\n"
+    "The date is that of DateTimeOriginal, else of DateTimeDigitized, else that of\n"
+    "XMP, of IPTC, or the time of the file; FROM says which. Positions are in decimal degrees. A question "
+    "mark\n"
     "behind a hemisphere means that the photo does not say it, or not properly.\n"
     "The catalogue is not looked at, and nothing is changed.";
 
@@ -70,7 +70,7 @@ class InfoRun {
       }
       try {
         view_.photos.push_back(Host::ReadPhotoInfo(photo));
-      } catch (const Strandel::MetadataError& error) {
+      } catch (const Host::HostError& error) {
         view_.findings.push_back({photo, std::string(error.what()) + '.'});
       }
       progress.Update(++done, chosen_.size());

@@ -15,7 +15,7 @@ namespace Zenvora::Lumidex::Cli {
 
 namespace {
 
-using Source = Tavolin::FileDate::Source;
+using Source = Host::DateSource;
 
 /// A hand's breadth.
 constexpr int kDecimals = 6;
@@ -41,8 +41,8 @@ std::string PositionText(const std::optional<Host::StatedPosition>& position) {
          CoordinateText(position->place.GetLongitude(), position->longitudeReference, "E", "W");
 }
 
-std::string DateText(const Tavolin::FileDate& date) {
-  return date.date.isValid() ? date.date.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString() : "";
+std::string DateText(const Host::PhotoDate& date) {
+  return date.taken.isValid() ? date.taken.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString() : "";
 }
 
 std::string SourceText(Source source) {
@@ -51,26 +51,16 @@ std::string SourceText(Source source) {
       return "DateTimeOriginal";
     case Source::Digitised:
       return "DateTimeDigitized";
+    case Source::Xmp:
+      return "XMP";
+    case Source::Iptc:
+      return "IPTC";
     case Source::FileTime:
       return Say(Words::tr("file time", "where a date is from"));
     case Source::None:
       break;
   }
   return {};
-}
-
-const char* SourceWord(Source source) {
-  switch (source) {
-    case Source::Original:
-      return "original";
-    case Source::Digitised:
-      return "digitised";
-    case Source::FileTime:
-      return "fileTime";
-    case Source::None:
-      break;
-  }
-  return "none";
 }
 
 std::string FrameText(const Conf::FrameInfo& frame) {
@@ -162,8 +152,8 @@ void WritePhoto(JsonWriter& json, const Host::PhotoInfo& photo) {
   json.BeginObject();
   json.Path("path", photo.photo);
   json.Number("size", static_cast<long long>(photo.size));
-  json.Moment("date", photo.date.date);
-  json.Text("dateSource", SourceWord(photo.date.source));
+  json.Moment("date", photo.date.taken);
+  json.Text("dateSource", Host::DateSourceName(photo.date.source));
   json.Text("camera", photo.camera);
   WritePosition(json, photo.position);
   WriteFrame(json, photo.frame);

@@ -130,7 +130,7 @@ class RenameRun {
     std::vector<Host::RenameShot> shots;
     shots.reserve(choice.named.size());
     for (Host::ShotSet& set : Host::GroupShots(std::move(choice.named), choice.files)) {
-      shots.push_back({std::move(set), {}});
+      shots.push_back({std::move(set), {}, {}});
     }
     if (pattern_.NeedsDate() || arguments_.order == "date") {
       FindDates(shots);
@@ -149,6 +149,7 @@ class RenameRun {
       ThrowIfInterrupted(NothingRenamed().c_str());
       const Host::ShotDate date = dates.Of(shot.set);
       shot.taken = date.taken;
+      shot.dateFault = date.fault;
       view_.fileTimes += date.source == Host::DateSource::FileTime ? 1 : 0;
       progress.Update(++done, shots.size());
     }

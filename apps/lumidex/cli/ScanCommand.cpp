@@ -138,8 +138,8 @@ ExitCode Judge(const ScanResult& result) {
   return code;
 }
 
-constexpr std::array kDateSources = {DateSource::Original, DateSource::Digitised, DateSource::FileTime,
-                                     DateSource::None};
+constexpr std::array kDateSources = {DateSource::Original, DateSource::Digitised, DateSource::Xmp,
+                                     DateSource::Iptc,     DateSource::FileTime,  DateSource::None};
 
 std::string ResultDocument(const ScanArguments& arguments, const ioPath& catalogue,
                            const ScanResult& result) {
@@ -161,8 +161,7 @@ std::string ResultDocument(const ScanArguments& arguments, const ioPath& catalog
   json.Number("lost", static_cast<long long>(result.lost));
   json.BeginObject("dated");
   for (const DateSource source : kDateSources) {
-    const std::string name = Host::DateSourceName(source);
-    json.Number(name, static_cast<long long>(result.dated[static_cast<int>(source)]));
+    json.Number(Host::DateSourceName(source), static_cast<long long>(result.dated[static_cast<int>(source)]));
   }
   json.EndObject();
   json.BeginArray("findings");
@@ -197,6 +196,10 @@ QString DatesOf(DateSource source, int amount) {
       return Words::tr("%1 original", "dates read", amount);
     case DateSource::Digitised:
       return Words::tr("%1 digitised", "dates read", amount);
+    case DateSource::Xmp:
+      return Words::tr("%1 XMP", "dates read", amount);
+    case DateSource::Iptc:
+      return Words::tr("%1 IPTC", "dates read", amount);
     case DateSource::FileTime:
       return Words::tr("%1 file time", "dates read", amount);
     case DateSource::None:

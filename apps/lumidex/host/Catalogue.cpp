@@ -145,6 +145,10 @@ const char* DateSourceName(DateSource source) {
       return "digitised";
     case DateSource::FileTime:
       return "fileTime";
+    case DateSource::Xmp:
+      return "xmp";
+    case DateSource::Iptc:
+      return "iptc";
   }
   return "none";
 }

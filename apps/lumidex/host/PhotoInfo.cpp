@@ -1,4 +1,5 @@
 #include <LumidexUtil/MetadataReaders.h>
+#include <host/HostError.h>
 #include <host/PhotoInfo.h>
 
 #include <zenvora/core/FileState.h>
@@ -80,13 +81,19 @@ std::optional<StatedPosition> PositionOf(const Metadata& metadata) {
 }
 
 PhotoInfo ReadPhotoInfo(const ioPath& photo) {
-  const Metadata metadata = Util::GetMetadata(photo);
+  const FileState state = QueryFile(photo);
+  const Strandel::PhotoFacts facts = Strandel::ReadPhotoFacts(photo);
+  if (facts.status != Strandel::PhotoFacts::Status::Read) {
+    ThrowHostError(photo.utf8string(),
+                   "Cannot read the metadata of " + photo.utf8string() + ": " + facts.cause);
+  }
+  const Metadata& metadata = facts.metadata;
   PhotoInfo info;
   info.photo = photo;
-  info.size = QueryFile(photo).size;
+  info.size = state.size;
   info.camera = Util::GetCameraModel(metadata).trimmed();
   info.position = PositionOf(metadata);
-  info.date = Tavolin::GetFileDate(metadata);
+  info.date = DateOf(facts, state.modifiedNs);
   info.frame = Quillet::ImageLoader::GetFrameInfo(photo, metadata);
   return info;
 }

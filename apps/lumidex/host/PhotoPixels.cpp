@@ -2,6 +2,9 @@
 
 #include "JpegMending.h"
 
+#include <zenvora/quillet/DecoderNotes.h>
+#include <zenvora/strandel/FormatByHead.h>
+
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
@@ -12,6 +15,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <mutex>
 
 namespace Zenvora::Lumidex::Host {
@@ -31,8 +35,8 @@ bool IsJpeg(const QByteArray& format) {
 
 /// Formats without a reliable signature would claim any file.
 bool IsPhotoFormat(const QByteArray& format) {
-  constexpr std::array kFormats = {"jpeg", "jpg", "png", "tiff", "tif",  "webp",
-                                   "gif",  "bmp", "jp2", "heic", "heif", "avif"};
+  constexpr std::array kFormats = {"jpeg", "jpg", "png",  "tiff", "tif",  "webp", "gif",
+                                   "bmp",  "jp2", "heic", "heif", "avif", "jxl"};
   return std::any_of(kFormats.begin(), kFormats.end(),
                      [&format](const char* known) { return format == known; });
 }
@@ -84,6 +88,27 @@ bool IsTooLarge(QImageReader& reader, QIODevice& device, std::int64_t pixels) {
   return pixels > kMostPixels || pixels * std::max(bits, 8) / 8 > kMostBytes;
 }
 
+/// Why there is no reader for what the device begins with, and what would bring one.
+std::string NoReaderText(QIODevice& device) {
+  device.seek(0);
+  const std::string head = device.peek(Strandel::kFormatHeadBytes).toStdString();
+  const std::string format = Strandel::FormatByHead(head);
+  if (format.empty()) {
+    return "its content is no picture of a known format";
+  }
+  const auto isOneOf = [&format](std::initializer_list<const char*> formats) {
+    return std::any_of(formats.begin(), formats.end(), [&format](const char* one) { return format == one; });
+  };
+  const std::string text = format + " pictures cannot be decoded by this installation";
+  if (isOneOf({"HEIC", "AVIF", "JPEG XL", "PSD"})) {
+    return text + "; install the plug-ins of KImageFormats for Qt 5";
+  }
+  if (isOneOf({"TIFF", "WebP", "JPEG 2000"})) {
+    return text + "; install the plug-ins of Qt Image Formats for Qt 5";
+  }
+  return format == "RAW" ? text + ", and the file holds no preview" : "the head of the picture is damaged";
+}
+
 QImage InSrgb(QImage image) {
   const QColorSpace space = image.colorSpace();
   if (space.isValid() && space != QColorSpace(QColorSpace::SRgb)) {
@@ -127,10 +152,11 @@ std::string TooLargeText(const QSize& size) {
 }
 
 DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
+  Quillet::TakeDecoderNotes();
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);
   if (!reader.canRead() || !IsPhotoFormat(reader.format())) {
-    return {{}, {}, "its content is no picture of a known format"};
+    return {{}, {}, NoReaderText(device)};
   }
   const QSize size = reader.size();
   if (size.isEmpty()) {

@@ -139,7 +139,8 @@ class Planner {
       AddFile(index, file, name);
     }
     if (!named) {
-      Fail(shot, Kind::NoDate, given.set.files.front().path, {}, {}, "has no date");
+      Fail(shot, Kind::NoDate, given.set.files.front().path, {}, {},
+           given.dateFault.empty() ? "has no date" : "cannot be read for its date: " + given.dateFault);
     }
   }
 

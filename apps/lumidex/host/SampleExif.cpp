@@ -1,5 +1,7 @@
 #include "SampleExif.h"
 
+#include <zenvora/strandel/JpegHead.h>
+
 #include <exiv2/exiv2.hpp>
 
 #include <algorithm>
@@ -83,6 +85,21 @@ void AddExposure(Exiv2::ExifData& exif, const SampleShot& shot) {
       Exiv2::URational(static_cast<std::uint32_t>(24 + 11 * (shot.look.seed / 7 % 3)), 1);
 }
 
+/// Of compressed pictures, by the levels of support of EXIF 2.3.
+void AddWhatExifRequires(Exiv2::ExifData& exif, const QSize& size) {
+  constexpr std::uint32_t kDotsPerInch = 72;
+  exif["Exif.Image.XResolution"] = Exiv2::URational(kDotsPerInch, 1);
+  exif["Exif.Image.YResolution"] = Exiv2::URational(kDotsPerInch, 1);
+  exif["Exif.Image.ResolutionUnit"] = std::uint16_t{2};
+  exif["Exif.Image.YCbCrPositioning"] = std::uint16_t{1};
+  exif["Exif.Photo.ExifVersion"] = "48 50 51 48";
+  exif["Exif.Photo.ComponentsConfiguration"] = "1 2 3 0";
+  exif["Exif.Photo.FlashpixVersion"] = "48 49 48 48";
+  exif["Exif.Photo.ColorSpace"] = std::uint16_t{1};
+  exif["Exif.Photo.PixelXDimension"] = static_cast<std::uint32_t>(size.width());
+  exif["Exif.Photo.PixelYDimension"] = static_cast<std::uint32_t>(size.height());
+}
+
 }  // namespace
 
 QByteArray WithSampleExif(const QByteArray& jpeg, const SampleShot& shot) {
@@ -93,8 +110,7 @@ QByteArray WithSampleExif(const QByteArray& jpeg, const SampleShot& shot) {
   exif["Exif.Image.Orientation"] = static_cast<std::uint16_t>(shot.orientation);
   AddDates(exif, shot);
   AddExposure(exif, shot);
-  exif["Exif.Photo.ExifVersion"] = "48 50 51 48";
-  exif["Exif.Photo.ColorSpace"] = std::uint16_t{1};
+  AddWhatExifRequires(exif, Strandel::ReadJpegHead(jpeg.left(static_cast<int>(Strandel::kJpegHead))).size);
   if (shot.hasPosition) {
     AddPosition(exif, shot);
   }

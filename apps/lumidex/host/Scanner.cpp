@@ -1,6 +1,7 @@
 #include "FolderWalker.h"
 #include "MetadataReaders.h"
 
+#include <host/PhotoDate.h>
 #include <host/PhotoInfo.h>
 #include <host/Scanner.h>
 
@@ -243,21 +244,6 @@ void TakeCameraAndPlace(const Strandel::PhotoFacts& facts, PhotoRecord& record) 
   }
 }
 
-void TakeDate(const Strandel::PhotoFacts& facts, PhotoRecord& record) {
-  if (facts.original.isValid()) {
-    record.taken = facts.original;
-    record.takenSource = DateSource::Original;
-  } else if (facts.digitised.isValid()) {
-    record.taken = facts.digitised;
-    record.takenSource = DateSource::Digitised;
-  } else {
-    const auto since1970 = std::chrono::nanoseconds(record.modifiedNs);
-    record.taken =
-        QDateTime::fromMSecsSinceEpoch(std::chrono::floor<std::chrono::milliseconds>(since1970).count());
-    record.takenSource = DateSource::FileTime;
-  }
-}
-
 }  // namespace
 
 ScanResult Scan(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,
@@ -296,7 +282,9 @@ bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding) {
   record.size = state.size;
   record.modifiedNs = state.modifiedNs;
   TakeCameraAndPlace(facts, record);
-  TakeDate(facts, record);
+  const PhotoDate date = DateOf(facts, state.modifiedNs);
+  record.taken = date.taken;
+  record.takenSource = date.source;
   return true;
 }
 

@@ -1,4 +1,5 @@
 #include <host/HostError.h>
+#include <host/PhotoDate.h>
 #include <host/Scanner.h>
 #include <host/ShotDates.h>
 
@@ -19,7 +20,7 @@ bool IsBetter(const ShotDate& one, const ShotDate& other) {
   if (!one.taken.isValid() || !other.taken.isValid()) {
     return one.taken.isValid() && !other.taken.isValid();
   }
-  return static_cast<int>(one.source) < static_cast<int>(other.source);
+  return IsBetterSource(one.source, other.source);
 }
 
 }  // namespace
@@ -45,7 +46,7 @@ ShotDate ShotDates::Of(const ShotSet& shot) const {
       continue;
     }
     const ShotDate date = OfPhoto(file.path);
-    if (IsBetter(date, best)) {
+    if (IsBetter(date, best) || (best.fault.empty() && !best.taken.isValid())) {
       best = date;
     }
     if (best.source == DateSource::Original) {
@@ -60,12 +61,13 @@ ShotDate ShotDates::OfPhoto(const ioPath& photo) const {
   if (known != known_.end()) {
     const FileState state = QueryFile(photo);
     if (state.size == known->second.size && state.modifiedNs == known->second.modifiedNs) {
-      return {known->second.taken, known->second.takenSource};
+      return {known->second.taken, known->second.takenSource, {}};
     }
   }
   PhotoRecord record;
   ScanFinding finding;
-  return ReadPhoto(photo, record, finding) ? ShotDate{record.taken, record.takenSource} : ShotDate();
+  return ReadPhoto(photo, record, finding) ? ShotDate{record.taken, record.takenSource, {}}
+                                           : ShotDate{{}, DateSource::None, finding.cause};
 }
 
 }  // namespace Zenvora::Lumidex::Host

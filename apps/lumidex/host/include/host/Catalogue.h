@@ -18,9 +18,10 @@
 namespace Zenvora::Lumidex::Host {
 
 /// Where a photo's date came from. The numbers are stored.
-enum class DateSource : int { None = 0, Original = 1, Digitised = 2, FileTime = 3 };
+enum class DateSource : int { None = 0, Original = 1, Digitised = 2, FileTime = 3, Xmp = 4, Iptc = 5 };
+constexpr int kDateSourceCount = 6;
 
-/// "original", "digitised", "fileTime" or "none".
+/// "original", "digitised", "xmp", "iptc", "fileTime" or "none": what JSON says.
 const char* DateSourceName(DateSource source);
 
 /// Where a photo was taken, in degrees: -90..90, positive to the north, and -180..180, positive to the east.

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <host/PhotoDate.h>
+
 #include <zenvora/core/ioPath.h>
 #include <zenvora/quillet/FrameInfo.h>
 #include <zenvora/quillet/GPSData.h>
 #include <zenvora/strandel/IImageMetadata.h>
-#include <zenvora/tavolin/FileDateTime.h>
 
 #include <boost/smart_ptr/intrusive_ptr.hpp>
 
@@ -33,14 +34,14 @@ struct PhotoInfo {
   std::uint64_t size = 0;  ///< Bytes.
   QString camera;          ///< Without blanks at its ends; empty: not known.
   std::optional<StatedPosition> position;
-  Tavolin::FileDate date;
+  PhotoDate date;
   Conf::FrameInfo frame;
 };
 
 /// None when the metadata say nothing of a place. Pure.
 std::optional<StatedPosition> PositionOf(const boost::intrusive_ptr<Proc::IImageMetadata>& metadata);
 
-/// Reads one photo. Throws `Strandel::MetadataError` when it cannot be read. Blocks on the disk; safe from
+/// Reads one photo. Throws `HostError` when it cannot be read. Blocks on the disk; safe from
 /// any thread.
 PhotoInfo ReadPhotoInfo(const ioPath& photo);
 

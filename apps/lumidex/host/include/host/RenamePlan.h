@@ -18,6 +18,8 @@ struct RenameShot {
   ShotSet set;
   /// When it was taken, as the camera's clock showed; invalid: unknown.
   QDateTime taken;
+  /// Why that is not known, in English; empty: there is no photo in it.
+  std::string dateFault;
 };
 
 /// In which order shots get their numbers.

@@ -48,7 +48,7 @@ struct ScanResult {
   std::uint64_t updated = 0;
   std::uint64_t unchanged = 0;
   std::uint64_t lost = 0;  ///< Known photos under the scanned folders whose files are gone, newly marked.
-  std::uint64_t dated[4] = {};  ///< Of the files read: how many by `DateSource`.
+  std::uint64_t dated[kDateSourceCount] = {};  ///< Of the files read: how many by `DateSource`.
   bool cancelled = false;
   std::vector<ScanFinding> findings;
 };

@@ -6,6 +6,7 @@
 #include <QDateTime>
 
 #include <cstddef>
+#include <string>
 #include <unordered_map>
 
 namespace Zenvora::Lumidex::Host {
@@ -13,6 +14,9 @@ namespace Zenvora::Lumidex::Host {
 struct ShotDate {
   QDateTime taken;  ///< As the camera's clock showed; invalid: no photo of the shot can be read.
   DateSource source = DateSource::None;
+  /// Why the first photo that cannot be read cannot, when none can; in English, without its name. Empty too
+  /// when the shot has no photo.
+  std::string fault;
 };
 
 /// When shots were taken, as the catalogue says where it knows a photo whose file is unchanged, else as the
@@ -23,8 +27,8 @@ class ShotDates {
   /// without. It is not changed.
   ShotDates(const ioPath& catalogue, std::size_t shots);
 
-  /// The best date of the shot's photos: an original one, else a digitised one, else the file's time; of
-  /// several such that of the first file. Blocks on the disk; what cannot be read has no date.
+  /// The best date of the shot's photos: the first there is in the order of `DateOf`; of several such that of
+  /// the first file. Blocks on the disk; what cannot be read has no date.
   ShotDate Of(const ShotSet& shot) const;
 
  private:
