@@ -2,6 +2,7 @@
 
 #include <glog/logging.h>
 
+#include <cstring>
 #include <exception>
 
 namespace Zenvora {
@@ -19,14 +20,26 @@ std::string WithoutEnd(const std::string& text) {
   return last == std::string::npos ? std::string() : text.substr(0, last + 1);
 }
 
+bool IsOneOf(char letter, const char* letters) {
+  return letter != '\0' && std::strchr(letters, letter) != nullptr;
+}
+
 /// Equal for remarks that differ in numbers alone.
 std::string KindOf(const std::string& text) {
+  constexpr const char* kDigits = "0123456789";
   std::string kind;
-  for (const char letter : text) {
-    const bool digit = letter >= '0' && letter <= '9';
-    if (!digit || kind.empty() || kind.back() != '#') {
-      kind += digit ? '#' : letter;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (!IsOneOf(text[at], kDigits)) {
+      kind += text[at];
+      continue;
     }
+    const bool hex = text.compare(at, 2, "0x") == 0;
+    at = text.find_first_not_of(hex ? "0123456789abcdefABCDEF" : kDigits, hex ? at + 2 : at);
+    kind += '#';
+    if (at == std::string::npos) {
+      break;
+    }
+    --at;
   }
   return kind;
 }

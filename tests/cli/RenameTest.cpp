@@ -223,7 +223,7 @@ TEST_F(RenameCommand, RefusesPhotosWithoutAnyDate) {
   tree.Write("photos/fake.jpg", "this is no image");
   const Ran ran = Rename("{date}");
   EXPECT_EQ(ran.exitCode, 1);
-  EXPECT_THAT(ran.out, HasSubstr("fake.jpg  has no date"));
+  EXPECT_THAT(ran.out, HasSubstr("fake.jpg  cannot be read for its date: "));
 }
 
 TEST_F(RenameCommand, TakesDatesFromTheCatalogueOnlyOfUnchangedFiles) {

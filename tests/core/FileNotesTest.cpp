@@ -47,9 +47,16 @@ TEST_F(FileNotesTest, AreCountedInsteadOfRepeated) {
       FileNotes::Take("libtiff", "Bad code word at line " + std::to_string(line) + " of strip 0");
     }
     FileNotes::Take("Exiv2", "Bad code word at line 1 of strip 0");
+    for (const char* tag : {"64000 (0xfa00)", "64010 (0xFA0A)", "64011 (0xfa0b)"}) {
+      FileNotes::Take("x", std::string("Unknown field ") + tag);
+    }
+    FileNotes::Take("x", "ends in 0x");
+    FileNotes::Take("x", "ends in 12");
   }
   EXPECT_THAT(Texts(), ElementsAre("/p/a.tif: Exiv2: Bad code word at line 1 of strip 0",
-                                   "/p/a.tif: libtiff: Bad code word at line 0 of strip 0 (16000 times)"));
+                                   "/p/a.tif: libtiff: Bad code word at line 0 of strip 0 (16000 times)",
+                                   "/p/a.tif: x: Unknown field 64000 (0xfa00) (3 times)",
+                                   "/p/a.tif: x: ends in 0x (2 times)"));
 }
 
 TEST_F(FileNotesTest, AreLimitedInNumber) {

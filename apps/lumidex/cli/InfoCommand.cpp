@@ -18,10 +18,10 @@ constexpr char kDescription[] =
     "Show what photos say of themselves: date, camera, position, picture.\n"
     "\n"
     "The date is that of DateTimeOriginal, else of DateTimeDigitized, else that of\n"
-    "XMP, of IPTC, or the time of the file; FROM says which. Positions are in decimal degrees. A question "
-    "mark\n"
-    "behind a hemisphere means that the photo does not say it, or not properly.\n"
-    "The catalogue is not looked at, and nothing is changed.";
+    "XMP or IPTC, else the time of the file; FROM says which. Positions are in\n"
+    "decimal degrees. A question mark behind a hemisphere means that the photo does\n"
+    "not say it, or not properly. The catalogue is not looked at, and nothing is\n"
+    "changed.";
 
 constexpr char kFooter[] =
     R"(A folder stands for the photos in it, not for those below; a link for the photo
