@@ -260,6 +260,10 @@ void MakeOlder(const ioPath& file, int version) {
                                          "ALTER TABLE photos DROP COLUMN camera_id",
                                          "ALTER TABLE steps DROP COLUMN kind",
                                          "ALTER TABLE steps DROP COLUMN day"};
+  if (version == 5) {
+    // As much as its programs read of a photo.
+    statements.emplace_back("UPDATE photos SET reading = 1");
+  }
   if (version < 5) {
     statements.insert(statements.end(),
                       {"DROP TABLE tag_changes", "DROP TABLE photo_tags", "DROP TABLE tags",

@@ -53,12 +53,6 @@ std::string WithSegment(std::string jpeg, char marker, const std::string& body) 
       2, std::string{'\xFF', marker, static_cast<char>(length >> 8U), static_cast<char>(length)} + body);
 }
 
-std::string WithPngChunk(std::string png, const std::string& type, const std::string& content) {
-  constexpr std::size_t kBehindHeader = 8 + 25;
-  return png.insert(kBehindHeader,
-                    std::string(3, '\0') + static_cast<char>(content.size()) + type + content + "1234");
-}
-
 const Fields kOfAnyFormat = {{"Exif.Image.Orientation", "6"},
                              {"Exif.Image.XResolution", "72/1"},
                              {"Exif.Image.YResolution", "72/1"},
@@ -96,8 +90,11 @@ TEST(NewExif, TakesOverWhatTheFileSaysElsewhere) {
               space);
   }
 
-  const std::string metres("\0\0\x2E\x23\0\0\x2E\x23\1", 9);
-  fields = FieldsOf(Turned(WithPngChunk(MakePng(PhotoTags()), "pHYs", metres)));
+  std::string png = MakePng(PhotoTags());
+  const std::size_t metres = png.find("pHYs");
+  ASSERT_NE(metres, std::string::npos);
+  png.replace(metres + 4, 9, std::string("\0\0\x2E\x23\0\0\x2E\x23\1", 9));
+  fields = FieldsOf(Turned(png));
   EXPECT_EQ(fields["Exif.Image.YResolution"], "300/1");
   EXPECT_EQ(fields["Exif.Image.ResolutionUnit"], "2");
 }
