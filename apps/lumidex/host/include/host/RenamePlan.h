@@ -19,7 +19,7 @@ struct RenameShot {
   /// When it was taken, as the camera's clock showed; invalid: unknown.
   QDateTime taken;
   /// Why that is not known, in English; empty: there is no photo in it.
-  std::string dateFault;
+  std::string dateFault = {};
 };
 
 /// In which order shots get their numbers.
