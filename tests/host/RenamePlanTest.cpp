@@ -207,9 +207,10 @@ TEST(RenamePlan, IsRefusedForPhotosWithoutADate) {
   ExpectRefused(MakeRenamePlan(shots, Pattern("{datetime}_{number}"), {}, Options()),
                 {"1 NoDate b.jpg >  : "});
   EXPECT_TRUE(MakeRenamePlan(shots, Pattern("x{number}"), {}, Options()).problems.empty());
-  EXPECT_EQ(MakeRenamePlan(shots, Pattern("{date}"), {}, Options()).problems[0].cause, "has no date");
+  EXPECT_EQ(MakeRenamePlan(shots, Pattern("{date}_{number}"), {}, Options()).problems[0].cause,
+            "has no date");
   shots[1].dateFault = "It is empty";
-  EXPECT_EQ(MakeRenamePlan(shots, Pattern("{date}"), {}, Options()).problems[0].cause,
+  EXPECT_EQ(MakeRenamePlan(shots, Pattern("{date}_{number}"), {}, Options()).problems[0].cause,
             "cannot be read for its date: It is empty");
 }
 
