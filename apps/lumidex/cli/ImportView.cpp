@@ -61,6 +61,8 @@ const char* FindingKindName(ScanFinding::Kind kind) {
       return "unreadable";
     case ScanFinding::Kind::Loop:
       return "loop";
+    case ScanFinding::Kind::Ambiguous:
+      return "ambiguous";
   }
   return "";
 }

@@ -9,6 +9,7 @@
 
 #include <LumidexUtil/UpdateStat.h>
 #include <host/PhotoChoice.h>
+#include <host/RenameLinks.h>
 #include <host/RenamePattern.h>
 #include <host/ShotDates.h>
 #include <host/ShotSets.h>
@@ -29,8 +30,9 @@ constexpr char kDescription[] =
     "Give photos new names, all at once.\n"
     "\n"
     "PATTERN is text with placeholders in braces. Extensions stay as they are. What\n"
-    "belongs to one shot is renamed together: a raw file, its JPEG, its .xmp. No\n"
-    "file is ever replaced, and \"lumidex undo\" takes all of it back.";
+    "belongs to one shot is renamed together: a raw file, its JPEG, its .xmp.\n"
+    "Symbolic links keep their names; those inside the folders lead to the new\n"
+    "names. No file is ever replaced, and \"lumidex undo\" takes all of it back.";
 
 constexpr char kFooter[] =
     R"(Placeholders:
@@ -127,17 +129,20 @@ class RenameRun {
       named.push_back(AbsolutePath(file));
     }
     Host::RenameChoice choice = Host::ChooseForRename(named);
+    view_.linksNamed = choice.linksNamed;
     std::vector<Host::RenameShot> shots;
     shots.reserve(choice.named.size());
     for (Host::ShotSet& set : Host::GroupShots(std::move(choice.named), choice.files)) {
       shots.push_back({std::move(set), {}, {}});
     }
+    Host::MarkTornLinks(choice.links, shots);
     if (pattern_.NeedsDate() || arguments_.order == "date") {
       FindDates(shots);
     }
     ThrowIfInterrupted(NothingRenamed().c_str());
     view_.shots = shots.size();
     view_.plan = Host::MakeRenamePlan(shots, pattern_, choice.entries, OptionsOf(arguments_));
+    view_.plan.links = Host::PlanLinks(choice.links, view_.plan.renames);
     view_.refused = !view_.plan.problems.empty() && !arguments_.skipProblems;
   }
 

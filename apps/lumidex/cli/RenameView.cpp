@@ -28,6 +28,8 @@ const char* KindName(RenameProblem::Kind kind) {
       return "taken";
     case RenameProblem::Kind::Blocked:
       return "blocked";
+    case RenameProblem::Kind::Torn:
+      return "torn";
     case RenameProblem::Kind::Repeated:
       return "repeated";
   }
@@ -42,13 +44,38 @@ std::string CauseText(const RenameProblem& problem) {
   return target + problem.cause + other;
 }
 
+/// "a.jpg, b.jpg and 22 more", by their names alone.
+std::string SomeNames(const std::vector<const RenameProblem*>& problems) {
+  constexpr std::size_t kMost = 3;
+  std::string text;
+  for (std::size_t i = 0; i < problems.size() && i < kMost; ++i) {
+    text += (i == 0 ? "" : ", ") + problems[i]->file.filename().utf8string();
+  }
+  return problems.size() <= kMost ? text : text + " and " + std::to_string(problems.size() - kMost) + " more";
+}
+
+/// Photos that would all get one name are told of together.
 std::string ProblemsText(const RenameView& view) {
   if (view.plan.problems.empty()) {
     return {};
   }
+  std::map<ioPath, std::vector<const RenameProblem*>> rivals;
+  for (const RenameProblem& problem : view.plan.problems) {
+    if (problem.kind == RenameProblem::Kind::SameName) {
+      rivals[problem.target].push_back(&problem);
+    }
+  }
   TextTable table({{}, {}});
   for (const RenameProblem& problem : view.plan.problems) {
-    table.AddRow({problem.file.utf8string(), CauseText(problem)});
+    if (problem.kind != RenameProblem::Kind::SameName || rivals[problem.target].size() == 1) {
+      table.AddRow({problem.file.utf8string(), CauseText(problem)});
+      continue;
+    }
+    const auto& group = rivals[problem.target];
+    if (group.front() == &problem) {
+      table.AddRow({problem.target.utf8string(),
+                    "would be the name of " + std::to_string(group.size()) + " photos: " + SomeNames(group)});
+    }
   }
   return Say(Words::tr("Cannot be renamed:")) + '\n' + table.Text(2) + '\n';
 }
@@ -74,8 +101,31 @@ std::string MovesText(const std::vector<RenameMove>& moves) {
   return text;
 }
 
+/// Symbolic links, and where they will lead.
+std::string LinksText(const RenameView& view) {
+  if (view.plan.links.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}, {}});
+  for (const Host::RenameLink& link : view.plan.links) {
+    table.AddRow({link.link.utf8string(), "->", link.after});
+  }
+  return Say(Words::tr("Links that lead to the new names:")) + '\n' + table.Text(2) + '\n';
+}
+
 std::string NotesText(const RenameView& view) {
   std::string text;
+  if (view.result.files > 0 && view.result.findings.empty() && !view.plan.links.empty()) {
+    const int links = Amount(view.plan.links.size());
+    text += Say(Words::tr("%1 symbolic links lead to the new names.", nullptr, links),
+                {GroupDigits(view.plan.links.size())}) +
+            '\n';
+  }
+  if (view.linksNamed > 0) {
+    text += Say(Words::tr("%1 symbolic links keep their names.", nullptr, Amount(view.linksNamed)),
+                {GroupDigits(view.linksNamed)}) +
+            '\n';
+  }
   if (view.fileTimes > 0 && !view.refused) {
     text += Say(Words::tr("%1 photos have no date of their own; their files' times are used.", nullptr,
                           Amount(view.fileTimes)),
@@ -180,6 +230,16 @@ std::string RenameDocument(const RenameView& view) {
     json.EndObject();
   }
   json.EndArray();
+  json.BeginArray("links");
+  for (const Host::RenameLink& link : view.plan.links) {
+    json.BeginObject();
+    json.Path("path", link.link);
+    json.Path("before", ioPath(link.before));
+    json.Path("after", ioPath(link.after));
+    json.EndObject();
+  }
+  json.EndArray();
+  json.Number("linksNamed", static_cast<long long>(view.linksNamed));
   WriteProblems(json, view.plan.problems);
   WriteFindings(json, view.result.findings);
   json.Truth("canBeUndone", view.canBeUndone);
@@ -188,7 +248,7 @@ std::string RenameDocument(const RenameView& view) {
 }
 
 std::string RenameText(const RenameView& view) {
-  return ProblemsText(view) + (view.dryRun ? MovesText(view.plan.renames) : "") +
+  return ProblemsText(view) + (view.dryRun ? MovesText(view.plan.renames) + LinksText(view) : "") +
          FindingsText(Say(Words::tr("In the way")), view.result.findings) + NotesText(view) +
          OutcomeText(view);
 }

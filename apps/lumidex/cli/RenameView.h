@@ -15,9 +15,10 @@ namespace Zenvora::Lumidex::Cli {
 struct RenameView {
   ioPath catalogue;
   bool dryRun = false;
-  bool refused = false;       ///< There are problems, and nothing is renamed because of them.
-  std::size_t shots = 0;      ///< Photos that were looked at; one in several formats counts once.
-  std::size_t fileTimes = 0;  ///< Of these: named by the file's time, for want of a date of their own.
+  bool refused = false;        ///< There are problems, and nothing is renamed because of them.
+  std::size_t shots = 0;       ///< Photos that were looked at; one in several formats counts once.
+  std::size_t fileTimes = 0;   ///< Of these: named by the file's time, for want of a date of their own.
+  std::size_t linksNamed = 0;  ///< Symbolic links that were named; they keep their names.
   Host::RenamePlan plan;
   Host::UndoResult result;  ///< Of the run; of a dry run empty.
   bool canBeUndone = false;

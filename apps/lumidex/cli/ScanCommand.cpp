@@ -38,9 +38,10 @@ using Host::ScanResult;
 constexpr char kDescription[] =
     "Take the photos below folders into the catalogue.\n"
     "\n"
-    "Reads the dates of new and changed photos; a second run is quick. Photos\n"
-    "whose files are gone are marked lost, not forgotten. Your files are only\n"
-    "read. A run that is interrupted goes on where it stopped when repeated.";
+    "Reads the dates of new and changed photos; a second run is quick. Photos that\n"
+    "were moved or renamed keep their tags and albums; those whose files are gone\n"
+    "are marked lost, not forgotten. Your files are only read. A run that is\n"
+    "interrupted goes on where it stopped when repeated.";
 
 constexpr char kFooter[] =
     R"(Photos are known by their names: .jpg, .heic, .png, .tif, .webp, the raw
@@ -52,9 +53,10 @@ Examples:
   lumidex scan --full ~/Pictures        read unchanged files again, too
   lumidex scan --json ~/Pictures        for scripts
 
-Exit codes: 0 done; 1 no photos were found, or some files are no images or
-folders loop; 3 some files or folders cannot be read; 4 a folder is missing or
-the catalogue cannot be written; 130 interrupted.)";
+Exit codes: 0 done; 1 no photos were found, some files are no images, folders
+loop, or a moved photo may be one of several files; 3 some files or folders
+cannot be read; 4 a folder is missing or the catalogue cannot be written; 130
+interrupted.)";
 
 struct ScanArguments {
   std::vector<std::string> folders;
@@ -110,6 +112,8 @@ const char* KindName(ScanFinding::Kind kind) {
       return "unreadable";
     case ScanFinding::Kind::Loop:
       return "loop";
+    case ScanFinding::Kind::Ambiguous:
+      return "ambiguous";
   }
   return "";
 }
@@ -122,6 +126,8 @@ std::string KindText(ScanFinding::Kind kind) {
       return Say(Words::tr("unreadable"));
     case ScanFinding::Kind::Loop:
       return Say(Words::tr("loop"));
+    case ScanFinding::Kind::Ambiguous:
+      break;
   }
   return "";
 }
@@ -158,6 +164,7 @@ std::string ResultDocument(const ScanArguments& arguments, const ioPath& catalog
   json.Number("added", static_cast<long long>(result.added));
   json.Number("updated", static_cast<long long>(result.updated));
   json.Number("unchanged", static_cast<long long>(result.unchanged));
+  json.Number("moved", static_cast<long long>(result.moved));
   json.Number("lost", static_cast<long long>(result.lost));
   json.BeginObject("dated");
   for (const DateSource source : kDateSources) {
@@ -172,21 +179,61 @@ std::string ResultDocument(const ScanArguments& arguments, const ioPath& catalog
     json.Text("kind", kind);
     json.Path("path", finding.path);
     json.Text("cause", finding.cause);
+    if (!finding.candidates.empty()) {
+      json.BeginArray("candidates");
+      for (const ioPath& candidate : finding.candidates) {
+        json.BeginObject();
+        json.Path("path", candidate);
+        json.EndObject();
+      }
+      json.EndArray();
+    }
     json.EndObject();
   }
   json.EndArray();
   return json.Finish();
 }
 
-std::string FindingsText(const ScanResult& result) {
-  if (result.findings.empty()) {
-    return {};
+/// "a.jpg, b.jpg and 22 more", by whole paths.
+std::string SomeOf(const std::vector<ioPath>& files) {
+  constexpr std::size_t kMost = 5;
+  std::string text;
+  for (std::size_t i = 0; i < files.size() && i < kMost; ++i) {
+    text += (i == 0 ? "" : ", ") + EscapeForTerminal(files[i].utf8string());
   }
-  TextTable table({{}, {}, {}});
+  return files.size() <= kMost ? text
+                               : Say(Words::tr("%1 and %2 more", "files", Amount(files.size() - kMost)),
+                                     {text, GroupDigits(files.size() - kMost)});
+}
+
+/// Photos that were moved to nobody knows where.
+std::string AmbiguousText(const ScanResult& result) {
+  std::string text;
   for (const ScanFinding& finding : result.findings) {
-    table.AddRow({KindText(finding.kind), finding.path.utf8string(), finding.cause});
+    if (finding.kind == ScanFinding::Kind::Ambiguous) {
+      text += "  " + EscapeForTerminal(finding.path.utf8string()) + "\n    " + finding.cause + ": " +
+              SomeOf(finding.candidates) + '\n';
+    }
   }
-  return Say(Words::tr("Not taken in:")) + '\n' + table.Text(2) + '\n';
+  return text.empty()
+             ? text
+             : Say(Words::tr(
+                   "Perhaps moved, but it cannot be told. The photos keep their tags and albums, the\n"
+                   "files are new:")) +
+                   '\n' + text + '\n';
+}
+
+std::string FindingsText(const ScanResult& result) {
+  TextTable table({{}, {}, {}});
+  bool isEmpty = true;
+  for (const ScanFinding& finding : result.findings) {
+    if (finding.kind != ScanFinding::Kind::Ambiguous) {
+      table.AddRow({KindText(finding.kind), finding.path.utf8string(), finding.cause});
+      isEmpty = false;
+    }
+  }
+  return (isEmpty ? std::string() : Say(Words::tr("Not taken in:")) + '\n' + table.Text(2) + '\n') +
+         AmbiguousText(result);
 }
 
 /// "12 original".
@@ -228,6 +275,8 @@ std::string ResultText(const ScanArguments& arguments, const ioPath& catalogue, 
                                                                 : Words::tr("changed", "files", updated))});
   table.AddRow(
       {GroupDigits(result.unchanged), Say(Words::tr("unchanged", "files", Amount(result.unchanged)))});
+  table.AddRow(
+      {GroupDigits(result.moved), Say(Words::tr("moved or renamed", "files", Amount(result.moved)))});
   table.AddRow(
       {GroupDigits(result.lost), Say(Words::tr("gone, now marked lost", "files", Amount(result.lost)))});
   const std::string text = FindingsText(result) + table.Text(2) + DatesText(result);

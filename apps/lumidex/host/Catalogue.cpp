@@ -175,6 +175,10 @@ const ioPath& Catalogue::File() const {
   return impl_->Database().File();
 }
 
+const CatalogueDatabase& Catalogue::Database() const {
+  return impl_->Database();
+}
+
 std::unordered_map<ioPath, FileStamp> Catalogue::Stamps(const ioPath& folder) const {
   const CatalogueDatabase& database = impl_->Database();
   QSqlQuery query = database.Prepare(
@@ -198,28 +202,7 @@ void Catalogue::Store(const std::vector<PhotoRecord>& batch) {
     return;
   }
   WriteTransaction transaction(database);
-  {
-    QSqlQuery query = database.Prepare(
-        "INSERT INTO photos (id, path, size, modified_ns, taken, taken_source, camera, latitude, longitude,"
-        " reading) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"
-        " ON CONFLICT (path) DO UPDATE SET size = excluded.size, modified_ns = excluded.modified_ns,"
-        " taken = excluded.taken, taken_source = excluded.taken_source, camera = excluded.camera,"
-        " latitude = excluded.latitude, longitude = excluded.longitude, reading = excluded.reading, lost = "
-        "0");
-    for (const PhotoRecord& photo : batch) {
-      query.addBindValue(Tavolin::GenerateUuid());
-      query.addBindValue(PathBytes(photo.path));
-      query.addBindValue(static_cast<qlonglong>(photo.size));
-      query.addBindValue(static_cast<qlonglong>(photo.modifiedNs));
-      query.addBindValue(TakenText(photo.taken));
-      query.addBindValue(static_cast<int>(photo.takenSource));
-      query.addBindValue(NotNull(photo.camera));
-      query.addBindValue(LatitudeOf(photo));
-      query.addBindValue(LongitudeOf(photo));
-      query.addBindValue(kReading);
-      database.Run(query);
-    }
-  }
+  StorePhotoRows(database, batch);
   transaction.Commit();
 }
 

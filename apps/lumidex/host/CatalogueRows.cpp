@@ -1,8 +1,10 @@
 #include "CatalogueRows.h"
 
 #include <zenvora/strandel/PhotoFacts.h>
+#include <zenvora/tavolin/Uuid.h>
 
 #include <filesystem>
+#include <string>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -130,11 +132,7 @@ bool PhotoPathUpdate::Set(const QByteArray& from, const QByteArray& to) {
   return set_.numRowsAffected() > 0;
 }
 
-void UpdatePhotoRow(const CatalogueDatabase& database, const PhotoRecord& photo) {
-  QSqlQuery query = database.Prepare(
-      "UPDATE photos SET size = ?, modified_ns = ?, taken = ?, taken_source = ?, camera = ?, latitude = ?,"
-      " longitude = ?, reading = ?, lost = 0"
-      " WHERE path = ?");
+void BindFacts(QSqlQuery& query, const PhotoRecord& photo) {
   query.addBindValue(static_cast<qlonglong>(photo.size));
   query.addBindValue(static_cast<qlonglong>(photo.modifiedNs));
   query.addBindValue(TakenText(photo.taken));
@@ -143,6 +141,42 @@ void UpdatePhotoRow(const CatalogueDatabase& database, const PhotoRecord& photo)
   query.addBindValue(LatitudeOf(photo));
   query.addBindValue(LongitudeOf(photo));
   query.addBindValue(kReading);
+  for (const QByteArray* const digest : {&photo.trace.edges, &photo.trace.tail, &photo.trace.content}) {
+    query.addBindValue(digest->isEmpty() ? QVariant(QVariant::ByteArray) : QVariant(*digest));
+  }
+  query.addBindValue(photo.trace.cameraId.isEmpty() ? QVariant(QVariant::String)
+                                                    : QVariant(photo.trace.cameraId));
+}
+
+void StorePhotoRows(const CatalogueDatabase& database, const std::vector<PhotoRecord>& photos) {
+  QSqlQuery query = database.Prepare(
+      "INSERT INTO photos (id, path, size, modified_ns, taken, taken_source, camera, latitude, longitude,"
+      " reading, edges, tail, content, camera_id) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"
+      " ON CONFLICT (path) DO UPDATE SET size = excluded.size, modified_ns = excluded.modified_ns,"
+      " taken = excluded.taken, taken_source = excluded.taken_source, camera = excluded.camera,"
+      " latitude = excluded.latitude, longitude = excluded.longitude, reading = excluded.reading,"
+      " edges = excluded.edges, tail = excluded.tail, content = excluded.content,"
+      " camera_id = excluded.camera_id, lost = 0");
+  for (const PhotoRecord& photo : photos) {
+    query.addBindValue(Tavolin::GenerateUuid());
+    query.addBindValue(PathBytes(photo.path));
+    BindFacts(query, photo);
+    database.Run(query);
+  }
+}
+
+QSqlQuery PreparePhotoUpdate(const CatalogueDatabase& database, const char* end) {
+  return database.Prepare((std::string("UPDATE photos SET size = ?, modified_ns = ?, taken = ?,"
+                                       " taken_source = ?, camera = ?, latitude = ?, longitude = ?,"
+                                       " reading = ?, edges = ?, tail = ?, content = ?, camera_id = ?,"
+                                       " lost = 0") +
+                           end)
+                              .c_str());
+}
+
+void UpdatePhotoRow(const CatalogueDatabase& database, const PhotoRecord& photo) {
+  QSqlQuery query = PreparePhotoUpdate(database, " WHERE path = ?");
+  BindFacts(query, photo);
   query.addBindValue(PathBytes(photo.path));
   database.Run(query);
 }

@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -64,6 +65,15 @@ class PhotoPathUpdate {
   /// Of the last move: as a rule they are all in one.
   std::optional<Folder> folder_;
 };
+
+/// Adds new photos under new ids and stores of known ones what their files say now, within the caller's
+/// transaction.
+void StorePhotoRows(const CatalogueDatabase& database, const std::vector<PhotoRecord>& photos);
+
+/// A statement that stores what a photo's file says and clears its lost mark: first to be bound with
+/// `BindFacts`, then with what `end` asks for.
+QSqlQuery PreparePhotoUpdate(const CatalogueDatabase& database, const char* end);
+void BindFacts(QSqlQuery& query, const PhotoRecord& photo);
 
 /// Stores what a photo's file says now, if the catalogue has the photo, within the caller's transaction.
 void UpdatePhotoRow(const CatalogueDatabase& database, const PhotoRecord& photo);

@@ -163,6 +163,20 @@ const Statements& Migration(int fromVersion) {
           "ALTER TABLE photos ADD COLUMN edges BLOB",
           "ALTER TABLE photos ADD COLUMN content BLOB",
           "ALTER TABLE photos ADD COLUMN camera_id TEXT",
+          "ALTER TABLE photos ADD COLUMN tail BLOB",
+          "CREATE INDEX photos_by_edges ON photos (edges) WHERE edges IS NOT NULL",
+          "CREATE INDEX photos_by_camera_id ON photos (camera_id) WHERE camera_id IS NOT NULL",
+          "CREATE TABLE volumes ("
+          " path BLOB PRIMARY KEY,"
+          " id TEXT NOT NULL) WITHOUT ROWID",
+          "CREATE TABLE link_changes ("
+          " number INTEGER PRIMARY KEY AUTOINCREMENT,"
+          " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"
+          " path BLOB NOT NULL,"
+          " side BLOB NOT NULL,"
+          " target_before BLOB NOT NULL,"
+          " target_after BLOB NOT NULL)",
+          "CREATE INDEX link_changes_by_step ON link_changes (step)",
           "CREATE TABLE imported ("
           " number INTEGER PRIMARY KEY AUTOINCREMENT,"
           " step INTEGER NOT NULL REFERENCES steps (number) ON DELETE CASCADE,"

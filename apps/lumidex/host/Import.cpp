@@ -5,6 +5,7 @@
 #include "ImportManifest.h"
 #include "ImportSteps.h"
 #include "ProcessLock.h"
+#include "VolumesSeen.h"
 
 #include <host/Import.h>
 
@@ -323,6 +324,7 @@ class ImportRun {
     SyncFolderOf(plan_.copies.front().target);
     try {
       catalogue_.Store(photos);
+      NoteVolumesOf(catalogue_, photos);
       result_.added += photos.size();
     } catch (const HostError& error) {
       // What has its name stays, and the next run takes it in.

@@ -3,6 +3,7 @@
 #include "ShotNames.h"
 
 #include <host/PhotoChoice.h>
+#include <host/RenameLinks.h>
 #include <host/Scanner.h>
 
 #include <zenvora/core/ErrorText.h>
@@ -77,11 +78,13 @@ class RenameChooser {
     const FileState state = QueryFile(argument);
     if (state.kind == FileState::Kind::Folder) {
       Folder& folder = Read(argument);
+      named_.push_back(folder.path);
       for (const std::size_t photo : PhotosOf(folder.path, folder.entries)) {
         Take(folder, photo);
       }
     } else if (state.kind == FileState::Kind::File) {
       Folder& folder = Read(argument.parent_path());
+      foldersOfFiles_.push_back(folder.path);
       Take(folder, Find(folder, argument));
     } else {
       ThrowCannotRename(argument, WhatIsWrong(state));
@@ -96,6 +99,7 @@ class RenameChooser {
         }
       }
     }
+    choice_.links = FindLinks(foldersOfFiles_, named_);
     return std::move(choice_);
   }
 
@@ -104,12 +108,15 @@ class RenameChooser {
     ioPath path;
     std::vector<FolderEntry> entries;
     std::vector<bool> isNamed;
+    std::unordered_set<std::size_t> isNamedLink;
     /// Of the entries, by name; empty until a file is looked up.
     std::unordered_map<std::filesystem::path::string_type, std::size_t> places;
   };
 
   void Take(Folder& folder, std::size_t entry) {
-    if (!folder.isNamed[entry]) {
+    if (folder.entries[entry].kind == Kind::Link) {
+      choice_.linksNamed += folder.isNamedLink.insert(entry).second ? 1 : 0;
+    } else if (!folder.isNamed[entry]) {
       folder.isNamed[entry] = true;
       choice_.named.push_back(folder.path / folder.entries[entry].name);
     }
@@ -117,7 +124,7 @@ class RenameChooser {
 
   void AddOther(const ioPath& folder, const FolderEntry& entry) {
     choice_.entries.push_back(folder / entry.name);
-    if (IsFile(folder, entry)) {
+    if (entry.kind == Kind::File) {
       choice_.files.push_back(choice_.entries.back());
     }
   }
@@ -174,6 +181,8 @@ class RenameChooser {
   /// Ordered, so that the same folders give the same choice. References into it stay.
   std::map<ioPath, Folder> folders_;
   std::unordered_map<ioPath, Folder*> spellings_;
+  std::vector<ioPath> named_;
+  std::vector<ioPath> foldersOfFiles_;
   RenameChoice choice_;
 };
 

@@ -182,6 +182,10 @@ std::optional<RenamePattern> RenamePattern::Parse(const std::string& text, Renam
     fault = {1, "the pattern is not valid UTF-8"};
     return std::nullopt;
   }
+  if (length > 0 && decoded.trimmed().isEmpty()) {
+    fault = {1, "the pattern is nothing but blanks, which make no name"};
+    return std::nullopt;
+  }
   std::u32string characters;
   for (const uint character : decoded.toUcs4()) {
     characters += static_cast<char32_t>(character);

@@ -6,6 +6,8 @@
 #include <host/HostError.h>
 #include <host/RenamePlan.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <numeric>
 #include <optional>
@@ -137,6 +139,13 @@ class Planner {
     }
     for (const ShotFile& file : given.set.files) {
       AddFile(index, file, name);
+    }
+    const auto moves = [](const PlannedFile& file) { return file.moves; };
+    if (!given.link.empty() &&
+        std::any_of(files_.begin() + static_cast<std::ptrdiff_t>(shot.firstFile),
+                    files_.begin() + static_cast<std::ptrdiff_t>(shot.endFile), moves)) {
+      Fail(shot, Kind::Torn, given.set.files.front().path, {}, given.link,
+           "would lose a link of its name, which stays as it is");
     }
     if (!named) {
       Fail(shot, Kind::NoDate, given.set.files.front().path, {}, {},

@@ -1,5 +1,8 @@
+#include "ContentTrace.h"
 #include "FolderWalker.h"
+#include "JournalLock.h"
 #include "MetadataReaders.h"
+#include "MovedPhotos.h"
 
 #include <host/PhotoDate.h>
 #include <host/PhotoInfo.h>
@@ -66,6 +69,9 @@ class ScanRun {
         progressHandler_(progress),
         roots_(CanonicalRoots(roots)),
         walker_(roots_),
+        moves_(catalogue.Database()),
+        volumes_(moves_),
+        movedPhotos_(moves_, volumes_),
         readers_(ThreadCount(options)) {}
 
   ScanResult Run();
@@ -82,6 +88,7 @@ class ScanRun {
   void TakeResult(MetadataReaders::Result& result);
   void CommitWhenDue();
   void Commit();
+  void Follow();
   void MarkLost();
   void ReportProgress(bool always);
   ScanResult Finish();
@@ -94,6 +101,9 @@ class ScanRun {
   /// What the catalogue knows below the roots and the scan has not met yet.
   std::unordered_map<ioPath, FileStamp> stamps_;
   FolderWalker walker_;
+  CatalogueMoves moves_;
+  VolumesSeen volumes_;
+  MovedPhotos movedPhotos_;
   std::vector<PhotoRecord> batch_;
   SteadyClock::time_point batchBegun_;
   SteadyClock::time_point reported_;
@@ -108,6 +118,9 @@ ScanResult ScanRun::Run() {
   WalkAll();
   CollectAll();
   Commit();
+  if (!IsCancelled()) {
+    Follow();
+  }
   if (!IsCancelled()) {
     MarkLost();
   }
@@ -136,6 +149,7 @@ void ScanRun::WalkAll() {
 
 void ScanRun::Take(const FolderWalker::Found& found) {
   ++progress_.found;
+  volumes_.Note(found.path, found.state);
   const auto known = stamps_.find(found.path);
   const bool isKnown = known != stamps_.end();
   const bool isUnchanged = isKnown && !options_.full && !known->second.lost && !known->second.isOutdated &&
@@ -172,8 +186,11 @@ void ScanRun::TakeResult(MetadataReaders::Result& result) {
     result_.findings.push_back(std::move(result.finding));
     return;
   }
-  ++(result.known ? result_.updated : result_.added);
   ++result_.dated[static_cast<std::size_t>(result.record.takenSource)];
+  if (movedPhotos_.Take(result.record, result.known)) {
+    return;
+  }
+  ++(result.known ? result_.updated : result_.added);
   if (options_.dryRun) {
     return;
   }
@@ -197,7 +214,32 @@ void ScanRun::Commit() {
   batch_.clear();
 }
 
+void ScanRun::Follow() {
+  MovedPhotos::Verdict verdict = movedPhotos_.Decide([this] { return IsCancelled(); });
+  if (IsCancelled()) {
+    return;
+  }
+  CatalogueMoves::Outcome outcome{verdict.moved.size(), verdict.lost};
+  if (!options_.dryRun && !verdict.moved.empty()) {
+    const JournalLock lock(catalogue_.File());
+    outcome = moves_.Follow(verdict.moved, verdict.others);
+  } else if (!options_.dryRun) {
+    catalogue_.Store(verdict.others);
+  }
+  result_.moved = outcome.moved;
+  result_.lost = outcome.lost;
+  result_.added += verdict.added;
+  result_.updated += verdict.updated;
+  result_.findings.insert(result_.findings.end(), verdict.findings.begin(), verdict.findings.end());
+  for (const FollowedPhoto& photo : verdict.moved) {
+    stamps_.erase(photo.from);
+  }
+}
+
 void ScanRun::MarkLost() {
+  if (!options_.dryRun) {
+    moves_.StoreVolumes(volumes_.Now());
+  }
   std::vector<ioPath> lost;
   for (const auto& [path, stamp] : stamps_) {
     if (IsCancelled()) {
@@ -212,7 +254,7 @@ void ScanRun::MarkLost() {
       lost.push_back(path);
     }
   }
-  result_.lost = options_.dryRun ? lost.size() : static_cast<std::uint64_t>(catalogue_.MarkLost(lost));
+  result_.lost += options_.dryRun ? lost.size() : static_cast<std::uint64_t>(catalogue_.MarkLost(lost));
 }
 
 void ScanRun::ReportProgress(bool always) {
@@ -237,6 +279,12 @@ ScanResult ScanRun::Finish() {
 /// The one place that says which camera and place a photo has.
 void TakeCameraAndPlace(const Strandel::PhotoFacts& facts, PhotoRecord& record) {
   record.camera = facts.cameraModel;
+  if (facts.metadata != nullptr) {
+    using Proc::IImageMetadata;
+    const Core::Property id =
+        facts.metadata->GetProperty(IImageMetadata::EXIF, IImageMetadata::BLOCK_PHOTO, "ImageUniqueID");
+    record.trace.cameraId = QString::fromStdString(id[IImageMetadata::TEXT_VALUE].GetString()).trimmed();
+  }
   // Whoever searches a place does not look for photos that may be somewhere else.
   const auto stated = PositionOf(facts.metadata);
   if (stated && stated->doubts.empty()) {
@@ -285,6 +333,8 @@ bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding) {
   const PhotoDate date = DateOf(facts, state.modifiedNs);
   record.taken = date.taken;
   record.takenSource = date.source;
+  // Without it the photo is one all the same, which is not known again under another name.
+  ReadContentTrace(file, record.trace);
   return true;
 }
 

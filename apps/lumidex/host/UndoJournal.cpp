@@ -9,6 +9,7 @@
 #include "ImportSteps.h"
 #include "JournalFolder.h"
 #include "KeptFiles.h"
+#include "LinkSteps.h"
 #include "ShotNames.h"
 #include "StepState.h"
 #include "TagSteps.h"
@@ -24,6 +25,8 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
+
+#include <boost/exception/get_error_info.hpp>
 
 #include <algorithm>
 #include <optional>
@@ -64,6 +67,11 @@ bool BelongsToWhatStays(const ioPath& file, const std::vector<UndoFinding>& find
          std::any_of(findings.begin(), findings.end(), [shot = ShotKey(file)](const UndoFinding& finding) {
            return ShotKey(finding.file) == shot;
          });
+}
+
+UndoFinding FindingOf(const HostError& failure) {
+  const std::string* const file = boost::get_error_info<TagFilename>(failure);
+  return {file != nullptr ? ioPath(*file) : ioPath(), failure.what()};
 }
 
 /// What the photo's file says, for the catalogue.
@@ -128,6 +136,7 @@ class UndoJournal::Impl {
 
   Drive DriveMoves(const std::vector<FileMove>& moves, std::size_t at, std::size_t goal,
                    const std::atomic<bool>& cancelled, const UndoProgress& progress);
+  bool PointLinks(const std::vector<LinkChange>& links, bool toNew, UndoResult& result) const;
   std::size_t DriveOrReturn(StepRow& step, std::size_t begin, std::size_t goal,
                             const std::atomic<bool>& cancelled, const UndoProgress& progress,
                             UndoResult& result);
@@ -173,6 +182,7 @@ class UndoJournal::Impl {
   const TagSteps tags_;
   const AlbumSteps albums_;
   const ImportSteps imports_;
+  const LinkSteps links_;
   qlonglong step_ = 0;
   bool keeps_ = true;
   bool keepsForRedo_ = true;
@@ -193,7 +203,8 @@ UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker, cons
       trash_(database_, locker, trash),
       tags_(database_),
       albums_(database_),
-      imports_(database_, trash_) {
+      imports_(database_, trash_),
+      links_(database_) {
   // What the journal says must be on the disk before the photos change.
   database_.Execute("PRAGMA synchronous = FULL");
   // The log must not need more room than is held for it.
@@ -407,26 +418,62 @@ UndoResult UndoJournal::Impl::Rename(const QString& name, const RenamePlan& plan
   // Twice its moves, and the pages with its photos: all is one transaction.
   constexpr std::uint64_t kBytesEach = 8192;
   Prepare(std::min<std::uint64_t>(kBytesEach * step.moves.size(), 3 * database_.File().file_size()));
-  step.number = InsertStep(StepKind::Rename, name, plan.renames.size(), PackMoves(step.moves));
+  {
+    WriteTransaction transaction(database_);
+    step.number = InsertStep(StepKind::Rename, name, plan.renames.size(), PackMoves(step.moves));
+    links_.Insert(step.number, plan.links);
+    transaction.Commit();
+  }
+  const std::vector<LinkChange> links = links_.Links(step.number);
+  try {
+    LinkSteps::Prepare(links);
+  } catch (const HostError& failure) {
+    LinkSteps::Clear(links);
+    DropStep(step.number);
+    result.findings.push_back(FindingOf(failure));
+    return result;
+  }
   const std::size_t reached = DriveOrReturn(step, 0, step.moves.size(), cancelled, progress, result);
   result.files = reached == step.moves.size() ? plan.renames.size() : reached;
   return result;
+}
+
+/// False when one cannot be pointed there; then there is a finding.
+bool UndoJournal::Impl::PointLinks(const std::vector<LinkChange>& links, bool toNew,
+                                   UndoResult& result) const {
+  try {
+    LinkSteps::Point(links, toNew);
+    return true;
+  } catch (const HostError& failure) {
+    result.findings.push_back(FindingOf(failure));
+    return false;
+  }
 }
 
 /// All moves or none: what stops on its way to `goal` goes back to `begin`. Returns where it stands.
 std::size_t UndoJournal::Impl::DriveOrReturn(StepRow& step, std::size_t begin, std::size_t goal,
                                              const std::atomic<bool>& cancelled, const UndoProgress& progress,
                                              UndoResult& result) {
-  Drive drive = DriveMoves(step.moves, begin, goal, cancelled, progress);
+  // Links lead to the new names while the files have them: they are the last to change, and the first back.
+  const std::vector<LinkChange> links = links_.Links(step.number);
+  const bool forward = begin < goal;
+  Drive drive;
+  drive.at = begin;
+  if (forward || PointLinks(links, false, result)) {
+    drive = DriveMoves(step.moves, begin, goal, cancelled, progress);
+  }
   result.cancelled = drive.cancelled;
   if (drive.failure) {
     result.findings.push_back(*drive.failure);
   }
-  if (drive.at != goal) {
+  if (drive.at != goal || (forward && !PointLinks(links, true, result))) {
     const std::atomic<bool> never{false};
+    PointLinks(links, false, result);
     drive = DriveMoves(step.moves, drive.at, begin, never, nullptr);
     if (drive.failure) {
       result.findings.push_back(*drive.failure);
+    } else if (!forward) {
+      PointLinks(links, true, result);
     }
   }
   try {
@@ -1086,13 +1133,24 @@ void UndoJournal::Impl::RecoverMoves(StepRow& step) {
   const bool backwards = step.state == State::Undoing;
   const std::size_t found = CountDone(step.moves, backwards);
   const std::size_t goal = backwards ? 0 : all;
-  Drive drive = DriveMoves(step.moves, found, goal, never, nullptr);
+  const std::vector<LinkChange> links = links_.Links(step.number);
+  UndoResult ofLinks;
+  Drive drive;
+  drive.at = found;
+  if (!backwards || PointLinks(links, false, ofLinks)) {
+    drive = DriveMoves(step.moves, found, goal, never, nullptr);
+  }
   std::string note = name + " had been broken off";
-  if (drive.at == goal) {
+  if (drive.at == goal && (backwards || PointLinks(links, true, ofLinks))) {
     note += goal == 0 ? " while it was taken back; now it is." : " and is finished now.";
   } else {
-    note += " and cannot be finished (" + drive.failure->cause + ")";
+    note += " and cannot be finished (" +
+            (drive.failure ? drive.failure->cause : ofLinks.findings.front().cause) + ")";
+    PointLinks(links, false, ofLinks);
     drive = DriveMoves(step.moves, drive.at, all - goal, never, nullptr);
+    if (!drive.failure && backwards) {
+      PointLinks(links, true, ofLinks);
+    }
     note += drive.failure ? ", nor taken back (" + drive.failure->cause + ")." : "; it is as before now.";
   }
   SettleMoves(step, drive.at);

@@ -6,6 +6,7 @@
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/Album.h>
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 
@@ -30,6 +31,19 @@ struct PhotoPosition {
   double longitude = 0;
 };
 
+/// By what a photo is known again under another name, as it was when its file was read. Digests are 16 bytes.
+struct ContentTrace {
+  QByteArray edges;    ///< Of the size, the first and the last 64 KiB; empty: not read.
+  QByteArray tail;     ///< Of the last 64 KiB; empty where these may hold no picture, or say little.
+  QByteArray content;  ///< Of all bytes; empty unless the edges say little.
+  QString cameraId;    ///< What the camera calls the picture; empty: nothing.
+};
+
+/// True when both are of files of the same bytes, as far as anybody can tell without reading them all.
+bool IsSameContent(const ContentTrace& left, const ContentTrace& right);
+/// True when the picture is the same, and what is said of it may have been changed.
+bool IsSamePicture(const ContentTrace& left, const ContentTrace& right);
+
 /// One photo as the catalogue knows it.
 struct PhotoRecord {
   QString id;                   ///< Empty in a record that is not stored yet.
@@ -40,7 +54,8 @@ struct PhotoRecord {
   DateSource takenSource = DateSource::None;
   QString camera;  ///< Its model; empty: unknown.
   std::optional<PhotoPosition> position;
-  bool lost = false;  ///< The file was missing at the last scan of its folder.
+  ContentTrace trace;  ///< Only in records that were just read from a file.
+  bool lost = false;   ///< The file was missing at the last scan of its folder.
 };
 
 /// What a scan compares to see whether a file is unchanged.
@@ -72,6 +87,8 @@ struct StoredAlbum {
   std::vector<QString> photoIds;
 };
 
+class CatalogueDatabase;
+
 /// The embedded catalogue: one SQLite file (with its -wal and -shm while open) that holds what is known of
 /// the photos and the accepted albums. docs/formats/catalogue.md has its tables.
 ///
@@ -100,6 +117,8 @@ class Catalogue {
   static ioPath DefaultFile();
 
   const ioPath& File() const;
+  /// For the parts of the host that have tables of their own in it.
+  const CatalogueDatabase& Database() const;
 
   /// Stamps of all photos at or below `folder` (absolute, clean), by path.
   std::unordered_map<ioPath, FileStamp> Stamps(const ioPath& folder) const;

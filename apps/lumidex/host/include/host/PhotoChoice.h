@@ -5,6 +5,7 @@
 
 #include <zenvora/core/ioPath.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -14,15 +15,19 @@ struct RenameChoice {
   /// The files to be renamed, each once, in the order in which they were named: folders spelled in one way,
   /// names as on the disk.
   std::vector<ioPath> named;
-  /// The other files in their folders, hidden ones and links to files too; for `GroupShots`.
+  /// The other files in their folders, hidden ones too; for `GroupShots`.
   std::vector<ioPath> files;
-  /// Everything else in their folders, these files too; for `MakeRenamePlan`.
+  /// Everything else in their folders, these files and links too; for `MakeRenamePlan`.
   std::vector<ioPath> entries;
+  /// All symbolic links there, and below the folders that were named; for `PlanLinks` and `MarkTornLinks`.
+  std::vector<ioPath> links;
+  /// Links to files among what was named: they keep their names.
+  std::size_t linksNamed = 0;
 };
 
 /// Reads the folders of what a person named (absolute paths) once each. A file stands for itself, a folder
-/// for its own photos that are not hidden, by name, digits by their value; what is below it stays out. A link
-/// to a file is a name like any other: it would be renamed, not the file.
+/// for its own photos that are not hidden, by name, digits by their value; what is below it stays out.
+/// Symbolic links are left out.
 ///
 /// Throws `HostError` when one of the names is of no file and no folder, or a folder cannot be read: a plan
 /// that knows half a folder is none. Blocks on the disk.

@@ -44,8 +44,9 @@ struct RenameFacts {
 /// Thread-safety: as a value.
 class RenamePattern {
  public:
-  /// None, with the first fault, when the text (UTF-8) is no pattern: empty, unbalanced or unknown braces, a
-  /// width or format that means nothing, a character that no name can have, or bytes that are not UTF-8.
+  /// None, with the first fault, when the text (UTF-8) is no pattern: empty or blank, unbalanced or unknown
+  /// braces, a width or format that means nothing, a character that no name can have, or bytes that are not
+  /// UTF-8.
   static std::optional<RenamePattern> Parse(const std::string& text, RenamePatternFault& fault);
 
   /// The mode that says most of where a photo's name comes from: date-time if the pattern has one, else date,

@@ -20,6 +20,8 @@ struct RenameShot {
   QDateTime taken;
   /// Why that is not known, in English; empty: there is no photo in it.
   std::string dateFault = {};
+  /// A symbolic link of the shot's name, from which it would be torn; empty: there is none.
+  ioPath link = {};
 };
 
 /// In which order shots get their numbers.
@@ -50,6 +52,14 @@ struct RenameMove {
   ioPath to;
 };
 
+/// A symbolic link to a file that gets another name: what it says before and after, byte by byte on Linux, in
+/// UTF-8 on Windows.
+struct RenameLink {
+  ioPath link;
+  std::string before;
+  std::string after;
+};
+
 /// Why a shot cannot have its new name.
 struct RenameProblem {
   enum class Kind {
@@ -59,6 +69,7 @@ struct RenameProblem {
     Taken,     ///< Something that is not renamed has that name, or a file of a shot of that name.
     Blocked,   ///< The name is that of a shot which stays because of a problem of its own.
     Repeated,  ///< The file also belongs to a shot that was given before.
+    Torn,      ///< A symbolic link of the shot's name lies beside it, and links keep their names.
   };
   Kind kind = Kind::NoDate;
   /// Index of the shot as given.
@@ -83,6 +94,8 @@ struct RenamePlan {
   /// reverse order. Files of a circle of names, and those whose name changes in case or Unicode form only,
   /// go through a hidden name in their folder. Empty when the plan is refused.
   std::vector<RenameMove> steps;
+  /// Links that are to lead to the new names, `RenameLinks.h` finds them.
+  std::vector<RenameLink> links;
   /// By shot as planned, at most one for each. Not empty: refused, unless the options say otherwise.
   std::vector<RenameProblem> problems;
   /// Files that have their new name already. No problem.

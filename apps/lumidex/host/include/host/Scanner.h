@@ -36,10 +36,14 @@ struct ScanFinding {
     NotAnImage,  ///< Named like a photo, but its content is none.
     Unreadable,  ///< A file or folder that could not be read.
     Loop,  ///< A symbolic link that leads back to a folder above it, or to one already visited. Not followed.
+    Ambiguous,  ///< A photo was moved, and it cannot be told which, or where to. It is lost, the files are
+                ///< new.
   };
   Kind kind;
   ioPath path;
   std::string cause;
+  /// Of what is ambiguous: what `path` may be, or the files that may be `path`.
+  std::vector<ioPath> candidates = {};
 };
 
 struct ScanResult {
@@ -47,6 +51,8 @@ struct ScanResult {
   std::uint64_t added = 0;
   std::uint64_t updated = 0;
   std::uint64_t unchanged = 0;
+  /// Known photos that were found under other names: they keep all that is known of them.
+  std::uint64_t moved = 0;
   std::uint64_t lost = 0;  ///< Known photos under the scanned folders whose files are gone, newly marked.
   std::uint64_t dated[kDateSourceCount] = {};  ///< Of the files read: how many by `DateSource`.
   bool cancelled = false;
@@ -56,8 +62,10 @@ struct ScanResult {
 /// Walks the folders (a file is taken as itself), reads the metadata of new and changed photos in several
 /// threads, and commits them in batches, so that a kill loses at most the last batch. A folder that cannot be
 /// read is a finding, and no photo below it is marked lost; nor is any after a cancelled scan. Files reached
-/// twice (nested roots, links) count once. Hidden files and folders (leading dot) are passed over. Throws
-/// `HostError` when a root does not exist or the catalogue fails.
+/// twice (nested roots, links) count once. Photos whose files others moved or renamed are known again by
+/// their content; steps of the journal follow them. Hidden files and folders (leading dot) are passed over.
+/// Throws `HostError` when a root does not exist, the catalogue fails, or photos were moved while another
+/// program is at work with the journal.
 ScanResult Scan(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,
                 const ScanProgressHandler& progress);
 
