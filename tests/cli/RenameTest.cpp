@@ -371,16 +371,102 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS_F(RenameCommand, LeavesAFolderAloneThatCannotBeWritt
 
 #endif
 
-TEST_F(RenameCommand, RenamesALinkAndNotWhatItLeadsTo) {
+TEST_F(RenameCommand, LeavesLinksTheirNames) {
   const ioPath photo = WriteJpeg(tree.Path("elsewhere/real.jpg"));
   LUMIDEX_LINK_OR_SKIP(photo, Photos() / "link.jpg");
-  // It comes along with no photo: there is nothing that it would belong to.
   LUMIDEX_LINK_OR_SKIP("nowhere.xmp", Photos() / "link.xmp");
-  EXPECT_EQ(Rename("x{number}").exitCode, 0);
-  EXPECT_THAT(Names(), ElementsAre("link.xmp", "x1.jpg"));
-  EXPECT_TRUE(photo.exists());
-  EXPECT_TRUE(IsSameFile(photo, Photos() / "x1.jpg"));
-  EXPECT_EQ(Rename("y", {"photos/link.xmp"}).exitCode, 4);
+  const Ran ran = Rename("x{number}");
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_THAT(ran.out, HasSubstr("1 symbolic link"));
+  EXPECT_THAT(Names(), ElementsAre("link.jpg", "link.xmp"));
+  EXPECT_EQ(Rename("y", {"photos/link.jpg"}).exitCode, 1);
+}
+
+TEST_F(RenameCommand, PointsLinksToTheNewNamesAndBack) {
+  Photo("p.jpg", "2024:05:17 10:00:00");
+  Photo("q.jpg", "2024:05:18 10:00:00");
+  tree.MakeFolder("photos/best/of");
+  LUMIDEX_LINK_OR_SKIP("p.jpg", Photos() / "fav.jpg");
+  LUMIDEX_LINK_OR_SKIP("fav.jpg", Photos() / "chain.jpg");
+  LUMIDEX_LINK_OR_SKIP(Photos() / "q.jpg", Photos() / "whole.jpg");
+  LUMIDEX_LINK_OR_SKIP("../../q.jpg", Photos() / "best/of/deep.jpg");
+  LUMIDEX_LINK_OR_SKIP("../photos/./p.jpg", Photos() / ".hidden");
+  LUMIDEX_LINK_OR_SKIP("best", Photos() / "folder");
+  const auto says = [this](const char* link) {
+    return std::filesystem::read_symlink((Photos() / link).native());
+  };
+
+  const Ran shown = Rename("{name}", {"--dry-run", "photos"});
+  EXPECT_THAT(shown.out, Not(HasSubstr("Links that lead")));
+  const Ran dry = Rename("R{number}", {"--dry-run", "photos"});
+  EXPECT_THAT(dry.out, HasSubstr("Links that lead to the new names:"));
+  EXPECT_THAT(dry.out, HasSubstr((Photos() / "fav.jpg").utf8string()));
+  EXPECT_EQ(says("fav.jpg"), "p.jpg");
+
+  // As a glob names them.
+  const Ran ran = Rename("R{number}", {"photos/fav.jpg", "photos/p.jpg", "photos/q.jpg", "photos", "--json"});
+  EXPECT_EQ(ran.exitCode, 0) << ran.out << ran.err;
+  EXPECT_EQ(ran.Json()["links"].toArray().size(), 4);
+  EXPECT_EQ(says("fav.jpg"), "R1.jpg");
+  EXPECT_EQ(says("chain.jpg"), "fav.jpg");
+  EXPECT_EQ(says("whole.jpg"), (Photos() / "R2.jpg").native());
+  EXPECT_EQ(says("best/of/deep.jpg"), "../../R2.jpg");
+  EXPECT_EQ(says(".hidden"), "../photos/./R1.jpg");
+  EXPECT_EQ(says("folder"), "best");
+  EXPECT_TRUE(IsSameFile(Photos() / "chain.jpg", Photos() / "R1.jpg"));
+  EXPECT_THAT(Names(), Not(::testing::Contains(HasSubstr(".lumidex"))));
+
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_EQ(says("fav.jpg"), "p.jpg");
+  EXPECT_EQ(says("whole.jpg"), (Photos() / "q.jpg").native());
+  EXPECT_EQ(says("best/of/deep.jpg"), "../../q.jpg");
+  EXPECT_TRUE(IsSameFile(Photos() / "chain.jpg", Photos() / "p.jpg"));
+
+  // What others made of a link stays.
+  EXPECT_EQ(Run({"redo"}).exitCode, 0);
+  EXPECT_EQ(says("fav.jpg"), "R1.jpg");
+  std::filesystem::remove((Photos() / "fav.jpg").native());
+  LUMIDEX_LINK_OR_SKIP("R2.jpg", Photos() / "fav.jpg");
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_EQ(says("fav.jpg"), "R2.jpg");
+  EXPECT_EQ(says("whole.jpg"), (Photos() / "q.jpg").native());
+}
+
+TEST_F(RenameCommand, TearsNoPhotoFromALinkOfItsName) {
+  Photo("a.jpg");
+  Photo("b.jpg");
+  tree.Write("elsewhere/a.xmp", "settings");
+  LUMIDEX_LINK_OR_SKIP("../elsewhere/a.xmp", Photos() / "a.xmp");
+  // That leads to the photo itself.
+  LUMIDEX_LINK_OR_SKIP("b.jpg", Photos() / "b.png");
+  const Ran ran = Rename("R{number}");
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_THAT(ran.out, HasSubstr("would lose a link of its name, which stays as it is: a.xmp"));
+  EXPECT_EQ(Rename("R{number}", {"--skip-problems", "photos"}).exitCode, 3);
+  EXPECT_THAT(Names(), ElementsAre("R2.jpg", "a.jpg", "a.xmp", "b.png"));
+  EXPECT_TRUE(IsSameFile(Photos() / "b.png", Photos() / "R2.jpg"));
+}
+
+TEST_F(RenameCommand, TellsOfOneNameForManyPhotosOnce) {
+  for (int i = 10; i < 35; ++i) {
+    Photo(std::to_string(i) + ".jpg");
+  }
+  const Ran ran = Rename("same");
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_THAT(ran.out, HasSubstr((Photos() / "same.jpg").utf8string() +
+                                 "  would be the name of 25 photos: 10.jpg, 11.jpg, 12.jpg and 22 more\n"));
+  EXPECT_THAT(ran.out, Not(HasSubstr("13.jpg")));
+  EXPECT_EQ(Rename("same", {"--json", "photos"}).Json()["problems"].toArray().size(), 25);
+}
+
+TEST_F(RenameCommand, RefusesAPatternOfBlanks) {
+  Photo("a.jpg");
+  for (const char* const pattern : {" ", "  ", "\xC2\xA0"}) {
+    const Ran ran = Rename(pattern);
+    EXPECT_EQ(ran.exitCode, 2) << pattern;
+    EXPECT_THAT(ran.err, HasSubstr("nothing but blanks"));
+  }
+  EXPECT_THAT(Names(), ElementsAre("a.jpg"));
 }
 
 TEST_F(RenameCommand, GivesWhatWasRenamedItsNameBackWhenOneCannotBe) {

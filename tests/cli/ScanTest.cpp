@@ -126,6 +126,49 @@ TEST_F(ScanCommand, MarksPhotosLostThatAreGone) {
   EXPECT_EQ(Number(ran.Json(), "unchanged"), 2);
 }
 
+TEST_F(ScanCommand, FollowsPhotosThatOthersMoved) {
+  MakePhotos("a", "2023:12:24", 3);
+  Run({"scan", Text(Photos())});
+  ASSERT_EQ(Run({"tag", Text(Photos() / "a" / "img1.jpg"), "+Tim"}).exitCode, 0);
+  ASSERT_EQ(Run({"rotate", "right", Text(Photos() / "a" / "img1.jpg")}).exitCode, 0);
+  tree.MakeFolder("photos/b");
+  const ioPath moved = Photos() / "b" / "beach.jpg";
+  ASSERT_TRUE((Photos() / "a" / "img1.jpg").rename(moved));
+  EXPECT_THAT(Run({"scan", "--dry-run", Text(Photos())}).out, HasSubstr("1  moved or renamed\n"));
+  const Ran ran = Run({"--json", "scan", Text(Photos())});
+  EXPECT_EQ(ran.exitCode, 0);
+  EXPECT_EQ(Number(ran.Json(), "moved"), 1);
+  EXPECT_EQ(Number(ran.Json(), "lost"), 0);
+  EXPECT_EQ(Run({"find", "--tag", "Tim", "--paths"}).out, moved.utf8string() + '\n');
+  EXPECT_THAT(Run({"tag", Text(moved)}).out, HasSubstr("Tim"));
+  // The turn is taken back where the photo is.
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_EQ(Number(Run({"--json", "scan", Text(Photos())}).Json(), "unchanged"), 3);
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_THAT(Run({"find", "--tag", "Tim", "--paths"}).out, IsEmpty());
+}
+
+TEST_F(ScanCommand, NamesPhotosThatMovedNobodyKnowsWhere) {
+  MakePhotos("a", "2023:12:24", 1);
+  Run({"scan", Text(Photos())});
+  const ioPath photo = Photos() / "a" / "img0.jpg";
+  std::filesystem::copy_file(photo.native(), (Photos() / "one.jpg").native());
+  ASSERT_TRUE(photo.rename(Photos() / "two.jpg"));
+  const Ran shown = Run({"scan", "--dry-run", Text(Photos())});
+  EXPECT_EQ(shown.exitCode, 1);
+  EXPECT_THAT(shown.out, HasSubstr("  " + photo.utf8string() + "\n    It is gone, and 2 files may be it: " +
+                                   (Photos() / "one.jpg").utf8string() + ", " +
+                                   (Photos() / "two.jpg").utf8string() + '\n'));
+  EXPECT_THAT(shown.out, Not(HasSubstr("Not taken in")));
+  const QJsonObject document = Run({"--json", "scan", Text(Photos())}).Json();
+  EXPECT_EQ(Number(document, "added"), 2);
+  EXPECT_EQ(Number(document, "lost"), 1);
+  const QJsonObject finding = document["findings"].toArray()[0].toObject();
+  EXPECT_EQ(finding["kind"].toString(), QStringLiteral("ambiguous"));
+  EXPECT_EQ(finding["path"].toString(), Text(photo));
+  EXPECT_EQ(finding["candidates"].toArray().size(), 2);
+}
+
 TEST_F(ScanCommand, ReadsUnchangedFilesAgainOnDemand) {
   MakePhotos("a", "2023:12:24", 2);
   Run({"scan", Text(Photos())});

@@ -7,6 +7,8 @@ lumidex recovers. Then
   - the catalogue of a first scan is not there yet, or sound,
   - a rename is done as a whole or not at all,
   - no side file is left, neither among the photos nor in the undo folder,
+  - symbolic links lead to the photos that they led to before, or to where undo brings them back,
+  - a scan that finds photos moved by others knows each again: its tag is where the photo is,
   - journal and disk agree: taking the step back, if the journal has it, gives the very files from before: their names,
     bytes and times.
 
@@ -14,12 +16,14 @@ lumidex recovers. Then
 """
 
 import argparse
+import contextlib
 import hashlib
 import json
 import os
 import random
 import shutil
 import signal
+import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -35,6 +39,7 @@ BATCHES = [
     ("undo", ["undo"]),
     ("undo without redo", ["undo", "--no-redo"]),
     ("redo", ["redo"]),
+    ("scan what moved", ["scan"]),
 ]
 
 
@@ -55,6 +60,7 @@ class Catalogue:
         self.photos = os.path.join(root, "photos")
         self.catalogue = os.path.join(root, "catalogue.sqlite")
         self.kept = self.catalogue + ".undo"
+        self.links = os.path.join(self.photos, "best")
 
     def command(self, arguments):
         files = [self.photos] if arguments[0] not in ("undo", "redo") else []
@@ -74,10 +80,47 @@ class Catalogue:
         files = {}
         for name in sorted(os.listdir(self.photos)):
             path = os.path.join(self.photos, name)
+            if path == self.links:
+                continue
             with open(path, "rb") as file:
                 content = file.read()
             files[name] = (hashlib.sha1(content).hexdigest(), os.stat(path).st_mtime_ns, picture(content, name))
         return files
+
+    def pictures_of_links(self):
+        """To which picture each symbolic link leads."""
+        found = {}
+        for name in sorted(os.listdir(self.links)):
+            path = os.path.join(self.links, name)
+            require(os.path.exists(path), f"the link {name} leads nowhere: {os.readlink(path)}")
+            with open(path, "rb") as file:
+                found[name] = picture(file.read(), name)
+        return found
+
+    def ids(self):
+        """Of each picture in the folder the id of the record that the catalogue has of it."""
+        with contextlib.closing(sqlite3.connect(f"file:{self.catalogue}?mode=ro", uri=True)) as database:
+            rows = database.execute("SELECT path, id FROM photos WHERE lost = 0").fetchall()
+        by_path = {os.fsdecode(path): key for path, key in rows}
+        return {entry[2]: by_path.get(os.path.join(self.photos, name)) for name, entry in self.snapshot().items()}
+
+    def move_outside(self, number, random_source):
+        """What another program does: photos get other names, some those of others, and links are pointed there."""
+        names = sorted(self.snapshot())
+        moving = random_source.sample(names, len(names) * 2 // 3)
+        new_names = [f"M{number}_{i:04}.jpg" for i in range(len(moving) // 2)] + moving[len(moving) // 2:]
+        random_source.shuffle(new_names)
+        targets = dict(zip(moving, new_names))
+        for name in moving:
+            os.rename(os.path.join(self.photos, name), os.path.join(self.photos, name + ".moving"))
+        for name, target in targets.items():
+            os.rename(os.path.join(self.photos, name + ".moving"), os.path.join(self.photos, target))
+        for link in os.listdir(self.links):
+            path = os.path.join(self.links, link)
+            folder, name = os.path.split(os.readlink(path))
+            if name in targets:
+                os.remove(path)
+                os.symlink(os.path.join(folder, targets[name]), path)
 
     def kept_names(self):
         return sorted(name for name in os.listdir(self.kept) if name not in ("lock", "reserve")) if os.path.isdir(self.kept) else []
@@ -97,7 +140,7 @@ def copy_state(source, target):
     """The same photos, catalogue and originals somewhere else."""
     for folder in (target.photos, target.kept):
         shutil.rmtree(folder, ignore_errors=True)
-    shutil.copytree(source.photos, target.photos)
+    shutil.copytree(source.photos, target.photos, symlinks=True)
     if os.path.isdir(source.kept):
         shutil.copytree(source.kept, target.kept)
     for end in ("", "-wal", "-shm"):
@@ -129,6 +172,7 @@ def check(before, now, expected, is_rename, what):
 def play(catalogue, spare, batch, arguments, random_source, duration):
     """One round. Returns whether the batch was killed, and how much of it was done."""
     before = catalogue.snapshot()
+    links = catalogue.pictures_of_links()
     copy_state(catalogue, spare)
     started = time.monotonic()
     code, output = catalogue.run(arguments)
@@ -149,6 +193,7 @@ def play(catalogue, spare, batch, arguments, random_source, duration):
     now = catalogue.snapshot()
     is_rename = sorted(before.values()) == sorted(expected.values())
     check(before, now, expected, is_rename, batch)
+    require(catalogue.pictures_of_links() == links, f"{batch}: a link leads to another photo")
     done = sum(1 for name, entry in now.items() if before.get(name) != entry)
     again = catalogue.steps()
     require(again["steps"] == steps["steps"] and not again["recovered"] and catalogue.snapshot() == now,
@@ -165,6 +210,7 @@ def play(catalogue, spare, batch, arguments, random_source, duration):
             code, output = catalogue.run(["undo"])
             require(code == 0, f"{batch}: it cannot be taken back: {output.decode(errors='replace')}")
             require(catalogue.snapshot() == before, f"{batch}: taking it back does not give the photos from before")
+            require(catalogue.pictures_of_links() == links, f"{batch}: taking it back breaks a link")
             require(catalogue.run(["redo"])[0] == 0, f"{batch}: it cannot be done again")
             require(catalogue.snapshot() == now, f"{batch}: doing it again does not give the same photos")
         else:
@@ -231,13 +277,20 @@ def main():
             if name.lower().endswith(".jpg") and count < arguments.photos:
                 shutil.copy2(os.path.join(folder, name), os.path.join(catalogue.photos, f"P_{count:04}.jpg"))
                 count += 1
+    os.makedirs(catalogue.links)
     # Pictures that are alike could be told from each other by nothing.
     seen = set()
     for name, entry in catalogue.snapshot().items():
         if entry[2] in seen:
             os.remove(os.path.join(catalogue.photos, name))
         seen.add(entry[2])
+    names = sorted(catalogue.snapshot())
+    for number, name in enumerate(names[::7]):
+        whole = os.path.join(catalogue.photos, name)
+        os.symlink(whole if number % 3 == 0 else os.path.join("..", name), os.path.join(catalogue.links, f"{number}.jpg"))
     require(catalogue.run(["scan"])[0] in (0, 1), "the scan fails")
+    ids = catalogue.ids()
+    require(None not in ids.values(), "the scan does not take all photos in")
 
     killed = 0
     partly = 0
@@ -249,7 +302,12 @@ def main():
             words = [word.replace("{{round}}", str(number)).replace("{{", "{").replace("}}", "}") for word in words]
             if batch == "turn the names round":
                 words[words.index("date")] = random_source.choice(["date", "name"])
+            if batch == "scan what moved":
+                catalogue.move_outside(number, random_source)
             was_killed, done = play(catalogue, spare, batch, words, random_source, 0.02)
+            if batch == "scan what moved":
+                require(catalogue.run(["scan"])[0] in (0, 1), "the scan after the kill fails")
+            require(catalogue.ids() == ids, f"{batch}: a photo has lost its record")
             killed += was_killed
             partly += was_killed and done > 0
             if (number + 1) % 10 == 0:

@@ -55,7 +55,7 @@ TEST(PhotoChoice, SpellsFoldersInOneWay) {
   EXPECT_THAT(choice.entries, IsEmpty());
 }
 
-TEST(PhotoChoice, KnowsLinksToFilesFromOthers) {
+TEST(PhotoChoice, LeavesLinksOut) {
   const TempTree tree;
   tree.Write("real.jpg", "");
   tree.MakeFolder("d/folder.jpg");
@@ -64,9 +64,11 @@ TEST(PhotoChoice, KnowsLinksToFilesFromOthers) {
   LUMIDEX_LINK_OR_SKIP("nowhere.jpg", tree.Path("d/dangling.jpg"));
   LUMIDEX_LINK_OR_SKIP(tree.Path("d/folder.jpg"), tree.Path("d/tofolder.jpg"));
   const RenameChoice choice = ChooseForRename({tree.Path("d")});
-  EXPECT_THAT(choice.named, ElementsAre(tree.Path("d/link.jpg")));
-  EXPECT_THAT(choice.files, ElementsAre(tree.Path("d/link.txt")));
-  EXPECT_EQ(choice.entries.size(), 4U);
+  EXPECT_THAT(choice.named, IsEmpty());
+  EXPECT_THAT(choice.files, IsEmpty());
+  EXPECT_EQ(choice.linksNamed, 1U);
+  EXPECT_EQ(choice.links.size(), 4U);
+  EXPECT_EQ(choice.entries.size(), 5U);
   // To edit it is to edit the photo.
   EXPECT_THAT(ChooseForEdit({tree.Path("d"), tree.Path("real.jpg")}).photos,
               ElementsAre(tree.Path("real.jpg")));

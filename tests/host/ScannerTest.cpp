@@ -226,7 +226,7 @@ TEST_F(Scanner, MarksPhotosLostWhoseNamesAreFoldersNow) {
   const ioPath file = WriteJpeg(root_ / "a.jpg", Taken("2021:05:01 10:20:30"));
   Run();
   file.remove();
-  WriteJpeg(file / "b.jpg", Taken("2021:05:01 10:20:30"));
+  WriteJpeg(file / "b.jpg", Taken("2022:05:01 10:20:30"));
   const ScanResult result = Run();
   EXPECT_EQ(result.lost, 1U);
   EXPECT_THAT(Names(), ElementsAre("a.jpg/b.jpg"));
@@ -315,7 +315,7 @@ TEST_F(Scanner, OnlyTellsInADryRun) {
   gone.remove();
   WriteJpeg(changed, Taken("2022:05:01 10:20:30"));
   SetTime(changed, 2016);
-  WriteJpeg(root_ / "new.jpg");
+  WriteJpeg(root_ / "new.jpg", Taken("2023:05:01 10:20:30"));
 
   ScanOptions options;
   options.dryRun = true;

@@ -629,15 +629,18 @@ TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
   Rename({{"a.jpg", "x.jpg"}});
   ASSERT_TRUE(Photo("x.jpg").rename(Photo("a.jpg")));
   StopIn(1);
-  for (const char* const table : {"imported", "album_change_photos", "album_change_attributes",
-                                  "album_changes", "days_of_use", "tag_changes", "photo_tags", "tags",
-                                  "trashed", "cluster_photos", "clusters", "features", "analysers"}) {
+  for (const char* const table :
+       {"imported", "album_change_photos", "album_change_attributes", "album_changes", "days_of_use",
+        "volumes", "link_changes", "tag_changes", "photo_tags", "tags", "trashed", "cluster_photos",
+        "clusters", "features", "analysers"}) {
     Sql(std::string("DROP TABLE ") + table);
   }
+  Sql("DROP INDEX photos_by_edges");
+  Sql("DROP INDEX photos_by_camera_id");
   for (const char* const column :
-       {"photos DROP COLUMN latitude", "photos DROP COLUMN longitude", "photos DROP COLUMN reading",
-        "photos DROP COLUMN edges", "photos DROP COLUMN content", "photos DROP COLUMN camera_id",
-        "steps DROP COLUMN kind", "steps DROP COLUMN day"}) {
+       {"photos DROP COLUMN tail", "photos DROP COLUMN latitude", "photos DROP COLUMN longitude",
+        "photos DROP COLUMN reading", "photos DROP COLUMN edges", "photos DROP COLUMN content",
+        "photos DROP COLUMN camera_id", "steps DROP COLUMN kind", "steps DROP COLUMN day"}) {
     Sql(std::string("ALTER TABLE ") + column);
   }
   Sql("PRAGMA user_version = 2");
