@@ -33,7 +33,7 @@ bool IsStill(const PhotoRecord& photo, const PhotoRecord& file) {
 }
 
 bool HasOwnDate(const PhotoRecord& photo) {
-  return photo.takenSource == DateSource::Original || photo.takenSource == DateSource::Digitised;
+  return photo.takenSource != DateSource::None && photo.takenSource != DateSource::FileTime;
 }
 
 /// The last `count` names of a path.
