@@ -188,8 +188,8 @@ TEST_F(TrashCommand, WritesOneDocumentWithAllItsMembers) {
   EXPECT_EQ(document["format"].toString(), QStringLiteral("lumidex.similar"));
   EXPECT_EQ(document["groups"].toArray().size(), 2);
   const QJsonObject trash = document["trash"].toObject();
-  EXPECT_EQ(trash.keys(), (QStringList{"canBeUndone", "dryRun", "filesMoved", "findings", "interrupted",
-                                       "moved", "photosMoved", "planned", "stays"}));
+  EXPECT_EQ(trash.keys(), (QStringList{"alike", "canBeUndone", "dryRun", "filesMoved", "findings",
+                                       "interrupted", "moved", "photosMoved", "planned", "stays"}));
   EXPECT_FALSE(trash["dryRun"].toBool(true));
   EXPECT_FALSE(trash["interrupted"].toBool(true));
   EXPECT_EQ(trash["photosMoved"].toInt(), 3);
@@ -217,9 +217,43 @@ TEST_F(TrashCommand, MovesNothingWithoutAnAnswer) {
   EXPECT_EQ(State(), before_);
 }
 
+TEST_F(TrashCommand, LeavesWhatIsOnlyAlike) {
+  Save("b3.jpg", Scene(2).copy(12, 9, 456, 342));
+  Run({"scan", Text(Photos())});
+  const Ran dry = Run({"similar", "--trash", "--dry-run"});
+  EXPECT_EQ(dry.exitCode, 0) << dry.err;
+  EXPECT_THAT(dry.out, ::testing::ContainsRegex("\n  trash  same +[0-9.]+ +300x225 "));
+  EXPECT_THAT(dry.out, ::testing::ContainsRegex("\n  stay   alike +[0-9.]+ +456x342 "));
+  EXPECT_THAT(dry.out, HasSubstr("not the same picture; "));
+  EXPECT_THAT(dry.out, Not(HasSubstr("only alike:")));
+  const QJsonObject plan = Run({"similar", "--trash", "--dry-run", "--json"}).Json()["trash"].toObject();
+  EXPECT_FALSE(plan["alike"].toBool(true));
+  EXPECT_EQ(plan["planned"].toArray()[0].toObject()["verdict"].toString(), QStringLiteral("same"));
+  ASSERT_EQ(plan["stays"].toArray().size(), 1);
+  EXPECT_TRUE(plan["stays"].toArray()[0].toObject()["rule"].toBool());
+  EXPECT_EQ(Run({"similar", "--trash", "--yes"}).exitCode, 0);
+  EXPECT_THAT(Names(), ElementsAre("a1.jpg", "b2.jpg", "b3.jpg", "c.jpg"));
+}
+
+TEST_F(TrashCommand, TakesWhatIsAlikeWhenToldTo) {
+  Save("b3.jpg", Scene(2).copy(12, 9, 456, 342));
+  Run({"scan", Text(Photos())});
+  const auto before = State();
+  const Ran dry = Run({"similar", "--trash", "--alike", "--dry-run"});
+  const std::size_t apart = dry.out.find("Not the same picture as the one to keep, only alike:\n  ");
+  ASSERT_NE(apart, std::string::npos) << dry.out;
+  EXPECT_THAT(dry.out.substr(apart), HasSubstr((Photos() / "b3.jpg").utf8string() + "  alike to b2.jpg  "));
+  EXPECT_THAT(dry.out.substr(apart), Not(HasSubstr("b1.jpg")));
+  EXPECT_EQ(Run({"similar", "--trash", "--alike", "--yes"}).exitCode, 0);
+  EXPECT_THAT(Names(), ElementsAre("a1.jpg", "b2.jpg", "c.jpg"));
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_EQ(State(), before);
+}
+
 TEST_F(TrashCommand, TakesOnlyWhatMakesSense) {
   for (const QStringList& line : std::vector<QStringList>{{"--yes"},
                                                           {"--dry-run"},
+                                                          {"--alike"},
                                                           {"--trash", "--yes", "--dry-run"},
                                                           {"--trash", "--yes", "--report", "x.html"},
                                                           {"--trash", "--yes", "--check"},
@@ -317,6 +351,7 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAnsweredWithNoByAnythingElse, kNoTe
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAnsweredInTheLanguageOrInEnglish, kNoTerminal);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, CanBeInterrupted, kNoTerminal);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, LeavesWhatWasChangedWhileItWasAsked, kNoTerminal);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, TellsWhatIsOnlyAlike, kNoTerminal);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsNotAskedWhenThereIsNothingToMove, kNoTerminal);
 #else
 
@@ -409,6 +444,16 @@ TEST_F(TrashQuestion, LeavesWhatWasChangedWhileItWasAsked) {
   EXPECT_THAT(ran.out, HasSubstr("a2.jpg stays: it has been changed since it was looked at."));
   EXPECT_THAT(ran.out, HasSubstr("b1.jpg stays: the one to keep, "));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "a2.jpg", "b1.jpg", "c.jpg"));
+}
+
+TEST_F(TrashQuestion, TellsWhatIsOnlyAlike) {
+  Save("b3.jpg", Scene(2).copy(12, 9, 456, 342));
+  Run({"scan", Text(Photos())});
+  const Ran ran = Answer("n\n", {"--alike"});
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_THAT(asked_, HasSubstr("only alike:"));
+  EXPECT_THAT(asked_, HasSubstr("Move 4 photos ("));
+  EXPECT_THAT(asked_, HasSubstr(" only alike? [y/N] "));
 }
 
 TEST_F(TrashQuestion, IsNotAskedWhenThereIsNothingToMove) {

@@ -250,7 +250,10 @@ TEST_F(CatalogueFile, IsNotBroughtUpToDateByReaders) {
 
 /// What later versions added is taken out again.
 void MakeOlder(const ioPath& file, int version) {
-  std::vector<std::string> statements = {"DROP TABLE imported",
+  std::vector<std::string> statements = {"DROP TABLE verdicts",
+                                         "DROP TABLE origins",
+                                         "ALTER TABLE features DROP COLUMN checked",
+                                         "DROP TABLE imported",
                                          "DROP TABLE album_change_attributes",
                                          "DROP TABLE album_change_photos",
                                          "DROP TABLE album_changes",

@@ -186,6 +186,17 @@ TEST(DescribePhoto, TakesAnyPreviewWhenThePictureIsBroken) {
   EXPECT_GT(Likeness(description, Other()), 0.95);
 }
 
+TEST(DescribePhoto, TakesNoPreviewOfAnotherShapeEvenWhenThePictureIsBroken) {
+  const TempTree tree;
+  std::string bytes = ReadFile(WithThumbnail(tree, "p.jpg", Shown(), Other().scaled(160, 90)));
+  const auto frame = bytes.rfind("\xFF\xC0");
+  ASSERT_NE(frame, std::string::npos);
+  bytes[frame + 4] = 12;
+  const auto description = Describe(tree.Write("broken.jpg", bytes));
+  EXPECT_TRUE(description.descriptor.empty());
+  EXPECT_NE(description.cause, "");
+}
+
 TEST(DescribePhoto, SurvivesDamagedThumbnails) {
   const TempTree tree;
   std::string bytes = ReadFile(WithThumbnail(tree, "p.jpg", Shown(), Thumbnail(Other())));

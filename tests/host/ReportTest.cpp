@@ -293,6 +293,17 @@ TEST_F(Report, ShowsOtherSetsThanAlbums) {
   EXPECT_EQ(Write({}).headings, (QStringList{QStringLiteral("No groups")}));
 }
 
+TEST_F(Report, PutsAWordUnderEachPictureThatHasOne) {
+  using Tone = ReportMark::Tone;
+  auto group = Album(QStringLiteral("Group"), 3);
+  group.marks = {{QStringLiteral("Keep <it>"), Tone::Chosen}, {QStringLiteral("Same"), Tone::Good}, {}};
+  Write({group, Album(QStringLiteral("Others"), 1)});
+  const QString html = QString::fromStdString(Zenvora::Test::ReadFile(file));
+  EXPECT_TRUE(html.contains(QStringLiteral("<span class=\"mark keep\">Keep &lt;it&gt;</span><figcaption>")));
+  EXPECT_TRUE(html.contains(QStringLiteral("<span class=\"mark good\">Same</span>")));
+  EXPECT_EQ(html.count(QStringLiteral("<span class=\"mark ")), 2);
+}
+
 TEST_F(Report, SaysKindlyThatThereAreNoAlbums) {
   const Page page = Write({});
   EXPECT_EQ(page.headings, (QStringList{QStringLiteral("No albums yet")}));

@@ -1,3 +1,4 @@
+#include "Pictures.h"
 #include "Records.h"
 
 #include <host/SimilarUpdate.h>
@@ -61,6 +62,25 @@ class SimilarUpdate : public testing::Test {
     photo.size = state.size;
     photo.modifiedNs = state.modifiedNs;
     Catalogue(catalogue_, Catalogue::Mode::ReadWrite).Store({photo});
+  }
+  /// A photo whose thumbnail shows something else, large enough for the thumbnail to be looked at.
+  ioPath AddWithThumbnail(const std::string& name, Qt::GlobalColor colour, Qt::GlobalColor thumbnail) {
+    const ioPath file = TestPictures::WithThumbnail(tree_, name, TestPictures::Plain({1200, 900}, colour),
+                                                    TestPictures::Plain({160, 120}, thumbnail));
+    TakeIn(file);
+    return file;
+  }
+  /// Names of the photos of each group.
+  std::vector<std::string> Groups() const {
+    std::vector<std::string> groups;
+    for (const SimilarGroup& group : SimilarPhotos(catalogue_, NameOf(analyser_)).Groups(2)) {
+      std::string names;
+      for (const SimilarMember& member : group.members) {
+        names += (names.empty() ? "" : " ") + member.photo.path.filename().utf8string();
+      }
+      groups.push_back(names);
+    }
+    return groups;
   }
   SimilarUpdateResult Update() {
     SimilarPhotos similar(catalogue_, NameOf(analyser_));
@@ -139,11 +159,57 @@ TEST_F(SimilarUpdate, TriesAgainWhatFailedForAReasonThatMayPass) {
 
 TEST_F(SimilarUpdate, RemembersWhatIsNoPicture) {
   TakeIn(tree_.Write("a.jpg", "no picture"));
-  EXPECT_THAT(Update().unreadable, IsEmpty());
-  EXPECT_EQ(Update().analysed, 0U);
+  const SimilarUpdateResult first = Update();
+  EXPECT_THAT(first.unreadable, IsEmpty());
+  EXPECT_THAT(first.notComparable, testing::ElementsAre(tree_.Path("a.jpg")));
+  const SimilarUpdateResult second = Update();
+  EXPECT_EQ(second.analysed, 0U);
+  EXPECT_THAT(second.notComparable, IsEmpty());
   const auto problems = SimilarPhotos(catalogue_, NameOf(analyser_)).Problems();
   ASSERT_THAT(problems, SizeIs(1));
   EXPECT_NE(problems[0].second, "");
+}
+
+TEST_F(SimilarUpdate, PutsPhotosWithTheThumbnailOfAnotherWhereTheirPicturesBelong) {
+  AddPhoto("red.png", Qt::red);
+  AddPhoto("blue.png", Qt::blue);
+  AddWithThumbnail("shows_blue.jpg", Qt::blue, Qt::red);
+  AddWithThumbnail("shows_red.jpg", Qt::red, Qt::red);
+  Update();
+  EXPECT_THAT(Groups(), testing::ElementsAre("blue.png shows_blue.jpg", "red.png shows_red.jpg"));
+  seen_.clear();
+  Update();
+  EXPECT_THAT(seen_, IsEmpty()) << "what was compared is not compared again";
+  EXPECT_THAT(SimilarPhotos(catalogue_, NameOf(analyser_)).Check(), IsEmpty());
+}
+
+TEST_F(SimilarUpdate, ComparesThePreviewsOfPhotosThatBecameMembersOfGroupsLater) {
+  AddWithThumbnail("shows_blue.jpg", Qt::blue, Qt::red);
+  Update();
+  EXPECT_THAT(seen_, testing::Each(testing::Field(&SimilarProgress::step,
+                                                  testing::Ne(SimilarProgress::Step::Checking))));
+  AddPhoto("red.png", Qt::red);
+  Update();
+  EXPECT_THAT(Groups(), IsEmpty());
+  EXPECT_THAT(seen_,
+              testing::Contains(testing::Field(&SimilarProgress::step, SimilarProgress::Step::Checking)));
+}
+
+TEST_F(SimilarUpdate, GoesOnWithThumbnailsThatACancelLeft) {
+  AddPhoto("red.png", Qt::red);
+  AddWithThumbnail("shows_blue.jpg", Qt::blue, Qt::red);
+  {
+    SimilarPhotos similar(catalogue_, NameOf(analyser_));
+    AnalysisOptions options;
+    options.cancel = &cancel_;
+    const auto result = UpdateSimilar(similar, analyser_, options, [this](const SimilarProgress& now) {
+      cancel_ = cancel_ || now.step == SimilarProgress::Step::Checking;
+    });
+    EXPECT_TRUE(result.cancelled);
+  }
+  cancel_ = false;
+  Update();
+  EXPECT_THAT(Groups(), IsEmpty());
 }
 
 TEST_F(SimilarUpdate, GroupsNothingWhenItIsCancelledBefore) {

@@ -43,6 +43,7 @@ class TrashPlanTest : public ::testing::Test {
         Make(name);
       }
       group.group.members.push_back(Member(name));
+      group.verdicts.push_back({Verdict::Same, "the same bytes", 0});
     }
     return group;
   }
@@ -123,6 +124,52 @@ TEST_F(TrashPlanTest, LeavesWhatIsOnlyLikeTheMiddleOfItsGroup) {
   EXPECT_THAT(Staying(plan), ElementsAre("far.jpg", "far.nef"));
   EXPECT_THAT(plan.stays[0].cause,
               HasSubstr("it is like others of its group, but not like the one to keep, "));
+}
+
+TEST_F(TrashPlanTest, LeavesWhatIsNotTheSamePicture) {
+  SuggestedGroup group =
+      Group({"keep.jpg", "same.jpg", "alike.jpg", "different.jpg", "unknown.jpg", "alike.nef"});
+  group.verdicts[2] = {Verdict::Alike, "cropped", 5};
+  group.verdicts[3] = {Verdict::Different, "", 9};
+  group.verdicts[4] = {};
+  group.verdicts[5] = {Verdict::Alike, "brighter", 3};
+  const TrashPlan plan = PlanTrash({group});
+  EXPECT_THAT(Going(plan), ElementsAre("same.jpg"));
+  EXPECT_EQ(plan.CountAlike(), 0U);
+  EXPECT_THAT(Staying(plan), ElementsAre("alike.jpg", "different.jpg", "unknown.jpg", "alike.nef"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("it is only alike to "));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("keep.jpg, not the same picture (cropped)."));
+  EXPECT_EQ(plan.stays[0].byVerdict, Verdict::Alike);
+  EXPECT_THAT(plan.stays[1].cause, HasSubstr("it shows something else than the one to keep, "));
+  EXPECT_THAT(plan.stays[2].cause, HasSubstr("it could not be compared with the one to keep, "));
+  group.verdicts.clear();
+  EXPECT_THAT(Going(PlanTrash({group}, TrashChoice::SameOrAlike)), IsEmpty()) << "nothing was judged";
+}
+
+TEST_F(TrashPlanTest, TakesWhatIsAlikeWhenThatWasChosen) {
+  SuggestedGroup group =
+      Group({"keep.jpg", "same.jpg", "alike.jpg", "different.jpg", "unknown.jpg", "alike.nef"});
+  group.verdicts[2] = {Verdict::Alike, "cropped", 5};
+  group.verdicts[3] = {Verdict::Different, "", 9};
+  group.verdicts[4] = {};
+  group.verdicts[5] = {Verdict::Alike, "brighter", 3};
+  const TrashPlan plan = PlanTrash({group}, TrashChoice::SameOrAlike);
+  EXPECT_THAT(Going(plan), ElementsAre("same.jpg", "alike.jpg"));
+  EXPECT_EQ(plan.CountAlike(), 1U);
+  EXPECT_EQ(plan.photos[1].verdict.why, "cropped");
+  EXPECT_THAT(Staying(plan), ElementsAre("different.jpg", "unknown.jpg", "alike.nef"));
+  EXPECT_THAT(plan.stays[2].cause, HasSubstr("no raw file of its group is kept"));
+}
+
+TEST_F(TrashPlanTest, LeavesAGroupWhosePhotoToKeepIsDamaged) {
+  SuggestedGroup group = Group({"keep.jpg", "whole.jpg"});
+  group.group.members[0].origin.emplace();
+  EXPECT_THAT(Going(PlanTrash({group})), ElementsAre("whole.jpg"));
+  group.group.members[0].origin->degradation = "a tenth of the picture cannot be decoded";
+  const TrashPlan plan = PlanTrash({group});
+  EXPECT_THAT(Going(plan), IsEmpty());
+  EXPECT_THAT(Staying(plan), ElementsAre("whole.jpg!"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("is damaged: a tenth of the picture cannot be decoded"));
 }
 
 TEST_F(TrashPlanTest, LeavesAGroupWhosePhotoToKeepBreaksOff) {

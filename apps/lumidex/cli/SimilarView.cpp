@@ -1,6 +1,5 @@
 #include "SimilarView.h"
 
-#include "JsonWriter.h"
 #include "ReportNote.h"
 #include "TerminalText.h"
 #include "TextTable.h"
@@ -55,30 +54,60 @@ std::string TakenText(const SimilarMember& member) {
   return taken.isValid() ? taken.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString() : "-";
 }
 
-/// Photos besides those to keep, and their bytes.
-std::pair<std::size_t, std::uint64_t> Others(const SimilarView& view) {
-  std::size_t count = 0;
+struct Amounts {
+  std::size_t photos = 0;
   std::uint64_t bytes = 0;
-  for (const SimilarView::Group& shown : view.groups) {
+};
+
+/// Of photos besides those to keep; with a verdict, of those alone that have it.
+Amounts Others(const SimilarView& view, std::optional<Host::Verdict> verdict = {}) {
+  Amounts amounts;
+  for (const Host::SuggestedGroup& shown : view.groups) {
     for (std::size_t i = 0; i < shown.group.members.size(); ++i) {
-      if (i != shown.keeper.index) {
-        ++count;
-        bytes += shown.group.members[i].photo.size;
+      if (i != shown.keeper.index && (!verdict || shown.verdicts[i].verdict == *verdict)) {
+        ++amounts.photos;
+        amounts.bytes += shown.group.members[i].photo.size;
       }
     }
   }
-  return {count, bytes};
+  return amounts;
 }
 
 std::string ProblemsText(const SimilarView& view) {
-  if (view.problems.empty()) {
+  TextTable table({{}, {}});
+  std::size_t known = 0;
+  for (const SimilarView::Problem& problem : view.problems) {
+    if (problem.isNew) {
+      table.AddRow({problem.photo.utf8string(), problem.cause});
+    } else {
+      ++known;
+    }
+  }
+  std::string text;
+  if (known < view.problems.size()) {
+    text = Say(Words::tr("Not compared:")) + '\n' + table.Text(2) + '\n';
+  }
+  if (known > 0) {
+    text += Say(Words::tr("%1 photos cannot be compared, as before; \"lumidex similar --not-compared\" lists "
+                          "them.",
+                          nullptr, Amount(known)),
+                {GroupDigits(known)}) +
+            '\n';
+  }
+  return text;
+}
+
+/// How many of those besides the ones to keep nobody misses.
+std::string SameText(const SimilarView& view) {
+  const Amounts same = Others(view, Host::Verdict::Same);
+  if (same.photos == 0) {
     return {};
   }
-  TextTable table({{}, {}});
-  for (const auto& [file, cause] : view.problems) {
-    table.AddRow({file.utf8string(), cause});
-  }
-  return Say(Words::tr("Not compared:")) + '\n' + table.Text(2) + '\n';
+  return Say(Words::tr("%1 of them (%2) are the same picture as the one to keep; \"lumidex similar --trash\" "
+                       "moves those to the trash.",
+                       nullptr, Amount(same.photos)),
+             {GroupDigits(same.photos), SizeText(same.bytes)}) +
+         '\n';
 }
 
 std::string SummaryText(const SimilarView& view) {
@@ -87,82 +116,90 @@ std::string SummaryText(const SimilarView& view) {
     return Say(Words::tr("No similar photos among %1 photos.", nullptr, Amount(view.photos)), {photos}) +
            '\n';
   }
-  const auto [count, bytes] = Others(view);
+  const Amounts all = Others(view);
   const std::string groups =
       Say(Words::tr("%1 groups of similar photos", nullptr, Amount(view.groups.size())),
           {GroupDigits(view.groups.size())});
   const std::string among = Say(Words::tr("among %1 photos", nullptr, Amount(view.photos)), {photos});
-  const std::string others = Say(Words::tr("%1 photos (%2) besides those to keep.", nullptr, Amount(count)),
-                                 {GroupDigits(count), SizeText(bytes)});
+  const std::string others =
+      Say(Words::tr("%1 photos (%2) besides those to keep.", nullptr, Amount(all.photos)),
+          {GroupDigits(all.photos), SizeText(all.bytes)});
   return Say(Words::tr("%1 %2; %3", "groups of similar photos; among how many; others"),
              {groups, among, others}) +
-         '\n';
+         '\n' + SameText(view);
 }
 
-void WriteMember(JsonWriter& json, const SimilarMember& member, const Host::KeeperChoice* keeper) {
-  json.BeginObject();
-  json.Text("id", member.photo.id);
-  json.Path("path", member.photo.path);
-  json.Real("score", member.score);
-  json.Number("width", member.features.width);
-  json.Number("height", member.features.height);
-  json.Number("size", static_cast<long long>(member.photo.size));
-  json.Moment("taken", member.photo.taken);
-  json.Truth("keep", keeper != nullptr);
-  json.BeginArray("reasons");
-  if (keeper != nullptr) {
-    for (const Host::KeeperReason reason : keeper->reasons) {
-      json.Text("", Host::KeeperReasonName(reason));
-    }
+std::string JudgedText(const Host::PictureVerdict& judged) {
+  QString sentence;
+  switch (judged.verdict) {
+    case Host::Verdict::Same:
+      sentence = Words::tr("They are the same picture.");
+      break;
+    case Host::Verdict::Alike:
+      sentence = Words::tr("They are alike, and not the same picture.");
+      break;
+    case Host::Verdict::Different:
+      sentence = Words::tr("They are different pictures.");
+      break;
+    case Host::Verdict::Unknown:
+      sentence = Words::tr("Their pictures could not be compared.");
+      break;
   }
-  json.EndArray();
-  json.EndObject();
-}
-
-void WriteGroups(JsonWriter& json, const SimilarView& view) {
-  json.BeginArray("groups");
-  for (const SimilarView::Group& shown : view.groups) {
-    json.BeginObject();
-    json.Number("cluster", shown.group.cluster);
-    json.BeginArray("members");
-    for (std::size_t i = 0; i < shown.group.members.size(); ++i) {
-      WriteMember(json, shown.group.members[i], i == shown.keeper.index ? &shown.keeper : nullptr);
-    }
-    json.EndArray();
-    json.EndObject();
-  }
-  json.EndArray();
+  return Say(sentence) + (judged.why.empty() ? "" : " (" + EscapeForTerminal(judged.why) + ")");
 }
 
 }  // namespace
 
-std::string GroupText(const SimilarView::Group& shown, std::size_t number, const TrashView* trash) {
+std::string VerdictText(Host::Verdict verdict) {
+  switch (verdict) {
+    case Host::Verdict::Same:
+      return Say(Words::tr("same", "a picture"));
+    case Host::Verdict::Alike:
+      return Say(Words::tr("alike", "a picture"));
+    case Host::Verdict::Different:
+      return Say(Words::tr("different", "a picture"));
+    case Host::Verdict::Unknown:
+      break;
+  }
+  return Say(Words::tr("unknown", "a verdict"));
+}
+
+std::string GroupText(const Host::SuggestedGroup& shown, const TrashView* trash) {
   const std::vector<SimilarMember>& members = shown.group.members;
-  TextTable table({{},
-                   {"", TextTable::Align::Right},
-                   {"", TextTable::Align::Right},
-                   {"", TextTable::Align::Right},
-                   {},
-                   {},
-                   {}});
+  std::vector<TextTable::Column> columns = {
+      {}, {"", TextTable::Align::Right}, {"", TextTable::Align::Right}, {"", TextTable::Align::Right}, {}, {},
+      {}};
+  if (trash != nullptr) {
+    columns.insert(columns.begin(), TextTable::Column());
+  }
+  TextTable table(columns);
+  const auto add = [&table, trash](const std::string& fate, std::vector<std::string> cells) {
+    if (trash != nullptr) {
+      cells.insert(cells.begin(), fate);
+    }
+    table.AddRow(std::move(cells));
+  };
   for (std::size_t i = 0; i < members.size(); ++i) {
     const SimilarMember& member = members[i];
     const bool isKeeper = i == shown.keeper.index;
     const TrashPhoto* const going = trash != nullptr ? FindGoing(*trash, member.photo.path) : nullptr;
-    const std::string verdict = isKeeper           ? Say(Words::tr("keep", "a photo"))
-                                : trash == nullptr ? std::string()
-                                : going != nullptr ? Say(Words::tr("trash", "it goes there"))
-                                                   : Say(Words::tr("stay", "a photo does"));
-    table.AddRow({verdict, ScoreText(member.score), PixelsText(member.features), SizeText(member.photo.size),
-                  TakenText(member), member.photo.path.utf8string(),
-                  isKeeper ? ReasonsText(shown.keeper) : ""});
+    const std::string keep = Say(Words::tr("keep", "a photo"));
+    const std::string fate = isKeeper           ? keep
+                             : going != nullptr ? Say(Words::tr("trash", "it goes there"))
+                                                : Say(Words::tr("stay", "a photo does"));
+    const std::string verdict = !isKeeper          ? VerdictText(shown.verdicts[i].verdict)
+                                : trash == nullptr ? keep
+                                                   : std::string();
+    add(fate, {verdict, ScoreText(member.score), PixelsText(member.features), SizeText(member.photo.size),
+               TakenText(member), member.photo.path.utf8string(),
+               isKeeper ? ReasonsText(shown.keeper) : shown.verdicts[i].why});
     for (std::size_t j = 0; going != nullptr && j < going->appendix.size(); ++j) {
       const Host::SeenFile& file = going->appendix[j];
-      table.AddRow({verdict, "", "", SizeText(file.size), "", file.path.utf8string(), ""});
+      add(fate, {"", "", "", SizeText(file.size), "", file.path.utf8string(), ""});
     }
   }
   return Say(Words::tr("Group %1, %2 photos:", nullptr, Amount(members.size())),
-             {GroupDigits(number), GroupDigits(members.size())}) +
+             {GroupDigits(shown.group.number), GroupDigits(members.size())}) +
          '\n' + table.Text(2) + '\n';
 }
 
@@ -182,65 +219,17 @@ std::string PixelsText(const Host::PhotoFeatures& features) {
   return features.width == 0 ? "-" : std::to_string(features.width) + "x" + std::to_string(features.height);
 }
 
-std::string SimilarDocument(const SimilarView& view) {
-  JsonWriter json("lumidex.similar", 1);
-  json.Path("catalogue", view.catalogue);
-  json.BeginArray("recovered");
-  for (const std::string& note : view.recovered) {
-    json.Text("", note);
-  }
-  json.EndArray();
-  json.Truth("interrupted", view.cancelled);
-  json.Text("analyser", view.analyser);
-  json.Number("analysed", static_cast<long long>(view.analysed));
-  json.Number("photos", static_cast<long long>(view.photos));
-  WriteGroups(json, view);
-  json.BeginArray("findings");
-  for (const auto& [file, cause] : view.problems) {
-    json.BeginObject();
-    json.Path("path", file);
-    json.Text("cause", cause);
-    json.EndObject();
-  }
-  json.EndArray();
-  WriteReportMember(json, view.report, view.missingPictures);
-  if (view.trash) {
-    WriteTrash(json, *view.trash);
-  }
-  return json.Finish();
-}
-
 std::string SimilarText(const SimilarView& view) {
-  std::string text = ProblemsText(view);
-  std::size_t number = 0;
+  std::string text;
   const TrashView* const trash = view.trash ? &*view.trash : nullptr;
-  for (const SimilarView::Group& group : view.groups) {
-    // Who was asked has seen them.
-    text += trash != nullptr && trash->asked ? "" : GroupText(group, ++number, trash);
+  // Who was asked has seen them.
+  if (trash == nullptr || !trash->asked) {
+    for (const Host::SuggestedGroup& group : view.groups) {
+      text += GroupText(group, trash);
+    }
   }
-  text += trash != nullptr ? TrashText(*trash) : SummaryText(view);
+  text += ProblemsText(view) + (trash != nullptr ? TrashText(*trash) : SummaryText(view));
   return text + ReportLines(view.report, view.missingPictures);
-}
-
-std::string ExplainDocument(const ExplainView& view) {
-  const Host::SimilarityFacts& facts = view.facts;
-  JsonWriter json("lumidex.similar.explain", 1);
-  json.Real("threshold", Host::kSameGroupScore);
-  json.Real("score", facts.score);
-  json.Truth("together", facts.firstCluster == facts.secondCluster);
-  json.BeginArray("photos");
-  const auto photo = [&json](const ioPath& path, std::int64_t cluster, float own, float others) {
-    json.BeginObject();
-    json.Path("path", path);
-    json.Number("cluster", cluster);
-    json.Real("scoreToOwnCentre", own);
-    json.Real("scoreToOtherCentre", others);
-    json.EndObject();
-  };
-  photo(view.first, facts.firstCluster, facts.firstToFirst, facts.firstToSecond);
-  photo(view.second, facts.secondCluster, facts.secondToSecond, facts.secondToFirst);
-  json.EndArray();
-  return json.Finish();
 }
 
 std::string ExplainText(const ExplainView& view) {
@@ -248,32 +237,28 @@ std::string ExplainText(const ExplainView& view) {
   const bool together = facts.firstCluster == facts.secondCluster;
   TextTable table(
       {{Say(Words::tr("PHOTO"))},
-       {Say(Words::tr("CLUSTER")), TextTable::Align::Right},
+       {Say(Words::tr("GROUP")), TextTable::Align::Right},
+       {Say(Words::tr("VERDICT"))},
        {Say(together ? Words::tr("TO ITS CENTRE") : Words::tr("TO ITS OWN CENTRE")), TextTable::Align::Right},
        {together ? "" : Say(Words::tr("TO THE OTHER'S")), TextTable::Align::Right}});
-  table.AddRow({view.first.utf8string(), std::to_string(facts.firstCluster), ScoreText(facts.firstToFirst),
-                together ? "" : ScoreText(facts.firstToSecond)});
-  table.AddRow({view.second.utf8string(), std::to_string(facts.secondCluster),
-                ScoreText(facts.secondToSecond), together ? "" : ScoreText(facts.secondToFirst)});
+  const auto add = [&](const ExplainedPhoto& photo, float own, float others) {
+    table.AddRow({photo.path.utf8string(), photo.group ? GroupDigits(*photo.group) : "-",
+                  !photo.group   ? "-"
+                  : photo.isKept ? Say(Words::tr("keep", "a photo"))
+                                 : VerdictText(photo.verdict),
+                  ScoreText(own), together ? "" : ScoreText(others)});
+  };
+  add(view.first, facts.firstToFirst, facts.firstToSecond);
+  add(view.second, facts.secondToSecond, facts.secondToFirst);
   const QString verdict =
       together ? Words::tr("The photos score %1 against each other and are in one group.")
                : Words::tr("The photos score %1 against each other and are in different groups.");
-  return Say(verdict, {ScoreText(facts.score)}) + "\n\n" + table.Text() + '\n' +
+  return Say(verdict, {ScoreText(facts.score)}) + '\n' + JudgedText(view.verdict) + "\n\n" + table.Text() +
+         '\n' +
          Say(Words::tr("A photo joins the first group whose centre, the mean of its photos at that time, it "
                        "scored\nabove %1 against; later photos move the centre."),
              {ScoreText(Host::kSameGroupScore)}) +
          '\n';
-}
-
-std::string CheckDocument(const ioPath& catalogue, const std::vector<std::string>& differences) {
-  JsonWriter json("lumidex.similar.check", 1);
-  json.Path("catalogue", catalogue);
-  json.BeginArray("differences");
-  for (const std::string& difference : differences) {
-    json.Text("", difference);
-  }
-  json.EndArray();
-  return json.Finish();
 }
 
 std::string CheckText(const std::vector<std::string>& differences) {

@@ -3,6 +3,7 @@
 #include "JournalView.h"
 #include "StepText.h"
 #include "TerminalText.h"
+#include "TextTable.h"
 #include "ValueTexts.h"
 #include "Words.h"
 
@@ -35,11 +36,12 @@ std::string OutcomeText(const TrashView& view) {
          '\n';
 }
 
-void WriteFile(JsonWriter& json, const Host::SeenFile& file, const Host::SeenFile& kept) {
+void WriteFile(JsonWriter& json, const Host::SeenFile& file, const Host::TrashPhoto& photo) {
   json.BeginObject();
   json.Path("path", file.path);
-  json.Path("kept", kept.path);
+  json.Path("kept", photo.kept.path);
   json.Number("size", static_cast<long long>(file.size));
+  json.Text("verdict", Host::VerdictName(photo.verdict.verdict));
   json.EndObject();
 }
 
@@ -69,28 +71,69 @@ std::string AmountText(const Host::TrashPlan& plan) {
   return PhotosText(plan.photos.size()) + " (" + fileCount + SizeText(plan.CountBytes()) + ')';
 }
 
+std::string AlikeText(const TrashView& view) {
+  TextTable table({{}, {}, {}});
+  for (const Host::TrashPhoto& photo : view.plan.photos) {
+    if (photo.verdict.verdict != Host::Verdict::Same) {
+      table.AddRow(
+          {photo.photo.path.utf8string(),
+           Say(Words::tr("alike to %1", "a photo is; a file"), {photo.kept.path.filename().utf8string()}),
+           photo.verdict.why});
+    }
+  }
+  const std::string rows = table.Text(2);
+  return view.plan.CountAlike() == 0
+             ? std::string()
+             : Say(Words::tr("Not the same picture as the one to keep, only alike:")) + '\n' + rows + '\n';
+}
+
 std::string StaysText(const TrashView& view) {
   std::string text;
+  std::size_t alike = 0;
   for (const Host::TrashStay& stay : view.plan.stays) {
-    text += "  " + EscapeForTerminal(stay.cause) + '\n';
+    // The groups tell what each photo is to the one to keep.
+    if (!stay.byVerdict) {
+      text += "  " + EscapeForTerminal(stay.cause) + '\n';
+    }
+    alike += stay.byVerdict == Host::Verdict::Alike ? 1 : 0;
   }
-  return text.empty() ? text : Say(Words::tr("Not moved:")) + '\n' + text + '\n';
+  if (!text.empty()) {
+    text = Say(Words::tr("Not moved:")) + '\n' + text + '\n';
+  }
+  if (alike > 0) {
+    text += Say(Words::tr("%1 photos are alike and not the same picture; they stay unless --alike is given.",
+                          nullptr, Amount(alike)),
+                {GroupDigits(alike)}) +
+            '\n';
+  }
+  return text;
+}
+
+std::string TrashQuestionText(const TrashView& view) {
+  const std::size_t alike = view.plan.CountAlike();
+  if (alike == 0) {
+    return Say(Words::tr("Move %1 to the trash? [y/N]"), {AmountText(view.plan)});
+  }
+  return Say(
+      Words::tr("Move %1 to the trash, %2 of which are only alike? [y/N]", "so many photos", Amount(alike)),
+      {AmountText(view.plan), GroupDigits(alike)});
 }
 
 std::string TrashText(const TrashView& view) {
-  return (view.asked ? "" : StaysText(view)) +
+  return (view.asked ? "" : AlikeText(view) + StaysText(view)) +
          FindingsText(Say(Words::tr("Left where they are")), view.result.findings) + OutcomeText(view);
 }
 
 void WriteTrash(JsonWriter& json, const TrashView& view) {
   json.BeginObject("trash");
   json.Truth("dryRun", view.dryRun);
+  json.Truth("alike", view.alike);
   json.Truth("interrupted", view.result.cancelled);
   json.BeginArray("planned");
   for (const Host::TrashPhoto& photo : view.plan.photos) {
-    WriteFile(json, photo.photo, photo.kept);
+    WriteFile(json, photo.photo, photo);
     for (const Host::SeenFile& file : photo.appendix) {
-      WriteFile(json, file, photo.kept);
+      WriteFile(json, file, photo);
     }
   }
   json.EndArray();

@@ -205,6 +205,30 @@ const Statements& Migration(int fromVersion) {
           " attribute INTEGER NOT NULL,"
           " value TEXT NOT NULL,"
           " PRIMARY KEY (step, album_id, attribute)) WITHOUT ROWID",
+          // A preview may have been left over from another picture: what is known so far is to be compared.
+          "ALTER TABLE features ADD COLUMN checked INTEGER NOT NULL DEFAULT 0 CHECK (checked IN (0, 1))",
+          "CREATE TABLE origins ("
+          " photo INTEGER PRIMARY KEY REFERENCES photos (number) ON DELETE CASCADE,"
+          " size INTEGER NOT NULL,"
+          " modified_ns INTEGER NOT NULL,"
+          " version INTEGER NOT NULL,"
+          " degradation TEXT NOT NULL,"
+          " flags INTEGER NOT NULL,"
+          " quantisation REAL NOT NULL,"
+          " bytes_per_pixel REAL NOT NULL)",
+          "CREATE TABLE verdicts ("
+          " photo INTEGER NOT NULL REFERENCES photos (number) ON DELETE CASCADE,"
+          " kept INTEGER NOT NULL REFERENCES photos (number) ON DELETE CASCADE,"
+          " photo_size INTEGER NOT NULL,"
+          " photo_modified_ns INTEGER NOT NULL,"
+          " kept_size INTEGER NOT NULL,"
+          " kept_modified_ns INTEGER NOT NULL,"
+          " version INTEGER NOT NULL,"
+          " verdict INTEGER NOT NULL,"
+          " why TEXT NOT NULL,"
+          " worst REAL NOT NULL,"
+          " PRIMARY KEY (photo, kept)) WITHOUT ROWID",
+          "CREATE INDEX verdicts_by_kept ON verdicts (kept)",
       },
   };
   static_assert(kCatalogueApplicationId == 1280132184, "the first migration writes it");

@@ -198,6 +198,20 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   return result;
 }
 
+QSize PictureSize(QIODevice& device) {
+  const qint64 before = device.pos();
+  QSize size;
+  {
+    QImageReader reader(&device);
+    reader.setDecideFormatFromContent(true);
+    if (reader.canRead() && IsPhotoFormat(reader.format())) {
+      size = reader.size();
+    }
+  }
+  device.seek(before);
+  return size;
+}
+
 QImage DecodeBytes(const QByteArray& bytes, int longerSide) {
   QBuffer buffer;
   buffer.setData(bytes);

@@ -71,6 +71,18 @@ QImage AnyPreview(const ioPath& file, int longerSide) {
                                  : Turned(DecodeBytes(preview.bytes, longerSide), preview.orientation);
 }
 
+/// Most raw formats are TIFF files whose first picture, of the size `first`, is tiny: their previews come
+/// first. Null where the first picture has more to show and previews are not wanted, or of another shape.
+QImage PreviewOfTiff(const ioPath& file, int longerSide, const QSize& first, bool isUnwanted) {
+  const Strandel::EmbeddedPreview preview = Strandel::ReadEmbeddedPreview(file, longerSide);
+  if (preview.bytes.isEmpty() || (PixelsOf(first) > PixelsOf(preview.size) &&
+                                  (isUnwanted || !(AreOfOneShape(preview.size, first) ||
+                                                   AreOfOneShape(preview.size, first.transposed()))))) {
+    return {};
+  }
+  return Turned(DecodeBytes(preview.bytes, longerSide), preview.orientation);
+}
+
 /// A preview of the picture's shape that is large enough; null when there is none. The thumbnail of the EXIF
 /// block serves where it can, since it is found at once.
 QImage PreviewOfShape(const ioPath& file, int longerSide, const Strandel::JpegHead& head) {
@@ -109,12 +121,17 @@ QSize LargestClaimed(QIODevice& device) {
   return largest;
 }
 
+/// The picture's size as it is shown, by the preview that shows it so.
+QSize TurnedLike(const QSize& preview, const QSize& stored) {
+  const bool turned = !stored.isEmpty() && stored.width() != stored.height() &&
+                      (stored.width() > stored.height()) != (preview.width() > preview.height());
+  return turned ? stored.transposed() : stored;
+}
+
 FoundPixels FromPreview(QImage preview, const QSize& stored) {
   FoundPixels found;
   found.source = PixelSource::Preview;
-  const bool turned = !stored.isEmpty() && stored.width() != stored.height() &&
-                      (stored.width() > stored.height()) != (preview.width() > preview.height());
-  found.size = turned ? stored.transposed() : stored;
+  found.size = TurnedLike(preview.size(), stored);
   found.image = std::move(preview);
   return found;
 }
@@ -193,8 +210,7 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
       best = PreviewOfShape(file, longerSide, head);
     }
   } else if (tiff) {
-    // Most raw formats are TIFF files whose first picture is tiny: their previews come first.
-    best = AnyPreview(file, longerSide);
+    best = PreviewOfTiff(file, longerSide, PictureSize(device), previewsFrom == kPreviewsNever);
   }
   if (LongerSide(best) >= longerSide) {
     return FromPreview(std::move(best), stored);
@@ -206,6 +222,11 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
   }
   if (best.isNull() && !tiff) {
     best = AnyPreview(file, longerSide);
+    // Left over from before an edit it says nothing of the picture.
+    const QSize shown = decoded.size.isEmpty() ? TurnedLike(best.size(), stored) : decoded.size;
+    if (!best.isNull() && !shown.isEmpty() && !AreOfOneShape(best.size(), shown)) {
+      best = BetweenDarkBars(best, shown);
+    }
   }
   if (best.isNull()) {
     found.size = decoded.size;

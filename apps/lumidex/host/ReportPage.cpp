@@ -70,6 +70,20 @@ class Words {
     QT_TRANSLATE_NOOP("Zenvora::Lumidex::Utils", "photos"),
 };
 
+QByteArray ClassOf(ReportMark::Tone tone) {
+  switch (tone) {
+    case ReportMark::Tone::Chosen:
+      return "keep";
+    case ReportMark::Tone::Good:
+      return "good";
+    case ReportMark::Tone::Careful:
+      return "careful";
+    case ReportMark::Tone::Plain:
+      break;
+  }
+  return "plain";
+}
+
 QString FirstLine(const QString& name) {
   const QString line = name.section(QLatin1Char('\n'), 0, 0).trimmed();
   return line.isEmpty() ? Words::tr("Unnamed album") : line;
@@ -296,6 +310,11 @@ QByteArray ReportPage::Photo(const ReportAlbum& album, std::size_t index,
     html += "<div class=\"blank\">" + QByteArray(kNoPictureIcon) + "<span>" +
             EscapedForPage(Words::tr("No picture")).toUtf8() + "</span><span dir=\"auto\">" + name.toUtf8() +
             "</span></div>";
+  }
+  if (!album.marks.empty() && !album.marks[index].text.isEmpty()) {
+    const ReportMark& mark = album.marks[index];
+    html +=
+        "<span class=\"mark " + ClassOf(mark.tone) + "\">" + EscapedForPage(mark.text).toUtf8() + "</span>";
   }
   html += "<figcaption>";
   if (!album.captions.empty()) {

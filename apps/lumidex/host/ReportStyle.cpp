@@ -63,11 +63,21 @@ h2 { margin: 0; font-size: clamp(1.35rem, 3vw, 1.8rem); line-height: 1.2; letter
 figure { margin: 0; }
 .photos img, .blank { display: block; width: 100%; aspect-ratio: var(--r); border-radius: .5rem; background: var(--blank); }
 .photos img { height: auto; object-fit: cover; }
+.mark {
+  display: inline-block; max-width: 100%; margin-top: .45rem; padding: .05rem .6rem; border: 1px solid currentColor;
+  border-radius: 99rem; font-size: .74rem; font-weight: 700; line-height: 1.5; overflow: hidden; text-overflow: ellipsis;
+  white-space: nowrap; vertical-align: top;
+}
+.mark.keep { background: var(--accent); border-color: var(--accent); color: var(--card); }
+.mark.good { background: var(--good-soft); color: var(--good); }
+.mark.careful { background: var(--accent-soft); color: var(--accent); }
+.mark.plain { color: var(--soft); }
 figcaption {
   margin-top: .3rem; overflow: hidden; color: var(--soft); font-size: .78rem; line-height: 1.35;
   text-overflow: ellipsis; white-space: nowrap; font-variant-numeric: tabular-nums;
 }
 figcaption .line { display: block; overflow: hidden; text-overflow: ellipsis; }
+figcaption .line:nth-child(n + 3) { white-space: normal; overflow-wrap: break-word; }
 .chosen img, .chosen .blank { outline: 3px solid var(--accent); outline-offset: 2px; }
 .chosen figcaption { padding-top: .2rem; color: var(--accent); font-weight: 600; }
 .blank {

@@ -29,7 +29,8 @@ std::string PhotosWhere(const std::string& condition) {
 }
 
 /// The columns of `features` as `f` that `FeaturesOf` reads.
-constexpr char kFeatureColumns[] = "f.vector, f.problem, f.width, f.height, f.sharpness";
+constexpr char kFeatureColumns[] = "f.vector, f.problem, f.width, f.height, f.sharpness, f.checked";
+constexpr int kFeatureColumnCount = 6;
 
 PhotoFeatures FeaturesOf(const QSqlQuery& row, int first) {
   PhotoFeatures features;
@@ -38,6 +39,7 @@ PhotoFeatures FeaturesOf(const QSqlQuery& row, int first) {
   features.width = row.value(first + 2).toInt();
   features.height = row.value(first + 3).toInt();
   features.sharpness = row.value(first + 4).toDouble();
+  features.checked = row.value(first + 5).toBool();
   return features;
 }
 
@@ -176,7 +178,7 @@ void SimilarPhotos::Impl::Store(const std::vector<AnalysedPhoto>& photos) {
   bool clustersStand = true;
   QSqlQuery query = database_.Prepare(
       "INSERT OR REPLACE INTO features (photo, analyser, size, modified_ns, vector, problem, width, height,"
-      " sharpness) SELECT number, ?, ?, ?, ?, ?, ?, ?, ? FROM photos WHERE id = ?");
+      " sharpness, checked) SELECT number, ?, ?, ?, ?, ?, ?, ?, ?, ? FROM photos WHERE id = ?");
   for (const AnalysedPhoto& photo : photos) {
     const PhotoFeatures& features = photo.features;
     if (!features.vector.empty() && features.vector.size() != length_) {
@@ -193,6 +195,7 @@ void SimilarPhotos::Impl::Store(const std::vector<AnalysedPhoto>& photos) {
     query.addBindValue(features.width);
     query.addBindValue(features.height);
     query.addBindValue(features.sharpness);
+    query.addBindValue(features.checked);
     query.addBindValue(photo.id);
     database_.Run(query);
     if (query.numRowsAffected() != 1) {
@@ -355,9 +358,10 @@ std::vector<SimilarGroup> SimilarPhotos::Impl::Groups(std::size_t least) const {
   database_.Run(query);
   std::vector<SimilarGroup> groups;
   while (database_.Next(query)) {
-    const std::int64_t id = query.value(kPhotoColumnCount + 5).toLongLong();
+    const std::int64_t id = query.value(kPhotoColumnCount + kFeatureColumnCount).toLongLong();
     if (groups.empty() || groups.back().cluster != id) {
-      groups.push_back({id, VectorOf(query.value(kPhotoColumnCount + 6).toByteArray()), {}});
+      groups.push_back(
+          {id, 0, VectorOf(query.value(kPhotoColumnCount + kFeatureColumnCount + 1).toByteArray()), {}});
     }
     SimilarGroup& group = groups.back();
     SimilarMember member{PhotoOf(query), FeaturesOf(query, kPhotoColumnCount), 0, {}};
@@ -371,6 +375,9 @@ std::vector<SimilarGroup> SimilarPhotos::Impl::Groups(std::size_t least) const {
   std::stable_sort(groups.begin(), groups.end(), [](const SimilarGroup& left, const SimilarGroup& right) {
     return left.members.size() > right.members.size();
   });
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    groups[i].number = i + 1;
+  }
   return groups;
 }
 

@@ -4,6 +4,9 @@
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/quillet/MatchTemplate.h>
+
+#include <glog/logging.h>
 
 #include <algorithm>
 #include <atomic>
@@ -54,6 +57,10 @@ class Gathering {
     analysed.features.problem = found.cause;
     analysed.features.width = found.size.width();
     analysed.features.height = found.size.height();
+    analysed.features.checked = found.source == PixelSource::Picture;
+    if (analysed.features.vector.empty()) {
+      result_.notComparable.push_back(photo.path);
+    }
     batch_.push_back(std::move(analysed));
     if (batch_.size() >= kBatch) {
       Flush();
@@ -91,6 +98,71 @@ void Analyse(SimilarPhotos& similar, const PhotoAnalyser& analyser, const Analys
   });
   gathering.Flush();
   result.cancelled = result.analysed < photos.size();
+}
+
+bool IsAsKnown(const PhotoRecord& photo) {
+  const FileState state = QueryFile(photo.path);
+  return state.kind == FileState::Kind::File && state.size == photo.size &&
+         state.modifiedNs == photo.modifiedNs;
+}
+
+/// Takes over what the picture itself shows, where a preview showed something else. False: the preview will
+/// do.
+bool Correct(PhotoFeatures& features, PhotoDescription&& found) {
+  // Thumbnails that thirty cameras wrote score 0.99 and more.
+  constexpr float kShowsThePicture = 0.95F;
+  features.checked = true;
+  if (found.source != PixelSource::Picture || found.descriptor.empty()) {
+    // There are no other pixels to be had.
+    return false;
+  }
+  const float score = Quillet::MatchTemplate(found.descriptor, features.vector);
+  VLOG(1) << "A preview scores " << score << " against its picture";
+  if (score >= kShowsThePicture) {
+    return false;
+  }
+  features.vector = std::move(found.descriptor);
+  features.width = found.size.width();
+  features.height = found.size.height();
+  return true;
+}
+
+/// Compares previews of members of groups with the pictures. Returns how many were of something else.
+std::size_t CheckPreviews(SimilarPhotos& similar, const PhotoAnalyser& analyser, AnalysisOptions options,
+                          const SimilarProgressHandler& progress, SimilarUpdateResult& result) {
+  std::vector<SimilarMember> members;
+  std::vector<ioPath> files;
+  for (SimilarGroup& group : similar.Groups(2)) {
+    for (SimilarMember& member : group.members) {
+      if (!member.features.checked) {
+        files.push_back(member.photo.path);
+        members.push_back(std::move(member));
+      }
+    }
+  }
+  options.usePreviews = false;
+  std::size_t corrected = 0;
+  std::vector<AnalysedPhoto> checked;
+  const std::size_t done =
+      DescribePhotos(files, analyser, options, [&](std::size_t index, PhotoDescription&& found) {
+        const PhotoRecord& photo = members[index].photo;
+        if (!found.mayPass && IsAsKnown(photo)) {
+          PhotoFeatures& features = members[index].features;
+          corrected += Correct(features, std::move(found)) ? 1 : 0;
+          checked.push_back({photo.id, {photo.size, photo.modifiedNs, false}, std::move(features)});
+        }
+        if (checked.size() >= kBatch) {
+          similar.Store(std::exchange(checked, {}));
+        }
+        if (progress) {
+          progress({SimilarProgress::Step::Checking, index + 1, members.size()});
+        }
+      });
+  if (!checked.empty()) {
+    similar.Store(checked);
+  }
+  result.cancelled = result.cancelled || done < members.size();
+  return corrected;
 }
 
 std::int64_t PixelsOf(const SimilarMember& member) {
@@ -165,12 +237,17 @@ SimilarUpdateResult UpdateSimilar(SimilarPhotos& similar, const PhotoAnalyser& a
   }
   static const std::atomic<bool> never{false};
   const std::atomic<bool>& cancelled = options.cancel != nullptr ? *options.cancel : never;
-  result.clustered = similar.AddToClusters(cancelled, [&progress](std::size_t done, std::size_t total) {
-    if (progress) {
-      progress({SimilarProgress::Step::Grouping, done, total});
-    }
-  });
-  result.cancelled = cancelled;
+  std::size_t corrected = 0;
+  do {
+    result.clustered += similar.AddToClusters(cancelled, [&progress](std::size_t done, std::size_t total) {
+      if (progress) {
+        progress({SimilarProgress::Step::Grouping, done, total});
+      }
+    });
+    result.cancelled = cancelled;
+    // In their right places photos can meet others that nobody has looked at.
+    corrected = result.cancelled ? 0 : CheckPreviews(similar, analyser, options, progress, result);
+  } while (corrected > 0 && !result.cancelled);
   if (!result.cancelled) {
     MeasureDetail(similar, options, progress, result);
   }

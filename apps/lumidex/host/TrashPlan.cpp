@@ -57,7 +57,7 @@ std::string Stays(const ioPath& photo, const std::string& why) {
 
 class Planner {
  public:
-  explicit Planner(const std::vector<SuggestedGroup>& groups) : groups_(groups) {
+  Planner(const std::vector<SuggestedGroup>& groups, TrashChoice choice) : groups_(groups), choice_(choice) {
     for (const SuggestedGroup& group : groups) {
       const FileState state = QueryFile(KeptOf(group).photo.path);
       if (state.kind == FileState::Kind::File) {
@@ -95,6 +95,8 @@ class Planner {
     } else if (group.group.members.size() > 1 && EndsTooSoon(kept)) {
       // As large as it was, and hardly less sharp: nothing else tells it from the whole one.
       fault = "the one to keep, " + kept.utf8string() + ", breaks off before the end of its picture";
+    } else if (KeptOf(group).origin && !KeptOf(group).origin->degradation.empty()) {
+      fault = "the one to keep, " + kept.utf8string() + ", is damaged: " + KeptOf(group).origin->degradation;
     }
     std::set<std::size_t> raws;
     for (std::size_t i = 0; i < group.group.members.size(); ++i) {
@@ -125,11 +127,35 @@ class Planner {
     } else if (!IsLike(group.group.members[index], KeptOf(group))) {
       Stay(photo.path, "it is like others of its group, but not like the one to keep, " + kept.utf8string(),
            true);
+    } else if (const std::string why = WhyKept(VerdictOf(group, index), kept); !why.empty()) {
+      plan_.stays.push_back({photo.path, Stays(photo.path, why), true, VerdictOf(group, index).verdict});
     } else if (IsRawName(photo.path.filename().utf8string())) {
       raws.insert(index);
     } else {
       Go(group, index);
     }
+  }
+
+  static PictureVerdict VerdictOf(const SuggestedGroup& group, std::size_t index) {
+    return index < group.verdicts.size() ? group.verdicts[index] : PictureVerdict();
+  }
+
+  /// What the pixels of both say against it; empty: nothing.
+  std::string WhyKept(const PictureVerdict& judged, const ioPath& kept) const {
+    const std::string why = judged.why.empty() ? std::string() : " (" + judged.why + ")";
+    switch (judged.verdict) {
+      case Verdict::Same:
+        return {};
+      case Verdict::Alike:
+        return choice_ == TrashChoice::SameOrAlike
+                   ? std::string()
+                   : "it is only alike to " + kept.utf8string() + ", not the same picture" + why;
+      case Verdict::Different:
+        return "it shows something else than the one to keep, " + kept.utf8string() + why;
+      case Verdict::Unknown:
+        break;
+    }
+    return "it could not be compared with the one to keep, " + kept.utf8string() + why;
   }
 
   /// A raw file is what all other formats are made from: one of the group always stays.
@@ -158,11 +184,11 @@ class Planner {
   void Go(const SuggestedGroup& group, std::size_t index) {
     const SeenFile photo = KnownAs(group.group.members[index].photo);
     going_.emplace(photo.path, plan_.photos.size());
-    plan_.photos.push_back({photo, KnownAs(KeptOf(group).photo), {}});
+    plan_.photos.push_back({photo, KnownAs(KeptOf(group).photo), {}, VerdictOf(group, index)});
   }
 
   void Stay(const ioPath& photo, const std::string& why, bool isRule) {
-    plan_.stays.push_back({photo, Stays(photo, why), isRule});
+    plan_.stays.push_back({photo, Stays(photo, why), isRule, {}});
   }
 
   void AddAppendices() {
@@ -235,12 +261,19 @@ class Planner {
   }
 
   const std::vector<SuggestedGroup>& groups_;
+  const TrashChoice choice_;
   std::set<Identity> kept_;
   std::unordered_map<ioPath, std::size_t> going_;
   TrashPlan plan_;
 };
 
 }  // namespace
+
+std::size_t TrashPlan::CountAlike() const {
+  return static_cast<std::size_t>(std::count_if(photos.begin(), photos.end(), [](const TrashPhoto& photo) {
+    return photo.verdict.verdict != Verdict::Same;
+  }));
+}
 
 std::size_t TrashPlan::CountFiles() const {
   std::size_t files = 0;
@@ -261,8 +294,8 @@ std::uint64_t TrashPlan::CountBytes() const {
   return bytes;
 }
 
-TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups) {
-  return Planner(groups).Run();
+TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice) {
+  return Planner(groups, choice).Run();
 }
 
 std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept) {

@@ -13,6 +13,13 @@
 
 namespace Zenvora::Lumidex::Host {
 
+/// A word on a picture.
+struct ReportMark {
+  enum class Tone { Plain, Chosen, Good, Careful };
+  QString text;  ///< Empty: none.
+  Tone tone = Tone::Plain;
+};
+
 /// One album, or another set of photos, as the page shows it.
 struct ReportAlbum {
   QString name;    ///< May hold line feeds: the first line is the heading, the others stand below it.
@@ -20,6 +27,7 @@ struct ReportAlbum {
   bool accepted = false;
   std::vector<PhotoRecord> photos;    ///< In the order shown.
   std::vector<QString> captions;      ///< One for each photo, with line feeds; empty: their dates.
+  std::vector<ReportMark> marks;      ///< One for each photo; empty: none has any.
   std::optional<std::size_t> chosen;  ///< A photo to point out.
 };
 

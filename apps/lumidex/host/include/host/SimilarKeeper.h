@@ -1,5 +1,6 @@
 #pragma once
 
+#include <host/PictureVerdict.h>
 #include <host/SimilarPhotos.h>
 
 #include <cstddef>
@@ -36,10 +37,12 @@ struct KeeperChoice {
   std::vector<KeeperReason> reasons;
 };
 
-/// A group, and which of its photos to keep.
+/// A group, which of its photos to keep, and what the others are to that one.
 struct SuggestedGroup {
   SimilarGroup group;
   KeeperChoice keeper;
+  /// What each member is to the one to keep, as far as it was judged; of that one itself it says nothing.
+  std::vector<PictureVerdict> verdicts;
 };
 
 /// Weighs one thing after the other, in the order of `KeeperReason`; each leaves those behind that are not

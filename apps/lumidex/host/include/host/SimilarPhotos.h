@@ -34,6 +34,9 @@ struct PhotoFeatures {
   int height = 0;
   /// How much detail it has; only compares photos of one cluster. 0: not measured.
   double sharpness = 0;
+  /// The vector is of the picture itself, of a preview that looks like it, or of the only pixels that can be
+  /// had; false: of a preview that may be left over from another picture.
+  bool checked = false;
 };
 
 struct AnalysedPhoto {
@@ -47,11 +50,15 @@ struct SimilarMember {
   PhotoRecord photo;
   PhotoFeatures features;
   float score = 0;  ///< Against the centre of its group, as `MatchTemplate` has it.
-  std::optional<PhotoOrigin> origin;  ///< Empty: not read since the file changed.
+  /// How far the file is what the camera wrote; none: not known.
+  std::optional<PhotoOrigin> origin;
 };
 
 struct SimilarGroup {
   std::int64_t cluster = 0;
+  /// Its place among all groups, the largest first, from 1: the same however many of the small ones are asked
+  /// for.
+  std::size_t number = 0;
   std::vector<float> centre;
   /// By date taken, then path. None is lost, or has changed since it was analysed.
   std::vector<SimilarMember> members;

@@ -17,14 +17,19 @@ struct SimilarUpdateResult {
   bool cancelled = false;
   /// Photos whose files could not be read this time, and why. They are tried again the next time.
   std::vector<std::pair<ioPath, std::string>> unreadable;
+  /// Photos of which this run found out that they cannot be compared.
+  std::vector<ioPath> notComparable;
 };
 
-/// Which step is how far. Steps follow each other.
+/// Which step is how far. Steps follow each other; after checking, grouping can come once more.
 struct SimilarProgress {
   enum class Step {
     Analysing,
     Grouping,
+    Checking,   ///< Whether previews show the pictures, of photos of a group.
     Measuring,  ///< Detail, of photos of a group that are the largest together.
+    Reading,    ///< Where photos of a group come from.
+    Comparing,  ///< Each photo of a group with the one to keep.
   };
   Step step = Step::Analysing;
   std::size_t done = 0;
@@ -35,7 +40,9 @@ using SimilarProgressHandler = std::function<void(const SimilarProgress&)>;
 AnalyserName NameOf(const PhotoAnalyser& analyser);
 
 /// Analyses the photos that are pending in `similar`, in several threads, and puts all that can be compared
-/// into clusters; where several photos of a group are the largest, their detail is measured. What was found
+/// into clusters. Members of groups that were described from previews are compared with their pictures; where
+/// the two disagree, the picture is described instead, and the groups are made anew. Where several photos of
+/// a group are the largest, their detail is measured. What was found
 /// out is stored every few hundred photos, so that a run which was stopped goes on where it was. `similar`
 /// must be of the analyser's name. Throws `HostError` when the catalogue fails.
 SimilarUpdateResult UpdateSimilar(SimilarPhotos& similar, const PhotoAnalyser& analyser,

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,7 @@ struct TrashPhoto {
   SeenFile photo;
   SeenFile kept;                        ///< The one that is kept in its stead.
   std::vector<TrashAppendix> appendix;  ///< Goes after it.
+  PictureVerdict verdict = {};          ///< What it is to that one.
 };
 
 /// A photo besides the one to keep that stays.
@@ -36,12 +38,22 @@ struct TrashStay {
   ioPath photo;
   std::string cause;   ///< One English sentence that names the file.
   bool isRule = true;  ///< It would stay the next time, too; false: something is wrong with it.
+  /// It could go but for this, which it is to the one to keep.
+  std::optional<Verdict> byVerdict;
+};
+
+/// What may go, by its verdict against the one to keep.
+enum class TrashChoice {
+  Same,         ///< The same picture only.
+  SameOrAlike,  ///< Also what is merely alike, and may be somebody's work.
 };
 
 struct TrashPlan {
   std::vector<TrashPhoto> photos;  ///< Group by group, raw files last.
   std::vector<TrashStay> stays;    ///< Group by group.
 
+  /// Photos that are not the same picture as the one that is kept.
+  std::size_t CountAlike() const;
   /// Photos with what goes along.
   std::size_t CountFiles() const;
   std::uint64_t CountBytes() const;
@@ -55,11 +67,14 @@ struct TrashPlan {
 /// - what is not on the disk as the catalogue knows it, and all of a group whose kept photo is not: then
 ///   nobody knows whether they still show the same;
 /// - all of a group whose kept photo breaks off before the end of its picture;
-/// - what is like the middle of its group, but not like the kept photo itself.
+/// - all of a group whose kept photo cannot be decoded as a whole;
+/// - what is like the middle of its group, but not like the kept photo itself;
+/// - what is another picture than the kept one, what could not be compared with it, and what is merely alike
+///   unless that was chosen.
 /// Settings and thumbnails beside a photo go along with it when they are that file's alone, or when nothing
 /// else of the shot stays that could need them. Changes nothing; blocks on the disk. docs/decisions/trash.md
 /// has the reasons.
-TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups);
+TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice = TrashChoice::Same);
 
 /// Why the photo must not go now, in an English sentence; empty: it may. To be asked right before it goes.
 /// Blocks on the disk.
