@@ -156,12 +156,9 @@ std::string ExifText(const QDateTime& date) {
 
 class Planner {
  public:
-  Planner(const Exiv2::Image& photo, const PhotoEdit& edit, bool isTiff)
-      : exif_(photo.exifData()),
-        xmp_(photo.xmpData()),
-        iptc_(photo.iptcData()),
-        edit_(edit),
-        hasThumbnail_(HasThumbnail(exif_, isTiff)) {}
+  Planner(const Exiv2::ExifData& exif, const Exiv2::XmpData& xmp, const Exiv2::IptcData& iptc,
+          const PhotoEdit& edit, bool isTiff)
+      : exif_(exif), xmp_(xmp), iptc_(iptc), edit_(edit), hasThumbnail_(HasThumbnail(exif_, isTiff)) {}
 
   MetadataPlan Plan() {
     if (edit_.turn != Turn::None) {
@@ -176,6 +173,21 @@ class Planner {
         throw EditRefusal("it has no date to shift");
       }
     }
+    return plan_;
+  }
+
+  MetadataPlan PlanOfSidecar() {
+    if (edit_.turn != Turn::None) {
+      // Programs that develop raw files note turns of their own there: it need not say what the photo says.
+      AddXmp("tiff", "Orientation", [this](const std::string& text) {
+        return std::to_string(TurnedOrientation(std::atoi(text.c_str()), edit_.turn));
+      });
+    }
+    if (edit_.date.isValid() || edit_.shift.count() != 0) {
+      date_ = edit_.date.isValid() ? QDateTime(edit_.date.date(), edit_.date.time(), Qt::UTC) : QDateTime();
+      PlanCopies();
+    }
+    plan_.exif.clear();
     return plan_;
   }
 
@@ -440,24 +452,35 @@ void CheckDone(const Data& data, const Changes& changes) {
 }  // namespace
 
 MetadataPlan PlanEdit(const Exiv2::Image& photo, const PhotoEdit& edit, bool isTiff) {
-  return Planner(photo, edit, isTiff).Plan();
+  return Planner(photo.exifData(), photo.xmpData(), photo.iptcData(), edit, isTiff).Plan();
+}
+
+MetadataPlan PlanSidecarEdit(const Exiv2::ExifData& photo, const Exiv2::XmpData& sidecar,
+                             const PhotoEdit& edit) {
+  const Exiv2::IptcData none;
+  return Planner(photo, sidecar, none, edit, false).PlanOfSidecar();
 }
 
 void CheckAgainstPlan(const Exiv2::Image& before, const Exiv2::Image& after, const MetadataPlan& plan) {
   CheckSame(before.exifData(), after.exifData(),
             [&plan](const Exiv2::Exifdatum& datum) { return IsPlanned(datum, plan); });
-  CheckSame(before.xmpData(), after.xmpData(), [&plan](const Exiv2::Xmpdatum& datum) {
-    return std::any_of(plan.xmp.begin(), plan.xmp.end(),
-                       [&datum](const XmpChange& change) { return change.key == datum.key(); });
-  });
+  CheckXmpAgainstPlan(before.xmpData(), after.xmpData(), plan);
   CheckSame(before.iptcData(), after.iptcData(), [&plan](const Exiv2::Iptcdatum& datum) {
     return std::any_of(plan.iptc.begin(), plan.iptc.end(), [&datum](const IptcChange& change) {
       return change.record == datum.record() && change.number == datum.tag();
     });
   });
   CheckDone(after.exifData(), plan.exif);
-  CheckDone(after.xmpData(), plan.xmp);
   CheckDone(after.iptcData(), plan.iptc);
+}
+
+void CheckXmpAgainstPlan(const Exiv2::XmpData& before, const Exiv2::XmpData& after,
+                         const MetadataPlan& plan) {
+  CheckSame(before, after, [&plan](const Exiv2::Xmpdatum& datum) {
+    return std::any_of(plan.xmp.begin(), plan.xmp.end(),
+                       [&datum](const XmpChange& change) { return change.key == datum.key(); });
+  });
+  CheckDone(after, plan.xmp);
 }
 
 }  // namespace Zenvora::Strandel

@@ -55,7 +55,14 @@ struct MetadataPlan {
 /// another page. Throws `EditRefusal`.
 MetadataPlan PlanEdit(const Exiv2::Image& photo, const PhotoEdit& edit, bool isTiff);
 
+/// What it changes in the XMP data of the sidecar of a photo that says this; all else of the plan is empty.
+/// Throws `EditRefusal`.
+MetadataPlan PlanSidecarEdit(const Exiv2::ExifData& photo, const Exiv2::XmpData& sidecar,
+                             const PhotoEdit& edit);
+
 /// Throws `EditRefusal` when what a photo says differs from before in anything but the plan.
 void CheckAgainstPlan(const Exiv2::Image& before, const Exiv2::Image& after, const MetadataPlan& plan);
+/// The same of XMP data alone.
+void CheckXmpAgainstPlan(const Exiv2::XmpData& before, const Exiv2::XmpData& after, const MetadataPlan& plan);
 
 }  // namespace Zenvora::Strandel

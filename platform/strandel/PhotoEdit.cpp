@@ -6,13 +6,12 @@
 #include "PhotoSource.h"
 #include "PictureAnatomy.h"
 #include "PngRescue.h"
+#include "SideFile.h"
 #include "TextsInPlace.h"
 #include "TiffEdit.h"
 
-#include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileNotes.h>
 #include <zenvora/core/FileState.h>
-#include <zenvora/core/NewFile.h>
 #include <zenvora/strandel/EditRules.h>
 #include <zenvora/strandel/PhotoEdit.h>
 #include <zenvora/strandel/PhotoFacts.h>
@@ -25,7 +24,6 @@
 #include <memory>
 #include <new>
 #include <string_view>
-#include <system_error>
 
 namespace Zenvora::Strandel {
 
@@ -240,21 +238,6 @@ void CheckEdit(const PhotoEdit& edit) {
   }
 }
 
-void WriteNew(const ioPath& side, const ioPath& photo, const Content& content, const std::string& bytes) {
-  const auto check = [&side](const std::error_code& error) {
-    if (error) {
-      throw EditRefusal("cannot write " + side.utf8string() + ": " + ErrorText(error));
-    }
-  };
-  NewFile file;
-  check(file.Create(side));
-  file.TakeRightsOf(photo);
-  check(file.Write(bytes.data(), bytes.size()));
-  check(file.SetModified(content.modifiedNs));
-  check(file.Close(true));
-  file.Release();
-}
-
 /// How a photo is shown and sorted.
 struct Shown {
   int orientation = 1;
@@ -333,7 +316,7 @@ void WriteEdited(const ioPath& photo, const ioPath& side, const PhotoEdit& edit)
   Explaining(photo, [&] {
     CheckEdit(edit);
     const Content content = ReadWhole(photo);
-    WriteNew(side, photo, content, Edited(content, edit));
+    WriteSideFile(side, photo, content.modifiedNs, Edited(content, edit));
   });
 }
 

@@ -268,7 +268,8 @@ void MakeOlder(const ioPath& file, int version) {
                                          "ALTER TABLE photos DROP COLUMN content",
                                          "ALTER TABLE photos DROP COLUMN camera_id",
                                          "ALTER TABLE steps DROP COLUMN kind",
-                                         "ALTER TABLE steps DROP COLUMN day"};
+                                         "ALTER TABLE steps DROP COLUMN day",
+                                         "ALTER TABLE changes DROP COLUMN goes_with"};
   if (version == 5) {
     // As much as its programs read of a photo.
     statements.emplace_back("UPDATE photos SET reading = 1");

@@ -156,6 +156,8 @@ const Statements& Migration(int fromVersion) {
           " ELSE 2 END",
           // What is older than the counting of days is as old as its first day.
           "ALTER TABLE steps ADD COLUMN day INTEGER NOT NULL DEFAULT 0",
+          // Of a sidecar that is edited along with its photo: the photo's change.
+          "ALTER TABLE changes ADD COLUMN goes_with INTEGER",
           "CREATE TABLE days_of_use ("
           " one INTEGER PRIMARY KEY CHECK (one = 1),"
           " count INTEGER NOT NULL,"

@@ -15,7 +15,7 @@ ioPath SideName(const ioPath& photo) {
 
 std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step) {
   QSqlQuery query = database.Prepare(
-      "SELECT number, state, path, side, adopted, digest_before, digest_after FROM changes WHERE step = ?"
+      "SELECT number, state, path, side, adopted, digest_before, digest_after, goes_with FROM changes WHERE step = ?"
       " ORDER BY number");
   query.addBindValue(step);
   database.Run(query);
@@ -29,6 +29,7 @@ std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong 
     change.adopted = query.value(4).toBool();
     change.digestBefore = query.value(5).toByteArray();
     change.digestAfter = query.value(6).toByteArray();
+    change.goesWith = query.value(7).toLongLong();
     changes.push_back(std::move(change));
   }
   return changes;

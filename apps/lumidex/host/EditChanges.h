@@ -22,6 +22,7 @@ struct ChangeRow {
   bool adopted = false;
   QByteArray digestBefore;
   QByteArray digestAfter;
+  qlonglong goesWith = 0;  ///< Of a sidecar: the change of its photo.
 
   std::string Kept(const char* version) const {
     return std::to_string(number) + version + path.extension().utf8string();

@@ -74,6 +74,20 @@ UndoFinding FindingOf(const HostError& failure) {
   return {file != nullptr ? ioPath(*file) : ioPath(), failure.what()};
 }
 
+/// Photos with their sidecars, of which all or none is to be changed.
+std::vector<std::vector<ChangeRow>> GroupChanges(std::vector<ChangeRow> changes) {
+  std::vector<std::vector<ChangeRow>> groups;
+  for (ChangeRow& change : changes) {
+    const bool joins = change.goesWith != 0 && !groups.empty() &&
+                       groups.back().front().number == change.goesWith;
+    if (!joins) {
+      groups.emplace_back();
+    }
+    groups.back().push_back(std::move(change));
+  }
+  return groups;
+}
+
 /// What the photo's file says, for the catalogue.
 std::optional<PhotoRecord> Read(const ioPath& photo) {
   PhotoRecord record;
@@ -98,6 +112,7 @@ class UndoJournal::Impl {
   UndoResult ChangeTags(const QString& name, const TagWishes& wishes);
   std::vector<AcceptResult> AcceptAlbums(const QString& name, const std::vector<Album>& proposals);
   ioPath PlanEdit(const ioPath& photo);
+  ioPath PlanSidecar(const ioPath& sidecar);
   void FinishEdit();
   void DropEdit();
   void BeginStep(const QString& name, StepKind kind = StepKind::Edit);
@@ -132,6 +147,11 @@ class UndoJournal::Impl {
   void RecoverChanges(StepRow& step);
   void RecoverTrash(StepRow& step);
   void RecoverImport(const StepRow& step);
+  ioPath InsertChange(const ioPath& file, qlonglong goesWith);
+  std::size_t SettleGroup(std::vector<ChangeRow>& group);
+  void BringTogether(std::vector<ChangeRow>& group);
+  bool FinishReplacing(const ChangeRow& change);
+  void ReplaceBack(const ChangeRow& change);
   bool SettleChange(ChangeRow& change);
 
   Drive DriveMoves(const std::vector<FileMove>& moves, std::size_t at, std::size_t goal,
@@ -157,6 +177,9 @@ class UndoJournal::Impl {
                           const UndoProgress& progress);
   bool IsKept(const ChangeRow& change, bool redo) const;
   void PutBack(ChangeRow& change, bool redo);
+  std::string WhyNotPutBack(const ChangeRow& change, const QByteArray& now, bool redo) const;
+  std::optional<UndoFinding> FindObstacle(const std::vector<ChangeRow>& group, bool redo) const;
+  bool ReverseOne(ChangeRow& change, bool redo, UndoResult& result, bool& isNoted);
   State StateInPart(qlonglong step, bool anyHope) const;
   void FinishReversal(ChangeRow& change, bool redo);
   void Exchange(ChangeRow& change, bool redo);
@@ -190,7 +213,8 @@ class UndoJournal::Impl {
   std::string fault_;
   /// What is taken back lacks the room for the version that redo would need.
   bool lacksRoomForRedo_ = false;
-  std::optional<ChangeRow> edit_;
+  /// The edit under way: a photo, then its sidecars.
+  std::vector<ChangeRow> edits_;
 };
 
 UndoJournal::Impl::Impl(const ioPath& catalogue, IFileAccessLocker& locker, const Tavolin::ITrash& trash)
@@ -524,33 +548,49 @@ void UndoJournal::Impl::BeginStep(const QString& name, StepKind kind) {
   step_ = InsertStep(kind, name, 0, {});
 }
 
-ioPath UndoJournal::Impl::PlanEdit(const ioPath& photo) {
+ioPath UndoJournal::Impl::InsertChange(const ioPath& file, qlonglong goesWith) {
   if (!fault_.empty()) {
     ThrowHostError(database_.File().utf8string(), fault_);
   }
   ChangeRow change;
-  change.path = photo;
-  change.side = SideName(photo);
-  QSqlQuery query = database_.Prepare("INSERT INTO changes (step, state, path, side) VALUES (?, ?, ?, ?)");
+  change.path = file;
+  change.side = SideName(file);
+  change.goesWith = goesWith;
+  QSqlQuery query =
+      database_.Prepare("INSERT INTO changes (step, state, path, side, goes_with) VALUES (?, ?, ?, ?, ?)");
   query.addBindValue(step_);
   query.addBindValue(static_cast<int>(State::Planned));
   query.addBindValue(PathBytes(change.path));
   query.addBindValue(PathBytes(change.side));
+  query.addBindValue(goesWith == 0 ? QVariant(QVariant::LongLong) : QVariant(goesWith));
   database_.Run(query);
   change.number = query.lastInsertId().toLongLong();
-  edit_ = std::move(change);
-  return edit_->side;
+  edits_.push_back(std::move(change));
+  return edits_.back().side;
+}
+
+ioPath UndoJournal::Impl::PlanEdit(const ioPath& photo) {
+  edits_.clear();
+  return InsertChange(photo, 0);
+}
+
+ioPath UndoJournal::Impl::PlanSidecar(const ioPath& sidecar) {
+  return InsertChange(sidecar, edits_.front().number);
 }
 
 void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPath) {
   if (step_ == 0) {
     BeginStep(QStringLiteral("edit"));
   }
-  if (!edit_ || edit_->path != item.GetPath()) {
+  auto planned = std::find_if(edits_.begin(), edits_.end(), [path = item.GetPath()](const ChangeRow& change) {
+    return change.path == path;
+  });
+  if (planned == edits_.end()) {
     PlanEdit(item.GetPath());
-    edit_->side.clear();
+    planned = edits_.begin();
+    planned->side.clear();
   }
-  ChangeRow& change = *edit_;
+  ChangeRow& change = *planned;
   if (newPath != change.path) {
     change.state = State::Doing;
     change.adopted = true;
@@ -572,26 +612,34 @@ void UndoJournal::Impl::RegisterFileChange(DataModel& item, const ioPath& newPat
 }
 
 void UndoJournal::Impl::FinishEdit() {
-  if (edit_) {
-    SyncFolderOf(edit_->path);
-    const auto photo = Read(edit_->path);
-    Finish([this, &photo] {
-      WriteTransaction transaction(database_);
-      SetState("changes", edit_->number, State::Done);
-      if (photo) {
-        UpdatePhotoRow(database_, *photo);
-      }
-      transaction.Commit();
-    });
-    edit_.reset();
+  if (edits_.empty()) {
+    return;
   }
+  for (const ChangeRow& edit : edits_) {
+    SyncFolderOf(edit.path);
+  }
+  const auto photo = Read(edits_.front().path);
+  Finish([this, &photo] {
+    WriteTransaction transaction(database_);
+    for (const ChangeRow& edit : edits_) {
+      SetState("changes", edit.number, State::Done);
+    }
+    if (photo) {
+      UpdatePhotoRow(database_, *photo);
+    }
+    transaction.Commit();
+  });
+  edits_.clear();
 }
 
 void UndoJournal::Impl::DropEdit() {
-  if (edit_) {
+  if (!edits_.empty()) {
     // Not on the caller's word: the answer of a server can be lost, and the photo be replaced all the same.
-    ChangeRow change = *std::exchange(edit_, std::nullopt);
-    Finish([this, &change] { SettleChange(change); });
+    const std::vector<ChangeRow> group = std::exchange(edits_, {});
+    Finish([this, &group] {
+      std::vector<ChangeRow> settled = group;
+      SettleGroup(settled);
+    });
   }
 }
 
@@ -601,7 +649,7 @@ void UndoJournal::Impl::EndStep() {
   }
   StepRow step;
   step.number = std::exchange(step_, 0);
-  edit_.reset();
+  edits_.clear();
   Finish([this, &step] { SettleStep(step); });
 }
 
@@ -609,9 +657,11 @@ void UndoJournal::Impl::EndStep() {
 void UndoJournal::Impl::SettleStep(const StepRow& step) {
   std::size_t files = 0;
   bool isKept = false;
-  for (ChangeRow& change : ReadChanges(database_, step.number)) {
-    files += change.state == State::Done || SettleChange(change) ? 1 : 0;
-    isKept = isKept || change.adopted || IsKept(change, false);
+  for (std::vector<ChangeRow>& group : GroupChanges(ReadChanges(database_, step.number))) {
+    files += SettleGroup(group);
+    isKept = isKept || std::any_of(group.begin(), group.end(), [this](const ChangeRow& change) {
+               return change.adopted || IsKept(change, false);
+             });
   }
   if (files == 0) {
     DropStep(step.number);
@@ -619,6 +669,80 @@ void UndoJournal::Impl::SettleStep(const StepRow& step) {
   }
   CloseStep(step.number, files, isKept ? State::Done : State::GivenUp);
   DropUndone();
+}
+
+/// Finds out what became of a photo and its sidecars. Returns how many of them are the edited ones.
+std::size_t UndoJournal::Impl::SettleGroup(std::vector<ChangeRow>& group) {
+  if (group.size() > 1) {
+    BringTogether(group);
+  }
+  std::size_t files = 0;
+  for (ChangeRow& change : group) {
+    files += change.state == State::Done || SettleChange(change) ? 1 : 0;
+  }
+  return files;
+}
+
+/// Of an edit that stopped between a photo and its sidecar: the other is replaced, too, or else the first gets
+/// its original back. Where neither can be done the notes say so.
+void UndoJournal::Impl::BringTogether(std::vector<ChangeRow>& group) {
+  std::vector<const ChangeRow*> replaced;
+  std::vector<const ChangeRow*> waiting;
+  for (const ChangeRow& change : group) {
+    if (change.state != State::Doing) {
+      // Nothing is replaced before all of them are written down; what is done needs nothing.
+      return;
+    }
+    try {
+      (DigestOf(change.path) == change.digestBefore ? waiting : replaced).push_back(&change);
+    } catch (const HostError&) {
+      // Its own settling tells.
+      return;
+    }
+  }
+  if (replaced.empty() || std::all_of(waiting.begin(), waiting.end(),
+                                      [this](const ChangeRow* change) { return FinishReplacing(*change); })) {
+    return;
+  }
+  try {
+    for (const ChangeRow& change : group) {
+      ReplaceBack(change);
+    }
+  } catch (const Exception& failure) {
+    notes.push_back(group.front().path.utf8string() + " and its sidecar do not agree any more: only one of them is edited (" +
+                    failure.what() + ").");
+  }
+}
+
+/// False when it could not be done; then the file is as it was.
+bool UndoJournal::Impl::FinishReplacing(const ChangeRow& change) {
+  try {
+    if (DigestOf(change.side) != change.digestAfter) {
+      return false;
+    }
+    DataModel item;
+    item.SetPath(change.path);
+    UndoFileHolder holder(nullptr, locker_, item, change.side, false);
+    holder.Process();
+    SyncFolderOf(change.path);
+    return true;
+  } catch (const Exception&) {
+    return false;
+  }
+}
+
+/// The row stays as it is: until it is dropped, it tells that the original is there.
+void UndoJournal::Impl::ReplaceBack(const ChangeRow& change) {
+  if (DigestOf(change.path) != change.digestAfter) {
+    return;
+  }
+  change.side.remove();
+  DataModel item;
+  item.SetPath(change.path);
+  UndoFileHolder holder(nullptr, locker_, item, change.side, false);
+  kept_.PutBeside(change.KeptBefore(), change.side);
+  holder.Process();
+  SyncFolderOf(change.path);
 }
 
 /// True when the photo is the edited one; false when it is not, and then nothing is left of the edit.
@@ -718,6 +842,41 @@ bool UndoJournal::Impl::IsKept(const ChangeRow& change, bool redo) const {
          FileState::Kind::Missing;
 }
 
+/// By what the file is now; empty: it can be.
+std::string UndoJournal::Impl::WhyNotPutBack(const ChangeRow& change, const QByteArray& now,
+                                             bool redo) const {
+  if (now != (redo ? change.digestBefore : change.digestAfter)) {
+    return change.path.utf8string() + " has been changed since and is left as it is";
+  }
+  if (!IsKept(change, redo)) {
+    return change.path.utf8string() + " is left as it is: its other version is not kept any more";
+  }
+  return {};
+}
+
+/// A photo and its sidecars go back together, or all stay.
+std::optional<UndoFinding> UndoJournal::Impl::FindObstacle(const std::vector<ChangeRow>& group,
+                                                           bool redo) const {
+  const State goal = redo ? State::Done : State::Undone;
+  for (const ChangeRow& change : group) {
+    if (change.state == goal || change.adopted) {
+      continue;
+    }
+    try {
+      const QByteArray now = DigestOf(change.path);
+      const std::string cause = now == (redo ? change.digestAfter : change.digestBefore)
+                                    ? std::string()
+                                    : WhyNotPutBack(change, now, redo);
+      if (!cause.empty()) {
+        return UndoFinding{change.path, cause};
+      }
+    } catch (const Exception& failure) {
+      return UndoFinding{change.path, failure.what()};
+    }
+  }
+  return std::nullopt;
+}
+
 /// Nothing has changed when it throws. Nothing is left of the attempt either, except while nobody can tell
 /// which version the photo is: then both stay.
 void UndoJournal::Impl::PutBack(ChangeRow& change, bool redo) {
@@ -731,13 +890,8 @@ void UndoJournal::Impl::PutBack(ChangeRow& change, bool redo) {
     }
     return;
   }
-  if (now != current) {
-    ThrowHostError(change.path.utf8string(),
-                   change.path.utf8string() + " has been changed since and is left as it is");
-  }
-  if (!IsKept(change, redo)) {
-    ThrowHostError(change.path.utf8string(),
-                   change.path.utf8string() + " is left as it is: its other version is not kept any more");
+  if (const std::string cause = WhyNotPutBack(change, now, redo); !cause.empty()) {
+    ThrowHostError(change.path.utf8string(), cause);
   }
   try {
     Exchange(change, redo);
@@ -770,54 +924,71 @@ State UndoJournal::Impl::StateInPart(qlonglong step, bool anyHope) const {
   return allUndone ? State::Undone : State::Done;
 }
 
+/// False when the file stays; then there is a finding.
+bool UndoJournal::Impl::ReverseOne(ChangeRow& change, bool redo, UndoResult& result, bool& isNoted) {
+  try {
+    if (!change.adopted) {
+      PutBack(change, redo);
+    }
+  } catch (const Exception& failure) {
+    result.findings.push_back({change.path, failure.what()});
+    return false;
+  }
+  ++result.files;
+  try {
+    FinishReversal(change, redo);
+  } catch (const HostError& failure) {
+    isNoted = false;
+    result.findings.push_back({change.path, std::string(failure.what()) + kNotedLater});
+  }
+  return true;
+}
+
 UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                                              const UndoProgress& progress) {
   UndoResult result;
   result.name = step.name;
   const State goal = redo ? State::Done : State::Undone;
   SetState("steps", step.number, redo ? State::Redoing : State::Undoing);
-  std::vector<ChangeRow> changes = ReadChanges(database_, step.number);
+  std::vector<std::vector<ChangeRow>> groups = GroupChanges(ReadChanges(database_, step.number));
   if (!redo) {
     // A photo that was changed twice goes back step by step.
-    std::reverse(changes.begin(), changes.end());
+    std::reverse(groups.begin(), groups.end());
   }
   std::size_t looked = 0;
   bool anyLeft = false;
   bool anyHope = false;
+  bool isNoted = true;
   lacksRoomForRedo_ = false;
-  for (ChangeRow& change : changes) {
-    if (change.state != goal) {
-      if (cancelled) {
-        result.cancelled = true;
+  for (std::vector<ChangeRow>& group : groups) {
+    const auto isKept = [this, redo](const ChangeRow& change) { return IsKept(change, redo); };
+    const bool isPending = std::any_of(group.begin(), group.end(),
+                                       [goal](const ChangeRow& change) { return change.state != goal; });
+    if (isPending && cancelled) {
+      result.cancelled = true;
+      anyLeft = true;
+      anyHope = true;
+      break;
+    }
+    const auto obstacle = isPending && group.size() > 1 ? FindObstacle(group, redo) : std::nullopt;
+    if (obstacle) {
+      result.findings.push_back(*obstacle);
+      anyLeft = true;
+      anyHope = anyHope || std::any_of(group.begin(), group.end(), isKept);
+    }
+    for (ChangeRow& change : group) {
+      if (isNoted && !obstacle && change.state != goal && !ReverseOne(change, redo, result, isNoted)) {
         anyLeft = true;
-        anyHope = true;
-        break;
-      }
-      bool possible = true;
-      try {
-        if (!change.adopted) {
-          PutBack(change, redo);
-        }
-      } catch (const Exception& failure) {
-        possible = false;
-        anyLeft = true;
-        anyHope = anyHope || IsKept(change, redo);
-        result.findings.push_back({change.path, failure.what()});
-      }
-      if (possible) {
-        ++result.files;
-        try {
-          FinishReversal(change, redo);
-        } catch (const HostError& failure) {
-          anyLeft = true;
-          anyHope = true;
-          result.findings.push_back({change.path, std::string(failure.what()) + kNotedLater});
-          break;
-        }
+        anyHope = anyHope || isKept(change);
       }
     }
+    if (!isNoted) {
+      anyLeft = true;
+      anyHope = true;
+      break;
+    }
     if (progress) {
-      progress(++looked, changes.size());
+      progress(++looked, groups.size());
     }
   }
   const State state = anyLeft ? StateInPart(step.number, anyHope) : goal;
@@ -1161,11 +1332,14 @@ void UndoJournal::Impl::RecoverChanges(StepRow& step) {
   const std::string name = "\"" + step.name.toStdString() + "\"";
   if (step.state == State::Doing) {
     SettleStep(step);
-    const auto files = static_cast<std::size_t>(
-        database_.Value(("SELECT files FROM steps WHERE number = " + std::to_string(step.number)).c_str())
+    const auto photos = static_cast<std::size_t>(
+        database_
+            .Value(("SELECT count(*) FROM changes WHERE goes_with IS NULL AND step = " +
+                    std::to_string(step.number))
+                       .c_str())
             .toULongLong());
-    notes.push_back(name + " had been broken off after " + std::to_string(files) +
-                    (files == 1 ? " photo." : " photos.") + " The others are as they were.");
+    notes.push_back(name + " had been broken off after " + std::to_string(photos) +
+                    (photos == 1 ? " photo." : " photos.") + " The others are as they were.");
     return;
   }
   const bool redo = step.state == State::Redoing;
@@ -1290,6 +1464,10 @@ std::vector<AcceptResult> UndoJournal::AcceptAlbums(const QString& name,
 
 ioPath UndoJournal::PlanEdit(const ioPath& photo) {
   return impl_->PlanEdit(photo);
+}
+
+ioPath UndoJournal::PlanSidecar(const ioPath& sidecar) {
+  return impl_->PlanSidecar(sidecar);
 }
 
 void UndoJournal::FinishEdit() {

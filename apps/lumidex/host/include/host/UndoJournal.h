@@ -154,6 +154,10 @@ class UndoJournal : public IUndo {
   /// The name for the side file of an edit of `photo`, in its folder: hidden, and removed by recovery when it
   /// is still there. To be called within a step, before the side file is made.
   ioPath PlanEdit(const ioPath& photo);
+  /// The same for a sidecar that is edited together with the photo planned last: undo and redo change both or
+  /// none, and so does recovery. `RegisterFileChange` must be called for all of them before the first is
+  /// replaced.
+  ioPath PlanSidecar(const ioPath& sidecar);
   /// The edit planned last is in place: `RegisterFileChange` was called and the photo replaced.
   void FinishEdit();
   /// The edit planned last did not happen: nothing is left of it, unless the photo says otherwise.

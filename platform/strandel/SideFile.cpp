@@ -1,0 +1,28 @@
+#include "SideFile.h"
+
+#include "EditRefusal.h"
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/NewFile.h>
+
+#include <system_error>
+
+namespace Zenvora::Strandel {
+
+void WriteSideFile(const ioPath& side, const ioPath& original, std::int64_t modifiedNs,
+                   const std::string& bytes) {
+  const auto check = [&side](const std::error_code& error) {
+    if (error) {
+      throw EditRefusal("cannot write " + side.utf8string() + ": " + ErrorText(error));
+    }
+  };
+  NewFile file;
+  check(file.Create(side));
+  file.TakeRightsOf(original);
+  check(file.Write(bytes.data(), bytes.size()));
+  check(file.SetModified(modifiedNs));
+  check(file.Close(true));
+  file.Release();
+}
+
+}  // namespace Zenvora::Strandel
