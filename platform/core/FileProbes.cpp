@@ -5,6 +5,7 @@
 #include <windows.h>
 #else
 #include <cerrno>
+#include <exception>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -43,6 +44,15 @@ bool OpensForAppending(const ioPath& file) noexcept {
 bool HasWritePermission(const ioPath& file) noexcept {
   const DWORD attributes = AttributesOf(file);
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) == 0;
+}
+
+bool IsWriteProtected(const ioPath& file) noexcept {
+  const DWORD attributes = AttributesOf(file);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+bool IsOursToMove(const ioPath&) noexcept {
+  return true;
 }
 
 #else
@@ -89,6 +99,32 @@ bool OpensForAppending(const ioPath& file) noexcept {
 bool HasWritePermission(const ioPath& file) noexcept {
   // As Qt asks, and also for names that are no text.
   return file.name_fault().empty() && access(file.native().c_str(), W_OK) == 0;
+}
+
+bool IsWriteProtected(const ioPath& file) noexcept {
+  constexpr mode_t kAnybodyWrites = S_IWUSR | S_IWGRP | S_IWOTH;
+  struct stat facts = {};
+  if (!file.name_fault().empty() || stat(file.native().c_str(), &facts) != 0) {
+    return false;
+  }
+  return !HasWritePermission(file) || (geteuid() == 0 && (facts.st_mode & kAnybodyWrites) == 0);
+}
+
+bool IsOursToMove(const ioPath& file) noexcept {
+  struct stat facts = {};
+  struct stat folder = {};
+  const uid_t user = geteuid();
+  if (user == 0 || lstat(file.native().c_str(), &facts) != 0) {
+    return true;
+  }
+  try {
+    const ioPath parent = file.parent_path();
+    const char* const name = parent.empty() ? "." : parent.native().c_str();
+    return stat(name, &folder) != 0 || (folder.st_mode & S_ISVTX) == 0 || facts.st_uid == user ||
+           folder.st_uid == user;
+  } catch (const std::exception&) {
+    return true;
+  }
 }
 
 #endif

@@ -1,8 +1,10 @@
 #include "Commands.h"
 #include "ImportView.h"
 #include "Interrupt.h"
+#include "JournalView.h"
 #include "JsonWriter.h"
 #include "Options.h"
+#include "Progress.h"
 #include "Sources.h"
 #include "TerminalText.h"
 #include "TextTable.h"
@@ -12,7 +14,9 @@
 #include <host/SaveChecks.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
+#include <utility>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -20,43 +24,121 @@ namespace {
 
 using Host::CheckFinding;
 using Host::CheckReport;
+using Host::FileAct;
+using Kind = Host::FileVerdict::Kind;
 
 constexpr char kDescription[] =
-    "See what would be in the way of importing or changing photos.\n"
+    "See beforehand which files a command would refuse, and why.\n"
     "\n"
-    "Looks whether the files can be read, whether their formats can be written,\n"
-    "whether there is room to save them anew, and whether folders and files may be\n"
-    "written. Lists everything at once and changes nothing.";
+    "Asks for each file what import, rename, rotate, shift-date, set-date and\n"
+    "similar --trash would say of it, and lists everything at once. What is not\n"
+    "listed will be done. Changes nothing.";
 
 constexpr char kFooter[] =
     R"(A folder stands for all photos in it and below it, with their side files;
 hidden files and folders are passed over. What is no photo is not looked at.
+For rotate, shift-date and set-date each photo is read whole and edited in
+memory, with its sidecar, so that the answer is certain. Where it depends on
+what the command is told (dates beyond the year 9999, names that are taken),
+only what holds in any case is listed; --dry-run of the command has the rest.
 
 Examples:
   lumidex check ~/Pictures
+  lumidex check --for rotate,shift-date ~/Pictures/trip
   lumidex check --json IMG_1.CR2 IMG_1.JPG
 
-Exit codes: 0 nothing is in the way; 1 something is, or there are no photos;
-4 a file or folder is missing; 130 interrupted.)";
+Exit codes: 0 nothing would be refused; 1 something would, or there are no
+photos; 4 a file or folder is missing; 130 interrupted.)";
 
-const char* KindName(CheckFinding::Kind kind) {
+struct ActName {
+  FileAct act;
+  const char* name;  ///< Of the command; of the trash what people call it.
+};
+constexpr std::array kActs = {ActName{FileAct::Import, "import"},        ActName{FileAct::Rename, "rename"},
+                              ActName{FileAct::Rotate, "rotate"},        ActName{FileAct::ShiftDate, "shift-date"},
+                              ActName{FileAct::SetDate, "set-date"},     ActName{FileAct::Trash, "trash"}};
+
+struct CheckArguments {
+  std::vector<std::string> files;
+  std::string acts;  ///< With commas between them; empty: all.
+};
+
+std::vector<std::string> ActNames(const std::set<FileAct>& acts) {
+  std::vector<std::string> names;
+  for (const ActName& act : kActs) {
+    if (acts.count(act.act) > 0) {
+      names.emplace_back(act.name);
+    }
+  }
+  return names;
+}
+
+std::string Joined(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) {
+    text += (text.empty() ? "" : ", ") + name;
+  }
+  return text;
+}
+
+std::set<FileAct> ActsOf(const std::string& list) {
+  const std::set<FileAct> all = Host::CheckOptions().acts;
+  if (list.empty()) {
+    return all;
+  }
+  std::set<FileAct> acts;
+  for (std::size_t begin = 0; begin <= list.size();) {
+    const std::size_t end = std::min(list.find(',', begin), list.size());
+    const std::string name = list.substr(begin, end - begin);
+    const auto* const known =
+        std::find_if(kActs.begin(), kActs.end(), [&name](const ActName& act) { return name == act.name; });
+    if (known == kActs.end()) {
+      throw UsageError("--for must be of " + Joined(ActNames(all)) + ", not \"" + name +
+                       "\" (see: lumidex help check)");
+    }
+    acts.insert(known->act);
+    begin = end + 1;
+  }
+  return acts;
+}
+
+const char* KindName(Kind kind) {
   switch (kind) {
-    case CheckFinding::Kind::Unreadable:
+    case Kind::Unreadable:
       return "unreadable";
-    case CheckFinding::Kind::Format:
+    case Kind::NoFile:
+      return "no-file";
+    case Kind::Name:
+      return "name";
+    case Kind::Format:
       return "format";
-    case CheckFinding::Kind::Space:
-      return "space";
-    case CheckFinding::Kind::Folder:
+    case Kind::Content:
+      return "content";
+    case Kind::Protected:
+      return "protected";
+    case Kind::Folder:
       return "folder";
-    case CheckFinding::Kind::File:
-      return "file";
+    case Kind::Sidecar:
+      return "sidecar";
+    case Kind::Kept:
+      return "kept";
+    case Kind::Done:
+      break;
   }
   return "";
 }
 
-std::string Document(const CheckReport& report) {
+void WriteActs(JsonWriter& json, const std::set<FileAct>& acts) {
+  json.BeginArray("for");
+  for (const std::string& name : ActNames(acts)) {
+    json.Text("", name);
+  }
+  json.EndArray();
+}
+
+std::string Document(const CheckReport& report, const std::set<FileAct>& acts) {
   JsonWriter json("lumidex.check", 1);
+  WriteActs(json, acts);
   json.Number("files", static_cast<long long>(report.files));
   json.BeginArray("volumes");
   for (const Host::CheckedVolume& volume : report.volumes) {
@@ -78,26 +160,11 @@ std::string Document(const CheckReport& report) {
     json.Text("kind", KindName(finding.kind));
     json.Path("path", finding.path);
     json.Text("text", finding.text);
+    WriteActs(json, finding.acts);
     json.EndObject();
   }
   json.EndArray();
   return json.Finish();
-}
-
-std::string KindText(CheckFinding::Kind kind) {
-  switch (kind) {
-    case CheckFinding::Kind::Unreadable:
-      return Say(Words::tr("unreadable"));
-    case CheckFinding::Kind::Format:
-      return Say(Words::tr("format"));
-    case CheckFinding::Kind::Space:
-      return Say(Words::tr("space"));
-    case CheckFinding::Kind::Folder:
-      return Say(Words::tr("folder"));
-    case CheckFinding::Kind::File:
-      return Say(Words::tr("file"));
-  }
-  return "";
 }
 
 std::string VolumesText(const CheckReport& report) {
@@ -113,33 +180,61 @@ std::string VolumesText(const CheckReport& report) {
   return table.Text() + '\n';
 }
 
-std::string FindingsText(const CheckReport& report) {
-  TextTable table({{Say(Words::tr("What"))}, {Say(Words::tr("Where"))}, {Say(Words::tr("Why"))}});
+/// A sentence that names its file, as those of the commands.
+std::string LineOf(const CheckFinding& finding) {
+  const std::string name = finding.path.utf8string();
+  return finding.text.find(name) == std::string::npos ? name + ": " + finding.text : finding.text;
+}
+
+/// Commands that refuse the same files share a heading.
+std::string RefusedText(const CheckReport& report) {
+  std::vector<std::pair<std::set<FileAct>, std::vector<Host::UndoFinding>>> groups;
   for (const CheckFinding& finding : report.findings) {
-    table.AddRow({KindText(finding.kind), finding.path.utf8string(), finding.text});
+    auto group = std::find_if(groups.begin(), groups.end(),
+                              [&finding](const auto& other) { return other.first == finding.acts; });
+    if (group == groups.end()) {
+      group = groups.insert(groups.end(), {finding.acts, {}});
+    }
+    group->second.push_back({finding.path, LineOf(finding)});
   }
-  return table.Text() + '\n';
+  std::string text;
+  for (const auto& [acts, findings] : groups) {
+    text += FindingsText(Say(Words::tr("Refused by %1", "commands"), {Joined(ActNames(acts))}), findings);
+  }
+  return text;
 }
 
 std::string ReportText(const CheckReport& report) {
   if (report.files == 0 && report.findings.empty()) {
     return {};
   }
-  const std::size_t things = report.findings.size();
+  std::set<ioPath> refused;
+  for (const CheckFinding& finding : report.findings) {
+    refused.insert(finding.path);
+  }
   const std::string checked =
       Say(Words::tr("%1 files checked", nullptr, Amount(report.files)), {GroupDigits(report.files)}) + "; ";
-  const std::string outcome = (things == 0 ? Say(Words::tr("nothing is in the way."))
-                                           : Say(Words::tr("%1 things in the way.", nullptr, Amount(things)),
-                                                 {GroupDigits(things)})) +
-                              '\n';
-  return (report.volumes.empty() ? "" : VolumesText(report)) +
-         (report.findings.empty() ? "" : FindingsText(report)) + checked + outcome;
+  const std::string outcome =
+      (refused.empty() ? Say(Words::tr("nothing is in the way."))
+                       : Say(Words::tr("%1 of them would be refused.", nullptr, Amount(refused.size())),
+                             {GroupDigits(refused.size())})) +
+      '\n';
+  return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + checked + outcome;
 }
 
-ExitCode RunCheck(const std::vector<std::string>& names, Session& session) {
-  const CheckReport report = Host::CheckFiles(Host::GatherSources(ExistingSources(names)));
+ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
+  Host::CheckOptions options;
+  options.acts = ActsOf(arguments.acts);
+  const std::vector<ioPath> named = ExistingSources(arguments.files);
+  options.cancel = &session.interrupted;
+  CheckReport report;
+  {
+    Progress progress(session.console, Say(Words::tr("Checking")), Say(Words::tr("photos", "of so many")));
+    options.progress = [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); };
+    report = Host::CheckFiles(named, Host::GatherSources(named), options);
+  }
   ThrowIfInterrupted(Say(Words::tr("Interrupted. Nothing was changed.")).c_str());
-  session.output.Print(session.globals.json ? Document(report) : ReportText(report));
+  session.output.Print(session.globals.json ? Document(report, options.acts) : ReportText(report));
   if (report.files == 0) {
     session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }
@@ -150,13 +245,20 @@ ExitCode RunCheck(const std::vector<std::string>& names, Session& session) {
 
 void AddCheckCommand(CLI::App& program, Action& chosen) {
   CLI::App* const command = program.add_subcommand("check", kDescription);
-  const auto names = std::make_shared<std::vector<std::string>>();
+  const auto arguments = std::make_shared<CheckArguments>();
   command->footer(kFooter);
-  command->add_option("FILE", *names, "Photos, or folders with all below them.")
+  command->add_option("FILE", arguments->files, "Photos, or folders with all below them.")
       ->required()
       ->transform(Text());
-  command->callback(
-      [names, &chosen] { chosen = [names](Session& session) { return RunCheck(*names, session); }; });
+  command
+      ->add_option("--for", arguments->acts,
+                   "For which of import, rename, rotate, shift-date, set-date and trash, with commas between "
+                   "them. Usual: all.")
+      ->option_text("COMMANDS")
+      ->transform(Text());
+  command->callback([arguments, &chosen] {
+    chosen = [arguments](Session& session) { return RunCheck(*arguments, session); };
+  });
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -7,6 +7,7 @@
 #include "ValueTexts.h"
 #include "Words.h"
 
+#include <host/FileVerdicts.h>
 #include <host/PhotoChoice.h>
 #include <host/PhotoEditing.h>
 
@@ -46,6 +47,9 @@ constexpr char kEditNote[] =
     R"(JPEG, PNG, WebP, TIFF and most raw files can be edited; the picture in them
 stays as it is, bit for bit. Others are listed with the reason. A folder stands
 for the photos in it, not for those below; a link for the photo it leads to.
+The sidecar of a photo (IMG_1.xmp, IMG_1.CR2.xmp) is edited along with it; an
+IMG_1.xmp that several formats share, along with the raw file. What is
+write-protected is left alone unless --force is given.
 
 The originals are kept for undo up to a limit (lumidex help undo). Where older
 steps had to be forgotten for it, you are asked; where nobody can be asked,
@@ -86,6 +90,7 @@ struct EditArguments {
   std::string what;
   std::vector<std::string> files;
   bool dryRun = false;
+  bool force = false;
   RoomWish room;
 };
 
@@ -151,10 +156,10 @@ class EditRun {
       journal_.emplace(session_);
     }
     Choose();
-    view_.room = RoomFor(session_, photos_, arguments_.room);
+    view_.room = RoomFor(session_, FilesToReplace(), arguments_.room);
     if (arguments_.dryRun) {
       Try();
-    } else if (!photos_.empty()) {
+    } else if (!tasks_.empty()) {
       view_.declined = !AgreeOnRoom(session_, view_.room, arguments_.room);
       view_.interrupted = view_.declined && session_.interrupted;
       if (!view_.declined) {
@@ -175,47 +180,62 @@ class EditRun {
       named.push_back(AbsolutePath(file));
     }
     Host::EditChoice choice = Host::ChooseForEdit(named);
-    photos_ = std::move(choice.photos);
-    view_.photos = photos_.size();
+    tasks_ = Host::FindSidecars(choice.photos);
+    view_.photos = tasks_.size();
     view_.findings = std::move(choice.refused);
+  }
+
+  /// Without what is refused at first sight; what is refused later needs no room either.
+  std::vector<ioPath> FilesToReplace() const {
+    std::vector<ioPath> files;
+    for (const Host::EditTask& task : tasks_) {
+      if (!Host::JudgeEditing(task.photo, arguments_.force).IsRefused()) {
+        files.push_back(task.photo);
+        files.insert(files.end(), task.sidecars.begin(), task.sidecars.end());
+      }
+    }
+    return files;
   }
 
   void Try() {
     Progress progress(session_.console, Say(Words::tr("Trying")), Say(Words::tr("photos", "of so many")));
     std::uint64_t done = 0;
-    for (const ioPath& photo : photos_) {
+    for (const Host::EditTask& task : tasks_) {
       if (session_.interrupted) {
         view_.interrupted = true;
         break;
       }
-      try {
-        view_.tried.push_back({photo, Strandel::TryEdit(photo, order_.edit)});
-      } catch (const Strandel::PhotoEditError& error) {
-        view_.findings.push_back({photo, error.what()});
+      Host::EditVerdict verdict = Host::JudgeEdit(task, order_.edit, arguments_.force);
+      if (verdict.IsRefused()) {
+        view_.findings.push_back({task.photo, std::move(verdict.text)});
+      } else {
+        view_.sidecars += verdict.sidecars.size();
+        view_.tried.push_back({task.photo, verdict.effect, std::move(verdict.sidecars)});
       }
-      progress.Update(++done, photos_.size());
+      progress.Update(++done, tasks_.size());
     }
     view_.edited = view_.tried.size();
   }
 
   void Edit() {
-    VLOG(1) << "editing " << photos_.size() << " photos";
+    VLOG(1) << "editing " << tasks_.size() << " photos";
     if (!journal_) {
       journal_.emplace(session_);
     }
     journal_->Get().KeepOriginals(!arguments_.room.noUndo);
-    Host::UndoResult result;
+    Host::EditOrder order;
+    order.name = QString::fromStdString(order_.step);
+    order.edit = order_.edit;
+    order.force = arguments_.force;
+    Host::EditResult result;
     {
       Progress progress(session_.console, Say(Words::tr("Editing")), Say(Words::tr("photos", "of so many")));
       result = Host::EditPhotos(
-          journal_->Get(), journal_->Locker(), QString::fromStdString(order_.step), photos_,
-          [this](const ioPath& photo, const ioPath& side) {
-            Strandel::WriteEdited(photo, side, order_.edit);
-          },
-          session_.interrupted,
+          journal_->Get(), journal_->Locker(), order, tasks_, session_.interrupted,
           [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });
     }
-    view_.edited = result.files;
+    view_.edited = result.photos;
+    view_.sidecars = result.sidecars;
     view_.interrupted = result.cancelled;
     view_.findings.insert(view_.findings.end(), result.findings.begin(), result.findings.end());
     if (result.files > 0) {
@@ -232,7 +252,7 @@ class EditRun {
       session_.console.Note(Say(arguments_.dryRun
                                     ? Words::tr("Interrupted.")
                                     : Words::tr("Interrupted. The photos edited so far stay so.")));
-    } else if (photos_.empty() && view_.findings.empty() && !view_.declined) {
+    } else if (tasks_.empty() && view_.findings.empty() && !view_.declined) {
       session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
     }
   }
@@ -244,14 +264,14 @@ class EditRun {
     if (!view_.findings.empty()) {
       return view_.edited > 0 ? ExitCode::Partly : ExitCode::Failed;
     }
-    return photos_.empty() || view_.declined ? ExitCode::Findings : ExitCode::Done;
+    return tasks_.empty() || view_.declined ? ExitCode::Findings : ExitCode::Done;
   }
 
   const EditArguments& arguments_;
   const Order order_;
   Session& session_;
   std::optional<OpenJournal> journal_;
-  std::vector<ioPath> photos_;
+  std::vector<Host::EditTask> tasks_;
   EditView view_;
 };
 
@@ -269,6 +289,8 @@ CLI::Option* AddCommand(CLI::App& program, Action& chosen, const char* name, con
       ->transform(Text());
   command
       ->add_flag("--dry-run", arguments->dryRun, "Only tell what would be changed in which photo, and how.")
+      ->disable_flag_override();
+  command->add_flag("--force", arguments->force, "Also edit what is write-protected.")
       ->disable_flag_override();
   AddRoomOptions(*command, arguments->room);
   command->callback([arguments, makeOrder, &chosen] {

@@ -27,8 +27,22 @@ std::string TriedText(const EditView& view) {
     table.AddRow({tried.photo.utf8string(),
                   view.turns ? OrientationText(effect.orientationBefore) : DateText(effect.takenBefore), "->",
                   view.turns ? OrientationText(effect.orientationAfter) : DateText(effect.takenAfter)});
+    for (const ioPath& sidecar : tried.sidecars) {
+      table.AddRow({sidecar.utf8string(), Say(Words::tr("its sidecar")), "", ""});
+    }
   }
   return table.Text() + '\n';
+}
+
+std::string SidecarsText(const EditView& view) {
+  if (view.sidecars == 0) {
+    return {};
+  }
+  const int amount = Amount(view.sidecars);
+  return Say(view.dryRun ? Words::tr("%1 sidecars would be edited along with them.", nullptr, amount)
+                         : Words::tr("%1 sidecars edited along with them.", nullptr, amount),
+             {GroupDigits(view.sidecars)}) +
+         '\n';
 }
 
 std::string OutcomeText(const EditView& view) {
@@ -59,6 +73,13 @@ void WriteTried(JsonWriter& json, const std::vector<TriedEdit>& tried) {
     json.Number("orientationAfter", edit.effect.orientationAfter);
     json.Moment("takenBefore", edit.effect.takenBefore);
     json.Moment("takenAfter", edit.effect.takenAfter);
+    json.BeginArray("sidecars");
+    for (const ioPath& sidecar : edit.sidecars) {
+      json.BeginObject();
+      json.Path("path", sidecar);
+      json.EndObject();
+    }
+    json.EndArray();
     json.EndObject();
   }
   json.EndArray();
@@ -75,6 +96,7 @@ std::string EditDocument(const EditView& view) {
   json.Truth("interrupted", view.interrupted);
   json.Number("photos", static_cast<long long>(view.photos));
   json.Number("edited", static_cast<long long>(view.edited));
+  json.Number("sidecars", static_cast<long long>(view.sidecars));
   if (view.dryRun) {
     WriteTried(json, view.tried);
   }
@@ -90,7 +112,7 @@ std::string EditDocument(const EditView& view) {
 std::string EditText(const EditView& view) {
   return FindingsText(Say(view.dryRun ? Words::tr("Cannot be edited") : Words::tr("Not edited")),
                       view.findings) +
-         TriedText(view) + OutcomeText(view);
+         TriedText(view) + SidecarsText(view) + OutcomeText(view);
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -17,6 +17,7 @@ namespace Zenvora::Lumidex::Cli {
 struct TriedEdit {
   ioPath photo;
   Strandel::EditEffect effect;
+  std::vector<ioPath> sidecars;  ///< That would change along with it.
 };
 
 /// All that one edit, or its dry run, shows.
@@ -28,6 +29,7 @@ struct EditView {
   bool interrupted = false;
   std::size_t photos = 0;  ///< That were named, without those that cannot be edited by their names.
   std::size_t edited = 0;  ///< Of a dry run: that could be.
+  std::size_t sidecars = 0;  ///< Edited along with them.
   bool turns = false;      ///< The orientation is what changes, not the date.
   std::vector<TriedEdit> tried;
   std::vector<Host::UndoFinding> findings;

@@ -1,96 +1,114 @@
-#include "PathText.h"
-
-#include <LumidexUtil/CheckFilesReadable.h>
-#include <LumidexUtil/CheckFormatsWritable.h>
-#include <LumidexUtil/CheckSaveAvailable.h>
+#include <host/PhotoChoice.h>
+#include <host/PhotoEditing.h>
 #include <host/SaveChecks.h>
 
-#include <zenvora/core/FileProbes.h>
 #include <zenvora/core/FileState.h>
-#include <zenvora/lumidex/DataModel.h>
 #include <zenvora/qtutility/DiskQuestions.h>
-
-#include <QSet>
 
 #include <algorithm>
 #include <map>
-#include <set>
+#include <system_error>
 #include <tuple>
+#include <unordered_set>
 #include <utility>
 
 namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-using Kind = CheckFinding::Kind;
-using Util::CheckSaveAvailableMode;
+using Kind = FileVerdict::Kind;
+using Acts = std::set<FileAct>;
 
-DataModel ItemOf(const ioPath& path, std::uint64_t size = 0) {
-  DataModel item;
-  item.SetPath(path);
-  item.SetSize(size);
-  return item;
+ioPath TrueName(const ioPath& file) {
+  std::error_code error;
+  const ioPath path = file.canonical(error);
+  return error ? file : path;
+}
+
+/// Edits that stand for all of their kind: no photo refuses one of them and takes another.
+Strandel::PhotoEdit EditFor(FileAct act, bool back = false) {
+  // Of a text without seconds a whole minute asks for no more room.
+  constexpr std::chrono::seconds kShift{60};
+  Strandel::PhotoEdit edit;
+  if (act == FileAct::Rotate) {
+    edit.turn = Strandel::Turn::Right;
+  } else if (act == FileAct::ShiftDate) {
+    edit.shift = back ? -kShift : kShift;
+  } else {
+    edit.date = QDateTime(QDate(2001, 2, 3), QTime(4, 5));
+  }
+  return edit;
+}
+
+EditVerdict JudgeAny(const EditTask& task, FileAct act) {
+  EditVerdict verdict = JudgeEdit(task, EditFor(act), false);
+  if (verdict.IsRefused() && act == FileAct::ShiftDate) {
+    // At the end of the calendar only one way is barred.
+    EditVerdict back = JudgeEdit(task, EditFor(act, true), false);
+    return back.IsRefused() ? verdict : back;
+  }
+  return verdict;
 }
 
 class Checker {
  public:
-  explicit Checker(const GatheredSources& sources) : sources_(sources) {}
+  Checker(const std::vector<ioPath>& arguments, const GatheredSources& sources, const CheckOptions& options)
+      : arguments_(arguments), sources_(sources), options_(options) {}
 
   CheckReport Run() {
     report_.files = sources_.files.size();
-    for (const LeftFile& left : sources_.left) {
-      if (left.kind == LeftFile::Kind::Unreadable) {
-        Find(Kind::Unreadable, left.path, left.cause + ".");
+    CheckLeft();
+    MeasureVolumes();
+    for (const ImportSource& file : sources_.files) {
+      Take(FileAct::Import, file.path, JudgeImport(file.path));
+      Take(FileAct::Rename, file.path, JudgeRename(file.path));
+      if (file.isPhoto) {
+        Take(FileAct::Trash, file.path, JudgeTrash(file.path));
       }
     }
-    CheckReadable();
-    CheckFormats();
-    CheckSpace();
-    CheckFolders();
-    CheckWritable();
-    std::stable_sort(report_.findings.begin(), report_.findings.end(),
-                     [](const CheckFinding& left, const CheckFinding& right) {
-                       return std::tie(left.kind, left.path) < std::tie(right.kind, right.path);
-                     });
+    CheckEdits();
+    for (auto& [place, finding] : findings_) {
+      report_.findings.push_back(std::move(finding));
+    }
     return std::move(report_);
   }
 
  private:
-  void Find(Kind kind, const ioPath& path, const std::string& text) {
-    report_.findings.push_back({kind, path, text});
+  bool Wants(FileAct act) const { return options_.acts.count(act) > 0; }
+
+  void Take(FileAct act, const ioPath& file, const FileVerdict& verdict) {
+    if (!verdict.IsRefused() || !Wants(act)) {
+      return;
+    }
+    CheckFinding& finding = findings_[{file, verdict.kind, verdict.text}];
+    finding.kind = verdict.kind;
+    finding.path = file;
+    finding.text = verdict.text;
+    finding.acts.insert(act);
   }
 
-  void CheckReadable() {
-    QList<QString> files;
-    for (const ImportSource& file : sources_.files) {
-      if (IsText(file.path)) {
-        files.append(ReversibleText(file.path));
-      }
-    }
-    const QList<QString> found = Util::CheckFilesReadable(files);
-    const auto readable = QSet<QString>(found.begin(), found.end());
-    for (const ImportSource& file : sources_.files) {
-      // The checks find no file whose name is no text.
-      if (!(IsText(file.path) ? readable.contains(ReversibleText(file.path)) : OpensForReading(file.path))) {
-        Find(Kind::Unreadable, file.path, "You do not have permission to read this file.");
+  static FileVerdict Refusal(Kind kind, const std::string& text) {
+    FileVerdict verdict;
+    verdict.kind = kind;
+    verdict.text = text;
+    return verdict;
+  }
+
+  /// What cannot even be looked at stands against everything; what is no file only against copying it.
+  void CheckLeft() {
+    for (const LeftFile& left : sources_.left) {
+      if (left.kind == LeftFile::Kind::Unreadable) {
+        const std::string text = left.path.utf8string() + " cannot be read: " + left.cause + '.';
+        for (const FileAct act : options_.acts) {
+          Take(act, left.path, Refusal(Kind::Unreadable, text));
+        }
+      } else if (left.kind == LeftFile::Kind::NoFile) {
+        Take(FileAct::Import, left.path, Refusal(Kind::NoFile, left.cause));
       }
     }
   }
 
-  void CheckFormats() {
-    for (const ImportSource& file : sources_.files) {
-      if (!file.isPhoto) {
-        continue;
-      }
-      const auto [writable, text] = Util::CheckFormatsWritable({ItemOf(file.path)});
-      if (!writable) {
-        Find(Kind::Format, file.path, text.toStdString());
-      }
-    }
-  }
-
-  /// By the volumes that there are: the roots of paths, by which the check goes, are one on some systems.
-  void CheckSpace() {
+  void MeasureVolumes() {
     std::map<std::uint64_t, CheckedVolume> volumes;
     for (const ImportSource& file : sources_.files) {
       CheckedVolume& volume = volumes[file.state.identity.first];
@@ -101,9 +119,6 @@ class Checker {
     }
     for (auto& [device, volume] : volumes) {
       volume.bytesFree = Util::GetAvailableDiskSpace(volume.folder);
-      if (volume.bytesFree > 0 && volume.bytesNeeded > static_cast<std::uint64_t>(volume.bytesFree)) {
-        Find(Kind::Space, volume.folder, "There is not enough space on the disk of this folder.");
-      }
       report_.volumes.push_back(volume);
     }
     std::sort(
@@ -111,36 +126,112 @@ class Checker {
         [](const CheckedVolume& left, const CheckedVolume& right) { return left.folder < right.folder; });
   }
 
-  void CheckFolders() {
-    std::set<ioPath> folders;
-    for (const ImportSource& file : sources_.files) {
-      if (folders.insert(file.path.parent_path()).second) {
-        Ask(Kind::Folder, CheckSaveAvailableMode::FolderPermission, file.path, file.path.parent_path());
+  Acts Edits() const {
+    Acts edits;
+    for (const FileAct act : {FileAct::Rotate, FileAct::ShiftDate, FileAct::SetDate}) {
+      if (Wants(act)) {
+        edits.insert(act);
+      }
+    }
+    return edits;
+  }
+
+  void CheckEdits() {
+    const Acts edits = Edits();
+    if (edits.empty()) {
+      return;
+    }
+    const std::vector<EditTask> tasks = FindSidecars(PhotosToEdit(edits));
+    std::size_t done = 0;
+    for (const EditTask& task : tasks) {
+      if (options_.cancel != nullptr && *options_.cancel) {
+        report_.cancelled = true;
+        return;
+      }
+      CheckEdits(task, edits);
+      if (options_.progress) {
+        options_.progress(++done, tasks.size());
       }
     }
   }
 
-  void CheckWritable() {
+  /// What the commands make of names comes first, as it does in them.
+  std::vector<ioPath> PhotosToEdit(const Acts& edits) {
+    std::vector<ioPath> named;
+    for (const ioPath& argument : arguments_) {
+      if (QueryFile(argument).kind != FileState::Kind::Folder) {
+        named.push_back(argument);
+      }
+    }
+    const EditChoice choice = ChooseForEdit(named);
+    std::unordered_set<ioPath> known;
+    for (const UndoFinding& refused : choice.refused) {
+      known.insert(TrueName(refused.file));
+      for (const FileAct act : edits) {
+        const bool isFile = QueryFile(refused.file).kind == FileState::Kind::File;
+        Take(act, refused.file, Refusal(isFile ? Kind::Name : Kind::NoFile, refused.cause));
+      }
+    }
+    std::vector<ioPath> photos;
+    const auto add = [&photos, &known](const ioPath& photo) {
+      if (known.insert(photo).second) {
+        photos.push_back(photo);
+      }
+    };
+    std::for_each(choice.photos.begin(), choice.photos.end(), add);
     for (const ImportSource& file : sources_.files) {
-      Ask(Kind::File, CheckSaveAvailableMode::FilePermission, file.path, file.path);
+      if (file.isPhoto) {
+        add(TrueName(file.path));
+      }
+    }
+    return photos;
+  }
+
+  void CheckEdits(const EditTask& task, const Acts& edits) {
+    const FileVerdict before = JudgeEditing(task.photo, false);
+    std::map<FileAct, EditVerdict> verdicts;
+    if (!before.IsRefused() && edits.count(FileAct::Rotate) + edits.count(FileAct::SetDate) == 2) {
+      // Both at once costs as much as one; who takes both takes each.
+      Strandel::PhotoEdit both = EditFor(FileAct::SetDate);
+      both.turn = EditFor(FileAct::Rotate).turn;
+      EditVerdict verdict = JudgeEdit(task, both, false);
+      if (!verdict.IsRefused()) {
+        verdicts[FileAct::Rotate] = verdict;
+        verdicts[FileAct::SetDate] = verdict;
+      }
+    }
+    bool anyEdits = false;
+    std::set<ioPath> sidecars;
+    for (const FileAct act : edits) {
+      if (before.IsRefused()) {
+        Take(act, task.photo, before);
+        continue;
+      }
+      const auto known = verdicts.find(act);
+      const EditVerdict verdict = known != verdicts.end() ? known->second : JudgeAny(task, act);
+      Take(act, task.photo, verdict);
+      anyEdits = anyEdits || !verdict.IsRefused();
+      sidecars.insert(verdict.sidecars.begin(), verdict.sidecars.end());
+    }
+    if (anyEdits) {
+      report_.edited.push_back(task.photo);
+      report_.edited.insert(report_.edited.end(), sidecars.begin(), sidecars.end());
     }
   }
 
-  void Ask(Kind kind, CheckSaveAvailableMode mode, const ioPath& file, const ioPath& place) {
-    const auto [failed, text] = Util::CheckSaveAvailable({ItemOf(file)}, mode);
-    if (failed != CheckSaveAvailableMode::None) {
-      Find(kind, place, text.toStdString());
-    }
-  }
-
+  const std::vector<ioPath>& arguments_;
   const GatheredSources& sources_;
+  const CheckOptions& options_;
+  /// By file; one cause that several commands share is told once.
+  std::map<std::tuple<ioPath, Kind, std::string>, CheckFinding> findings_;
   CheckReport report_;
 };
 
 }  // namespace
 
-CheckReport CheckFiles(const GatheredSources& sources) {
-  return Checker(sources).Run();
+CheckReport CheckFiles(const std::vector<ioPath>& arguments, const GatheredSources& sources,
+                       const CheckOptions& options) {
+  return Checker(arguments, sources, options).Run();
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -4,23 +4,59 @@
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/IFileAccessLocker.h>
+#include <zenvora/strandel/PhotoEdit.h>
 
 #include <QString>
 
 #include <atomic>
+#include <cstddef>
 #include <functional>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
-/// Edits photos one after the other as one step of the journal; of a link, the file that it leads to.
-/// `write(photo, side)` makes the side file with
-/// the edited photo, and throws what derives from `std::exception` when it cannot. Each photo is replaced in
-/// one moment by a file that is on the disk already; until then nothing of it changes. What fails for one
-/// photo is a finding, and the others are edited; on `cancelled` those edited before stay edited.
-UndoResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QString& name,
-                      const std::vector<ioPath>& photos,
-                      const std::function<void(const ioPath& photo, const ioPath& side)>& write,
+/// A photo with what must change along with it.
+struct EditTask {
+  ioPath photo;
+  /// The .xmp files beside it that belong to it, by their true names; whether an edit changes something in
+  /// them is another question.
+  std::vector<ioPath> sidecars;
+};
+
+/// Finds the sidecars of photos (canonical paths, each once), in their order. "IMG_1.CR2.xmp" belongs to
+/// IMG_1.CR2. "IMG_1.xmp" belongs to the raw file of that shot, which is where programs look for it; without one
+/// to the first of the shot's photos, by path. So a sidecar is nobody's or one photo's, and stays as it is
+/// while only another format of the shot is edited. Links lead to the files that are edited. Reads each folder
+/// once; a folder that cannot be listed has no sidecars. Blocks on the disk.
+std::vector<EditTask> FindSidecars(const std::vector<ioPath>& photos);
+
+/// What one edit is to do.
+struct EditOrder {
+  QString name;  ///< Of the step in the journal.
+  Strandel::PhotoEdit edit;
+  bool force = false;  ///< Also photos that are write-protected.
+};
+
+/// Makes the side file with the edited photo; throws what derives from `std::exception` when it cannot.
+using WriteSide = std::function<void(const ioPath& photo, const ioPath& side)>;
+
+struct EditResult : UndoResult {
+  std::size_t photos = 0;
+  std::size_t sidecars = 0;  ///< Both make up `files`.
+};
+
+/// Edits photos with their sidecars one after the other as one step of the journal. Each is replaced in one
+/// moment by a file that is on the disk already; until then nothing of it changes. A photo and its sidecars are
+/// edited together or not at all. What is refused (`JudgeEdit` says the same beforehand) or fails is a finding,
+/// and the others are edited; on `cancelled` those edited before stay edited.
+EditResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const EditOrder& order,
+                      const std::vector<EditTask>& tasks, const std::atomic<bool>& cancelled,
+                      const UndoProgress& progress);
+
+/// The same in another way than `Strandel::WriteEdited`, without sidecars and without asking beforehand; of a
+/// link it is the file that it leads to.
+EditResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QString& name,
+                      const std::vector<ioPath>& photos, const WriteSide& write,
                       const std::atomic<bool>& cancelled, const UndoProgress& progress);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -1,27 +1,28 @@
 #pragma once
 
+#include <host/FileVerdicts.h>
 #include <host/ImportSources.h>
 
 #include <zenvora/core/ioPath.h>
 
+#include <atomic>
 #include <cstdint>
+#include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
-/// Something that would be in the way of taking files in, or of saving them where they lie.
+/// What commands do to files.
+enum class FileAct { Import, Rename, Rotate, ShiftDate, SetDate, Trash };
+
+/// Something that a command would refuse.
 struct CheckFinding {
-  enum class Kind {
-    Unreadable,  ///< A file that cannot be read, or a folder that could not be looked through.
-    Format,      ///< A format that can be read but not written.
-    Space,       ///< A volume on which the files have no room a second time.
-    Folder,      ///< A folder in which no file can be made.
-    File,        ///< A file that cannot be written.
-  };
-  Kind kind = Kind::Unreadable;
+  FileVerdict::Kind kind = FileVerdict::Kind::Done;
   ioPath path;
-  std::string text;  ///< A sentence for a person.
+  std::string text;  ///< In the words in which the command itself would say it.
+  std::set<FileAct> acts;
 };
 
 /// How much saving the files anew would take on one volume.
@@ -34,14 +35,29 @@ struct CheckedVolume {
 
 struct CheckReport {
   std::size_t files = 0;
-  /// Ordered by kind, as the checks are made, and then by path.
+  /// Ordered by path, then by kind.
   std::vector<CheckFinding> findings;
   std::vector<CheckedVolume> volumes;
+  /// What edits of all of the photos would replace: those that are not refused, with their sidecars.
+  std::vector<ioPath> edited;
+  bool cancelled = false;
 };
 
-/// Makes all of the library's checks of the files and lists everything that they find, where the checks
-/// themselves stop at the first: each is asked for one folder, one file at a time. Changes nothing. Blocks on
-/// the disk; main thread only, as all that translates.
-CheckReport CheckFiles(const GatheredSources& sources);
+struct CheckOptions {
+  /// What is asked for; all by default.
+  std::set<FileAct> acts = {FileAct::Import,    FileAct::Rename,  FileAct::Rotate,
+                            FileAct::ShiftDate, FileAct::SetDate, FileAct::Trash};
+  /// Set from any thread to stop soon; the report then tells of some files only.
+  const std::atomic<bool>* cancel = nullptr;
+  /// Photos done, photos in all.
+  std::function<void(std::size_t, std::size_t)> progress;
+};
+
+/// Asks for each file what each of the commands would say of it. `arguments`: what a person named (absolute
+/// paths), `sources`: what `GatherSources` made of it; a folder stands for all photos in it and below. Where an
+/// answer depends on what a command is told, that is listed which holds whatever it is told. Changes nothing.
+/// Blocks on the disk: for edits each photo is read whole and edited in memory. Throws `HostError`.
+CheckReport CheckFiles(const std::vector<ioPath>& arguments, const GatheredSources& sources,
+                       const CheckOptions& options);
 
 }  // namespace Zenvora::Lumidex::Host
