@@ -67,9 +67,11 @@ struct Content {
   std::int64_t modifiedNs = 0;
 };
 
+/// Exiv2 counts in 32 bits on some systems, and so does TIFF.
+constexpr std::uint64_t kMostBytes = (std::uint64_t{1} << 31U) - 1;
+constexpr char kTooLarge[] = "it is larger than 2 GiB";
+
 Content ReadWhole(const ioPath& photo) {
-  // Exiv2 counts in 32 bits on some systems, and so does TIFF.
-  constexpr std::uint64_t kMostBytes = (std::uint64_t{1} << 31U) - 1;
   const FileState before = QueryFile(photo);
   PhotoSource source;
   Open(source, photo);
@@ -79,7 +81,7 @@ Content ReadWhole(const ioPath& photo) {
     throw EditRefusal(cause);
   }
   if (source.Size() > kMostBytes) {
-    throw EditRefusal("it is larger than 2 GiB");
+    throw EditRefusal(kTooLarge);
   }
   Content content;
   content.format = *format;
@@ -305,7 +307,9 @@ std::string WhyNotEditable(const ioPath& photo) {
   try {
     PhotoSource source;
     Open(source, photo);
-    static_cast<void>(AskFormat(source, cause));
+    if (AskFormat(source, cause) && source.Size() > kMostBytes) {
+      cause = kTooLarge;
+    }
   } catch (const EditRefusal& refusal) {
     cause = refusal.what();
   }

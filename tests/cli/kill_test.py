@@ -6,6 +6,7 @@ lumidex recovers. Then
   - every picture is there once, byte for byte as it was before the batch or as an undisturbed run makes it,
   - the catalogue of a first scan is not there yet, or sound,
   - a rename is done as a whole or not at all,
+  - a photo and its sidecar are both edited or neither,
   - no side file is left, neither among the photos nor in the undo folder,
   - symbolic links lead to the photos that they led to before, or to where undo brings them back,
   - a scan that finds photos moved by others knows each again: its tag is where the photo is,
@@ -21,6 +22,7 @@ import hashlib
 import json
 import os
 import random
+import re
 import shutil
 import signal
 import sqlite3
@@ -126,8 +128,19 @@ class Catalogue:
         return sorted(name for name in os.listdir(self.kept) if name not in ("lock", "reserve")) if os.path.isdir(self.kept) else []
 
 
+SIDECAR = """<?xpacket begin="" id="W5M0MpCehiHzreSzNTczkc9d"?>
+<x:xmpmeta xmlns:x="adobe:ns:meta/"><rdf:RDF xmlns:rdf="http://www.w3.org/1999/02/22-rdf-syntax-ns#">
+ <rdf:Description rdf:about="" xmlns:xmp="http://ns.adobe.com/xap/1.0/" xmlns:tiff="http://ns.adobe.com/tiff/1.0/"
+  xmp:Label="photo {}" xmp:CreateDate="2024-05-17T10:00:00" tiff:Orientation="1"/>
+</rdf:RDF></x:xmpmeta>
+<?xpacket end="w"?>"""
+
+
 def picture(content, name):
-    """What no edit may touch: the coded picture of a JPEG file, from its start of scan on."""
+    """What no edit may touch: the coded picture of a JPEG file, from its start of scan on; of a sidecar all but its
+    date and its orientation."""
+    if name.endswith(".xmp"):
+        return hashlib.sha1(re.sub(rb'(CreateDate|Orientation)="[^"]*"', rb"\1", content)).hexdigest()
     at = 2
     while True:
         require(content[at] == 0xFF, f"{name} is no JPEG file any more")
@@ -167,6 +180,11 @@ def check(before, now, expected, is_rename, what):
         require(name in before, f"{what}: {name} is new")
         require(entry in (before[name], expected[name]),
                 f"{what}: {name} is neither the old nor the new photo")
+    for name in (name for name in now if name.endswith(".xmp")):
+        photo = name[:-len("xmp")] + "jpg"
+        if expected[name] != before[name] and expected[photo] != before[photo]:
+            require((now[name] == before[name]) == (now[photo] == before[photo]),
+                    f"{what}: only one of {photo} and its sidecar is edited")
 
 
 def play(catalogue, spare, batch, arguments, random_source, duration):
@@ -280,9 +298,12 @@ def main():
     os.makedirs(catalogue.links)
     # Pictures that are alike could be told from each other by nothing.
     seen = set()
-    for name, entry in catalogue.snapshot().items():
+    for number, (name, entry) in enumerate(catalogue.snapshot().items()):
         if entry[2] in seen:
             os.remove(os.path.join(catalogue.photos, name))
+        elif number % 2 == 0:
+            with open(os.path.join(catalogue.photos, name[:-len("jpg")] + "xmp"), "w", encoding="utf-8") as sidecar:
+                sidecar.write(SIDECAR.format(number))
         seen.add(entry[2])
     names = sorted(catalogue.snapshot())
     for number, name in enumerate(names[::7]):
@@ -315,7 +336,7 @@ def main():
     except Failed as failure:
         print(f"kill_test: round {number}: {failure}; the folder is kept: {root}", file=sys.stderr)
         return 1
-    print(f"kill_test: {arguments.rounds} rounds over {len(catalogue.snapshot())} photos, {killed} killed, {partly} of them"
+    print(f"kill_test: {arguments.rounds} rounds over {len(catalogue.snapshot())} photos and sidecars, {killed} killed, {partly} of them"
           " with something done: nothing was lost")
     shutil.rmtree(root, ignore_errors=True)
     return 0

@@ -1,8 +1,5 @@
 #include "ImportFixture.h"
 
-#include <LumidexUtil/CheckFilesReadable.h>
-#include <LumidexUtil/CheckFormatsWritable.h>
-#include <LumidexUtil/CheckSaveAvailable.h>
 #include <host/SaveChecks.h>
 #include <support/LeftOut.h>
 #include <support/Unprivileged.h>
@@ -14,114 +11,152 @@
 namespace Zenvora::Lumidex::Host {
 namespace {
 
-using Kind = CheckFinding::Kind;
-using testing::ElementsAre;
+using Kind = FileVerdict::Kind;
+using Acts = std::set<FileAct>;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
+const Acts kEdits = {FileAct::Rotate, FileAct::ShiftDate, FileAct::SetDate};
+
 class SaveChecking : public ImportTest {
  protected:
-  std::vector<DataModel> Items() {
-    std::vector<DataModel> items;
-    for (const ImportSource& file : GatherSources({Card()}).files) {
-      DataModel item;
-      item.SetPath(file.path);
-      item.SetSize(file.state.size);
-      items.push_back(item);
-    }
-    return items;
+  static CheckReport Check(const std::vector<ioPath>& sources, const CheckOptions& options = {}) {
+    return CheckFiles(sources, GatherSources(sources), options);
   }
-  static std::vector<ioPath> PathsOf(const CheckReport& report, Kind kind) {
-    std::vector<ioPath> paths;
+  CheckReport Check() const { return Check({Card()}); }
+  /// The kind of each file's one finding; `Done`: none.
+  static Kind KindOf(const CheckReport& report, const ioPath& file, const Acts& acts) {
     for (const CheckFinding& finding : report.findings) {
-      if (finding.kind == kind) {
-        paths.push_back(finding.path);
+      if (finding.path == file && finding.acts == acts) {
+        return finding.kind;
       }
     }
-    return paths;
-  }
-  static std::string FirstText(const CheckReport& report, Kind kind) {
-    for (const CheckFinding& finding : report.findings) {
-      if (finding.kind == kind) {
-        return finding.text;
-      }
-    }
-    return "(none)";
+    return Kind::Done;
   }
 };
 
 TEST_F(SaveChecking, FindsNothingWhereNothingIsInTheWay) {
-  MakePhotos("card", 3);
-  const CheckReport report = CheckFiles(GatherSources({Card()}));
+  const auto photos = MakePhotos("card", 3);
+  const CheckReport report = Check();
   EXPECT_THAT(report.findings, IsEmpty());
   EXPECT_EQ(report.files, 3U);
+  EXPECT_EQ(report.edited, photos);
   ASSERT_THAT(report.volumes, SizeIs(1));
   EXPECT_EQ(report.volumes[0].files, 3U);
   EXPECT_GT(report.volumes[0].bytesFree, 0);
 }
 
-TEST_F(SaveChecking, ListsEveryFormatThatCannotBeWrittenTheLibrarysFirst) {
-  for (const char* const name : {"card/a.nef", "card/b.jpg", "card/c.cr2"}) {
-    tree.Write(name, name);
-  }
-  const CheckReport report = CheckFiles(GatherSources({Card()}));
-  EXPECT_THAT(PathsOf(report, Kind::Format), ElementsAre(tree.Path("card/a.nef"), tree.Path("card/c.cr2")));
-  const auto [writable, text] = Util::CheckFormatsWritable({Items().front()});
-  EXPECT_FALSE(writable);
-  EXPECT_EQ(FirstText(report, Kind::Format), text.toStdString());
+TEST_F(SaveChecking, TellsForEachCommandWhatItRefuses) {
+  const ioPath whole = MakePhoto("card/whole.jpg", 1);
+  const ioPath undated = Zenvora::Test::WriteJpeg(tree.Path("card/undated.jpg"));
+  const ioPath text = tree.Write("card/text.jpg", "no picture");
+  const ioPath empty = tree.Write("card/empty.jpg", "");
+  const ioPath cut = tree.Write("card/cut.jpg", Zenvora::Test::ReadFile(whole).substr(0, 60));
+  const CheckReport report = Check();
+  EXPECT_EQ(KindOf(report, undated, {FileAct::ShiftDate}), Kind::Content);
+  EXPECT_EQ(KindOf(report, text, kEdits), Kind::Format);
+  EXPECT_EQ(KindOf(report, empty, kEdits), Kind::Content);
+  EXPECT_EQ(KindOf(report, cut, kEdits), Kind::Content);
+  EXPECT_THAT(report.findings, SizeIs(4));
+  EXPECT_THAT(report.edited, testing::UnorderedElementsAre(whole, undated));
 }
 
-TEST_F(SaveChecking, ListsEveryFolderTheLibrarysFirst) {
-  for (const char* const name : {"card/a/1.jpg", "card/b/1.jpg", "card/b/2.jpg", "card/c/1.jpg"}) {
-    tree.Write(name, name);
-  }
+TEST_F(SaveChecking, AnswersForOneCommandAlone) {
+  Zenvora::Test::WriteJpeg(tree.Path("card/undated.jpg"));
+  CheckOptions options;
+  options.acts = {FileAct::Rotate, FileAct::Import, FileAct::Trash, FileAct::Rename};
+  EXPECT_THAT(Check({Card()}, options).findings, IsEmpty());
+  options.acts = {FileAct::ShiftDate};
+  EXPECT_THAT(Check({Card()}, options).findings, SizeIs(1));
+}
+
+TEST_F(SaveChecking, SaysOfADateAtTheEndOfTheCalendarThatItCanBeShiftedBack) {
+  Zenvora::Test::PhotoTags tags;
+  tags.dateTimeOriginal = "9999:12:31 23:59:59";
+  Zenvora::Test::WriteJpeg(tree.Path("card/late.jpg"), tags);
+  EXPECT_THAT(Check().findings, IsEmpty());
+}
+
+TEST_F(SaveChecking, TellsOfNamesThatEditsDoNotTake) {
+  const ioPath notes = tree.Write("card/notes.txt", "");
+  const ioPath hidden = MakePhoto("card/.hidden.jpg", 1);
+  const CheckReport report = Check({notes, hidden});
+  EXPECT_EQ(KindOf(report, notes, kEdits), Kind::Name);
+  EXPECT_EQ(KindOf(report, hidden, kEdits), Kind::Name);
+  EXPECT_THAT(report.findings, SizeIs(2));
+}
+
+TEST_F(SaveChecking, TellsOfFoldersThatCannotBeWritten) {
+  const ioPath photo = MakePhoto("card/a/1.jpg", 1);
+  MakePhoto("card/b/1.jpg", 2);
   const auto access = std::make_shared<Zenvora::Test::FakeFolderAccess>();
-  access->closed = {tree.Path("card/a"), tree.Path("card/b")};
+  access->closed = {tree.Path("card/a")};
   const App::ServiceScope<App::IFolderAccess> scope(access);
-  const GatheredSources sources = GatherSources({Card()});
-  const CheckReport report = CheckFiles(sources);
-  EXPECT_THAT(PathsOf(report, Kind::Folder), ElementsAre(tree.Path("card/a"), tree.Path("card/b")));
-  const auto verdict = Util::CheckSaveAvailable(Items(), Util::CheckSaveAvailableMode::FolderPermission);
-  EXPECT_EQ(FirstText(report, Kind::Folder), verdict.second.toStdString());
-  EXPECT_THAT(PathsOf(report, Kind::Unreadable), SizeIs(3)) << "nor can files in such folders be reached";
+  const CheckReport report = Check();
+  EXPECT_EQ(KindOf(report, photo, kEdits), Kind::Folder);
+  EXPECT_EQ(KindOf(report, photo, {FileAct::Rename}), Kind::Folder);
+  EXPECT_EQ(KindOf(report, photo, {FileAct::Trash}), Kind::Folder);
+  EXPECT_THAT(report.findings, SizeIs(3));
+  RenamePlan plan;
+  plan.renames = {{photo, tree.Path("card/a/2.jpg")}, {tree.Path("card/b/1.jpg"), tree.Path("card/b/2.jpg")}};
+  const std::vector<UndoFinding> faults = FindRenameFaults(plan);
+  ASSERT_THAT(faults, SizeIs(1));
+  EXPECT_EQ(faults[0].cause, "Cannot rename " + photo.utf8string() +
+                                 ": its folder cannot be written to; change the permissions of " +
+                                 tree.Path("card/a").utf8string());
 }
 
-TEST_F(SaveChecking, FindsTheRoomMissingWhenTheLibraryDoes) {
-  MakePhotos("card", 2);
-  const auto disk = std::make_shared<Zenvora::Test::FakeDiskSpace>();
-  const App::ServiceScope<App::IDiskSpace> scope(disk);
-  std::uint64_t bytes = 0;
-  for (const DataModel& item : Items()) {
-    bytes += item.GetSize();
-  }
-  for (const std::int64_t free : {std::int64_t{-1}, std::int64_t{0}, std::int64_t{1},
-                                  static_cast<std::int64_t>(bytes) - 1, static_cast<std::int64_t>(bytes)}) {
-    disk->otherwise = free;
-    const bool blamed = Util::CheckSaveAvailable(Items(), Util::CheckSaveAvailableMode::DiskSpace).first !=
-                        Util::CheckSaveAvailableMode::None;
-    EXPECT_EQ(PathsOf(CheckFiles(GatherSources({Card()})), Kind::Space).size(), blamed ? 1U : 0U) << free;
-  }
+TEST_F(SaveChecking, TellsOfSidecarsThatCannotBeEditedAlong) {
+  const ioPath photo = MakePhoto("card/a.jpg", 1);
+  tree.Write("card/a.xmp", "<x:xmpmeta xmp:CreateDate=");
+  const CheckReport report = Check();
+  EXPECT_EQ(KindOf(report, photo, {FileAct::ShiftDate, FileAct::SetDate}), Kind::Sidecar);
+  ASSERT_THAT(report.findings, SizeIs(1));
+  EXPECT_THAT(report.findings[0].text, HasSubstr("a.xmp"));
+}
+
+TEST_F(SaveChecking, StopsSoon) {
+  MakePhotos("card", 3);
+  const std::atomic<bool> cancel{true};
+  CheckOptions options;
+  options.cancel = &cancel;
+  EXPECT_TRUE(Check({Card()}, options).cancelled);
 }
 
 #ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(SaveChecking, ListsEveryFileTheLibrarysFirst, Zenvora::Test::kAccessLists);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(SaveChecking, LeavesWhatIsWriteProtectedAlone, Zenvora::Test::kAccessLists);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(SaveChecking, TellsOfWhatAUserMayNotRead, Zenvora::Test::kAccessLists);
 #else
-TEST_F(SaveChecking, ListsEveryFileTheLibrarysFirst) {
-  const auto photos = MakePhotos("card", 4);
-  chmod(photos[0].native().c_str(), 0444);
-  chmod(photos[1].native().c_str(), 0);
+TEST_F(SaveChecking, LeavesWhatIsWriteProtectedAlone) {
+  // Also of the superuser, who could write to it.
+  const ioPath photo = MakePhoto("card/a.jpg", 1);
+  chmod(photo.native().c_str(), 0444);
+  const CheckReport report = Check();
+  EXPECT_EQ(KindOf(report, photo, kEdits), Kind::Protected);
+  ASSERT_THAT(report.findings, SizeIs(1)) << "renaming does not change the file";
+  EXPECT_EQ(report.findings[0].text, "Cannot edit " + photo.utf8string() +
+                                         ": it is write-protected; allow writing to it, or use --force");
+  EXPECT_FALSE(JudgeEdit({photo, {}}, [] {
+                 Strandel::PhotoEdit edit;
+                 edit.turn = Strandel::Turn::Left;
+                 return edit;
+               }(), true).IsRefused());
+}
+
+TEST_F(SaveChecking, TellsOfWhatAUserMayNotRead) {
+  const auto photos = MakePhotos("card", 3);
+  chmod(photos[0].native().c_str(), 0);
+  chmod(photos[1].native().c_str(), 0644);
   chmod(photos[2].native().c_str(), 0666);
-  chmod(photos[3].native().c_str(), 0444);
   chmod(Card().native().c_str(), 0777);
   Zenvora::Test::LetEverybodyIn(tree.Path());
-  const GatheredSources sources = GatherSources({Card()});
-  const std::vector<DataModel> items = Items();
   EXPECT_TRUE(Zenvora::Test::AskAsNobody([&] {
-    const CheckReport report = CheckFiles(sources);
-    const auto first = Util::CheckSaveAvailable(items, Util::CheckSaveAvailableMode::FilePermission);
-    return PathsOf(report, Kind::Unreadable) == std::vector<ioPath>{photos[1]} &&
-           PathsOf(report, Kind::File) == std::vector<ioPath>{photos[0], photos[1], photos[3]} &&
-           FirstText(report, Kind::File) == first.second.toStdString();
+    const CheckReport report = Check();
+    Acts unreadable = kEdits;
+    return KindOf(report, photos[0], unreadable) == Kind::Unreadable &&
+           KindOf(report, photos[0], {FileAct::Import}) == Kind::Unreadable &&
+           KindOf(report, photos[1], kEdits) == Kind::Protected && report.edited.size() == 1;
   }));
 }
 #endif

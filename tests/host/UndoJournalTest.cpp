@@ -640,7 +640,8 @@ TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
   for (const char* const column :
        {"photos DROP COLUMN tail", "photos DROP COLUMN latitude", "photos DROP COLUMN longitude",
         "photos DROP COLUMN reading", "photos DROP COLUMN edges", "photos DROP COLUMN content",
-        "photos DROP COLUMN camera_id", "steps DROP COLUMN kind", "steps DROP COLUMN day"}) {
+        "photos DROP COLUMN camera_id", "steps DROP COLUMN kind", "steps DROP COLUMN day",
+        "changes DROP COLUMN goes_with"}) {
     Sql(std::string("ALTER TABLE ") + column);
   }
   Sql("PRAGMA user_version = 2");

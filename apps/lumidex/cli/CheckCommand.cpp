@@ -6,6 +6,7 @@
 #include "Options.h"
 #include "Progress.h"
 #include "Sources.h"
+#include "StepRoom.h"
 #include "TerminalText.h"
 #include "TextTable.h"
 #include "ValueTexts.h"
@@ -136,7 +137,11 @@ void WriteActs(JsonWriter& json, const std::set<FileAct>& acts) {
   json.EndArray();
 }
 
-std::string Document(const CheckReport& report, const std::set<FileAct>& acts) {
+bool IsEdit(FileAct act) {
+  return act == FileAct::Rotate || act == FileAct::ShiftDate || act == FileAct::SetDate;
+}
+
+std::string Document(const CheckReport& report, const std::set<FileAct>& acts, const Host::JournalRoom& room) {
   JsonWriter json("lumidex.check", 1);
   WriteActs(json, acts);
   json.Number("files", static_cast<long long>(report.files));
@@ -164,6 +169,9 @@ std::string Document(const CheckReport& report, const std::set<FileAct>& acts) {
     json.EndObject();
   }
   json.EndArray();
+  if (std::any_of(acts.begin(), acts.end(), IsEdit)) {
+    WriteRoom(json, room, RoomWish());
+  }
   return json.Finish();
 }
 
@@ -204,7 +212,12 @@ std::string RefusedText(const CheckReport& report) {
   return text;
 }
 
-std::string ReportText(const CheckReport& report) {
+std::string EditRoomText(const Host::JournalRoom& room) {
+  const std::string text = RoomText(room, RoomWish());
+  return text.empty() ? text : Say(Words::tr("Of an edit of all these photos at once:")) + '\n' + text + '\n';
+}
+
+std::string ReportText(const CheckReport& report, const Host::JournalRoom& room) {
   if (report.files == 0 && report.findings.empty()) {
     return {};
   }
@@ -219,7 +232,8 @@ std::string ReportText(const CheckReport& report) {
                        : Say(Words::tr("%1 of them would be refused.", nullptr, Amount(refused.size())),
                              {GroupDigits(refused.size())})) +
       '\n';
-  return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + checked + outcome;
+  return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + EditRoomText(room) +
+         checked + outcome;
 }
 
 ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
@@ -234,11 +248,13 @@ ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
     report = Host::CheckFiles(named, Host::GatherSources(named), options);
   }
   ThrowIfInterrupted(Say(Words::tr("Interrupted. Nothing was changed.")).c_str());
-  session.output.Print(session.globals.json ? Document(report, options.acts) : ReportText(report));
+  const Host::JournalRoom room = RoomFor(session, report.edited, RoomWish());
+  session.output.Print(session.globals.json ? Document(report, options.acts, room) : ReportText(report, room));
   if (report.files == 0) {
     session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }
-  return report.findings.empty() && report.files > 0 ? ExitCode::Done : ExitCode::Findings;
+  const bool hasRoom = room.Fits() && room.forgotten.empty();
+  return report.findings.empty() && hasRoom && report.files > 0 ? ExitCode::Done : ExitCode::Findings;
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "Words.h"
 
 #include <LumidexUtil/UpdateStat.h>
+#include <host/FileVerdicts.h>
 #include <host/PhotoChoice.h>
 #include <host/RenameLinks.h>
 #include <host/RenamePattern.h>
@@ -107,7 +108,7 @@ class RenameRun {
       journal_.emplace(session_);
     }
     Plan();
-    if (!arguments_.dryRun && !view_.plan.renames.empty()) {
+    if (!arguments_.dryRun && !view_.plan.renames.empty() && view_.result.findings.empty()) {
       Rename();
     }
     session_.Count(ItemType::Photo, view_.shots, view_.result.files);
@@ -144,6 +145,7 @@ class RenameRun {
     view_.plan = Host::MakeRenamePlan(shots, pattern_, choice.entries, OptionsOf(arguments_));
     view_.plan.links = Host::PlanLinks(choice.links, view_.plan.renames);
     view_.refused = !view_.plan.problems.empty() && !arguments_.skipProblems;
+    view_.result.findings = Host::FindRenameFaults(view_.plan);
   }
 
   void FindDates(std::vector<Host::RenameShot>& shots) {

@@ -160,6 +160,9 @@ std::string OutcomeText(const RenameView& view) {
   if (view.plan.renames.empty()) {
     return Say(Words::tr("Nothing to rename.")) + '\n';
   }
+  if (view.result.files == 0 && !view.result.findings.empty()) {
+    return Say(Words::tr("Nothing was renamed.")) + '\n';
+  }
   const int shots = Amount(view.plan.shots);
   const std::string what = PhotosAndFilesText(view.plan.shots, view.plan.renames.size());
   if (view.dryRun) {
@@ -210,7 +213,7 @@ std::string PhotosAndFiles(std::size_t photos, std::size_t files) {
 }
 
 std::string RenameDocument(const RenameView& view) {
-  const bool done = view.dryRun || view.result.files > 0;
+  const bool done = (view.dryRun && view.result.findings.empty()) || view.result.files > 0;
   const std::size_t files = view.result.findings.empty() ? view.plan.renames.size() : view.result.files;
   JsonWriter json("lumidex.rename", 1);
   json.Path("catalogue", view.catalogue);

@@ -7,6 +7,7 @@
 #include <zenvora/strandel/SidecarEdit.h>
 #include <zenvora/tavolin/Trash.h>
 
+#include <cstdint>
 #include <exception>
 #include <filesystem>
 #include <system_error>
@@ -64,8 +65,11 @@ Kind KindOf(const ioPath& file, Kind otherwise) {
 
 FileVerdict JudgeEditing(const ioPath& photo, bool force) {
   if (const std::string cause = Strandel::WhyNotEditable(photo); !cause.empty()) {
-    const bool isEmpty = QueryFile(photo).size == 0;
-    return Refusal(KindOf(photo, isEmpty ? Kind::Content : Kind::Format), CannotEdit(photo) + cause);
+    // Nothing at all, and too much of it, are of no format.
+    constexpr std::uint64_t kHuge = std::uint64_t{1} << 31U;
+    const std::uint64_t size = QueryFile(photo).size;
+    const Kind kind = size == 0 || size >= kHuge ? Kind::Content : Kind::Format;
+    return Refusal(KindOf(photo, kind), CannotEdit(photo) + cause);
   }
   if (const std::string fault = FolderFault(photo); !fault.empty()) {
     return Refusal(Kind::Folder, CannotEdit(photo) + fault);
@@ -136,6 +140,16 @@ FileVerdict JudgeRename(const ioPath& file) {
                        : Refusal(Kind::Folder, "Cannot rename " + file.utf8string() + ": " + fault);
 }
 
+std::vector<UndoFinding> FindRenameFaults(const RenamePlan& plan) {
+  std::vector<UndoFinding> faults;
+  for (const RenameMove& move : plan.renames) {
+    if (FileVerdict verdict = JudgeRename(move.from); verdict.IsRefused()) {
+      faults.push_back({move.from, std::move(verdict.text)});
+    }
+  }
+  return faults;
+}
+
 FileVerdict JudgeTrash(const ioPath& photo) {
   const auto stays = [&photo](Kind kind, const std::string& why) {
     return Refusal(kind, photo.utf8string() + " stays: " + why + ".");
@@ -153,7 +167,7 @@ FileVerdict JudgeTrash(const ioPath& photo) {
 }
 
 FileVerdict JudgeImport(const ioPath& file) {
-  return OpensForReading(file) ? FileVerdict() : Refusal(KindOf(file, Kind::Unreadable), "It cannot be read");
+  return OpensForReading(file) ? FileVerdict() : Refusal(KindOf(file, Kind::Unreadable), kCannotBeRead);
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -9,6 +9,7 @@
 #include <LumidexUtil/CheckFilesReadable.h>
 #include <LumidexUtil/CheckFilesToCopyBeforeAdd.h>
 #include <LumidexUtil/CheckSaveAvailable.h>
+#include <host/FileVerdicts.h>
 #include <host/ImportPlan.h>
 
 #include <zenvora/core/FileProbes.h>
@@ -32,8 +33,6 @@ using Outcome = ImportPlan::Outcome;
 using LeftKind = LeftFile::Kind;
 /// Where to copy from (empty: it stays), and the path under which it is added.
 using PlannedPairs = QList<QPair<QString, QString>>;
-
-constexpr char kCannotBeRead[] = "It cannot be read";
 
 class Planner {
  public:

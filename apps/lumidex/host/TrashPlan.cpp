@@ -3,6 +3,7 @@
 #include "RenameNames.h"
 #include "ShotNames.h"
 
+#include <host/FileVerdicts.h>
 #include <host/Scanner.h>
 #include <host/ShotSets.h>
 #include <host/TrashPlan.h>
@@ -116,10 +117,8 @@ class Planner {
       Stay(photo.path, fault, false);
     } else if (!IsAsKnown(state, KnownAs(photo))) {
       Stay(photo.path, "it " + WhatIsWrong(state), false);
-    } else if (Tavolin::LiesInTrash(photo.path)) {
-      Stay(photo.path, "it is in a trash already", true);
-    } else if (IsLink(photo.path)) {
-      Stay(photo.path, "it is a link to another file", true);
+    } else if (FileVerdict verdict = JudgeTrash(photo.path); verdict.IsRefused()) {
+      plan_.stays.push_back({photo.path, std::move(verdict.text), verdict.kind == FileVerdict::Kind::Kept});
     } else if (kept_.count(state.identity) > 0) {
       Stay(photo.path, "it is another name of a file that is kept", true);
     } else if (ShotKey(photo.path) == ShotKey(kept)) {

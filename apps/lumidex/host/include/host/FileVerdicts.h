@@ -1,6 +1,7 @@
 #pragma once
 
 #include <host/PhotoEditing.h>
+#include <host/RenamePlan.h>
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/strandel/PhotoEdit.h>
@@ -59,9 +60,14 @@ FileVerdict JudgeFailure(const ioPath& photo, const std::string& failure);
 /// a file, so that write protection does not matter. Of a link it is the link that is renamed.
 FileVerdict JudgeRename(const ioPath& file);
 
+/// What stands against the renames of a plan, file by file; empty: nothing.
+std::vector<UndoFinding> FindRenameFaults(const RenamePlan& plan);
+
 /// Whether the photo could go to the trash when a group keeps another one in its stead.
 FileVerdict JudgeTrash(const ioPath& photo);
 
+/// The words for a file that an import leaves behind.
+constexpr char kCannotBeRead[] = "It cannot be read";
 /// Whether the file can be copied or added.
 FileVerdict JudgeImport(const ioPath& file);
 

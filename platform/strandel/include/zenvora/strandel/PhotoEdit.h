@@ -50,8 +50,8 @@ struct EditEffect {
   QDateTime takenAfter;
 };
 
-/// Why no photo of this file's format can be edited, by its content and not by its name; in English, without
-/// the file's name. Empty: its format can be edited, which says nothing yet of this one file. Blocks on the
+/// Why no photo of this file's format, or none so large, can be edited, by its content and not by its name; in
+/// English, without the file's name. Empty: it may be edited, which says nothing yet of what is in this file. Blocks on the
 /// disk; safe from any thread.
 ZENVORA_STRANDEL_EXPORT std::string WhyNotEditable(const ioPath& photo);
 
