@@ -38,7 +38,9 @@ class SidecarText {
   }
 
   const std::string& Utf8() const { return text_; }
-  std::string BytesOf(const std::string& text) const { return form_ == Form::Bytes ? text : mark_ + ToUtf16(text); }
+  std::string BytesOf(const std::string& text) const {
+    return form_ == Form::Bytes ? text : mark_ + ToUtf16(text);
+  }
 
  private:
   enum class Form { Bytes, BigEndian, LittleEndian };
@@ -50,14 +52,15 @@ class SidecarText {
     };
     return begins('\xFE', '\xFF') || begins('\0', '<')   ? Form::BigEndian
            : begins('\xFF', '\xFE') || begins('<', '\0') ? Form::LittleEndian
-                                                          : Form::Bytes;
+                                                         : Form::Bytes;
   }
 
   std::string FromUtf16(const std::string& bytes) const {
     QString text(static_cast<int>(bytes.size() / 2), Qt::Uninitialized);
     for (int i = 0; i < text.size(); ++i) {
       const char* const unit = bytes.data() + std::ptrdiff_t{2} * i;
-      text[i] = QChar(form_ == Form::BigEndian ? qFromBigEndian<quint16>(unit) : qFromLittleEndian<quint16>(unit));
+      text[i] =
+          QChar(form_ == Form::BigEndian ? qFromBigEndian<quint16>(unit) : qFromLittleEndian<quint16>(unit));
     }
     return text.toStdString();
   }
@@ -83,8 +86,8 @@ std::string WithoutDeclaration(std::string text) {
   const std::size_t begin = text.find("<?xml ");
   const std::size_t end = begin == std::string::npos ? begin : text.find("?>", begin);
   if (end != std::string::npos) {
-    std::fill(text.begin() + static_cast<std::ptrdiff_t>(begin), text.begin() + static_cast<std::ptrdiff_t>(end) + 2,
-              ' ');
+    std::fill(text.begin() + static_cast<std::ptrdiff_t>(begin),
+              text.begin() + static_cast<std::ptrdiff_t>(end) + 2, ' ');
   }
   return text;
 }
@@ -121,11 +124,12 @@ Exiv2::ExifData ExifOf(const ioPath& photo) {
 
 /// Anything else in a file is none of an edit's business, damaged or not.
 bool NamesWhatChanges(const std::string& text, const PhotoEdit& edit) {
-  static constexpr std::array<const char*, 6> kDates = {"DateTimeOriginal", "DateCreated", "DateTimeDigitized",
-                                                        "CreateDate",       "DateTime",    "ModifyDate"};
+  static constexpr std::array<const char*, 6> kDates = {
+      "DateTimeOriginal", "DateCreated", "DateTimeDigitized", "CreateDate", "DateTime", "ModifyDate"};
   const auto isThere = [&text](const char* name) { return text.find(name) != std::string::npos; };
   return (edit.turn != Turn::None && isThere("Orientation")) ||
-         ((edit.shift.count() != 0 || edit.date.isValid()) && std::any_of(kDates.begin(), kDates.end(), isThere));
+         ((edit.shift.count() != 0 || edit.date.isValid()) &&
+          std::any_of(kDates.begin(), kDates.end(), isThere));
 }
 
 void ChangeInPlace(std::string& text, const XmpChange& change) {
@@ -220,7 +224,8 @@ bool TryEditSidecar(const ioPath& sidecar, const ioPath& photo, const PhotoEdit&
   return Explaining(sidecar, [&] { return Edited(ReadWhole(sidecar), photo, edit).has_value(); });
 }
 
-bool WriteEditedSidecar(const ioPath& sidecar, const ioPath& side, const ioPath& photo, const PhotoEdit& edit) {
+bool WriteEditedSidecar(const ioPath& sidecar, const ioPath& side, const ioPath& photo,
+                        const PhotoEdit& edit) {
   return Explaining(sidecar, [&] {
     const std::int64_t modifiedNs = QueryFile(sidecar).modifiedNs;
     const std::optional<std::string> bytes = Edited(ReadWhole(sidecar), photo, edit);

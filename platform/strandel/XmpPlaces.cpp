@@ -31,7 +31,7 @@ struct Element {
   std::string space;
   std::string_view name;  ///< As it is written.
   std::size_t content = 0;
-  bool isPlain = true;        ///< No other element lies in it.
+  bool isPlain = true;           ///< No other element lies in it.
   std::size_t spacesBefore = 0;  ///< Name spaces that were known outside of it.
 };
 
@@ -210,7 +210,8 @@ class Scanner {
     if (colon == std::string_view::npos && !isElement) {
       return {};
     }
-    const std::string_view prefix = colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);
+    const std::string_view prefix =
+        colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);
     const auto found = std::find_if(spaces_.rbegin(), spaces_.rend(),
                                     [prefix](const auto& space) { return space.first == prefix; });
     return found == spaces_.rend() ? std::string() : found->second;

@@ -1,5 +1,5 @@
-// What check, a dry run and the run say of every file, side by side: of made files, whole and damaged, always,
-// and of the folder that LUMIDEX_TEST_PHOTOS names.
+// What check, a dry run and the run say of every file, side by side: of made files, whole and damaged,
+// always, and of the folder that LUMIDEX_TEST_PHOTOS names.
 #include "ChangeFixture.h"
 
 #include <support/LeftOut.h>
@@ -77,7 +77,8 @@ class CheckTruth : public ChangeTest {
   }
 
   static std::string Sidecar(const std::string& attributes) {
-    return "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+    return "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF "
+           "xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
            "<rdf:Description rdf:about=\"\" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\""
            " xmlns:tiff=\"http://ns.adobe.com/tiff/1.0/\" " +
            attributes + "/></rdf:RDF></x:xmpmeta>";
@@ -108,7 +109,10 @@ class CheckTruth : public ChangeTest {
     PhotoTags undated;
     undated.model = "X";
     tree.Write("photos/undated.jpg", MakeJpeg(undated));
-    tree.Write("photos/heic.heic", std::string("\0\0\0\x18" "ftypheic\0\0\0\0mif1heic", 24) + std::string(200, 'x'));
+    tree.Write("photos/heic.heic", std::string("\0\0\0\x18"
+                                               "ftypheic\0\0\0\0mif1heic",
+                                               24) +
+                                       std::string(200, 'x'));
     tree.Write("photos/words.dng", "this is no picture");
     tree.MakeFolder("photos/folder.jpg");
   }
@@ -152,7 +156,8 @@ TEST_F(CheckTruth, SaysOfWhatCannotBeTouchedWhatBecomesOfIt) {
   const Ran check = Run({"check", "photos"});
   EXPECT_EQ(check.exitCode, 1);
   EXPECT_THAT(check.out, HasSubstr("huge.jpg: it is larger than 2 GiB\n"));
-  EXPECT_THAT(check.out, HasSubstr("protected.jpg: it is write-protected; allow writing to it, or use --force\n"));
+  EXPECT_THAT(check.out,
+              HasSubstr("protected.jpg: it is write-protected; allow writing to it, or use --force\n"));
   EXPECT_THAT(check.out, HasSubstr("3 files checked; 2 of them would be refused.\n"));
 }
 
@@ -162,12 +167,16 @@ TEST_F(CheckTruth, TakesNothingForWhatItIsNotAskedFor) {
   EXPECT_EQ(Run({"check", "--for", "rotate", "photos"}).exitCode, 1);
   const Ran wrong = Run({"check", "--for", "rotate,turn", "photos"});
   EXPECT_EQ(wrong.exitCode, 2);
-  EXPECT_THAT(wrong.err, HasSubstr("--for must be of import, rename, rotate, shift-date, set-date, trash, not \"turn\""));
+  EXPECT_THAT(
+      wrong.err,
+      HasSubstr("--for must be of import, rename, rotate, shift-date, set-date, trash, not \"turn\""));
 }
 
 TEST_F(CheckTruth, NeverSpeaksOfWhatNoCommandDoes) {
   tree.Write("photos/a.nef", "raw");
-  tree.Write("photos/a.heic", std::string("\0\0\0\x18" "ftypheic\0\0\0\0mif1heic", 24));
+  tree.Write("photos/a.heic", std::string("\0\0\0\x18"
+                                          "ftypheic\0\0\0\0mif1heic",
+                                          24));
   EXPECT_THAT(Run({"check", "photos"}).out, Not(HasSubstr("converted")));
 }
 
@@ -183,7 +192,8 @@ TEST_F(CheckTruth, LeavesWhatIsWriteProtectedToForce) {
   EXPECT_EQ(ReadFile(photo), before);
   const Ran forced = Run({"rotate", "--force", "right", "photos"});
   EXPECT_EQ(forced.exitCode, 0);
-  EXPECT_THAT(forced.out, HasSubstr("edited along with them.\n1 photo edited; \"lumidex undo\" takes it back.\n"));
+  EXPECT_THAT(forced.out,
+              HasSubstr("edited along with them.\n1 photo edited; \"lumidex undo\" takes it back.\n"));
   EXPECT_NE(ReadFile(photo), before);
   EXPECT_THAT(ReadFile(sidecar), HasSubstr("tiff:Orientation=\"6\""));
   EXPECT_EQ(Run({"undo"}).exitCode, 0);
@@ -208,7 +218,8 @@ TEST_F(CheckTruth, AgreesWithTheRunsOnRealPhotos) {
   }
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     if (entry.is_regular_file()) {
-      const ioPath copy = tree.Write(ioPath("photos") / ioPath(entry.path().filename()), ReadFile(ioPath(entry.path())));
+      const ioPath copy =
+          tree.Write(ioPath("photos") / ioPath(entry.path().filename()), ReadFile(ioPath(entry.path())));
       std::filesystem::permissions(copy.for_system(), std::filesystem::perms(0644));
     }
   }
@@ -222,8 +233,11 @@ TEST_F(CheckTruth, NeverOpensAPipe) {
   ASSERT_EQ(mkfifo((Photos() / "pipe.jpg").native().c_str(), 0644), 0);
   ExpectOneTruth();
   const std::string text = (Photos() / "pipe.jpg").utf8string() + " is neither a file nor a folder.";
-  EXPECT_EQ(Findings(Run({"check", "--json", "--for", "rotate", "photos/pipe.jpg"}).Json(), "text").begin()->second, text);
-  EXPECT_EQ(Findings(Run({"rotate", "--json", "left", "photos/pipe.jpg"}).Json(), "cause").begin()->second, text);
+  EXPECT_EQ(
+      Findings(Run({"check", "--json", "--for", "rotate", "photos/pipe.jpg"}).Json(), "text").begin()->second,
+      text);
+  EXPECT_EQ(Findings(Run({"rotate", "--json", "left", "photos/pipe.jpg"}).Json(), "cause").begin()->second,
+            text);
 }
 
 #else

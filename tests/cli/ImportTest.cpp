@@ -255,7 +255,7 @@ TEST_F(CheckCommand, ListsEverythingAtOnce) {
   EXPECT_EQ(report["files"].toInt(), 3);
   EXPECT_EQ(report["findings"].toArray().size(), 2);
   EXPECT_EQ(report["volumes"].toArray().size(), 1);
-  EXPECT_THAT(Run({"check", Text(Photos())}).out, HasSubstr("2 things in the way"));
+  EXPECT_THAT(Run({"check", Text(Photos())}).out, HasSubstr("2 of them would be refused."));
 }
 
 TEST_F(CheckCommand, NeedsFilesThatExist) {
@@ -276,7 +276,7 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, AsksOnATerminal,
 
 TEST_F(CheckCommand, NeverWaitsForPipes) {
   MakePhotos("a", "2024:01:02", 1);
-  EXPECT_EQ(RunShell("mkfifo photos/pipe.jpg && ln -s /dev/zero photos/zero.jpg && $LUMIDEX check photos "
+  EXPECT_EQ(RunShell("mkfifo photos/pipe.jpg && ln -s /dev/zero photos/zero.jpg && $LUMIDEX check --for rename photos "
                      "photos/pipe.jpg && $LUMIDEX import photos photos/pipe.jpg --to copies")
                 .exitCode,
             1)

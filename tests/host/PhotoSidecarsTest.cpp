@@ -23,7 +23,8 @@ class PhotoSidecars : public testing::Test {
 };
 
 TEST_F(PhotoSidecars, BelongToThePhotoThatTheyName) {
-  for (const char* const name : {"a.jpg", "a.CR2", "a.jpg.xmp", "a.CR2.xmp", "a_01.CR2.XMP", "b.xmp", "a.txt", ".a.xmp"}) {
+  for (const char* const name :
+       {"a.jpg", "a.CR2", "a.jpg.xmp", "a.CR2.xmp", "a_01.CR2.XMP", "b.xmp", "a.txt", ".a.xmp"}) {
     Make(name);
   }
   EXPECT_THAT(Of(Path("a.jpg")), ElementsAre(Path("a.jpg.xmp")));

@@ -137,11 +137,15 @@ TEST_F(SaveChecking, LeavesWhatIsWriteProtectedAlone) {
   ASSERT_THAT(report.findings, SizeIs(1)) << "renaming does not change the file";
   EXPECT_EQ(report.findings[0].text, "Cannot edit " + photo.utf8string() +
                                          ": it is write-protected; allow writing to it, or use --force");
-  EXPECT_FALSE(JudgeEdit({photo, {}}, [] {
-                 Strandel::PhotoEdit edit;
-                 edit.turn = Strandel::Turn::Left;
-                 return edit;
-               }(), true).IsRefused());
+  EXPECT_FALSE(JudgeEdit(
+                   {photo, {}},
+                   [] {
+                     Strandel::PhotoEdit edit;
+                     edit.turn = Strandel::Turn::Left;
+                     return edit;
+                   }(),
+                   true)
+                   .IsRefused());
 }
 
 TEST_F(SaveChecking, TellsOfWhatAUserMayNotRead) {

@@ -87,7 +87,8 @@ TEST_F(SidecarJournal, ReplacesTheOtherWhenItStoppedBetweenThem) {
     Open();
     ExpectBoth("after");
     EXPECT_EQ(journal_->Steps()[0].files, 2U);
-    EXPECT_EQ(journal_->RecoveryNotes().front(), "\"edit\" had been broken off after 1 photo. The others are as they were.");
+    EXPECT_EQ(journal_->RecoveryNotes().front(),
+              "\"edit\" had been broken off after 1 photo. The others are as they were.");
     EXPECT_THAT(Undo().findings, IsEmpty());
     ExpectBoth("before");
   }

@@ -44,12 +44,13 @@ std::string Packet(const std::string& attributes, const std::string& elements = 
          "  <rdf:Description rdf:about=\"\" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\"\n"
          "    xmlns:exif=\"http://ns.adobe.com/exif/1.0/\" xmlns:tiff='http://ns.adobe.com/tiff/1.0/'\n"
          "    xmlns:photoshop=\"http://ns.adobe.com/photoshop/1.0/\"\n    " +
-         attributes + ">\n" + elements +
-         "  </rdf:Description>\n </rdf:RDF>\n</x:xmpmeta>\n" + std::string(300, ' ') + "\n<?xpacket end=\"w\"?>";
+         attributes + ">\n" + elements + "  </rdf:Description>\n </rdf:RDF>\n</x:xmpmeta>\n" +
+         std::string(300, ' ') + "\n<?xpacket end=\"w\"?>";
 }
 
 std::string Replaced(std::string text, const std::string& before, const std::string& after) {
-  for (std::size_t at = text.find(before); at != std::string::npos; at = text.find(before, at + after.size())) {
+  for (std::size_t at = text.find(before); at != std::string::npos;
+       at = text.find(before, at + after.size())) {
     text.replace(at, before.size(), after);
   }
   return text;
@@ -116,13 +117,16 @@ class SidecarEdits : public testing::Test {
 };
 
 TEST_F(SidecarEdits, ChangeTheValuesAndNoOtherByte) {
-  const std::string dates = "exif:DateTimeOriginal=\"2024-05-17T10:00:00\" xmp:CreateDate='2024-05-17T10:00:00+02:00'\n"
-                            "xmp:ModifyDate = \"2024-05-18T23:30\" xmp:MetadataDate=\"2024-05-17T10:00:00\"\n"
-                            "tiff:Orientation=\"6\" xmp:Rating=\"5\"";
-  const std::string elements = "<photoshop:DateCreated>\n 2024-05-17T10:00:00.25 </photoshop:DateCreated>\n"
-                               "<!-- <xmp:CreateDate>2024-05-17T10:00:00+02:00</xmp:CreateDate> -->";
+  const std::string dates =
+      "exif:DateTimeOriginal=\"2024-05-17T10:00:00\" xmp:CreateDate='2024-05-17T10:00:00+02:00'\n"
+      "xmp:ModifyDate = \"2024-05-18T23:30\" xmp:MetadataDate=\"2024-05-17T10:00:00\"\n"
+      "tiff:Orientation=\"6\" xmp:Rating=\"5\"";
+  const std::string elements =
+      "<photoshop:DateCreated>\n 2024-05-17T10:00:00.25 </photoshop:DateCreated>\n"
+      "<!-- <xmp:CreateDate>2024-05-17T10:00:00+02:00</xmp:CreateDate> -->";
   const std::string packet = Packet(dates, elements);
-  std::string shifted = Replaced(packet, "exif:DateTimeOriginal=\"2024-05-17T10", "exif:DateTimeOriginal=\"2024-05-17T11");
+  std::string shifted =
+      Replaced(packet, "exif:DateTimeOriginal=\"2024-05-17T10", "exif:DateTimeOriginal=\"2024-05-17T11");
   shifted = Replaced(shifted, "xmp:CreateDate='2024-05-17T10", "xmp:CreateDate='2024-05-17T11");
   shifted = Replaced(shifted, "2024-05-18T23:30", "2024-05-19T00:30");
   shifted = Replaced(shifted, "2024-05-17T10:00:00.25", "2024-05-17T11:00:00.25");
@@ -142,11 +146,13 @@ TEST_F(SidecarEdits, GiveATextMoreRoomThanItHad) {
 }
 
 TEST_F(SidecarEdits, FindPropertiesByTheirNameSpace) {
-  const std::string old = Replaced(Replaced(Packet("xmp:CreateDate=\"2024-05-17T10:00:00\""), "xmlns:xmp", "xmlns:xap"),
-                                   "xmp:CreateDate", "xap:CreateDate");
+  const std::string old =
+      Replaced(Replaced(Packet("xmp:CreateDate=\"2024-05-17T10:00:00\""), "xmlns:xmp", "xmlns:xap"),
+               "xmp:CreateDate", "xap:CreateDate");
   EXPECT_EQ(Edited(old, ShiftedBy(seconds(3600))), Replaced(old, "T10:00", "T11:00"));
   // The same name in another name space is another property.
-  const std::string other = Packet("xmlns:my=\"http://example.org/my/\" my:CreateDate=\"2024-05-17T10:00:00\"");
+  const std::string other =
+      Packet("xmlns:my=\"http://example.org/my/\" my:CreateDate=\"2024-05-17T10:00:00\"");
   EXPECT_EQ(Edited(other, ShiftedBy(seconds(3600))), other);
 }
 
@@ -159,7 +165,8 @@ TEST_F(SidecarEdits, KeepTheEncoding) {
   }
   EXPECT_EQ(Edited("\xEF\xBB\xBF" + plain, Turned(Turn::Left)), "\xEF\xBB\xBF" + turned);
   const std::string declared = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n";
-  EXPECT_EQ(Edited(Utf16(declared + plain, true, true), Turned(Turn::Left)), Utf16(declared + turned, true, true));
+  EXPECT_EQ(Edited(Utf16(declared + plain, true, true), Turned(Turn::Left)),
+            Utf16(declared + turned, true, true));
   EXPECT_EQ(Edited("<?xml version='1.0' encoding='UTF-8'?>" + plain, Turned(Turn::Left)),
             "<?xml version='1.0' encoding='UTF-8'?>" + turned);
 }
@@ -186,7 +193,8 @@ TEST_F(SidecarEdits, RefuseWhatTheyCannotChange) {
   const std::string dated = Packet("xmp:CreateDate=\"2024-05-17T10:00:00\"");
   const std::string name = tree.Path("a.xmp").utf8string();
   for (std::size_t size = dated.find("CreateDate=") + 30; size < dated.find("</x:xmpmeta>"); size += 7) {
-    EXPECT_THAT(Refusal(dated.substr(0, size), SetTo()), HasSubstr("Cannot edit " + name + ": its XMP data are damaged"))
+    EXPECT_THAT(Refusal(dated.substr(0, size), SetTo()),
+                HasSubstr("Cannot edit " + name + ": its XMP data are damaged"))
         << size;
   }
   EXPECT_THAT(Refusal(Packet("xmp:CreateDate=\"2024-05-17T10&#58;00:00\""), SetTo()),

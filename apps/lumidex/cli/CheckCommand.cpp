@@ -55,9 +55,10 @@ struct ActName {
   FileAct act;
   const char* name;  ///< Of the command; of the trash what people call it.
 };
-constexpr std::array kActs = {ActName{FileAct::Import, "import"},        ActName{FileAct::Rename, "rename"},
-                              ActName{FileAct::Rotate, "rotate"},        ActName{FileAct::ShiftDate, "shift-date"},
-                              ActName{FileAct::SetDate, "set-date"},     ActName{FileAct::Trash, "trash"}};
+constexpr std::array kActs = {
+    ActName{FileAct::Import, "import"},    ActName{FileAct::Rename, "rename"},
+    ActName{FileAct::Rotate, "rotate"},    ActName{FileAct::ShiftDate, "shift-date"},
+    ActName{FileAct::SetDate, "set-date"}, ActName{FileAct::Trash, "trash"}};
 
 struct CheckArguments {
   std::vector<std::string> files;
@@ -141,7 +142,8 @@ bool IsEdit(FileAct act) {
   return act == FileAct::Rotate || act == FileAct::ShiftDate || act == FileAct::SetDate;
 }
 
-std::string Document(const CheckReport& report, const std::set<FileAct>& acts, const Host::JournalRoom& room) {
+std::string Document(const CheckReport& report, const std::set<FileAct>& acts,
+                     const Host::JournalRoom& room) {
   JsonWriter json("lumidex.check", 1);
   WriteActs(json, acts);
   json.Number("files", static_cast<long long>(report.files));
@@ -249,7 +251,8 @@ ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
   }
   ThrowIfInterrupted(Say(Words::tr("Interrupted. Nothing was changed.")).c_str());
   const Host::JournalRoom room = RoomFor(session, report.edited, RoomWish());
-  session.output.Print(session.globals.json ? Document(report, options.acts, room) : ReportText(report, room));
+  session.output.Print(session.globals.json ? Document(report, options.acts, room)
+                                            : ReportText(report, room));
   if (report.files == 0) {
     session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }
@@ -269,7 +272,7 @@ void AddCheckCommand(CLI::App& program, Action& chosen) {
   command
       ->add_option("--for", arguments->acts,
                    "For which of import, rename, rotate, shift-date, set-date and trash, with commas between "
-                   "them. Usual: all.")
+                   "them. Default: all.")
       ->option_text("COMMANDS")
       ->transform(Text());
   command->callback([arguments, &chosen] {

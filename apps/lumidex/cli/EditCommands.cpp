@@ -241,7 +241,7 @@ class EditRun {
     if (result.files > 0) {
       view_.forgotten = journal_->Prune(view_.room.forgotten);
       if (arguments_.room.noUndo) {
-        view_.blocked = journal_->Get().BlockedBy(photos_);
+        view_.blocked = journal_->Get().BlockedBy(FilesToReplace());
       }
       view_.canBeUndone = journal_->CanUndoLast();
     }

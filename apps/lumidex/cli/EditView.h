@@ -27,10 +27,10 @@ struct EditView {
   std::string argument;  ///< As given.
   bool dryRun = false;
   bool interrupted = false;
-  std::size_t photos = 0;  ///< That were named, without those that cannot be edited by their names.
-  std::size_t edited = 0;  ///< Of a dry run: that could be.
+  std::size_t photos = 0;    ///< That were named, without those that cannot be edited by their names.
+  std::size_t edited = 0;    ///< Of a dry run: that could be.
   std::size_t sidecars = 0;  ///< Edited along with them.
-  bool turns = false;      ///< The orientation is what changes, not the date.
+  bool turns = false;        ///< The orientation is what changes, not the date.
   std::vector<TriedEdit> tried;
   std::vector<Host::UndoFinding> findings;
   Host::JournalRoom room;  ///< What undo has to keep and to forget for it.

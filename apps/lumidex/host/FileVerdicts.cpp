@@ -80,8 +80,8 @@ FileVerdict JudgeEditing(const ioPath& photo, bool force) {
   return {};
 }
 
-FileVerdict JudgeSidecar(const ioPath& sidecar, const ioPath& photo, const Strandel::PhotoEdit& edit, bool force,
-                         bool& changes) {
+FileVerdict JudgeSidecar(const ioPath& sidecar, const ioPath& photo, const Strandel::PhotoEdit& edit,
+                         bool force, bool& changes) {
   const auto refusal = [&photo](const std::string& cause) {
     return Refusal(Kind::Sidecar, CannotEdit(photo) + cause);
   };

@@ -59,7 +59,9 @@ class EditRunner {
   }
 
  private:
-  void Find(const EditTask& task, const std::string& cause) { result_.findings.push_back({task.photo, cause}); }
+  void Find(const EditTask& task, const std::string& cause) {
+    result_.findings.push_back({task.photo, cause});
+  }
 
   void Take(const EditTask& task) {
     const FileVerdict verdict = write_ ? FileVerdict() : JudgeEditing(task.photo, order_.force);

@@ -78,8 +78,8 @@ UndoFinding FindingOf(const HostError& failure) {
 std::vector<std::vector<ChangeRow>> GroupChanges(std::vector<ChangeRow> changes) {
   std::vector<std::vector<ChangeRow>> groups;
   for (ChangeRow& change : changes) {
-    const bool joins = change.goesWith != 0 && !groups.empty() &&
-                       groups.back().front().number == change.goesWith;
+    const bool joins =
+        change.goesWith != 0 && !groups.empty() && groups.back().front().number == change.goesWith;
     if (!joins) {
       groups.emplace_back();
     }
@@ -683,8 +683,8 @@ std::size_t UndoJournal::Impl::SettleGroup(std::vector<ChangeRow>& group) {
   return files;
 }
 
-/// Of an edit that stopped between a photo and its sidecar: the other is replaced, too, or else the first gets
-/// its original back. Where neither can be done the notes say so.
+/// Of an edit that stopped between a photo and its sidecar: the other is replaced, too, or else the first
+/// gets its original back. Where neither can be done the notes say so.
 void UndoJournal::Impl::BringTogether(std::vector<ChangeRow>& group) {
   std::vector<const ChangeRow*> replaced;
   std::vector<const ChangeRow*> waiting;
@@ -709,8 +709,9 @@ void UndoJournal::Impl::BringTogether(std::vector<ChangeRow>& group) {
       ReplaceBack(change);
     }
   } catch (const Exception& failure) {
-    notes.push_back(group.front().path.utf8string() + " and its sidecar do not agree any more: only one of them is edited (" +
-                    failure.what() + ").");
+    notes.push_back(group.front().path.utf8string() +
+                    " and its sidecar do not agree any more: only one of them is edited (" + failure.what() +
+                    ").");
   }
 }
 

@@ -31,8 +31,8 @@ struct FileVerdict {
     Kept,        ///< It is never moved to the trash.
   };
   Kind kind = Kind::Done;
-  /// One English sentence that names the file, the cause and, where there is something, what to do. Empty when
-  /// it will be done.
+  /// One English sentence that names the file, the cause and, where there is something, what to do. Empty
+  /// when it will be done.
   std::string text;
 
   bool IsRefused() const { return kind != Kind::Done; }
@@ -51,8 +51,8 @@ EditVerdict JudgeEdit(const EditTask& task, const Strandel::PhotoEdit& edit, boo
 /// The part of it that a run asks before it writes anything: what it costs nothing to know.
 FileVerdict JudgeEditing(const ioPath& photo, bool force);
 /// The part that it asks of each sidecar; `changes`: whether the edit changes something in it.
-FileVerdict JudgeSidecar(const ioPath& sidecar, const ioPath& photo, const Strandel::PhotoEdit& edit, bool force,
-                         bool& changes);
+FileVerdict JudgeSidecar(const ioPath& sidecar, const ioPath& photo, const Strandel::PhotoEdit& edit,
+                         bool force, bool& changes);
 /// Of what the edit of the photo itself threw.
 FileVerdict JudgeFailure(const ioPath& photo, const std::string& failure);
 

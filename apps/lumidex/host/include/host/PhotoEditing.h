@@ -24,10 +24,10 @@ struct EditTask {
 };
 
 /// Finds the sidecars of photos (canonical paths, each once), in their order. "IMG_1.CR2.xmp" belongs to
-/// IMG_1.CR2. "IMG_1.xmp" belongs to the raw file of that shot, which is where programs look for it; without one
-/// to the first of the shot's photos, by path. So a sidecar is nobody's or one photo's, and stays as it is
-/// while only another format of the shot is edited. Links lead to the files that are edited. Reads each folder
-/// once; a folder that cannot be listed has no sidecars. Blocks on the disk.
+/// IMG_1.CR2. "IMG_1.xmp" belongs to the raw file of that shot, which is where programs look for it; without
+/// one to the first of the shot's photos, by path. So a sidecar is nobody's or one photo's, and stays as it
+/// is while only another format of the shot is edited. Links lead to the files that are edited. Reads each
+/// folder once; a folder that cannot be listed has no sidecars. Blocks on the disk.
 std::vector<EditTask> FindSidecars(const std::vector<ioPath>& photos);
 
 /// What one edit is to do.
@@ -46,9 +46,9 @@ struct EditResult : UndoResult {
 };
 
 /// Edits photos with their sidecars one after the other as one step of the journal. Each is replaced in one
-/// moment by a file that is on the disk already; until then nothing of it changes. A photo and its sidecars are
-/// edited together or not at all. What is refused (`JudgeEdit` says the same beforehand) or fails is a finding,
-/// and the others are edited; on `cancelled` those edited before stay edited.
+/// moment by a file that is on the disk already; until then nothing of it changes. A photo and its sidecars
+/// are edited together or not at all. What is refused (`JudgeEdit` says the same beforehand) or fails is a
+/// finding, and the others are edited; on `cancelled` those edited before stay edited.
 EditResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const EditOrder& order,
                       const std::vector<EditTask>& tasks, const std::atomic<bool>& cancelled,
                       const UndoProgress& progress);

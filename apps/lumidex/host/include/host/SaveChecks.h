@@ -54,9 +54,9 @@ struct CheckOptions {
 };
 
 /// Asks for each file what each of the commands would say of it. `arguments`: what a person named (absolute
-/// paths), `sources`: what `GatherSources` made of it; a folder stands for all photos in it and below. Where an
-/// answer depends on what a command is told, that is listed which holds whatever it is told. Changes nothing.
-/// Blocks on the disk: for edits each photo is read whole and edited in memory. Throws `HostError`.
+/// paths), `sources`: what `GatherSources` made of it; a folder stands for all photos in it and below. Where
+/// an answer depends on what a command is told, that is listed which holds whatever it is told. Changes
+/// nothing. Blocks on the disk: for edits each photo is read whole and edited in memory. Throws `HostError`.
 CheckReport CheckFiles(const std::vector<ioPath>& arguments, const GatheredSources& sources,
                        const CheckOptions& options);
 

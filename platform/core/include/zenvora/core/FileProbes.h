@@ -20,12 +20,12 @@ ZENVORA_CORE_EXPORT bool OpensForAppending(const ioPath& file) noexcept;
 /// Windows it is the read-only attribute alone that forbids.
 ZENVORA_CORE_EXPORT bool HasWritePermission(const ioPath& file) noexcept;
 
-/// True when the file's own permissions say that this user is not to write to it. The superuser, who could all
-/// the same, is told what they say to everybody: true when nobody may write. False for what is not there.
+/// True when the file's own permissions say that this user is not to write to it. The superuser, who could
+/// all the same, is told what they say to everybody: true when nobody may write. False for what is not there.
 ZENVORA_CORE_EXPORT bool IsWriteProtected(const ioPath& file) noexcept;
 
-/// False where the folder lets only owners rename, replace or remove what is in it, as the folder for temporary
-/// files does, and this user is not the owner. Says nothing of the folder's other permissions.
+/// False where the folder lets only owners rename, replace or remove what is in it, as the folder for
+/// temporary files does, and this user is not the owner. Says nothing of the folder's other permissions.
 ZENVORA_CORE_EXPORT bool IsOursToMove(const ioPath& file) noexcept;
 
 }  // namespace Zenvora

@@ -50,9 +50,9 @@ struct EditEffect {
   QDateTime takenAfter;
 };
 
-/// Why no photo of this file's format, or none so large, can be edited, by its content and not by its name; in
-/// English, without the file's name. Empty: it may be edited, which says nothing yet of what is in this file. Blocks on the
-/// disk; safe from any thread.
+/// Why no photo of this file's format, or none so large, can be edited, by its content and not by its name;
+/// in English, without the file's name. Empty: it may be edited, which says nothing yet of what is in this
+/// file. Blocks on the disk; safe from any thread.
 ZENVORA_STRANDEL_EXPORT std::string WhyNotEditable(const ioPath& photo);
 
 /// Writes a copy of the photo with other metadata to the new file `side`: the same picture, bit for bit, with

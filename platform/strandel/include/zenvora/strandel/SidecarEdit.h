@@ -7,8 +7,8 @@
 namespace Zenvora::Strandel {
 
 /// Edits of sidecars: files of XMP data (.xmp) beside photos. The dates and the orientation that such a file
-/// repeats are changed as those in the photo itself are, every other byte stays. A date or orientation that it
-/// does not have is not made. docs/decisions/metadata.md has the rules.
+/// repeats are changed as those in the photo itself are, every other byte stays. A date or orientation that
+/// it does not have is not made. docs/decisions/metadata.md has the rules.
 ///
 /// Both throw `PhotoEditError` naming the sidecar when it is no regular file, cannot be read, is larger than
 /// `kMostSidecarBytes`, or has such values and is damaged, keeps them in a form that cannot be changed in
@@ -20,9 +20,9 @@ constexpr std::size_t kMostSidecarBytes = std::size_t{16} << 20U;
 ZENVORA_STRANDEL_EXPORT bool TryEditSidecar(const ioPath& sidecar, const ioPath& photo,
                                             const PhotoEdit& edit);
 
-/// Writes the edited sidecar to the new file `side`, with the same permissions and time of change, on the disk
-/// when this returns. Returns false, and makes no file, when the edit changes nothing in it. Throws also when
-/// `side` exists or cannot be written; then there is no new file.
+/// Writes the edited sidecar to the new file `side`, with the same permissions and time of change, on the
+/// disk when this returns. Returns false, and makes no file, when the edit changes nothing in it. Throws also
+/// when `side` exists or cannot be written; then there is no new file.
 ZENVORA_STRANDEL_EXPORT bool WriteEditedSidecar(const ioPath& sidecar, const ioPath& side,
                                                 const ioPath& photo, const PhotoEdit& edit);
 
