@@ -118,7 +118,8 @@ class Planner {
     } else if (!IsAsKnown(state, KnownAs(photo))) {
       Stay(photo.path, "it " + WhatIsWrong(state), false);
     } else if (FileVerdict verdict = JudgeTrash(photo.path); verdict.IsRefused()) {
-      plan_.stays.push_back({photo.path, std::move(verdict.text), verdict.kind == FileVerdict::Kind::Kept});
+      plan_.stays.push_back(
+          {photo.path, std::move(verdict.text), verdict.kind == FileVerdict::Kind::Kept, {}});
     } else if (kept_.count(state.identity) > 0) {
       Stay(photo.path, "it is another name of a file that is kept", true);
     } else if (ShotKey(photo.path) == ShotKey(kept)) {
