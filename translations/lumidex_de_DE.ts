@@ -176,17 +176,8 @@
         <translation>Abgebrochen.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>„%1“</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>Kein Album wurde übernommen.</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>Davor übernommen: %1.</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -384,22 +375,6 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <translation>nicht lesbar</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>Format</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>Platz</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>Ordner</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>Laufwerk von</translation>
     </message>
@@ -421,18 +396,6 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <comment>free room</comment>
         <translation>unbekannt</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>Was</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>Wo</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>Warum</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -443,13 +406,6 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
     <message>
         <source>nothing is in the way.</source>
         <translation>nichts steht im Wege.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>%1 Hindernis.</numerusform>
-            <numerusform>%1 Hindernisse.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -530,13 +486,6 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
             <numerusform>%1 Fotos bearbeitet; „lumidex undo“ macht es rückgängig.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>%1 Foto bearbeitet.</numerusform>
-            <numerusform>%1 Fotos bearbeitet.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>Nicht bearbeitbar</translation>
@@ -581,10 +530,6 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>Nicht in den Katalog aufgenommen:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>Der Name ist nicht der eines Fotos</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -956,13 +901,6 @@ others are renamed.</source>
         <source>Moving</source>
         <translation>Verschiebe</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%1 Foto wie %2</numerusform>
-            <numerusform>%1 Fotos wie %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1063,10 +1001,6 @@ others are renamed.</source>
     <message>
         <source>PHOTO</source>
         <translation>FOTO</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>CLUSTER</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1583,6 +1517,448 @@ above %1 against; later photos move the centre.</source>
             <numerusform>%1 Foto geändert.</numerusform>
             <numerusform>%1 Fotos geändert.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>„lumidex undo“ macht es rückgängig.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>%1 Foto wurde ausgelassen, denn nur die Zeit seiner Datei datiert es. Um es aufzunehmen, rufen Sie auf: lumidex albums --file-times</numerusform>
+            <numerusform>%1 Fotos wurden ausgelassen, denn nur die Zeiten ihrer Dateien datieren sie. Um sie aufzunehmen, rufen Sie auf: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>Abgelehnt von %1</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>Zum Bearbeiten aller dieser Fotos auf einmal:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>%1 davon würde abgelehnt.</numerusform>
+            <numerusform>%1 davon würden abgelehnt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Prüfe</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>seine Begleitdatei</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>%1 Begleitdatei würde mit ihnen bearbeitet.</numerusform>
+            <numerusform>%1 Begleitdateien würden mit ihnen bearbeitet.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>%1 Begleitdatei mit ihnen bearbeitet.</numerusform>
+            <numerusform>%1 Begleitdateien mit ihnen bearbeitet.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>%1 Foto bearbeitet; das lässt sich nicht rückgängig machen.</numerusform>
+            <numerusform>%1 Fotos bearbeitet; das lässt sich nicht rückgängig machen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 von %2 Foto, aufgenommen am %3 oder später.</numerusform>
+            <numerusform>%1 von %2 Fotos, aufgenommen am %3 oder später.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 von %2 Foto, aufgenommen am %3 oder früher.</numerusform>
+            <numerusform>%1 von %2 Fotos, aufgenommen am %3 oder früher.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>In den angegebenen Ordnern sind keine Fotos oder Videos.</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>Die Datei ist versteckt</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>Die Datei ist weder ein Foto noch ein Video, noch gehört sie zu einem</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>„lumidex undo“ verschiebt die Kopien dieses Laufs in den Papierkorb.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>%1 Datei wird wie gewünscht nicht kopiert: Sie bleibt, wo sie ist.</numerusform>
+            <numerusform>%1 Dateien werden wie gewünscht nicht kopiert: Sie bleiben, wo sie sind.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>%1 Datei wird nicht kopiert: Sie liegt nicht auf einem Wechseldatenträger und bleibt, wo sie ist. „--to ORDNER“ kopiert sie.</numerusform>
+            <numerusform>%1 Dateien werden nicht kopiert: Sie liegen nicht auf einem Wechseldatenträger und bleiben, wo sie sind. „--to ORDNER“ kopiert sie.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>%1 davon ist ein Video, das der Katalog nicht aufnimmt.</numerusform>
+            <numerusform>%1 davon sind Videos, die der Katalog nicht aufnimmt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>%1 Verwaltungsdatei von Kameras und Systemen bleibt zurück.</numerusform>
+            <numerusform>%1 Verwaltungsdateien von Kameras und Systemen bleiben zurück.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>Nicht alles in %1 ist kopiert: Noch nicht formatieren oder leeren!</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>Kopien liegen in %1 selbst: Nicht formatieren oder leeren!</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>In %1 bleibt nichts zurück: Jede Datei hat anderswo eine verglichene Kopie.
+Es kann gefahrlos formatiert werden.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>In %1 bleibt nichts zurück: Jede Datei hat anderswo eine verglichene Kopie.
+Was diesen Ordner betrifft, kann gefahrlos formatiert werden; was daneben liegt,
+wurde nicht angesehen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>%1 Schritt kann nicht mehr rückgängig gemacht werden: Seitdem sind mehr als %2 Nutzungstage vergangen.</numerusform>
+            <numerusform>%1 Schritte können nicht mehr rückgängig gemacht werden: Seitdem sind mehr als %2 Nutzungstage vergangen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>Links, die zu den neuen Namen führen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>%1 symbolischer Link führt zum neuen Namen.</numerusform>
+            <numerusform>%1 symbolische Links führen zu den neuen Namen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>%1 symbolischer Link behält seinen Namen.</numerusform>
+            <numerusform>%1 symbolische Links behalten ihre Namen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1 und %2 weitere</numerusform>
+            <numerusform>%1 und %2 weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>Vielleicht verschoben, aber das lässt sich nicht entscheiden. Die Fotos behalten
+Schlagwörter und Alben, die Dateien sind neu:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 aus XMP</numerusform>
+            <numerusform>%1 aus XMP</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 aus IPTC</numerusform>
+            <numerusform>%1 aus IPTC</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>verschoben oder umbenannt</numerusform>
+            <numerusform>verschoben oder umbenannt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>Dieses behalten</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>Dasselbe Bild</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>Ähnlich</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>Verschieden</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>Nicht vergleichbar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>Gruppe %1: %2 Foto wie %3</numerusform>
+            <numerusform>Gruppe %1: %2 Fotos wie %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>unversehrtes</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>die eigene Datei der Kamera</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>mit Herstellernotiz</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>von keinem anderen Programm geschrieben</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>weniger komprimiert</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>mehr Bytes je Pixel</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>von der Kamera benannt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>%1 Foto ist weiterhin nicht vergleichbar; „lumidex similar --not-compared“ führt es auf.</numerusform>
+            <numerusform>%1 Fotos sind weiterhin nicht vergleichbar; „lumidex similar --not-compared“ führt sie auf.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>%1 davon (%2) ist dasselbe Bild wie das, das zu behalten ist; „lumidex similar --trash“ verschiebt es in den Papierkorb.</numerusform>
+            <numerusform>%1 davon (%2) sind dasselbe Bild wie das, das zu behalten ist; „lumidex similar --trash“ verschiebt sie in den Papierkorb.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>Es ist dasselbe Bild.</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>Sie sind ähnlich, aber nicht dasselbe Bild.</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>Es sind verschiedene Bilder.</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>Ihre Bilder konnten nicht verglichen werden.</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>dasselbe</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>ähnlich</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>verschieden</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>GRUPPE</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>URTEIL</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>Zum Rückgängigmachen müssen Originale von %1 aufbewahrt werden, und die Grenze ist %2.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>„lumidex undo --keep-size %1“ hebt die Grenze an; mit --no-undo wird nichts aufbewahrt, und es lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>Um Originale von %1 innerhalb der Grenze von %2 aufzubewahren, müsste %3 älterer Schritt vergessen werden:</numerusform>
+            <numerusform>Um Originale von %1 innerhalb der Grenze von %2 aufzubewahren, müssten %3 ältere Schritte vergessen werden:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>Um Originale von %1 innerhalb der Grenze von %2 aufzubewahren, wird %3 älterer Schritt vergessen:</numerusform>
+            <numerusform>Um Originale von %1 innerhalb der Grenze von %2 aufzubewahren, werden %3 ältere Schritte vergessen:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>„lumidex undo --keep-size %1“ schafft Platz für alle.</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older erlaubt es.</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>Diese vergessen und fortfahren? [j/N]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>Nichts würde aufbewahrt: Es ließe sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>Es würde abgelehnt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>%1 Datei nach %2 importieren</numerusform>
+            <numerusform>%1 Dateien nach %2 importieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>Album %1 übernehmen</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>%1 Album übernehmen</numerusform>
+            <numerusform>%1 Alben übernehmen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>ähnlich wie %1</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>Nicht dasselbe Bild wie das, das zu behalten ist, nur ähnlich:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>%1 Foto ist nur ähnlich, nicht dasselbe Bild; ohne --alike bleibt es.</numerusform>
+            <numerusform>%1 Fotos sind nur ähnlich, nicht dasselbe Bild; ohne --alike bleiben sie.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 in den Papierkorb verschieben, davon %2 nur ähnlich? [j/N]</numerusform>
+            <numerusform>%1 in den Papierkorb verschieben, davon %2 nur ähnlich? [j/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>Ohne das fortfahren, was zum Wiederholen nötig ist? [j/N]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>läuft noch</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>%1 Kopie ist jetzt im Papierkorb.</numerusform>
+            <numerusform>%1 Kopien sind jetzt im Papierkorb.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>Von %1 davon ist die Quelle nicht da: Leeren Sie den Papierkorb nicht, bevor Sie sie gefunden haben.</numerusform>
+            <numerusform>Von %1 davon sind die Quellen nicht da: Leeren Sie den Papierkorb nicht, bevor Sie sie gefunden haben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>Für das, was zum Wiederholen aufzubewahren ist, fehlt der Platz; „lumidex undo --no-redo“ kommt ohne aus.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>Das Rückgängigmachen von „%1“ (%2) wird %3 Datei lassen, wie sie ist, denn dieser Schritt hat sie seitdem geändert:</numerusform>
+            <numerusform>Das Rückgängigmachen von „%1“ (%2) wird %3 Dateien lassen, wie sie sind, denn dieser Schritt hat sie seitdem geändert:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>unbekannt</translation>
     </message>
 </context>
 <context>

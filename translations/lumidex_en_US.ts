@@ -176,17 +176,8 @@
         <translation>Interrupted.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>&quot;%1&quot;</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>No album was accepted.</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>Accepted before that: %1.</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -384,22 +375,6 @@ holiday, or of the weekends of one month.</translation>
         <translation>unreadable</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>format</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>space</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>folder</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>file</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>Volume of</translation>
     </message>
@@ -421,18 +396,6 @@ holiday, or of the weekends of one month.</translation>
         <comment>free room</comment>
         <translation>unknown</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>What</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>Where</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>Why</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -443,13 +406,6 @@ holiday, or of the weekends of one month.</translation>
     <message>
         <source>nothing is in the way.</source>
         <translation>nothing is in the way.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>%1 thing in the way.</numerusform>
-            <numerusform>%1 things in the way.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -530,13 +486,6 @@ holiday, or of the weekends of one month.</translation>
             <numerusform>%1 photos edited; &quot;lumidex undo&quot; takes it back.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>%1 photo edited.</numerusform>
-            <numerusform>%1 photos edited.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>Cannot be edited</translation>
@@ -581,10 +530,6 @@ holiday, or of the weekends of one month.</translation>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>Not taken into the catalogue:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>It is not named like a photo</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -956,13 +901,6 @@ others are renamed.</numerusform>
         <source>Moving</source>
         <translation>Moving</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%1 photo like %2</numerusform>
-            <numerusform>%1 photos like %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1063,10 +1001,6 @@ others are renamed.</numerusform>
     <message>
         <source>PHOTO</source>
         <translation>PHOTO</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>CLUSTER</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1583,6 +1517,448 @@ above %1 against; later photos move the centre.</translation>
             <numerusform>%1 photo changed.</numerusform>
             <numerusform>%1 photos changed.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>&quot;lumidex undo&quot; takes it back.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>%1 photo was left out, for only the time of its file dates it. To take it in, run: lumidex albums --file-times</numerusform>
+            <numerusform>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>Refused by %1</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>Of an edit of all these photos at once:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>%1 of them would be refused.</numerusform>
+            <numerusform>%1 of them would be refused.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Checking</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>its sidecar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>%1 sidecar would be edited along with them.</numerusform>
+            <numerusform>%1 sidecars would be edited along with them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>%1 sidecar edited along with them.</numerusform>
+            <numerusform>%1 sidecars edited along with them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>%1 photo edited; it cannot be undone.</numerusform>
+            <numerusform>%1 photos edited; it cannot be undone.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 of %2 photo, taken %3 or later.</numerusform>
+            <numerusform>%1 of %2 photos, taken %3 or later.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 of %2 photo, taken %3 or earlier.</numerusform>
+            <numerusform>%1 of %2 photos, taken %3 or earlier.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>There are no photos or films in the given folders.</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>It is hidden</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>It is neither a photo nor a film, nor what belongs to one</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>&quot;lumidex undo&quot; moves the copies of this run to the trash.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>%1 file is not copied, as you said: it stays where it is.</numerusform>
+            <numerusform>%1 files are not copied, as you said: they stay where they are.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>%1 file is not copied: it does not lie on removable storage and stays where it is. &quot;--to DIR&quot; copies it.</numerusform>
+            <numerusform>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>%1 of them is a film, which the catalogue does not take.</numerusform>
+            <numerusform>%1 of them are films, which the catalogue does not take.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>%1 housekeeping file of cameras and systems is left.</numerusform>
+            <numerusform>%1 housekeeping files of cameras and systems are left.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>Not everything in %1 is copied: do not format or empty it yet.</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>Copies lie in %1 itself: do not format or empty it.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>%1 step cannot be undone any more: more than %2 days of use have passed since.</numerusform>
+            <numerusform>%1 steps cannot be undone any more: more than %2 days of use have passed since.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>Links that lead to the new names:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>%1 symbolic link leads to the new name.</numerusform>
+            <numerusform>%1 symbolic links lead to the new names.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>%1 symbolic link keeps its name.</numerusform>
+            <numerusform>%1 symbolic links keep their names.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1 and %2 more</numerusform>
+            <numerusform>%1 and %2 more</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 XMP</numerusform>
+            <numerusform>%1 XMP</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 IPTC</numerusform>
+            <numerusform>%1 IPTC</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>moved or renamed</numerusform>
+            <numerusform>moved or renamed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>Keep this one</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>Same picture</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>Alike</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>Different</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>Could not be compared</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>Group %1: %2 photo like %3</numerusform>
+            <numerusform>Group %1: %2 photos like %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>whole</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>the camera&apos;s own file</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>has the maker&apos;s note</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>not written by another program</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>compressed less</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>more bytes a pixel</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>named by the camera</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>%1 photo cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists it.</numerusform>
+            <numerusform>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>%1 of them (%2) is the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves that to the trash.</numerusform>
+            <numerusform>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>They are the same picture.</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>They are alike, and not the same picture.</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>They are different pictures.</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>Their pictures could not be compared.</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>same</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>alike</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>different</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>GROUP</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>VERDICT</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>To be taken back it needs %1 of originals kept, and the limit is %2.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>To keep %1 of originals within the limit of %2, undo would have to forget %3 older step:</numerusform>
+            <numerusform>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>To keep %1 of originals within the limit of %2, undo forgets %3 older step:</numerusform>
+            <numerusform>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older allows it.</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>Forget them and go on? [y/N]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>Nothing would be kept: it could not be taken back.</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>It would be refused.</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>import %1 file to %2</numerusform>
+            <numerusform>import %1 files to %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>accept album %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>accept %1 album</numerusform>
+            <numerusform>accept %1 albums</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>alike to %1</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>Not the same picture as the one to keep, only alike:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>%1 photo is alike and not the same picture; it stays unless --alike is given.</numerusform>
+            <numerusform>%1 photos are alike and not the same picture; they stay unless --alike is given.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Move %1 to the trash, %2 of which is only alike? [y/N]</numerusform>
+            <numerusform>Move %1 to the trash, %2 of which are only alike? [y/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>Go on without what redo needs? [y/N]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>goes on</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>%1 copy is in the trash now.</numerusform>
+            <numerusform>%1 copies are in the trash now.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>Of %1 of them the source is not there: do not empty the trash before you have found it.</numerusform>
+            <numerusform>Of %1 of them the source is not there: do not empty the trash before you have found it.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>Undo of &quot;%1&quot; (%2) will leave %3 file as it is, for this step changed it since:</numerusform>
+            <numerusform>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>unknown</translation>
     </message>
 </context>
 <context>

@@ -176,17 +176,8 @@
         <translation>Interrumpido.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>«%1»</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>No se aceptó ningún álbum.</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>Aceptados antes de eso: %1.</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -384,22 +375,6 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <translation>ilegible</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>formato</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>espacio</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>carpeta</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>archivo</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>Volumen de</translation>
     </message>
@@ -421,18 +396,6 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <comment>free room</comment>
         <translation>desconocido</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>Qué</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>Dónde</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>Por qué</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -443,13 +406,6 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
     <message>
         <source>nothing is in the way.</source>
         <translation>no hay ningún obstáculo.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>%1 obstáculo.</numerusform>
-            <numerusform>%1 obstáculos.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -530,13 +486,6 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
             <numerusform>%1 fotos editadas; «lumidex undo» lo deshace.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>%1 foto editada.</numerusform>
-            <numerusform>%1 fotos editadas.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>No se pueden editar</translation>
@@ -581,10 +530,6 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>No incorporados al catálogo:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>No tiene nombre de foto</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -956,13 +901,6 @@ others are renamed.</source>
         <source>Moving</source>
         <translation>Moviendo</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%1 foto como %2</numerusform>
-            <numerusform>%1 fotos como %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1063,10 +1001,6 @@ others are renamed.</source>
     <message>
         <source>PHOTO</source>
         <translation>FOTO</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>GRUPO</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1583,6 +1517,448 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
             <numerusform>%1 foto cambiada.</numerusform>
             <numerusform>%1 fotos cambiadas.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>«lumidex undo» lo deshace.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>Se omitió %1 foto, porque solo la hora de su archivo le da fecha. Para incluirla, ejecute: lumidex albums --file-times</numerusform>
+            <numerusform>Se omitieron %1 fotos, porque solo las horas de sus archivos les dan fecha. Para incluirlas, ejecute: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>Rechazados por %1</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>Si se editan todas estas fotos a la vez:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>%1 de ellos sería rechazado.</numerusform>
+            <numerusform>%1 de ellos serían rechazados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Comprobando</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>su archivo auxiliar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>Con ellas se editaría %1 archivo auxiliar.</numerusform>
+            <numerusform>Con ellas se editarían %1 archivos auxiliares.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>Con ellas se editó %1 archivo auxiliar.</numerusform>
+            <numerusform>Con ellas se editaron %1 archivos auxiliares.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>%1 foto editada; no se puede deshacer.</numerusform>
+            <numerusform>%1 fotos editadas; no se puede deshacer.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tomada el %3 o después.</numerusform>
+            <numerusform>%1 de %2 fotos, tomadas el %3 o después.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tomada el %3 o antes.</numerusform>
+            <numerusform>%1 de %2 fotos, tomadas el %3 o antes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>No hay fotos ni vídeos en las carpetas indicadas.</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>Está oculto</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>No es una foto ni un vídeo, ni pertenece a ninguno</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>«lumidex undo» mueve a la papelera las copias de esta ejecución.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>%1 archivo no se copia, como usted indicó: se queda donde está.</numerusform>
+            <numerusform>%1 archivos no se copian, como usted indicó: se quedan donde están.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>%1 archivo no se copia: no está en un soporte extraíble y se queda donde está. «--to CARPETA» lo copia.</numerusform>
+            <numerusform>%1 archivos no se copian: no están en un soporte extraíble y se quedan donde están. «--to CARPETA» los copia.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>%1 de ellos es un vídeo, que el catálogo no admite.</numerusform>
+            <numerusform>%1 de ellos son vídeos, que el catálogo no admite.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>Se deja %1 archivo de gestión de cámaras y sistemas.</numerusform>
+            <numerusform>Se dejan %1 archivos de gestión de cámaras y sistemas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>No está copiado todo lo que hay en %1: no lo formatee ni lo vacíe todavía.</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>Hay copias en %1 mismo: no lo formatee ni lo vacíe.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>No queda nada en %1: cada archivo tiene una copia comparada en otro lugar.
+Se puede formatear sin riesgo.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>No queda nada en %1: cada archivo tiene una copia comparada en otro lugar.
+Por lo que toca a esta carpeta, se puede formatear sin riesgo; lo que hay junto
+a ella no se ha mirado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>%1 paso ya no se puede deshacer: desde entonces han pasado más de %2 días de uso.</numerusform>
+            <numerusform>%1 pasos ya no se pueden deshacer: desde entonces han pasado más de %2 días de uso.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>Enlaces que llevan a los nombres nuevos:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>%1 enlace simbólico lleva al nombre nuevo.</numerusform>
+            <numerusform>%1 enlaces simbólicos llevan a los nombres nuevos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>%1 enlace simbólico conserva su nombre.</numerusform>
+            <numerusform>%1 enlaces simbólicos conservan sus nombres.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1 y %2 más</numerusform>
+            <numerusform>%1 y %2 más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>Quizá movidos, pero no se puede saber. Las fotos conservan sus etiquetas y
+álbumes, los archivos son nuevos:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 de los datos XMP</numerusform>
+            <numerusform>%1 de los datos XMP</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 de los datos IPTC</numerusform>
+            <numerusform>%1 de los datos IPTC</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>movido o renombrado</numerusform>
+            <numerusform>movidos o renombrados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>Conservar esta</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>Misma imagen</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>Parecida</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>Distinta</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>No se pudo comparar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>Grupo %1: %2 foto como %3</numerusform>
+            <numerusform>Grupo %1: %2 fotos como %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>íntegra</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>el archivo de la propia cámara</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>con la nota del fabricante</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>no escrita por otro programa</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>menos comprimida</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>más bytes por píxel</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>con el nombre dado por la cámara</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>%1 foto sigue sin poder compararse; «lumidex similar --not-compared» la enumera.</numerusform>
+            <numerusform>%1 fotos siguen sin poder compararse; «lumidex similar --not-compared» las enumera.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>%1 de ellas (%2) es la misma imagen que la que conviene conservar; «lumidex similar --trash» la mueve a la papelera.</numerusform>
+            <numerusform>%1 de ellas (%2) son la misma imagen que la que conviene conservar; «lumidex similar --trash» las mueve a la papelera.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>Son la misma imagen.</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>Son parecidas, pero no la misma imagen.</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>Son imágenes distintas.</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>No se pudieron comparar sus imágenes.</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>misma</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>parecida</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>distinta</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>GRUPO</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>VEREDICTO</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>Para poder deshacerlo hay que guardar %1 de originales, y el límite es %2.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>«lumidex undo --keep-size %1» eleva el límite; con --no-undo no se guarda nada y no se puede deshacer.</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>Para guardar %1 de originales dentro del límite de %2, habría que olvidar %3 paso anterior:</numerusform>
+            <numerusform>Para guardar %1 de originales dentro del límite de %2, habría que olvidar %3 pasos anteriores:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>Para guardar %1 de originales dentro del límite de %2, se olvida %3 paso anterior:</numerusform>
+            <numerusform>Para guardar %1 de originales dentro del límite de %2, se olvidan %3 pasos anteriores:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>«lumidex undo --keep-size %1» hace sitio para todos.</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older lo permite.</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>¿Olvidarlos y continuar? [s/N]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>No se guardaría nada: no se podría deshacer.</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>Se rechazaría.</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>importar %1 archivo en %2</numerusform>
+            <numerusform>importar %1 archivos en %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>aceptar el álbum %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>aceptar %1 álbum</numerusform>
+            <numerusform>aceptar %1 álbumes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>parecida a %1</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>No son la misma imagen que la que conviene conservar, solo parecidas:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>%1 foto es solo parecida y no la misma imagen; se queda si no se indica --alike.</numerusform>
+            <numerusform>%1 fotos son solo parecidas y no la misma imagen; se quedan si no se indica --alike.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>¿Mover %1 a la papelera, de las cuales %2 es solo parecida? [s/N]</numerusform>
+            <numerusform>¿Mover %1 a la papelera, de las cuales %2 son solo parecidas? [s/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>¿Continuar sin lo que hace falta para rehacer? [s/N]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>en curso</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>%1 copia está ahora en la papelera.</numerusform>
+            <numerusform>%1 copias están ahora en la papelera.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>Falta el original de %1 de ellas: no vacíe la papelera antes de haberlo encontrado.</numerusform>
+            <numerusform>Faltan los originales de %1 de ellas: no vacíe la papelera antes de haberlos encontrado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>No hay sitio para guardar lo que hace falta para rehacer; «lumidex undo --no-redo» prescinde de ello.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>Al deshacer «%1» (%2) quedará %3 archivo como está, porque este paso lo cambió después:</numerusform>
+            <numerusform>Al deshacer «%1» (%2) quedarán %3 archivos como están, porque este paso los cambió después:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>desconocida</translation>
     </message>
 </context>
 <context>

@@ -176,17 +176,8 @@
         <translation>Interrompu.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>«&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>Aucun album n’a été accepté.</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>Acceptés auparavant&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -384,22 +375,6 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <translation>illisible</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>format</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>espace</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>dossier</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>fichier</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>Volume de</translation>
     </message>
@@ -421,18 +396,6 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <comment>free room</comment>
         <translation>inconnu</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>Quoi</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>Où</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>Pourquoi</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -443,13 +406,6 @@ même jour de fête ou des week-ends d’un mois.</translation>
     <message>
         <source>nothing is in the way.</source>
         <translation>aucun obstacle.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>%1 obstacle.</numerusform>
-            <numerusform>%1 obstacles.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -530,13 +486,6 @@ même jour de fête ou des week-ends d’un mois.</translation>
             <numerusform>%1 photos modifiées&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>%1 photo modifiée.</numerusform>
-            <numerusform>%1 photos modifiées.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>Impossible à modifier</translation>
@@ -581,10 +530,6 @@ même jour de fête ou des week-ends d’un mois.</translation>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>Non ajoutés au catalogue&#xa0;:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>Son nom n’est pas celui d’une photo</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -956,13 +901,6 @@ others are renamed.</source>
         <source>Moving</source>
         <translation>Déplacement</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%1 photo comme %2</numerusform>
-            <numerusform>%1 photos comme %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1063,10 +1001,6 @@ others are renamed.</source>
     <message>
         <source>PHOTO</source>
         <translation>PHOTO</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>GROUPE</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1583,6 +1517,448 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
             <numerusform>%1 photo changée.</numerusform>
             <numerusform>%1 photos changées.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>«&#xa0;lumidex undo&#xa0;» l’annule.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>%1 photo a été laissée de côté, car seule l’heure de son fichier la date. Pour la prendre en compte, lancez&#xa0;: lumidex albums --file-times</numerusform>
+            <numerusform>%1 photos ont été laissées de côté, car seule l’heure de leurs fichiers les date. Pour les prendre en compte, lancez&#xa0;: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>Refusés par %1</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>Pour une modification de toutes ces photos à la fois&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>%1 d’entre eux serait refusé.</numerusform>
+            <numerusform>%1 d’entre eux seraient refusés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Vérification</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>son fichier annexe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>%1 fichier annexe serait modifié avec elles.</numerusform>
+            <numerusform>%1 fichiers annexes seraient modifiés avec elles.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>%1 fichier annexe modifié avec elles.</numerusform>
+            <numerusform>%1 fichiers annexes modifiés avec elles.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>%1 photo modifiée&#xa0;; cela ne peut pas être annulé.</numerusform>
+            <numerusform>%1 photos modifiées&#xa0;; cela ne peut pas être annulé.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 sur %2 photo, prise le %3 ou après.</numerusform>
+            <numerusform>%1 sur %2 photos, prises le %3 ou après.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 sur %2 photo, prise le %3 ou avant.</numerusform>
+            <numerusform>%1 sur %2 photos, prises le %3 ou avant.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>Il n’y a pas de photos ni de vidéos dans les dossiers indiqués.</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>Il est masqué</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>Ce n’est ni une photo ni une vidéo, ni un fichier qui s’y rattache</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>«&#xa0;lumidex undo&#xa0;» met à la corbeille les copies faites cette fois-ci.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>%1 fichier n’est pas copié, comme demandé&#xa0;: il reste où il est.</numerusform>
+            <numerusform>%1 fichiers ne sont pas copiés, comme demandé&#xa0;: ils restent où ils sont.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>%1 fichier n’est pas copié&#xa0;: il ne se trouve pas sur un support amovible et reste où il est. «&#xa0;--to DOSSIER&#xa0;» le copie.</numerusform>
+            <numerusform>%1 fichiers ne sont pas copiés&#xa0;: ils ne se trouvent pas sur un support amovible et restent où ils sont. «&#xa0;--to DOSSIER&#xa0;» les copie.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>%1 d’entre eux est une vidéo, que le catalogue ne prend pas.</numerusform>
+            <numerusform>%1 d’entre eux sont des vidéos, que le catalogue ne prend pas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>%1 fichier de gestion des appareils et des systèmes est laissé.</numerusform>
+            <numerusform>%1 fichiers de gestion des appareils et des systèmes sont laissés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>Le contenu de %1 n’est pas entièrement copié&#xa0;: ne pas encore formater ni vider.</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>Des copies se trouvent dans %1 même&#xa0;: ne pas formater ni vider.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>Il ne reste rien dans %1&#xa0;: chaque fichier a ailleurs une copie comparée.
+Le formatage est sans risque.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Il ne reste rien dans %1&#xa0;: chaque fichier a ailleurs une copie comparée.
+Pour ce dossier, le formatage est sans risque&#xa0;; ce qui se trouve à côté n’a pas
+été examiné.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>%1 étape ne peut plus être annulée&#xa0;: plus de %2 jours d’utilisation se sont écoulés depuis.</numerusform>
+            <numerusform>%1 étapes ne peuvent plus être annulées&#xa0;: plus de %2 jours d’utilisation se sont écoulés depuis.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>Liens qui mènent aux nouveaux noms&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>%1 lien symbolique mène au nouveau nom.</numerusform>
+            <numerusform>%1 liens symboliques mènent aux nouveaux noms.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>%1 lien symbolique garde son nom.</numerusform>
+            <numerusform>%1 liens symboliques gardent leur nom.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1 et %2 autre</numerusform>
+            <numerusform>%1 et %2 autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>Peut-être déplacés, mais impossible de le savoir. Les photos gardent leurs
+mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 des données XMP</numerusform>
+            <numerusform>%1 des données XMP</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 des données IPTC</numerusform>
+            <numerusform>%1 des données IPTC</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>déplacé ou renommé</numerusform>
+            <numerusform>déplacés ou renommés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>Garder celle-ci</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>Même image</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>Ressemblante</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>Différente</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>Comparaison impossible</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>Groupe %1&#xa0;: %2 photo comme %3</numerusform>
+            <numerusform>Groupe %1&#xa0;: %2 photos comme %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>intacte</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>le fichier même de l’appareil</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>avec la note du fabricant</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>non écrite par un autre programme</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>moins comprimée</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>plus d’octets par pixel</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>nommée par l’appareil</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>%1 photo ne peut toujours pas être comparée&#xa0;; «&#xa0;lumidex similar --not-compared&#xa0;» l’indique.</numerusform>
+            <numerusform>%1 photos ne peuvent toujours pas être comparées&#xa0;; «&#xa0;lumidex similar --not-compared&#xa0;» en donne la liste.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>%1 d’entre elles (%2) est la même image que celle à garder&#xa0;; «&#xa0;lumidex similar --trash&#xa0;» la met à la corbeille.</numerusform>
+            <numerusform>%1 d’entre elles (%2) sont la même image que celle à garder&#xa0;; «&#xa0;lumidex similar --trash&#xa0;» les met à la corbeille.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>C’est la même image.</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>Elles se ressemblent, mais ce n’est pas la même image.</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>Ce sont des images différentes.</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>Leurs images n’ont pas pu être comparées.</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>même</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>ressemblante</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>différente</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>GROUPE</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>VERDICT</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>Pour pouvoir être annulé, cela demande de conserver %1 d’originaux, et la limite est de %2.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>«&#xa0;lumidex undo --keep-size %1&#xa0;» relève la limite&#xa0;; avec --no-undo, rien n’est conservé et cela ne peut pas être annulé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>Pour conserver %1 d’originaux dans la limite de %2, il faudrait oublier %3 étape plus ancienne&#xa0;:</numerusform>
+            <numerusform>Pour conserver %1 d’originaux dans la limite de %2, il faudrait oublier %3 étapes plus anciennes&#xa0;:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>Pour conserver %1 d’originaux dans la limite de %2, %3 étape plus ancienne est oubliée&#xa0;:</numerusform>
+            <numerusform>Pour conserver %1 d’originaux dans la limite de %2, %3 étapes plus anciennes sont oubliées&#xa0;:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>«&#xa0;lumidex undo --keep-size %1&#xa0;» fait de la place pour toutes.</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older l’autorise.</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>Les oublier et continuer&#xa0;? [o/N]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>Rien ne serait conservé&#xa0;: cela ne pourrait pas être annulé.</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>Cela serait refusé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>importer %1 fichier dans %2</numerusform>
+            <numerusform>importer %1 fichiers dans %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>accepter l’album %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>accepter %1 album</numerusform>
+            <numerusform>accepter %1 albums</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>ressemble à %1</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>Pas la même image que celle à garder, seulement ressemblantes&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>%1 photo est seulement ressemblante et n’est pas la même image&#xa0;; elle reste, sauf avec --alike.</numerusform>
+            <numerusform>%1 photos sont seulement ressemblantes et ne sont pas la même image&#xa0;; elles restent, sauf avec --alike.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Mettre %1 à la corbeille, dont %2 seulement ressemblante&#xa0;? [o/N]</numerusform>
+            <numerusform>Mettre %1 à la corbeille, dont %2 seulement ressemblantes&#xa0;? [o/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>Continuer sans ce qu’il faut pour rétablir&#xa0;? [o/N]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>en cours</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>%1 copie est maintenant dans la corbeille.</numerusform>
+            <numerusform>%1 copies sont maintenant dans la corbeille.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>La source de %1 d’entre elles n’est pas là&#xa0;: ne videz pas la corbeille avant de l’avoir retrouvée.</numerusform>
+            <numerusform>Les sources de %1 d’entre elles ne sont pas là&#xa0;: ne videz pas la corbeille avant de les avoir retrouvées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>Il n’y a pas de place pour conserver ce qu’il faut pour rétablir&#xa0;; «&#xa0;lumidex undo --no-redo&#xa0;» s’en passe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>L’annulation de «&#xa0;%1&#xa0;» (%2) laissera %3 fichier tel quel, car cette étape l’a modifié depuis&#xa0;:</numerusform>
+            <numerusform>L’annulation de «&#xa0;%1&#xa0;» (%2) laissera %3 fichiers tels quels, car cette étape les a modifiés depuis&#xa0;:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>inconnue</translation>
     </message>
 </context>
 <context>

@@ -176,17 +176,8 @@
         <translation>Interrotto.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>«%1»</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>Nessun album è stato accettato.</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>Accettati prima: %1.</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -384,22 +375,6 @@ stessa festività o dei fine settimana di un mese.</translation>
         <translation>illeggibile</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>formato</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>spazio</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>cartella</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>file</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>Volume di</translation>
     </message>
@@ -421,18 +396,6 @@ stessa festività o dei fine settimana di un mese.</translation>
         <comment>free room</comment>
         <translation>sconosciuto</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>Cosa</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>Dove</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>Perché</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -443,13 +406,6 @@ stessa festività o dei fine settimana di un mese.</translation>
     <message>
         <source>nothing is in the way.</source>
         <translation>nessun ostacolo.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>%1 ostacolo.</numerusform>
-            <numerusform>%1 ostacoli.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -530,13 +486,6 @@ stessa festività o dei fine settimana di un mese.</translation>
             <numerusform>%1 foto modificate; «lumidex undo» annulla la modifica.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>%1 foto modificata.</numerusform>
-            <numerusform>%1 foto modificate.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>Non modificabili</translation>
@@ -581,10 +530,6 @@ stessa festività o dei fine settimana di un mese.</translation>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>Non accolti nel catalogo:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>Non ha il nome di una foto</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -956,13 +901,6 @@ others are renamed.</source>
         <source>Moving</source>
         <translation>Spostamento</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%1 foto come %2</numerusform>
-            <numerusform>%1 foto come %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1063,10 +1001,6 @@ others are renamed.</source>
     <message>
         <source>PHOTO</source>
         <translation>FOTO</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>GRUPPO</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1583,6 +1517,448 @@ più di %1; le foto successive spostano il centro.</translation>
             <numerusform>%1 foto cambiata.</numerusform>
             <numerusform>%1 foto cambiate.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>«lumidex undo» annulla la modifica.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>È stata tralasciata %1 foto, perché solo l’ora del suo file la data. Per includerla, esegua: lumidex albums --file-times</numerusform>
+            <numerusform>Sono state tralasciate %1 foto, perché solo l’ora dei loro file le data. Per includerle, esegua: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>Rifiutati da %1</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>Per una modifica di tutte queste foto insieme:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>%1 di essi sarebbe rifiutato.</numerusform>
+            <numerusform>%1 di essi sarebbero rifiutati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Controllo</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>il suo file collaterale</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>%1 file collaterale sarebbe modificato insieme a esse.</numerusform>
+            <numerusform>%1 file collaterali sarebbero modificati insieme a esse.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>%1 file collaterale modificato insieme a esse.</numerusform>
+            <numerusform>%1 file collaterali modificati insieme a esse.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>%1 foto modificata; la modifica non si può annullare.</numerusform>
+            <numerusform>%1 foto modificate; la modifica non si può annullare.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 di %2 foto, scattata il %3 o dopo.</numerusform>
+            <numerusform>%1 di %2 foto, scattate il %3 o dopo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 di %2 foto, scattata il %3 o prima.</numerusform>
+            <numerusform>%1 di %2 foto, scattate il %3 o prima.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>Non ci sono foto né video nelle cartelle indicate.</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>È nascosto</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>Non è una foto né un video, né appartiene a uno di essi</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>«lumidex undo» sposta nel cestino le copie di questa esecuzione.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>%1 file non viene copiato, come richiesto: resta dov’è.</numerusform>
+            <numerusform>%1 file non vengono copiati, come richiesto: restano dove sono.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>%1 file non viene copiato: non si trova su un supporto rimovibile e resta dov’è. «--to CARTELLA» lo copia.</numerusform>
+            <numerusform>%1 file non vengono copiati: non si trovano su un supporto rimovibile e restano dove sono. «--to CARTELLA» li copia.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>%1 di essi è un video, che il catalogo non accoglie.</numerusform>
+            <numerusform>%1 di essi sono video, che il catalogo non accoglie.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>Si lascia %1 file di servizio di fotocamere e sistemi.</numerusform>
+            <numerusform>Si lasciano %1 file di servizio di fotocamere e sistemi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>Non tutto il contenuto di %1 è copiato: non formattare né svuotare ancora.</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>Alcune copie si trovano in %1 stesso: non formattare né svuotare.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>Non resta nulla in %1: ogni file ha altrove una copia confrontata.
+Si può formattare senza rischi.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Non resta nulla in %1: ogni file ha altrove una copia confrontata.
+Per quanto riguarda questa cartella si può formattare senza rischi; ciò che le
+sta accanto non è stato esaminato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>%1 passo non si può più annullare: da allora sono trascorsi più di %2 giorni d’uso.</numerusform>
+            <numerusform>%1 passi non si possono più annullare: da allora sono trascorsi più di %2 giorni d’uso.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>Collegamenti che portano ai nuovi nomi:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>%1 collegamento simbolico porta al nuovo nome.</numerusform>
+            <numerusform>%1 collegamenti simbolici portano ai nuovi nomi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>%1 collegamento simbolico mantiene il suo nome.</numerusform>
+            <numerusform>%1 collegamenti simbolici mantengono i loro nomi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1 e %2 altro</numerusform>
+            <numerusform>%1 e altri %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>Forse spostati, ma non si può stabilire. Le foto mantengono i loro tag e album,
+i file sono nuovi:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 dai dati XMP</numerusform>
+            <numerusform>%1 dai dati XMP</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 dai dati IPTC</numerusform>
+            <numerusform>%1 dai dati IPTC</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>spostato o rinominato</numerusform>
+            <numerusform>spostati o rinominati</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>Da tenere</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>Stessa immagine</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>Somigliante</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>Diversa</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>Non confrontabile</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>Gruppo %1: %2 foto come %3</numerusform>
+            <numerusform>Gruppo %1: %2 foto come %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>integra</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>il file della fotocamera stessa</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>con la nota del produttore</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>non scritta da un altro programma</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>meno compressa</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>più byte per pixel</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>con il nome dato dalla fotocamera</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>%1 foto continua a non essere confrontabile; «lumidex similar --not-compared» la elenca.</numerusform>
+            <numerusform>%1 foto continuano a non essere confrontabili; «lumidex similar --not-compared» le elenca.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>%1 di esse (%2) è la stessa immagine di quella da tenere; «lumidex similar --trash» la sposta nel cestino.</numerusform>
+            <numerusform>%1 di esse (%2) sono la stessa immagine di quella da tenere; «lumidex similar --trash» le sposta nel cestino.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>Sono la stessa immagine.</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>Si somigliano, ma non sono la stessa immagine.</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>Sono immagini diverse.</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>Non è stato possibile confrontare le loro immagini.</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>stessa</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>somigliante</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>diversa</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>GRUPPO</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>VERDETTO</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>Per poterlo annullare occorre conservare %1 di originali, e il limite è %2.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>«lumidex undo --keep-size %1» alza il limite; con --no-undo non si conserva nulla e non si può annullare.</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>Per conservare %1 di originali entro il limite di %2, si dovrebbe dimenticare %3 passo più vecchio:</numerusform>
+            <numerusform>Per conservare %1 di originali entro il limite di %2, si dovrebbero dimenticare %3 passi più vecchi:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>Per conservare %1 di originali entro il limite di %2, si dimentica %3 passo più vecchio:</numerusform>
+            <numerusform>Per conservare %1 di originali entro il limite di %2, si dimenticano %3 passi più vecchi:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>«lumidex undo --keep-size %1» fa spazio per tutti.</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older lo consente.</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>Dimenticarli e continuare? [s/N]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>Nulla sarebbe conservato: non si potrebbe annullare.</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>Sarebbe rifiutato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>importare %1 file in %2</numerusform>
+            <numerusform>importare %1 file in %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>accettare l’album %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>accettare %1 album</numerusform>
+            <numerusform>accettare %1 album</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>somiglia a %1</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>Non la stessa immagine di quella da tenere, solo somiglianti:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>%1 foto è solo somigliante e non la stessa immagine; resta se non si indica --alike.</numerusform>
+            <numerusform>%1 foto sono solo somiglianti e non la stessa immagine; restano se non si indica --alike.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Spostare nel cestino %1, di cui %2 solo somigliante? [s/N]</numerusform>
+            <numerusform>Spostare nel cestino %1, di cui %2 solo somiglianti? [s/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>Continuare senza ciò che serve per ripetere? [s/N]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>in corso</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>%1 copia è ora nel cestino.</numerusform>
+            <numerusform>%1 copie sono ora nel cestino.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>Di %1 di esse l’originale non c’è: non svuoti il cestino prima di averlo trovato.</numerusform>
+            <numerusform>Di %1 di esse gli originali non ci sono: non svuoti il cestino prima di averli trovati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>Non c’è spazio per conservare ciò che serve per ripetere; «lumidex undo --no-redo» ne fa a meno.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>L’annullamento di «%1» (%2) lascerà %3 file com’è, perché questo passo lo ha modificato in seguito:</numerusform>
+            <numerusform>L’annullamento di «%1» (%2) lascerà %3 file come sono, perché questo passo li ha modificati in seguito:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>sconosciuta</translation>
     </message>
 </context>
 <context>

@@ -174,17 +174,8 @@
         <translation>中断しました。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>「%1」</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>採用したアルバムはありません。</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>その前に採用したもの: %1。</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -371,22 +362,6 @@ holiday, or of the weekends of one month.</source>
         <translation>読み取り不可</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>形式</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>空き容量</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>フォルダー</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>ボリューム</translation>
     </message>
@@ -408,18 +383,6 @@ holiday, or of the weekends of one month.</source>
         <comment>free room</comment>
         <translation>不明</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>種類</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>場所</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>理由</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -429,12 +392,6 @@ holiday, or of the weekends of one month.</source>
     <message>
         <source>nothing is in the way.</source>
         <translation>問題はありません。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>問題%1件。</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -513,12 +470,6 @@ holiday, or of the weekends of one month.</source>
             <numerusform>写真%1枚を編集しました。「lumidex undo」で元に戻せます。</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>写真%1枚を編集しました。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>編集できません</translation>
@@ -563,10 +514,6 @@ holiday, or of the weekends of one month.</source>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>カタログに取り込まなかったもの:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>写真の名前ではありません</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -907,12 +854,6 @@ others are renamed.</source>
         <source>Moving</source>
         <translation>移動中</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%2 に似た写真%1枚</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1008,10 +949,6 @@ others are renamed.</source>
     <message>
         <source>PHOTO</source>
         <translation>写真</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>グループ</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1509,6 +1446,418 @@ above %1 against; later photos move the centre.</source>
         <translation>
             <numerusform>写真%1枚を変更しました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>「lumidex undo」で元に戻せます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>写真%1枚を除外しました。日付の手がかりがファイルの時刻しかないためです。含めるには、次を実行してください: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>拒否されるもの (%1)</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>これらの写真をすべて一度に編集する場合:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>うち%1個は拒否されます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>確認中</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>付属のサイドカー</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>サイドカー%1個もあわせて編集することになります。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>サイドカー%1個もあわせて編集しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>写真%1枚を編集しました。元に戻すことはできません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>写真%2枚のうち%1枚、撮影 %3 以降。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>写真%2枚のうち%1枚、撮影 %3 以前。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>指定したフォルダーに写真も動画もありません。</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>隠しファイルです</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>写真でも動画でも、それに付属するファイルでもありません</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>「lumidex undo」で、今回のコピーをごみ箱に移動できます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>ご指定のとおり、ファイル%1個はコピーしません。元の場所に残ります。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>ファイル%1個はコピーしません。リムーバブルストレージにないため、元の場所に残ります。「--to フォルダー」でコピーできます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>うち%1個は動画で、カタログには入りません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>カメラやシステムの管理用ファイル%1個は残します。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>%1 にまだコピーしていないものがあります。フォーマットしたり空にしたりしないでください。</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>コピーが %1 自体の中にあります。フォーマットしたり空にしたりしないでください。</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>%1 に残りはありません。どのファイルも別の場所に比較済みのコピーがあります。
+安全にフォーマットできます。</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>%1 に残りはありません。どのファイルも別の場所に比較済みのコピーがあります。
+このフォルダーに限れば安全にフォーマットできます。その隣にあるものは
+調べていません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>操作%1件は、もう元に戻せません。その後の使用日数が%2日を超えました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>新しい名前を指すリンク:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>シンボリックリンク%1個が新しい名前を指しています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>シンボリックリンク%1個の名前はそのままです。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1、ほか%2個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>移動された可能性がありますが、判断できません。写真のタグとアルバムはそのままで、
+ファイルは新規として扱います:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>XMP%1件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>IPTC%1件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>個を移動または名前変更</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>これを残す</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>同じ画像</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>似ている</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>異なる</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>比較できませんでした</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>グループ%1: %3 に似た写真%2枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>破損なし</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>カメラ自身のファイル</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>メーカーノートあり</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>ほかのプログラムによる書き込みなし</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>圧縮が弱い</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>1画素あたりのバイト数が多い</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>カメラが付けた名前</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>写真%1枚は、以前と同じく比較できません。「lumidex similar --not-compared」で一覧を表示します。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>うち%1枚 (%2) は残すものと同じ画像です。「lumidex similar --trash」でごみ箱に移動できます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>同じ画像です。</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>似ていますが、同じ画像ではありません。</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>異なる画像です。</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>画像を比較できませんでした。</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>同じ</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>似ている</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>異なる</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>判定</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>元に戻せるようにするには、元のファイルを %1 保管する必要がありますが、上限は %2 です。</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>「lumidex undo --keep-size %1」で上限を上げられます。--no-undo を付けると何も保管せず、元に戻せません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>元のファイル %1 を上限 %2 の範囲で保管するには、以前の操作%3件を忘れる必要があります:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>元のファイル %1 を上限 %2 の範囲で保管するため、以前の操作%3件を忘れます:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>「lumidex undo --keep-size %1」ですべてを保管できるようになります。</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older を付けると許可します。</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>忘れて続行しますか? [h/N]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>何も保管されず、元に戻せなくなります。</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>拒否されます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>ファイル%1個を %2 に取り込む</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>アルバム %1 を採用</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>アルバム%1件を採用</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>%1 に似ている</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>残すものと同じ画像ではなく、似ているだけのもの:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>写真%1枚は似ているだけで、同じ画像ではありません。--alike を付けないかぎりそのままです。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1をごみ箱に移動しますか (うち%2枚は似ているだけ)? [h/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>やり直しに必要なものを保管せずに続行しますか? [h/N]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>進行中</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>コピー%1個は現在ごみ箱にあります。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>うち%1個はコピー元が見つかりません。見つかるまでごみ箱を空にしないでください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>やり直しに必要なものを保管する空きがありません。「lumidex undo --no-redo」なら保管せずに実行します。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>「%1」(%2) を元に戻しても、ファイル%3個はそのまま残ります。この操作がその後に変更したためです:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>不明</translation>
     </message>
 </context>
 <context>

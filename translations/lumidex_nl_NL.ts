@@ -176,17 +176,8 @@
         <translation>Afgebroken.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>‘%1’</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>Er is geen album geaccepteerd.</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>Daarvoor geaccepteerd: %1.</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -384,22 +375,6 @@ van één feestdag of van de weekenden van één maand.</translation>
         <translation>onleesbaar</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>formaat</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>ruimte</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>map</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>bestand</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>Volume van</translation>
     </message>
@@ -421,18 +396,6 @@ van één feestdag of van de weekenden van één maand.</translation>
         <comment>free room</comment>
         <translation>onbekend</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>Wat</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>Waar</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>Waarom</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -443,13 +406,6 @@ van één feestdag of van de weekenden van één maand.</translation>
     <message>
         <source>nothing is in the way.</source>
         <translation>niets staat in de weg.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>%1 obstakel.</numerusform>
-            <numerusform>%1 obstakels.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -530,13 +486,6 @@ van één feestdag of van de weekenden van één maand.</translation>
             <numerusform>%1 foto’s bewerkt; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>%1 foto bewerkt.</numerusform>
-            <numerusform>%1 foto’s bewerkt.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>Niet te bewerken</translation>
@@ -581,10 +530,6 @@ van één feestdag of van de weekenden van één maand.</translation>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>Niet opgenomen in de catalogus:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>De naam is niet die van een foto</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -956,13 +901,6 @@ others are renamed.</source>
         <source>Moving</source>
         <translation>Verplaatsen</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%1 foto zoals %2</numerusform>
-            <numerusform>%1 foto’s zoals %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1063,10 +1001,6 @@ others are renamed.</source>
     <message>
         <source>PHOTO</source>
         <translation>FOTO</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>CLUSTER</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1583,6 +1517,448 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
             <numerusform>%1 foto gewijzigd.</numerusform>
             <numerusform>%1 foto’s gewijzigd.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>‘lumidex undo’ maakt dit ongedaan.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>%1 foto is weggelaten, want alleen de tijd van het bestand dateert deze. Voer uit om deze op te nemen: lumidex albums --file-times</numerusform>
+            <numerusform>%1 foto’s zijn weggelaten, want alleen de tijden van de bestanden dateren ze. Voer uit om ze op te nemen: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>Geweigerd door %1</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>Bij het bewerken van al deze foto’s tegelijk:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>%1 ervan zou worden geweigerd.</numerusform>
+            <numerusform>%1 ervan zouden worden geweigerd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Controleren</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>het sidecarbestand ervan</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>%1 sidecarbestand zou mee worden bewerkt.</numerusform>
+            <numerusform>%1 sidecarbestanden zouden mee worden bewerkt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>%1 sidecarbestand mee bewerkt.</numerusform>
+            <numerusform>%1 sidecarbestanden mee bewerkt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>%1 foto bewerkt; dit kan niet ongedaan worden gemaakt.</numerusform>
+            <numerusform>%1 foto’s bewerkt; dit kan niet ongedaan worden gemaakt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 van %2 foto, genomen op %3 of later.</numerusform>
+            <numerusform>%1 van %2 foto’s, genomen op %3 of later.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 van %2 foto, genomen op %3 of eerder.</numerusform>
+            <numerusform>%1 van %2 foto’s, genomen op %3 of eerder.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>Er staan geen foto’s of video’s in de opgegeven mappen.</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>Het is verborgen</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>Het is geen foto of video en hoort er ook niet bij</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>‘lumidex undo’ verplaatst de kopieën van deze keer naar de prullenbak.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>%1 bestand wordt zoals gevraagd niet gekopieerd: het blijft waar het is.</numerusform>
+            <numerusform>%1 bestanden worden zoals gevraagd niet gekopieerd: ze blijven waar ze zijn.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>%1 bestand wordt niet gekopieerd: het staat niet op verwisselbare opslag en blijft waar het is. ‘--to MAP’ kopieert het.</numerusform>
+            <numerusform>%1 bestanden worden niet gekopieerd: ze staan niet op verwisselbare opslag en blijven waar ze zijn. ‘--to MAP’ kopieert ze.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>%1 ervan is een video, die de catalogus niet opneemt.</numerusform>
+            <numerusform>%1 ervan zijn video’s, die de catalogus niet opneemt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>%1 beheerbestand van camera’s en systemen blijft achter.</numerusform>
+            <numerusform>%1 beheerbestanden van camera’s en systemen blijven achter.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>Niet alles uit %1 is gekopieerd: nog niet formatteren of leegmaken.</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>Er staan kopieën in %1 zelf: niet formatteren of leegmaken.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>Er blijft niets achter in %1: elk bestand heeft elders een vergeleken kopie.
+Formatteren is veilig.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Er blijft niets achter in %1: elk bestand heeft elders een vergeleken kopie.
+Wat deze map betreft is formatteren veilig; wat ernaast staat, is niet
+bekeken.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>%1 stap kan niet meer ongedaan worden gemaakt: sindsdien zijn meer dan %2 gebruiksdagen verstreken.</numerusform>
+            <numerusform>%1 stappen kunnen niet meer ongedaan worden gemaakt: sindsdien zijn meer dan %2 gebruiksdagen verstreken.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>Koppelingen die naar de nieuwe namen leiden:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>%1 symbolische koppeling leidt naar de nieuwe naam.</numerusform>
+            <numerusform>%1 symbolische koppelingen leiden naar de nieuwe namen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>%1 symbolische koppeling behoudt de naam.</numerusform>
+            <numerusform>%1 symbolische koppelingen behouden hun naam.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1 en nog %2</numerusform>
+            <numerusform>%1 en nog %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>Misschien verplaatst, maar dat is niet te zeggen. De foto’s houden hun tags en
+albums, de bestanden zijn nieuw:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 uit XMP</numerusform>
+            <numerusform>%1 uit XMP</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 uit IPTC</numerusform>
+            <numerusform>%1 uit IPTC</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>verplaatst of hernoemd</numerusform>
+            <numerusform>verplaatst of hernoemd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>Deze bewaren</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>Dezelfde afbeelding</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>Gelijkend</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>Verschillend</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>Kon niet worden vergeleken</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>Groep %1: %2 foto zoals %3</numerusform>
+            <numerusform>Groep %1: %2 foto’s zoals %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>onbeschadigd</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>het eigen bestand van de camera</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>met notitie van de fabrikant</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>niet door een ander programma geschreven</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>minder gecomprimeerd</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>meer bytes per pixel</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>met de naam van de camera</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>%1 foto kan nog steeds niet worden vergeleken; ‘lumidex similar --not-compared’ somt deze op.</numerusform>
+            <numerusform>%1 foto’s kunnen nog steeds niet worden vergeleken; ‘lumidex similar --not-compared’ somt ze op.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>%1 ervan (%2) is dezelfde afbeelding als die om te bewaren; ‘lumidex similar --trash’ verplaatst deze naar de prullenbak.</numerusform>
+            <numerusform>%1 ervan (%2) zijn dezelfde afbeelding als die om te bewaren; ‘lumidex similar --trash’ verplaatst ze naar de prullenbak.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>Het is dezelfde afbeelding.</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>Ze lijken op elkaar, maar zijn niet dezelfde afbeelding.</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>Het zijn verschillende afbeeldingen.</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>Hun afbeeldingen konden niet worden vergeleken.</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>dezelfde</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>gelijkend</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>verschillend</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>GROEP</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>OORDEEL</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>Om het ongedaan te kunnen maken moet %1 aan originelen worden bewaard, en de grens is %2.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>‘lumidex undo --keep-size %1’ verhoogt de grens; met --no-undo wordt niets bewaard en kan het niet ongedaan worden gemaakt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>Om %1 aan originelen binnen de grens van %2 te bewaren, zou %3 oudere stap moeten worden vergeten:</numerusform>
+            <numerusform>Om %1 aan originelen binnen de grens van %2 te bewaren, zouden %3 oudere stappen moeten worden vergeten:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>Om %1 aan originelen binnen de grens van %2 te bewaren, wordt %3 oudere stap vergeten:</numerusform>
+            <numerusform>Om %1 aan originelen binnen de grens van %2 te bewaren, worden %3 oudere stappen vergeten:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>‘lumidex undo --keep-size %1’ maakt ruimte voor alle.</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older staat dit toe.</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>Deze vergeten en doorgaan? [j/N]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>Er zou niets worden bewaard: het zou niet ongedaan kunnen worden gemaakt.</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>Het zou worden geweigerd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>%1 bestand importeren naar %2</numerusform>
+            <numerusform>%1 bestanden importeren naar %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>album %1 accepteren</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>%1 album accepteren</numerusform>
+            <numerusform>%1 albums accepteren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>lijkt op %1</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>Niet dezelfde afbeelding als die om te bewaren, alleen gelijkend:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>%1 foto is alleen gelijkend en niet dezelfde afbeelding; deze blijft, tenzij u --alike opgeeft.</numerusform>
+            <numerusform>%1 foto’s zijn alleen gelijkend en niet dezelfde afbeelding; ze blijven, tenzij u --alike opgeeft.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>%1 naar de prullenbak verplaatsen, waarvan %2 alleen gelijkend? [j/N]</numerusform>
+            <numerusform>%1 naar de prullenbak verplaatsen, waarvan %2 alleen gelijkend? [j/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>Doorgaan zonder wat nodig is om het opnieuw te doen? [j/N]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>loopt nog</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>%1 kopie ligt nu in de prullenbak.</numerusform>
+            <numerusform>%1 kopieën liggen nu in de prullenbak.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>Van %1 ervan is de bron er niet: maak de prullenbak niet leeg voordat u die hebt gevonden.</numerusform>
+            <numerusform>Van %1 ervan zijn de bronnen er niet: maak de prullenbak niet leeg voordat u die hebt gevonden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>Er is geen ruimte om te bewaren wat nodig is om het opnieuw te doen; ‘lumidex undo --no-redo’ doet het zonder.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>Het ongedaan maken van ‘%1’ (%2) zal %3 bestand laten zoals het is, want deze stap heeft het sindsdien gewijzigd:</numerusform>
+            <numerusform>Het ongedaan maken van ‘%1’ (%2) zal %3 bestanden laten zoals ze zijn, want deze stap heeft ze sindsdien gewijzigd:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>onbekend</translation>
     </message>
 </context>
 <context>

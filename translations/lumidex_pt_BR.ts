@@ -176,17 +176,8 @@
         <translation>Interrompido.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>“%1”</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>Nenhum álbum foi aceito.</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>Aceitos antes disso: %1.</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -384,22 +375,6 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <translation>ilegível</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>formato</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>espaço</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>pasta</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>arquivo</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>Volume de</translation>
     </message>
@@ -421,18 +396,6 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <comment>free room</comment>
         <translation>desconhecido</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>O quê</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>Onde</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>Por quê</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -443,13 +406,6 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
     <message>
         <source>nothing is in the way.</source>
         <translation>nada impede.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>%1 impedimento.</numerusform>
-            <numerusform>%1 impedimentos.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -530,13 +486,6 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
             <numerusform>%1 fotos editadas; “lumidex undo” desfaz isso.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>%1 foto editada.</numerusform>
-            <numerusform>%1 fotos editadas.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>Não podem ser editadas</translation>
@@ -581,10 +530,6 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>Não incluídos no catálogo:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>O nome não é de foto</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -956,13 +901,6 @@ others are renamed.</source>
         <source>Moving</source>
         <translation>Movendo</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%1 foto como %2</numerusform>
-            <numerusform>%1 fotos como %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1063,10 +1001,6 @@ others are renamed.</source>
     <message>
         <source>PHOTO</source>
         <translation>FOTO</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>GRUPO</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1583,6 +1517,448 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
             <numerusform>%1 foto alterada.</numerusform>
             <numerusform>%1 fotos alteradas.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>“lumidex undo” desfaz isso.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>%1 foto foi deixada de fora, pois só a hora do arquivo a data. Para incluí-la, execute: lumidex albums --file-times</numerusform>
+            <numerusform>%1 fotos foram deixadas de fora, pois só as horas dos arquivos as datam. Para incluí-las, execute: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>Recusados por %1</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>Ao editar todas estas fotos de uma vez:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>%1 deles seria recusado.</numerusform>
+            <numerusform>%1 deles seriam recusados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Verificando</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>seu arquivo auxiliar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>%1 arquivo auxiliar seria editado junto com elas.</numerusform>
+            <numerusform>%1 arquivos auxiliares seriam editados junto com elas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>%1 arquivo auxiliar editado junto com elas.</numerusform>
+            <numerusform>%1 arquivos auxiliares editados junto com elas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>%1 foto editada; isso não pode ser desfeito.</numerusform>
+            <numerusform>%1 fotos editadas; isso não pode ser desfeito.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tirada em %3 ou depois.</numerusform>
+            <numerusform>%1 de %2 fotos, tiradas em %3 ou depois.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tirada em %3 ou antes.</numerusform>
+            <numerusform>%1 de %2 fotos, tiradas em %3 ou antes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>Não há fotos nem vídeos nas pastas indicadas.</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>Está oculto</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>Não é foto nem vídeo, nem pertence a um deles</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>“lumidex undo” move para a lixeira as cópias desta execução.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>%1 arquivo não é copiado, como você pediu: fica onde está.</numerusform>
+            <numerusform>%1 arquivos não são copiados, como você pediu: ficam onde estão.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>%1 arquivo não é copiado: não está em armazenamento removível e fica onde está. “--to PASTA” o copia.</numerusform>
+            <numerusform>%1 arquivos não são copiados: não estão em armazenamento removível e ficam onde estão. “--to PASTA” os copia.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>%1 deles é um vídeo, que o catálogo não aceita.</numerusform>
+            <numerusform>%1 deles são vídeos, que o catálogo não aceita.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>%1 arquivo de controle de câmeras e sistemas é deixado.</numerusform>
+            <numerusform>%1 arquivos de controle de câmeras e sistemas são deixados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>Nem tudo em %1 foi copiado: não formate nem esvazie ainda.</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>Há cópias no próprio %1: não formate nem esvazie.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>Nada fica em %1: cada arquivo tem uma cópia comparada em outro lugar.
+É seguro formatar.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Nada fica em %1: cada arquivo tem uma cópia comparada em outro lugar.
+No que toca a esta pasta, é seguro formatar; o que está ao lado dela não foi
+examinado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>%1 etapa não pode mais ser desfeita: desde então passaram mais de %2 dias de uso.</numerusform>
+            <numerusform>%1 etapas não podem mais ser desfeitas: desde então passaram mais de %2 dias de uso.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>Links que levam aos novos nomes:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>%1 link simbólico leva ao novo nome.</numerusform>
+            <numerusform>%1 links simbólicos levam aos novos nomes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>%1 link simbólico mantém seu nome.</numerusform>
+            <numerusform>%1 links simbólicos mantêm seus nomes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1 e mais %2</numerusform>
+            <numerusform>%1 e mais %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>Talvez movidos, mas não dá para saber. As fotos mantêm suas etiquetas e álbuns,
+os arquivos são novos:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 dos dados XMP</numerusform>
+            <numerusform>%1 dos dados XMP</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>%1 dos dados IPTC</numerusform>
+            <numerusform>%1 dos dados IPTC</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>movido ou renomeado</numerusform>
+            <numerusform>movidos ou renomeados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>Manter esta</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>Mesma imagem</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>Parecida</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>Diferente</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>Não pôde ser comparada</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>Grupo %1: %2 foto como %3</numerusform>
+            <numerusform>Grupo %1: %2 fotos como %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>íntegra</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>o arquivo da própria câmera</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>com a nota do fabricante</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>não gravada por outro programa</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>menos comprimida</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>mais bytes por pixel</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>com o nome dado pela câmera</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>%1 foto continua sem poder ser comparada; “lumidex similar --not-compared” a mostra.</numerusform>
+            <numerusform>%1 fotos continuam sem poder ser comparadas; “lumidex similar --not-compared” as mostra.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>%1 delas (%2) é a mesma imagem que a que convém manter; “lumidex similar --trash” a move para a lixeira.</numerusform>
+            <numerusform>%1 delas (%2) são a mesma imagem que a que convém manter; “lumidex similar --trash” as move para a lixeira.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>São a mesma imagem.</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>São parecidas, mas não são a mesma imagem.</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>São imagens diferentes.</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>Não foi possível comparar suas imagens.</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>mesma</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>parecida</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>diferente</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>GRUPO</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>VEREDITO</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>Para poder ser desfeito, é preciso guardar %1 de originais, e o limite é %2.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>“lumidex undo --keep-size %1” aumenta o limite; com --no-undo nada é guardado e isso não pode ser desfeito.</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>Para guardar %1 de originais dentro do limite de %2, seria preciso esquecer %3 etapa mais antiga:</numerusform>
+            <numerusform>Para guardar %1 de originais dentro do limite de %2, seria preciso esquecer %3 etapas mais antigas:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>Para guardar %1 de originais dentro do limite de %2, esquece-se %3 etapa mais antiga:</numerusform>
+            <numerusform>Para guardar %1 de originais dentro do limite de %2, esquecem-se %3 etapas mais antigas:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>“lumidex undo --keep-size %1” abre espaço para todas.</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older permite isso.</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>Esquecê-las e continuar? [s/N]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>Nada seria guardado: não poderia ser desfeito.</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>Seria recusado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>importar %1 arquivo para %2</numerusform>
+            <numerusform>importar %1 arquivos para %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>aceitar o álbum %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>aceitar %1 álbum</numerusform>
+            <numerusform>aceitar %1 álbuns</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>parecida com %1</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>Não são a mesma imagem que a que convém manter, só parecidas:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>%1 foto é só parecida e não é a mesma imagem; ela fica, a menos que se indique --alike.</numerusform>
+            <numerusform>%1 fotos são só parecidas e não são a mesma imagem; elas ficam, a menos que se indique --alike.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Mover %1 para a lixeira, das quais %2 é só parecida? [s/N]</numerusform>
+            <numerusform>Mover %1 para a lixeira, das quais %2 são só parecidas? [s/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>Continuar sem o que é preciso para refazer? [s/N]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>em andamento</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>%1 cópia está agora na lixeira.</numerusform>
+            <numerusform>%1 cópias estão agora na lixeira.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>A origem de %1 delas não está lá: não esvazie a lixeira antes de encontrá-la.</numerusform>
+            <numerusform>As origens de %1 delas não estão lá: não esvazie a lixeira antes de encontrá-las.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>Não há espaço para guardar o que é preciso para refazer; “lumidex undo --no-redo” dispensa isso.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>Desfazer “%1” (%2) deixará %3 arquivo como está, pois esta etapa o alterou desde então:</numerusform>
+            <numerusform>Desfazer “%1” (%2) deixará %3 arquivos como estão, pois esta etapa os alterou desde então:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>desconhecida</translation>
     </message>
 </context>
 <context>

@@ -178,17 +178,8 @@
         <translation>Прервано.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <comment>a name</comment>
-        <translation>«%1»</translation>
-    </message>
-    <message>
         <source>No album was accepted.</source>
         <translation>Ни один альбом не принят.</translation>
-    </message>
-    <message>
-        <source>Accepted before that: %1.</source>
-        <translation>До этого приняты: %1.</translation>
     </message>
     <message>
         <source>The page %1 is written; it shows all chosen albums as accepted.</source>
@@ -397,22 +388,6 @@ holiday, or of the weekends of one month.</source>
         <translation>не читается</translation>
     </message>
     <message>
-        <source>format</source>
-        <translation>формат</translation>
-    </message>
-    <message>
-        <source>space</source>
-        <translation>место</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>папка</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>файл</translation>
-    </message>
-    <message>
         <source>Volume of</source>
         <translation>Том папки</translation>
     </message>
@@ -434,18 +409,6 @@ holiday, or of the weekends of one month.</source>
         <comment>free room</comment>
         <translation>неизвестно</translation>
     </message>
-    <message>
-        <source>What</source>
-        <translation>Что</translation>
-    </message>
-    <message>
-        <source>Where</source>
-        <translation>Где</translation>
-    </message>
-    <message>
-        <source>Why</source>
-        <translation>Почему</translation>
-    </message>
     <message numerus="yes">
         <source>%1 files checked</source>
         <translation>
@@ -457,14 +420,6 @@ holiday, or of the weekends of one month.</source>
     <message>
         <source>nothing is in the way.</source>
         <translation>препятствий нет.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 things in the way.</source>
-        <translation>
-            <numerusform>%1 препятствие.</numerusform>
-            <numerusform>%1 препятствия.</numerusform>
-            <numerusform>%1 препятствий.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -547,14 +502,6 @@ holiday, or of the weekends of one month.</source>
             <numerusform>Изменено %1 фотографий; «lumidex undo» отменит это.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos edited.</source>
-        <translation>
-            <numerusform>Изменена %1 фотография.</numerusform>
-            <numerusform>Изменено %1 фотографии.</numerusform>
-            <numerusform>Изменено %1 фотографий.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot be edited</source>
         <translation>Нельзя изменить</translation>
@@ -599,10 +546,6 @@ holiday, or of the weekends of one month.</source>
     <message>
         <source>Not taken into the catalogue:</source>
         <translation>Не добавлены в каталог:</translation>
-    </message>
-    <message>
-        <source>It is not named like a photo</source>
-        <translation>Имя не похоже на имя фотографии</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -1005,14 +948,6 @@ others are renamed.</source>
         <source>Moving</source>
         <translation>Перемещение</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 photos like %2</source>
-        <translation>
-            <numerusform>%1 фотография, похожая на %2</numerusform>
-            <numerusform>%1 фотографии, похожие на %2</numerusform>
-            <numerusform>%1 фотографий, похожих на %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Keep %1</source>
         <comment>a file</comment>
@@ -1118,10 +1053,6 @@ others are renamed.</source>
     <message>
         <source>PHOTO</source>
         <translation>ФОТО</translation>
-    </message>
-    <message>
-        <source>CLUSTER</source>
-        <translation>ГРУППА</translation>
     </message>
     <message>
         <source>TO ITS CENTRE</source>
@@ -1657,6 +1588,478 @@ above %1 against; later photos move the centre.</source>
             <numerusform>Метки изменены у %1 фотографий.</numerusform>
             <numerusform>Метки изменены у %1 фотографий.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <translation>«lumidex undo» отменит это.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <translation>
+            <numerusform>Пропущена %1 фотография: её дата известна только по времени файла. Чтобы включить её, выполните: lumidex albums --file-times</numerusform>
+            <numerusform>Пропущено %1 фотографии: их даты известны только по времени файлов. Чтобы включить их, выполните: lumidex albums --file-times</numerusform>
+            <numerusform>Пропущено %1 фотографий: их даты известны только по времени файлов. Чтобы включить их, выполните: lumidex albums --file-times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Refused by %1</source>
+        <comment>commands</comment>
+        <translation>Отклоняются (%1)</translation>
+    </message>
+    <message>
+        <source>Of an edit of all these photos at once:</source>
+        <translation>Об изменении всех этих фотографий сразу:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them would be refused.</source>
+        <translation>
+            <numerusform>из них был бы отклонён %1.</numerusform>
+            <numerusform>из них было бы отклонено %1.</numerusform>
+            <numerusform>из них было бы отклонено %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Проверка</translation>
+    </message>
+    <message>
+        <source>its sidecar</source>
+        <translation>её сопроводительный файл</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars would be edited along with them.</source>
+        <translation>
+            <numerusform>Вместе с ними был бы изменён %1 сопроводительный файл.</numerusform>
+            <numerusform>Вместе с ними было бы изменено %1 сопроводительных файла.</numerusform>
+            <numerusform>Вместе с ними было бы изменено %1 сопроводительных файлов.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sidecars edited along with them.</source>
+        <translation>
+            <numerusform>Вместе с ними изменён %1 сопроводительный файл.</numerusform>
+            <numerusform>Вместе с ними изменено %1 сопроводительных файла.</numerusform>
+            <numerusform>Вместе с ними изменено %1 сопроводительных файлов.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos edited; it cannot be undone.</source>
+        <translation>
+            <numerusform>Изменена %1 фотография; отменить это нельзя.</numerusform>
+            <numerusform>Изменено %1 фотографии; отменить это нельзя.</numerusform>
+            <numerusform>Изменено %1 фотографий; отменить это нельзя.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 из %2 фотографии, снято %3 или позже.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3 или позже.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3 или позже.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 из %2 фотографии, снято %3 или раньше.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3 или раньше.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3 или раньше.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photos or films in the given folders.</source>
+        <translation>В указанных папках нет ни фотографий, ни видео.</translation>
+    </message>
+    <message>
+        <source>It is hidden</source>
+        <translation>Файл скрыт</translation>
+    </message>
+    <message>
+        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <translation>Это не фотография и не видео, и к ним файл не относится</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
+        <translation>«lumidex undo» переместит копии этого запуска в корзину.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <translation>
+            <numerusform>Как вы указали, %1 файл не копируется: он остаётся на месте.</numerusform>
+            <numerusform>Как вы указали, %1 файла не копируются: они остаются на месте.</numerusform>
+            <numerusform>Как вы указали, %1 файлов не копируются: они остаются на месте.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <translation>
+            <numerusform>%1 файл не копируется: он находится не на съёмном носителе и остаётся на месте. «--to ПАПКА» скопирует его.</numerusform>
+            <numerusform>%1 файла не копируются: они находятся не на съёмном носителе и остаются на месте. «--to ПАПКА» скопирует их.</numerusform>
+            <numerusform>%1 файлов не копируются: они находятся не на съёмном носителе и остаются на месте. «--to ПАПКА» скопирует их.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them are films, which the catalogue does not take.</source>
+        <translation>
+            <numerusform>Из них %1 видео, а видео в каталог не добавляются.</numerusform>
+            <numerusform>Из них %1 видео, а видео в каталог не добавляются.</numerusform>
+            <numerusform>Из них %1 видео, а видео в каталог не добавляются.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <translation>
+            <numerusform>Оставлен %1 служебный файл камер и систем.</numerusform>
+            <numerusform>Оставлено %1 служебных файла камер и систем.</numerusform>
+            <numerusform>Оставлено %1 служебных файлов камер и систем.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not everything in %1 is copied: do not format or empty it yet.</source>
+        <translation>Из %1 скопировано не всё: пока не форматируйте и не очищайте.</translation>
+    </message>
+    <message>
+        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <translation>Копии лежат в самом %1: не форматируйте и не очищайте.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+It is safe to format.</source>
+        <translation>В %1 ничего не осталось: у каждого файла есть сверенная копия в другом месте.
+Можно безопасно форматировать.</translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.
+As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>В %1 ничего не осталось: у каждого файла есть сверенная копия в другом месте.
+Что касается этой папки, можно безопасно форматировать; то, что лежит рядом,
+не проверялось.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <translation>
+            <numerusform>%1 шаг больше нельзя отменить: число дней использования с тех пор превысило %2.</numerusform>
+            <numerusform>%1 шага больше нельзя отменить: число дней использования с тех пор превысило %2.</numerusform>
+            <numerusform>%1 шагов больше нельзя отменить: число дней использования с тех пор превысило %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Links that lead to the new names:</source>
+        <translation>Ссылки, ведущие к новым именам:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links lead to the new names.</source>
+        <translation>
+            <numerusform>%1 символическая ссылка ведёт к новому имени.</numerusform>
+            <numerusform>%1 символические ссылки ведут к новым именам.</numerusform>
+            <numerusform>%1 символических ссылок ведут к новым именам.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 symbolic links keep their names.</source>
+        <translation>
+            <numerusform>%1 символическая ссылка сохраняет своё имя.</numerusform>
+            <numerusform>%1 символические ссылки сохраняют свои имена.</numerusform>
+            <numerusform>%1 символических ссылок сохраняют свои имена.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %2 more</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>%1 и ещё %2</numerusform>
+            <numerusform>%1 и ещё %2</numerusform>
+            <numerusform>%1 и ещё %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
+files are new:</source>
+        <translation>Возможно, перемещены, но определить это нельзя. Фотографии сохраняют метки и
+альбомы, файлы считаются новыми:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 XMP</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>XMP: %1</numerusform>
+            <numerusform>XMP: %1</numerusform>
+            <numerusform>XMP: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 IPTC</source>
+        <comment>dates read</comment>
+        <translation>
+            <numerusform>IPTC: %1</numerusform>
+            <numerusform>IPTC: %1</numerusform>
+            <numerusform>IPTC: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>moved or renamed</source>
+        <comment>files</comment>
+        <translation>
+            <numerusform>перемещён или переименован</numerusform>
+            <numerusform>перемещены или переименованы</numerusform>
+            <numerusform>перемещены или переименованы</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep this one</source>
+        <comment>a photo</comment>
+        <translation>Оставить эту</translation>
+    </message>
+    <message>
+        <source>Same picture</source>
+        <translation>То же изображение</translation>
+    </message>
+    <message>
+        <source>Alike</source>
+        <comment>a photo</comment>
+        <translation>Похожая</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <comment>a photo</comment>
+        <translation>Другая</translation>
+    </message>
+    <message>
+        <source>Could not be compared</source>
+        <comment>a photo</comment>
+        <translation>Не удалось сравнить</translation>
+    </message>
+    <message numerus="yes">
+        <source>Group %1: %2 photos like %3</source>
+        <translation>
+            <numerusform>Группа %1: %2 фотография, похожая на %3</numerusform>
+            <numerusform>Группа %1: %2 фотографии, похожие на %3</numerusform>
+            <numerusform>Группа %1: %2 фотографий, похожих на %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <comment>photo</comment>
+        <translation>неповреждённая</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s own file</source>
+        <translation>собственный файл камеры</translation>
+    </message>
+    <message>
+        <source>has the maker&apos;s note</source>
+        <translation>с заметкой производителя</translation>
+    </message>
+    <message>
+        <source>not written by another program</source>
+        <translation>не записана другой программой</translation>
+    </message>
+    <message>
+        <source>compressed less</source>
+        <translation>сжата слабее</translation>
+    </message>
+    <message>
+        <source>more bytes a pixel</source>
+        <translation>больше байтов на пиксель</translation>
+    </message>
+    <message>
+        <source>named by the camera</source>
+        <translation>названа камерой</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</source>
+        <translation>
+            <numerusform>%1 фотографию по-прежнему нельзя сравнить; «lumidex similar --not-compared» покажет её.</numerusform>
+            <numerusform>%1 фотографии по-прежнему нельзя сравнить; «lumidex similar --not-compared» покажет их.</numerusform>
+            <numerusform>%1 фотографий по-прежнему нельзя сравнить; «lumidex similar --not-compared» покажет их.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
+        <translation>
+            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемое; «lumidex similar --trash» переместит его в корзину.</numerusform>
+            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемое; «lumidex similar --trash» переместит их в корзину.</numerusform>
+            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемое; «lumidex similar --trash» переместит их в корзину.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are the same picture.</source>
+        <translation>Это одно и то же изображение.</translation>
+    </message>
+    <message>
+        <source>They are alike, and not the same picture.</source>
+        <translation>Они похожи, но это не одно и то же изображение.</translation>
+    </message>
+    <message>
+        <source>They are different pictures.</source>
+        <translation>Это разные изображения.</translation>
+    </message>
+    <message>
+        <source>Their pictures could not be compared.</source>
+        <translation>Их изображения не удалось сравнить.</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <comment>a picture</comment>
+        <translation>то же</translation>
+    </message>
+    <message>
+        <source>alike</source>
+        <comment>a picture</comment>
+        <translation>похожее</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <comment>a picture</comment>
+        <translation>другое</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a verdict</comment>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>GROUP</source>
+        <translation>ГРУППА</translation>
+    </message>
+    <message>
+        <source>VERDICT</source>
+        <translation>ВЫВОД</translation>
+    </message>
+    <message>
+        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <translation>Чтобы это можно было отменить, нужно хранить %1 исходных файлов, а ограничение — %2.</translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <translation>«lumidex undo --keep-size %1» повысит ограничение; с --no-undo ничего не сохраняется, и отменить это будет нельзя.</translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
+        <translation>
+            <numerusform>Чтобы хранить %1 исходных файлов при ограничении %2, пришлось бы забыть %3 более ранний шаг:</numerusform>
+            <numerusform>Чтобы хранить %1 исходных файлов при ограничении %2, пришлось бы забыть %3 более ранних шага:</numerusform>
+            <numerusform>Чтобы хранить %1 исходных файлов при ограничении %2, пришлось бы забыть %3 более ранних шагов:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>To keep %1 of originals within the limit of %2, undo forgets %3 older steps:</source>
+        <translation>
+            <numerusform>Чтобы хранить %1 исходных файлов при ограничении %2, забывается %3 более ранний шаг:</numerusform>
+            <numerusform>Чтобы хранить %1 исходных файлов при ограничении %2, забываются %3 более ранних шага:</numerusform>
+            <numerusform>Чтобы хранить %1 исходных файлов при ограничении %2, забываются %3 более ранних шагов:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;lumidex undo --keep-size %1&quot; makes room for all of them.</source>
+        <translation>«lumidex undo --keep-size %1» даст место для всех.</translation>
+    </message>
+    <message>
+        <source>--forget-older allows it.</source>
+        <translation>--forget-older разрешает это.</translation>
+    </message>
+    <message>
+        <source>Forget them and go on? [y/N]</source>
+        <translation>Забыть их и продолжить? [д/Н]</translation>
+    </message>
+    <message>
+        <source>Nothing would be kept: it could not be taken back.</source>
+        <translation>Ничего не было бы сохранено: отменить это было бы нельзя.</translation>
+    </message>
+    <message>
+        <source>It would be refused.</source>
+        <translation>Это было бы отклонено.</translation>
+    </message>
+    <message numerus="yes">
+        <source>import %1 files to %2</source>
+        <translation>
+            <numerusform>импорт %1 файла в %2</numerusform>
+            <numerusform>импорт %1 файлов в %2</numerusform>
+            <numerusform>импорт %1 файлов в %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accept album %1</source>
+        <translation>принятие альбома %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>accept %1 albums</source>
+        <translation>
+            <numerusform>принятие %1 альбома</numerusform>
+            <numerusform>принятие %1 альбомов</numerusform>
+            <numerusform>принятие %1 альбомов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>alike to %1</source>
+        <comment>a photo is; a file</comment>
+        <translation>похожа на %1</translation>
+    </message>
+    <message>
+        <source>Not the same picture as the one to keep, only alike:</source>
+        <translation>Не то же изображение, что и оставляемое, а только похожие:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
+        <translation>
+            <numerusform>%1 фотография лишь похожа, но это не то же изображение; без --alike она остаётся.</numerusform>
+            <numerusform>%1 фотографии лишь похожи, но это не то же изображение; без --alike они остаются.</numerusform>
+            <numerusform>%1 фотографий лишь похожи, но это не то же изображение; без --alike они остаются.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %1 to the trash, %2 of which are only alike? [y/N]</source>
+        <comment>so many photos</comment>
+        <translation>
+            <numerusform>Переместить в корзину: %1, из них лишь похожих: %2? [д/Н]</numerusform>
+            <numerusform>Переместить в корзину: %1, из них лишь похожих: %2? [д/Н]</numerusform>
+            <numerusform>Переместить в корзину: %1, из них лишь похожих: %2? [д/Н]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on without what redo needs? [y/N]</source>
+        <translation>Продолжить без того, что нужно для повтора? [д/Н]</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <comment>a step</comment>
+        <translation>выполняется</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies are in the trash now.</source>
+        <translation>
+            <numerusform>%1 копия теперь в корзине.</numerusform>
+            <numerusform>%1 копии теперь в корзине.</numerusform>
+            <numerusform>%1 копий теперь в корзине.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
+        <translation>
+            <numerusform>Для %1 из них исходного файла нет на месте: не очищайте корзину, пока не найдёте его.</numerusform>
+            <numerusform>Для %1 из них исходных файлов нет на месте: не очищайте корзину, пока не найдёте их.</numerusform>
+            <numerusform>Для %1 из них исходных файлов нет на месте: не очищайте корзину, пока не найдёте их.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <translation>Нет места, чтобы сохранить нужное для повтора; «lumidex undo --no-redo» обойдётся без этого.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <translation>
+            <numerusform>Отмена «%1» (%2) оставит %3 файл как есть, так как этот шаг с тех пор изменил его:</numerusform>
+            <numerusform>Отмена «%1» (%2) оставит %3 файла как есть, так как этот шаг с тех пор изменил их:</numerusform>
+            <numerusform>Отмена «%1» (%2) оставит %3 файлов как есть, так как этот шаг с тех пор изменил их:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <comment>a date</comment>
+        <translation>неизвестна</translation>
     </message>
 </context>
 <context>
