@@ -104,11 +104,17 @@ class Catalogue:
         with contextlib.closing(sqlite3.connect(f"file:{self.catalogue}?mode=ro", uri=True)) as database:
             rows = database.execute("SELECT path, id FROM photos WHERE lost = 0").fetchall()
         by_path = {os.fsdecode(path): key for path, key in rows}
-        return {entry[2]: by_path.get(os.path.join(self.photos, name)) for name, entry in self.snapshot().items()}
+        return {entry[2]: by_path.get(os.path.join(self.photos, name)) for name, entry in self.snapshot().items()
+                if not name.endswith(".xmp")}
+
+    def photo_names(self):
+        return sorted(name for name in self.snapshot() if not name.endswith(".xmp"))
 
     def move_outside(self, number, random_source):
-        """What another program does: photos get other names, some those of others, and links are pointed there."""
-        names = sorted(self.snapshot())
+        """What another program does: photos get other names, some those of others, and links are pointed there. Those
+        with sidecars stay: undo follows photos alone, which the catalogue knows."""
+        names = [name for name in self.photo_names()
+                 if not os.path.exists(os.path.join(self.photos, name[:-len("jpg")] + "xmp"))]
         moving = random_source.sample(names, len(names) * 2 // 3)
         new_names = [f"M{number}_{i:04}.jpg" for i in range(len(moving) // 2)] + moving[len(moving) // 2:]
         random_source.shuffle(new_names)
@@ -305,7 +311,7 @@ def main():
             with open(os.path.join(catalogue.photos, name[:-len("jpg")] + "xmp"), "w", encoding="utf-8") as sidecar:
                 sidecar.write(SIDECAR.format(number))
         seen.add(entry[2])
-    names = sorted(catalogue.snapshot())
+    names = catalogue.photo_names()
     for number, name in enumerate(names[::7]):
         whole = os.path.join(catalogue.photos, name)
         os.symlink(whole if number % 3 == 0 else os.path.join("..", name), os.path.join(catalogue.links, f"{number}.jpg"))

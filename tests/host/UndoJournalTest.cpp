@@ -630,9 +630,9 @@ TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
   ASSERT_TRUE(Photo("x.jpg").rename(Photo("a.jpg")));
   StopIn(1);
   for (const char* const table :
-       {"imported", "album_change_photos", "album_change_attributes", "album_changes", "days_of_use",
-        "volumes", "link_changes", "tag_changes", "photo_tags", "tags", "trashed", "cluster_photos",
-        "clusters", "features", "analysers"}) {
+       {"verdicts", "origins", "imported", "album_change_photos", "album_change_attributes", "album_changes",
+        "days_of_use", "volumes", "link_changes", "tag_changes", "photo_tags", "tags", "trashed",
+        "cluster_photos", "clusters", "features", "analysers"}) {
     Sql(std::string("DROP TABLE ") + table);
   }
   Sql("DROP INDEX photos_by_edges");
