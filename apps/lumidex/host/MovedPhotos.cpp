@@ -238,6 +238,12 @@ void MovedPhotos::Report(const std::vector<TracedPhoto>& photos, const Indices& 
   for (const TracedPhoto& photo : photos) {
     doubtful_.insert(photo.number);
   }
+  // Files come in the order in which threads read them; the list does not show it.
+  std::vector<ioPath> files;
+  for (const std::size_t i : held) {
+    files.push_back(held_[i].record.path);
+  }
+  std::sort(files.begin(), files.end());
   if (photos.size() > 1 && held.size() == 1) {
     ScanFinding finding{Kind::Ambiguous, held_[held.front()].record.path,
                         "It may be any of " + std::to_string(photos.size()) + " photos that are gone"};
@@ -250,9 +256,7 @@ void MovedPhotos::Report(const std::vector<TracedPhoto>& photos, const Indices& 
   for (const TracedPhoto& photo : photos) {
     ScanFinding finding{Kind::Ambiguous, photo.record.path,
                         "It is gone, and " + std::to_string(held.size()) + " files may be it"};
-    for (const std::size_t i : held) {
-      finding.candidates.push_back(held_[i].record.path);
-    }
+    finding.candidates = files;
     findings_.push_back(std::move(finding));
   }
 }
