@@ -2,8 +2,8 @@
 """Kills lumidex at random moments of finding similar photos and of moving copies to the trash.
 
 Each round works on a folder in which every photo has a copy.
-  - `similar` is killed (SIGKILL) after a random time, again and again until a run comes to its end. The groups and the
-    verdicts are then those of an undisturbed run, and the catalogue is as matching makes it.
+  - `similar` is killed (SIGKILL) after a random time, up to three times, and then left alone. The groups and the verdicts
+    are those of an undisturbed run, and the catalogue is as matching makes it.
   - `similar --trash --yes` is killed after a random time. Every picture is then there once, in the folder or in the
     trash, the one to keep in the folder; after `undo` the folder is as it was, byte for byte.
 
@@ -20,6 +20,9 @@ import subprocess
 import sys
 import tempfile
 import time
+
+
+MOST_KILLS = 3
 
 
 class Failed(Exception):
@@ -108,7 +111,7 @@ def main():
     arguments = options.parse_args()
     seed = arguments.seed if arguments.seed is not None else random.randrange(1 << 30)
     dice = random.Random(seed)
-    root = arguments.folder or tempfile.mkdtemp(prefix="lumidex-kill-")
+    root = arguments.folder or tempfile.mkdtemp(prefix="lumidex-similar-kill-")
     kills = trash_kills = 0
     try:
         place = Place(os.path.abspath(arguments.lumidex), root)
@@ -125,12 +128,17 @@ def main():
         require(same >= 10, "only %d copies are told" % same)
         for _ in range(arguments.rounds):
             place.begin()
-            while not place.kill(["similar"], dice.uniform(0, 1.2 * long)):
+            for _ in range(MOST_KILLS):
+                if place.kill(["similar"], dice.uniform(0, long)):
+                    break
                 kills += 1
             document = place.run(["similar"])
-            require(groups_of(document) == groups_of(undisturbed), "the groups are others than undisturbed ones")
+            here, there = groups_of(document), groups_of(undisturbed)
+            require(here == there, "the groups are others than undisturbed ones: %s for %s" %
+                    ([group for group in here if group not in there], [group for group in there if group not in here]))
             require(place.run(["similar", "--check"])["differences"] == [], "the clusters are not as matched")
-            trash_kills += 0 if place.kill(["similar", "--trash", "--yes"], dice.uniform(0, long / 2)) else 1
+            planning, _ = timed(place, ["similar", "--trash", "--dry-run"])
+            trash_kills += 0 if place.kill(["similar", "--trash", "--yes"], dice.uniform(0.5, 1.5) * planning) else 1
             place.run(["undo", "--list"])
             here = contents(place.photos)
             there = contents(place.trash) if os.path.isdir(place.trash) else {}

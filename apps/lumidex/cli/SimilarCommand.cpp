@@ -46,7 +46,7 @@ Examples:
   lumidex similar --min 5                only groups of five and more
   lumidex similar --report similar.html  a page with the pictures side by side
   lumidex similar --explain a.jpg b.jpg  why they are together, or not
-  lumidex similar --not-compared         all photos that cannot be compared, too
+  lumidex similar --not-compared         with all that cannot be compared
   lumidex similar --check                is the catalogue as matching made it?
   lumidex similar --model net.onnx       as a model of yours sees the photos
   lumidex similar --trash --dry-run      what would go to the trash?
