@@ -111,6 +111,18 @@ TEST(PhotoChoice, RefusesOneByOneWhatCannotBeEdited) {
   EXPECT_THAT(ChooseForEdit({tree.MakeFolder("empty")}).refused, IsEmpty());
 }
 
+TEST(PhotoChoice, PassesSidecarsOverThatAreNamedAlongWithTheirPhotos) {
+  const TempTree tree;
+  for (const char* const name : {"a.jpg", "a.xmp", "a.jpg.xmp", "b.xmp"}) {
+    tree.Write(name, "");
+  }
+  const EditChoice choice =
+      ChooseForEdit({tree.Path("a.xmp"), tree.Path("a.jpg.xmp"), tree.Path("a.jpg"), tree.Path("b.xmp")});
+  EXPECT_THAT(choice.photos, ElementsAre(tree.Path("a.jpg")));
+  ASSERT_EQ(choice.refused.size(), 1U);
+  EXPECT_EQ(choice.refused[0].file, tree.Path("b.xmp"));
+}
+
 TEST(PhotoChoice, SpellsNamesAsTheDiskDoes) {
   const TempTree tree;
   tree.Write("Photo.JPG", "");

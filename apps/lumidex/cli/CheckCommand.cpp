@@ -229,13 +229,15 @@ std::string ReportText(const CheckReport& report, const Host::JournalRoom& room)
   }
   const std::string checked =
       Say(Words::tr("%1 files checked", nullptr, Amount(report.files)), {GroupDigits(report.files)}) + "; ";
+  const std::string roomText = EditRoomText(room);
   const std::string outcome =
-      (refused.empty() ? Say(Words::tr("nothing is in the way."))
-                       : Say(Words::tr("%1 of them would be refused.", nullptr, Amount(refused.size())),
-                             {GroupDigits(refused.size())})) +
+      (refused.empty() && roomText.empty()
+           ? Say(Words::tr("nothing is in the way."))
+           : Say(Words::tr("%1 of them would be refused.", nullptr, Amount(refused.size())),
+                 {GroupDigits(refused.size())})) +
       '\n';
-  return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + EditRoomText(room) +
-         checked + outcome;
+  return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + roomText + checked +
+         outcome;
 }
 
 ExitCode RunCheck(const CheckArguments& arguments, Session& session) {

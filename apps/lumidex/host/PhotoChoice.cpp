@@ -196,14 +196,30 @@ class EditChooser {
       Refuse(argument, WhatIsWrong(state));
     } else if (IsHiddenName(argument.filename().utf8string())) {
       Refuse(argument, "is hidden");
-    } else if (!IsPhotoName(argument)) {
-      Refuse(argument, "is not named like a photo");
-    } else {
+    } else if (IsPhotoName(argument)) {
       Take(argument);
+    } else if (IsAppendixName(argument.filename().utf8string())) {
+      appendices_.push_back(argument);
+    } else {
+      RefuseName(argument);
     }
   }
 
-  EditChoice Finish() { return std::move(choice_); }
+  /// Patterns of a shell name sidecars along with their photos, which take them along anyway.
+  EditChoice Finish() {
+    std::unordered_set<std::string> shots;
+    for (const ioPath& photo : choice_.photos) {
+      shots.insert(ShotKey(photo));
+    }
+    for (const ioPath& file : appendices_) {
+      std::error_code error;
+      const ioPath path = file.canonical(error);
+      if (error || shots.count(ShotKey(path)) == 0) {
+        RefuseName(file);
+      }
+    }
+    return std::move(choice_);
+  }
 
  private:
   void AddFolder(const ioPath& folder) {
@@ -231,7 +247,10 @@ class EditChooser {
     choice_.refused.push_back({file, file.utf8string() + ' ' + cause + '.'});
   }
 
+  void RefuseName(const ioPath& file) { Refuse(file, "is not named like a photo"); }
+
   std::unordered_set<ioPath> known_;
+  std::vector<ioPath> appendices_;
   EditChoice choice_;
 };
 

@@ -41,8 +41,8 @@ struct EditChoice {
 };
 
 /// As above, but what cannot be taken is refused with its cause instead: what is missing, hidden, no file,
-/// not named like a photo, or in a folder that cannot be read. Does not look into the files. Blocks on the
-/// disk.
+/// not named like a photo, or in a folder that cannot be read. Sidecars and thumbnails that are named along
+/// with their photo are passed over. Does not look into the files. Blocks on the disk.
 EditChoice ChooseForEdit(const std::vector<ioPath>& arguments);
 
 }  // namespace Zenvora::Lumidex::Host
