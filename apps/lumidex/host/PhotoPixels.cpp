@@ -199,6 +199,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
 }
 
 QSize PictureSize(QIODevice& device) {
+  Quillet::TakeDecoderNotes();
   const qint64 before = device.pos();
   QSize size;
   {

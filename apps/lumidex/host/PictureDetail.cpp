@@ -3,6 +3,8 @@
 #include "PhotoPixels.h"
 #include "PicturePlane.h"
 
+#include <zenvora/core/FileNotes.h>
+#include <zenvora/quillet/DecoderNotes.h>
 #include <zenvora/quillet/FileDevice.h>
 
 #include <QImageReader>
@@ -26,6 +28,8 @@ double LostAt(const QSize& size, const QImage& picture) {
 }  // namespace
 
 QImage ReadMiddle(const ioPath& file, int side) {
+  const FileNotes notes(file);
+  Quillet::TakeDecoderNotes();
   Quillet::FileDevice device(file);
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);
