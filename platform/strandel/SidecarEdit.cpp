@@ -165,6 +165,12 @@ std::optional<std::string> Edited(const std::string& bytes, const ioPath& photo,
   if (sidecar.BytesOf(sidecar.Utf8()) != bytes) {
     throw EditRefusal("its text is damaged");
   }
+  // The reader of XMP looks each property up among all others: so many of them keep it busy for a minute.
+  constexpr std::ptrdiff_t kMostProperties = 10'000;
+  const std::string& all = sidecar.Utf8();
+  if (std::count(all.begin(), all.end(), '=') > kMostProperties) {
+    throw EditRefusal("it holds more properties than any program writes");
+  }
   const Exiv2::ExifData exif = ExifOf(photo);
   const auto lock = LockExiv();
   const Exiv2::XmpData before = Decode(sidecar.Utf8());

@@ -89,6 +89,16 @@ TEST_F(TrashPlanTest, TakesAllButTheOneToKeep) {
   EXPECT_THAT(PlanTrash({Group({"lonely.jpg"})}).photos, IsEmpty());
 }
 
+TEST_F(TrashPlanTest, LeavesWhatHasTagsOrAlbumsThatTheKeptOneHasNot) {
+  const TrashPlan plan = PlanTrash({Group({"keep.jpg", "tagged.jpg", "b.jpg"})}, TrashChoice::Same,
+                                   [](const PhotoRecord& photo, const PhotoRecord& kept) {
+                                     return photo.path.filename() == ioPath("tagged.jpg") &&
+                                            kept.path.filename() == ioPath("keep.jpg");
+                                   });
+  EXPECT_THAT(Going(plan), ElementsAre("b.jpg"));
+  EXPECT_THAT(Staying(plan), ElementsAre("tagged.jpg"));
+}
+
 TEST_F(TrashPlanTest, LeavesWhatIsNotAsTheCatalogueKnowsIt) {
   const SuggestedGroup group = Group({"keep.jpg", "changed.jpg", "gone.jpg", "folder.jpg", "b.jpg"});
   tree_.Write("photos/changed.jpg", "something else");

@@ -15,7 +15,10 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
+#include <string>
 #include <system_error>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace Zenvora::Lumidex::Cli {
@@ -61,6 +64,37 @@ bool HasOneOf(const Host::SimilarGroup& group, const std::vector<ioPath>& photos
                                      " is not among the photos that are compared. \"lumidex scan\" takes "
                                      "photos in, and \"lumidex similar\" tells which cannot be compared.");
 }
+
+/// What a catalogue knows of photos beside their files: tags and albums, which would be lost with a copy.
+class PhotoNotes {
+ public:
+  explicit PhotoNotes(const Host::Catalogue& catalogue) {
+    for (const auto& [photo, tags] : catalogue.PhotoTags()) {
+      for (const Host::Tag& tag : tags) {
+        notes_[photo].insert("tag " + std::to_string(static_cast<int>(tag.type)) + tag.name.toStdString());
+      }
+    }
+    for (const Host::StoredAlbum& album : catalogue.Albums()) {
+      for (const QString& photo : album.photoIds) {
+        notes_[photo.toStdString()].insert("album " + album.id.toStdString());
+      }
+    }
+  }
+
+  bool HasMore(const Host::PhotoRecord& photo, const Host::PhotoRecord& kept) const {
+    const auto ours = notes_.find(photo.id.toStdString());
+    if (ours == notes_.end()) {
+      return false;
+    }
+    const auto theirs = notes_.find(kept.id.toStdString());
+    return std::any_of(ours->second.begin(), ours->second.end(), [&](const std::string& note) {
+      return theirs == notes_.end() || theirs->second.count(note) == 0;
+    });
+  }
+
+ private:
+  std::unordered_map<std::string, std::set<std::string>> notes_;
+};
 
 /// One run of the command.
 class SimilarRun {
@@ -158,8 +192,12 @@ class SimilarRun {
 
   void Trash() {
     const auto choice = arguments_.alike ? Host::TrashChoice::SameOrAlike : Host::TrashChoice::Same;
+    const PhotoNotes notes(Host::Catalogue(view_.catalogue, Host::Catalogue::Mode::ReadOnly));
+    const auto hasMore = [&notes](const Host::PhotoRecord& photo, const Host::PhotoRecord& kept) {
+      return notes.HasMore(photo, kept);
+    };
     TrashView& trash =
-        view_.trash.emplace(MakeTrashView(Host::PlanTrash(view_.groups, choice), arguments_.dryRun));
+        view_.trash.emplace(MakeTrashView(Host::PlanTrash(view_.groups, choice, hasMore), arguments_.dryRun));
     trash.alike = arguments_.alike;
     if (trash.dryRun || trash.plan.photos.empty()) {
       return;

@@ -65,15 +65,16 @@ constexpr std::array<Rule, 34> kFiles = {{
     {"leinfo.sav", ""},
 }};
 
-constexpr std::array<std::string_view, 17> kFolders = {
+constexpr std::array<std::string_view, 16> kFolders = {
     // macOS.
     ".trashes", ".spotlight-v100", ".fseventsd", ".temporaryitems", ".documentrevisions-v100",
     // Windows, also of former versions.
     "system volume information", "$recycle.bin", "recycler", "recycled",
     // Trashes of desktops of Linux.
     ".trash", ".trash-*",
-    // Android: fragments found when it checked the card, its own programs, small copies of pictures.
-    "lost.dir", ".android_secure", ".thumbnails",
+    // Android: its own programs, small copies of pictures. Not LOST.DIR: what it found again may be the only
+    // one.
+    ".android_secure", ".thumbnails",
     // Servers for the home: small copies of pictures, and their trash.
     "@eadir", "#recycle",
     // Our own list of copies.

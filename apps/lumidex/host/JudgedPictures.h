@@ -28,6 +28,12 @@ constexpr int kJudgedSide = 1280;
 /// throws for bad content. Blocks on the disk; safe from any thread.
 JudgedPicture ReadJudgedPicture(const ioPath& file);
 
+/// Why a verdict is `Same` without a look at any pixel.
+constexpr char kIdenticalFiles[] = "identical files";
+
+/// False also for empty files and what is no file. Reads both as far as they are equal; blocks on the disk.
+bool HoldTheSameBytes(const ioPath& first, const ioPath& second);
+
 /// The verdict between two decoded pictures. Pure; safe from any thread.
 PictureVerdict JudgePictures(const JudgedPicture& photo, const JudgedPicture& kept);
 

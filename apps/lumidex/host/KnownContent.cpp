@@ -7,6 +7,7 @@
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/tavolin/RemovableStorage.h>
+#include <zenvora/tavolin/Trash.h>
 
 #include <algorithm>
 #include <system_error>
@@ -77,7 +78,7 @@ bool KnownContent::Counts(const ioPath& candidate, const ImportSource& source) {
   const FileState state = QueryFile(candidate);
   return state.kind == FileState::Kind::File && state.size == source.state.size &&
          state.identity != source.state.identity && leaving_.count(state.identity) == 0 &&
-         !IsOnRemovable(RealFolderOf(candidate));
+         !IsOnRemovable(RealFolderOf(candidate)) && !Tavolin::LiesInTrash(candidate);
 }
 
 bool KnownContent::IsOnRemovable(const ioPath& folder) {

@@ -7,6 +7,7 @@
 #include "PictureVerdictRules.h"
 #include "PixelSources.h"
 #include "PlainBars.h"
+#include "UnseenContent.h"
 
 #include <zenvora/core/FileState.h>
 
@@ -21,6 +22,22 @@
 namespace Zenvora::Lumidex::Host {
 
 namespace {
+
+bool IsPartlyTransparent(const QImage& picture) {
+  if (!picture.hasAlphaChannel()) {
+    return false;
+  }
+  const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < pixels.height(); ++y) {
+    const auto* const line = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
+    if (std::any_of(line, line + pixels.width(), [](QRgb pixel) { return qAlpha(pixel) < 255; })) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
 
 bool HoldTheSameBytes(const ioPath& first, const ioPath& second) {
   const FileState a = QueryFile(first);
@@ -45,8 +62,6 @@ bool HoldTheSameBytes(const ioPath& first, const ioPath& second) {
   return compared == a.size;
 }
 
-}  // namespace
-
 const char* VerdictName(Verdict verdict) {
   switch (verdict) {
     case Verdict::Unknown:
@@ -68,7 +83,10 @@ JudgedPicture ReadJudgedPicture(const ioPath& file) {
     picture.isPreview = found.source == PixelSource::Preview;
     picture.size = found.size;
     picture.cause = std::move(found.cause);
-    if (!found.image.isNull()) {
+    if (IsPartlyTransparent(found.image)) {
+      // What is white on nothing shows on no white paper.
+      picture.cause = "it is partly transparent";
+    } else if (!found.image.isNull()) {
       picture.image = OnWhite(found.image);
       picture.size = picture.size.isEmpty() ? picture.image.size() : picture.size;
     }
@@ -158,7 +176,13 @@ class JudgedAgainst::Impl {
 
   PictureVerdict Judge(const ioPath& photo) {
     if (HoldTheSameBytes(photo, kept_)) {
-      return {Verdict::Same, "identical files", 0};
+      return {Verdict::Same, kIdenticalFiles, 0};
+    }
+    if (HoldsSeveralPictures(photo) || HoldsSeveralPictures(kept_)) {
+      return {Verdict::Unknown, "of several pictures in a file only the first can be compared", 0};
+    }
+    if (HoldsMoreBehind(photo, kept_)) {
+      return Unknown(false, "it holds more behind its picture");
     }
     if (!picture_) {
       picture_ = ReadJudgedPicture(kept_);
@@ -168,12 +192,31 @@ class JudgedAgainst::Impl {
     if (verdict.verdict == Verdict::Same && IsLarger(judged.size) && HoldsMore(photo, judged.size)) {
       verdict = {Verdict::Alike, "the same picture, larger and with more detail", verdict.worst};
     }
-    return verdict;
+    return JudgedWhole(photo, judged.size, verdict);
   }
 
  private:
   bool IsLarger(const QSize& size) const {
     return size.width() > picture_->size.width() && size.height() > picture_->size.height();
+  }
+
+  /// Nothing was compressed between two files that keep every pixel: what differs was changed.
+  PictureVerdict JudgedWhole(const ioPath& photo, const QSize& size, const PictureVerdict& verdict) const {
+    constexpr double kHereAndThere = 0.1;
+    const bool mayGo = verdict.verdict == Verdict::Same || verdict.verdict == Verdict::Alike;
+    if (!mayGo || size != picture_->size) {
+      return verdict;
+    }
+    const std::optional<PixelDifference> whole = CompareLossless(photo, kept_, size);
+    if (!whole || (whole->part == 0 && verdict.verdict == Verdict::Same)) {
+      return verdict;
+    }
+    if (whole->part < kHereAndThere) {
+      return {Verdict::Different, "differs in some places", whole->part};
+    }
+    return verdict.verdict == Verdict::Alike
+               ? verdict
+               : PictureVerdict{Verdict::Alike, "the same picture, changed all over", whole->part};
   }
 
   /// At the full size of both, since pictures are compared at a smaller one.

@@ -153,10 +153,16 @@ KeeperChoice SuggestKeeper(const std::vector<SimilarMember>& members) {
     return member.features.sharpness >= most * kNearly;
   });
   const auto fullness = [](const SimilarMember& member) { return OriginOf(member).bytesPerPixel; };
-  candidates.Weigh(KeeperReason::MoreBytes,
-                   [&, most = candidates.Most(fullness)](const SimilarMember& member) {
-                     return fullness(member) >= most * kNearly;
-                   });
+  // Of files that keep every pixel the larger one only has more noise.
+  const auto isLossless = [](const SimilarMember& member) {
+    return OriginOf(member).quantisation > 0 ? 0 : 1;
+  };
+  if (candidates.Most(isLossless) == 0) {
+    candidates.Weigh(KeeperReason::MoreBytes,
+                     [&, most = candidates.Most(fullness)](const SimilarMember& member) {
+                       return fullness(member) >= most * kNearly;
+                     });
+  }
   candidates.Weigh(KeeperReason::CameraName,
                    [](const SimilarMember& member) { return OriginOf(member).cameraName; });
   // The times of files say when they were copied. Undated photos come last.

@@ -1,4 +1,5 @@
 #include "FolderEntries.h"
+#include "JudgedPictures.h"
 #include "PictureEnd.h"
 #include "RenameNames.h"
 #include "ShotNames.h"
@@ -58,7 +59,8 @@ std::string Stays(const ioPath& photo, const std::string& why) {
 
 class Planner {
  public:
-  Planner(const std::vector<SuggestedGroup>& groups, TrashChoice choice) : groups_(groups), choice_(choice) {
+  Planner(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore)
+      : groups_(groups), choice_(choice), hasMore_(hasMore) {
     for (const SuggestedGroup& group : groups) {
       const FileState state = QueryFile(KeptOf(group).photo.path);
       if (state.kind == FileState::Kind::File) {
@@ -129,6 +131,8 @@ class Planner {
            true);
     } else if (const std::string why = WhyKept(VerdictOf(group, index), kept); !why.empty()) {
       plan_.stays.push_back({photo.path, Stays(photo.path, why), true, VerdictOf(group, index).verdict});
+    } else if (hasMore_ && hasMore_(photo, KeptOf(group).photo)) {
+      Stay(photo.path, "it has tags or albums that " + kept.utf8string() + ", which is kept, has not", true);
     } else if (IsRawName(photo.path.filename().utf8string())) {
       raws.insert(index);
     } else {
@@ -262,6 +266,7 @@ class Planner {
 
   const std::vector<SuggestedGroup>& groups_;
   const TrashChoice choice_;
+  const HasMore& hasMore_;
   std::set<Identity> kept_;
   std::unordered_map<ioPath, std::size_t> going_;
   TrashPlan plan_;
@@ -294,8 +299,8 @@ std::uint64_t TrashPlan::CountBytes() const {
   return bytes;
 }
 
-TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice) {
-  return Planner(groups, choice).Run();
+TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore) {
+  return Planner(groups, choice, hasMore).Run();
 }
 
 std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept) {
@@ -311,6 +316,16 @@ std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept) {
     return Stays(photo.path, "it is another name of a file that is kept");
   }
   return {};
+}
+
+std::string FindTrashFault(const TrashPhoto& photo) {
+  const std::string fault = FindTrashFault(photo.photo, photo.kept);
+  // Two files can change their names within a second and be of one size: a look at both is certain.
+  if (fault.empty() && photo.verdict.why == kIdenticalFiles &&
+      !HoldTheSameBytes(photo.photo.path, photo.kept.path)) {
+    return Stays(photo.photo.path, "it has been changed since it was compared");
+  }
+  return fault;
 }
 
 std::string FindTrashFault(const TrashAppendix& appendix) {

@@ -1033,7 +1033,7 @@ TrashResult UndoJournal::Impl::MoveToTrash(const QString& name, const std::vecto
       result.cancelled = true;
       break;
     }
-    const std::string fault = FindTrashFault(photo.photo, photo.kept);
+    const std::string fault = FindTrashFault(photo);
     if (!fault.empty()) {
       result.findings.push_back({photo.photo.path, fault});
     } else if (MoveOne(photo.photo, photo.kept.path, result)) {

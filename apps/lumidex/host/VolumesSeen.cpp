@@ -80,8 +80,13 @@ bool VolumesSeen::IsThere(const ioPath& path, const ioPath& found) {
   if (isNew) {
     place->second = IsSameVolume(mount->first, mount->second);
   }
-  // What moved within it shows that it is the one.
-  return place->second || (IsMount(ioPath(mount->first)) && IsAtOrBelow(found, ioPath(mount->first)));
+  if (place->second) {
+    return true;
+  }
+  // What moved within it shows that it is the one, unless its number says that it is another.
+  const ioPath folder(mount->first);
+  return IsMount(folder) && IsAtOrBelow(found, folder) &&
+         (mount->second.isEmpty() || VolumeId(folder).isEmpty());
 }
 
 bool VolumesSeen::IsSameVolume(const std::string& mounted, const QString& id) {

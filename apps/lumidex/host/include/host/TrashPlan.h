@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -59,6 +60,8 @@ struct TrashPlan {
   std::uint64_t CountBytes() const;
 };
 
+using HasMore = std::function<bool(const PhotoRecord& photo, const PhotoRecord& kept)>;
+
 /// What goes to the trash when of each group only the photo to keep is to stay, and what stays all the same:
 /// - what is the very file that is kept here or in another group, under whatever name, or a link;
 /// - other formats of the shot that the kept photo is of, as `GroupShots` has it;
@@ -74,11 +77,15 @@ struct TrashPlan {
 /// Settings and thumbnails beside a photo go along with it when they are that file's alone, or when nothing
 /// else of the shot stays that could need them. Changes nothing; blocks on the disk. docs/decisions/trash.md
 /// has the reasons.
-TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice = TrashChoice::Same);
+/// `hasMore`: whether a photo has tags or albums that the kept one has not; then it stays. Empty: none has.
+TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice = TrashChoice::Same,
+                    const HasMore& hasMore = nullptr);
 
 /// Why the photo must not go now, in an English sentence; empty: it may. To be asked right before it goes.
 /// Blocks on the disk.
 std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept);
+/// The same, and where both were identical files, whether they still are.
+std::string FindTrashFault(const TrashPhoto& photo);
 /// The same for what goes along with a photo.
 std::string FindTrashFault(const TrashAppendix& appendix);
 

@@ -14,7 +14,7 @@ namespace Zenvora::Strandel {
 /// `kMostSidecarBytes`, or has such values and is damaged, keeps them in a form that cannot be changed in
 /// place, or would say something else afterwards. The photo and the sidecar are only read. They block on the
 /// disk; safe from any thread, but one file at a time is edited.
-constexpr std::size_t kMostSidecarBytes = std::size_t{16} << 20U;
+constexpr std::size_t kMostSidecarBytes = std::size_t{4} << 20U;
 
 /// True when the edit of `photo` changes something in its sidecar. `photo` must be as it was before the edit.
 ZENVORA_STRANDEL_EXPORT bool TryEditSidecar(const ioPath& sidecar, const ioPath& photo,
