@@ -264,15 +264,7 @@ class EditRun {
     if (!view_.findings.empty()) {
       return view_.edited > 0 ? ExitCode::Partly : ExitCode::Failed;
     }
-    if (arguments_.dryRun && !tasks_.empty() && IsRefusedForRoom()) {
-      return ExitCode::Failed;
-    }
     return tasks_.empty() || view_.declined ? ExitCode::Findings : ExitCode::Done;
-  }
-
-  /// What the run would refuse without a person to ask.
-  bool IsRefusedForRoom() const {
-    return !view_.room.Fits() || (!view_.room.forgotten.empty() && !arguments_.room.forgetOlder);
   }
 
   const EditArguments& arguments_;
