@@ -276,10 +276,12 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, AsksOnATerminal,
 
 TEST_F(CheckCommand, NeverWaitsForPipes) {
   MakePhotos("a", "2024:01:02", 1);
-  EXPECT_EQ(RunShell("mkfifo photos/pipe.jpg && ln -s /dev/zero photos/zero.jpg && $LUMIDEX check --for rename photos "
-                     "photos/pipe.jpg && $LUMIDEX import photos photos/pipe.jpg --to copies")
-                .exitCode,
-            1)
+  EXPECT_EQ(
+      RunShell(
+          "mkfifo photos/pipe.jpg && ln -s /dev/zero photos/zero.jpg && $LUMIDEX check --for rename photos "
+          "photos/pipe.jpg && $LUMIDEX import photos photos/pipe.jpg --to copies")
+          .exitCode,
+      1)
       << "what is no file is left, and told";
   EXPECT_THAT(NamesIn(tree.Path("copies")), ElementsAre(".lumidex-import", "img0.jpg"));
 }

@@ -158,8 +158,7 @@ TEST_F(SimilarCommand, SaysWhatCannotBeCompared) {
   const Ran again = Run({"similar"});
   EXPECT_EQ(again.exitCode, 3);
   EXPECT_THAT(again.out, ::testing::Not(HasSubstr("broken.jpg")));
-  EXPECT_THAT(again.out,
-              HasSubstr("--not-compared"));
+  EXPECT_THAT(again.out, HasSubstr("--not-compared"));
   EXPECT_THAT(Run({"similar", "--not-compared"}).out, HasSubstr(list));
   EXPECT_EQ(Run({"similar", "--json"}).Json()["findings"].toArray().size(), 1);
 }

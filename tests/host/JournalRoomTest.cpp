@@ -5,9 +5,9 @@
 namespace Zenvora::Lumidex::Host {
 namespace {
 
-using Zenvora::Test::ReadFile;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Zenvora::Test::ReadFile;
 
 class JournalRoomTest : public Zenvora::Test::JournalTest {
  protected:
@@ -165,8 +165,9 @@ TEST_F(JournalRoomTest, SettlesAStepWithoutOriginalsThatWasBrokenOff) {
 TEST_F(JournalRoomTest, IsReadFromACatalogueOfAFormerVersion) {
   EditOf("first", 900);
   Close();
-  Zenvora::Test::RunSql(catalogue_, {"ALTER TABLE steps DROP COLUMN kind", "ALTER TABLE steps DROP COLUMN day",
-                            "DROP TABLE days_of_use", "PRAGMA user_version = 5"});
+  Zenvora::Test::RunSql(catalogue_,
+                        {"ALTER TABLE steps DROP COLUMN kind", "ALTER TABLE steps DROP COLUMN day",
+                         "DROP TABLE days_of_use", "PRAGMA user_version = 5"});
   EXPECT_THAT(NamesOf(RoomFor(300).forgotten), ElementsAre("first"));
   EXPECT_THAT(NamesOf(ReadUndoSteps(catalogue_)), ElementsAre("first"));
   EXPECT_EQ(Zenvora::Test::RunSql(catalogue_, {"PRAGMA user_version"}).toInt(), 5);

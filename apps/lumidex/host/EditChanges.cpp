@@ -15,7 +15,8 @@ ioPath SideName(const ioPath& photo) {
 
 std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step) {
   QSqlQuery query = database.Prepare(
-      "SELECT number, state, path, side, adopted, digest_before, digest_after, goes_with FROM changes WHERE step = ?"
+      "SELECT number, state, path, side, adopted, digest_before, digest_after, goes_with FROM changes WHERE "
+      "step = ?"
       " ORDER BY number");
   query.addBindValue(step);
   database.Run(query);

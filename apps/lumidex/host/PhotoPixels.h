@@ -32,8 +32,8 @@ constexpr const char* kDamagedText = "a part of the picture is damaged";
 /// found out before it is taken, and for ones too damaged to give any pixels. The device must be open and
 /// able to seek.
 DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright);
-/// The pixels of the picture that `DecodePicture` would decode, as stored or turned; empty when there is none.
-/// The device is left where it was.
+/// The pixels of the picture that `DecodePicture` would decode, as stored or turned; empty when there is
+/// none. The device is left where it was.
 QSize PictureSize(QIODevice& device);
 /// The picture alone, from bytes in memory; never turned.
 QImage DecodeBytes(const QByteArray& bytes, int longerSide);

@@ -23,8 +23,8 @@ struct AlignedFinding {
 };
 
 /// Lays one picture over the other (Format_RGB32), which may be a little larger or smaller, moved, turned and
-/// brighter or darker, and compares what is common to both. `asTheyLie`: hardly moved, turned or scaled, which
-/// is found ten times faster. Pure; takes some tenths of a second.
+/// brighter or darker, and compares what is common to both. `asTheyLie`: hardly moved, turned or scaled,
+/// which is found ten times faster. Pure; takes some tenths of a second.
 AlignedFinding Align(const QImage& first, const QImage& second, bool asTheyLie = false);
 
 }  // namespace Zenvora::Lumidex::Host
