@@ -156,19 +156,38 @@ void ChangeInPlace(std::string& text, const XmpChange& change) {
   }
 }
 
+/// The reader of XMP looks each property up among all others: too many of them keep it busy for a minute.
+bool HoldsTooMany(const std::string& text) {
+  constexpr std::ptrdiff_t kMostProperties = 10'000;
+  return std::count(text.begin(), text.end(), '=') > kMostProperties;
+}
+
+/// What is cut may have had what the edit changes behind the cut. Other files than XML are none of its
+/// business.
+void RefuseCut(const std::string& text) {
+  constexpr std::string_view kBefore = "\xEF\xBB\xBF \t\r\n";
+  const std::size_t begin = text.find_first_not_of(kBefore);
+  if (begin == std::string::npos || text[begin] != '<' || HoldsTooMany(text)) {
+    return;
+  }
+  FindXmpPlaces(text);
+  const std::size_t packet = text.find("<?xpacket begin");
+  if (packet != std::string::npos && text.find("<?xpacket end", packet) == std::string::npos) {
+    throw EditRefusal("it breaks off before its end");
+  }
+}
+
 /// Nothing when the edit changes nothing in it.
 std::optional<std::string> Edited(const std::string& bytes, const ioPath& photo, const PhotoEdit& edit) {
   const SidecarText sidecar(bytes);
+  RefuseCut(sidecar.Utf8());
   if (!NamesWhatChanges(sidecar.Utf8(), edit)) {
     return std::nullopt;
   }
   if (sidecar.BytesOf(sidecar.Utf8()) != bytes) {
     throw EditRefusal("its text is damaged");
   }
-  // The reader of XMP looks each property up among all others: so many of them keep it busy for a minute.
-  constexpr std::ptrdiff_t kMostProperties = 10'000;
-  const std::string& all = sidecar.Utf8();
-  if (std::count(all.begin(), all.end(), '=') > kMostProperties) {
+  if (HoldsTooMany(sidecar.Utf8())) {
     throw EditRefusal("it holds more properties than any program writes");
   }
   const Exiv2::ExifData exif = ExifOf(photo);

@@ -64,5 +64,27 @@ TEST_F(PhotoSidecars, AreTheFilesThatLinksLeadToAndEachOnce) {
   EXPECT_THAT(tasks[1].sidecars, IsEmpty());
 }
 
+TEST_F(PhotoSidecars, StayWithThePhotoThatTheyLieBesideWhateverLinksLeadToThem) {
+  for (const char* const name : {"a/1.jpg", "a/1.xmp", "b/2.jpg", "b/3.CR2", "b/3.jpg", "b/3.xmp"}) {
+    Make(name);
+  }
+  LUMIDEX_LINK_OR_SKIP(Path("a/1.xmp"), Path("b/2.xmp"));
+  LUMIDEX_LINK_OR_SKIP(Path("b/3.xmp"), Path("b/3.jpg.xmp"));
+  EXPECT_THAT(Of(Path("b/2.jpg")), IsEmpty());
+  EXPECT_THAT(Of(Path("b/3.jpg")), IsEmpty()) << "it is the raw file's";
+  EXPECT_THAT(Of(Path("a/1.jpg")), ElementsAre(Path("a/1.xmp")));
+  const std::vector<EditTask> tasks = FindSidecars({Path("b/2.jpg"), Path("a/1.jpg")});
+  EXPECT_THAT(tasks[0].sidecars, IsEmpty());
+  EXPECT_THAT(tasks[1].sidecars, ElementsAre(Path("a/1.xmp")));
+}
+
+TEST_F(PhotoSidecars, AreFoundByLinksOfThePhotoItself) {
+  const ioPath photo = Make("real/x.jpg");
+  const ioPath sidecar = Make("named/a.xmp");
+  LUMIDEX_LINK_OR_SKIP(photo, Path("named/a.jpg"));
+  LUMIDEX_LINK_OR_SKIP(sidecar, Path("real/x.xmp"));
+  EXPECT_THAT(Of(photo), ElementsAre(sidecar));
+}
+
 }  // namespace
 }  // namespace Zenvora::Lumidex::Host

@@ -178,9 +178,8 @@ TEST_F(SidecarEdits, KeepTheTimeZoneThatTheDateStandsIn) {
 }
 
 TEST_F(SidecarEdits, LeaveAloneWhatHasNoneOfTheValues) {
-  for (const std::string& bytes :
-       {std::string(), std::string(2000, '\0'), std::string("no XMP at all"), Packet("xmp:Rating=\"5\""),
-        Packet("xmp:Rating=\"5\"").substr(0, 300), Utf16("odd", true, true) + "x"}) {
+  for (const std::string& bytes : {std::string(), std::string(2000, '\0'), std::string("no XMP at all"),
+                                   Packet("xmp:Rating=\"5\""), Utf16("odd", true, true) + "x"}) {
     EXPECT_EQ(Edited(bytes, ShiftedBy(seconds(60))), bytes);
     EXPECT_EQ(Edited(bytes, SetTo()), bytes);
     EXPECT_EQ(Edited(bytes, Turned(Turn::Half)), bytes);
@@ -205,6 +204,26 @@ TEST_F(SidecarEdits, RefuseWhatTheyCannotChange) {
   tree.MakeFolder("folder.xmp");
   EXPECT_THROW(TryEditSidecar(tree.Path("folder.xmp"), photo, SetTo()), PhotoEditError);
   EXPECT_THROW(TryEditSidecar(tree.Path("gone.xmp"), photo, SetTo()), PhotoEditError);
+}
+
+TEST_F(SidecarEdits, RefuseWhatIsCutWhereverTheCutIs) {
+  // What they change may have stood behind the cut.
+  for (const std::string& whole : {Packet("xmp:Rating=\"5\" tiff:Orientation=\"1\""),
+                                   Packet("xmp:Rating=\"5\"", "<tiff:Orientation>1</tiff:Orientation>")}) {
+    for (std::size_t size = 1; size < whole.size() - 20; size += 23) {
+      const std::string cut = whole.substr(0, size);
+      EXPECT_NE(Refusal(cut, Turned(Turn::Right)), "") << size;
+      EXPECT_NE(Refusal(cut, ShiftedBy(seconds(60))), "") << size;
+      EXPECT_NE(Refusal(Utf16(cut, true, true), SetTo()), "") << size;
+    }
+  }
+  const std::string whole = Packet("tiff:Orientation=\"1\"");
+  EXPECT_THAT(Refusal(whole.substr(0, whole.find("<?xpacket end")), Turned(Turn::Right)),
+              HasSubstr("it breaks off before its end"));
+  // A packet may go without its frame.
+  const std::size_t begin = whole.find("<x:xmpmeta");
+  const std::string bare = whole.substr(begin, whole.find("<?xpacket end") - begin);
+  EXPECT_EQ(Edited(bare, Turned(Turn::Right)), Replaced(bare, "Orientation=\"1\"", "Orientation=\"6\""));
 }
 
 TEST_F(SidecarEdits, NeverWriteOverAnything) {

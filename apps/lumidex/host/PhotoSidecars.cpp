@@ -54,6 +54,26 @@ std::vector<ioPath> FilesOf(const ioPath& folder) {
   return files;
 }
 
+ioPath TrueName(const ioPath& file) {
+  std::error_code error;
+  const ioPath path = file.canonical(error);
+  return error ? file : path;
+}
+
+/// True when the sidecar, reached by a link, lies beside a photo that it belongs to and that is another one:
+/// it changes with that.
+bool IsOfAnother(const ioPath& sidecar, const ioPath& photo) {
+  for (const ShotSet& set : GroupShots({sidecar}, FilesOf(sidecar.parent_path()))) {
+    for (const ShotFile& file : set.files) {
+      const ioPath* const owner = file.path == sidecar ? OwnerOf(file, set) : nullptr;
+      if (owner != nullptr) {
+        return TrueName(*owner) != TrueName(photo);
+      }
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
 std::vector<EditTask> FindSidecars(const std::vector<ioPath>& photos) {
@@ -75,10 +95,9 @@ std::vector<EditTask> FindSidecars(const std::vector<ioPath>& photos) {
         if (place == places.end() || QueryFile(file.path).kind == FileState::Kind::Missing) {
           continue;
         }
-        std::error_code error;
-        const ioPath path = file.path.canonical(error);
-        const ioPath& sidecar = error ? file.path : path;
-        if (taken.insert(sidecar).second) {
+        const ioPath sidecar = TrueName(file.path);
+        const bool isElsewhere = sidecar != file.path && IsOfAnother(sidecar, *owner);
+        if (!isElsewhere && taken.insert(sidecar).second) {
           tasks[place->second].sidecars.push_back(sidecar);
         }
       }
