@@ -177,6 +177,7 @@ TEST_F(TrashCommand, ShowsWhatWouldGoInADryRun) {
 }
 
 TEST_F(TrashCommand, WritesOneDocumentWithAllItsMembers) {
+  tree.Write("photos/a1.xmp", "settings");
   tree.Write("photos/a2.xmp", "settings");
   const QJsonObject dry = Run({"similar", "--trash", "--dry-run", "--json"}).Json()["trash"].toObject();
   EXPECT_TRUE(dry["dryRun"].toBool());

@@ -99,6 +99,14 @@ TEST_F(TrashPlanTest, LeavesWhatHasTagsOrAlbumsThatTheKeptOneHasNot) {
   EXPECT_THAT(Staying(plan), ElementsAre("tagged.jpg"));
 }
 
+TEST_F(TrashPlanTest, LeavesAllWhereTheOneToKeepIsALink) {
+  Make("elsewhere/real.jpg");
+  LUMIDEX_LINK_OR_SKIP(tree_.Path("photos/elsewhere/real.jpg"), tree_.Path("photos/keep.jpg"));
+  const TrashPlan plan = PlanTrash({Group({"keep.jpg", "a.jpg"})});
+  EXPECT_THAT(Going(plan), IsEmpty());
+  EXPECT_THAT(plan.stays.at(0).cause, HasSubstr("keep.jpg, is a link to another file."));
+}
+
 TEST_F(TrashPlanTest, LeavesWhatIsNotAsTheCatalogueKnowsIt) {
   const SuggestedGroup group = Group({"keep.jpg", "changed.jpg", "gone.jpg", "folder.jpg", "b.jpg"});
   tree_.Write("photos/changed.jpg", "something else");
@@ -254,18 +262,65 @@ TEST_F(TrashPlanTest, KeepsARawFileWhereThatOfTheKeptShotIsNoneOfItsOwn) {
 }
 
 TEST_F(TrashPlanTest, TakesSettingsAlongThatNobodyElseNeeds) {
-  for (const char* const name : {"a.xmp", "a.jpg.xmp", "a.THM", "a.txt", ".a.xmp"}) {
+  for (const char* const name : {"a.xmp", "a.jpg.xmp", "keep.jpg.xmp", "keep.pp3"}) {
+    tree_.Write(std::string("photos/") + name, "settings");
+  }
+  for (const char* const name : {"a.THM", "a.txt", ".a.xmp"}) {
     Make(name);
   }
+  tree_.Write("photos/a.dop", "");
   const TrashPlan plan = PlanTrash({Group({"keep.jpg", "a.jpg"})});
-  EXPECT_THAT(Going(plan), ElementsAre("a.jpg +a.THM +a.jpg.xmp +a.xmp"));
-  EXPECT_EQ(plan.CountFiles(), 4U);
+  EXPECT_THAT(Going(plan), ElementsAre("a.jpg +a.THM +a.dop +a.jpg.xmp +a.xmp"));
+  EXPECT_EQ(plan.CountFiles(), 5U);
+}
+
+TEST_F(TrashPlanTest, KeepsAPhotoWithSettingsThatTheKeptOneHasNot) {
+  for (const std::string name : {"a", "b", "c", "d", "keep"}) {
+    tree_.Write("photos/" + name + ".xmp", name == "b" ? "five stars" : "settings");
+  }
+  tree_.Write("photos/d.jpg.pp3", "developed");
+  Make("e.THM");
+  const TrashPlan plan = PlanTrash({Group({"keep.jpg", "a.jpg", "b.jpg", "c.jpg", "d.jpg", "e.jpg"})});
+  EXPECT_THAT(Going(plan), ElementsAre("a.jpg +a.xmp", "c.jpg +c.xmp", "e.jpg +e.THM"));
+  EXPECT_THAT(Staying(plan), ElementsAre("b.jpg", "d.jpg"));
+  EXPECT_THAT(
+      plan.stays[0].cause,
+      HasSubstr("b.jpg stays: its settings in b.xmp would go along, and beside " +
+                tree_.Path("photos/keep.jpg").utf8string() + ", which is kept, there are none like them."));
+  EXPECT_THAT(Going(PlanTrash({Group({"bare.jpg", "a.jpg"})})), IsEmpty());
+  EXPECT_THAT(Going(PlanTrash({Group({"a.jpg", "bare.jpg"})})), ElementsAre("bare.jpg"));
+}
+
+TEST_F(TrashPlanTest, KeepsAllPhotosThatShareSettingsWhichTheKeptOneHasNot) {
+  for (const char* const name : {"a.xmp", "a.jpg", "a.CR2", "keep.cr2"}) {
+    Make(name);
+  }
+  EXPECT_THAT(Staying(PlanTrash({Group({"keep.cr2", "a.jpg", "a.CR2"})})), ElementsAre("a.jpg", "a.CR2"));
+}
+
+TEST_F(TrashPlanTest, TakesALinkToTheSettingsForNoneOfItsOwn) {
+  Make("a.xmp");
+  LUMIDEX_LINK_OR_SKIP(tree_.Path("photos/a.xmp"), tree_.Path("photos/keep.xmp"));
+  EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.jpg"})})), IsEmpty());
+}
+
+TEST_F(TrashPlanTest, LooksOnceMoreWhetherTheKeptSettingsAreTheSame) {
+  tree_.Write("photos/a.xmp", "settings");
+  tree_.Write("photos/keep.xmp", "settings");
+  const TrashPlan plan = PlanTrash({Group({"keep.jpg", "a.jpg"})});
+  ASSERT_EQ(plan.photos.size(), 1U);
+  ASSERT_EQ(plan.photos[0].appendix.size(), 1U);
+  tree_.Path("photos/a.jpg").remove();
+  EXPECT_EQ(FindTrashFault(plan.photos[0].appendix[0]), "");
+  tree_.Write("photos/keep.xmp", "something else");
+  EXPECT_THAT(FindTrashFault(plan.photos[0].appendix[0]), HasSubstr("are not the same any more"));
 }
 
 TEST_F(TrashPlanTest, LeavesSettingsOfAShotOfWhichAPhotoStays) {
-  for (const char* const name : {"a.xmp", "a.jpg.xmp", "a.CR2.xmp", "a_01.CR2.xmp", "a.CR2"}) {
-    Make(name);
+  for (const char* const name : {"a.xmp", "a.jpg.xmp", "a.CR2.xmp", "a_01.CR2.xmp", "keep.xmp"}) {
+    tree_.Write(std::string("photos/") + name, "settings");
   }
+  Make("a.CR2");
   EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.jpg"})})), ElementsAre("a.jpg +a.jpg.xmp"));
   // With the last photo of the shot all of it goes.
   EXPECT_THAT(Going(PlanTrash({Group({"keep.cr2", "a.jpg", "a.CR2"})})),
@@ -273,9 +328,10 @@ TEST_F(TrashPlanTest, LeavesSettingsOfAShotOfWhichAPhotoStays) {
 }
 
 TEST_F(TrashPlanTest, LeavesSettingsThatMayBeThoseOfAFilmOrALayeredPicture) {
+  tree_.Write("photos/keep.xmp", "settings");
   for (const std::string name : {"a.mov", "b.psd", "c.wav"}) {
     for (const char* const end : {".jpg.xmp", ".xmp", ".THM"}) {
-      Make(name.substr(0, 1) + end);
+      tree_.Write("photos/" + name.substr(0, 1) + end, "settings");
     }
     Make(name);
   }
@@ -288,8 +344,9 @@ TEST_F(TrashPlanTest, LeavesSettingsOfAPhotoThatDiffersInCaseAlone) {
   if (QueryFile(tree_.Path("photos/a.JPG")).kind != FileState::Kind::Missing) {
     GTEST_SKIP() << "names that differ in case alone are one here";
   }
-  for (const char* const name : {"a.JPG", "a.JPG.xmp", "a.jpg.xmp"}) {
-    Make(name);
+  Make("a.JPG");
+  for (const char* const name : {"a.JPG.xmp", "a.jpg.xmp", "keep.xmp"}) {
+    tree_.Write(std::string("photos/") + name, "settings");
   }
   EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.jpg"})})), ElementsAre("a.jpg"));
   EXPECT_THAT(Going(PlanTrash({Group({"keep.jpg", "a.JPG"})})), ElementsAre("a.JPG"));

@@ -37,9 +37,10 @@ most; above 0.91 is similar), its pixels and its bytes.
 listed apart. These stay in any case: what is different or unknown, other
 formats of the shot that is kept, raw files unless a raw file of the group is
 kept, links, what was changed since the last scan, what does not score above
-0.91 against the one to keep itself, and whole groups whose photo to keep is
-damaged. Settings beside a photo (.xmp) go along with it. "lumidex undo" brings
-all of it back while it is in the trash.
+0.91 against the one to keep itself, what has settings beside it (.xmp) that
+the one to keep has not, and whole groups whose photo to keep is damaged. Equal
+settings go along with their photo. "lumidex undo" brings all of it back while
+it is in the trash.
 
 Examples:
   lumidex similar

@@ -108,8 +108,13 @@ bool IsFilmName(std::string_view name) {
 }
 
 bool IsAppendixName(std::string_view name) {
-  static constexpr std::array<std::string_view, 12> kExtensions = {
-      ".xmp", ".pp3", ".arp", ".dop", ".on1", ".vrd", ".dr4", ".nksc", ".cos", ".json", ".aae", ".thm"};
+  static constexpr std::array<std::string_view, 1> kThumbnails = {".thm"};
+  return IsSettingsName(name) || HasOneOf(name, kThumbnails);
+}
+
+bool IsSettingsName(std::string_view name) {
+  static constexpr std::array<std::string_view, 11> kExtensions = {
+      ".xmp", ".pp3", ".arp", ".dop", ".on1", ".vrd", ".dr4", ".nksc", ".cos", ".json", ".aae"};
   return HasOneOf(name, kExtensions);
 }
 

@@ -52,6 +52,9 @@ bool IsFilmName(std::string_view name);
 /// spoken notes and layered pictures are worth something by themselves.
 bool IsAppendixName(std::string_view name);
 
+/// True for names of what people did to a photo: settings, ratings, texts; thumbnails are none of it.
+bool IsSettingsName(std::string_view name);
+
 /// Of a name with two extensions ("IMG_1.CR2.xmp") the extension of the file that it belongs to, with its
 /// dot; empty: it belongs to the shot.
 std::string OwnerExtension(std::string_view suffix);

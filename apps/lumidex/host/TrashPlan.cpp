@@ -73,7 +73,11 @@ class Planner {
     for (const SuggestedGroup& group : groups_) {
       AddGroup(group);
     }
-    AddAppendices();
+    const std::vector<Beside> beside = FindBeside();
+    SpareSettings(beside);
+    for (const Beside& file : beside) {
+      AddAppendix(file);
+    }
     return std::move(plan_);
   }
 
@@ -87,19 +91,30 @@ class Planner {
     return Quillet::MatchTemplate(photo.features.vector, kept.features.vector) > kSameGroupScore;
   }
 
+  /// What is wrong with the photo to keep.
+  struct Fault {
+    std::string text;
+    bool isRule = false;
+  };
+
   void AddGroup(const SuggestedGroup& group) {
     const ioPath& kept = KeptOf(group).photo.path;
     const FileState state = QueryFile(kept);
-    std::string fault;
+    Fault fault;
     if (!IsAsKnown(state, KnownAs(KeptOf(group).photo))) {
-      fault = "the one to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
+      fault.text = "the one to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
     } else if (Tavolin::LiesInTrash(kept)) {
-      fault = "the one to keep, " + kept.utf8string() + ", is in a trash itself";
+      fault.text = "the one to keep, " + kept.utf8string() + ", is in a trash itself";
+    } else if (IsLink(kept)) {
+      // The file that it leads to may lie on what is pulled out, and nobody looks after it here.
+      fault.text = "the one to keep, " + kept.utf8string() + ", is a link to another file";
+      fault.isRule = true;
     } else if (group.group.members.size() > 1 && EndsTooSoon(kept)) {
       // As large as it was, and hardly less sharp: nothing else tells it from the whole one.
-      fault = "the one to keep, " + kept.utf8string() + ", breaks off before the end of its picture";
+      fault.text = "the one to keep, " + kept.utf8string() + ", breaks off before the end of its picture";
     } else if (KeptOf(group).origin && !KeptOf(group).origin->degradation.empty()) {
-      fault = "the one to keep, " + kept.utf8string() + ", is damaged: " + KeptOf(group).origin->degradation;
+      fault.text =
+          "the one to keep, " + kept.utf8string() + ", is damaged: " + KeptOf(group).origin->degradation;
     }
     std::set<std::size_t> raws;
     for (std::size_t i = 0; i < group.group.members.size(); ++i) {
@@ -110,13 +125,13 @@ class Planner {
     SettleRaws(group, raws);
   }
 
-  void Judge(const SuggestedGroup& group, std::size_t index, const std::string& fault,
+  void Judge(const SuggestedGroup& group, std::size_t index, const Fault& fault,
              std::set<std::size_t>& raws) {
     const PhotoRecord& photo = group.group.members[index].photo;
     const ioPath& kept = KeptOf(group).photo.path;
     const FileState state = QueryFile(photo.path);
-    if (!fault.empty()) {
-      Stay(photo.path, fault, false);
+    if (!fault.text.empty()) {
+      Stay(photo.path, fault.text, fault.isRule);
     } else if (!IsAsKnown(state, KnownAs(photo))) {
       Stay(photo.path, "it " + WhatIsWrong(state), false);
     } else if (FileVerdict verdict = JudgeTrash(photo.path); verdict.IsRefused()) {
@@ -195,73 +210,139 @@ class Planner {
     plan_.stays.push_back({photo, Stays(photo, why), isRule, {}});
   }
 
-  void AddAppendices() {
+  /// Settings or a thumbnail, and the photos that they are of.
+  struct Beside {
+    ioPath file;
+    std::vector<ioPath> owners;
+    /// A film's thumbnail, or the settings of a layered picture.
+    bool isOthersToo = false;
+  };
+
+  /// What lies beside the photos that go.
+  std::vector<Beside> FindBeside() const {
     std::map<ioPath, std::vector<ioPath>> folders;
     for (const TrashPhoto& photo : plan_.photos) {
       folders[photo.photo.path.parent_path()].push_back(photo.photo.path);
     }
+    std::vector<Beside> beside;
     for (auto& [folder, photos] : folders) {
-      std::vector<ioPath> files;
-      std::error_code error;
-      for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::NotHidden, error)) {
-        if (entry.kind == FolderEntry::Kind::File || entry.kind == FolderEntry::Kind::Link) {
-          files.push_back(folder / entry.name);
-        }
-      }
-      // What cannot be listed stays: nothing is lost by that.
-      for (const ShotSet& set : GroupShots(std::move(photos), files)) {
-        AddAppendices(set);
+      for (const ShotSet& set : GroupShots(std::move(photos), FilesOf(folder))) {
+        AddBeside(set, beside);
       }
     }
+    return beside;
   }
 
-  void AddAppendices(const ShotSet& set) {
-    Owners all;
+  /// What cannot be listed stays: nothing is lost by that.
+  static std::vector<ioPath> FilesOf(const ioPath& folder) {
+    std::vector<ioPath> files;
+    std::error_code ignored;
+    for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::NotHidden, ignored)) {
+      if (entry.kind == FolderEntry::Kind::File || entry.kind == FolderEntry::Kind::Link) {
+        files.push_back(folder / entry.name);
+      }
+    }
+    return files;
+  }
+
+  static void AddBeside(const ShotSet& set, std::vector<Beside>& beside) {
+    Beside all;
     // By their extensions. Where case counts, two photos can differ in nothing else.
-    std::unordered_map<std::string, Owners> byExtension;
+    std::unordered_map<std::string, std::vector<ioPath>> byExtension;
     for (const ShotFile& file : set.files) {
       if (IsPhotoName(file.path)) {
-        Take(file.path, all);
-        Take(file.path, byExtension[NameKey(file.suffix)]);
+        all.owners.push_back(file.path);
+        byExtension[NameKey(file.suffix)].push_back(file.path);
       } else if (!IsAppendixName(file.path.filename().utf8string())) {
-        // A film's thumbnail, or the settings of a layered picture.
-        all.anyStays = true;
+        all.isOthersToo = true;
       }
     }
     for (const ShotFile& file : set.files) {
       if (!IsPhotoName(file.path) && IsAppendixName(file.path.filename().utf8string()) &&
           !IsLink(file.path)) {
         const auto owners = byExtension.find(NameKey(OwnerExtension(file.suffix)));
-        AddAppendix(file.path, owners != byExtension.end() ? owners->second : all);
+        beside.push_back(owners != byExtension.end() ? Beside{{}, owners->second, false} : all);
+        beside.back().file = file.path;
       }
     }
   }
 
-  /// Photos to which what lies beside them belongs.
-  struct Owners {
-    std::vector<ioPath> going;
-    bool anyStays = false;
-  };
+  bool GoesAlong(const Beside& beside) const {
+    return !beside.isOthersToo && !beside.owners.empty() &&
+           std::all_of(beside.owners.begin(), beside.owners.end(),
+                       [this](const ioPath& photo) { return going_.count(photo) > 0; });
+  }
 
-  void Take(const ioPath& photo, Owners& owners) const {
-    if (going_.count(photo) > 0) {
-      owners.going.push_back(photo);
-    } else {
-      owners.anyStays = true;
+  /// Ratings, texts and developments of a copy are somebody's work: where the kept photo has not the very
+  /// same, the copy stays with them.
+  void SpareSettings(const std::vector<Beside>& beside) {
+    std::map<ioPath, std::string> spared;
+    for (const Beside& file : beside) {
+      if (!IsSettingsName(file.file.filename().utf8string()) || !GoesAlong(file) ||
+          QueryFile(file.file).size == 0) {
+        continue;
+      }
+      const auto misses = [&](const ioPath& owner) {
+        return FindEqual(file.file, plan_.photos[going_.at(owner)].kept.path).path.empty();
+      };
+      const auto owner = std::find_if(file.owners.begin(), file.owners.end(), misses);
+      if (owner != file.owners.end()) {
+        const ioPath& kept = plan_.photos[going_.at(*owner)].kept.path;
+        for (const ioPath& photo : file.owners) {
+          spared.emplace(photo, "its settings in " + file.file.filename().utf8string() +
+                                    " would go along, and beside " + kept.utf8string() +
+                                    ", which is kept, there are none like them");
+        }
+      }
+    }
+    if (spared.empty()) {
+      return;
+    }
+    std::vector<TrashPhoto> photos = std::move(plan_.photos);
+    plan_.photos.clear();
+    going_.clear();
+    for (TrashPhoto& photo : photos) {
+      const auto why = spared.find(photo.photo.path);
+      if (why != spared.end()) {
+        Stay(photo.photo.path, why->second, true);
+      } else {
+        going_.emplace(photo.photo.path, plan_.photos.size());
+        plan_.photos.push_back(std::move(photo));
+      }
     }
   }
 
-  void AddAppendix(const ioPath& file, const Owners& owners) {
-    const FileState state = QueryFile(file);
-    if (owners.anyStays || owners.going.empty() || state.kind != FileState::Kind::File) {
+  /// Settings beside the kept photo that hold the same bytes, as a file of their own.
+  static SeenFile FindEqual(const ioPath& settings, const ioPath& kept) {
+    const FileState state = QueryFile(settings);
+    for (const ShotSet& set : GroupShots({kept}, FilesOf(kept.parent_path()))) {
+      for (const ShotFile& file : set.files) {
+        const FileState other = QueryFile(file.path);
+        if (IsSettingsName(file.path.filename().utf8string()) && !IsLink(file.path) &&
+            other.kind == FileState::Kind::File && other.size == state.size && file.path != settings &&
+            HoldTheSameBytes(settings, file.path)) {
+          return {file.path, other.size, other.modifiedNs};
+        }
+      }
+    }
+    return {};
+  }
+
+  void AddAppendix(const Beside& beside) {
+    const FileState state = QueryFile(beside.file);
+    if (!GoesAlong(beside) || state.kind != FileState::Kind::File) {
       return;
     }
     // With the last of them.
     std::size_t last = 0;
-    for (const ioPath& photo : owners.going) {
+    for (const ioPath& photo : beside.owners) {
       last = std::max(last, going_.at(photo));
     }
-    plan_.photos[last].appendix.push_back({{file, state.size, state.modifiedNs}, owners.going});
+    TrashAppendix appendix = {{beside.file, state.size, state.modifiedNs}, beside.owners};
+    if (IsSettingsName(beside.file.filename().utf8string()) && state.size > 0) {
+      appendix.equal = FindEqual(beside.file, plan_.photos[last].kept.path);
+    }
+    plan_.photos[last].appendix.push_back(std::move(appendix));
   }
 
   const std::vector<SuggestedGroup>& groups_;
@@ -337,6 +418,11 @@ std::string FindTrashFault(const TrashAppendix& appendix) {
   const FileState state = QueryFile(appendix.path);
   if (!IsAsKnown(state, appendix)) {
     return Stays(appendix.path, "it " + WhatIsWrong(state));
+  }
+  if (!appendix.equal.path.empty() && (!IsAsKnown(QueryFile(appendix.equal.path), appendix.equal) ||
+                                       !HoldTheSameBytes(appendix.path, appendix.equal.path))) {
+    return Stays(appendix.path,
+                 "the settings in " + appendix.equal.path.utf8string() + " are not the same any more");
   }
   return IsLink(appendix.path) ? Stays(appendix.path, "it is a link to another file") : std::string();
 }

@@ -24,6 +24,9 @@ struct SeenFile {
 /// What lies beside photos and says nothing without them.
 struct TrashAppendix : SeenFile {
   std::vector<ioPath> photos;  ///< It stays while one of them is there.
+  /// Of settings those of the same bytes beside the photo that is kept, without which they stay; a path that
+  /// is empty: none are needed.
+  SeenFile equal = {};
 };
 
 /// A photo that is to go to the trash.
@@ -66,12 +69,13 @@ using HasMore = std::function<bool(const PhotoRecord& photo, const PhotoRecord& 
 /// - what is the very file that is kept here or in another group, under whatever name, or a link;
 /// - other formats of the shot that the kept photo is of, as `GroupShots` has it;
 /// - raw files, unless a raw file of the group stays;
-/// - what lies in a trash, and all of a group whose kept photo does;
+/// - what lies in a trash, and all of a group whose kept photo does, or is a link;
 /// - what is not on the disk as the catalogue knows it, and all of a group whose kept photo is not: then
 ///   nobody knows whether they still show the same;
 /// - all of a group whose kept photo breaks off before the end of its picture;
 /// - all of a group whose kept photo cannot be decoded as a whole;
 /// - what is like the middle of its group, but not like the kept photo itself;
+/// - what has settings beside it that would go along and of which the kept photo has none of the same bytes;
 /// - what is another picture than the kept one, what could not be compared with it, and what is merely alike
 ///   unless that was chosen.
 /// Settings and thumbnails beside a photo go along with it when they are that file's alone, or when nothing
