@@ -180,6 +180,17 @@ TEST_F(ImportJournal, TellsOfCopiesWhoseSourcesAreGone) {
   EXPECT_EQ(undone.lastCopies, 2U);
 }
 
+TEST_F(ImportJournal, TellsOfCopiesWhoseSourcesAreOtherFilesByNow) {
+  const auto photos = MakePhotos("card", 2);
+  Import();
+  std::string other = ReadFile(photos[0]);
+  other.back() = static_cast<char>(other.back() ^ 1);
+  tree.Write("card/IMG_1000.JPG", other);
+  const UndoResult undone = Undo();
+  EXPECT_EQ(undone.files, 2U);
+  EXPECT_EQ(undone.lastCopies, 1U) << "a size alone says nothing";
+}
+
 TEST_F(ImportJournal, WhereThereIsNoTrashCopiesStay) {
   MakePhotos("card", 2);
   Import();

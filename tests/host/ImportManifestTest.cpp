@@ -167,5 +167,27 @@ TEST(ImportManifest, IsNotOpenedThroughALink) {
   EXPECT_TRUE(ImportManifest::Read(tree.Path("copies")).empty());
 }
 
+TEST(ImportManifest, IsNotOpenedUnderASecondName) {
+  const Zenvora::Test::TempTree tree;
+  const ioPath victim = tree.Write("victim", "untouched");
+  const ioPath folder = tree.MakeFolder("copies/.lumidex-import");
+  for (const char* const name : {"manifest.jsonl", "lock"}) {
+    std::error_code error;
+    std::filesystem::create_hard_link(victim.for_system(), (folder / name).for_system(), error);
+    if (error) {
+      GTEST_SKIP() << "no second names can be made here: " << error.message();
+    }
+    const std::string fault = FindLinkFault(tree.Path("copies"));
+    EXPECT_NE(fault.find(std::string(name) + " is a second name of another file"), std::string::npos)
+        << fault;
+    if (name == std::string("manifest.jsonl")) {
+      EXPECT_THROW(ImportManifest(tree.Path("copies")), HostError);
+    }
+    EXPECT_EQ(Zenvora::Test::ReadFile(victim), "untouched");
+    (folder / name).remove();
+  }
+  EXPECT_EQ(FindLinkFault(tree.Path("copies")), "");
+}
+
 }  // namespace
 }  // namespace Zenvora::Lumidex::Host

@@ -75,7 +75,7 @@ bool GetNumber(const QJsonObject& object, const QString& name, Number& number) {
   return ok;
 }
 
-/// For reading and adding; never through a link, and nothing but a regular file.
+/// For reading and adding; never through a link, and nothing but a regular file that has no other name.
 std::FILE* OpenToAppend(const ioPath& file) {
 #ifdef _WIN32
   const HANDLE handle =
@@ -90,6 +90,11 @@ std::FILE* OpenToAppend(const ioPath& file) {
       (facts.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
     CloseHandle(handle);
     errno = ELOOP;
+    return nullptr;
+  }
+  if (facts.nNumberOfLinks > 1) {
+    CloseHandle(handle);
+    errno = EMLINK;
     return nullptr;
   }
   const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_APPEND | _O_BINARY);
@@ -109,9 +114,9 @@ std::FILE* OpenToAppend(const ioPath& file) {
     return nullptr;
   }
   struct stat facts = {};
-  if (fstat(descriptor, &facts) != 0 || !S_ISREG(facts.st_mode)) {
+  if (fstat(descriptor, &facts) != 0 || !S_ISREG(facts.st_mode) || facts.st_nlink > 1) {
     close(descriptor);
-    errno = EINVAL;
+    errno = facts.st_nlink > 1 ? EMLINK : EINVAL;
     return nullptr;
   }
   std::FILE* const stream = fdopen(descriptor, "a+b");
@@ -187,6 +192,15 @@ std::string FindLinkFault(const ioPath& copies) {
     const bool isOurs = name == kManifestName || name == kLockName || name.rfind(kPartStart, 0) == 0;
     if (isOurs && entry.kind == FolderEntry::Kind::Link) {
       return refuse(folder / entry.name);
+    }
+  }
+  for (const char* const name : {kManifestName, kLockName}) {
+    // Whatever is added to it would be added to the other one.
+    const FileState state = QueryFile(folder / name);
+    if (state.kind == FileState::Kind::File && state.names > 1) {
+      return (folder / name).utf8string() +
+             " is a second name of another file (a hard link), and imports do not write to such. Put a copy "
+             "of it in its place, or remove it, then import again.";
     }
   }
   return {};

@@ -61,6 +61,14 @@ std::string Sha256Of(const ioPath& file, std::error_code& error) {
   return error ? std::string() : hash.Finish();
 }
 
+/// By its bytes: a source may be another picture of that size by now.
+bool HoldsTheCopy(const ioPath& file, const ImportedCopy& copy) {
+  const FileState state = QueryFile(file);
+  std::error_code error;
+  return state.kind == FileState::Kind::File && state.size == copy.size &&
+         Sha256Of(file, error) == copy.sha256;
+}
+
 /// A copy that stays where it is.
 struct Fault {
   std::string cause;
@@ -267,8 +275,7 @@ State ImportSteps::TakeBack(qlonglong step, const std::atomic<bool>& cancelled, 
         trash_.Move(step, {copy.path, state.size, state.modifiedNs}, copy.source);
         gone.insert(copy.path);
         ++result.files;
-        const FileState source = QueryFile(copy.source);
-        result.lastCopies += source.kind == FileState::Kind::File && source.size == copy.size ? 0 : 1;
+        result.lastCopies += HoldsTheCopy(copy.source, copy) ? 0 : 1;
       } catch (const std::exception& failure) {
         stays(failure.what(), true);
       }
