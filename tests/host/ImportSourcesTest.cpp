@@ -113,6 +113,28 @@ TEST_F(ImportSources, WhatOnlyLooksLikeHousekeepingIsTold) {
   EXPECT_EQ(found_.housekeeping, 0U);
 }
 
+TEST_F(ImportSources, PicturesAndFilmsUnderNamesOfHousekeepingAreTold) {
+  const std::string picture = Zenvora::Test::MakeJpeg({});
+  const std::string film(
+      "\0\0\0\x18"
+      "ftypmp42\0\0\0\0mp42isom",
+      24);
+  const std::string packet = 'G' + std::string(187, 'x');
+  tree.Write("card/._x.jpg", picture);
+  tree.Write("card/MISC/x.mrk", picture);
+  tree.Write("card/Thumbs.db", film);
+  tree.Write("card/nikon001.dsc", packet + packet);
+  tree.Write("card/desktop.ini", "1234" + packet + "1234" + packet);
+  tree.Write("card/._y.jpg", std::string("\0\5\x16\7\0\2\0\0Mac OS X", 16));
+  tree.Write("card/DCIM/Thumbs.db", "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
+  EXPECT_THAT(Taken({Card()}), IsEmpty());
+  EXPECT_THAT(Left(LeftFile::Kind::Hidden), ElementsAre("card/._x.jpg"));
+  EXPECT_THAT(Left(LeftFile::Kind::NotAPhoto), UnorderedElementsAre("card/MISC/x.mrk", "card/Thumbs.db",
+                                                                    "card/desktop.ini", "card/nikon001.dsc"));
+  EXPECT_THAT(found_.left[0].cause, HasSubstr("named like a housekeeping file"));
+  EXPECT_EQ(found_.housekeeping, 2U);
+}
+
 TEST_F(ImportSources, BringTheirSideFilesButNoOtherPhotosWhenNamedThemselves) {
   for (const char* const name : {"card/IMG_1.CR2", "card/IMG_1.JPG", "card/IMG_1.xmp", "card/IMG_2.xmp"}) {
     tree.Write(name, name);

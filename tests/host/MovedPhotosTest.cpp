@@ -2,6 +2,7 @@
 #include "Records.h"
 
 #include <LumidexUtil/FileAccessLocker.h>
+#include <host/PhotoEditing.h>
 #include <host/Scanner.h>
 #include <host/UndoJournal.h>
 #include <support/Doubles.h>
@@ -550,6 +551,75 @@ TEST_F(MovedPhotos, AreFoundByUndoAfterTheyMoved) {
   ASSERT_EQ(Run().moved, 2U);
   EXPECT_EQ(UndoJournal(catalogue_.File(), *locker_).RedoLast(never_, nullptr).files, 2U);
   EXPECT_TRUE(At("x/beach.jpg").exists());
+}
+
+TEST_F(MovedPhotos, BringTheirSidecarsToUndo) {
+  const std::string sidecar =
+      "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF "
+      "xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\"><rdf:Description rdf:about=\"\" "
+      "xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" "
+      "xmp:CreateDate=\"2021-05-01T10:11:30\"/></rdf:RDF></x:xmpmeta>";
+  for (const char* const name : {"trip/a", "trip/b", "trip/c"}) {
+    Make(std::string(name) + ".jpg", name[5] - 'a');
+    tree_.Write(std::string("photos/") + name + ".xmp", sidecar);
+  }
+  tree_.Write("photos/trip/a.jpg.xmp", sidecar);
+  Run();
+  std::map<std::string, std::string> before;
+  for (const char* const name : {"a.jpg", "a.xmp", "a.jpg.xmp", "b.jpg", "b.xmp", "c.jpg", "c.xmp"}) {
+    before[name] = Zenvora::Test::ReadFile(At(std::string("trip/") + name));
+  }
+  {
+    UndoJournal journal(catalogue_.File(), *locker_);
+    EditOrder order;
+    order.name = QStringLiteral("shift");
+    order.edit.shift = std::chrono::seconds(3600);
+    const EditResult edited =
+        EditPhotos(journal, *locker_, order,
+                   FindSidecars({At("trip/a.jpg"), At("trip/b.jpg"), At("trip/c.jpg")}), never_, nullptr);
+    ASSERT_EQ(edited.photos, 3U);
+    ASSERT_EQ(edited.sidecars, 4U);
+  }
+  Run();
+  // One gets another name with its sidecars, one goes elsewhere, one leaves its sidecar behind.
+  Move("trip/a.jpg", "trip/beach.jpg");
+  Move("trip/a.xmp", "trip/beach.xmp");
+  Move("trip/a.jpg.xmp", "trip/beach.jpg.xmp");
+  Move("trip/b.jpg", "2021/b.jpg");
+  Move("trip/b.xmp", "2021/b.xmp");
+  Move("trip/c.jpg", "2021/c.jpg");
+  ASSERT_EQ(Run().moved, 3U);
+  const UndoResult undone = UndoJournal(catalogue_.File(), *locker_).UndoLast(never_, nullptr);
+  EXPECT_THAT(undone.findings, IsEmpty());
+  const std::map<std::string, std::string> names = {
+      {"a.jpg", "trip/beach.jpg"}, {"a.xmp", "trip/beach.xmp"}, {"a.jpg.xmp", "trip/beach.jpg.xmp"},
+      {"b.jpg", "2021/b.jpg"},     {"b.xmp", "2021/b.xmp"},     {"c.jpg", "2021/c.jpg"},
+      {"c.xmp", "trip/c.xmp"}};
+  for (const auto& [name, now] : names) {
+    EXPECT_TRUE(Zenvora::Test::ReadFile(At(now)) == before.at(name)) << now;
+  }
+}
+
+TEST_F(MovedPhotos, BringTheirSidecarsToTheUndoOfARename) {
+  Make("trip/a.jpg", 1);
+  tree_.Write("photos/trip/a.xmp", "settings");
+  Run();
+  {
+    UndoJournal journal(catalogue_.File(), *locker_);
+    RenamePlan plan;
+    for (const char* const end : {".jpg", ".xmp"}) {
+      plan.steps.push_back({At(std::string("trip/a") + end), At(std::string("trip/R") + end)});
+    }
+    plan.renames = plan.steps;
+    ASSERT_EQ(journal.Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 2U);
+  }
+  Move("trip", "2021/trip");
+  ASSERT_EQ(Run().moved, 1U);
+  const UndoResult undone = UndoJournal(catalogue_.File(), *locker_).UndoLast(never_, nullptr);
+  EXPECT_EQ(undone.files, 2U);
+  EXPECT_THAT(undone.findings, IsEmpty());
+  EXPECT_TRUE(At("2021/trip/a.jpg").exists());
+  EXPECT_TRUE(At("2021/trip/a.xmp").exists());
 }
 
 TEST_F(MovedPhotos, WaitForWhoeverWorksWithTheJournal) {

@@ -45,7 +45,8 @@ SHA-256.
 
 Everything else on what is copied off is left and named, hidden files among it,
 but for what cameras and systems keep for themselves (.DS_Store, Thumbs.db,
-AUTPRINT.MRK and such). "Safe to format" is said only when nothing is left.
+AUTPRINT.MRK and such, unless it begins like a picture or a film). "Safe to
+format" is said only when nothing else is left.
 
 Undo moves copies to the trash that are what they were; changed ones stay. The
 list of copies stays, too, and photos taken in where they lie stay in the

@@ -402,13 +402,18 @@ std::string VerdictText(const ImportView& view) {
     case Kind::NothingLeft:
       break;
   }
-  return Say(view.verdict.wholeVolumes
-                 ? Words::tr("Nothing is left in %1: each file has a compared copy elsewhere.\nIt is safe to "
-                             "format.")
-                 : Words::tr(
-                       "Nothing is left in %1: each file has a compared copy elsewhere.\nAs far as this "
-                       "folder goes it is safe to format; what lies beside it was not\nlooked at."),
-             {sources}) +
+  // What is left all the same is no reason to wait, but it is no copy either.
+  const std::string left =
+      view.plan.housekeeping == 0
+          ? Say(Words::tr("Nothing is left in %1: each file has a compared copy elsewhere."), {sources})
+          : Say(Words::tr("Nothing but housekeeping files is left in %1: each other file has a compared copy "
+                          "elsewhere."),
+                {sources});
+  return left + '\n' +
+         Say(view.verdict.wholeVolumes
+                 ? Words::tr("It is safe to format.")
+                 : Words::tr("As far as this folder goes it is safe to format; what lies beside it was not\n"
+                             "looked at.")) +
          '\n';
 }
 

@@ -2,6 +2,7 @@
 
 #include "CatalogueRows.h"
 #include "JournalPaths.h"
+#include "MovedCompanions.h"
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/tavolin/Uuid.h>
@@ -203,6 +204,11 @@ std::vector<PhotoRecord> CatalogueMoves::SomeBelow(const ioPath& folder, int mos
 CatalogueMoves::Outcome CatalogueMoves::Follow(const std::vector<FollowedPhoto>& photos,
                                                const std::vector<PhotoRecord>& others) const {
   Outcome outcome;
+  std::vector<MovedName> names;
+  for (const FollowedPhoto& photo : photos) {
+    names.emplace_back(photo.from, photo.record.path);
+  }
+  const std::vector<MovedName> companions = FindMovedCompanions(names);
   WriteTransaction transaction(database_);
   {
     PathExchange paths(database_);
@@ -233,6 +239,9 @@ CatalogueMoves::Outcome CatalogueMoves::Follow(const std::vector<FollowedPhoto>&
     JournalPaths journal;
     for (const FollowedPhoto* const photo : moving) {
       journal.Add(photo->from, photo->record.path);
+    }
+    for (const auto& [from, to] : companions) {
+      journal.Add(from, to);
     }
     journal.Rewrite(database_);
   }

@@ -1,6 +1,7 @@
 #include "FolderEntries.h"
 #include "FolderWalker.h"
 #include "Housekeeping.h"
+#include "PictureHead.h"
 #include "ShotNames.h"
 
 #include <host/HostError.h>
@@ -64,7 +65,7 @@ class Gatherer {
     FolderWalker::Found found;
     while (walker.Next(found)) {
       if (IsHidden(found.path)) {
-        result_.left.push_back({LeftKind::Hidden, found.path, "", false});
+        Leave(LeftKind::Hidden, found.path);
       } else {
         Add(found.path, found.state);
       }
@@ -82,14 +83,25 @@ class Gatherer {
     if (!everything_) {
       return entry.hidden;
     }
-    if (entry.kind == FolderEntry::Kind::Folder ? IsHousekeepingFolder(path) : IsHousekeepingFile(path)) {
-      ++result_.housekeeping;
-      return true;
+    const bool isFolder = entry.kind == FolderEntry::Kind::Folder;
+    if (isFolder ? IsHousekeepingFolder(path) : IsHousekeepingFile(path)) {
+      if (isFolder || entry.kind == FolderEntry::Kind::Other || !MayHoldAPicture(path)) {
+        ++result_.housekeeping;
+        return true;
+      }
+      misnamed_.insert(path);
     }
     if (entry.hidden) {
       hidden_.insert(path);
     }
     return false;
+  }
+
+  void Leave(LeftKind kind, const ioPath& file) {
+    const char* const cause = misnamed_.count(file) > 0
+                                  ? "It is named like a housekeeping file, but may be a picture or a film"
+                                  : "";
+    result_.left.push_back({kind, file, cause, false});
   }
 
   bool IsHidden(const ioPath& file) const {
@@ -141,7 +153,7 @@ class Gatherer {
       if (everything_ && IsShotFile(other.filename().utf8string())) {
         alone.push_back(other);
       } else {
-        result_.left.push_back({LeftKind::NotAPhoto, other, "", false});
+        Leave(LeftKind::NotAPhoto, other);
       }
     }
     AddShots(GroupShots(alone, {}));
@@ -175,6 +187,8 @@ class Gatherer {
   std::unordered_set<ioPath> beside_;
   std::unordered_map<ioPath, FileState> states_;
   std::unordered_set<ioPath> hidden_;
+  /// By their names housekeeping, by what is in them none.
+  std::unordered_set<ioPath> misnamed_;
   /// Photos and films.
   std::vector<ioPath> leaders_;
   std::vector<ioPath> others_;
@@ -183,6 +197,14 @@ class Gatherer {
 };
 
 }  // namespace
+
+std::string ReasonToLeave(const LeftFile& file) {
+  if (!file.cause.empty()) {
+    return file.cause;
+  }
+  return file.kind == LeftKind::Hidden ? "It is hidden"
+                                       : "It is neither a photo nor a film, nor what belongs to one";
+}
 
 GatheredSources GatherSources(const std::vector<ioPath>& sources, Gathered wanted) {
   return Gatherer(wanted).Gather(sources);

@@ -38,6 +38,9 @@ struct LeftFile {
   bool copiedOff = false;
 };
 
+/// Why it is left, English, to be put behind its name and a colon.
+std::string ReasonToLeave(const LeftFile& file);
+
 struct GatheredSources {
   std::vector<ImportSource> files;
   std::vector<LeftFile> left;
@@ -52,9 +55,9 @@ enum class Gathered {
 
 /// Finds the photos and the films that `sources` (absolute paths) hold, and what belongs to such: folders
 /// with all below them, as a scan goes through them. What cameras and systems keep for themselves is passed
-/// over with `Everything`. A photo or a film that is named itself brings what lies beside it along, but none
-/// of another name. Nothing is opened but folders. Throws `HostError` when a source does not exist. Blocks on
-/// the disk.
+/// over with `Everything`, unless it begins like a picture or a film. A photo or a film that is named itself
+/// brings what lies beside it along, but none of another name. Nothing is opened but folders and what is
+/// named like housekeeping. Throws `HostError` when a source does not exist. Blocks on the disk.
 GatheredSources GatherSources(const std::vector<ioPath>& sources, Gathered wanted = Gathered::Photos);
 
 }  // namespace Zenvora::Lumidex::Host
