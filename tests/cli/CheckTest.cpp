@@ -1,10 +1,8 @@
 // What check, a dry run and the run say of every file, side by side: of made files, whole and damaged,
 // always, and of the folder that LUMIDEX_TEST_PHOTOS names.
-#include "ChangeFixture.h"
+#include "TruthFixture.h"
 
 #include <support/LeftOut.h>
-
-#include <QJsonArray>
 
 #include <filesystem>
 #include <map>
@@ -16,39 +14,10 @@
 namespace Zenvora::Test {
 namespace {
 
-/// Sentences by the file that they are of.
-using Sentences = std::map<std::string, std::string>;
-
-class CheckTruth : public ChangeTest {
+class CheckTruth : public TruthTest {
  protected:
-  static std::string PathOf(const QJsonObject& finding) {
-    // Names that are no text are told apart by their bytes.
-    return (finding["path"].toString() + finding["pathBytes"].toString()).toStdString();
-  }
-  static Sentences Findings(const QJsonObject& document, const char* text) {
-    Sentences sentences;
-    for (const auto& entry : document["findings"].toArray()) {
-      const QJsonObject finding = entry.toObject();
-      sentences[PathOf(finding)] = finding[QLatin1String(text)].toString().toStdString();
-    }
-    return sentences;
-  }
-
-  std::map<std::string, std::string> Contents() const {
-    std::map<std::string, std::string> contents;
-    for (const auto& entry : std::filesystem::directory_iterator(Photos().for_system())) {
-      std::error_code error;
-      // What is huge is sparse and refused; nobody waits for its zeros.
-      if (entry.is_regular_file(error) && entry.file_size(error) < (1U << 28U)) {
-        const ioPath path(entry.path());
-        contents[path.utf8string()] = ReadFile(path);
-      }
-    }
-    return contents;
-  }
-
   /// All three agree about every photo of the folder, and so do the files afterwards.
-  void ExpectOneTruth(const QString& command, const QString& argument) const {
+  void ExpectOneTruth(const QString& command, const QString& argument, int links) const {
     const Sentences checked = Findings(Run({"check", "--json", "--for", command, "photos"}).Json(), "text");
     const QJsonObject dry = Run({command, "--json", "--dry-run", argument, "photos"}).Json();
     const auto before = Contents();
@@ -57,7 +26,7 @@ class CheckTruth : public ChangeTest {
     EXPECT_EQ(Findings(wet, "cause"), checked) << command.toStdString();
     EXPECT_EQ(dry["edited"], wet["edited"]);
     EXPECT_EQ(dry["sidecars"], wet["sidecars"]);
-    EXPECT_EQ(wet["edited"].toInt(), wet["photos"].toInt() - static_cast<int>(checked.size()));
+    EXPECT_EQ(wet["edited"].toInt(), wet["photos"].toInt() + links - static_cast<int>(checked.size()));
     EXPECT_GT(wet["edited"].toInt(), 0);
     const auto after = Contents();
     int changed = 0;
@@ -70,70 +39,11 @@ class CheckTruth : public ChangeTest {
     EXPECT_EQ(Run({"undo"}).exitCode, 0);
     EXPECT_EQ(Contents(), before);
   }
-  void ExpectOneTruth() const {
-    ExpectOneTruth("rotate", "right");
-    ExpectOneTruth("shift-date", "+1h");
-    ExpectOneTruth("set-date", "2003-02-01 04:05");
-  }
-
-  static std::string Sidecar(const std::string& attributes) {
-    return "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF "
-           "xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
-           "<rdf:Description rdf:about=\"\" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\""
-           " xmlns:tiff=\"http://ns.adobe.com/tiff/1.0/\" " +
-           attributes + "/></rdf:RDF></x:xmpmeta>";
-  }
-
-  /// Files of each format that can be made, whole, cut and spoilt, and under wrong names.
-  void MakeAllKinds() const {
-    PhotoTags tags;
-    tags.dateTimeOriginal = "2024:05:17 10:00:00";
-    tags.orientation = 1;
-    const std::map<std::string, std::string> formats = {
-        {"jpg", MakeJpeg(tags)}, {"png", MakePng(tags)}, {"tif", MakeTiff(tags)}, {"webp", MakeWebP(tags)}};
-    for (const auto& [extension, content] : formats) {
-      const auto write = [&, end = "." + extension](const std::string& name, const std::string& bytes) {
-        tree.Write("photos/" + extension + '-' + name + end, bytes);
-      };
-      write("whole", content);
-      for (const std::size_t part : {1U, 3U, 5U, 7U}) {
-        write("cut" + std::to_string(part), content.substr(0, content.size() * part / 8));
-        std::string spoilt = content;
-        spoilt.replace(content.size() * part / 8, content.size() / 8, content.size() / 8, '\0');
-        write("spoilt" + std::to_string(part), spoilt);
-      }
-      write("zeros", std::string(content.size(), '\0'));
-      write("empty", "");
-      tree.Write("photos/" + extension + "-named-otherwise.jpg", content);
-    }
-    PhotoTags undated;
-    undated.model = "X";
-    tree.Write("photos/undated.jpg", MakeJpeg(undated));
-    tree.Write("photos/heic.heic", std::string("\0\0\0\x18"
-                                               "ftypheic\0\0\0\0mif1heic",
-                                               24) +
-                                       std::string(200, 'x'));
-    tree.Write("photos/words.dng", "this is no picture");
-    tree.MakeFolder("photos/folder.jpg");
-  }
-
-  void MakeSidecars() const {
-    const std::string both = Sidecar("xmp:CreateDate=\"2024-05-17T10:00:00\" tiff:Orientation=\"1\"");
-    for (const char* const name : {"with", "damaged", "bare", "protected", "shared", "encoded"}) {
-      Photo(std::string("sidecar-") + name + ".jpg");
-    }
-    tree.Write("photos/sidecar-with.xmp", both);
-    tree.Write("photos/sidecar-damaged.xmp", both.substr(0, both.size() - 20));
-    tree.Write("photos/sidecar-bare.xmp", Sidecar("xmp:Rating=\"3\""));
-    tree.Write("photos/sidecar-encoded.jpg.xmp", Sidecar("tiff:Orientation=\"&#49;\""));
-    PhotoTags tags;
-    tags.dateTimeOriginal = "2024:05:17 10:00:00";
-    tree.Write("photos/sidecar-shared.dng", MakeTiff(tags));
-    tree.Write("photos/sidecar-shared.xmp", both);
-    Protect(tree.Write("photos/sidecar-protected.xmp", both));
-  }
-  static void Protect(const ioPath& file) {
-    std::filesystem::permissions(file.for_system(), std::filesystem::perms(0444));
+  /// `links`: how many of what is refused are links that lead to no photo, and so none of the photos.
+  void ExpectOneTruth(int links = 0) const {
+    ExpectOneTruth("rotate", "right", links);
+    ExpectOneTruth("shift-date", "+1h", links);
+    ExpectOneTruth("set-date", "2003-02-01 04:05", links);
   }
 };
 
@@ -212,18 +122,49 @@ TEST_F(CheckTruth, TellsWhatUndoWouldHaveToForget) {
 }
 
 TEST_F(CheckTruth, AgreesWithTheRunsOnRealPhotos) {
-  const std::string folder = qgetenv("LUMIDEX_TEST_PHOTOS").toStdString();
-  if (folder.empty()) {
+  if (!CopyRealPhotos()) {
     GTEST_SKIP() << "LUMIDEX_TEST_PHOTOS names no folder of photos to try";
   }
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.is_regular_file()) {
-      const ioPath copy =
-          tree.Write(ioPath("photos") / ioPath(entry.path().filename()), ReadFile(ioPath(entry.path())));
-      std::filesystem::permissions(copy.for_system(), std::filesystem::perms(0644));
+  ExpectOneTruth();
+}
+
+TEST_F(CheckTruth, SaysOfLinksThatLeadNowhereWhatBecomesOfThem) {
+  Photo("whole.jpg");
+  LUMIDEX_LINK_OR_SKIP(Photos() / "gone.jpg", Photos() / "dangling.jpg");
+  LUMIDEX_LINK_OR_SKIP(Photos() / "round.jpg", Photos() / "round.jpg");
+  LUMIDEX_LINK_OR_SKIP(Photos() / "gone.jpg", Photos() / ".hidden.jpg");
+  LUMIDEX_LINK_OR_SKIP(Photos() / "gone", Photos() / "notes.txt");
+  LUMIDEX_LINK_OR_SKIP(Photos(), Photos() / "folder.jpg");
+  for (const char* const command : {"rotate", "shift-date", "set-date"}) {
+    const Sentences checked = Findings(Run({"check", "--json", "--for", command, "photos"}).Json(), "text");
+    EXPECT_EQ(checked.size(), 2U) << command;
+    EXPECT_EQ(checked.count((Photos() / "dangling.jpg").utf8string()), 1U) << command;
+    EXPECT_EQ(checked.count((Photos() / "round.jpg").utf8string()), 1U) << command;
+  }
+  const Ran run = Run({"rotate", "right", "photos"});
+  EXPECT_EQ(run.exitCode, 3);
+  EXPECT_THAT(run.out, HasSubstr("dangling.jpg is a link to a file that is missing."));
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  ExpectOneTruth(2);
+}
+
+TEST_F(CheckTruth, SaysOfSidecarsThatAreCutWhatBecomesOfThem) {
+  const ioPath photo = Photo("a.jpg");
+  const std::string whole =
+      Sidecar("xmp:Rating=\"3\" xmp:CreateDate=\"2024-05-17T10:00:00\" tiff:Orientation=\"1\"");
+  for (const std::size_t part : {1U, 2U, 3U}) {
+    const ioPath sidecar = tree.Write("photos/a.xmp", whole.substr(0, whole.size() * part / 4));
+    const std::string before = ReadFile(photo);
+    for (const auto& [command, argument] :
+         std::map<QString, QString>{{"rotate", "right"}, {"shift-date", "+1h"}}) {
+      const Sentences checked = Findings(Run({"check", "--json", "--for", command, "photos"}).Json(), "text");
+      ASSERT_EQ(checked.size(), 1U) << part;
+      EXPECT_EQ(Findings(Run({command, "--json", "--dry-run", argument, "photos"}).Json(), "cause"), checked);
+      EXPECT_EQ(Findings(Run({command, "--json", argument, "photos"}).Json(), "cause"), checked);
+      EXPECT_EQ(ReadFile(photo), before);
+      EXPECT_EQ(ReadFile(sidecar), whole.substr(0, whole.size() * part / 4));
     }
   }
-  ExpectOneTruth();
 }
 
 #ifndef _WIN32

@@ -150,5 +150,18 @@ TEST_F(HelpPages, AreNotNeededForTheVersion) {
   }
 }
 
+TEST_F(HelpPages, LeaveTheVersionToADocumentWhereJsonIsAskedFor) {
+  const std::string text = Run({"--version"}).out;
+  for (const QStringList& arguments : {QStringList{"--json", "--version"}, QStringList{"-V", "--json"}}) {
+    const Ran ran = Run(arguments);
+    EXPECT_EQ(ran.exitCode, 0);
+    const QJsonObject document = ran.Json();
+    EXPECT_EQ(document["format"].toString(), QStringLiteral("lumidex.version"));
+    EXPECT_EQ(document["version"].toInt(), 1);
+    EXPECT_EQ(text.substr(0, text.find('\n')), "lumidex " + document["lumidex"].toString().toStdString());
+    EXPECT_EQ(document["models"].isNull(), text.find("models: none") != std::string::npos);
+  }
+}
+
 }  // namespace
 }  // namespace Zenvora::Test

@@ -10,6 +10,8 @@
 
 #include <QJsonArray>
 
+#include <filesystem>
+
 #ifndef _WIN32
 #include <cstdlib>
 #include <fcntl.h>
@@ -151,6 +153,38 @@ TEST_F(ImportCommand, IsSafeToFormatWhenNothingIsLeft) {
   EXPECT_THAT(ran.out, HasSubstr("safe to format"));
   EXPECT_THAT(ran.out, HasSubstr("what lies beside it was not")) << "it is no whole volume";
   EXPECT_THAT(ran.out, HasSubstr("2 housekeeping files"));
+  EXPECT_THAT(ran.out, HasSubstr("Nothing but housekeeping files is left"));
+  EXPECT_THAT(ran.out, HasSubstr("each other file has a compared copy"));
+  EXPECT_THAT(ran.out, Not(HasSubstr(": each file has")));
+}
+
+TEST_F(ImportCommand, IsNotSafeToFormatWhileAPictureIsNamedLikeHousekeeping) {
+  const std::string picture = ReadText(Photos() / "card/img0.jpg");
+  tree.Write("photos/card/._img9.jpg", picture + '9');
+  tree.Write("photos/MISC/x.mrk", picture + 'x');
+  const Ran ran = Run({"import", Text(Photos()), "--to", Text(Copies())});
+  EXPECT_EQ(ran.exitCode, 1) << ran.out;
+  EXPECT_THAT(ran.out, HasSubstr("._img9.jpg"));
+  EXPECT_THAT(ran.out, HasSubstr("x.mrk"));
+  EXPECT_THAT(ran.out, HasSubstr("do not format or empty it yet"));
+}
+
+TEST_F(ImportCommand, NeverWritesToASecondNameOfAnotherFile) {
+  const ioPath victim = tree.Write("victim", "mine");
+  tree.MakeFolder("copies/.lumidex-import");
+  std::error_code error;
+  std::filesystem::create_hard_link(victim.for_system(),
+                                    (Copies() / ".lumidex-import/manifest.jsonl").for_system(), error);
+  if (error) {
+    GTEST_SKIP() << "no second names can be made here: " << error.message();
+  }
+  for (const bool dry : {true, false}) {
+    const Ran ran = ImportTo(dry ? QStringList{"--dry-run"} : QStringList());
+    EXPECT_EQ(ran.exitCode, 4);
+    EXPECT_THAT(ran.Json()["obstacle"].toString().toStdString(),
+                HasSubstr("manifest.jsonl is a second name of another file"));
+  }
+  EXPECT_EQ(ReadText(victim), "mine");
 }
 
 TEST_F(ImportCommand, IsNotSafeToFormatWhereTheCopiesLie) {

@@ -155,6 +155,10 @@ def safe_only_when_nothing_is_left(room):
     require("safe to format" in room.run("import", "photos", "--to", "target", code=0), "it is not said")
     room.write("photos/letter.txt", "mine")
     require("safe to format" not in room.run("import", "photos", "--to", "target", code=1), "it is said of a letter")
+    os.remove(room.path("photos/letter.txt"))
+    room.write("photos/.DS_Store", "views of the folder")
+    told = room.run("import", "photos", "--to", "target", code=0)
+    require("safe to format" in told and "each other file" in told, "housekeeping is told to have a copy")
 
 
 def albums_are_undone(room):
@@ -312,7 +316,7 @@ PROMISES = [
     ("import", "Your files are only read.", import_only_reads),
     ("import", "What is there already is left alone", import_only_reads),
     ("import", "\"lumidex undo\" moves the copies of a run to the trash.", import_is_undone),
-    ("import", "\"Safe to format\" is said only when nothing is left.", safe_only_when_nothing_is_left),
+    ("import", "is said only when nothing else is left.", safe_only_when_nothing_is_left),
     ("undo", "copies that are what they were go to the trash, others stay", import_is_undone),
     ("undo", "the albums that were made, or the photos that were added", albums_are_undone),
     ("check", "hanges nothing.", check_changes_nothing),

@@ -1,5 +1,6 @@
 #include "ImportFixture.h"
 
+#include <host/PhotoChoice.h>
 #include <host/SaveChecks.h>
 #include <support/LeftOut.h>
 #include <support/Unprivileged.h>
@@ -22,7 +23,7 @@ const Acts kEdits = {FileAct::Rotate, FileAct::ShiftDate, FileAct::SetDate};
 class SaveChecking : public ImportTest {
  protected:
   static CheckReport Check(const std::vector<ioPath>& sources, const CheckOptions& options = {}) {
-    return CheckFiles(sources, GatherSources(sources), options);
+    return CheckFiles(sources, options);
   }
   CheckReport Check() const { return Check({Card()}); }
   /// The kind of each file's one finding; `Done`: none.
@@ -109,11 +110,59 @@ TEST_F(SaveChecking, TellsOfFoldersThatCannotBeWritten) {
 
 TEST_F(SaveChecking, TellsOfSidecarsThatCannotBeEditedAlong) {
   const ioPath photo = MakePhoto("card/a.jpg", 1);
-  tree.Write("card/a.xmp", "<x:xmpmeta xmp:CreateDate=");
+  tree.Write("card/a.xmp", "<x:xmpmeta xmp:Rating=");
   const CheckReport report = Check();
-  EXPECT_EQ(KindOf(report, photo, {FileAct::ShiftDate, FileAct::SetDate}), Kind::Sidecar);
+  EXPECT_EQ(KindOf(report, photo, kEdits), Kind::Sidecar) << "nobody knows what is missing of it";
   ASSERT_THAT(report.findings, SizeIs(1));
   EXPECT_THAT(report.findings[0].text, HasSubstr("a.xmp"));
+}
+
+TEST_F(SaveChecking, LooksForAnImportAtAllThatAnImportLooksAt) {
+  MakePhoto("card/a.jpg", 1);
+  for (const char* const name : {"card/a.xmp", "card/film.mp4", "card/lonely.wav", "card/.DS_Store"}) {
+    tree.Write(name, "x");
+  }
+  tree.Write("card/notes.txt", "x");
+  tree.Write("card/.hidden.jpg", "x");
+  CheckOptions options;
+  options.acts = {FileAct::Import};
+  CheckReport report = Check({Card()}, options);
+  EXPECT_EQ(report.files, PlanTo({Card()}).copies.size());
+  EXPECT_EQ(report.files, 4U);
+  EXPECT_THAT(report.findings, IsEmpty());
+  ASSERT_THAT(report.left, SizeIs(2)) << "nobody says that they are to be copied off";
+  EXPECT_EQ(report.left[0].cause, "It is hidden");
+  options.acts = {FileAct::Rename, FileAct::Rotate};
+  EXPECT_EQ(Check({Card()}, options).files, 2U);
+  EXPECT_THAT(Check({Card()}, options).left, IsEmpty());
+  // On a card an import copies everything off, and says so of what it leaves.
+  const auto storage = std::make_shared<Zenvora::Test::FakeRemovableStorage>();
+  storage->roots = {Card()};
+  const App::ServiceScope<App::IRemovableStorage> scope(storage);
+  options.acts = {FileAct::Import};
+  report = Check({Card()}, options);
+  EXPECT_THAT(report.findings, SizeIs(2));
+  EXPECT_EQ(KindOf(report, tree.Path("card/notes.txt"), {FileAct::Import}), Kind::Name);
+  EXPECT_THAT(report.left, IsEmpty());
+}
+
+TEST_F(SaveChecking, TellsOfLinksThatLeadNowhereOnlyWhatIsTrueOfEachCommand) {
+  const ioPath photo = MakePhoto("card/a.jpg", 1);
+  LUMIDEX_LINK_OR_SKIP(tree.Path("gone.jpg"), tree.Path("card/dangling.jpg"));
+  LUMIDEX_LINK_OR_SKIP(tree.Path("card/round.jpg"), tree.Path("card/round.jpg"));
+  LUMIDEX_LINK_OR_SKIP(tree.Path("gone"), tree.Path("card/notes"));
+  const CheckReport report = Check();
+  for (const char* const name : {"card/dangling.jpg", "card/round.jpg"}) {
+    EXPECT_EQ(KindOf(report, tree.Path(name), kEdits), Kind::Unreadable) << name;
+    EXPECT_EQ(KindOf(report, tree.Path(name), {FileAct::Import}), Kind::Unreadable) << name;
+  }
+  EXPECT_EQ(KindOf(report, tree.Path("card/notes"), {FileAct::Import}), Kind::Unreadable);
+  EXPECT_THAT(report.findings, SizeIs(5)) << "neither rename nor the trash goes by links";
+  const EditChoice choice = ChooseForEdit({Card()});
+  EXPECT_THAT(choice.photos, testing::ElementsAre(photo));
+  ASSERT_THAT(choice.refused, SizeIs(2));
+  EXPECT_EQ(choice.refused[0].cause,
+            tree.Path("card/dangling.jpg").utf8string() + " is a link to a file that is missing.");
 }
 
 TEST_F(SaveChecking, StopsSoon) {

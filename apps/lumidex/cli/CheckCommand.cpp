@@ -37,7 +37,10 @@ constexpr char kDescription[] =
 
 constexpr char kFooter[] =
     R"(A folder stands for all photos in it and below it, with their side files;
-hidden files and folders are passed over. What is no photo is not looked at.
+hidden files and folders are passed over. For import it stands for all that an
+import looks at, films and hidden files among it; what an import leaves as it
+is no picture is listed on removable storage and counted elsewhere.
+
 For rotate, shift-date and set-date each photo is read whole and edited in
 memory, with its sidecar, so that the answer is certain. Where it depends on
 what the command is told (dates beyond the year 9999, names that are taken),
@@ -171,6 +174,15 @@ std::string Document(const CheckReport& report, const std::set<FileAct>& acts,
     json.EndObject();
   }
   json.EndArray();
+  json.BeginArray("left");
+  for (const Host::LeftFile& left : report.left) {
+    json.BeginObject();
+    json.Text("kind", LeftKindName(left.kind));
+    json.Path("path", left.path);
+    json.Text("cause", left.cause);
+    json.EndObject();
+  }
+  json.EndArray();
   if (std::any_of(acts.begin(), acts.end(), IsEdit)) {
     WriteRoom(json, room, RoomWish());
   }
@@ -236,8 +248,14 @@ std::string ReportText(const CheckReport& report, const Host::JournalRoom& room)
            : Say(Words::tr("%1 of them would be refused.", nullptr, Amount(refused.size())),
                  {GroupDigits(refused.size())})) +
       '\n';
-  return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + roomText + checked +
-         outcome;
+  const std::string left = report.left.empty()
+                               ? std::string()
+                               : Say(Words::tr("An import leaves %1 other files (--json lists them).",
+                                               nullptr, Amount(report.left.size())),
+                                     {GroupDigits(report.left.size())}) +
+                                     '\n';
+  return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + roomText + left +
+         checked + outcome;
 }
 
 ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
@@ -249,7 +267,7 @@ ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
   {
     Progress progress(session.console, Say(Words::tr("Checking")), Say(Words::tr("photos", "of so many")));
     options.progress = [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); };
-    report = Host::CheckFiles(named, Host::GatherSources(named), options);
+    report = Host::CheckFiles(named, options);
   }
   ThrowIfInterrupted(Say(Words::tr("Interrupted. Nothing was changed.")).c_str());
   const Host::JournalRoom room = RoomFor(session, report.edited, RoomWish());

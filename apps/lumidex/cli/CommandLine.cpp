@@ -2,6 +2,7 @@
 
 #include "Commands.h"
 #include "HelpFormatter.h"
+#include "JsonWriter.h"
 #include "Options.h"
 
 #include <host/ModelAnalyser.h>
@@ -47,6 +48,18 @@ std::string VersionText() {
   const std::string runtime = Host::ModelRuntime();
   return "lumidex " LUMIDEX_VERSION "\nmodels: " +
          (runtime.empty() ? "none (built without LUMIDEX_ONNX)" : "ONNX, run by " + runtime);
+}
+
+std::string VersionDocument() {
+  const std::string runtime = Host::ModelRuntime();
+  JsonWriter json("lumidex.version", 1);
+  json.Text("lumidex", LUMIDEX_VERSION);
+  if (runtime.empty()) {
+    json.Null("models");
+  } else {
+    json.Text("models", runtime);
+  }
+  return json.Finish();
 }
 
 std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
@@ -399,7 +412,7 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     parsed.text = HelpPage(GivenCommand(*program));
     return parsed;
   } catch (const CLI::CallForVersion& version) {
-    parsed.text = std::string(version.what()) + '\n';
+    parsed.text = AsksForJson(arguments) ? VersionDocument() : std::string(version.what()) + '\n';
     return parsed;
   } catch (const CLI::ArgumentMismatch& error) {
     ThrowUsage(GivenCommand(*program), MismatchText(error.what()));

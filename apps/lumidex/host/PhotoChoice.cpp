@@ -193,7 +193,8 @@ class EditChooser {
     if (state.kind == FileState::Kind::Folder) {
       AddFolder(argument);
     } else if (state.kind != FileState::Kind::File) {
-      Refuse(argument, WhatIsWrong(state));
+      const std::string fault = FindEditLinkFault(argument);
+      Refuse(argument, fault.empty() ? WhatIsWrong(state) : fault);
     } else if (IsHiddenName(argument.filename().utf8string())) {
       Refuse(argument, "is hidden");
     } else if (IsPhotoName(argument)) {
@@ -231,6 +232,23 @@ class EditChooser {
     for (const std::size_t photo : PhotosOf(folder, entries)) {
       Take(folder / entries[photo].name);
     }
+    RefuseLinks(folder, entries);
+  }
+
+  /// People take them for photos.
+  void RefuseLinks(const ioPath& folder, const std::vector<FolderEntry>& entries) {
+    std::vector<ioPath> links;
+    for (const FolderEntry& entry : entries) {
+      if (entry.kind == Kind::Link && IsPhotoName(entry.name)) {
+        links.push_back(folder / entry.name);
+      }
+    }
+    std::sort(links.begin(), links.end());
+    for (const ioPath& link : links) {
+      if (const std::string fault = FindEditLinkFault(link); !fault.empty()) {
+        Refuse(link, fault);
+      }
+    }
   }
 
   void Take(const ioPath& photo) {
@@ -262,6 +280,23 @@ RenameChoice ChooseForRename(const std::vector<ioPath>& arguments) {
     chooser.Add(argument);
   }
   return chooser.Finish();
+}
+
+std::string FindEditLinkFault(const ioPath& link) {
+  if (!LeadsElsewhere(link)) {
+    return {};
+  }
+  const FileState state = QueryFile(link);
+  switch (state.kind) {
+    case FileState::Kind::Missing:
+      return "is a link to a file that is missing";
+    case FileState::Kind::Loop:
+      return WhatIsWrong(state);
+    case FileState::Kind::Unknown:
+      return "is a link to what cannot be asked for: " + ErrorText(state.error);
+    default:
+      return {};
+  }
 }
 
 EditChoice ChooseForEdit(const std::vector<ioPath>& arguments) {

@@ -1,14 +1,19 @@
+#include "FolderEntries.h"
+
 #include <host/PhotoChoice.h>
 #include <host/PhotoEditing.h>
 #include <host/SaveChecks.h>
+#include <host/Scanner.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/qtutility/DiskQuestions.h>
+#include <zenvora/tavolin/RemovableStorage.h>
 
 #include <algorithm>
 #include <map>
 #include <system_error>
 #include <tuple>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -52,16 +57,18 @@ EditVerdict JudgeAny(const EditTask& task, FileAct act) {
 
 class Checker {
  public:
-  Checker(const std::vector<ioPath>& arguments, const GatheredSources& sources, const CheckOptions& options)
-      : arguments_(arguments), sources_(sources), options_(options) {}
+  Checker(const std::vector<ioPath>& arguments, const CheckOptions& options)
+      : arguments_(arguments), options_(options) {}
 
   CheckReport Run() {
-    report_.files = sources_.files.size();
+    Gather();
+    CheckImport();
     CheckLeft();
-    MeasureVolumes();
-    for (const ImportSource& file : sources_.files) {
-      Take(FileAct::Import, file.path, JudgeImport(file.path));
-      Take(FileAct::Rename, file.path, JudgeRename(file.path));
+    for (const ImportSource& file : photos_.files) {
+      // No rename changes the name of a link.
+      if (!LeadsElsewhere(file.path)) {
+        Take(FileAct::Rename, file.path, JudgeRename(file.path));
+      }
       if (file.isPhoto) {
         Take(FileAct::Trash, file.path, JudgeTrash(file.path));
       }
@@ -74,6 +81,29 @@ class Checker {
   }
 
  private:
+  /// An import looks at more than the others, but not at what is housekeeping to it.
+  void Gather() {
+    Acts others = options_.acts;
+    others.erase(FileAct::Import);
+    if (!others.empty()) {
+      photos_ = GatherSources(arguments_);
+    }
+    if (Wants(FileAct::Import)) {
+      imported_ = GatherSources(arguments_, Gathered::Everything);
+    }
+    std::unordered_set<ioPath> known;
+    std::vector<const ImportSource*> files;
+    for (const GatheredSources* const sources : {&photos_, &imported_}) {
+      for (const ImportSource& file : sources->files) {
+        if (known.insert(file.path).second) {
+          files.push_back(&file);
+        }
+      }
+    }
+    report_.files = files.size();
+    MeasureVolumes(files);
+  }
+
   bool Wants(FileAct act) const { return options_.acts.count(act) > 0; }
 
   void Take(FileAct act, const ioPath& file, const FileVerdict& verdict) {
@@ -94,28 +124,65 @@ class Checker {
     return verdict;
   }
 
-  /// What cannot even be looked at stands against everything; what is no file only against copying it.
-  void CheckLeft() {
-    for (const LeftFile& left : sources_.left) {
-      if (left.kind == LeftFile::Kind::Unreadable) {
-        const std::string text = left.path.utf8string() + " cannot be read: " + left.cause + '.';
-        for (const FileAct act : options_.acts) {
-          Take(act, left.path, Refusal(Kind::Unreadable, text));
+  void CheckImport() {
+    for (const ImportSource& file : imported_.files) {
+      Take(FileAct::Import, file.path, JudgeImport(file.path));
+    }
+    std::unordered_map<ioPath, bool> removable;
+    for (LeftFile left : imported_.left) {
+      if (left.kind == LeftFile::Kind::NotAPhoto || left.kind == LeftFile::Kind::Hidden) {
+        const auto [known, isNew] = removable.try_emplace(left.path.parent_path(), false);
+        if (isNew) {
+          known->second = !Tavolin::GetRemovable({known->first}).empty();
         }
-      } else if (left.kind == LeftFile::Kind::NoFile) {
+        left.copiedOff = known->second;
+        left.cause = ReasonToLeave(left);
+      }
+      if (left.kind == LeftFile::Kind::NoFile) {
         Take(FileAct::Import, left.path, Refusal(Kind::NoFile, left.cause));
+      } else if (left.kind == LeftFile::Kind::Unreadable || left.kind == LeftFile::Kind::Loop) {
+        Take(FileAct::Import, left.path, Refusal(Kind::Unreadable, left.cause));
+      } else if (left.copiedOff) {
+        Take(FileAct::Import, left.path, Refusal(Kind::Name, left.cause));
+      } else {
+        report_.left.push_back(left);
       }
     }
   }
 
-  void MeasureVolumes() {
-    std::map<std::uint64_t, CheckedVolume> volumes;
-    for (const ImportSource& file : sources_.files) {
-      CheckedVolume& volume = volumes[file.state.identity.first];
-      if (volume.files++ == 0) {
-        volume.folder = file.path.parent_path();
+  /// What cannot even be looked at stands against everything else, too, but links that lead nowhere only
+  /// against what goes by way of links.
+  void CheckLeft() {
+    for (const LeftFile& left : photos_.left) {
+      const std::string name = left.path.utf8string();
+      if (LeadsElsewhere(left.path)) {
+        const std::string fault = IsPhotoName(left.path) ? FindEditLinkFault(left.path) : std::string();
+        if (!fault.empty()) {
+          TakeForEdits(left.path, Refusal(Kind::Unreadable, name + ' ' + fault + '.'));
+        }
+      } else if (left.kind == LeftFile::Kind::Unreadable) {
+        const std::string text = name + " cannot be read: " + left.cause + '.';
+        TakeForEdits(left.path, Refusal(Kind::Unreadable, text));
+        Take(FileAct::Rename, left.path, Refusal(Kind::Unreadable, "Nothing was renamed: " + text));
+        Take(FileAct::Trash, left.path, Refusal(Kind::Unreadable, text));
       }
-      volume.bytesNeeded += file.state.size;
+    }
+  }
+
+  void TakeForEdits(const ioPath& file, const FileVerdict& verdict) {
+    for (const FileAct act : Edits()) {
+      Take(act, file, verdict);
+    }
+  }
+
+  void MeasureVolumes(const std::vector<const ImportSource*>& files) {
+    std::map<std::uint64_t, CheckedVolume> volumes;
+    for (const ImportSource* const file : files) {
+      CheckedVolume& volume = volumes[file->state.identity.first];
+      if (volume.files++ == 0) {
+        volume.folder = file->path.parent_path();
+      }
+      volume.bytesNeeded += file->state.size;
     }
     for (auto& [device, volume] : volumes) {
       volume.bytesFree = Util::GetAvailableDiskSpace(volume.folder);
@@ -179,7 +246,7 @@ class Checker {
       }
     };
     std::for_each(choice.photos.begin(), choice.photos.end(), add);
-    for (const ImportSource& file : sources_.files) {
+    for (const ImportSource& file : photos_.files) {
       if (file.isPhoto) {
         add(TrueName(file.path));
       }
@@ -220,8 +287,9 @@ class Checker {
   }
 
   const std::vector<ioPath>& arguments_;
-  const GatheredSources& sources_;
   const CheckOptions& options_;
+  GatheredSources photos_;
+  GatheredSources imported_;
   /// By file; one cause that several commands share is told once.
   std::map<std::tuple<ioPath, Kind, std::string>, CheckFinding> findings_;
   CheckReport report_;
@@ -229,9 +297,8 @@ class Checker {
 
 }  // namespace
 
-CheckReport CheckFiles(const std::vector<ioPath>& arguments, const GatheredSources& sources,
-                       const CheckOptions& options) {
-  return Checker(arguments, sources, options).Run();
+CheckReport CheckFiles(const std::vector<ioPath>& arguments, const CheckOptions& options) {
+  return Checker(arguments, options).Run();
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -40,8 +40,13 @@ struct EditChoice {
   std::vector<UndoFinding> refused;
 };
 
+/// What stands against editing by way of a symbolic link: it leads nowhere, back to itself, or to where
+/// nobody can look. To be put behind its name; empty: nothing does, or it is none. Blocks on the disk.
+std::string FindEditLinkFault(const ioPath& link);
+
 /// As above, but what cannot be taken is refused with its cause instead: what is missing, hidden, no file,
-/// not named like a photo, or in a folder that cannot be read. Sidecars and thumbnails that are named along
+/// not named like a photo, in a folder that cannot be read, or a link in a folder that is named like
+/// a photo and leads to none. Sidecars and thumbnails that are named along
 /// with their photo are passed over. Does not look into the files. Blocks on the disk.
 EditChoice ChooseForEdit(const std::vector<ioPath>& arguments);
 

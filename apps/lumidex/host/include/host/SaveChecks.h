@@ -34,10 +34,14 @@ struct CheckedVolume {
 };
 
 struct CheckReport {
+  /// Looked at, for whichever command.
   std::size_t files = 0;
   /// Ordered by path, then by kind.
   std::vector<CheckFinding> findings;
   std::vector<CheckedVolume> volumes;
+  /// What an import leaves since it is neither a photo nor a film or is hidden, where that lies on storage
+  /// from which an import copies only when told so. Elsewhere it is among the findings. Ordered by path.
+  std::vector<LeftFile> left;
   /// What edits of all of the photos would replace: those that are not refused, with their sidecars.
   std::vector<ioPath> edited;
   bool cancelled = false;
@@ -53,11 +57,11 @@ struct CheckOptions {
   std::function<void(std::size_t, std::size_t)> progress;
 };
 
-/// Asks for each file what each of the commands would say of it. `arguments`: what a person named (absolute
-/// paths), `sources`: what `GatherSources` made of it; a folder stands for all photos in it and below. Where
-/// an answer depends on what a command is told, that is listed which holds whatever it is told. Changes
-/// nothing. Blocks on the disk: for edits each photo is read whole and edited in memory. Throws `HostError`.
-CheckReport CheckFiles(const std::vector<ioPath>& arguments, const GatheredSources& sources,
-                       const CheckOptions& options);
+/// Asks for each file what each of the commands would say of it. `arguments`: what a person named, absolute
+/// paths that exist. A folder stands for all photos in it and below with what belongs to them, for an import
+/// for all that it would look at (`GatherSources`). Where an answer depends on what a command is told, that
+/// is listed which holds whatever it is told. Changes nothing. Blocks on the disk: for edits each photo is
+/// read whole and edited in memory. Throws `HostError`.
+CheckReport CheckFiles(const std::vector<ioPath>& arguments, const CheckOptions& options);
 
 }  // namespace Zenvora::Lumidex::Host
