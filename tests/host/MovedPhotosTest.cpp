@@ -600,6 +600,39 @@ TEST_F(MovedPhotos, BringTheirSidecarsToUndo) {
   }
 }
 
+TEST_F(MovedPhotos, BringTheirSidecarsToUndoWhenTheyExchangedTheirNames) {
+  for (const char* const name : {"a", "b", "c"}) {
+    Make(std::string(name) + ".jpg", name[0] - 'a');
+    tree_.Write(std::string("photos/") + name + ".xmp", std::string("settings of ") + name);
+  }
+  Run();
+  {
+    UndoJournal journal(catalogue_.File(), *locker_);
+    RenamePlan plan;
+    for (const std::string name : {"a", "b", "c"}) {
+      for (const char* const end : {".jpg", ".xmp"}) {
+        plan.steps.push_back({At(name + end), At("R_" + name + end)});
+      }
+    }
+    plan.renames = plan.steps;
+    ASSERT_EQ(journal.Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 6U);
+  }
+  for (const char* const end : {".jpg", ".xmp"}) {
+    const auto name = [end](const char* base) { return std::string(base) + end; };
+    Move(name("R_a"), name("free"));
+    Move(name("R_b"), name("R_a"));
+    Move(name("free"), name("R_b"));
+    Move(name("R_c"), name("C"));
+  }
+  ASSERT_EQ(Run().moved, 3U);
+  const UndoResult undone = UndoJournal(catalogue_.File(), *locker_).UndoLast(never_, nullptr);
+  EXPECT_EQ(undone.files, 6U);
+  EXPECT_THAT(undone.findings, IsEmpty());
+  for (const char* const name : {"a", "b", "c"}) {
+    EXPECT_EQ(Zenvora::Test::ReadFile(At(std::string(name) + ".xmp")), std::string("settings of ") + name);
+  }
+}
+
 TEST_F(MovedPhotos, BringTheirSidecarsToTheUndoOfARename) {
   Make("trip/a.jpg", 1);
   tree_.Write("photos/trip/a.xmp", "settings");
