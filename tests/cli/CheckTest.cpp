@@ -68,7 +68,7 @@ TEST_F(CheckTruth, SaysOfWhatCannotBeTouchedWhatBecomesOfIt) {
   EXPECT_THAT(check.out, HasSubstr("huge.jpg: it is larger than 2 GiB\n"));
   EXPECT_THAT(check.out,
               HasSubstr("protected.jpg: it is write-protected; allow writing to it, or use --force\n"));
-  EXPECT_THAT(check.out, HasSubstr("3 files checked; 2 of them would be refused.\n"));
+  EXPECT_THAT(check.out, HasSubstr("3 files checked; 2 files or folders would be refused.\n"));
 }
 
 TEST_F(CheckTruth, TakesNothingForWhatItIsNotAskedFor) {

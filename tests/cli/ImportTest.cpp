@@ -289,7 +289,7 @@ TEST_F(CheckCommand, ListsEverythingAtOnce) {
   EXPECT_EQ(report["files"].toInt(), 3);
   EXPECT_EQ(report["findings"].toArray().size(), 2);
   EXPECT_EQ(report["volumes"].toArray().size(), 1);
-  EXPECT_THAT(Run({"check", Text(Photos())}).out, HasSubstr("2 of them would be refused."));
+  EXPECT_THAT(Run({"check", Text(Photos())}).out, HasSubstr("2 files or folders would be refused."));
 }
 
 TEST_F(CheckCommand, NeedsFilesThatExist) {

@@ -245,7 +245,7 @@ std::string ReportText(const CheckReport& report, const Host::JournalRoom& room)
   const std::string outcome =
       (refused.empty() && roomText.empty()
            ? Say(Words::tr("nothing is in the way."))
-           : Say(Words::tr("%1 of them would be refused.", nullptr, Amount(refused.size())),
+           : Say(Words::tr("%1 files or folders would be refused.", nullptr, Amount(refused.size())),
                  {GroupDigits(refused.size())})) +
       '\n';
   const std::string left = report.left.empty()

@@ -67,8 +67,8 @@ std::string ResultText(const UndoResult& result, bool redo) {
             '\n';
   }
   if (result.lastCopies > 0) {
-    text += Say(Words::tr("Of %1 of them the source is not there: do not empty the trash before you have "
-                          "found it.",
+    text += Say(Words::tr("Of %1 of them the source is gone or was changed: do not empty the trash before "
+                          "you have another copy.",
                           nullptr, Amount(result.lastCopies)),
                 {GroupDigits(result.lastCopies)}) +
             '\n';

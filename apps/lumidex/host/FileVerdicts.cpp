@@ -90,7 +90,8 @@ FileVerdict JudgeSidecar(const ioPath& sidecar, const ioPath& photo, const Stran
   try {
     changes = Strandel::TryEditSidecar(sidecar, photo, edit);
   } catch (const Strandel::PhotoEditError& failure) {
-    return refusal("what lies beside it has to change along with it. " + std::string(failure.what()));
+    return refusal("what lies beside it has to change along with it. " + std::string(failure.what()) +
+                   "; repair that, or move it away");
   }
   if (!changes) {
     return {};

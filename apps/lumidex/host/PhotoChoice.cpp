@@ -293,7 +293,7 @@ std::string FindEditLinkFault(const ioPath& link) {
     case FileState::Kind::Loop:
       return WhatIsWrong(state);
     case FileState::Kind::Unknown:
-      return "is a link to what cannot be asked for: " + ErrorText(state.error);
+      return "is a link to a file that cannot be reached: " + ErrorText(state.error);
     default:
       return {};
   }
