@@ -111,6 +111,33 @@ QImage DrawScreen(std::uint32_t seed, std::uint32_t number) {
   return screen;
 }
 
+QImage DrawLargeScreen(std::uint32_t seed, std::uint32_t number, bool changed) {
+  Lot lot = LotOf(seed, number);
+  const bool isDark = number % 2 == 1;
+  QImage screen = Blank(3840, 2160, isDark ? QColor(30, 32, 36) : QColor(252, 252, 252));
+  QPainter painter(&screen);
+  painter.setPen(isDark ? QColor(170, 174, 180) : QColor(40, 40, 40));
+  painter.setFont(FontOf("Sans", 12));
+  constexpr int kLine = 18;
+  constexpr int kColumn = 420;
+  const int place = Below(lot, 100);
+  int count = 0;
+  for (int y = 40; y < 2120; y += kLine) {
+    for (int x = 40; x + kColumn < 3840; x += kColumn) {
+      QString text;
+      while (text.size() < 40) {
+        text += Word(lot) + QChar(' ');
+      }
+      if (changed && count++ == 400 + place) {
+        text[20] = text.at(20) == QChar('e') ? QChar('o') : QChar('e');
+      }
+      painter.setClipRect(x, y - kLine, kColumn - 20, 2 * kLine);
+      painter.drawText(x, y, text);
+    }
+  }
+  return screen;
+}
+
 QImage DrawPotato(std::uint32_t seed, std::uint32_t number) {
   Lot lot = LotOf(seed, number);
   Lot table = LotOf(seed, number % 2 == 0 ? 1'000'000 : number);

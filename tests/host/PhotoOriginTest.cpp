@@ -121,6 +121,8 @@ TEST_F(PhotoOriginTest, TellsWhatBreaksOff) {
 TEST_F(PhotoOriginTest, TellsDamage) {
   EXPECT_EQ(ReadBytes(TestPictures::Damaged(Encoded(Scene(SceneKind::Houses))).toStdString()).degradation,
             "a part of the picture is damaged");
+  EXPECT_EQ(ReadBytes(TestPictures::Overwritten(Encoded(Scene(SceneKind::Houses))).toStdString()).degradation,
+            "a part of the picture is damaged");
   // What cameras put behind the picture is no damage.
   EXPECT_EQ(ReadBytes(Encoded(Scene(SceneKind::Houses)).toStdString() + "camera's trailer").degradation, "");
 }

@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QColor>
+#include <QLineF>
 #include <QPainter>
 #include <QTransform>
 
@@ -311,6 +313,79 @@ TEST_F(PictureVerdictFiles, ThatAreDamagedAreDecodedAsFarAsTheyGoAndNotJudged) {
   EXPECT_EQ(picture.degradation, "a part of the picture is damaged");
   EXPECT_EQ(JudgePicture(damaged, whole).verdict, Verdict::Unknown);
   EXPECT_EQ(JudgePicture(whole, damaged).verdict, Verdict::Unknown);
+}
+
+TEST_F(PictureVerdictFiles, ThatZerosWereWrittenIntoAreNotJudged) {
+  const ioPath whole = Save(Photo(), "whole.jpg");
+  const ioPath damaged =
+      tree_.Write("zeros.jpg", TestPictures::Overwritten(Encoded(Photo(), "JPEG", 90)).toStdString());
+  EXPECT_EQ(JudgePicture(damaged, whole).why, "it cannot be compared: a part of the picture is damaged");
+  EXPECT_EQ(JudgePicture(whole, damaged).verdict, Verdict::Unknown);
+}
+
+/// A screen of 3840 x 2160 pixels full of what looks like letters 12 pixels high, without a font. `changed`:
+/// of one letter one stroke is another.
+QImage Screen(const QColor& paper, const QColor& ink, bool changed) {
+  QImage screen(3840, 2160, QImage::Format_RGB32);
+  screen.fill(paper);
+  QPainter painter(&screen);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(ink, 1.2));
+  std::mt19937 lot(7);
+  int letter = 0;
+  for (int y = 60; y < 2100; y += 20) {
+    for (int x = 60; x < 3780; x += letter % 6 == 5 ? 14 : 7, ++letter) {
+      for (int stroke = 0; stroke < 3; ++stroke) {
+        const auto point = [&] {
+          return QPointF(x + static_cast<int>(lot() % 6), y + static_cast<int>(lot() % 9));
+        };
+        const QPointF from = point();
+        const QPointF to = point();
+        const bool isOther = changed && letter == 20'000 && stroke == 0;
+        painter.drawLine(isOther ? QLineF(x, y, x + 5, y) : QLineF(from, to));
+      }
+    }
+  }
+  return screen;
+}
+
+TEST_F(PictureVerdictFiles, OfLargeScreensAreNotTheSameWhenOneLetterDiffers) {
+  struct Look {
+    QColor paper;
+    QColor ink;
+  };
+  for (const Look& look : {Look{Qt::white, Qt::black}, Look{QColor(30, 30, 30), QColor(150, 150, 150)},
+                           Look{QColor(240, 240, 240), QColor(170, 170, 170)}}) {
+    const QImage screen = Screen(look.paper, look.ink, false);
+    const QImage changed = Screen(look.paper, look.ink, true);
+    for (const int quality : {85, 95}) {
+      JudgedAgainst against(Save(screen, "kept.jpg", "JPEG", quality));
+      for (const int other : {85, 95}) {
+        const PictureVerdict verdict = against.Judge(Save(changed, "changed.jpg", "JPEG", other));
+        EXPECT_NE(verdict.verdict, Verdict::Same)
+            << quality << ' ' << other << ": " << verdict.why << ' ' << verdict.worst;
+      }
+    }
+    const PictureVerdict copy =
+        JudgePicture(Save(screen, "copy.jpg", "JPEG", 85), Save(screen, "kept.jpg", "JPEG", 95));
+    EXPECT_EQ(copy.verdict, Verdict::Same) << copy.why << ' ' << copy.worst;
+  }
+}
+
+TEST_F(PictureVerdictFiles, TellWhichOneWasEnlarged) {
+  for (const SceneKind kind : {SceneKind::Houses, SceneKind::Roses}) {
+    const ioPath original = Save(Photo(kind), "original.jpg");
+    for (const double factor : {1.25, 1.5, 2.0}) {
+      for (const int quality : {70, 95}) {
+        const ioPath enlarged = Save(Scaled(Photo(kind), factor), "enlarged.jpg", "JPEG", quality);
+        EXPECT_TRUE(JudgedAgainst(enlarged).IsKeptEnlarged(original)) << factor << ' ' << quality;
+      }
+    }
+    for (const double factor : {0.5, 0.8}) {
+      const ioPath reduced = Save(Scaled(Photo(kind), factor), "reduced.jpg");
+      EXPECT_FALSE(JudgedAgainst(original).IsKeptEnlarged(reduced)) << factor;
+    }
+  }
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include <QByteArray>
 #include <QImage>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -49,6 +50,13 @@ inline QByteArray Damaged(QByteArray jpeg) {
   // One that no decoder goes on behind.
   jpeg[begin] = '\xFF';
   jpeg[begin + 1] = '\xC0';
+  return jpeg;
+}
+
+/// A tenth of the bytes in the middle are this one. No mark comes of it, and decoders say nothing.
+inline QByteArray Overwritten(QByteArray jpeg, char byte = '\0') {
+  const int begin = jpeg.size() / 2;
+  std::fill(jpeg.begin() + begin, jpeg.begin() + begin + jpeg.size() / 10, byte);
   return jpeg;
 }
 

@@ -101,6 +101,63 @@ TEST_F(SimilarJudging, JudgesMembersOfGroupsAgainstTheOneToKeepOnce) {
   EXPECT_THAT(seen_, IsEmpty());
 }
 
+TEST_F(SimilarJudging, MeasuresThoseBetweenWhichSharpnessDecidesOnce) {
+  // A larger copy that no camera wrote; those of the camera are smaller, and one of them is shaken.
+  const QImage scene = Scene(SceneKind::City, 4, {800, 600});
+  const auto taken = [&](const std::string& name, const QImage& picture) {
+    const ioPath file = TestPictures::WithThumbnail(tree_, name, picture, QImage());
+    const auto image = Exiv2::ImageFactory::open(Zenvora::Test::ExivPath(file));
+    image->readMetadata();
+    image->exifData()["Exif.Image.Model"] = "Model X";
+    image->exifData()["Exif.Photo.DateTimeOriginal"] = "2021:05:01 10:20:30";
+    image->writeMetadata();
+    AddPhoto(name, QByteArray::fromStdString(Zenvora::Test::ReadFile(file)));
+  };
+  taken("a.jpg",
+        scene.scaledToWidth(500, Qt::SmoothTransformation).scaledToWidth(800, Qt::SmoothTransformation));
+  taken("b.jpg", scene);
+  AddPhoto("large.jpg", Encoded(scene.scaledToWidth(1000, Qt::SmoothTransformation)));
+  Update();
+  const std::vector<SuggestedGroup> groups = Groups();
+  ASSERT_EQ(groups.size(), 1U);
+  ASSERT_EQ(groups[0].group.members.size(), 3U);
+  EXPECT_EQ(groups[0].group.members[groups[0].keeper.index].photo.path.filename().utf8string(), "b.jpg");
+  EXPECT_THAT(groups[0].keeper.reasons, testing::Contains(KeeperReason::Sharpest));
+  for (const SimilarMember& member : groups[0].group.members) {
+    EXPECT_EQ(member.features.sharpness > 0, member.photo.path.filename().utf8string() != "large.jpg");
+  }
+  seen_.clear();
+  Update();
+  EXPECT_THAT(seen_, IsEmpty());
+}
+
+TEST_F(SimilarJudging, KeepsAnOriginalAndNotWhatWasEnlargedFromIt) {
+  const QImage scene = Scene(SceneKind::City, 4, {800, 600});
+  AddPhoto("enlarged.jpg", Encoded(scene.scaledToWidth(1200, Qt::SmoothTransformation)));
+  AddPhoto("original.jpg", Encoded(scene));
+  AddPhoto("small.jpg", Encoded(scene.scaledToWidth(500, Qt::SmoothTransformation)));
+  Update();
+  const std::vector<SuggestedGroup> groups = Groups();
+  ASSERT_EQ(groups.size(), 1U);
+  EXPECT_EQ(groups[0].group.members[groups[0].keeper.index].photo.path.filename().utf8string(),
+            "original.jpg");
+  EXPECT_THAT(groups[0].keeper.reasons, ElementsAre(KeeperReason::NotEnlarged, KeeperReason::Largest));
+  EXPECT_EQ(Verdicts(), (Known{{"enlarged.jpg", Verdict::Same}, {"small.jpg", Verdict::Same}}));
+  EXPECT_EQ(Update().judged, 0U);
+}
+
+TEST_F(SimilarJudging, NeverKeepsWhatZerosWereWrittenInto) {
+  const QImage scene = Scene(SceneKind::City, 4, {800, 600});
+  AddPhoto("damaged.jpg", TestPictures::Overwritten(Encoded(scene, "JPEG", 95)));
+  AddPhoto("whole.jpg", Encoded(scene.scaledToWidth(500, Qt::SmoothTransformation)));
+  Update();
+  for (const SuggestedGroup& group : Groups()) {
+    EXPECT_EQ(group.group.members[group.keeper.index].photo.path.filename().utf8string(), "whole.jpg");
+    EXPECT_THAT(group.keeper.reasons, ElementsAre(KeeperReason::Whole));
+  }
+  EXPECT_EQ(Verdicts(), (Known{{"damaged.jpg", Verdict::Unknown}}));
+}
+
 TEST_F(SimilarJudging, JudgesAnewWhatHasChanged) {
   AddGroup();
   Update();

@@ -185,6 +185,39 @@ TEST(SimilarKeeper, IsTheSharpestOfABurst) {
   EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::Sharpest));
 }
 
+TEST(SimilarKeeper, IsNotEnlarged) {
+  SimilarMember enlarged = Sized("a", 400, 300);
+  enlarged.origin = PhotoOrigin();
+  enlarged.origin->enlarged = true;
+  const KeeperChoice choice = SuggestKeeper({enlarged, Member("b"), Sized("c", 4, 3)});
+  EXPECT_EQ(choice.index, 1U);
+  EXPECT_THAT(choice.reasons, ElementsAre(KeeperReason::NotEnlarged, KeeperReason::Largest));
+}
+
+TEST(SimilarKeeper, TellsWhatMayBeEnlarged) {
+  SimilarMember large = Sized("a", 60, 45);
+  SimilarMember small = Member("b");
+  large.origin = PhotoOrigin();
+  small.origin = PhotoOrigin();
+  EXPECT_TRUE(MayBeEnlarged(large, small));
+  EXPECT_FALSE(MayBeEnlarged(small, large));
+  small.origin->hasJfif = true;
+  EXPECT_FALSE(MayBeEnlarged(large, small)) << "a program wrote the smaller one";
+  large.origin->hasJfif = true;
+  EXPECT_TRUE(MayBeEnlarged(large, small));
+  large.origin->cameraName = true;
+  EXPECT_FALSE(MayBeEnlarged(large, small));
+  EXPECT_FALSE(MayBeEnlarged(Original("c"), Sized("d", 4, 3)));
+}
+
+TEST(SimilarKeeper, TellsBetweenWhichSharpnessDecides) {
+  // A larger copy of a burst, without the camera's data, decides nothing.
+  EXPECT_THAT(SharpnessContenders({Sized("copy", 400, 300), Original("a"), Original("b")}),
+              ElementsAre(1U, 2U));
+  EXPECT_THAT(SharpnessContenders({Member("a"), Member("b"), Sized("c", 4, 3)}), ElementsAre(0U, 1U));
+  EXPECT_THAT(SharpnessContenders({Sized("a", 400, 300), Member("b")}), IsEmpty());
+}
+
 TEST(SimilarKeeper, IsNeverDegraded) {
   SimilarMember copy = Sized("a", 4, 3);
   SimilarMember broken = Original("z");
@@ -207,6 +240,7 @@ TEST(SimilarKeeper, NamesItsReasons) {
   EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraFile), "the camera's own file");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraData), "has camera data");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::MakerNote), "has the maker's note");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::NotEnlarged), "not enlarged");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::Largest), "largest");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::LeastTouched), "not written by another program");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::Finer), "compressed less");

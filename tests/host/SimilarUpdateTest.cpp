@@ -114,30 +114,11 @@ TEST_F(SimilarUpdate, AnalysesWhatIsPendingAndGroupsIt) {
   EXPECT_FALSE(result.cancelled);
   EXPECT_THAT(result.unreadable, IsEmpty());
   EXPECT_THAT(SimilarPhotos(catalogue_, NameOf(analyser_)).Groups(2), SizeIs(1));
-  ASSERT_THAT(seen_, SizeIs(6));
+  ASSERT_THAT(seen_, SizeIs(4));
   EXPECT_EQ(seen_[2].done, 3U);
   EXPECT_EQ(seen_[2].step, SimilarProgress::Step::Analysing);
   EXPECT_EQ(seen_[3].step, SimilarProgress::Step::Grouping);
-  EXPECT_EQ(seen_[5].step, SimilarProgress::Step::Measuring);
-  EXPECT_EQ(seen_[5].done, 2U);
-  EXPECT_EQ(seen_[5].total, 2U);
   EXPECT_EQ(Update().analysed, 0U);
-}
-
-TEST_F(SimilarUpdate, MeasuresThePhotosOfWhichOneIsToBeKeptOnce) {
-  AddPhoto("a.png", Qt::red);
-  AddPhoto("alone.png", Qt::blue);
-  AddPhoto("c.png", Qt::red);
-  Update();
-  const SimilarPhotos similar(catalogue_, NameOf(analyser_));
-  for (const SimilarGroup& group : similar.Groups(1)) {
-    for (const SimilarMember& member : group.members) {
-      EXPECT_EQ(member.features.sharpness > 0, group.members.size() > 1);
-    }
-  }
-  seen_.clear();
-  Update();
-  EXPECT_THAT(seen_, IsEmpty());
 }
 
 TEST_F(SimilarUpdate, TriesAgainWhatFailedForAReasonThatMayPass) {

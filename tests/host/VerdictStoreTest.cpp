@@ -83,6 +83,7 @@ TEST_F(VerdictStoreTest, GivesBackAllOfAnOrigin) {
   origin.sizeAsTold = false;
   origin.cameraName = true;
   origin.standardTables = true;
+  origin.enlarged = true;
   origin.quantisation = 2.5;
   origin.bytesPerPixel = 0.75;
   PhotoOrigin other;
@@ -98,8 +99,8 @@ TEST_F(VerdictStoreTest, GivesBackAllOfAnOrigin) {
   EXPECT_EQ(found->quantisation, 2.5);
   EXPECT_EQ(found->bytesPerPixel, 0.75);
   const auto flags = [](const PhotoOrigin& of) {
-    return std::vector<bool>{of.raw,    of.cameraTags, of.makerNote, of.sizeAsTold,
-                             of.edited, of.cameraName, of.hasJfif,   of.standardTables};
+    return std::vector<bool>{of.raw,        of.cameraTags, of.makerNote,      of.sizeAsTold, of.edited,
+                             of.cameraName, of.hasJfif,    of.standardTables, of.enlarged};
   };
   EXPECT_EQ(flags(*found), flags(origin));
   EXPECT_EQ(flags(*store.Origin(photos_[1])), flags(other));

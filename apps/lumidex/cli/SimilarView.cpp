@@ -29,6 +29,8 @@ std::string ReasonText(Host::KeeperReason reason) {
       return Say(Words::tr("has camera data"));
     case Host::KeeperReason::MakerNote:
       return Say(Words::tr("has the maker's note"));
+    case Host::KeeperReason::NotEnlarged:
+      return Say(Words::tr("not enlarged"));
     case Host::KeeperReason::Largest:
       return Say(Words::tr("largest", "photo"));
     case Host::KeeperReason::LeastTouched:

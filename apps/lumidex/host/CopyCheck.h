@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPoint>
+#include <QPointF>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -25,8 +26,27 @@ struct CopyFinding {
   double otherColour = 0;
 };
 
+/// How much of what compressing may do copies of high quality still may differ by. Programs scale in ways
+/// that no small filter makes good.
+constexpr double LeastStrictness(bool isScaled) {
+  return isScaled ? 0.4 : 0.1;
+}
+
 /// Compares pictures of one size (Format_RGB32, 16 pixels a side at least). `isScaled`: the one or the other
 /// was brought to that size. Pure.
 CopyFinding CompareAsCopies(const QImage& first, const QImage& second, bool isScaled);
+
+/// The place that differs most.
+struct WholeFinding {
+  double worst = 0;  ///< As in `CopyFinding`.
+  QPointF where;     ///< 0..1 across and down.
+  /// What all but a thousandth of the other places with something in them stay below.
+  double elsewhere = 0;
+  double strictness = 1;  ///< The share of the allowance that the pair got, less for copies of high quality.
+};
+
+/// Compares the light of pictures of one size (Format_Grayscale8, 32 pixels a side at least) piece by piece,
+/// so that they may be large. Pure.
+WholeFinding CompareWhole(const QImage& first, const QImage& second, bool isScaled);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -1,4 +1,4 @@
-#include "JpegMending.h"
+#include "JpegDamage.h"
 #include "JpegTables.h"
 #include "PhotoPixels.h"
 #include "PictureEnd.h"
@@ -7,7 +7,6 @@
 #include <host/PhotoOrigin.h>
 
 #include <zenvora/core/FileState.h>
-#include <zenvora/quillet/FileDevice.h>
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <QRegularExpression>
@@ -68,17 +67,6 @@ std::string BeginningOf(const ioPath& file) {
   stream.read(bytes.data(), kLooked);
   bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(stream.gcount(), 0)));
   return bytes;
-}
-
-bool IsDamaged(const ioPath& file) {
-  // What is larger is not decoded either.
-  constexpr std::uint64_t kMost = 512ULL * 1024 * 1024;
-  Quillet::FileDevice device(file);
-  if (QueryFile(file).size > kMost || !device.isOpen()) {
-    return false;
-  }
-  QByteArray bytes = device.readAll();
-  return MendJpeg(bytes);
 }
 
 QSize SizeOf(const Metadata& metadata, const JpegTables& tables) {
@@ -143,7 +131,7 @@ PhotoOrigin ReadPhotoOrigin(const ioPath& file) {
   }
   if (EndsTooSoon(file)) {
     origin.degradation = "it breaks off before the end of its picture";
-  } else if (tables.isJpeg && IsDamaged(file)) {
+  } else if (tables.isJpeg && IsDamagedJpeg(file)) {
     origin.degradation = kDamagedText;
   }
   return origin;

@@ -8,8 +8,12 @@
 #include <zenvora/quillet/FileDevice.h>
 
 #include <QImageReader>
+#include <QRect>
 
 #include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -53,6 +57,45 @@ bool HoldsMoreDetail(const QImage& larger, const QImage& smaller) {
   constexpr double kNoise = 1.5;
   return LostAt(smaller.size(), larger) >
          kTimes * LostAt(smaller.size(), Scaled(smaller, larger.size())) + kNoise;
+}
+
+bool IsEnlargement(const QImage& larger, const QImage& smaller) {
+  constexpr int kSide = 160;
+  constexpr std::size_t kMostPlaces = 6;
+  constexpr double kLeastScale = 1.1;
+  constexpr double kReduced = 2.0 / 3;
+  constexpr double kMuch = 15;
+  // What programs enlarged comes to 1.3 at most, what was made smaller to 2.4 at least.
+  constexpr double kTimes = 1.7;
+  constexpr double kNoise = 0.5;
+  const double scale = static_cast<double>(larger.width()) / smaller.width();
+  if (scale < kLeastScale) {
+    return false;
+  }
+  // Where the smaller one has much that would be lost if it were smaller still.
+  std::vector<std::pair<double, QRect>> places;
+  for (int y = 0; y + kSide <= smaller.height(); y += kSide) {
+    for (int x = 0; x + kSide <= smaller.width(); x += kSide) {
+      const QRect place(x, y, kSide, kSide);
+      const double lost = LostAt(place.size() * kReduced, smaller.copy(place));
+      if (lost > kMuch) {
+        places.emplace_back(lost, place);
+      }
+    }
+  }
+  std::sort(places.begin(), places.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+  places.resize(std::min(places.size(), kMostPlaces));
+  double lost = 0;
+  double lostOfEnlarged = 0;
+  for (const auto& [own, place] : places) {
+    const QRect same = QRectF(place.x() * scale, place.y() * scale, kSide * scale, kSide * scale)
+                           .toRect()
+                           .intersected(larger.rect());
+    lost += LostAt(place.size(), larger.copy(same));
+    lostOfEnlarged += LostAt(place.size(), Scaled(smaller.copy(place), same.size()));
+  }
+  const auto count = static_cast<double>(places.size());
+  return !places.empty() && lost < kTimes * lostOfEnlarged + kNoise * count;
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -14,4 +14,9 @@ QImage ReadMiddle(const ioPath& file, int side);
 /// Null pictures may. Pure.
 bool HoldsMoreDetail(const QImage& larger, const QImage& smaller);
 
+/// True when the larger picture shows nothing that the smaller one does not, where that one shows most: then
+/// the larger one was made by enlarging. False where both are nearly of one size, and where the smaller one
+/// has too little detail to tell. Format_RGB32. Pure.
+bool IsEnlargement(const QImage& larger, const QImage& smaller);
+
 }  // namespace Zenvora::Lumidex::Host

@@ -1,4 +1,5 @@
 #include "CopyCheck.h"
+#include "JpegDamage.h"
 #include "JudgedPictures.h"
 #include "PhotoPixels.h"
 #include "PictureAligner.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <exception>
 #include <fstream>
 #include <new>
@@ -90,10 +92,10 @@ JudgedPicture ReadJudgedPicture(const ioPath& file) {
       picture.image = OnWhite(found.image);
       picture.size = picture.size.isEmpty() ? picture.image.size() : picture.size;
     }
-    if (found.isDamaged) {
-      picture.degradation = kDamagedText;
-    } else if (EndsTooSoon(file)) {
+    if (EndsTooSoon(file)) {
       picture.degradation = "it breaks off before the end of its picture";
+    } else if (found.isDamaged || (found.isJpeg && IsDamagedJpeg(file))) {
+      picture.degradation = kDamagedText;
     }
   } catch (const std::exception& error) {
     picture = JudgedPicture();
@@ -170,6 +172,20 @@ PictureVerdict JudgePictures(const JudgedPicture& photo, const JudgedPicture& ke
   return {Verdict::Different, "shows something else", 0};
 }
 
+namespace {
+
+constexpr int kAnySide = INT_MAX;
+
+/// The picture in grey levels; null when it cannot be decoded at that size.
+QImage ReadLight(const ioPath& file, int longerSide) {
+  const FoundPixels found = FindPixels(file, longerSide, kPreviewsNever);
+  return found.source == PixelSource::Picture
+             ? OnWhite(found.image).convertToFormat(QImage::Format_Grayscale8)
+             : QImage();
+}
+
+}  // namespace
+
 class JudgedAgainst::Impl {
  public:
   explicit Impl(ioPath kept) : kept_(std::move(kept)) {}
@@ -192,12 +208,50 @@ class JudgedAgainst::Impl {
     if (verdict.verdict == Verdict::Same && IsLarger(judged.size) && HoldsMore(photo, judged.size)) {
       verdict = {Verdict::Alike, "the same picture, larger and with more detail", verdict.worst};
     }
-    return JudgedWhole(photo, judged.size, verdict);
+    return JudgedWhole(photo, judged.size, JudgedAtFullSize(photo, judged.size, verdict));
+  }
+
+  bool IsKeptEnlarged(const ioPath& photo) const {
+    if (JudgedAgainst(photo).Judge(kept_).verdict != Verdict::Same) {
+      return false;
+    }
+    const FoundPixels larger = FindPixels(kept_, kAnySide, kPreviewsNever);
+    const FoundPixels smaller = FindPixels(photo, kAnySide, kPreviewsNever);
+    return larger.source == PixelSource::Picture && smaller.source == PixelSource::Picture &&
+           IsEnlargement(OnWhite(larger.image), OnWhite(smaller.image));
   }
 
  private:
   bool IsLarger(const QSize& size) const {
     return size.width() > picture_->size.width() && size.height() > picture_->size.height();
+  }
+
+  /// What pictures that were made smaller say the same of can differ by a letter.
+  PictureVerdict JudgedAtFullSize(const ioPath& photo, const QSize& size, const PictureVerdict& verdict) {
+    const QSize compared = PixelsOf(size) < PixelsOf(picture_->size) ? size : picture_->size;
+    const int longer = std::max(compared.width(), compared.height());
+    if (verdict.verdict != Verdict::Same || longer <= kJudgedSide) {
+      return verdict;
+    }
+    const QImage ours = PixelsOf(compared) > kMostPixels ? QImage() : ReadLight(photo, longer);
+    const QImage theirs = ours.isNull() ? QImage() : LightOfKept(longer);
+    if (theirs.isNull()) {
+      return {Verdict::Alike, "the same picture as far as it shows when it is made smaller", verdict.worst};
+    }
+    const WholeFinding finding =
+        CompareWhole(ours.size() == theirs.size()
+                         ? ours
+                         : ours.scaled(theirs.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                               .convertToFormat(QImage::Format_Grayscale8),
+                     theirs, size != picture_->size);
+    return VerdictOfWhole(finding, size != picture_->size).value_or(verdict);
+  }
+
+  const QImage& LightOfKept(int longer) {
+    if (std::max(light_.width(), light_.height()) != longer) {
+      light_ = ReadLight(kept_, longer);
+    }
+    return light_;
   }
 
   /// Nothing was compressed between two files that keep every pixel: what differs was changed.
@@ -229,6 +283,7 @@ class JudgedAgainst::Impl {
 
   const ioPath kept_;
   std::optional<JudgedPicture> picture_;
+  QImage light_;  ///< Of the one to keep, at the size that was asked for last.
 };
 
 JudgedAgainst::JudgedAgainst(const ioPath& kept) : impl_(std::make_unique<Impl>(kept)) {}
@@ -242,6 +297,14 @@ PictureVerdict JudgedAgainst::Judge(const ioPath& photo) {
     return {Verdict::Unknown, "there is not enough memory to compare it", 0};
   } catch (const std::exception& error) {
     return {Verdict::Unknown, std::string("it cannot be compared: ") + error.what(), 0};
+  }
+}
+
+bool JudgedAgainst::IsKeptEnlarged(const ioPath& photo) {
+  try {
+    return impl_->IsKeptEnlarged(photo);
+  } catch (const std::exception&) {
+    return false;
   }
 }
 

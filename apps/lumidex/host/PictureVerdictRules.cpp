@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -14,9 +13,8 @@ namespace {
 /// Below that a copy shows neither text nor small things.
 constexpr int kLeastSide = 200;
 
-std::int64_t PixelsOf(const QSize& size) {
-  return static_cast<std::int64_t>(size.width()) * size.height();
-}
+/// Beyond so many times the allowance nothing but an edit is left.
+constexpr double kClearly = 4;
 
 std::string CopyText(const QSize& photo, const QSize& kept) {
   if (photo == kept) {
@@ -64,6 +62,10 @@ PictureVerdict VerdictOfMatch(const CopyFinding& finding, const QSize& compared,
 
 }  // namespace
 
+std::int64_t PixelsOf(const QSize& size) {
+  return static_cast<std::int64_t>(size.width()) * size.height();
+}
+
 std::string PlaceName(const QPointF& at) {
   constexpr double kThird = 1.0 / 3;
   const auto part = [](double value) { return value < kThird ? 0U : value < 2 * kThird ? 1U : 2U; };
@@ -100,7 +102,6 @@ std::optional<PictureVerdict> VerdictOfCopies(const CopyFinding& finding, const 
   }
   // What is a copy but for one place was edited there, or is another page of the same form.
   constexpr double kMostly = 0.9;
-  constexpr double kClearly = 4;
   if (finding.alike >= kMostly && worst > kClearly && EditOf(finding, photo.size != kept.size).empty()) {
     const QPoint& at = finding.worst >= finding.worstColour ? finding.where : finding.whereColour;
     return PictureVerdict{
@@ -109,6 +110,23 @@ std::optional<PictureVerdict> VerdictOfCopies(const CopyFinding& finding, const 
         worst};
   }
   return std::nullopt;
+}
+
+std::optional<PictureVerdict> VerdictOfWhole(const WholeFinding& finding, bool isScaled) {
+  // A letter in faint print: within what is allowed, and far beyond all else of its picture. Copies come
+  // to 1.5 times that at most, those of quality 20 to 2.
+  constexpr double kSomething = 0.6;
+  const double limit = (1.6 + 0.8 * finding.strictness) * finding.elsewhere;
+  const bool standsOut = !isScaled && finding.worst > std::max(kSomething, limit);
+  if (finding.worst <= 1 && !standsOut) {
+    return std::nullopt;
+  }
+  if (finding.worst > kClearly) {
+    return PictureVerdict{Verdict::Different, "differs at " + PlaceName(finding.where), finding.worst};
+  }
+  return PictureVerdict{Verdict::Alike,
+                        "the same picture, but for something small at " + PlaceName(finding.where),
+                        finding.worst};
 }
 
 std::optional<PictureVerdict> VerdictOfAligned(const AlignedFinding& finding) {

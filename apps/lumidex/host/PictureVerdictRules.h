@@ -6,6 +6,7 @@
 
 #include <QPointF>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -14,6 +15,8 @@ namespace Zenvora::Lumidex::Host {
 /// "the upper left", "the middle", "the right"; `at`: 0..1 across and down.
 std::string PlaceName(const QPointF& at);
 
+std::int64_t PixelsOf(const QSize& size);
+
 /// True when the one size is the other scaled and rounded.
 bool IsScaled(const QSize& a, const QSize& b);
 
@@ -21,6 +24,9 @@ bool IsScaled(const QSize& a, const QSize& b);
 /// the size at which they were. Pure.
 std::optional<PictureVerdict> VerdictOfCopies(const CopyFinding& finding, const QSize& compared,
                                               const JudgedPicture& photo, const JudgedPicture& kept);
+
+/// What comparing at the full size says against a verdict that both are the same; empty: nothing. Pure.
+std::optional<PictureVerdict> VerdictOfWhole(const WholeFinding& finding, bool isScaled);
 
 /// What laying the photo and the one to keep (the first of the two) over each other says; empty when they do
 /// not show the same. Pure.

@@ -1,4 +1,5 @@
 #include "OrderedWork.h"
+#include "SimilarDetail.h"
 
 #include <host/SimilarJudging.h>
 
@@ -96,22 +97,27 @@ bool ReadOrigins(const std::vector<SimilarGroup>& groups, VerdictStore& store, c
 /// Some members of a group, so that the one to keep is not decoded for each of them, and the threads share
 /// large groups.
 struct Bunch {
-  const PhotoRecord* kept = nullptr;
-  std::vector<const PhotoRecord*> photos;
+  const SimilarMember* kept = nullptr;
+  /// It is to be kept for its size, which enlarging gives, too.
+  bool isLargest = false;
+  std::vector<const SimilarMember*> photos;
 };
 
 std::vector<Bunch> ToJudge(const std::vector<SuggestedGroup>& groups, const VerdictStore& store) {
   constexpr std::size_t kMostPhotos = 8;
   std::vector<Bunch> bunches;
   for (const SuggestedGroup& group : groups) {
-    const PhotoRecord& kept = group.group.members[group.keeper.index].photo;
-    Bunch bunch{&kept, {}};
+    const SimilarMember& kept = group.group.members[group.keeper.index];
+    const std::vector<KeeperReason>& reasons = group.keeper.reasons;
+    const Bunch empty{
+        &kept, std::find(reasons.begin(), reasons.end(), KeeperReason::Largest) != reasons.end(), {}};
+    Bunch bunch = empty;
     for (const SimilarMember& member : group.group.members) {
-      if (&member.photo != &kept && !store.Verdict(member.photo, kept)) {
-        bunch.photos.push_back(&member.photo);
+      if (&member != &kept && !store.Verdict(member.photo, kept.photo)) {
+        bunch.photos.push_back(&member);
       }
       if (bunch.photos.size() == kMostPhotos) {
-        bunches.push_back(std::exchange(bunch, {&kept, {}}));
+        bunches.push_back(std::exchange(bunch, empty));
       }
     }
     if (!bunch.photos.empty()) {
@@ -121,57 +127,80 @@ std::vector<Bunch> ToJudge(const std::vector<SuggestedGroup>& groups, const Verd
   return bunches;
 }
 
-using Verdicts = std::vector<std::optional<PictureVerdict>>;
+struct JudgedBunch {
+  /// One for each photo; none where a file is not the one that the catalogue knows, and after a cancel.
+  std::vector<std::optional<PictureVerdict>> verdicts;
+  bool keptIsEnlarged = false;
+};
 
-/// One for each photo; none where a file is not the one that the catalogue knows, and after a cancel.
-Verdicts JudgeBunch(const Bunch& bunch, const Threads& threads) {
-  Verdicts verdicts;
+JudgedBunch JudgeBunch(const Bunch& bunch, const Threads& threads) {
+  JudgedBunch judged;
   try {
-    JudgedAgainst kept(bunch.kept->path);
-    for (const PhotoRecord* const photo : bunch.photos) {
-      if (threads.IsCancelled() || !IsAsKnown(*bunch.kept) || !IsAsKnown(*photo)) {
-        verdicts.emplace_back();
+    const PhotoRecord& keptPhoto = bunch.kept->photo;
+    JudgedAgainst kept(keptPhoto.path);
+    for (const SimilarMember* const member : bunch.photos) {
+      const PhotoRecord& photo = member->photo;
+      if (threads.IsCancelled() || !IsAsKnown(keptPhoto) || !IsAsKnown(photo)) {
+        judged.verdicts.emplace_back();
         continue;
       }
-      verdicts.emplace_back(kept.Judge(photo->path));
-      if (!IsAsKnown(*photo)) {
-        verdicts.back().reset();
+      judged.verdicts.emplace_back(kept.Judge(photo.path));
+      const Verdict verdict = judged.verdicts.back()->verdict;
+      if (bunch.isLargest && !judged.keptIsEnlarged && MayBeEnlarged(*bunch.kept, *member) &&
+          (verdict == Verdict::Same || verdict == Verdict::Alike)) {
+        judged.keptIsEnlarged = kept.IsKeptEnlarged(photo.path);
+      }
+      if (!IsAsKnown(photo)) {
+        judged.verdicts.back().reset();
       }
     }
-    if (!IsAsKnown(*bunch.kept)) {
+    if (!IsAsKnown(keptPhoto)) {
       // It may have been decoded after it had changed.
-      verdicts.clear();
+      judged = {};
     }
   } catch (const std::exception&) {
     // For want of memory: those that are left are tried again the next time.
   }
-  verdicts.resize(bunch.photos.size());
-  return verdicts;
+  judged.verdicts.resize(bunch.photos.size());
+  return judged;
 }
 
-JudgingResult Judge(const std::vector<SuggestedGroup>& groups, VerdictStore& store, const Threads& threads,
-                    const SimilarProgressHandler& progress) {
+struct JudgingRound {
+  JudgingResult result;
+  /// Photos to be kept turned out to be enlarged, so that others will be suggested.
+  bool hasEnlarged = false;
+};
+
+JudgingRound Judge(const std::vector<SuggestedGroup>& groups, VerdictStore& store, const Threads& threads,
+                   const SimilarProgressHandler& progress) {
   const std::vector<Bunch> bunches = ToJudge(groups, store);
   std::size_t total = 0;
   for (const Bunch& bunch : bunches) {
     total += bunch.photos.size();
   }
   constexpr std::size_t kAheadPerThread = 4;
-  OrderedWork<Verdicts> work(bunches.size(), threads.Count(), kAheadPerThread,
-                             [&](std::size_t item) { return JudgeBunch(bunches[item], threads); });
-  JudgingResult result;
+  OrderedWork<JudgedBunch> work(bunches.size(), threads.Count(), kAheadPerThread,
+                                [&](std::size_t item) { return JudgeBunch(bunches[item], threads); });
+  JudgingRound round;
   std::vector<JudgedPhoto> judged;
   std::size_t done = 0;
   for (const Bunch& bunch : bunches) {
-    std::optional<Verdicts> verdicts = work.TakeNextUnless([&threads] { return threads.IsCancelled(); });
-    if (!verdicts) {
-      result.cancelled = true;
+    std::optional<JudgedBunch> found = work.TakeNextUnless([&threads] { return threads.IsCancelled(); });
+    if (!found) {
+      round.result.cancelled = true;
       break;
     }
+    if (found->keptIsEnlarged) {
+      // Before the verdicts: once those are stored nobody looks again.
+      PhotoOrigin origin = bunch.kept->origin.value_or(PhotoOrigin());
+      origin.enlarged = true;
+      store.StoreOrigins({{bunch.kept->photo, origin}});
+      round.hasEnlarged = true;
+    }
     for (std::size_t i = 0; i < bunch.photos.size(); ++i) {
-      if ((*verdicts)[i]) {
-        judged.push_back({*bunch.photos[i], *bunch.kept, std::move(*(*verdicts)[i])});
-        ++result.judged;
+      if (std::optional<PictureVerdict>& verdict = found->verdicts[i]) {
+        judged.push_back({bunch.photos[i]->photo, bunch.kept->photo, std::move(*verdict)});
+        ++round.result.judged;
       }
     }
     done += bunch.photos.size();
@@ -185,21 +214,26 @@ JudgingResult Judge(const std::vector<SuggestedGroup>& groups, VerdictStore& sto
   if (!judged.empty()) {
     store.StoreVerdicts(judged);
   }
-  return result;
+  return round;
 }
 
 }  // namespace
 
-JudgingResult JudgeSimilar(const SimilarPhotos& similar, VerdictStore& store, const AnalysisOptions& options,
+JudgingResult JudgeSimilar(SimilarPhotos& similar, VerdictStore& store, const AnalysisOptions& options,
                            const SimilarProgressHandler& progress) {
   const Threads threads(options);
-  if (!ReadOrigins(similar.Groups(2), store, threads, progress)) {
-    JudgingResult result;
-    result.cancelled = true;
-    return result;
+  JudgingResult result;
+  result.cancelled = !ReadOrigins(similar.Groups(2), store, threads, progress);
+  for (bool isOver = result.cancelled; !isOver;) {
+    result.cancelled = !MeasureDetail(similar, store, options, progress);
+    if (result.cancelled) {
+      break;
+    }
+    const JudgingRound round = Judge(SuggestGroups(similar, store, 2), store, threads, progress);
+    result.judged += round.result.judged;
+    result.cancelled = round.result.cancelled || threads.IsCancelled();
+    isOver = result.cancelled || !round.hasEnlarged;
   }
-  JudgingResult result = Judge(SuggestGroups(similar, store, 2), store, threads, progress);
-  result.cancelled = result.cancelled || threads.IsCancelled();
   return result;
 }
 

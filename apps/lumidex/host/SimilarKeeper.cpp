@@ -84,6 +84,8 @@ class Candidates {
     return members_[first].photo.path;
   }
 
+  const std::vector<std::size_t>& Left() const { return left_; }
+
   KeeperChoice Choice() const {
     KeeperChoice choice = choice_;
     choice.index = left_.front();
@@ -95,6 +97,30 @@ class Candidates {
   std::vector<std::size_t> left_;
   KeeperChoice choice_;
 };
+
+/// All that weighs more than sharpness.
+void WeighOrigins(Candidates& candidates) {
+  candidates.Weigh(KeeperReason::Whole,
+                   [](const SimilarMember& member) { return OriginOf(member).degradation.empty(); });
+  candidates.Weigh(KeeperReason::CameraFile, IsCameraFile);
+  candidates.Weigh(KeeperReason::CameraData, HasCameraData);
+  candidates.Weigh(KeeperReason::MakerNote,
+                   [](const SimilarMember& member) { return OriginOf(member).makerNote; });
+  candidates.Weigh(KeeperReason::NotEnlarged,
+                   [](const SimilarMember& member) { return !OriginOf(member).enlarged; });
+  candidates.Weigh(KeeperReason::Largest, [most = candidates.Most(PixelsOf)](const SimilarMember& member) {
+    return PixelsOf(member) == most;
+  });
+  const auto untouched = [](const SimilarMember& member) { return -Traces(member); };
+  candidates.Weigh(KeeperReason::LeastTouched,
+                   [&, most = candidates.Most(untouched)](const SimilarMember& member) {
+                     return untouched(member) == most;
+                   });
+  const auto fineness = [](const SimilarMember& member) { return -OriginOf(member).quantisation; };
+  candidates.Weigh(KeeperReason::Finer, [&, most = candidates.Most(fineness)](const SimilarMember& member) {
+    return fineness(member) >= most / kNearly;
+  });
+}
 
 }  // namespace
 
@@ -108,6 +134,8 @@ const char* KeeperReasonName(KeeperReason reason) {
       return "has camera data";
     case KeeperReason::MakerNote:
       return "has the maker's note";
+    case KeeperReason::NotEnlarged:
+      return "not enlarged";
     case KeeperReason::Largest:
       return "largest";
     case KeeperReason::LeastTouched:
@@ -130,24 +158,7 @@ const char* KeeperReasonName(KeeperReason reason) {
 
 KeeperChoice SuggestKeeper(const std::vector<SimilarMember>& members) {
   Candidates candidates(members);
-  candidates.Weigh(KeeperReason::Whole,
-                   [](const SimilarMember& member) { return OriginOf(member).degradation.empty(); });
-  candidates.Weigh(KeeperReason::CameraFile, IsCameraFile);
-  candidates.Weigh(KeeperReason::CameraData, HasCameraData);
-  candidates.Weigh(KeeperReason::MakerNote,
-                   [](const SimilarMember& member) { return OriginOf(member).makerNote; });
-  candidates.Weigh(KeeperReason::Largest, [most = candidates.Most(PixelsOf)](const SimilarMember& member) {
-    return PixelsOf(member) == most;
-  });
-  const auto untouched = [](const SimilarMember& member) { return -Traces(member); };
-  candidates.Weigh(KeeperReason::LeastTouched,
-                   [&, most = candidates.Most(untouched)](const SimilarMember& member) {
-                     return untouched(member) == most;
-                   });
-  const auto fineness = [](const SimilarMember& member) { return -OriginOf(member).quantisation; };
-  candidates.Weigh(KeeperReason::Finer, [&, most = candidates.Most(fineness)](const SimilarMember& member) {
-    return fineness(member) >= most / kNearly;
-  });
+  WeighOrigins(candidates);
   const auto sharpness = [](const SimilarMember& member) { return member.features.sharpness; };
   candidates.Weigh(KeeperReason::Sharpest, [most = candidates.Most(sharpness)](const SimilarMember& member) {
     return member.features.sharpness >= most * kNearly;
@@ -178,6 +189,18 @@ KeeperChoice SuggestKeeper(const std::vector<SimilarMember>& members) {
     return member.photo.path == first;
   });
   return candidates.Choice();
+}
+
+bool MayBeEnlarged(const SimilarMember& larger, const SimilarMember& smaller) {
+  return larger.features.width > smaller.features.width && larger.features.height > smaller.features.height &&
+         !IsCameraFile(larger) && Traces(larger) >= Traces(smaller) &&
+         (OriginOf(smaller).cameraName || !OriginOf(larger).cameraName);
+}
+
+std::vector<std::size_t> SharpnessContenders(const std::vector<SimilarMember>& members) {
+  Candidates candidates(members);
+  WeighOrigins(candidates);
+  return candidates.Left().size() > 1 ? candidates.Left() : std::vector<std::size_t>();
 }
 
 }  // namespace Zenvora::Lumidex::Host

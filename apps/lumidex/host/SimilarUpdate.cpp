@@ -1,5 +1,3 @@
-#include "DetailMeter.h"
-
 #include <host/SimilarUpdate.h>
 
 #include <zenvora/core/ErrorText.h>
@@ -10,7 +8,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdint>
 #include <fstream>
 #include <utility>
 
@@ -165,62 +162,6 @@ std::size_t CheckPreviews(SimilarPhotos& similar, const PhotoAnalyser& analyser,
   return corrected;
 }
 
-std::int64_t PixelsOf(const SimilarMember& member) {
-  return std::int64_t{member.features.width} * member.features.height;
-}
-
-/// Photos that are no smaller than any of their group, where there are several, and not measured yet.
-std::vector<PhotoRecord> ToMeasure(const SimilarPhotos& similar) {
-  std::vector<PhotoRecord> photos;
-  for (const SimilarGroup& group : similar.Groups(2)) {
-    std::int64_t most = 0;
-    for (const SimilarMember& member : group.members) {
-      most = std::max(most, PixelsOf(member));
-    }
-    std::vector<const SimilarMember*> largest;
-    for (const SimilarMember& member : group.members) {
-      if (PixelsOf(member) == most) {
-        largest.push_back(&member);
-      }
-    }
-    for (const SimilarMember* const member : largest) {
-      if (largest.size() > 1 && member->features.sharpness == 0) {
-        photos.push_back(member->photo);
-      }
-    }
-  }
-  return photos;
-}
-
-void MeasureDetail(SimilarPhotos& similar, AnalysisOptions options, const SimilarProgressHandler& progress,
-                   SimilarUpdateResult& result) {
-  const std::vector<PhotoRecord> photos = ToMeasure(similar);
-  std::vector<ioPath> files;
-  files.reserve(photos.size());
-  for (const PhotoRecord& photo : photos) {
-    files.push_back(photo.path);
-  }
-  // A preview does not show whether the picture is sharp.
-  options.usePreviews = false;
-  std::vector<std::pair<QString, double>> measured;
-  const std::size_t done =
-      DescribePhotos(files, DetailMeter(), options, [&](std::size_t index, PhotoDescription&& found) {
-        if (!found.descriptor.empty()) {
-          measured.emplace_back(photos[index].id, static_cast<double>(found.descriptor.front()));
-        }
-        if (measured.size() >= kBatch) {
-          similar.StoreSharpness(std::exchange(measured, {}));
-        }
-        if (progress) {
-          progress({SimilarProgress::Step::Measuring, index + 1, photos.size()});
-        }
-      });
-  if (!measured.empty()) {
-    similar.StoreSharpness(measured);
-  }
-  result.cancelled = result.cancelled || done < photos.size();
-}
-
 }  // namespace
 
 AnalyserName NameOf(const PhotoAnalyser& analyser) {
@@ -248,9 +189,6 @@ SimilarUpdateResult UpdateSimilar(SimilarPhotos& similar, const PhotoAnalyser& a
     // In their right places photos can meet others that nobody has looked at.
     corrected = result.cancelled ? 0 : CheckPreviews(similar, analyser, options, progress, result);
   } while (corrected > 0 && !result.cancelled);
-  if (!result.cancelled) {
-    MeasureDetail(similar, options, progress, result);
-  }
   return result;
 }
 

@@ -12,8 +12,9 @@ namespace {
 
 /// In the order of their bits, which are stored.
 constexpr std::array kFlags = {
-    &PhotoOrigin::raw,    &PhotoOrigin::cameraTags, &PhotoOrigin::makerNote, &PhotoOrigin::sizeAsTold,
-    &PhotoOrigin::edited, &PhotoOrigin::cameraName, &PhotoOrigin::hasJfif,   &PhotoOrigin::standardTables};
+    &PhotoOrigin::raw,        &PhotoOrigin::cameraTags,     &PhotoOrigin::makerNote,
+    &PhotoOrigin::sizeAsTold, &PhotoOrigin::edited,         &PhotoOrigin::cameraName,
+    &PhotoOrigin::hasJfif,    &PhotoOrigin::standardTables, &PhotoOrigin::enlarged};
 
 int FlagsOf(const PhotoOrigin& origin) {
   int flags = 0;

@@ -20,6 +20,8 @@ struct PhotoOrigin {
   bool hasJfif = false;
   /// A JPEG file with the quantisation tables of the standard, as general programs scale them.
   bool standardTables = false;
+  /// A smaller copy holds all of its detail. Not of the file alone: found out when the two are compared.
+  bool enlarged = false;
   /// The mean of the light's quantisation table of a JPEG file; finer is smaller. 0: nothing is quantised, or
   /// unknown.
   double quantisation = 0;
@@ -27,7 +29,8 @@ struct PhotoOrigin {
 };
 
 /// Raised whenever an origin may be read differently, so that stored ones are read anew.
-constexpr int kOriginVersion = 1;
+/// `kVerdictVersion` goes with it, since comparing adds to origins.
+constexpr int kOriginVersion = 2;
 
 /// Reads a file's origin. Never throws for bad content. Blocks on the disk; safe from any thread.
 PhotoOrigin ReadPhotoOrigin(const ioPath& file);

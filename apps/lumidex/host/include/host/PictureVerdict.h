@@ -28,7 +28,7 @@ struct PictureVerdict {
 };
 
 /// Raised whenever a verdict may come out differently, so that stored ones are made anew.
-constexpr int kVerdictVersion = 3;
+constexpr int kVerdictVersion = 4;
 
 /// Judges several photos against one, which is decoded once and only when needed. Blocks on the disk; belongs
 /// to one thread at a time.
@@ -41,6 +41,11 @@ class JudgedAgainst {
 
   /// Never throws for bad content or want of memory: the verdict is `Unknown` then, with the cause.
   PictureVerdict Judge(const ioPath& photo);
+
+  /// True when the one to keep is the same picture as the photo, but larger, and shows nothing that the photo
+  /// does not: so it was made by enlarging. Set against it the photo itself may be alike only, since it is
+  /// sharper. Decodes both at their full size. Never throws; false where it cannot be told.
+  bool IsKeptEnlarged(const ioPath& photo);
 
  private:
   class Impl;

@@ -14,12 +14,14 @@ struct JudgingResult {
   bool cancelled = false;
 };
 
-/// Reads the origins of all members of groups that are not stored, then judges each member against the one
-/// to keep, from the pixels of both, where that is not stored. Works in several threads; what was found out
+/// Reads the origins of all members of groups that are not stored, measures how sharp those are between which
+/// that decides, then judges each member against the one to keep, from the pixels of both, where that is not
+/// stored. One to keep that turns out to be enlarged from another is remembered as such, and its group judged
+/// anew. Works in several threads; what was found out
 /// is stored every few photos, so that a run which was stopped goes on where it was. What changed on the disk
 /// since it was taken in is passed over. `store` must be of the catalogue of `similar`. Throws `HostError`
 /// when the catalogue fails.
-JudgingResult JudgeSimilar(const SimilarPhotos& similar, VerdictStore& store, const AnalysisOptions& options,
+JudgingResult JudgeSimilar(SimilarPhotos& similar, VerdictStore& store, const AnalysisOptions& options,
                            const SimilarProgressHandler& progress);
 
 /// The groups of at least `least` photos, each with the one to keep and the verdicts that are stored.

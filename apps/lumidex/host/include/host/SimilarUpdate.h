@@ -27,9 +27,9 @@ struct SimilarProgress {
     Analysing,
     Grouping,
     Checking,   ///< Whether previews show the pictures, of photos of a group.
-    Measuring,  ///< Detail, of photos of a group that are the largest together.
     Reading,    ///< Where photos of a group come from.
-    Comparing,  ///< Each photo of a group with the one to keep.
+    Measuring,  ///< Detail, of photos of a group between which it decides.
+    Comparing,  ///< Each photo of a group with the one to keep; measuring and this can come once more.
   };
   Step step = Step::Analysing;
   std::size_t done = 0;
@@ -41,10 +41,9 @@ AnalyserName NameOf(const PhotoAnalyser& analyser);
 
 /// Analyses the photos that are pending in `similar`, in several threads, and puts all that can be compared
 /// into clusters. Members of groups that were described from previews are compared with their pictures; where
-/// the two disagree, the picture is described instead, and the groups are made anew. Where several photos of
-/// a group are the largest, their detail is measured. What was found
-/// out is stored every few hundred photos, so that a run which was stopped goes on where it was. `similar`
-/// must be of the analyser's name. Throws `HostError` when the catalogue fails.
+/// the two disagree, the picture is described instead, and the groups are made anew. What was
+/// found out is stored every few hundred photos, so that a run which was stopped goes on where it was.
+/// `similar` must be of the analyser's name. Throws `HostError` when the catalogue fails.
 SimilarUpdateResult UpdateSimilar(SimilarPhotos& similar, const PhotoAnalyser& analyser,
                                   const AnalysisOptions& options, const SimilarProgressHandler& progress);
 
