@@ -358,12 +358,12 @@ TEST_F(PictureVerdictFiles, OfLargeScreensAreNotTheSameWhenOneLetterDiffers) {
                            Look{QColor(240, 240, 240), QColor(170, 170, 170)}}) {
     const QImage screen = Screen(look.paper, look.ink, false);
     const QImage changed = Screen(look.paper, look.ink, true);
-    JudgedAgainst against(Save(screen, "kept.jpg", "JPEG", 85));
+    JudgedAgainst against(Save(screen, "kept.jpg", "JPEG", 95));
     for (const int quality : {85, 95}) {
       const PictureVerdict verdict = against.Judge(Save(changed, "changed.jpg", "JPEG", quality));
       EXPECT_NE(verdict.verdict, Verdict::Same) << quality << ": " << verdict.why << ' ' << verdict.worst;
     }
-    const PictureVerdict copy = against.Judge(Save(screen, "copy.jpg", "JPEG", 75));
+    const PictureVerdict copy = against.Judge(Save(screen, "copy.jpg", "JPEG", 85));
     EXPECT_EQ(copy.verdict, Verdict::Same) << copy.why << ' ' << copy.worst;
   }
 }

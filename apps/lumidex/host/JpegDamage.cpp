@@ -1,5 +1,6 @@
 #include "JpegDamage.h"
 
+#include "JpegBits.h"
 #include "JpegMending.h"
 
 #include <zenvora/core/FileState.h>
@@ -21,121 +22,9 @@ namespace {
 constexpr int kLastCell = 63;
 constexpr std::size_t kMostTables = 4;
 
-int Byte(std::string_view bytes, std::size_t at) {
-  return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0;
-}
-
-int Short(std::string_view bytes, std::size_t at) {
-  return Byte(bytes, at) * 256 + Byte(bytes, at + 1);
-}
-
 bool IsRestart(int marker) {
   return marker >= 0xD0 && marker <= 0xD7;
 }
-
-/// Bits of a scan, up to the next marker.
-class Bits {
- public:
-  Bits(std::string_view bytes, std::size_t at) : bytes_(bytes), at_(at) {}
-
-  /// The next bits without taking them; zeros behind the end.
-  std::uint32_t Peek(int count) {
-    while (held_ < count) {
-      Hold();
-    }
-    return static_cast<std::uint32_t>(bits_ >> (held_ - count)) & ((1U << count) - 1U);
-  }
-  void Skip(int count) { held_ -= count; }
-  std::uint32_t Take(int count) {
-    if (count == 0) {
-      return 0;
-    }
-    const std::uint32_t value = Peek(count);
-    Skip(count);
-    return value;
-  }
-  /// More was taken than there is.
-  bool IsBeyondEnd() const { return invented_ > held_; }
-
-  /// Leaves the bits that fill the last byte, and goes behind the next marker. Returns how many bytes were
-  /// left over; none when only such as fill follow.
-  std::size_t LeftBefore(int& marker) {
-    std::size_t left = static_cast<std::size_t>(std::max(held_ - invented_, 0)) / 8;
-    for (; at_ + 1 < bytes_.size(); ++at_) {
-      if (Byte(bytes_, at_) == 0xFF && Byte(bytes_, at_ + 1) == 0xFF) {
-        continue;
-      }
-      if (Byte(bytes_, at_) == 0xFF && Byte(bytes_, at_ + 1) != 0) {
-        break;
-      }
-      ++left;
-    }
-    marker = Byte(bytes_, at_ + 1);
-    at_ += 2;
-    bits_ = 0;
-    held_ = 0;
-    invented_ = 0;
-    return left;
-  }
-  std::size_t Position() const { return at_; }
-
- private:
-  void Hold() {
-    const int byte = Byte(bytes_, at_);
-    const bool isMarker = at_ >= bytes_.size() || (byte == 0xFF && Byte(bytes_, at_ + 1) != 0);
-    bits_ = bits_ << 8U | static_cast<std::uint64_t>(isMarker ? 0 : byte);
-    held_ += 8;
-    if (isMarker) {
-      invented_ += 8;
-    } else {
-      at_ += byte == 0xFF ? 2 : 1;
-    }
-  }
-
-  const std::string_view bytes_;
-  std::size_t at_;
-  std::uint64_t bits_ = 0;
-  int held_ = 0;
-  int invented_ = 0;  ///< Of all those held and taken, how many the file does not have.
-};
-
-/// A table of Huffman codes, by the sixteen bits that follow.
-class Codes {
- public:
-  static constexpr int kLongest = 16;
-
-  bool IsThere() const { return !symbols_.empty(); }
-
-  void Read(std::string_view counts, std::string_view values) {
-    symbols_.assign(std::size_t{1} << kLongest, {});
-    std::size_t next = 0;
-    std::size_t value = 0;
-    for (int length = 1; length <= kLongest; ++length) {
-      const std::size_t span = std::size_t{1} << (kLongest - length);
-      for (int left = Byte(counts, static_cast<std::size_t>(length - 1)); left > 0; --left, ++value) {
-        const std::size_t end = std::min(next + span, symbols_.size());
-        std::fill(symbols_.begin() + static_cast<std::ptrdiff_t>(std::min(next, end)),
-                  symbols_.begin() + static_cast<std::ptrdiff_t>(end),
-                  Symbol{static_cast<std::uint8_t>(length), static_cast<std::uint8_t>(Byte(values, value))});
-        next = end;
-      }
-    }
-  }
-
-  /// -1 for bits that are no code.
-  int Next(Bits& bits) const {
-    const Symbol& symbol = symbols_[bits.Peek(kLongest)];
-    bits.Skip(symbol.length);
-    return symbol.length == 0 ? -1 : symbol.value;
-  }
-
- private:
-  struct Symbol {
-    std::uint8_t length = 0;
-    std::uint8_t value = 0;
-  };
-  std::vector<Symbol> symbols_;
-};
 
 struct Component {
   int name = 0;
@@ -323,7 +212,7 @@ class Picture {
     const bool isAlone = scan_.size() == 1;
     const int across = isAlone ? scan_.front()->width : unitsAcross_;
     const std::int64_t units = std::int64_t{across} * (isAlone ? scan_.front()->height : unitsDown_);
-    Bits bits(bytes_, at);
+    JpegBits bits(bytes_, at);
     int marker = 0;
     for (std::int64_t unit = 0; unit < units; ++unit) {
       if (unit % std::max<std::int64_t>(interval_, 1) == 0 && (unit == 0 || interval_ > 0)) {
@@ -345,7 +234,7 @@ class Picture {
     return left <= kMostLeft && (interval_ > 0 || !IsRestart(marker));
   }
 
-  bool DecodeUnit(Bits& bits, std::size_t unit) {
+  bool DecodeUnit(JpegBits& bits, std::size_t unit) {
     for (Component* const component : scan_) {
       const int blocks = scan_.size() == 1 ? 1 : component->across * component->down;
       for (int i = 0; i < blocks; ++i) {
@@ -358,7 +247,7 @@ class Picture {
     return true;
   }
 
-  bool DecodePart(Bits& bits, Component& component, std::size_t unit) {
+  bool DecodePart(JpegBits& bits, Component& component, std::size_t unit) {
     if (first_ == 0) {
       if (isRefined_) {
         bits.Take(1);
@@ -370,7 +259,7 @@ class Picture {
     return isRefined_ ? RefineDetail(bits, component, filled) : FillDetail(bits, component, filled);
   }
 
-  bool DecodeMean(Bits& bits, Component& component) const {
+  bool DecodeMean(JpegBits& bits, Component& component) const {
     constexpr int kMostBits = 11;
     // A mean of 128 levels times eight, and as much again for encoders that round oddly.
     constexpr int kMost = 2048;
@@ -384,8 +273,8 @@ class Picture {
     return std::abs(component.before) <= (kMost / step + 1) >> (isProgressive_ ? shift_ : 0);
   }
 
-  bool DecodeDetail(Bits& bits, const Component& component) const {
-    const Codes& codes = codes_[1][component.detail];
+  bool DecodeDetail(JpegBits& bits, const Component& component) const {
+    const JpegCodes& codes = codes_[1][component.detail];
     for (int cell = 1; cell <= kLastCell; ++cell) {
       const int symbol = codes.Next(bits);
       const int size = symbol & 15;
@@ -405,14 +294,14 @@ class Picture {
   }
 
   /// The number of blocks, this one included, that have nothing more; by the code that says so.
-  static int RunOf(Bits& bits, int power) { return (1 << power) + static_cast<int>(bits.Take(power)); }
+  static int RunOf(JpegBits& bits, int power) { return (1 << power) + static_cast<int>(bits.Take(power)); }
 
-  bool FillDetail(Bits& bits, const Component& component, std::uint64_t& filled) {
+  bool FillDetail(JpegBits& bits, const Component& component, std::uint64_t& filled) {
     if (run_ > 0) {
       --run_;
       return true;
     }
-    const Codes& codes = codes_[1][component.detail];
+    const JpegCodes& codes = codes_[1][component.detail];
     for (int cell = first_; cell <= last_; ++cell) {
       const int symbol = codes.Next(bits);
       const int size = symbol & 15;
@@ -436,9 +325,9 @@ class Picture {
     return true;
   }
 
-  bool RefineDetail(Bits& bits, const Component& component, std::uint64_t& filled) {
+  bool RefineDetail(JpegBits& bits, const Component& component, std::uint64_t& filled) {
     const auto isFilled = [&filled](int cell) { return (filled >> cell & 1U) != 0; };
-    const Codes& codes = codes_[1][component.detail];
+    const JpegCodes& codes = codes_[1][component.detail];
     int cell = first_;
     for (; run_ == 0 && cell <= last_; ++cell) {
       const int symbol = codes.Next(bits);
@@ -474,7 +363,7 @@ class Picture {
   }
 
   const std::string_view bytes_;
-  std::array<std::array<Codes, kMostTables>, 2> codes_;
+  std::array<std::array<JpegCodes, kMostTables>, 2> codes_;
   std::array<int, kMostTables> steps_{};
   std::vector<Component> components_;
   bool isProgressive_ = false;
