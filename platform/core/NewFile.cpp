@@ -41,6 +41,36 @@ std::FILE* OpenNew(const ioPath& file) {
   return stream;
 }
 
+std::FILE* OpenOld(const ioPath& file) {
+  const DWORD attributes = GetFileAttributesW(file.for_system().c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+    errno = EINVAL;
+    return nullptr;
+  }
+  const int handle = _wopen(file.for_system().c_str(), _O_RDWR | _O_BINARY | _O_NOINHERIT);
+  std::FILE* const stream = handle < 0 ? nullptr : _fdopen(handle, "r+b");
+  if (handle >= 0 && stream == nullptr) {
+    _close(handle);
+  }
+  return stream;
+}
+
+/// The file is as long as it was where this fails.
+std::error_code TakeRoom(std::FILE* stream, std::uint64_t bytes) {
+  const int handle = _fileno(stream);
+  const __int64 size = _filelengthi64(handle);
+  if (size < 0 || static_cast<std::uint64_t>(size) >= bytes) {
+    return size < 0 ? LastError() : std::error_code();
+  }
+  // What a file has room for it has on the disk, here.
+  const int error = _chsize_s(handle, static_cast<__int64>(bytes));
+  if (error != 0) {
+    _chsize_s(handle, size);
+    return {error, std::generic_category()};
+  }
+  return {};
+}
+
 bool Sync(std::FILE* stream) {
   return _commit(_fileno(stream)) == 0;
 }
@@ -49,6 +79,33 @@ bool Sync(std::FILE* stream) {
 
 std::FILE* OpenNew(const ioPath& file) {
   return std::fopen(file.native().c_str(), "wbxe");
+}
+
+std::FILE* OpenOld(const ioPath& file) {
+  const int handle = open(file.native().c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+  std::FILE* const stream = handle < 0 ? nullptr : fdopen(handle, "r+b");
+  if (handle >= 0 && stream == nullptr) {
+    close(handle);
+  }
+  return stream;
+}
+
+/// The file is as long as it was where this fails.
+std::error_code TakeRoom(std::FILE* stream, std::uint64_t bytes) {
+  const int handle = fileno(stream);
+  struct stat facts = {};
+  if (fstat(handle, &facts) != 0) {
+    return LastError();
+  }
+  if (bytes == 0) {
+    return {};
+  }
+  // What the file holds stays as it is. Returns the error instead of setting `errno`.
+  const int error = posix_fallocate(handle, 0, static_cast<off_t>(bytes));
+  if (error != 0) {
+    static_cast<void>(ftruncate(handle, facts.st_size));
+  }
+  return {error, std::generic_category()};
 }
 
 bool Sync(std::FILE* stream) {
@@ -84,7 +141,7 @@ NewFile::~NewFile() {
   if (stream_ != nullptr) {
     std::fclose(stream_);
   }
-  if (!file_.empty()) {
+  if (!file_.empty() && !stays_) {
     file_.remove();
   }
 }
@@ -99,6 +156,24 @@ std::error_code NewFile::Create(const ioPath& file) {
     return LastError();
   }
   file_ = file;
+  return {};
+}
+
+std::error_code NewFile::Reuse(const ioPath& file, std::uint64_t bytes) {
+  if (!file.name_fault().empty()) {
+    return std::make_error_code(std::errc::invalid_argument);
+  }
+  errno = 0;
+  stream_ = OpenOld(file);
+  if (stream_ == nullptr) {
+    return LastError();
+  }
+  if (const std::error_code error = TakeRoom(stream_, bytes)) {
+    return error;
+  }
+  file_ = file;
+  stays_ = true;
+  skipped_ = true;
   return {};
 }
 

@@ -252,8 +252,7 @@ void AddUndoCommand(CLI::App& program, Action& chosen) {
       ->add_flag(
           "--no-redo", arguments->noRedo,
           "Keep nothing for redo, neither of this nor of what was taken back before: undo needs no new "
-          "room beside the catalogue then. Photos on another disk still need room there for one photo at a "
-          "time.")
+          "room then.")
       ->disable_flag_override()
       ->excludes(list)
       ->excludes(skip);

@@ -198,6 +198,35 @@ void IdentifyAgain(std::vector<FileMove>& moves, bool standing) {
   }
 }
 
+std::vector<RenameMove> NetRenames(const std::vector<FileMove>& moves, bool backwards) {
+  // By where the moves so far have put them.
+  std::unordered_map<std::basic_string_view<std::filesystem::path::value_type>, const ioPath*> origins;
+  origins.reserve(moves.size());
+  std::vector<RenameMove> renames;
+  std::unordered_map<const ioPath*, std::size_t> places;
+  for (const FileMove& move : moves) {
+    const auto before = origins.find(move.from.native().native());
+    const ioPath* origin = &move.from;
+    if (before != origins.end()) {
+      origin = before->second;
+      origins.erase(before);
+    }
+    origins[move.to.native().native()] = origin;
+    const auto [place, isNew] = places.try_emplace(origin, renames.size());
+    if (isNew) {
+      renames.push_back({*origin, move.to});
+    } else {
+      renames[place->second].to = move.to;
+    }
+  }
+  if (backwards) {
+    for (RenameMove& rename : renames) {
+      std::swap(rename.from, rename.to);
+    }
+  }
+  return renames;
+}
+
 QByteArray PackMoves(const std::vector<FileMove>& moves) {
   QByteArray bytes;
   QDataStream stream(&bytes, QIODevice::WriteOnly);

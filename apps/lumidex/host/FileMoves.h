@@ -33,6 +33,9 @@ std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps);
 /// were.
 void IdentifyAgain(std::vector<FileMove>& moves, bool standing);
 
+/// What becomes of each file when all moves are done, or taken back (`backwards`).
+std::vector<RenameMove> NetRenames(const std::vector<FileMove>& moves, bool backwards);
+
 QByteArray PackMoves(const std::vector<FileMove>& moves);
 std::vector<FileMove> UnpackMoves(const QByteArray& bytes);
 

@@ -11,6 +11,7 @@
 #include <QCryptographicHash>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -23,9 +24,18 @@ namespace {
 constexpr int kTokenLength = 13;
 constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
+bool IsForWantOfRoom(const std::error_code& error) {
+#ifdef EDQUOT
+  if (error.category() == std::generic_category() && error.value() == EDQUOT) {
+    return true;
+  }
+#endif
+  return error == std::errc::no_space_on_device;
+}
+
 [[noreturn]] void Fail(const ioPath& file, const std::string& what, const std::error_code& error) {
   const std::string text = what + ' ' + file.utf8string() + ": " + ErrorText(error);
-  if (error == std::errc::no_space_on_device) {
+  if (IsForWantOfRoom(error)) {
     BOOST_THROW_EXCEPTION(NoRoomError() << TagFilename(file.utf8string()) << TagDescription(text));
   }
   ThrowHostError(file.utf8string(), text);
@@ -76,18 +86,36 @@ bool ShareBlocks(const ioPath& from, const ioPath& to) {
   return twin.ShareBlocksOf(from) && !Finish(twin, state.modifiedNs);
 }
 
-void Copy(const ioPath& from, const ioPath& to) {
-  const auto require = [&to](const std::error_code& error) {
-    if (error) {
-      Fail(to, "Cannot write", error);
-    }
-  };
+void RequireWritten(const std::error_code& error, const ioPath& to) {
+  if (error) {
+    Fail(to, "Cannot write", error);
+  }
+}
+
+/// `copy` is `to`, open and to be written from its beginning.
+void Fill(NewFile& copy, const ioPath& from, const ioPath& to) {
   const FileState state = QueryFile(from);
-  NewFile copy;
-  require(copy.Create(to));
   copy.TakeRightsOf(from);
-  ReadAll(from, [&](const char* bytes, std::size_t count) { require(copy.Write(bytes, count)); });
-  require(Finish(copy, state.modifiedNs));
+  ReadAll(from, [&](const char* bytes, std::size_t count) { RequireWritten(copy.Write(bytes, count), to); });
+  RequireWritten(Finish(copy, state.modifiedNs), to);
+}
+
+void Copy(const ioPath& from, const ioPath& to) {
+  NewFile copy;
+  RequireWritten(copy.Create(to), to);
+  Fill(copy, from, to);
+}
+
+/// False where the disk cannot keep what it has promised: it writes every change to another place.
+bool FillReused(const ioPath& from, const ioPath& file) {
+  NewFile copy;
+  RequireWritten(copy.Reuse(file, QueryFile(from).size), file);
+  try {
+    Fill(copy, from, file);
+    return true;
+  } catch (const NoRoomError&) {
+    return false;
+  }
 }
 
 void Require(const std::error_code& error, const ioPath& file) {
@@ -141,6 +169,17 @@ bool KeptFiles::Keep(const ioPath& file, const std::string& name) const {
 
 void KeptFiles::PutBeside(const std::string& name, const ioPath& side) const {
   Reproduce(PathOf(name), side);
+}
+
+void KeptFiles::WriteOver(const std::string& name, const ioPath& file) const {
+  RequireFile(PathOf(name));
+  if (!FillReused(PathOf(name), file)) {
+    // Emptied, the file gives its room back before it takes other room.
+    std::ofstream(file.for_system(), std::ios::binary | std::ios::trunc);
+    if (!FillReused(PathOf(name), file)) {
+      Fail(file, "Cannot write", std::make_error_code(std::errc::no_space_on_device));
+    }
+  }
 }
 
 void KeptFiles::Remove(const std::string& name) const {

@@ -34,6 +34,10 @@ class KeptFiles {
   bool Keep(const ioPath& file, const std::string& name) const;
   /// Makes the new file `side` of what is kept, likewise.
   void PutBeside(const std::string& name, const ioPath& side) const;
+  /// Writes what is kept over the content of `file`, which has no other name, in the room that it has: safe
+  /// on the disk when this returns. Throws `NoRoomError` where that is too small, as a rule before anything
+  /// is written; whether something was, only the content tells.
+  void WriteOver(const std::string& name, const ioPath& file) const;
   /// Whether it was there does not matter.
   void Remove(const std::string& name) const;
   /// Removes the versions that have none of these names. Whatever else lies there is somebody else's.

@@ -4,6 +4,7 @@
 #include "SymbolicLinks.h"
 
 #include <host/HostError.h>
+#include <host/RenameLinks.h>
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/NewFile.h>
@@ -61,6 +62,30 @@ std::vector<LinkChange> LinkSteps::Links(qlonglong step) const {
                      query.value(2).toByteArray().toStdString(), query.value(3).toByteArray().toStdString()});
   }
   return links;
+}
+
+std::vector<RenameLink> LinkSteps::FindAgain(qlonglong step, const std::vector<RenameMove>& renames) const {
+  std::set<ioPath> beside;
+  for (const LinkChange& link : Links(step)) {
+    beside.insert(link.link.parent_path());
+  }
+  std::set<ioPath> folders;
+  for (const RenameMove& rename : renames) {
+    folders.insert(rename.from.parent_path());
+  }
+  return PlanLinks(FindLinks({beside.begin(), beside.end()}, {folders.begin(), folders.end()}), renames);
+}
+
+void LinkSteps::Renew(qlonglong step, const std::vector<RenameLink>& links, bool redo) const {
+  QSqlQuery remove = database_.Prepare("DELETE FROM link_changes WHERE step = ? AND path = ?");
+  std::vector<RenameLink> renewed;
+  for (const RenameLink& link : links) {
+    remove.addBindValue(step);
+    remove.addBindValue(PathBytes(link.link));
+    database_.Run(remove);
+    renewed.push_back(redo ? link : RenameLink{link.link, link.after, link.before});
+  }
+  Insert(step, renewed);
 }
 
 void LinkSteps::Follow(qlonglong step, const LinkChange& change, const ioPath& link) const {

@@ -33,6 +33,12 @@ class LinkSteps {
   /// Notes what a step is about to do, within the caller's transaction.
   void Insert(qlonglong step, const std::vector<RenameLink>& links) const;
   std::vector<LinkChange> Links(qlonglong step) const;
+  /// Which links lead to files of the step right before its `renames` are taken back or done again: beside
+  /// the files, below their folders, and where the step knew some. Blocks on the disk.
+  std::vector<RenameLink> FindAgain(qlonglong step, const std::vector<RenameMove>& renames) const;
+  /// Notes these (`redo`: for doing it again), within the caller's transaction. Those that the step knew and
+  /// that lead elsewhere by now stay as they are.
+  void Renew(qlonglong step, const std::vector<RenameLink>& links, bool redo) const;
   /// Others moved a link of the step, within the caller's transaction.
   void Follow(qlonglong step, const LinkChange& change, const ioPath& link) const;
 

@@ -10,6 +10,7 @@
 #include "JournalFolder.h"
 #include "KeptFiles.h"
 #include "LinkSteps.h"
+#include "SameRoom.h"
 #include "ShotNames.h"
 #include "StepState.h"
 #include "TagSteps.h"
@@ -93,6 +94,12 @@ std::optional<PhotoRecord> Read(const ioPath& photo) {
   PhotoRecord record;
   ScanFinding ignored;
   return ReadPhoto(photo, record, ignored) ? std::make_optional(record) : std::nullopt;
+}
+
+/// Of a photo that has the name of its staging file and could not get its own back.
+std::string WhyAway(const ChangeRow& change, const std::string& cause) {
+  return change.path.utf8string() + " is not in its place for now, its versions are kept (" + cause +
+         "). Make room on its disk and run \"lumidex undo\" again";
 }
 
 /// Behind the sentence that tells why something could not be written down.
@@ -183,6 +190,8 @@ class UndoJournal::Impl {
   State StateInPart(qlonglong step, bool anyHope) const;
   void FinishReversal(ChangeRow& change, bool redo);
   void Exchange(ChangeRow& change, bool redo);
+  void ExchangeInItsRoom(const ChangeRow& change, bool redo);
+  bool BringBackAll(const std::vector<ChangeRow>& group, bool redo, UndoResult& result);
 
   void Prepare(std::uint64_t more = 0);
   qlonglong InsertStep(StepKind kind, const QString& name, std::size_t files, const QByteArray& moves);
@@ -192,6 +201,7 @@ class UndoJournal::Impl {
   void CloseStep(qlonglong step, std::size_t files, State state = State::Done) const;
   void DropChange(const ChangeRow& change) const;
   void DropStep(qlonglong step) const;
+  bool HasPhotoAway(qlonglong step) const;
   void DropUndone() const;
   void SettleStep(const StepRow& step);
 
@@ -340,6 +350,12 @@ void UndoJournal::Impl::DropUndone() const {
   }
 }
 
+/// Then what is kept of the step is all that there is of the photo.
+bool UndoJournal::Impl::HasPhotoAway(qlonglong step) const {
+  const std::vector<ChangeRow> changes = ReadChanges(database_, step);
+  return std::any_of(changes.begin(), changes.end(), IsSetAside);
+}
+
 /// Without `announced` all that is beyond the limits goes; with it, of what could be taken back only that.
 std::size_t UndoJournal::Impl::Prune(const UndoLimits& limits, const std::vector<UndoStep>* announced) {
   std::size_t dropped = 0;
@@ -347,7 +363,7 @@ std::size_t UndoJournal::Impl::Prune(const UndoLimits& limits, const std::vector
     const auto isIt = [&step](const UndoStep& other) { return other.number == step.number; };
     const bool mayGo = announced == nullptr || step.givenUp || IsTooOld(step, limits) ||
                        std::any_of(announced->begin(), announced->end(), isIt);
-    if (mayGo && step.number != step_ && !step.underWay) {
+    if (mayGo && step.number != step_ && !step.underWay && !HasPhotoAway(step.number)) {
       DropStep(step.number);
       dropped += step.givenUp ? 0 : 1;
     }
@@ -520,9 +536,12 @@ UndoResult UndoJournal::Impl::ReverseMoves(StepRow& step, bool redo, const std::
   result.name = step.name;
   step.state = redo ? State::Redoing : State::Undoing;
   IdentifyAgain(step.moves, !redo);
+  // Others may have made links since, or pointed those to what a photo was called meanwhile.
+  const std::vector<RenameLink> links = links_.FindAgain(step.number, NetRenames(step.moves, !redo));
   {
     WriteTransaction transaction(database_);
     StoreMoves(step);
+    links_.Renew(step.number, links, redo);
     SetState("steps", step.number, step.state);
     transaction.Commit();
   }
@@ -760,8 +779,10 @@ bool UndoJournal::Impl::SettleChange(ChangeRow& change) {
     try {
       now = DigestOf(change.path);
     } catch (const HostError& failure) {
-      notes.push_back(std::string(failure.what()) + ". Its original is kept as " +
-                      kept_.PathOf(change.KeptBefore()).utf8string() + ".");
+      notes.push_back(std::string(failure.what()) + '.' +
+                      (IsKept(change, false) ? " Its original is kept as " +
+                                                   kept_.PathOf(change.KeptBefore()).utf8string() + '.'
+                                             : std::string()));
       SetState("changes", change.number, State::Done);
       return true;
     }
@@ -801,19 +822,34 @@ void UndoJournal::Impl::Exchange(ChangeRow& change, bool redo) {
       throw;
     }
   }
-  DataModel item;
-  item.SetPath(change.path);
-  UndoFileHolder holder(nullptr, locker_, item, change.side, false);
   try {
     kept_.PutBeside(incoming, change.side);
   } catch (const NoRoomError&) {
-    ThrowHostError(
-        change.path.utf8string(),
-        change.path.utf8string() + " is left as it is: its disk has no room for its other version (" +
-            std::to_string(kept_.PathOf(incoming).file_size()) + " bytes). Make room there and try again");
+    ExchangeInItsRoom(change, redo);
+    return;
+  }
+  DataModel item;
+  item.SetPath(change.path);
+  UndoFileHolder holder(nullptr, locker_, item, change.side, false);
+  if (DigestOf(change.side) != (redo ? change.digestAfter : change.digestBefore)) {
+    ThrowHostError(change.path.utf8string(),
+                   change.path.utf8string() + " is left as it is: others have changed " +
+                       kept_.PathOf(incoming).utf8string() + ", where its other version was kept");
   }
   holder.Process();
   SyncFolderOf(change.path);
+}
+
+void UndoJournal::Impl::ExchangeInItsRoom(const ChangeRow& change, bool redo) {
+  try {
+    ReplaceInItsRoom(locker_, kept_, change, redo);
+  } catch (const NoRoomError&) {
+    const ioPath incoming = kept_.PathOf(redo ? change.KeptAfter() : change.KeptBefore());
+    ThrowHostError(change.path.utf8string(),
+                   change.path.utf8string() +
+                       " is left as it is: its disk has no room for its other version (" +
+                       std::to_string(incoming.file_size()) + " bytes). Make room there and try again");
+  }
 }
 
 void UndoJournal::Impl::FinishReversal(ChangeRow& change, bool redo) {
@@ -896,7 +932,10 @@ void UndoJournal::Impl::PutBack(ChangeRow& change, bool redo) {
   }
   try {
     Exchange(change, redo);
-  } catch (const Exception&) {
+  } catch (const Exception& failure) {
+    if (IsSetAside(change)) {
+      ThrowHostError(change.path.utf8string(), WhyAway(change, failure.what()));
+    }
     const QByteArray then = DigestOf(change.path);
     if (then == wanted) {
       return;
@@ -910,6 +949,22 @@ void UndoJournal::Impl::PutBack(ChangeRow& change, bool redo) {
     }
     throw;
   }
+}
+
+/// Photos that are not under their names go back there first. False when one cannot; then there is a finding.
+bool UndoJournal::Impl::BringBackAll(const std::vector<ChangeRow>& group, bool redo, UndoResult& result) {
+  bool areAllBack = true;
+  for (const ChangeRow& change : group) {
+    if (IsSetAside(change)) {
+      try {
+        BringBack(locker_, kept_, change, redo);
+      } catch (const Exception& failure) {
+        result.findings.push_back({change.path, WhyAway(change, failure.what())});
+        areAllBack = false;
+      }
+    }
+  }
+  return areAllBack;
 }
 
 /// Of a step of which something could not be taken back or done again.
@@ -970,6 +1025,11 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
       anyLeft = true;
       anyHope = true;
       break;
+    }
+    if (isPending && !BringBackAll(group, redo, result)) {
+      anyLeft = true;
+      anyHope = true;
+      continue;
     }
     const auto obstacle = isPending && group.size() > 1 ? FindObstacle(group, redo) : std::nullopt;
     if (obstacle) {
@@ -1236,7 +1296,13 @@ std::optional<SkippedStep> UndoJournal::Impl::SkipLast() {
   SkippedStep step;
   static_cast<UndoStep&>(step) = steps.front();
   step.blocked = StepsBlockedBy(database_, step.number);
-  for (const ChangeRow& change : ReadChanges(database_, step.number)) {
+  const std::vector<ChangeRow> changes = ReadChanges(database_, step.number);
+  for (const ChangeRow& change : changes) {
+    if (IsSetAside(change)) {
+      ThrowHostError(change.path.utf8string(), WhyAway(change, "it was not written whole"));
+    }
+  }
+  for (const ChangeRow& change : changes) {
     // Of an exchange that was broken off out of reach. What it was made from is kept.
     if (!change.adopted && !change.side.empty()) {
       change.side.remove();

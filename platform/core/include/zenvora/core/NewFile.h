@@ -29,6 +29,10 @@ class ZENVORA_CORE_EXPORT NewFile {
   /// Makes the file, once for each object; its folder must exist. `file_exists` when there is something of
   /// that name, were it a link that leads nowhere: that stays as it is.
   std::error_code Create(const ioPath& file);
+  /// Instead: opens a file that is there (no link) for being written over from its beginning; it will end
+  /// where writing ends. The room that it lacks for `bytes` is taken from the disk at once: on an error, such
+  /// as that there is none, its content is what it was. Released or not, it stays.
+  std::error_code Reuse(const ioPath& file, std::uint64_t bytes);
   /// Gives it the permissions of another file and, as far as this user may and the file system can, its
   /// owner, its group and the further attributes that people and programs gave it. On Windows its hidden
   /// attribute; who may use it is up to the folder there.
@@ -55,8 +59,9 @@ class ZENVORA_CORE_EXPORT NewFile {
 
   ioPath file_;
   std::FILE* stream_ = nullptr;
-  /// The end was skipped to, which by itself makes no file longer.
+  /// The end was skipped to, which by itself makes no file longer, or may have been beyond what is written.
   bool skipped_ = false;
+  bool stays_ = false;
 };
 
 /// Waits until the name of a file is on the disk, which the file itself being there does not say. Not every
