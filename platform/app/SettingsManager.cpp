@@ -88,6 +88,9 @@ class IniSettings : public ISettingsManager {
     file.sync();
     // They name folders and say what is done with photos.
     MakePrivate(file_);
+    if (file_ == UserSettingsFile()) {
+      MakePrivate(file_.parent_path());
+    }
     return file.status() == QSettings::NoError ? "" : "writing failed";
   }
 

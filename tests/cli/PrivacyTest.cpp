@@ -35,7 +35,10 @@ TEST_F(Privacy, IsKeptFromTheFirstRunOn) {
   const ioPath kept = tree.Path("data/lumidex/catalogue.sqlite.undo");
   EXPECT_EQ(ModeOf(tree.Path("data/lumidex")), 0700U);
   EXPECT_EQ(ModeOf(kept), 0700U);
+  EXPECT_EQ(ModeOf(kept / "lock"), 0600U);
+  EXPECT_EQ(ModeOf(kept / "reserve"), 0600U);
   EXPECT_EQ(ModeOf(DefaultCatalogue()), 0600U);
+  EXPECT_EQ(ModeOf(tree.Path("config/lumidex")), 0700U);
   EXPECT_EQ(ModeOf(tree.Path("config/lumidex/lumidex.ini")), 0600U);
   EXPECT_EQ(ModeOf(tree.Path("data/lumidex/statistics.jsonl")), 0600U);
   // It may be a second name of the photo, whose rights are its own.
@@ -49,14 +52,21 @@ TEST_F(Privacy, IsGivenToWhatWasMadeBefore) {
   const ioPath kept = tree.Path("data/lumidex/catalogue.sqlite.undo");
   for (const auto& [place, mode] : {std::pair<ioPath, mode_t>{tree.Path("data/lumidex"), 0755},
                                     {kept, 0755},
+                                    {kept / "lock", 0644},
                                     {DefaultCatalogue(), 0644}}) {
     ASSERT_EQ(chmod(place.native().c_str(), mode), 0);
   }
   tree.Write("config/lumidex/lumidex.ini", "[Undo]\nDays=50\n");
   ASSERT_EQ(chmod(tree.Path("config/lumidex/lumidex.ini").native().c_str(), 0644), 0);
+  ASSERT_EQ(chmod(tree.Path("config/lumidex").native().c_str(), 0777), 0);
   ASSERT_EQ(Run({"rotate", "left", "photos"}).exitCode, 0);
+  EXPECT_EQ(ModeOf(tree.Path("config/lumidex")), 0700U);
+  ASSERT_EQ(chmod(tree.Path("config/lumidex").native().c_str(), 0777), 0);
+  ASSERT_EQ(Run({"undo", "--keep-days", "60"}).exitCode, 0);
+  EXPECT_EQ(ModeOf(tree.Path("config/lumidex")), 0700U);
   EXPECT_EQ(ModeOf(tree.Path("data/lumidex")), 0700U);
   EXPECT_EQ(ModeOf(kept), 0700U);
+  EXPECT_EQ(ModeOf(kept / "lock"), 0600U);
   EXPECT_EQ(ModeOf(DefaultCatalogue()), 0600U);
   EXPECT_EQ(ModeOf(tree.Path("config/lumidex/lumidex.ini")), 0600U);
 }

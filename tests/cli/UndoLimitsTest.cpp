@@ -64,17 +64,21 @@ TEST_F(UndoLimits, ForgetOlderStepsOnlyWhenTheyMay) {
   const std::string before = ReadFile(Photos() / "b.jpg");
   const Ran refused = Run({"shift-date", "+1h", "photos/b.jpg"});
   EXPECT_EQ(refused.exitCode, 4);
-  EXPECT_THAT(
-      refused.err,
-      HasSubstr("Nothing was changed. --forget-older allows it. \"lumidex undo --keep-size 79K\" makes "
-                "room for all of them. To keep 39 KiB of originals within the limit of 60 KiB, undo "
-                "would have to forget 1 older step"));
-  EXPECT_THAT(refused.err, HasSubstr("  rotate right\n"));
+  EXPECT_THAT(refused.err,
+              HasSubstr("Nothing was changed. To keep 39 KiB of originals within the limit of 60 "
+                        "KiB, undo would have to forget 1 older step:\n  "));
+  EXPECT_THAT(refused.err,
+              HasSubstr("  rotate right\n--forget-older allows it. \"lumidex undo --keep-size 79K\" "
+                        "makes room for all of them.\n"));
+  const QJsonObject error = Run({"shift-date", "--json", "+1h", "photos/b.jpg"}).Json();
+  EXPECT_THAT(error["message"].toString().toStdString(),
+              HasSubstr("rotate right. --forget-older allows it."));
   EXPECT_EQ(ReadFile(Photos() / "b.jpg"), before);
   EXPECT_EQ(Steps().size(), 1);
 
   const Ran dry = Run({"shift-date", "--dry-run", "+1h", "photos/b.jpg"});
-  EXPECT_EQ(dry.exitCode, 0);
+  EXPECT_EQ(dry.exitCode, 4);
+  EXPECT_EQ(Run({"shift-date", "--dry-run", "--forget-older", "+1h", "photos/b.jpg"}).exitCode, 0);
   EXPECT_THAT(dry.out, HasSubstr("undo would have to forget 1 older step"));
   const QJsonObject document = Run({"shift-date", "--dry-run", "--json", "+1h", "photos/b.jpg"}).Json();
   const QJsonObject undo = document["undo"].toObject();
@@ -97,7 +101,7 @@ TEST_F(UndoLimits, AreTakenForWhatTheyAreByADryRun) {
   PhotoOf("a.jpg", kBytes);
   Limit("1K");
   const Ran dry = Run({"rotate", "--dry-run", "left", "photos"});
-  EXPECT_EQ(dry.exitCode, 0);
+  EXPECT_EQ(dry.exitCode, 4);
   EXPECT_THAT(dry.out, HasSubstr("It would be refused. To be taken back it needs 39 KiB of originals kept"));
   EXPECT_FALSE(Run({"rotate", "--dry-run", "--json", "left", "photos"})
                    .Json()["undo"]

@@ -271,6 +271,7 @@ void MakeOlder(const ioPath& file, int version) {
                                          "ALTER TABLE photos DROP COLUMN camera_id",
                                          "ALTER TABLE steps DROP COLUMN kind",
                                          "ALTER TABLE steps DROP COLUMN day",
+                                         "ALTER TABLE changes DROP COLUMN kept_ending",
                                          "ALTER TABLE changes DROP COLUMN goes_with"};
   if (version == 5) {
     // As much as its programs read of a photo.
@@ -521,6 +522,44 @@ TEST_F(CatalogueFile, KeepsWholeBatchesWhenItsWriterIsKilled) {
     EXPECT_EQ(RunSql(file_, {"PRAGMA integrity_check"}).toString(), QStringLiteral("ok"));
     least = stored;
   }
+}
+
+TEST_F(CatalogueFile, TakesAwayWhatKilledRunsLeftOfDrafts) {
+  for (const char* name : {"catalogue.sqlite.new-0123abcd-ef01", "catalogue.sqlite.new-0123abcd-ef01-journal",
+                           "catalogue.sqlite.new-0123abcd-ef02-wal"}) {
+    tree_.Write(name, "half a catalogue");
+  }
+  // Somebody else's, all of them.
+  const std::set<std::string> others = {"catalogue.sqlite.new-name", "catalogue.sqlite.new-0123abcd-ef01.txt",
+                                        "other.sqlite.new-0123abcd-ef01",
+                                        "catalogue.sqlite.new-0123abcd-ef0X"};
+  for (const std::string& name : others) {
+    tree_.Write(name, "");
+  }
+  tree_.MakeFolder("catalogue.sqlite.new-0123abcd-ef03");
+  MakeFilled();
+  std::set<std::string> names = others;
+  names.insert({"catalogue.sqlite", "catalogue.sqlite.new-0123abcd-ef03"});
+  EXPECT_EQ(Names(), names);
+}
+
+TEST_F(CatalogueFile, IsMadeByManyAtOnce) {
+  std::vector<std::thread> makers;
+  std::atomic<int> failed{0};
+  for (int i = 0; i < 6; ++i) {
+    makers.emplace_back([this, &failed] {
+      try {
+        Catalogue(file_, Mode::ReadWrite).Photos();
+      } catch (const HostError&) {
+        ++failed;
+      }
+    });
+  }
+  for (std::thread& maker : makers) {
+    maker.join();
+  }
+  EXPECT_EQ(failed, 0);
+  EXPECT_EQ(Names(), std::set<std::string>{"catalogue.sqlite"});
 }
 
 TEST_F(CatalogueFile, IsInTheUsersDataFolderByDefault) {

@@ -42,6 +42,7 @@ TEST_F(LinkJournal, LinksMadeSinceGoBackWithTheirPhotos) {
   const ioPath far = Link("../../photos/a.jpg", "best/far.jpg");
   const UndoResult undone = Undo();
   EXPECT_THAT(undone.findings, IsEmpty());
+  EXPECT_EQ(undone.files, 2U);
   EXPECT_EQ(ReadFile(a_), "photo a");
   EXPECT_EQ(ReadFile(near), "photo a");
   EXPECT_EQ(ReadFile(far), "photo b");

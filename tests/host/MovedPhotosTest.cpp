@@ -655,6 +655,31 @@ TEST_F(MovedPhotos, BringTheirSidecarsToTheUndoOfARename) {
   EXPECT_TRUE(At("2021/trip/a.xmp").exists());
 }
 
+TEST_F(MovedPhotos, KeepTheirOriginalsWhenOthersGiveThemAnotherExtension) {
+  const ioPath photo = Make("a.jpg", 1);
+  Run();
+  const std::string before = Zenvora::Test::ReadFile(photo);
+  {
+    UndoJournal journal(catalogue_.File(), *locker_);
+    const auto write = [](const ioPath& file, const ioPath& side) {
+      fs::copy_file(file.native(), side.native());
+      Append(side, "edited");
+    };
+    ASSERT_EQ(EditPhotos(journal, *locker_, QStringLiteral("edit"), {photo}, write, never_, nullptr).files,
+              1U);
+  }
+  Move("a.jpg", "b.jpeg");
+  Run();
+  Move("b.jpeg", "c.JPG");
+  Run();
+  const UndoResult undone = UndoJournal(catalogue_.File(), *locker_).UndoLast(never_, nullptr);
+  EXPECT_EQ(undone.files, 1U);
+  EXPECT_THAT(undone.findings, IsEmpty()) << undone.findings[0].cause;
+  EXPECT_EQ(Zenvora::Test::ReadFile(At("c.JPG")), before);
+  EXPECT_EQ(UndoJournal(catalogue_.File(), *locker_).RedoLast(never_, nullptr).files, 1U);
+  EXPECT_EQ(Zenvora::Test::ReadFile(At("c.JPG")), before + "edited");
+}
+
 TEST_F(MovedPhotos, WaitForWhoeverWorksWithTheJournal) {
   Make("a.jpg", 1);
   Run();

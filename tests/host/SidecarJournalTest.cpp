@@ -137,9 +137,12 @@ TEST_F(SidecarJournal, LeavesBothWhenOthersChangedOneSince) {
   Edit();
   Write(sidecar_, "sidecar of others");
   const UndoResult result = Undo();
-  ASSERT_THAT(result.findings, SizeIs(1));
-  EXPECT_EQ(result.findings[0].file, sidecar_);
-  EXPECT_THAT(result.findings[0].cause, HasSubstr("has been changed since"));
+  ASSERT_THAT(result.findings, SizeIs(2));
+  EXPECT_EQ(result.findings[0].file, photo_);
+  EXPECT_EQ(result.findings[0].cause,
+            photo_.utf8string() + " is left as it is, too: it goes with " + sidecar_.utf8string());
+  EXPECT_EQ(result.findings[1].file, sidecar_);
+  EXPECT_THAT(result.findings[1].cause, HasSubstr("has been changed since"));
   EXPECT_TRUE(result.stands);
   EXPECT_EQ(ReadFile(photo_), "photo after");
   EXPECT_EQ(ReadFile(sidecar_), "sidecar of others");

@@ -221,6 +221,22 @@ TEST_F(TrashPlanTest, LeavesLinksAndWhatAKeptLinkLeadsTo) {
   EXPECT_THAT(Staying(plan), ElementsAre("real.jpg", "link.jpg"));
 }
 
+TEST_F(TrashPlanTest, LeavesWhatALinkLeadsTo) {
+  Make("keep.jpg");
+  Make("chosen.jpg");
+  Make("other.jpg");
+  tree_.Write("photos/other.xmp", "");
+  const ioPath best = tree_.MakeFolder("photos/best");
+  LUMIDEX_LINK_OR_SKIP("../chosen.jpg", best / "first.jpg");
+  LUMIDEX_LINK_OR_SKIP("../other.xmp", best / "settings.xmp");
+  const TrashPlan plan = PlanTrash({Group({"keep.jpg", "chosen.jpg", "other.jpg"})});
+  EXPECT_THAT(Going(plan), ElementsAre("other.jpg"));
+  EXPECT_THAT(plan.photos[0].appendix, IsEmpty());
+  ASSERT_EQ(Staying(plan), std::vector<std::string>{"chosen.jpg"});
+  EXPECT_THAT(plan.stays[0].cause,
+              HasSubstr("the link " + (best / "first.jpg").utf8string() + " leads to it"));
+}
+
 TEST_F(TrashPlanTest, LeavesWhatIsInATrashAndWhatItWouldBeTheLastOf) {
 #ifdef _WIN32
   const std::string trash = "$Recycle.Bin/S-1-5/";

@@ -641,7 +641,7 @@ TEST_F(UndoJournalTest, FinishesWhatAFormerProgramLeftInItsCatalogue) {
        {"photos DROP COLUMN tail", "photos DROP COLUMN latitude", "photos DROP COLUMN longitude",
         "photos DROP COLUMN reading", "photos DROP COLUMN edges", "photos DROP COLUMN content",
         "photos DROP COLUMN camera_id", "steps DROP COLUMN kind", "steps DROP COLUMN day",
-        "changes DROP COLUMN goes_with"}) {
+        "changes DROP COLUMN kept_ending", "changes DROP COLUMN goes_with"}) {
     Sql(std::string("ALTER TABLE ") + column);
   }
   Sql("PRAGMA user_version = 2");

@@ -127,6 +127,8 @@ const char* KindName(Kind kind) {
       return "sidecar";
     case Kind::Kept:
       return "kept";
+    case Kind::Room:
+      return "room";
     case Kind::Done:
       break;
   }
@@ -156,7 +158,7 @@ std::string Document(const CheckReport& report, const std::set<FileAct>& acts,
     json.Path("folder", volume.folder);
     json.Number("files", static_cast<long long>(volume.files));
     json.Number("bytesNeeded", static_cast<long long>(volume.bytesNeeded));
-    if (volume.bytesFree > 0) {
+    if (volume.bytesFree >= 0) {
       json.Number("bytesFree", static_cast<long long>(volume.bytesFree));
     } else {
       json.Null("bytesFree");
@@ -196,8 +198,8 @@ std::string VolumesText(const CheckReport& report) {
                    {Say(Words::tr("Free", "room on a disk")), TextTable::Align::Right}});
   for (const Host::CheckedVolume& volume : report.volumes) {
     table.AddRow({volume.folder.utf8string(), GroupDigits(volume.files), SizeText(volume.bytesNeeded),
-                  volume.bytesFree > 0 ? SizeText(static_cast<std::uint64_t>(volume.bytesFree))
-                                       : Say(Words::tr("unknown", "free room"))});
+                  volume.bytesFree >= 0 ? SizeText(static_cast<std::uint64_t>(volume.bytesFree))
+                                        : Say(Words::tr("unknown", "free room"))});
   }
   return table.Text() + '\n';
 }
@@ -276,7 +278,7 @@ ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
   if (report.files == 0) {
     session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }
-  const bool hasRoom = room.Fits() && room.forgotten.empty();
+  const bool hasRoom = room.Fits() && room.forgotten.empty() && room.tight.empty();
   return report.findings.empty() && hasRoom && report.files > 0 ? ExitCode::Done : ExitCode::Findings;
 }
 

@@ -68,8 +68,9 @@ void Console::Warning(const std::string& text) {
   Write("warning: " + text, {});
 }
 
-void Console::Error(const std::string& text, const std::vector<std::string>& more) {
-  Write("error: " + text, more);
+void Console::Error(const std::string& text, const std::vector<std::string>& more,
+                    const std::string& advice) {
+  Write("error: " + text, more, advice);
 }
 
 void Console::Show(const std::string& text) {
@@ -79,10 +80,14 @@ void Console::Show(const std::string& text) {
   Put(text);
 }
 
-void Console::Write(const std::string& text, const std::vector<std::string>& more) {
+void Console::Write(const std::string& text, const std::vector<std::string>& more,
+                    const std::string& advice) {
   std::string lines = "lumidex: " + EscapeForTerminal(text) + '\n';
   for (const std::string& line : more) {
     lines += "  " + EscapeForTerminal(line) + '\n';
+  }
+  if (!advice.empty()) {
+    lines += EscapeForTerminal(advice) + '\n';
   }
   const std::lock_guard<std::mutex> lock(mutex_);
   Draw("");

@@ -16,10 +16,12 @@ class Console {
   Console(const Console&) = delete;
   Console& operator=(const Console&) = delete;
 
-  /// Messages; each text is one line and is escaped. `more`: lines that belong to it, indented below.
+  /// Messages; each text is one line and is escaped. `more`: lines that belong to it, indented below;
+  /// `advice`: what comes behind those, on a line of its own.
   void Note(const std::string& text, const std::vector<std::string>& more = {});
   void Warning(const std::string& text);
-  void Error(const std::string& text, const std::vector<std::string>& more = {});
+  void Error(const std::string& text, const std::vector<std::string>& more = {},
+             const std::string& advice = {});
 
   /// Lines as they are, also when quiet: what a person must see to answer. They are to be escaped.
   void Show(const std::string& text);
@@ -33,7 +35,7 @@ class Console {
   void ClearStatus();
 
  private:
-  void Write(const std::string& text, const std::vector<std::string>& more);
+  void Write(const std::string& text, const std::vector<std::string>& more, const std::string& advice = {});
   void Draw(const std::string& line);
 
   const bool quiet_;

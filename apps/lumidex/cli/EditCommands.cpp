@@ -84,7 +84,7 @@ constexpr char kExitCodes[] =
 Exit codes: 0 done; 1 there are no photos, or the answer was no; 3 some photos
 cannot be edited; 4 none can, the limit of what is kept for undo forbids it, or
 the catalogue cannot be written; 130 interrupted, the photos
-edited so far stay so.)";
+edited so far stay so. A dry run ends with the exit code of the run.)";
 
 struct EditArguments {
   std::string what;
@@ -260,6 +260,13 @@ class EditRun {
   ExitCode Judge() const {
     if (view_.interrupted) {
       return ExitCode::Interrupted;
+    }
+    // As the run, which asks for room before it looks at any file.
+    if (arguments_.dryRun && !tasks_.empty() && WouldBeRefused(view_.room, arguments_.room)) {
+      return ExitCode::Failed;
+    }
+    if (arguments_.dryRun && view_.edited > 0 && !view_.room.tight.empty()) {
+      return ExitCode::Partly;
     }
     if (!view_.findings.empty()) {
       return view_.edited > 0 ? ExitCode::Partly : ExitCode::Failed;

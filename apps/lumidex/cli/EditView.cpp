@@ -52,7 +52,7 @@ std::string OutcomeText(const EditView& view) {
     return Say(Words::tr("%1 photos would be edited. This was a dry run: nothing was changed.", nullptr,
                          amount),
                {photos}) +
-           '\n' + (view.edited > 0 ? RoomText(view.room, view.roomWish) : std::string());
+           '\n' + (view.edited > 0 || !view.room.Fits() ? RoomText(view.room, view.roomWish) : std::string());
   }
   if (view.edited == 0) {
     return Say(Words::tr("Nothing was changed.")) + '\n';

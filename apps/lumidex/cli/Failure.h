@@ -12,17 +12,21 @@ namespace Zenvora::Lumidex::Cli {
 class Failure : public Exception {
  public:
   /// `kind`: a word for scripts (docs/formats/json-output.md); `candidates`: names that may have been meant.
-  Failure(std::string kind, const std::string& text, std::vector<std::string> candidates = {})
-      : kind_(std::move(kind)), candidates_(std::move(candidates)) {
+  /// `advice`: sentences that come behind those.
+  Failure(std::string kind, const std::string& text, std::vector<std::string> candidates = {},
+          std::string advice = {})
+      : kind_(std::move(kind)), candidates_(std::move(candidates)), advice_(std::move(advice)) {
     *this << TagDescription(text);
   }
 
   const std::string& Kind() const { return kind_; }
   const std::vector<std::string>& Candidates() const { return candidates_; }
+  const std::string& Advice() const { return advice_; }
 
  private:
   std::string kind_;
   std::vector<std::string> candidates_;
+  std::string advice_;
 };
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -21,6 +21,7 @@ OpenJournal::OpenJournal(Session& session)
       locker_(FileAccessLocker::Create()),
       journal_(std::make_unique<Host::UndoJournal>(session.CatalogueFile(), *locker_)) {
   // Also those that a former program stored.
+  MakePrivate(App::UserSettingsFile().parent_path());
   MakePrivate(App::UserSettingsFile());
   for (const std::string& note : journal_->RecoveryNotes()) {
     session.console.Note(note);

@@ -60,11 +60,25 @@ void PrepareProcess() {
   WatchInterrupts();
 }
 
+/// In one line, where the candidates are what the advice is about.
+std::string WholeMessage(const std::string& message, const std::vector<std::string>& candidates,
+                         const std::string& advice) {
+  std::string text = message;
+  if (!advice.empty()) {
+    for (const std::string& candidate : candidates) {
+      text += (&candidate == candidates.data() ? " " : "; ") + candidate;
+    }
+    text += ". " + advice;
+  }
+  return text;
+}
+
 std::string ErrorDocument(const std::string& kind, const std::string& message,
-                          const std::vector<std::string>& candidates, ExitCode code) {
+                          const std::vector<std::string>& candidates, const std::string& advice,
+                          ExitCode code) {
   JsonWriter json("lumidex.error", 1);
   json.Text("kind", kind);
-  json.Text("message", message);
+  json.Text("message", WholeMessage(message, candidates, advice));
   json.BeginArray("candidates");
   for (const std::string& candidate : candidates) {
     json.Text("", candidate);
@@ -88,7 +102,7 @@ class Runner {
     } catch (const InterruptedError& error) {
       return Report("interrupted", error.what(), ExitCode::Interrupted);
     } catch (const Failure& error) {
-      return Report(error.Kind(), error.what(), ExitCode::Failed, error.Candidates());
+      return Report(error.Kind(), error.what(), ExitCode::Failed, error.Candidates(), error.Advice());
     } catch (const std::exception& error) {
       if (Interrupted()) {
         return Report("interrupted", "Interrupted.", ExitCode::Interrupted);
@@ -99,15 +113,15 @@ class Runner {
 
  private:
   ExitCode Report(const std::string& kind, const std::string& message, ExitCode code,
-                  const std::vector<std::string>& candidates = {}) {
+                  const std::vector<std::string>& candidates = {}, const std::string& advice = {}) {
     output_.Clear();
     if (json_) {
-      output_.Print(ErrorDocument(kind, message, candidates, code));
+      output_.Print(ErrorDocument(kind, message, candidates, advice, code));
     }
     if (code == ExitCode::Interrupted) {
       console_.Note(message);
     } else {
-      console_.Error(message, candidates);
+      console_.Error(message, candidates, advice);
     }
     return code;
   }

@@ -68,6 +68,19 @@ std::string ForgottenText(const Host::JournalRoom& room, bool beforehand) {
   return text;
 }
 
+std::string TightText(const Host::JournalRoom& room) {
+  std::string text;
+  for (const Host::TightVolume& volume : room.tight) {
+    text +=
+        Say(Words::tr("The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones "
+                      "would be left as they are."),
+            {EscapeForTerminal(volume.folder.utf8string()),
+             SizeText(static_cast<std::uint64_t>(volume.bytesFree)), SizeText(volume.bytesNeeded)}) +
+        '\n';
+  }
+  return text;
+}
+
 std::string RaiseText(const Host::JournalRoom& room) {
   return Say(Words::tr("\"lumidex undo --keep-size %1\" makes room for all of them."),
              {LimitFor(room.total)});
@@ -93,6 +106,10 @@ Host::JournalRoom RoomFor(Session& session, const std::vector<ioPath>& files, co
                      : Host::PlanRoom(session.CatalogueFile(), files, StoredLimits(session.console));
 }
 
+bool WouldBeRefused(const Host::JournalRoom& room, const RoomWish& wish) {
+  return !room.Fits() || (!room.forgotten.empty() && !wish.forgetOlder && !CanAsk());
+}
+
 bool AgreeOnRoom(Session& session, const Host::JournalRoom& room, const RoomWish& wish) {
   if (!room.Fits()) {
     throw Failure("undo-limit", Say(Words::tr("Nothing was changed.")) + ' ' + TooMuchText(room));
@@ -101,10 +118,8 @@ bool AgreeOnRoom(Session& session, const Host::JournalRoom& room, const RoomWish
     return true;
   }
   if (!CanAsk()) {
-    throw Failure("undo-limit",
-                  Say(Words::tr("Nothing was changed.")) + ' ' + Say(Words::tr("--forget-older allows it.")) +
-                      ' ' + RaiseText(room) + ' ' + ForgetsText(room, true),
-                  StepLines(room));
+    throw Failure("undo-limit", Say(Words::tr("Nothing was changed.")) + ' ' + ForgetsText(room, true),
+                  StepLines(room), Say(Words::tr("--forget-older allows it.")) + ' ' + RaiseText(room));
   }
   return Ask(session.console, ForgottenText(room, true) + RaiseText(room) + '\n',
              Say(Words::tr("Forget them and go on? [y/N]")), session.interrupted);
@@ -118,9 +133,9 @@ std::string RoomText(const Host::JournalRoom& room, const RoomWish& wish) {
     return Say(Words::tr("It would be refused.")) + ' ' + TooMuchText(room) + '\n';
   }
   if (room.forgotten.empty()) {
-    return {};
+    return TightText(room);
   }
-  return ForgottenText(room, !wish.forgetOlder) +
+  return TightText(room) + ForgottenText(room, !wish.forgetOlder) +
          (wish.forgetOlder ? std::string() : Say(Words::tr("--forget-older allows it.")) + ' ') +
          RaiseText(room) + '\n';
 }
@@ -132,6 +147,15 @@ void WriteRoom(JsonWriter& json, const Host::JournalRoom& room, const RoomWish& 
   json.Number("bytesLimit", static_cast<long long>(room.limit));
   json.Truth("fits", room.Fits());
   WriteSteps(json, "forgets", room.forgotten);
+  json.BeginArray("tight");
+  for (const Host::TightVolume& volume : room.tight) {
+    json.BeginObject();
+    json.Path("folder", volume.folder);
+    json.Number("bytesNeeded", static_cast<long long>(volume.bytesNeeded));
+    json.Number("bytesFree", static_cast<long long>(volume.bytesFree));
+    json.EndObject();
+  }
+  json.EndArray();
   json.EndObject();
 }
 

@@ -30,7 +30,11 @@ Host::JournalRoom RoomFor(Session& session, const std::vector<ioPath>& files, co
 /// the step alone is beyond the limit.
 bool AgreeOnRoom(Session& session, const Host::JournalRoom& room, const RoomWish& wish);
 
-/// For a dry run: what the step would make undo forget, or why it would be refused; empty when it fits.
+/// For a dry run: whether `AgreeOnRoom` would throw.
+bool WouldBeRefused(const Host::JournalRoom& room, const RoomWish& wish);
+
+/// For a dry run: what the step would make undo forget, or why it would be refused, and where disks lack
+/// room; empty when it fits.
 std::string RoomText(const Host::JournalRoom& room, const RoomWish& wish);
 
 /// The member "undo" of what edits and what checks tell.

@@ -15,8 +15,8 @@ ioPath SideName(const ioPath& photo) {
 
 std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step) {
   QSqlQuery query = database.Prepare(
-      "SELECT number, state, path, side, adopted, digest_before, digest_after, goes_with FROM changes WHERE "
-      "step = ?"
+      "SELECT number, state, path, side, adopted, digest_before, digest_after, goes_with, kept_ending "
+      "FROM changes WHERE step = ?"
       " ORDER BY number");
   query.addBindValue(step);
   database.Run(query);
@@ -31,6 +31,9 @@ std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong 
     change.digestBefore = query.value(5).toByteArray();
     change.digestAfter = query.value(6).toByteArray();
     change.goesWith = query.value(7).toLongLong();
+    if (!query.value(8).isNull()) {
+      change.keptEnding = query.value(8).toString().toStdString();
+    }
     changes.push_back(std::move(change));
   }
   return changes;

@@ -8,6 +8,7 @@
 #include <QByteArray>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,11 @@ struct ChangeRow {
   QByteArray digestAfter;
   qlonglong goesWith = 0;  ///< Of a sidecar: the change of its photo.
 
+  /// Of the names of what is kept, where it is not that of `path` any more.
+  std::optional<std::string> keptEnding;
+
   std::string Kept(const char* version) const {
-    return std::to_string(number) + version + path.extension().utf8string();
+    return std::to_string(number) + version + keptEnding.value_or(path.extension().utf8string());
   }
   std::string KeptBefore() const { return Kept("-before"); }
   std::string KeptAfter() const { return Kept("-after"); }

@@ -256,6 +256,9 @@ std::vector<FileMove> UnpackMoves(const QByteArray& bytes) {
     quint64 size = 0;
     qint64 modified = 0;
     stream >> from >> to >> device >> inode >> size >> modified;
+    if (stream.status() != QDataStream::Ok) {
+      break;
+    }
     moves.push_back({from.toStdString(), to.toStdString(), device, inode, size, modified});
   }
   return moves;

@@ -47,6 +47,18 @@ std::string FolderFault(const ioPath& file) {
   return {};
 }
 
+/// The new version of `file`, a photo or its sidecar, is written before the old one goes.
+FileVerdict JudgeRoom(const ioPath& photo, const ioPath& file) {
+  const std::int64_t free = Util::GetAvailableDiskSpace(file.parent_path());
+  const std::uint64_t needed = QueryFile(file).size;
+  if (free < 0 || needed <= static_cast<std::uint64_t>(free)) {
+    return {};
+  }
+  return Refusal(Kind::Room, CannotEdit(photo) + "its disk has no room for a new version of it (" +
+                                 std::to_string(needed) + " bytes are needed, " + std::to_string(free) +
+                                 " are free); make room there");
+}
+
 constexpr char kProtected[] = "is write-protected; allow writing to it, or use --force";
 
 /// What kind of thing stands against reading the file; `otherwise` where nothing does.
@@ -131,6 +143,10 @@ EditVerdict JudgeEdit(const EditTask& task, const Strandel::PhotoEdit& edit, boo
     if (changes) {
       verdict.sidecars.push_back(sidecar);
     }
+  }
+  take(JudgeRoom(task.photo, task.photo));
+  for (std::size_t i = 0; !verdict.IsRefused() && i < verdict.sidecars.size(); ++i) {
+    take(JudgeRoom(task.photo, verdict.sidecars[i]));
   }
   return verdict;
 }

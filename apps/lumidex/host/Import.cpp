@@ -234,7 +234,7 @@ class ImportRun {
 
   bool HasRoom(std::size_t index) {
     const std::int64_t free = Util::GetAvailableDiskSpace(plan_.folder);
-    if (free > 0 && plan_.copies[index].state.size > static_cast<std::uint64_t>(free)) {
+    if (free >= 0 && plan_.copies[index].state.size > static_cast<std::uint64_t>(free)) {
       Stop("The disk is full: " + plan_.folder.utf8string() + " has " + std::to_string(free) +
            " bytes left.");
       return false;

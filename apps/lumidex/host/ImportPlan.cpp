@@ -323,7 +323,7 @@ class Planner {
     // Room is asked of the very folder: the check looks at the root of its path, and at nothing else when
     // that is full.
     plan_.freeBytes = Util::GetAvailableDiskSpace(place);
-    const bool isFull = plan_.freeBytes > 0 && plan_.bytes > static_cast<std::uint64_t>(plan_.freeBytes);
+    const bool isFull = plan_.freeBytes >= 0 && plan_.bytes > static_cast<std::uint64_t>(plan_.freeBytes);
     if (failed == CheckSaveAvailableMode::FolderPermission) {
       plan_.obstacle = text.toStdString() + ".";
     } else if (isFull) {

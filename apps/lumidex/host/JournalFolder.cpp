@@ -33,6 +33,11 @@ constexpr std::uint64_t kOwnBytes = std::uint64_t{1} << 20U;
 
 }  // namespace
 
+std::uint64_t JournalFolder::RoomToBegin(const ioPath& catalogue) {
+  const std::uint64_t held = DiskReserve(ioPath(catalogue.utf8string() + ".undo") / kReserveName).Wanted();
+  return held < kOwnBytes ? kOwnBytes - held : 0;
+}
+
 JournalFolder::JournalFolder(const ioPath& catalogue)
     : folder_(ioPath(catalogue.utf8string() + ".undo")), reserve_(folder_ / kReserveName) {
   if (QueryFile(folder_ / kLockName).kind == FileState::Kind::File) {
@@ -78,6 +83,7 @@ void JournalFolder::TakeLock() {
   needed_ = reserve_.Wanted() > 0;
   // Also a folder that a former program made. Where somebody else owns it, it is theirs to open or to close.
   MakePrivate(folder_);
+  MakePrivate(folder_ / kLockName);
   const std::uint64_t wanted = reserve_.Wanted();
   copy_ = wanted > kOwnBytes ? wanted - kOwnBytes : 0;
   reserve_.Release();

@@ -23,6 +23,8 @@ class JournalFolder {
   JournalFolder(const JournalFolder&) = delete;
   JournalFolder& operator=(const JournalFolder&) = delete;
 
+  /// How much more room than it holds by now it needs for beginning something.
+  static std::uint64_t RoomToBegin(const ioPath& catalogue);
   /// Makes the folder and takes the lock where that has not been done.
   void Open();
   const ioPath& Path() const { return folder_; }

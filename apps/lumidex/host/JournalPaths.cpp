@@ -146,9 +146,12 @@ class Walk {
                          query.value(3).toBool()});
     }
     query.finish();
-    QSqlQuery store = database_.Prepare("UPDATE changes SET path = ?, side = ? WHERE number = ?");
+    QSqlQuery store = database_.Prepare(
+        "UPDATE changes SET path = ?, side = ?, kept_ending = coalesce(kept_ending, ?) WHERE number = ?");
     for (Change& change : changes) {
       bool changed = false;
+      // What is kept was named by it, and stays where it is.
+      const QString ending = QString::fromStdString(change.path.extension().utf8string());
       if (change.adopted) {
         changed = backwards_ ? Pass(change.side, change.path) : Pass(change.path, change.side);
       } else if (const auto moved = moved_.find(BytesOf(change.path)); moved != moved_.end()) {
@@ -158,6 +161,7 @@ class Walk {
       if (changed) {
         store.addBindValue(PathBytes(change.path));
         store.addBindValue(PathBytes(change.side));
+        store.addBindValue(NotNull(ending));
         store.addBindValue(change.number);
         database_.Run(store);
       }

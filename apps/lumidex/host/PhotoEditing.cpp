@@ -105,7 +105,10 @@ class EditRunner {
       }
       return verdict;
     } catch (const std::exception& failure) {
-      return JudgeFailure(task.photo, failure.what());
+      // In the words in which it would have been told beforehand, where it would have been.
+      sides.clear();
+      FileVerdict told = write_ ? FileVerdict() : JudgeEdit(task, order_.edit, order_.force);
+      return told.IsRefused() ? told : JudgeFailure(task.photo, failure.what());
     }
   }
 

@@ -5,6 +5,7 @@
 #include "ShotNames.h"
 
 #include <host/FileVerdicts.h>
+#include <host/RenameLinks.h>
 #include <host/Scanner.h>
 #include <host/ShotSets.h>
 #include <host/TrashPlan.h>
@@ -17,6 +18,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <set>
 #include <unordered_map>
 #include <utility>
@@ -148,11 +150,35 @@ class Planner {
       plan_.stays.push_back({photo.path, Stays(photo.path, why), true, VerdictOf(group, index).verdict});
     } else if (hasMore_ && hasMore_(photo, KeptOf(group).photo)) {
       Stay(photo.path, "it has tags or albums that " + kept.utf8string() + ", which is kept, has not", true);
+    } else if (const ioPath link = LinkTo(state.identity); !link.empty()) {
+      Stay(photo.path, "the link " + link.utf8string() + " leads to it", true);
     } else if (IsRawName(photo.path.filename().utf8string())) {
       raws.insert(index);
     } else {
       Go(group, index);
     }
+  }
+
+  /// Somebody chose this file and no other of its group: a link in or below a folder of the photos. Empty:
+  /// none.
+  ioPath LinkTo(const Identity& file) {
+    if (!links_) {
+      links_.emplace();
+      std::set<ioPath> folders;
+      for (const SuggestedGroup& group : groups_) {
+        for (const SimilarMember& member : group.group.members) {
+          folders.insert(member.photo.path.parent_path());
+        }
+      }
+      for (const ioPath& link : FindLinks({}, {folders.begin(), folders.end()})) {
+        const FileState state = QueryFile(link);
+        if (state.kind == FileState::Kind::File && !Tavolin::LiesInTrash(link)) {
+          links_->emplace(state.identity, link);
+        }
+      }
+    }
+    const auto link = links_->find(file);
+    return link == links_->end() ? ioPath() : link->second;
   }
 
   static PictureVerdict VerdictOf(const SuggestedGroup& group, std::size_t index) {
@@ -330,7 +356,7 @@ class Planner {
 
   void AddAppendix(const Beside& beside) {
     const FileState state = QueryFile(beside.file);
-    if (!GoesAlong(beside) || state.kind != FileState::Kind::File) {
+    if (!GoesAlong(beside) || state.kind != FileState::Kind::File || !LinkTo(state.identity).empty()) {
       return;
     }
     // With the last of them.
@@ -349,6 +375,8 @@ class Planner {
   const TrashChoice choice_;
   const HasMore& hasMore_;
   std::set<Identity> kept_;
+  /// Files to which links lead.
+  std::optional<std::map<Identity, ioPath>> links_;
   std::unordered_map<ioPath, std::size_t> going_;
   TrashPlan plan_;
 };

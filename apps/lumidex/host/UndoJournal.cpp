@@ -70,6 +70,20 @@ bool BelongsToWhatStays(const ioPath& file, const std::vector<UndoFinding>& find
          });
 }
 
+/// All that stays because of one file, each with its cause.
+void TellOfGroup(const std::vector<ChangeRow>& group, State goal, const UndoFinding& obstacle,
+                 UndoResult& result) {
+  for (const ChangeRow& change : group) {
+    if (change.path == obstacle.file) {
+      result.findings.push_back(obstacle);
+    } else if (change.state != goal) {
+      result.findings.push_back(
+          {change.path,
+           change.path.utf8string() + " is left as it is, too: it goes with " + obstacle.file.utf8string()});
+    }
+  }
+}
+
 UndoFinding FindingOf(const HostError& failure) {
   const std::string* const file = boost::get_error_info<TagFilename>(failure);
   return {file != nullptr ? ioPath(*file) : ioPath(), failure.what()};
@@ -100,6 +114,17 @@ std::optional<PhotoRecord> Read(const ioPath& photo) {
 std::string WhyAway(const ChangeRow& change, const std::string& cause) {
   return change.path.utf8string() + " is not in its place for now, its versions are kept (" + cause +
          "). Make room on its disk and run \"lumidex undo\" again";
+}
+
+/// What became of a step whose reversal is finished by the next run.
+std::string NoteOfReversal(const std::string& name, bool redo, const UndoResult& result) {
+  const std::size_t left = result.findings.size();
+  const std::string note =
+      name + " had been broken off while it was " + (redo ? "done again" : "taken back") + "; now it is";
+  if (left == 0) {
+    return note + '.';
+  }
+  return note + ", but for " + std::to_string(left) + (left == 1 ? " file:" : " files:");
 }
 
 /// Behind the sentence that tells why something could not be written down.
@@ -178,6 +203,7 @@ class UndoJournal::Impl {
   UndoResult ReverseAlbums(const StepRow& step, bool redo);
   UndoResult ReverseImport(const StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                            const UndoProgress& progress);
+  void EndReversal(qlonglong step, State state, UndoResult& result) const;
   UndoResult ReverseStep(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                          const UndoProgress& progress);
   UndoResult ReverseTrash(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
@@ -546,7 +572,9 @@ UndoResult UndoJournal::Impl::ReverseMoves(StepRow& step, bool redo, const std::
     transaction.Commit();
   }
   const std::size_t reached = DriveOrReturn(step, begin, goal, cancelled, progress, result);
-  result.files = reached > begin ? reached - begin : begin - reached;
+  // Of names that are exchanged one moves twice.
+  result.files = reached == goal ? NetRenames(step.moves, false).size()
+                                 : (reached > begin ? reached - begin : begin - reached);
   result.stands = !redo && reached > 0;
   return result;
 }
@@ -1033,7 +1061,7 @@ UndoResult UndoJournal::Impl::ReverseChanges(StepRow& step, bool redo, const std
     }
     const auto obstacle = isPending && group.size() > 1 ? FindObstacle(group, redo) : std::nullopt;
     if (obstacle) {
-      result.findings.push_back(*obstacle);
+      TellOfGroup(group, goal, *obstacle, result);
       anyLeft = true;
       anyHope = anyHope || std::any_of(group.begin(), group.end(), isKept);
     }
@@ -1133,6 +1161,15 @@ void UndoJournal::Impl::SettleTrash(qlonglong step) {
   DropUndone();
 }
 
+/// The files have moved, whatever the catalogue says to it: that is told, and the next run writes it down.
+void UndoJournal::Impl::EndReversal(qlonglong step, State state, UndoResult& result) const {
+  try {
+    SetState("steps", step, state);
+  } catch (const HostError& failure) {
+    result.findings.push_back({database_.File(), std::string(failure.what()) + kNotedLater});
+  }
+}
+
 UndoResult UndoJournal::Impl::ReverseTrash(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                                            const UndoProgress& progress) {
   UndoResult result;
@@ -1171,7 +1208,7 @@ UndoResult UndoJournal::Impl::ReverseTrash(StepRow& step, bool redo, const std::
       progress(++looked, files.size());
     }
   }
-  SetState("steps", step.number, StateOfTrash(files, goal, anyHope));
+  EndReversal(step.number, StateOfTrash(files, goal, anyHope), result);
   result.stands = !redo && anyHope;
   return result;
 }
@@ -1243,7 +1280,7 @@ UndoResult UndoJournal::Impl::ReverseImport(const StepRow& step, bool redo,
   imports_.RequireIdle(step.number);
   SetState("steps", step.number, redo ? State::Redoing : State::Undoing);
   const State state = imports_.Reverse(step.number, redo, cancelled, progress, result);
-  SetState("steps", step.number, state);
+  EndReversal(step.number, state, result);
   result.stands = !redo && state == State::Done;
   return result;
 }
@@ -1393,6 +1430,9 @@ void UndoJournal::Impl::RecoverMoves(StepRow& step) {
   }
   SettleMoves(step, drive.at);
   notes.push_back(note);
+  for (const UndoFinding& finding : ofLinks.findings) {
+    notes.push_back(finding.cause + '.');
+  }
 }
 
 void UndoJournal::Impl::RecoverChanges(StepRow& step) {
@@ -1412,8 +1452,7 @@ void UndoJournal::Impl::RecoverChanges(StepRow& step) {
   const bool redo = step.state == State::Redoing;
   const std::atomic<bool> never{false};
   const UndoResult result = ReverseChanges(step, redo, never, nullptr);
-  notes.push_back(name + " had been broken off while it was " + (redo ? "done again" : "taken back") +
-                  "; now it is, with " + std::to_string(result.findings.size()) + " findings.");
+  notes.push_back(NoteOfReversal(name, redo, result));
   for (const UndoFinding& finding : result.findings) {
     notes.push_back(finding.file.utf8string() + ": " + finding.cause);
   }
@@ -1440,8 +1479,7 @@ void UndoJournal::Impl::RecoverTrash(StepRow& step) {
   const bool redo = step.state == State::Redoing;
   const std::atomic<bool> never{false};
   const UndoResult result = ReverseTrash(step, redo, never, nullptr);
-  notes.push_back(name + " had been broken off while it was " + (redo ? "done again" : "taken back") +
-                  "; now it is, with " + std::to_string(result.findings.size()) + " findings.");
+  notes.push_back(NoteOfReversal(name, redo, result));
   for (const UndoFinding& finding : result.findings) {
     notes.push_back(finding.cause + ".");
   }
@@ -1466,8 +1504,7 @@ void UndoJournal::Impl::RecoverImport(const StepRow& step) {
   const bool redo = step.state == State::Redoing;
   const std::atomic<bool> never{false};
   const UndoResult result = ReverseImport(step, redo, never, nullptr);
-  notes.push_back(name + " had been broken off while it was " + (redo ? "done again" : "taken back") +
-                  "; now it is, with " + std::to_string(result.findings.size()) + " findings.");
+  notes.push_back(NoteOfReversal(name, redo, result));
   for (const UndoFinding& finding : result.findings) {
     notes.push_back(finding.cause + ".");
   }

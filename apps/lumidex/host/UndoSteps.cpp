@@ -2,6 +2,7 @@
 
 #include "CatalogueSchema.h"
 #include "StepState.h"
+#include "TightVolumes.h"
 
 #include <host/HostError.h>
 
@@ -90,6 +91,7 @@ JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, 
     room.needed += QueryFile(file).size;
   }
   room.total = room.needed;
+  room.tight = FindTightVolumes(catalogue, files);
   const auto database = OpenToLookAt(catalogue);
   if (!database) {
     return room;

@@ -14,9 +14,9 @@ namespace Zenvora::Lumidex::Host {
 /// What will become of one file when a command comes to it. Whoever tells it beforehand (`check`, a dry run)
 /// and whoever does it (the run) ask the same function, so that what is told is what happens.
 ///
-/// A verdict holds as long as the file, its folder and its sidecars stay as they are; room on the disk is no
-/// part of it (`PlanRoom`). All functions block on the disk, change nothing and throw nothing but
-/// `std::bad_alloc`.
+/// A verdict holds as long as the file, its folder, its sidecars and the room on its disk stay as they are;
+/// what all files of a step take together is no part of it (`PlanRoom`). All functions block on the disk,
+/// change nothing and throw nothing but `std::bad_alloc`.
 struct FileVerdict {
   enum class Kind {
     Done,        ///< It will be done.
@@ -29,6 +29,7 @@ struct FileVerdict {
     Folder,      ///< Its folder does not let go of it or takes no new file.
     Sidecar,     ///< What lies beside it cannot be edited along with it.
     Kept,        ///< It is never moved to the trash.
+    Room,        ///< Its disk has no room for the new version beside the old one.
   };
   Kind kind = Kind::Done;
   /// One English sentence that names the file, the cause and, where there is something, what to do. Empty

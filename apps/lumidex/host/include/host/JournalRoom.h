@@ -9,6 +9,13 @@
 
 namespace Zenvora::Lumidex::Host {
 
+/// A disk on which a step finds too little room: it stops there when that is used up.
+struct TightVolume {
+  ioPath folder;  ///< One of the edited files, or the journal's.
+  std::uint64_t bytesNeeded = 0;
+  std::int64_t bytesFree = 0;
+};
+
 /// What a step that edits files will keep, and what the limits make undo forget for it. To be asked before
 /// anything is changed, shown to the person, and handed to `UndoJournal::Prune` afterwards.
 struct JournalRoom {
@@ -19,6 +26,9 @@ struct JournalRoom {
   /// Steps that could be taken back and cannot any more when the step is done, the latest first. Those that
   /// are too old anyway are not among them.
   std::vector<UndoStep> forgotten;
+  /// Of the files with their new versions, and of the journal with what it keeps. Volumes that share blocks
+  /// may need less.
+  std::vector<TightVolume> tight;
 
   /// False when the step alone is beyond the limit: it could not be taken back.
   bool Fits() const { return needed <= limit; }

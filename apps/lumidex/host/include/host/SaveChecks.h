@@ -30,7 +30,7 @@ struct CheckedVolume {
   ioPath folder;  ///< One of the checked ones on it.
   std::uint64_t files = 0;
   std::uint64_t bytesNeeded = 0;
-  std::int64_t bytesFree = -1;  ///< Zero or less: unknown.
+  std::int64_t bytesFree = -1;  ///< Negative: unknown.
 };
 
 struct CheckReport {

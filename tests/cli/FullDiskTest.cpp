@@ -1,0 +1,85 @@
+#include "ChangeFixture.h"
+
+#include <support/LeftOut.h>
+#include <support/SmallDisk.h>
+
+#include <QJsonArray>
+
+#include <filesystem>
+#include <fstream>
+
+namespace Zenvora::Test {
+namespace {
+
+using testing::HasSubstr;
+
+#ifdef _WIN32
+constexpr char kNoDisk[] = "nobody can make a small disk here";
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenByCheckDryRunAndRunAlike, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenBeforeItIsFull, kNoDisk);
+#else
+/// Photos on a disk of their own with little room.
+class FullPhotoDisk : public ChangeTest {
+ protected:
+  void FillBut(std::uintmax_t bytes) const {
+    const std::uintmax_t free = std::filesystem::space(place_.native()).available;
+    std::ofstream((place_ / "filler").native(), std::ios::binary) << std::string(free - bytes, 'f');
+    ASSERT_LE(std::filesystem::space(place_.native()).available, bytes);
+  }
+
+  const ioPath place_ = tree.MakeFolder("photos");
+  const SmallDisk disk_{place_, std::size_t{8} << 20U};
+};
+
+TEST_F(FullPhotoDisk, IsSeenByCheckDryRunAndRunAlike) {
+  if (!disk_.IsThere()) {
+    GTEST_SKIP() << "this user cannot make a small disk";
+  }
+  const ioPath photo = Photo("a.jpg");
+  const std::string before = ReadFile(photo);
+  FillBut(0);
+  const std::string sentence = "Cannot edit " + photo.utf8string() +
+                               ": its disk has no room for a new version of it (" +
+                               std::to_string(before.size()) + " bytes are needed, 0 are free)";
+  const Ran check = Run({"check", "photos"});
+  EXPECT_EQ(check.exitCode, 1);
+  EXPECT_THAT(check.out, HasSubstr("Refused by rotate, shift-date, set-date"));
+  EXPECT_THAT(check.out, HasSubstr(sentence));
+  EXPECT_THAT(check.out, HasSubstr("0 B"));
+  EXPECT_THAT(check.out, testing::Not(HasSubstr("unknown")));
+  const QJsonObject document = Run({"check", "--json", "photos"}).Json();
+  EXPECT_EQ(document["volumes"].toArray()[0].toObject()["bytesFree"], QJsonValue(0));
+  EXPECT_EQ(document["findings"].toArray()[0].toObject()["kind"].toString(), QStringLiteral("room"));
+  for (const bool dry : {true, false}) {
+    const Ran ran =
+        dry ? Run({"rotate", "--dry-run", "right", "photos"}) : Run({"rotate", "right", "photos"});
+    EXPECT_EQ(ran.exitCode, 4);
+    EXPECT_THAT(ran.out, HasSubstr(sentence));
+  }
+  EXPECT_EQ(ReadFile(photo), before);
+}
+
+TEST_F(FullPhotoDisk, IsSeenBeforeItIsFull) {
+  if (!disk_.IsThere()) {
+    GTEST_SKIP() << "this user cannot make a small disk";
+  }
+  for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) {
+    const ioPath photo = Photo(name);
+    // Behind the end of the picture: an edit takes it along.
+    std::ofstream(photo.native(), std::ios::binary | std::ios::app) << std::string(400'000, '\n');
+  }
+  // The catalogue lies there too, and with it the originals.
+  const QString catalogue = Text(tree.MakeFolder("photos/.mine") / "my.sqlite");
+  ASSERT_EQ(Run({"--catalogue", catalogue, "rotate", "right", "photos/a.jpg"}).exitCode, 0);
+  FillBut(900'000);
+  const Ran dry = Run({"--catalogue", catalogue, "rotate", "--dry-run", "right", "photos"});
+  EXPECT_EQ(dry.exitCode, 3);
+  EXPECT_THAT(dry.out, HasSubstr("of room left, and editing all of them takes"));
+  const Ran check = Run({"--catalogue", catalogue, "check", "--for", "rotate", "photos"});
+  EXPECT_EQ(check.exitCode, 1);
+  EXPECT_THAT(check.out, HasSubstr("of room left, and editing all of them takes"));
+}
+#endif
+
+}  // namespace
+}  // namespace Zenvora::Test
