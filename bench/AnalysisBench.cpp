@@ -3,8 +3,8 @@
 
 #include <host/Catalogue.h>
 #include <host/PhotoAnalysis.h>
+#include <host/PhotoReading.h>
 #include <host/Sample.h>
-#include <host/Scanner.h>
 #include <host/SimilarPhotos.h>
 #include <host/SimilarUpdate.h>
 

@@ -2,7 +2,8 @@
 
 #include "PixelSources.h"
 
-#include <host/Scanner.h>
+#include <host/PhotoReading.h>
+#include <host/ShotNames.h>
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,5 @@
-#include "ShotNames.h"
-
 #include <host/Scanner.h>
+#include <host/ShotNames.h>
 #include <host/TrashPlan.h>
 #include <support/TempTree.h>
 

@@ -3,7 +3,7 @@
 #include "Failure.h"
 #include "Session.h"
 
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/core/FileState.h>
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AlbumRows.h"
 #include "CatalogueDatabase.h"
 
 #include <host/Catalogue.h>
@@ -13,16 +14,6 @@
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
-
-/// What accepting one album changed in the tables.
-struct AcceptedAlbum {
-  AcceptResult result;
-  /// The photos that it gained: their positions and their numbers.
-  std::vector<std::pair<qlonglong, qlonglong>> gained;
-};
-
-/// Stores a proposal under its name, as `Catalogue::AcceptAlbum` says, within the caller's transaction.
-AcceptedAlbum AcceptProposal(const CatalogueDatabase& database, const Album& proposal);
 
 /// The part of the journal that is about accepted albums, which are in the catalogue only: within a
 /// transaction of the caller's each function is done or not.

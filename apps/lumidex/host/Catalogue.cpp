@@ -1,4 +1,4 @@
-#include "AlbumSteps.h"
+#include "AlbumRows.h"
 #include "CatalogueDatabase.h"
 #include "CatalogueRows.h"
 #include "CatalogueSchema.h"

@@ -3,7 +3,7 @@
 #include "FileCopy.h"
 #include "TaskThreads.h"
 
-#include <host/Scanner.h>
+#include <host/PhotoReading.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <host/RenamePlan.h>
+#include <host/MoveRows.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/lumidex/IFileAccessLocker.h>
-
-#include <QByteArray>
 
 #include <cstddef>
 #include <optional>
@@ -14,16 +12,6 @@
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
-
-/// One move of a batch, and by what the file that it moves is known.
-struct FileMove {
-  ioPath from;
-  ioPath to;
-  std::uint64_t device = 0;
-  std::uint64_t inode = 0;
-  std::uint64_t size = 0;
-  std::int64_t modifiedNs = 0;
-};
 
 /// Looks at the files of a plan. Throws `HostError` when one of them is gone.
 std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps);
@@ -35,9 +23,6 @@ void IdentifyAgain(std::vector<FileMove>& moves, bool standing);
 
 /// What becomes of each file when all moves are done, or taken back (`backwards`).
 std::vector<RenameMove> NetRenames(const std::vector<FileMove>& moves, bool backwards);
-
-QByteArray PackMoves(const std::vector<FileMove>& moves);
-std::vector<FileMove> UnpackMoves(const QByteArray& bytes);
 
 /// How many of the moves, from the first on, stand after the work on them was broken off: the number that
 /// agrees best with what is on the disk. `backwards`: they were being taken back.

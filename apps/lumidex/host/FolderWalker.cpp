@@ -1,5 +1,9 @@
 #include "FolderWalker.h"
 
+#include "PathText.h"
+
+#include <host/ShotNames.h>
+
 #include <zenvora/core/ErrorText.h>
 
 #include <algorithm>
@@ -31,12 +35,6 @@ std::string FaultOfEntry(const ioPath& name) {
 }
 
 }  // namespace
-
-bool IsAtOrBelow(const ioPath& path, const ioPath& folder) {
-  const auto& whole = path.native();
-  const auto& start = folder.native();
-  return std::mismatch(start.begin(), start.end(), whole.begin(), whole.end()).first == start.end();
-}
 
 FolderWalker::FolderWalker(const std::vector<ioPath>& roots, Wanted wanted, PassOver passOver)
     : wanted_(wanted), passOver_(std::move(passOver)) {

@@ -2,7 +2,7 @@
 
 #include "FolderEntries.h"
 
-#include <host/Scanner.h>
+#include <host/PhotoReading.h>
 
 #include <zenvora/core/FileState.h>
 
@@ -82,8 +82,5 @@ class FolderWalker {
   std::vector<ScanFinding> findings_;
   std::vector<ioPath> unreadable_;
 };
-
-/// True when `path` is `folder` or lies below it, by its elements. Pure.
-bool IsAtOrBelow(const ioPath& path, const ioPath& folder);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -2,8 +2,8 @@
 
 #include "PathText.h"
 #include "RenameNames.h"
-#include "ShotNames.h"
 
+#include <host/ShotNames.h>
 #include <host/ShotSets.h>
 
 #include <algorithm>

@@ -4,13 +4,13 @@
 #include "ImportQuestions.h"
 #include "KnownContent.h"
 #include "PathText.h"
-#include "ShotNames.h"
 
 #include <LumidexUtil/CheckFilesReadable.h>
 #include <LumidexUtil/CheckFilesToCopyBeforeAdd.h>
 #include <LumidexUtil/CheckSaveAvailable.h>
 #include <host/FileVerdicts.h>
 #include <host/ImportPlan.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/core/FileProbes.h>
 #include <zenvora/qtutility/DiskQuestions.h>

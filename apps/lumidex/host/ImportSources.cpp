@@ -2,11 +2,10 @@
 #include "FolderWalker.h"
 #include "Housekeeping.h"
 #include "PictureHead.h"
-#include "ShotNames.h"
 
 #include <host/HostError.h>
 #include <host/ImportSources.h>
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 #include <host/ShotSets.h>
 
 #include <zenvora/core/ErrorText.h>

@@ -5,9 +5,9 @@
 #include "FileMoves.h"
 #include "FolderEntries.h"
 #include "ImportManifest.h"
-#include "ShotNames.h"
 
 #include <host/HostError.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/core/ErrorText.h>

@@ -1,4 +1,4 @@
-#include "FolderWalker.h"
+#include "PathText.h"
 
 #include <host/ImportVerdict.h>
 

@@ -1,11 +1,12 @@
 #include "JournalPaths.h"
 
 #include "CatalogueRows.h"
-#include "FileMoves.h"
-#include "FolderWalker.h"
-#include "LinkSteps.h"
+#include "LinkRows.h"
+#include "PathText.h"
 #include "StepState.h"
 #include "SymbolicLinks.h"
+
+#include <host/MoveRows.h>
 
 #include <map>
 #include <utility>
@@ -112,7 +113,7 @@ class Walk {
 
   /// Links that moved along with the folder of the photos.
   void RewriteLinks(qlonglong step) {
-    for (const LinkChange& change : LinkSteps(database_).Links(step)) {
+    for (const LinkChange& change : LinkRows(database_).Links(step)) {
       if (ReadSymbolicLink(change.link)) {
         continue;
       }
@@ -123,7 +124,7 @@ class Walk {
         const ioPath link = now / ioPath(change.link.native().lexically_relative(former.native()));
         const auto text = ReadSymbolicLink(link);
         if (text == change.before || text == change.after) {
-          LinkSteps(database_).Follow(step, change, link);
+          LinkRows(database_).Follow(step, change, link);
           break;
         }
       }

@@ -1,9 +1,8 @@
 #include "KnownContent.h"
 
 #include "FolderEntries.h"
-#include "ShotNames.h"
 
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/tavolin/RemovableStorage.h>

@@ -2,7 +2,7 @@
 
 #include "TaskThreads.h"
 
-#include <host/Scanner.h>
+#include <host/PhotoReading.h>
 
 #include <cstddef>
 #include <utility>

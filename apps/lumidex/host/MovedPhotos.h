@@ -3,7 +3,7 @@
 #include "CatalogueMoves.h"
 #include "VolumesSeen.h"
 
-#include <host/Scanner.h>
+#include <host/PhotoReading.h>
 
 #include <cstddef>
 #include <functional>

@@ -1,9 +1,16 @@
 #include "PathText.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
 namespace Zenvora::Lumidex::Host {
+
+bool IsAtOrBelow(const ioPath& path, const ioPath& folder) {
+  const auto& whole = path.native();
+  const auto& start = folder.native();
+  return std::mismatch(start.begin(), start.end(), whole.begin(), whole.end()).first == start.end();
+}
 
 #ifdef _WIN32
 

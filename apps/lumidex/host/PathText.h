@@ -14,4 +14,7 @@ ioPath PathOfReversible(const QString& text);
 /// True when the path is text, so that Qt can find its file.
 bool IsText(const ioPath& path);
 
+/// True when `path` is `folder` or lies below it, by its elements. Pure.
+bool IsAtOrBelow(const ioPath& path, const ioPath& folder);
+
 }  // namespace Zenvora::Lumidex::Host

@@ -1,10 +1,9 @@
 #include "FolderEntries.h"
 #include "RenameNames.h"
-#include "ShotNames.h"
 
 #include <host/PhotoChoice.h>
 #include <host/RenameLinks.h>
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>

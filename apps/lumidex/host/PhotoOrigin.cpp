@@ -2,9 +2,9 @@
 #include "JpegTables.h"
 #include "PhotoPixels.h"
 #include "PictureEnd.h"
-#include "ShotNames.h"
 
 #include <host/PhotoOrigin.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/strandel/PhotoFacts.h>

@@ -1,9 +1,8 @@
 #include "FolderEntries.h"
 #include "RenameNames.h"
-#include "ShotNames.h"
 
-#include <host/PhotoEditing.h>
-#include <host/Scanner.h>
+#include <host/PhotoSidecars.h>
+#include <host/ShotNames.h>
 #include <host/ShotSets.h>
 
 #include <zenvora/core/FileState.h>

@@ -1,8 +1,8 @@
 #include "FolderEntries.h"
-#include "ShotNames.h"
 #include "SymbolicLinks.h"
 
 #include <host/RenameLinks.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/core/FileState.h>
 

@@ -1,10 +1,10 @@
 #include "RenameNames.h"
 #include "RenameOrdering.h"
 #include "RenameSequence.h"
-#include "ShotNames.h"
 
 #include <host/HostError.h>
 #include <host/RenamePlan.h>
+#include <host/ShotNames.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -276,66 +276,11 @@ ScanResult ScanRun::Finish() {
   return std::move(result_);
 }
 
-/// The one place that says which camera and place a photo has.
-void TakeCameraAndPlace(const Strandel::PhotoFacts& facts, PhotoRecord& record) {
-  record.camera = facts.cameraModel;
-  if (facts.metadata != nullptr) {
-    using Proc::IImageMetadata;
-    const Core::Property id =
-        facts.metadata->GetProperty(IImageMetadata::EXIF, IImageMetadata::BLOCK_PHOTO, "ImageUniqueID");
-    record.trace.cameraId = QString::fromStdString(id[IImageMetadata::TEXT_VALUE].GetString()).trimmed();
-  }
-  // Whoever searches a place does not look for photos that may be somewhere else.
-  const auto stated = PositionOf(facts.metadata);
-  if (stated && stated->doubts.empty()) {
-    record.position = PhotoPosition{stated->place.GetLatitude(), stated->place.GetLongitude()};
-  }
-}
-
 }  // namespace
 
 ScanResult Scan(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,
                 const ScanProgressHandler& progress) {
   return ScanRun(catalogue, roots, options, progress).Run();
-}
-
-bool IsPhotoName(const ioPath& file) {
-  // What cameras and phones write, and what people keep; docs/decisions/metadata.md.
-  static constexpr std::array<std::string_view, 41> kExtensions = {
-      ".3fr",  ".arw",  ".avif", ".bmp", ".cr2",  ".cr3",  ".crw",  ".dcr", ".dng", ".erf", ".gif",
-      ".heic", ".heif", ".hif",  ".iiq", ".jfif", ".jpe",  ".jpeg", ".jpg", ".jxl", ".kdc", ".mef",
-      ".mos",  ".mrw",  ".nef",  ".nrw", ".orf",  ".pef",  ".png",  ".raf", ".raw", ".rw2", ".rwl",
-      ".sr2",  ".srf",  ".srw",  ".tif", ".tiff", ".webp", ".x3f",  ".fff"};
-  std::string extension = file.extension().utf8string();
-  for (char& letter : extension) {
-    if (letter >= 'A' && letter <= 'Z') {
-      letter = static_cast<char>(letter - 'A' + 'a');
-    }
-  }
-  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
-}
-
-bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding) {
-  // Before the content: a file that is changed meanwhile differs from its record, and the next scan reads it
-  // again.
-  const FileState state = QueryFile(file);
-  const Strandel::PhotoFacts facts = Strandel::ReadPhotoFacts(file);
-  if (facts.status != Strandel::PhotoFacts::Status::Read) {
-    const bool opened = facts.status == Strandel::PhotoFacts::Status::NotAnImage;
-    finding = {opened ? ScanFinding::Kind::NotAnImage : ScanFinding::Kind::Unreadable, file, facts.cause};
-    return false;
-  }
-  record = PhotoRecord();
-  record.path = file;
-  record.size = state.size;
-  record.modifiedNs = state.modifiedNs;
-  TakeCameraAndPlace(facts, record);
-  const PhotoDate date = DateOf(facts, state.modifiedNs);
-  record.taken = date.taken;
-  record.takenSource = date.source;
-  // Without it the photo is one all the same, which is not known again under another name.
-  ReadContentTrace(file, record.trace);
-  return true;
 }
 
 }  // namespace Zenvora::Lumidex::Host

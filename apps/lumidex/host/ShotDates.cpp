@@ -1,7 +1,8 @@
 #include <host/HostError.h>
 #include <host/PhotoDate.h>
-#include <host/Scanner.h>
+#include <host/PhotoReading.h>
 #include <host/ShotDates.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/core/FileState.h>
 

@@ -1,8 +1,6 @@
-#include "ShotNames.h"
-
 #include "RenameNames.h"
 
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 
 #include <algorithm>
 #include <array>
@@ -90,6 +88,22 @@ ShotName SplitShotName(std::string_view name) {
     return split(base);
   }
   return split(base.substr(0, base.size() - ExtensionOf(base).size()));
+}
+
+bool IsPhotoName(const ioPath& file) {
+  // What cameras and phones write, and what people keep; docs/decisions/metadata.md.
+  static constexpr std::array<std::string_view, 41> kExtensions = {
+      ".3fr",  ".arw",  ".avif", ".bmp", ".cr2",  ".cr3",  ".crw",  ".dcr", ".dng", ".erf", ".gif",
+      ".heic", ".heif", ".hif",  ".iiq", ".jfif", ".jpe",  ".jpeg", ".jpg", ".jxl", ".kdc", ".mef",
+      ".mos",  ".mrw",  ".nef",  ".nrw", ".orf",  ".pef",  ".png",  ".raf", ".raw", ".rw2", ".rwl",
+      ".sr2",  ".srf",  ".srw",  ".tif", ".tiff", ".webp", ".x3f",  ".fff"};
+  std::string extension = file.extension().utf8string();
+  for (char& letter : extension) {
+    if (letter >= 'A' && letter <= 'Z') {
+      letter = static_cast<char>(letter - 'A' + 'a');
+    }
+  }
+  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
 }
 
 bool IsShotFile(std::string_view name) {

@@ -1,7 +1,6 @@
 #include "RenameNames.h"
-#include "ShotNames.h"
 
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 #include <host/ShotSets.h>
 
 #include <algorithm>

@@ -2,11 +2,10 @@
 #include "JudgedPictures.h"
 #include "PictureEnd.h"
 #include "RenameNames.h"
-#include "ShotNames.h"
 
 #include <host/FileVerdicts.h>
 #include <host/RenameLinks.h>
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 #include <host/ShotSets.h>
 #include <host/TrashPlan.h>
 

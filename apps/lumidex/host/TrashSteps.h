@@ -3,7 +3,7 @@
 #include "CatalogueDatabase.h"
 #include "StepState.h"
 
-#include <host/TrashPlan.h>
+#include <host/SeenFile.h>
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/IFileAccessLocker.h>

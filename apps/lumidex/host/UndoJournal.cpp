@@ -11,7 +11,6 @@
 #include "KeptFiles.h"
 #include "LinkSteps.h"
 #include "SameRoom.h"
-#include "ShotNames.h"
 #include "StepState.h"
 #include "TagSteps.h"
 #include "TrashSteps.h"
@@ -19,7 +18,8 @@
 
 #include <LumidexUtil/UndoFileHolder.h>
 #include <host/Catalogue.h>
-#include <host/Scanner.h>
+#include <host/PhotoReading.h>
+#include <host/ShotNames.h>
 #include <host/UndoJournal.h>
 
 #include <zenvora/app/Application.h>
@@ -241,7 +241,7 @@ class UndoJournal::Impl {
   const TagSteps tags_;
   const AlbumSteps albums_;
   const ImportSteps imports_;
-  const LinkSteps links_;
+  const LinkRows links_;
   qlonglong step_ = 0;
   bool keeps_ = true;
   bool keepsForRedo_ = true;
@@ -492,9 +492,9 @@ UndoResult UndoJournal::Impl::Rename(const QString& name, const RenamePlan& plan
   }
   const std::vector<LinkChange> links = links_.Links(step.number);
   try {
-    LinkSteps::Prepare(links);
+    PrepareLinks(links);
   } catch (const HostError& failure) {
-    LinkSteps::Clear(links);
+    ClearLinks(links);
     DropStep(step.number);
     result.findings.push_back(FindingOf(failure));
     return result;
@@ -508,7 +508,7 @@ UndoResult UndoJournal::Impl::Rename(const QString& name, const RenamePlan& plan
 bool UndoJournal::Impl::PointLinks(const std::vector<LinkChange>& links, bool toNew,
                                    UndoResult& result) const {
   try {
-    LinkSteps::Point(links, toNew);
+    Host::PointLinks(links, toNew);
     return true;
   } catch (const HostError& failure) {
     result.findings.push_back(FindingOf(failure));

@@ -1,7 +1,7 @@
 #include "VolumesSeen.h"
 
 #include "CatalogueRows.h"
-#include "FolderWalker.h"
+#include "PathText.h"
 
 #include <algorithm>
 #include <filesystem>

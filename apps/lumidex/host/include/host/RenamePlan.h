@@ -1,5 +1,6 @@
 #pragma once
 
+#include <host/MoveRows.h>
 #include <host/RenamePattern.h>
 #include <host/ShotSets.h>
 
@@ -45,19 +46,6 @@ struct RenameOptions {
   RenameFailing onProblem = RenameFailing::Nothing;
   /// A text that no other run uses, for the names of files on their way: part of a name, at most 64 bytes.
   std::string token;
-};
-
-struct RenameMove {
-  ioPath from;
-  ioPath to;
-};
-
-/// A symbolic link to a file that gets another name: what it says before and after, byte by byte on Linux, in
-/// UTF-8 on Windows.
-struct RenameLink {
-  ioPath link;
-  std::string before;
-  std::string after;
 };
 
 /// Why a shot cannot have its new name.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <host/Catalogue.h>
+#include <host/PhotoReading.h>
 
 #include <atomic>
 #include <cstdint>
@@ -30,22 +31,6 @@ struct ScanProgress {
 /// Called on the scanning thread, at most about ten times a second, and once at the end.
 using ScanProgressHandler = std::function<void(const ScanProgress&)>;
 
-/// A file or folder that the scan could not take in.
-struct ScanFinding {
-  enum class Kind {
-    NotAnImage,  ///< Named like a photo, but its content is none.
-    Unreadable,  ///< A file or folder that could not be read.
-    Loop,  ///< A symbolic link that leads back to a folder above it, or to one already visited. Not followed.
-    Ambiguous,  ///< A photo was moved, and it cannot be told which, or where to. It is lost, the files are
-                ///< new.
-  };
-  Kind kind;
-  ioPath path;
-  std::string cause;
-  /// Of what is ambiguous: what `path` may be, or the files that may be `path`.
-  std::vector<ioPath> candidates = {};
-};
-
 struct ScanResult {
   std::uint64_t found = 0;  ///< Files named like photos.
   std::uint64_t added = 0;
@@ -68,11 +53,5 @@ struct ScanResult {
 /// program is at work with the journal.
 ScanResult Scan(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,
                 const ScanProgressHandler& progress);
-
-/// True for file names that the scan takes for photos, by extension, case ignored.
-bool IsPhotoName(const ioPath& file);
-
-/// The metadata stage alone: reads one file into a record without id. `finding` is set when it is no photo.
-bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <host/Catalogue.h>
+#include <host/SeenFile.h>
 #include <host/SimilarKeeper.h>
 
 #include <zenvora/core/ioPath.h>
@@ -13,13 +14,6 @@
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
-
-/// A file, and what it must still be when its turn comes.
-struct SeenFile {
-  ioPath path;
-  std::uint64_t size = 0;
-  std::int64_t modifiedNs = 0;
-};
 
 /// What lies beside photos and says nothing without them.
 struct TrashAppendix : SeenFile {

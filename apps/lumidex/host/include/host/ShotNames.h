@@ -39,6 +39,9 @@ ioPath Sibling(const ioPath& file, const std::string& name);
 /// base.
 ShotName SplitShotName(std::string_view name);
 
+/// True for file names that a scan takes for photos, by extension, case ignored.
+bool IsPhotoName(const ioPath& file);
+
 /// True for names of photos and of what cameras and programs put beside them, by extension, case ignored.
 bool IsShotFile(std::string_view name);
 
