@@ -3,6 +3,7 @@
 
 #include <host/PhotoDate.h>
 #include <host/Scanner.h>
+#include <host/ShotNames.h>
 #include <support/GpsPhoto.h>
 #include <support/LeftOut.h>
 #include <support/Obstacles.h>

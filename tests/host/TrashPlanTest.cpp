@@ -1,4 +1,4 @@
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 #include <host/ShotNames.h>
 #include <host/TrashPlan.h>
 #include <support/TempTree.h>

@@ -1,9 +1,8 @@
 #include "MovedCompanions.h"
 
 #include "FolderEntries.h"
-#include "ShotNames.h"
 
-#include <host/Scanner.h>
+#include <host/ShotNames.h>
 #include <host/ShotSets.h>
 
 #include <zenvora/core/FileState.h>
