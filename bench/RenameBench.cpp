@@ -86,7 +86,7 @@ void JournalledRename(benchmark::State& state) {
     plan.steps = batch.Next();
     plan.renames = plan.steps;
     state.ResumeTiming();
-    const auto result = journal.Rename(QStringLiteral("rename"), plan, never, nullptr);
+    const auto result = journal.Renames().Run(QStringLiteral("rename"), plan, never, nullptr);
     if (result.files != plan.steps.size()) {
       state.SkipWithError("not all files were renamed");
     }

@@ -2,15 +2,25 @@
 
 include(GenerateExportHeader)
 
-# Who stands above whom. A room may use rooms of a lower floor; among the platform rooms of floor 2 it may also use one
-# that was declared before it, so that no circle can form. Parts of LumidexUtil share one floor and never use each other.
+# Who stands above whom: a room may use rooms of a lower floor. On the floors of the lists below it may also use those
+# that were declared before it, so that no circle can form; parts of LumidexUtil share one floor and never use each other.
 set(LUMIDEX_FLOORS
   core=0
   lumidex=1
   app=2 quillet=2 tavolin=2 strandel=2 usage=2 qtutility=2 alerts=2
   LumidexUtil=3
-  host=4
-  cli=5 gui=5)
+  host=10 cli=80
+  host_base=10 host_settings=11
+  host_catalogue=20 host_pixels=20
+  host_shots=30
+  host_scan=40 host_search=40 host_model=40 host_journal=40
+  host_albums=50 host_similar=50 host_rename=50 host_edit=50 host_tags=50 host_import=50
+  host_trash=60
+  host_history=70 host_report=70 host_checks=70
+  samples=75
+  cli_terminal=80 cli_session=81 cli_views=82 cli_commands=83 cli_program=84
+  gui=80)
+set(LUMIDEX_ORDERED_FLOORS 2)
 # The only rooms that may link Qt Widgets. The others may use them all the same: then what these hand on leaves Qt Widgets
 # out, and their headers show only what is there without (QT_WIDGETS_LIB).
 set(LUMIDEX_WIDGET_ROOMS qtutility alerts widgets Presenter LumidexUtil gui)
@@ -50,7 +60,7 @@ function(lumidex_room name)
     lumidex_floor(${used} used_floor)
     if(used_floor GREATER floor)
       message(FATAL_ERROR "Room '${name}' may not use '${used}': it stands above (floor ${used_floor} > ${floor})")
-    elseif(used_floor EQUAL floor AND NOT floor EQUAL 2)
+    elseif(used_floor EQUAL floor AND NOT floor IN_LIST LUMIDEX_ORDERED_FLOORS)
       message(FATAL_ERROR "Room '${name}' may not use '${used}': rooms of floor ${floor} do not know each other")
     elseif(NOT TARGET lumidex_${used})
       message(FATAL_ERROR "Room '${name}' may not use '${used}': it is not declared before it")

@@ -45,7 +45,7 @@ class AlbumJournal : public ::testing::Test {
         {{DataAttributeId::CoverPhoto, ids.front()}, {DataAttributeId::Description, QStringLiteral("text")}});
   }
   std::vector<AcceptResult> Accept(const std::vector<Album>& albums) {
-    return journal_.AcceptAlbums(QStringLiteral("accept"), albums);
+    return journal_.Albums().Run(QStringLiteral("accept"), albums);
   }
   UndoResult Undo() { return journal_.UndoLast(never_, nullptr); }
   UndoResult Redo() { return journal_.RedoLast(never_, nullptr); }
@@ -87,11 +87,11 @@ TEST_F(AlbumJournal, RemovesTheAlbumsAndPutsThemBackAsTheyWere) {
   EXPECT_EQ(results[1].photosAdded, 2);
   const std::string before = Albums();
   const UndoStep step = journal_.Steps().at(0);
-  EXPECT_EQ(step.kind, StepKind::Albums);
+  EXPECT_EQ(step.type, StepType::Albums);
   EXPECT_EQ(step.files, 5U);
 
   const UndoResult undone = Undo();
-  EXPECT_EQ(undone.kind, StepKind::Albums);
+  EXPECT_EQ(undone.type, StepType::Albums);
   EXPECT_EQ(undone.files, 5U);
   EXPECT_EQ(Albums(), "");
   EXPECT_EQ(RunSql(file_, {"SELECT count(*) FROM album_attributes"}).toInt(), 0);

@@ -77,7 +77,7 @@ class FullDisk : public Zenvora::Test::JournalTest {
   /// Edits, with something happening before each photo is written.
   UndoResult EditWith(const std::vector<ioPath>& photos, const std::function<void(const ioPath&)>& before) {
     return EditPhotos(
-        *journal_, *locker_, QStringLiteral("edit"), photos,
+        journal_->Edits(), *locker_, QStringLiteral("edit"), photos,
         [&before](const ioPath& photo, const ioPath& side) {
           before(photo);
           std::ofstream(side.native(), std::ios::binary) << "edited";
@@ -192,7 +192,7 @@ TEST_F(FullDisk, RenamesAndTakesItBack) {
   }
   plan.renames = plan.steps;
   const UndoResult result =
-      journal_->Rename(QStringLiteral("rename"), plan, never_, [this](std::size_t done, std::size_t) {
+      journal_->Renames().Run(QStringLiteral("rename"), plan, never_, [this](std::size_t done, std::size_t) {
         if (done == 2) {
           Fill();
         }

@@ -198,8 +198,8 @@ TEST_F(SetAsidePhoto, ComesBackWithItsSidecar) {
   RunSql(catalogue_, {"DELETE FROM steps", "DELETE FROM changes"});
   Open();
   journal_->BeginStep(QStringLiteral("edit"));
-  std::vector<std::pair<ioPath, ioPath>> both = {{photo_, journal_->PlanEdit(photo_)},
-                                                 {sidecar, journal_->PlanSidecar(sidecar)}};
+  std::vector<std::pair<ioPath, ioPath>> both = {{photo_, journal_->Edits().PlanEdit(photo_)},
+                                                 {sidecar, journal_->Edits().PlanSidecar(sidecar)}};
   for (const auto& [file, side] : both) {
     std::ofstream(side.for_system()) << "new";
     DataModel item;
@@ -209,7 +209,7 @@ TEST_F(SetAsidePhoto, ComesBackWithItsSidecar) {
   for (const auto& [file, side] : both) {
     std::filesystem::rename(side.for_system(), file.for_system());
   }
-  journal_->FinishEdit();
+  journal_->Edits().FinishEdit();
   journal_->EndStep();
   Close();
   RunSql(catalogue_,

@@ -75,7 +75,7 @@ class ImportJournal : public ImportTest {
   }
   static std::vector<std::string> CausesOf(const UndoResult& result) {
     std::vector<std::string> causes;
-    for (const UndoFinding& finding : result.findings) {
+    for (const FileFinding& finding : result.findings) {
       causes.push_back(finding.cause);
     }
     return causes;
@@ -98,12 +98,12 @@ TEST_F(ImportJournal, TakesTheCopiesBackAndBringsThemAgain) {
 
   const std::vector<UndoStep> steps = Open().Steps();
   ASSERT_THAT(steps, SizeIs(1));
-  EXPECT_EQ(steps[0].kind, StepKind::Import);
+  EXPECT_EQ(steps[0].type, StepType::Import);
   EXPECT_EQ(steps[0].files, 4U);
   EXPECT_EQ(steps[0].name.toStdString(), "import 4 files to " + Copies().utf8string());
 
   const UndoResult undone = Undo();
-  EXPECT_EQ(undone.kind, StepKind::Import);
+  EXPECT_EQ(undone.type, StepType::Import);
   EXPECT_EQ(undone.files, 4U);
   EXPECT_EQ(undone.lastCopies, 0U);
   EXPECT_THAT(CausesOf(undone), IsEmpty());

@@ -42,7 +42,7 @@ class JournalTest : public ::testing::Test {
   UndoResult Edit(const std::vector<ioPath>& photos, const std::string& content,
                   const QString& name = QStringLiteral("edit")) {
     return Lumidex::Host::EditPhotos(
-        *journal_, *locker_, name, photos,
+        journal_->Edits(), *locker_, name, photos,
         [&content](const ioPath&, const ioPath& side) {
           std::ofstream(side.for_system(), std::ios::binary) << content;
         },

@@ -25,7 +25,7 @@ TEST_F(KeptOriginal, PromisesNoOriginalThatWasNotKept) {
   const ioPath photo = Make("a.jpg", "old");
   journal_->KeepOriginals(false);
   journal_->BeginStep(QStringLiteral("edit"));
-  const ioPath side = journal_->PlanEdit(photo);
+  const ioPath side = journal_->Edits().PlanEdit(photo);
   std::ofstream(side.for_system()) << "new";
   DataModel item;
   item.SetPath(photo);

@@ -20,7 +20,7 @@ class LinkJournal : public Zenvora::Test::JournalTest {
     RenamePlan plan;
     plan.steps = {{a_, wait_}, {b_, a_}, {wait_, b_}};
     plan.renames = {{a_, b_}, {b_, a_}};
-    ASSERT_EQ(journal_->Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 2U);
+    ASSERT_EQ(journal_->Renames().Run(QStringLiteral("rename"), plan, never_, nullptr).files, 2U);
     ASSERT_EQ(ReadFile(a_), "photo b");
   }
 
@@ -58,7 +58,7 @@ TEST_F(LinkJournal, LinksThatOthersPointedToAPhotoGoBackWithIt) {
   plan.steps = {{a_, tree_.Path("photos/new.jpg")}};
   plan.renames = plan.steps;
   plan.links = {{link, "a.jpg", "new.jpg"}};
-  ASSERT_EQ(journal_->Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 1U);
+  ASSERT_EQ(journal_->Renames().Run(QStringLiteral("rename"), plan, never_, nullptr).files, 1U);
   ASSERT_EQ(ReadFile(link), "photo a");
   // By its whole name now, which the step does not know.
   std::filesystem::remove(link.for_system());
@@ -75,7 +75,7 @@ TEST_F(LinkJournal, LinksThatLeadElsewhereByNowStay) {
   plan.steps = {{a_, tree_.Path("photos/new.jpg")}};
   plan.renames = plan.steps;
   plan.links = {{link, "a.jpg", "new.jpg"}};
-  ASSERT_EQ(journal_->Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 1U);
+  ASSERT_EQ(journal_->Renames().Run(QStringLiteral("rename"), plan, never_, nullptr).files, 1U);
   std::filesystem::remove(link.for_system());
   ASSERT_TRUE(MakeLink("other.jpg", link));
   EXPECT_THAT(Undo().findings, IsEmpty());

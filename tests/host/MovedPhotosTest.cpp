@@ -533,7 +533,7 @@ TEST_F(MovedPhotos, AreFoundByUndoAfterTheyMoved) {
           {At(std::string("trip/") + name + ".jpg"), At(std::string("trip/R_") + name + ".jpg")});
     }
     plan.renames = plan.steps;
-    ASSERT_EQ(journal.Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 2U);
+    ASSERT_EQ(journal.Renames().Run(QStringLiteral("rename"), plan, never_, nullptr).files, 2U);
   }
   // One of them gets yet another name, then the folder moves.
   Move("trip/R_a.jpg", "trip/beach.jpg");
@@ -575,7 +575,7 @@ TEST_F(MovedPhotos, BringTheirSidecarsToUndo) {
     order.name = QStringLiteral("shift");
     order.edit.shift = std::chrono::seconds(3600);
     const EditResult edited =
-        EditPhotos(journal, *locker_, order,
+        EditPhotos(journal.Edits(), *locker_, order,
                    FindSidecars({At("trip/a.jpg"), At("trip/b.jpg"), At("trip/c.jpg")}), never_, nullptr);
     ASSERT_EQ(edited.photos, 3U);
     ASSERT_EQ(edited.sidecars, 4U);
@@ -615,7 +615,7 @@ TEST_F(MovedPhotos, BringTheirSidecarsToUndoWhenTheyExchangedTheirNames) {
       }
     }
     plan.renames = plan.steps;
-    ASSERT_EQ(journal.Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 6U);
+    ASSERT_EQ(journal.Renames().Run(QStringLiteral("rename"), plan, never_, nullptr).files, 6U);
   }
   for (const char* const end : {".jpg", ".xmp"}) {
     const auto name = [end](const char* base) { return std::string(base) + end; };
@@ -644,7 +644,7 @@ TEST_F(MovedPhotos, BringTheirSidecarsToTheUndoOfARename) {
       plan.steps.push_back({At(std::string("trip/a") + end), At(std::string("trip/R") + end)});
     }
     plan.renames = plan.steps;
-    ASSERT_EQ(journal.Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 2U);
+    ASSERT_EQ(journal.Renames().Run(QStringLiteral("rename"), plan, never_, nullptr).files, 2U);
   }
   Move("trip", "2021/trip");
   ASSERT_EQ(Run().moved, 1U);
@@ -665,8 +665,9 @@ TEST_F(MovedPhotos, KeepTheirOriginalsWhenOthersGiveThemAnotherExtension) {
       fs::copy_file(file.native(), side.native());
       Append(side, "edited");
     };
-    ASSERT_EQ(EditPhotos(journal, *locker_, QStringLiteral("edit"), {photo}, write, never_, nullptr).files,
-              1U);
+    ASSERT_EQ(
+        EditPhotos(journal.Edits(), *locker_, QStringLiteral("edit"), {photo}, write, never_, nullptr).files,
+        1U);
   }
   Move("a.jpg", "b.jpeg");
   Run();

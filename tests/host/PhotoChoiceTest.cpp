@@ -101,7 +101,7 @@ TEST(PhotoChoice, RefusesOneByOneWhatCannotBeEdited) {
       ChooseForEdit({in / "notes.txt", in / "b.jpg", in / ".hidden.jpg", in, in / "gone.jpg", pipe.Path()});
   EXPECT_THAT(choice.photos, ElementsAre(in / "b.jpg", in / "a.jpg"));
   std::vector<std::string> causes;
-  for (const UndoFinding& finding : choice.refused) {
+  for (const FileFinding& finding : choice.refused) {
     causes.push_back(finding.cause);
   }
   EXPECT_THAT(causes, ElementsAre((in / "notes.txt").utf8string() + " is not named like a photo.",

@@ -101,7 +101,7 @@ TEST_F(SaveChecking, TellsOfFoldersThatCannotBeWritten) {
   EXPECT_THAT(report.findings, SizeIs(3));
   RenamePlan plan;
   plan.renames = {{photo, tree.Path("card/a/2.jpg")}, {tree.Path("card/b/1.jpg"), tree.Path("card/b/2.jpg")}};
-  const std::vector<UndoFinding> faults = FindRenameFaults(plan);
+  const std::vector<FileFinding> faults = FindRenameFaults(plan);
   ASSERT_THAT(faults, SizeIs(1));
   EXPECT_EQ(faults[0].cause, "Cannot rename " + photo.utf8string() +
                                  ": its folder cannot be written to; change the permissions of " +

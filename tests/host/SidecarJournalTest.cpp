@@ -22,9 +22,9 @@ class SidecarJournal : public JournalTest {
   /// Up to the moment before the first of them is replaced.
   void Begin() {
     journal_->BeginStep(QStringLiteral("edit"));
-    photoSide_ = journal_->PlanEdit(photo_);
+    photoSide_ = journal_->Edits().PlanEdit(photo_);
     Write(photoSide_, "photo after");
-    sidecarSide_ = journal_->PlanSidecar(sidecar_);
+    sidecarSide_ = journal_->Edits().PlanSidecar(sidecar_);
     Write(sidecarSide_, "sidecar after");
     Register(photo_);
     Register(sidecar_);
@@ -41,7 +41,7 @@ class SidecarJournal : public JournalTest {
     Begin();
     ReplacePhoto();
     ReplaceSidecar();
-    journal_->FinishEdit();
+    journal_->Edits().FinishEdit();
     journal_->EndStep();
   }
 
@@ -110,7 +110,7 @@ TEST_F(SidecarJournal, TakesTheFirstBackWhenTheOtherFailsInTheSameRun) {
   Begin();
   ReplacePhoto();
   sidecarSide_.remove();
-  journal_->DropEdit();
+  journal_->Edits().DropEdit();
   journal_->EndStep();
   ExpectBoth("before");
   EXPECT_THAT(journal_->Steps(), IsEmpty());

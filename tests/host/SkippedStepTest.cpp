@@ -16,7 +16,7 @@ class SkippedStepTest : public Zenvora::Test::JournalTest {
     RenamePlan plan;
     plan.steps = {{from, to}};
     plan.renames = plan.steps;
-    journal_->Rename(QStringLiteral("rename"), plan, never_, nullptr);
+    journal_->Renames().Run(QStringLiteral("rename"), plan, never_, nullptr);
   }
   std::vector<BlockedStep> Skip() {
     const auto skipped = journal_->SkipLast();

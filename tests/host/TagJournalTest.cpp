@@ -49,7 +49,7 @@ class TagJournal : public ::testing::Test {
     }
     wishes.add = add;
     wishes.remove = remove;
-    return journal_.ChangeTags(QStringLiteral("tag"), wishes).files;
+    return journal_.Tags().Run(QStringLiteral("tag"), wishes).files;
   }
   std::size_t Undo() { return journal_.UndoLast(never_, nullptr).files; }
   std::size_t Redo() { return journal_.RedoLast(never_, nullptr).files; }
@@ -140,7 +140,7 @@ TEST_F(TagJournal, KeepsTagsWithAPhotoThatIsRenamed) {
   RenamePlan plan;
   plan.steps = {{Photo("a.jpg"), Photo("x.jpg")}};
   plan.renames = plan.steps;
-  ASSERT_EQ(journal_.Rename(QStringLiteral("rename"), plan, never_, nullptr).files, 1U);
+  ASSERT_EQ(journal_.Renames().Run(QStringLiteral("rename"), plan, never_, nullptr).files, 1U);
   EXPECT_THAT(TagsOf("x.jpg"), ElementsAre(Own("Beach")));
   EXPECT_EQ(Undo(), 1U);
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre(Own("Beach")));
@@ -155,7 +155,7 @@ TEST_F(TagJournal, KeepsTagsWithAPhotoThatGoesToTheTrash) {
     return SeenFile{path, state.size, state.modifiedNs};
   };
   const TrashPhoto going = {known(Photo("a.jpg")), known(Photo("b.jpg")), {}};
-  ASSERT_EQ(journal_.MoveToTrash(QStringLiteral("trash"), {going}, never_, nullptr).photos, 1U);
+  ASSERT_EQ(journal_.Trash().Run(QStringLiteral("trash"), {going}, never_, nullptr).photos, 1U);
   EXPECT_THAT(catalogue_.PhotoTags(), IsEmpty());
   ASSERT_EQ(catalogue_.Tags().size(), 1U);
   EXPECT_EQ(catalogue_.Tags()[0].photos, 0U);

@@ -69,7 +69,7 @@ class TrashJournal : public ::testing::Test {
   }
 
   TrashResult Move(const std::vector<TrashPhoto>& photos) {
-    return journal_->MoveToTrash(QStringLiteral("trash"), photos, never_, nullptr);
+    return journal_->Trash().Run(QStringLiteral("trash"), photos, never_, nullptr);
   }
   TrashResult MoveNames(const std::vector<std::string>& names) {
     std::vector<TrashPhoto> photos;
@@ -275,7 +275,7 @@ TEST_F(TrashJournal, KeepsWhatWasMovedBeforeAnInterruption) {
   }
   std::atomic<bool> cancelled{false};
   const TrashResult result =
-      journal_->MoveToTrash(QStringLiteral("trash"), {Going("a.jpg"), Going("b.jpg"), Going("c.jpg")},
+      journal_->Trash().Run(QStringLiteral("trash"), {Going("a.jpg"), Going("b.jpg"), Going("c.jpg")},
                             cancelled, [&cancelled](std::size_t done, std::size_t total) {
                               EXPECT_EQ(total, 3U);
                               cancelled = done == 2;
@@ -364,7 +364,7 @@ TEST_F(TrashJournal, BringsBackWhatIsStillThereWhenTheTrashWasEmptied) {
   for (const char* const name : {"keep.jpg", "a.jpg", "b.jpg", "z.jpg"}) {
     Make(name, name);
   }
-  journal_->Rename(QStringLiteral("rename"), RenamePlanOf("z.jpg", "y.jpg"), never_, nullptr);
+  journal_->Renames().Run(QStringLiteral("rename"), RenamePlanOf("z.jpg", "y.jpg"), never_, nullptr);
   MoveNames({"a.jpg", "b.jpg"});
   (bin_ / "0-a.jpg").remove();
   (bin_ / "0-a.jpg.note").remove();
@@ -597,7 +597,7 @@ TEST_F(TrashJournal, LetsEditsBeforeBeTakenBack) {
   Make("keep.jpg", "K");
   const ioPath photo = Make("a.jpg", "old");
   EditPhotos(
-      *journal_, *locker_, QStringLiteral("edit"), {photo},
+      journal_->Edits(), *locker_, QStringLiteral("edit"), {photo},
       [](const ioPath&, const ioPath& side) { WriteBytes(side, "edited"); }, never_, nullptr);
   MoveNames({"a.jpg"});
   EXPECT_EQ(Undo().files, 1U);
@@ -617,7 +617,7 @@ TEST_F(TrashJournal, LetsRenamesAroundItBeTakenBack) {
   Store({"keep.jpg", "a.jpg", "b.jpg"});
   const std::vector<std::string> all = Catalogued();
   MoveNames({"a.jpg"});
-  journal_->Rename(QStringLiteral("rename"), RenamePlanOf("b.jpg", "a.jpg"), never_, nullptr);
+  journal_->Renames().Run(QStringLiteral("rename"), RenamePlanOf("b.jpg", "a.jpg"), never_, nullptr);
   EXPECT_EQ(Undo().files, 1U);
   EXPECT_EQ(Undo().files, 1U);
   EXPECT_EQ(Photos(), (Files{{"keep.jpg", "keep.jpg"}, {"a.jpg", "a.jpg"}, {"b.jpg", "b.jpg"}}));
@@ -630,7 +630,7 @@ TEST_F(TrashJournal, KnowsAPhotoWhoseNameAnotherHadMeanwhile) {
   }
   Store({"keep.jpg", "a.jpg", "b.jpg"});
   MoveNames({"a.jpg"});
-  journal_->Rename(QStringLiteral("rename"), RenamePlanOf("b.jpg", "a.jpg"), never_, nullptr);
+  journal_->Renames().Run(QStringLiteral("rename"), RenamePlanOf("b.jpg", "a.jpg"), never_, nullptr);
   journal_->SkipLast();
   EXPECT_TRUE(Undo().stands);
   ASSERT_TRUE(Photo("a.jpg").rename(Photo("elsewhere.jpg")));
@@ -809,7 +809,7 @@ class KilledTrashJournal : public TrashJournal {
   }
   Work Moving() const {
     return [this](UndoJournal& journal) {
-      journal.MoveToTrash(QStringLiteral("trash"), Plan(), never_, nullptr);
+      journal.Trash().Run(QStringLiteral("trash"), Plan(), never_, nullptr);
     };
   }
 

@@ -70,7 +70,7 @@ class UndoJournalTest : public ::testing::Test {
   }
 
   UndoResult Rename(const std::vector<std::pair<std::string, std::string>>& steps) {
-    return journal_->Rename(QStringLiteral("rename"), Plan(steps), never_, nullptr);
+    return journal_->Renames().Run(QStringLiteral("rename"), Plan(steps), never_, nullptr);
   }
 
   /// Puts new content into the photos, as an edit does.
@@ -83,7 +83,7 @@ class UndoJournalTest : public ::testing::Test {
   }
   UndoResult Edit(const std::vector<ioPath>& photos,
                   const std::function<void(const ioPath& photo, const ioPath& side)>& write) {
-    return EditPhotos(*journal_, *locker_, QStringLiteral("edit"), photos, write, never_, nullptr);
+    return EditPhotos(journal_->Edits(), *locker_, QStringLiteral("edit"), photos, write, never_, nullptr);
   }
 
   /// Two photos change names.
@@ -100,7 +100,7 @@ class UndoJournalTest : public ::testing::Test {
   /// An edit up to the moment before the side file replaces the photo. Returns the side file.
   ioPath BeginEdit(const ioPath& photo, const std::string& content) {
     journal_->BeginStep(QStringLiteral("edit"));
-    ioPath side = journal_->PlanEdit(photo);
+    ioPath side = journal_->Edits().PlanEdit(photo);
     WriteBytes(side, content);
     return side;
   }
@@ -207,9 +207,9 @@ TEST_F(UndoJournalTest, GivesOldNamesBackWhenInterrupted) {
   Make("b.jpg", "B");
   Make("c.jpg", "C");
   std::atomic<bool> cancelled{false};
-  const UndoResult result =
-      journal_->Rename(QStringLiteral("rename"), Plan({{"a.jpg", "x"}, {"b.jpg", "y"}, {"c.jpg", "z"}}),
-                       cancelled, [&](std::size_t done, std::size_t) { cancelled = done == 2; });
+  const UndoResult result = journal_->Renames().Run(
+      QStringLiteral("rename"), Plan({{"a.jpg", "x"}, {"b.jpg", "y"}, {"c.jpg", "z"}}), cancelled,
+      [&](std::size_t done, std::size_t) { cancelled = done == 2; });
   EXPECT_TRUE(result.cancelled);
   EXPECT_EQ(result.files, 0U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}, {"c.jpg", "C"}}));
@@ -220,8 +220,8 @@ TEST_F(UndoJournalTest, TellsOfItsProgress) {
   Make("a.jpg", "A");
   Make("b.jpg", "B");
   std::vector<std::pair<std::size_t, std::size_t>> told;
-  journal_->Rename(QStringLiteral("rename"), Plan({{"a.jpg", "x"}, {"b.jpg", "y"}}), never_,
-                   [&](std::size_t done, std::size_t all) { told.emplace_back(done, all); });
+  journal_->Renames().Run(QStringLiteral("rename"), Plan({{"a.jpg", "x"}, {"b.jpg", "y"}}), never_,
+                          [&](std::size_t done, std::size_t all) { told.emplace_back(done, all); });
   EXPECT_EQ(told, (std::vector<std::pair<std::size_t, std::size_t>>{{1, 2}, {2, 2}}));
 }
 
@@ -495,7 +495,7 @@ TEST_F(UndoJournalTest, PointsAnAdoptedPhotoBack) {
   }
   journal_->BeginStep(QStringLiteral("adopt"));
   Register(Photo("a.jpg"), Photo("b.jpg"));
-  journal_->FinishEdit();
+  journal_->Edits().FinishEdit();
   journal_->EndStep();
   EXPECT_TRUE(journal_->Undo());
   EXPECT_EQ(Catalogue(catalogue_, Catalogue::Mode::ReadOnly).Photos().at(0).path, Photo("a.jpg"));
@@ -858,7 +858,7 @@ TEST_F(UndoJournalTest, KeepsTheOriginalWhenAReplacementOnlySeemsToFail) {
   const ioPath photo = Make("a.jpg", "1");
   MovingLocker locker(photo);
   const UndoResult result = EditPhotos(
-      *journal_, locker, QStringLiteral("edit"), {photo},
+      journal_->Edits(), locker, QStringLiteral("edit"), {photo},
       [](const ioPath&, const ioPath& side) { WriteBytes(side, "2"); }, never_, nullptr);
   EXPECT_EQ(result.findings.size(), 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
@@ -1021,7 +1021,7 @@ TEST_F(UndoJournalTest, LosesNothingWhenTheJournalsDiskIsFull) {
   const ioPath photo = Make("a.jpg", std::string(4 * kSmall, 'x'));
   UndoJournal journal(place / "catalogue.sqlite", *locker_);
   const UndoResult result = EditPhotos(
-      journal, *locker_, QStringLiteral("edit"), {photo},
+      journal.Edits(), *locker_, QStringLiteral("edit"), {photo},
       [](const ioPath&, const ioPath& side) { WriteSide(side, "edited"); }, never_, nullptr);
   EXPECT_EQ(result.files, 0U);
   EXPECT_EQ(result.findings.size(), 1U);
@@ -1097,7 +1097,7 @@ void ExpectRightsGoAlong(UndoJournal& journal, IFileAccessLocker& locker, const 
   EXPECT_EQ(before.owner, wanted.owner);
   Rights after;
   EditPhotos(
-      journal, locker, QStringLiteral("edit"), {photo},
+      journal.Edits(), locker, QStringLiteral("edit"), {photo},
       [&after](const ioPath&, const ioPath& side) {
         std::ofstream(side.native()) << "edited";
         Rights others;

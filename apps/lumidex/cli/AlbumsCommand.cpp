@@ -321,7 +321,7 @@ class AlbumsRun {
     }
     try {
       OpenJournal journal(session_);
-      const std::vector<Host::AcceptResult> results = journal.Get().AcceptAlbums(StepName(albums), albums);
+      const std::vector<Host::AcceptResult> results = journal.Get().Albums().Run(StepName(albums), albums);
       bool anyChange = false;
       for (std::size_t i = 0; i < albums.size(); ++i) {
         view_.accepted.push_back({albums[i].GetModel().GetName(), results[i]});

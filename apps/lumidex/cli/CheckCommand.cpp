@@ -212,7 +212,7 @@ std::string LineOf(const CheckFinding& finding) {
 
 /// Commands that refuse the same files share a heading.
 std::string RefusedText(const CheckReport& report) {
-  std::vector<std::pair<std::set<FileAct>, std::vector<Host::UndoFinding>>> groups;
+  std::vector<std::pair<std::set<FileAct>, std::vector<Host::FileFinding>>> groups;
   for (const CheckFinding& finding : report.findings) {
     auto group = std::find_if(groups.begin(), groups.end(),
                               [&finding](const auto& other) { return other.first == finding.acts; });

@@ -231,7 +231,7 @@ class EditRun {
     {
       Progress progress(session_.console, Say(Words::tr("Editing")), Say(Words::tr("photos", "of so many")));
       result = Host::EditPhotos(
-          journal_->Get(), journal_->Locker(), order, tasks_, session_.interrupted,
+          journal_->Get().Edits(), journal_->Locker(), order, tasks_, session_.interrupted,
           [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });
     }
     view_.edited = result.photos;

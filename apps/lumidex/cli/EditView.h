@@ -32,7 +32,7 @@ struct EditView {
   std::size_t sidecars = 0;  ///< Edited along with them.
   bool turns = false;        ///< The orientation is what changes, not the date.
   std::vector<TriedEdit> tried;
-  std::vector<Host::UndoFinding> findings;
+  std::vector<Host::FileFinding> findings;
   Host::JournalRoom room;  ///< What undo has to keep and to forget for it.
   RoomWish roomWish;
   bool declined = false;  ///< The person did not want older steps forgotten.

@@ -10,7 +10,7 @@ namespace Zenvora::Lumidex::Cli {
 /// All that `lumidex info` shows.
 struct InfoView {
   std::vector<Host::PhotoInfo> photos;
-  std::vector<Host::UndoFinding> findings;  ///< What could not be read.
+  std::vector<Host::FileFinding> findings;  ///< What could not be read.
   bool interrupted = false;
 };
 

@@ -5,20 +5,20 @@
 
 namespace Zenvora::Lumidex::Cli {
 
-std::string FindingsText(const std::string& title, const std::vector<Host::UndoFinding>& findings) {
+std::string FindingsText(const std::string& title, const std::vector<Host::FileFinding>& findings) {
   if (findings.empty()) {
     return {};
   }
   std::string text = Say(Words::tr("%1:", "a heading"), {title}) + '\n';
-  for (const Host::UndoFinding& finding : findings) {
+  for (const Host::FileFinding& finding : findings) {
     text += "  " + EscapeForTerminal(finding.cause) + '\n';
   }
   return text + '\n';
 }
 
-void WriteFindings(JsonWriter& json, const std::vector<Host::UndoFinding>& findings) {
+void WriteFindings(JsonWriter& json, const std::vector<Host::FileFinding>& findings) {
   json.BeginArray("findings");
-  for (const Host::UndoFinding& finding : findings) {
+  for (const Host::FileFinding& finding : findings) {
     json.BeginObject();
     json.Path("path", finding.file);
     json.Text("cause", finding.cause);

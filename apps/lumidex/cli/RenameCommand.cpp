@@ -171,7 +171,7 @@ class RenameRun {
         QString::fromStdString("rename " + PhotosAndFiles(view_.plan.shots, view_.plan.renames.size()));
     {
       Progress progress(session_.console, Say(Words::tr("Renaming")), Say(Words::tr("files", "of so many")));
-      view_.result = journal_->Get().Rename(
+      view_.result = journal_->Get().Renames().Run(
           step, view_.plan, session_.interrupted,
           [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });
     }

@@ -225,7 +225,7 @@ class SimilarRun {
     OpenJournal journal(session_);
     {
       Progress progress(session_.console, Say(Words::tr("Moving")), Say(Words::tr("photos", "of so many")));
-      trash.result = journal.Get().MoveToTrash(
+      trash.result = journal.Get().Trash().Run(
           QStringLiteral("move similar photos to the trash"), trash.plan.photos, session_.interrupted,
           [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });
     }

@@ -215,7 +215,7 @@ class TagRun {
     if (wishes.photos.empty() || (wishes.add.empty() && wishes.remove.empty())) {
       return;
     }
-    view_.changed = journal.Get().ChangeTags(QString::fromStdString(StepName(wishes)), wishes).files;
+    view_.changed = journal.Get().Tags().Run(QString::fromStdString(StepName(wishes)), wishes).files;
     if (view_.changed > 0) {
       journal.Prune();
       view_.canBeUndone = journal.CanUndoLast();

@@ -31,7 +31,7 @@ struct TagView {
   std::vector<Host::Tag> added;
   std::vector<Host::Tag> removed;
   std::size_t changed = 0;
-  std::vector<Host::UndoFinding> findings;
+  std::vector<Host::FileFinding> findings;
   bool canBeUndone = false;
   std::vector<std::string> recovered;
 };

@@ -61,7 +61,7 @@ std::string ResultText(const UndoResult& result, bool redo) {
                 {name, GroupDigits(left)});
   }
   text += '\n';
-  if (!redo && result.kind == Host::StepKind::Import && result.files > 0) {
+  if (!redo && result.type == Host::StepType::Import && result.files > 0) {
     text += Say(Words::tr("%1 copies are in the trash now.", nullptr, Amount(result.files)),
                 {GroupDigits(result.files)}) +
             '\n';
@@ -129,7 +129,7 @@ void WriteDone(JsonWriter& json, const std::vector<UndoResult>& results) {
   json.BeginArray("done");
   for (const UndoResult& result : results) {
     json.BeginObject();
-    json.Text("kind", Host::StepKindName(result.kind));
+    json.Text("kind", Host::StepTypeName(result.type));
     json.Text("name", result.name);
     json.Number("files", static_cast<long long>(result.files));
     json.Number("lastCopies", static_cast<long long>(result.lastCopies));
@@ -150,7 +150,7 @@ void WriteLimits(JsonWriter& json, const UndoView& view) {
 
 void WriteFacts(JsonWriter& json, const UndoStep& step) {
   json.Number("number", step.number);
-  json.Text("kind", Host::StepKindName(step.kind));
+  json.Text("kind", Host::StepTypeName(step.type));
   json.Text("name", step.name);
   if (step.begun.isValid()) {
     json.Text("begun", step.begun.toUTC().toString(Qt::ISODate));

@@ -1,7 +1,6 @@
-#include "AlbumSteps.h"
-
-#include "AlbumRows.h"
 #include "CatalogueRows.h"
+
+#include <host/AlbumSteps.h>
 
 #include <optional>
 
@@ -24,6 +23,7 @@ struct AlbumSteps::Change {
   std::vector<std::pair<qlonglong, qlonglong>> photos;
 };
 
+/// Notes for the step what that changed.
 std::vector<AcceptResult> AlbumSteps::Accept(qlonglong step, const std::vector<Album>& proposals) const {
   std::vector<AcceptResult> results;
   for (const Album& proposal : proposals) {
@@ -105,7 +105,7 @@ std::vector<AlbumSteps::Change> AlbumSteps::ReadChanges(qlonglong step) const {
   return changes;
 }
 
-std::size_t AlbumSteps::TakeOut(const Change& change, std::vector<UndoFinding>& findings) const {
+std::size_t AlbumSteps::TakeOut(const Change& change, std::vector<FileFinding>& findings) const {
   const std::optional<qlonglong> album = FindAlbumById(database_, change.id);
   if (!album) {
     return 0;
@@ -144,7 +144,7 @@ qlonglong AlbumSteps::Make(const Change& change) const {
   return album;
 }
 
-std::size_t AlbumSteps::BringIn(const Change& change, std::vector<UndoFinding>& findings) const {
+std::size_t AlbumSteps::BringIn(const Change& change, std::vector<FileFinding>& findings) const {
   std::optional<qlonglong> album = FindAlbumById(database_, change.id);
   if (!album && !change.created) {
     findings.push_back({database_.File(), "The album " + ShownName(change.name) + " is not there any more"});
@@ -169,12 +169,42 @@ std::size_t AlbumSteps::BringIn(const Change& change, std::vector<UndoFinding>& 
   return photos;
 }
 
-std::size_t AlbumSteps::Reverse(qlonglong step, bool redo, std::vector<UndoFinding>& findings) const {
+/// An album that others filled since stays, with a finding. Returns how many photos went out or came in.
+std::size_t AlbumSteps::ReverseRows(qlonglong step, bool redo, std::vector<FileFinding>& findings) const {
   std::size_t photos = 0;
   for (const Change& change : ReadChanges(step)) {
     photos += redo ? BringIn(change, findings) : TakeOut(change, findings);
   }
   return photos;
+}
+
+std::vector<AcceptResult> AlbumSteps::Run(const QString& name, const std::vector<Album>& proposals) {
+  WriteTransaction transaction(journal_.Database());
+  const qlonglong step = journal_.Begin(StepType::Albums, name, 0, {});
+  std::vector<AcceptResult> results = Accept(step, proposals);
+  bool anyChange = false;
+  qlonglong photos = 0;
+  for (const AcceptResult& result : results) {
+    anyChange = anyChange || result.created || result.photosAdded > 0;
+    photos += result.photosAdded;
+  }
+  if (anyChange) {
+    journal_.Close(step, static_cast<std::size_t>(photos));
+    transaction.Commit();
+    journal_.DropUndone();
+  }
+  return results;
+}
+
+UndoResult AlbumSteps::Reverse(StepRow& step, bool redo, const std::atomic<bool>& /*cancelled*/,
+                               const UndoProgress& /*progress*/) {
+  UndoResult result;
+  result.name = step.name;
+  WriteTransaction transaction(journal_.Database());
+  result.files = ReverseRows(step.number, redo, result.findings);
+  journal_.SetState(step.number, redo ? State::Done : State::Undone);
+  transaction.Commit();
+  return result;
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -2,7 +2,6 @@
 
 #include "CatalogueRows.h"
 #include "JournalPaths.h"
-#include "MovedCompanions.h"
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/tavolin/Uuid.h>
@@ -202,13 +201,9 @@ std::vector<PhotoRecord> CatalogueMoves::SomeBelow(const ioPath& folder, int mos
 }
 
 CatalogueMoves::Outcome CatalogueMoves::Follow(const std::vector<FollowedPhoto>& photos,
+                                               const std::vector<MovedName>& companions,
                                                const std::vector<PhotoRecord>& others) const {
   Outcome outcome;
-  std::vector<MovedName> names;
-  for (const FollowedPhoto& photo : photos) {
-    names.emplace_back(photo.from, photo.record.path);
-  }
-  const std::vector<MovedName> companions = FindMovedCompanions(names);
   WriteTransaction transaction(database_);
   {
     PathExchange paths(database_);

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -27,6 +28,9 @@ struct FollowedPhoto {
   ioPath from;
   PhotoRecord record;
 };
+
+/// A former and a present name.
+using MovedName = std::pair<ioPath, ioPath>;
 
 /// The part of the catalogue by which a scan knows photos again under other names. The database must outlive
 /// it, and so must the thread that it belongs to.
@@ -55,7 +59,9 @@ class CatalogueMoves {
   /// of it or, when it throws, nothing. A photo that the catalogue has under one of the new names and that is
   /// not given another is lost, under a name that no file has. What another process changed meanwhile is
   /// passed over.
-  Outcome Follow(const std::vector<FollowedPhoto>& photos, const std::vector<PhotoRecord>& others) const;
+  /// Steps of the journal follow the photos, and `companions`, which moved along with them.
+  Outcome Follow(const std::vector<FollowedPhoto>& photos, const std::vector<MovedName>& companions,
+                 const std::vector<PhotoRecord>& others) const;
 
   /// Notes where volumes are.
   void StoreVolumes(const std::unordered_map<std::string, QString>& volumes) const;

@@ -181,4 +181,17 @@ void UpdatePhotoRow(const CatalogueDatabase& database, const PhotoRecord& photo)
   database.Run(query);
 }
 
+const char* TagTypeName(TagType type) {
+  switch (type) {
+    case TagType::Own:
+      break;
+    case TagType::System:
+      return "system";
+    case TagType::Icon:
+      return "icon";
+    case TagType::Automatic:
+      return "automatic";
+  }
+  return "own";
+}
 }  // namespace Zenvora::Lumidex::Host

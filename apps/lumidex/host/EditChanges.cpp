@@ -13,12 +13,9 @@ ioPath SideName(const ioPath& photo) {
   return photo.parent_path() / ioPath(".lumidex-" + token + photo.extension().utf8string());
 }
 
-std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step) {
-  QSqlQuery query = database.Prepare(
-      "SELECT number, state, path, side, adopted, digest_before, digest_after, goes_with, kept_ending "
-      "FROM changes WHERE step = ?"
-      " ORDER BY number");
-  query.addBindValue(step);
+namespace {
+
+std::vector<ChangeRow> ReadRows(const CatalogueDatabase& database, QSqlQuery query) {
   database.Run(query);
   std::vector<ChangeRow> changes;
   while (database.Next(query)) {
@@ -37,6 +34,42 @@ std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong 
     changes.push_back(std::move(change));
   }
   return changes;
+}
+
+}  // namespace
+
+std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step) {
+  QSqlQuery query = database.Prepare(
+      "SELECT number, state, path, side, adopted, digest_before, digest_after, goes_with, kept_ending"
+      " FROM changes WHERE step = ? ORDER BY number");
+  query.addBindValue(step);
+  return ReadRows(database, std::move(query));
+}
+
+std::vector<ChangeRow> ReadAllChanges(const CatalogueDatabase& database) {
+  return ReadRows(database,
+                  database.Prepare("SELECT number, state, path, side, adopted, digest_before, digest_after,"
+                                   " goes_with, kept_ending FROM changes"));
+}
+
+std::vector<std::vector<ChangeRow>> GroupChanges(std::vector<ChangeRow> changes) {
+  std::vector<std::vector<ChangeRow>> groups;
+  for (ChangeRow& change : changes) {
+    const bool joins =
+        change.goesWith != 0 && !groups.empty() && groups.back().front().number == change.goesWith;
+    if (!joins) {
+      groups.emplace_back();
+    }
+    groups.back().push_back(std::move(change));
+  }
+  return groups;
+}
+
+void SetChangeState(const CatalogueDatabase& database, qlonglong change, State state) {
+  QSqlQuery query = database.Prepare("UPDATE changes SET state = ? WHERE number = ?");
+  query.addBindValue(static_cast<int>(state));
+  query.addBindValue(change);
+  database.Run(query);
 }
 
 void StoreChange(const CatalogueDatabase& database, const ChangeRow& change, std::uint64_t keptSize) {

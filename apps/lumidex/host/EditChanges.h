@@ -40,6 +40,11 @@ ioPath SideName(const ioPath& photo);
 
 /// Of a step, in the order in which they were made.
 std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step);
+/// Of all steps.
+std::vector<ChangeRow> ReadAllChanges(const CatalogueDatabase& database);
+/// Photos with their sidecars, of which all or none is to be changed.
+std::vector<std::vector<ChangeRow>> GroupChanges(std::vector<ChangeRow> changes);
+void SetChangeState(const CatalogueDatabase& database, qlonglong change, State state);
 /// All but the step and the path.
 void StoreChange(const CatalogueDatabase& database, const ChangeRow& change, std::uint64_t keptSize);
 

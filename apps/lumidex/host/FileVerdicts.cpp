@@ -157,16 +157,6 @@ FileVerdict JudgeRename(const ioPath& file) {
                        : Refusal(Kind::Folder, "Cannot rename " + file.utf8string() + ": " + fault);
 }
 
-std::vector<UndoFinding> FindRenameFaults(const RenamePlan& plan) {
-  std::vector<UndoFinding> faults;
-  for (const RenameMove& move : plan.renames) {
-    if (FileVerdict verdict = JudgeRename(move.from); verdict.IsRefused()) {
-      faults.push_back({move.from, std::move(verdict.text)});
-    }
-  }
-  return faults;
-}
-
 FileVerdict JudgeTrash(const ioPath& photo) {
   const auto stays = [&photo](Kind kind, const std::string& why) {
     return Refusal(kind, photo.utf8string() + " stays: " + why + ".");

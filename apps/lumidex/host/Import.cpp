@@ -3,7 +3,7 @@
 #include "FileCopy.h"
 #include "FolderEntries.h"
 #include "ImportManifest.h"
-#include "ImportSteps.h"
+#include "ImportRows.h"
 #include "ProcessLock.h"
 #include "VolumesSeen.h"
 

@@ -1,5 +1,3 @@
-#include "ImportSteps.h"
-
 #include "CatalogueRows.h"
 #include "ContentHash.h"
 #include "FileMoves.h"
@@ -7,6 +5,7 @@
 #include "ImportManifest.h"
 
 #include <host/HostError.h>
+#include <host/ImportSteps.h>
 #include <host/ShotNames.h>
 
 #include <zenvora/app/Application.h>
@@ -23,19 +22,6 @@
 namespace Zenvora::Lumidex::Host {
 
 namespace {
-
-/// As the journal has it, in English.
-QString StepName(std::size_t files, const ioPath& folder) {
-  return QStringLiteral("import %1 %2 to %3")
-      .arg(files)
-      .arg(files == 1 ? QStringLiteral("file") : QStringLiteral("files"), folder.qstring());
-}
-
-void DeleteStep(const CatalogueDatabase& database, qlonglong step) {
-  QSqlQuery query = database.Prepare("DELETE FROM steps WHERE number = ?");
-  query.addBindValue(step);
-  database.Run(query);
-}
 
 std::set<ioPath> FoldersOf(const std::vector<ImportedCopy>& copies) {
   std::set<ioPath> folders;
@@ -101,76 +87,6 @@ std::optional<Fault> FindFault(const ImportedCopy& copy) {
 }
 
 }  // namespace
-
-// --- The tables
-
-qlonglong ImportRows::Note(qlonglong step, const ioPath& folder,
-                           const std::vector<ImportedCopy>& copies) const {
-  WriteTransaction transaction(database_);
-  if (step == 0) {
-    QSqlQuery query = database_.Prepare(
-        "INSERT INTO steps (kind, name, begun, state, files, day)"
-        " VALUES (?, ?, ?, ?, 0, (SELECT coalesce(max(count), 0) FROM days_of_use))");
-    query.addBindValue(static_cast<int>(StepKind::Import));
-    query.addBindValue(StepName(copies.size(), folder));
-    // Empty where the clock is beyond what can be written.
-    query.addBindValue(NotNull(App::GetCurrentDateTime().toUTC().toString(Qt::ISODate)));
-    query.addBindValue(static_cast<int>(State::Doing));
-    database_.Run(query);
-    step = query.lastInsertId().toLongLong();
-  }
-  {
-    QSqlQuery query = database_.Prepare(
-        "INSERT INTO imported (step, path, source, size, modified_ns, digest) VALUES (?, ?, ?, ?, ?, ?)");
-    for (const ImportedCopy& copy : copies) {
-      query.addBindValue(step);
-      query.addBindValue(PathBytes(copy.path));
-      query.addBindValue(PathBytes(copy.source));
-      query.addBindValue(static_cast<qlonglong>(copy.size));
-      query.addBindValue(static_cast<qlonglong>(copy.modifiedNs));
-      query.addBindValue(QByteArray::fromHex(QByteArray::fromStdString(copy.sha256)));
-      database_.Run(query);
-    }
-  }
-  transaction.Commit();
-  return step;
-}
-
-void ImportRows::Drop(qlonglong step, const ioPath& path) const {
-  QSqlQuery query = database_.Prepare("DELETE FROM imported WHERE step = ? AND path = ?");
-  query.addBindValue(step);
-  query.addBindValue(PathBytes(path));
-  database_.Run(query);
-}
-
-std::size_t ImportRows::Close(qlonglong step) const {
-  const std::vector<ImportedCopy> copies = Copies(step);
-  if (copies.empty()) {
-    DeleteStep(database_, step);
-    return 0;
-  }
-  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ?, name = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(State::Done));
-  query.addBindValue(static_cast<qlonglong>(copies.size()));
-  query.addBindValue(StepName(copies.size(), copies.front().path.parent_path()));
-  query.addBindValue(step);
-  database_.Run(query);
-  return copies.size();
-}
-
-std::vector<ImportedCopy> ImportRows::Copies(qlonglong step) const {
-  QSqlQuery query = database_.Prepare(
-      "SELECT path, source, size, modified_ns, digest FROM imported WHERE step = ? ORDER BY number");
-  query.addBindValue(step);
-  database_.Run(query);
-  std::vector<ImportedCopy> copies;
-  while (database_.Next(query)) {
-    copies.push_back({PathOf(query.value(0)), PathOf(query.value(1)),
-                      static_cast<std::uint64_t>(query.value(2).toLongLong()), query.value(3).toLongLong(),
-                      query.value(4).toByteArray().toHex().toStdString()});
-  }
-  return copies;
-}
 
 // --- What was broken off
 
@@ -318,9 +234,48 @@ State ImportSteps::DoAgain(qlonglong step, const std::atomic<bool>& cancelled, c
   return anyBack ? State::Done : anyHope ? State::Undone : State::GivenUp;
 }
 
-State ImportSteps::Reverse(qlonglong step, bool redo, const std::atomic<bool>& cancelled,
-                           const UndoProgress& progress, UndoResult& result) const {
-  return redo ? DoAgain(step, cancelled, progress, result) : TakeBack(step, cancelled, progress, result);
+UndoResult ImportSteps::Reverse(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                                const UndoProgress& progress) {
+  UndoResult result;
+  result.name = step.name;
+  RequireIdle(step.number);
+  journal_.SetState(step.number, redo ? State::Redoing : State::Undoing);
+  const State state = redo ? DoAgain(step.number, cancelled, progress, result)
+                           : TakeBack(step.number, cancelled, progress, result);
+  journal_.EndReversal(step.number, state, result);
+  result.stands = !redo && state == State::Done;
+  return result;
+}
+
+void ImportSteps::Recover(StepRow& step) {
+  if (IsAtWork(step.number)) {
+    return;
+  }
+  const std::string name = "\"" + step.name.toStdString() + "\"";
+  if (const std::optional<ioPath> away = FindFolderAway(step.number)) {
+    journal_.Note(name + " had been broken off and is finished once " + away->utf8string() +
+                  " can be reached again.");
+    return;
+  }
+  if (step.state == State::Doing) {
+    const std::size_t files = Settle(step.number);
+    journal_.Note(name + " had been broken off; " + std::to_string(files) +
+                  (files == 1 ? " copy is" : " copies are") + " there. The same import copies the rest.");
+    return;
+  }
+  const std::atomic<bool> never{false};
+  journal_.NoteReversal(step, Reverse(step, step.state == State::Redoing, never, nullptr), false);
+}
+
+void ImportSteps::AddTraces(qlonglong step, StepTraces& traces) const {
+  for (const ImportedCopy& copy : rows_.Copies(step)) {
+    traces.made.insert(copy.path.utf8string());
+  }
+  for (const TrashedFile& file : trash_.Files(step)) {
+    if (file.state == State::Done) {
+      traces.gone.insert(file.file.path.utf8string());
+    }
+  }
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -41,23 +41,23 @@ class Walk {
     database_.Run(query);
     std::vector<Step> steps;
     while (database_.Next(query)) {
-      steps.push_back({query.value(0).toLongLong(), static_cast<StepKind>(query.value(1).toInt()),
+      steps.push_back({query.value(0).toLongLong(), static_cast<StepType>(query.value(1).toInt()),
                        query.value(2).toByteArray()});
     }
     query.finish();
     for (const Step& step : steps) {
       switch (step.kind) {
-        case StepKind::Rename:
+        case StepType::Rename:
           RewriteMoves(step);
           break;
-        case StepKind::Edit:
+        case StepType::Edit:
           RewriteChanges(step.number);
           break;
-        case StepKind::Trash:
+        case StepType::Trash:
           RewriteColumn("SELECT number, kept FROM trashed WHERE step = ?",
                         "UPDATE trashed SET kept = ? WHERE number = ?", step.number);
           break;
-        case StepKind::Import:
+        case StepType::Import:
           RewriteColumn("SELECT number, path FROM imported WHERE step = ?",
                         "UPDATE imported SET path = ? WHERE number = ?", step.number);
           break;
@@ -70,7 +70,7 @@ class Walk {
  private:
   struct Step {
     qlonglong number = 0;
-    StepKind kind = StepKind::Unknown;
+    StepType kind = StepType::Unknown;
     QByteArray moves;
   };
 

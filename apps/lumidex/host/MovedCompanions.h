@@ -1,14 +1,12 @@
 #pragma once
 
+#include "CatalogueMoves.h"
+
 #include <zenvora/core/ioPath.h>
 
-#include <utility>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
-
-/// A former and a present name.
-using MovedName = std::pair<ioPath, ioPath>;
 
 /// What lies beside photos that others moved and must have gone along with them: sidecars, thumbnails and the
 /// like of the same shot that are not where they were. What stayed behind, or was left a copy there, is not

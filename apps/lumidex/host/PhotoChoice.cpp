@@ -1,8 +1,8 @@
 #include "FolderEntries.h"
+#include "LinkSearch.h"
 #include "RenameNames.h"
 
 #include <host/PhotoChoice.h>
-#include <host/RenameLinks.h>
 #include <host/ShotNames.h>
 
 #include <zenvora/core/ErrorText.h>

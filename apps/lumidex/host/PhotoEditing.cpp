@@ -32,13 +32,13 @@ ioPath FileOf(const ioPath& photo) {
 
 class EditRunner {
  public:
-  EditRunner(UndoJournal& journal, IFileAccessLocker& locker, const EditOrder& order, const WriteSide& write)
-      : journal_(journal), locker_(locker), order_(order), write_(write) {}
+  EditRunner(EditSteps& steps, IFileAccessLocker& locker, const EditOrder& order, const WriteSide& write)
+      : steps_(steps), locker_(locker), order_(order), write_(write) {}
 
   EditResult Run(const std::vector<EditTask>& tasks, const std::atomic<bool>& cancelled,
                  const UndoProgress& progress) {
     result_.name = order_.name;
-    journal_.BeginStep(order_.name);
+    steps_.BeginStep(order_.name);
     std::size_t looked = 0;
     for (const EditTask& task : tasks) {
       if (cancelled) {
@@ -72,12 +72,12 @@ class EditRunner {
     std::vector<Side> sides;
     bool isFound = false;
     try {
-      const ioPath side = journal_.PlanEdit(task.photo);
+      const ioPath side = steps_.PlanEdit(task.photo);
       const FileVerdict failure = Edit(task, side, sides);
       if (failure.IsRefused()) {
         Find(task, failure.text);
         isFound = true;
-        journal_.DropEdit();
+        steps_.DropEdit();
         return;
       }
     } catch (const HostError& failure) {
@@ -114,7 +114,7 @@ class EditRunner {
 
   void Finish(const EditTask& task) {
     try {
-      journal_.FinishEdit();
+      steps_.FinishEdit();
     } catch (const HostError& failure) {
       // Not to be dropped: the next journal finds out how far it was.
       TellLater(task, failure);
@@ -129,7 +129,7 @@ class EditRunner {
 
   void End(const std::vector<EditTask>& tasks) {
     try {
-      journal_.EndStep();
+      steps_.EndStep();
     } catch (const HostError& failure) {
       if (stopped_.empty() && !tasks.empty()) {
         TellLater(tasks.back(), failure);
@@ -153,7 +153,7 @@ class EditRunner {
         return verdict;
       }
       if (changes) {
-        const ioPath side = journal_.PlanSidecar(sidecar);
+        const ioPath side = steps_.PlanSidecar(sidecar);
         Strandel::WriteEditedSidecar(sidecar, side, task.photo, order_.edit);
         sides.push_back(SideOf(sidecar, side));
       }
@@ -164,7 +164,7 @@ class EditRunner {
   /// The journal knows of all of them before the first takes its place.
   void Replace(std::vector<Side>& sides) {
     for (Side& side : sides) {
-      journal_.RegisterFileChange(side.item, side.item.GetPath());
+      steps_.RegisterFileChange(side.item, side.item.GetPath());
     }
     for (const Side& side : sides) {
       UndoFileHolder holder(nullptr, locker_, side.item, side.path, false);
@@ -172,7 +172,7 @@ class EditRunner {
     }
   }
 
-  UndoJournal& journal_;
+  EditSteps& steps_;
   IFileAccessLocker& locker_;
   const EditOrder& order_;
   const WriteSide& write_;
@@ -183,14 +183,14 @@ class EditRunner {
 
 }  // namespace
 
-EditResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const EditOrder& order,
+EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const EditOrder& order,
                       const std::vector<EditTask>& tasks, const std::atomic<bool>& cancelled,
                       const UndoProgress& progress) {
   const WriteSide none;
-  return EditRunner(journal, locker, order, none).Run(tasks, cancelled, progress);
+  return EditRunner(steps, locker, order, none).Run(tasks, cancelled, progress);
 }
 
-EditResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QString& name,
+EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const QString& name,
                       const std::vector<ioPath>& photos, const WriteSide& write,
                       const std::atomic<bool>& cancelled, const UndoProgress& progress) {
   EditOrder order;
@@ -199,7 +199,7 @@ EditResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QSt
   for (const ioPath& photo : photos) {
     tasks.push_back({FileOf(photo), {}});
   }
-  return EditRunner(journal, locker, order, write).Run(tasks, cancelled, progress);
+  return EditRunner(steps, locker, order, write).Run(tasks, cancelled, progress);
 }
 
 }  // namespace Zenvora::Lumidex::Host

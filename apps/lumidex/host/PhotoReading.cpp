@@ -51,4 +51,10 @@ bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding) {
   return true;
 }
 
+std::optional<PhotoRecord> ReadRecord(const ioPath& file) {
+  PhotoRecord record;
+  ScanFinding ignored;
+  return ReadPhoto(file, record, ignored) ? std::make_optional(record) : std::nullopt;
+}
+
 }  // namespace Zenvora::Lumidex::Host

@@ -1,4 +1,3 @@
-#include "FolderEntries.h"
 #include "SymbolicLinks.h"
 
 #include <host/RenameLinks.h>
@@ -70,37 +69,7 @@ class RenamedFiles {
   std::unordered_multimap<std::string, const RenameMove*> byKey_;
 };
 
-void AddLinks(const ioPath& folder, std::set<ioPath>& links, std::vector<ioPath>* folders) {
-  std::error_code ignored;
-  for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::All, ignored)) {
-    if (entry.kind == FolderEntry::Kind::Link) {
-      links.insert(folder / entry.name);
-    } else if (entry.kind == FolderEntry::Kind::Folder && folders != nullptr) {
-      folders->push_back(folder / entry.name);
-    }
-  }
-}
-
 }  // namespace
-
-std::vector<ioPath> FindLinks(const std::vector<ioPath>& flat, const std::vector<ioPath>& deep) {
-  std::set<ioPath> links;
-  std::set<ioPath> known;
-  std::vector<ioPath> folders = deep;
-  while (!folders.empty()) {
-    const ioPath folder = std::move(folders.back());
-    folders.pop_back();
-    if (known.insert(folder).second) {
-      AddLinks(folder, links, &folders);
-    }
-  }
-  for (const ioPath& folder : flat) {
-    if (known.insert(folder).second) {
-      AddLinks(folder, links, nullptr);
-    }
-  }
-  return {links.begin(), links.end()};
-}
 
 std::vector<RenameLink> PlanLinks(const std::vector<ioPath>& links, const std::vector<RenameMove>& renames) {
   std::vector<RenameLink> changes;

@@ -1,9 +1,10 @@
 #include "FolderEntries.h"
 
 #include <host/PhotoChoice.h>
-#include <host/PhotoEditing.h>
+#include <host/PhotoSidecars.h>
 #include <host/SaveChecks.h>
 #include <host/Scanner.h>
+#include <host/ShotNames.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/qtutility/DiskQuestions.h>
@@ -232,7 +233,7 @@ class Checker {
     }
     const EditChoice choice = ChooseForEdit(named);
     std::unordered_set<ioPath> known;
-    for (const UndoFinding& refused : choice.refused) {
+    for (const FileFinding& refused : choice.refused) {
       known.insert(TrueName(refused.file));
       for (const FileAct act : edits) {
         const bool isFile = QueryFile(refused.file).kind == FileState::Kind::File;

@@ -2,6 +2,7 @@
 #include "FolderWalker.h"
 #include "JournalLock.h"
 #include "MetadataReaders.h"
+#include "MovedCompanions.h"
 #include "MovedPhotos.h"
 
 #include <host/PhotoDate.h>
@@ -222,7 +223,11 @@ void ScanRun::Follow() {
   CatalogueMoves::Outcome outcome{verdict.moved.size(), verdict.lost};
   if (!options_.dryRun && !verdict.moved.empty()) {
     const JournalLock lock(catalogue_.File());
-    outcome = moves_.Follow(verdict.moved, verdict.others);
+    std::vector<MovedName> names;
+    for (const FollowedPhoto& photo : verdict.moved) {
+      names.emplace_back(photo.from, photo.record.path);
+    }
+    outcome = moves_.Follow(verdict.moved, FindMovedCompanions(names), verdict.others);
   } else if (!options_.dryRun) {
     catalogue_.Store(verdict.others);
   }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <host/StepKind.h>
+#include <host/StepType.h>
 
 namespace Zenvora::Lumidex::Host {
 

@@ -1,25 +1,11 @@
-#include "TagSteps.h"
-
 #include "CatalogueRows.h"
+
+#include <host/TagSteps.h>
 
 #include <set>
 #include <utility>
 
 namespace Zenvora::Lumidex::Host {
-
-const char* TagTypeName(TagType type) {
-  switch (type) {
-    case TagType::Own:
-      break;
-    case TagType::System:
-      return "system";
-    case TagType::Icon:
-      return "icon";
-    case TagType::Automatic:
-      return "automatic";
-  }
-  return "own";
-}
 
 std::optional<qlonglong> TagSteps::FindNumber(const Tag& tag) const {
   QSqlQuery query = database_.Prepare("SELECT number FROM tags WHERE type = ? AND name = ?");
@@ -50,6 +36,7 @@ bool TagSteps::Set(qlonglong photo, qlonglong tag, bool wanted) const {
   return query.numRowsAffected() > 0;
 }
 
+/// Notes for the step what that changed. Returns how many photos have other tags now.
 std::size_t TagSteps::Apply(qlonglong step, const TagWishes& wishes) const {
   std::vector<std::pair<qlonglong, bool>> changes;
   for (const Tag& tag : wishes.add) {
@@ -85,7 +72,8 @@ std::size_t TagSteps::Apply(qlonglong step, const TagWishes& wishes) const {
   return changed.size();
 }
 
-std::size_t TagSteps::Reverse(qlonglong step, bool redo) const {
+/// Returns of how many photos.
+std::size_t TagSteps::ReverseRows(qlonglong step, bool redo) const {
   struct Change {
     qlonglong photo;
     qlonglong tag;
@@ -104,6 +92,33 @@ std::size_t TagSteps::Reverse(qlonglong step, bool redo) const {
     photos.insert(change.photo);
   }
   return photos.size();
+}
+
+UndoResult TagSteps::Run(const QString& name, const TagWishes& wishes) {
+  UndoResult result;
+  result.name = name;
+  journal_.HoldRoom();
+  WriteTransaction transaction(journal_.Database());
+  const qlonglong step = journal_.Begin(StepType::Tags, name, 0, {});
+  result.files = Apply(step, wishes);
+  if (result.files == 0) {
+    return result;
+  }
+  journal_.Close(step, result.files);
+  transaction.Commit();
+  journal_.DropUndone();
+  return result;
+}
+
+UndoResult TagSteps::Reverse(StepRow& step, bool redo, const std::atomic<bool>& /*cancelled*/,
+                             const UndoProgress& /*progress*/) {
+  UndoResult result;
+  result.name = step.name;
+  WriteTransaction transaction(journal_.Database());
+  result.files = ReverseRows(step.number, redo);
+  journal_.SetState(step.number, redo ? State::Done : State::Undone);
+  transaction.Commit();
+  return result;
 }
 
 }  // namespace Zenvora::Lumidex::Host

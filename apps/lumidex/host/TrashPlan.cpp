@@ -1,10 +1,10 @@
 #include "FolderEntries.h"
 #include "JudgedPictures.h"
+#include "LinkSearch.h"
 #include "PictureEnd.h"
 #include "RenameNames.h"
 
 #include <host/FileVerdicts.h>
-#include <host/RenameLinks.h>
 #include <host/ShotNames.h>
 #include <host/ShotSets.h>
 #include <host/TrashPlan.h>

@@ -56,8 +56,8 @@ std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database, const char* 
     step.files = static_cast<std::size_t>(query.value(4).toULongLong());
     step.keptBytes = static_cast<std::uint64_t>(query.value(5).toDouble());
     step.daysOfUse = query.value(6).toLongLong();
-    step.kind = static_cast<StepKind>(query.value(7).toInt());
-    step.underWay = step.kind == StepKind::Import && IsUnderWay(state);
+    step.type = static_cast<StepType>(query.value(7).toInt());
+    step.underWay = step.type == StepType::Import && IsUnderWay(state);
     steps.push_back(std::move(step));
   }
   return steps;

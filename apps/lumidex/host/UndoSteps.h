@@ -3,7 +3,7 @@
 #include "CatalogueDatabase.h"
 
 #include <host/JournalRoom.h>
-#include <host/UndoJournal.h>
+#include <host/UndoTypes.h>
 
 #include <cstdint>
 #include <vector>

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <host/PhotoEditing.h>
-#include <host/RenamePlan.h>
+#include <host/PhotoSidecars.h>
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/strandel/PhotoEdit.h>
@@ -60,9 +59,6 @@ FileVerdict JudgeFailure(const ioPath& photo, const std::string& failure);
 /// Whether the file can get another name in its folder; which one is no part of it. Renaming does not change
 /// a file, so that write protection does not matter. Of a link it is the link that is renamed.
 FileVerdict JudgeRename(const ioPath& file);
-
-/// What stands against the renames of a plan, file by file; empty: nothing.
-std::vector<UndoFinding> FindRenameFaults(const RenamePlan& plan);
 
 /// Whether the photo could go to the trash when a group keeps another one in its stead.
 FileVerdict JudgeTrash(const ioPath& photo);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <host/UndoJournal.h>
+#include <host/UndoTypes.h>
 
 #include <zenvora/core/ioPath.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <host/FileFinding.h>
 #include <host/HostError.h>
-#include <host/UndoJournal.h>
 
 #include <zenvora/core/ioPath.h>
 
@@ -37,7 +37,7 @@ RenameChoice ChooseForRename(const std::vector<ioPath>& arguments);
 struct EditChoice {
   /// Each once, by its one true name: where a link was named, the photo that it leads to.
   std::vector<ioPath> photos;
-  std::vector<UndoFinding> refused;
+  std::vector<FileFinding> refused;
 };
 
 /// What stands against editing by way of a symbolic link: it leads nowhere, back to itself, or to where

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <host/EditSteps.h>
 #include <host/PhotoSidecars.h>
-#include <host/UndoJournal.h>
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/lumidex/IFileAccessLocker.h>
@@ -35,13 +35,13 @@ struct EditResult : UndoResult {
 /// moment by a file that is on the disk already; until then nothing of it changes. A photo and its sidecars
 /// are edited together or not at all. What is refused (`JudgeEdit` says the same beforehand) or fails is a
 /// finding, and the others are edited; on `cancelled` those edited before stay edited.
-EditResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const EditOrder& order,
+EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const EditOrder& order,
                       const std::vector<EditTask>& tasks, const std::atomic<bool>& cancelled,
                       const UndoProgress& progress);
 
 /// The same in another way than `Strandel::WriteEdited`, without sidecars and without asking beforehand; of a
 /// link it is the file that it leads to.
-EditResult EditPhotos(UndoJournal& journal, IFileAccessLocker& locker, const QString& name,
+EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const QString& name,
                       const std::vector<ioPath>& photos, const WriteSide& write,
                       const std::atomic<bool>& cancelled, const UndoProgress& progress);
 

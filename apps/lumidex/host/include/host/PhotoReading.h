@@ -4,6 +4,7 @@
 
 #include <zenvora/core/ioPath.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,5 +29,8 @@ struct ScanFinding {
 /// Reads one file into a record without id. False when it is no photo or cannot be read; then `finding` is
 /// set. Blocks on the disk; any thread.
 bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding);
+
+/// The same for those who do not ask why a file is none.
+std::optional<PhotoRecord> ReadRecord(const ioPath& file);
 
 }  // namespace Zenvora::Lumidex::Host

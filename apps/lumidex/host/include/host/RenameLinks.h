@@ -9,10 +9,6 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// All symbolic links in folders and, where the names of folders are in `deep`, below them; links are not
-/// followed, folders that cannot be read are passed over. Blocks on the disk.
-std::vector<ioPath> FindLinks(const std::vector<ioPath>& flat, const std::vector<ioPath>& deep);
-
 /// Which of the links lead to files that are renamed, and what they are to say then: what they say now with
 /// the new name at its end, so that a relative one stays relative. A link to a link stays. Blocks on the
 /// disk.
