@@ -35,7 +35,7 @@ setup-gallery: setup
 
 run: setup
 	cmake --preset release
-	cmake --build --preset release --target lumidex_cli
+	cmake --build --preset release --target lumidex_cli_program
 	tools/run.sh $(if $(PHOTOS),"$(PHOTOS)")
 
 test: setup test-tsan test-asan test-dev

@@ -1,12 +1,12 @@
 // Descriptors of camera files beside the bare libraries that do the unavoidable part, on the same warm files,
 // one thread.
 
-#include <host/Catalogue.h>
-#include <host/PhotoAnalysis.h>
-#include <host/PhotoReading.h>
-#include <host/Sample.h>
-#include <host/SimilarPhotos.h>
-#include <host/SimilarUpdate.h>
+#include <host/catalogue/Catalogue.h>
+#include <host/pixels/PhotoAnalysis.h>
+#include <host/shots/PhotoReading.h>
+#include <host/similar/SimilarPhotos.h>
+#include <host/similar/SimilarUpdate.h>
+#include <samples/Sample.h>
 
 #include <benchmark/benchmark.h>
 #include <exiv2/exiv2.hpp>

@@ -1,11 +1,10 @@
 // A verified import beside a plain copy of the same files followed by a hash of both sides.
 
-#include "ContentHash.h"
-
-#include <host/Catalogue.h>
-#include <host/Import.h>
-#include <host/ImportPlan.h>
-#include <host/ImportSources.h>
+#include <host/base/ContentHash.h>
+#include <host/catalogue/Catalogue.h>
+#include <host/import/Import.h>
+#include <host/import/ImportPlan.h>
+#include <host/scan/ImportSources.h>
 
 #include <zenvora/app/IFolderDialog.h>
 #include <zenvora/app/Services.h>

@@ -1,8 +1,8 @@
 // Reading metadata, and the metadata stage of a scan, beside bare Exiv2, on the same warm files, one core.
 
 #include <LumidexUtil/MetadataReaders.h>
-#include <host/PhotoReading.h>
-#include <host/Sample.h>
+#include <host/shots/PhotoReading.h>
+#include <samples/Sample.h>
 
 #include <benchmark/benchmark.h>
 #include <exiv2/exiv2.hpp>

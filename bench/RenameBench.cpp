@@ -1,8 +1,8 @@
 // Renaming ten thousand files: the journal's way beside bare calls of the system.
 
 #include <LumidexUtil/FileAccessLocker.h>
-#include <host/Catalogue.h>
-#include <host/UndoJournal.h>
+#include <host/catalogue/Catalogue.h>
+#include <host/history/UndoJournal.h>
 
 #include <benchmark/benchmark.h>
 

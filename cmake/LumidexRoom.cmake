@@ -9,7 +9,6 @@ set(LUMIDEX_FLOORS
   lumidex=1
   app=2 quillet=2 tavolin=2 strandel=2 usage=2 qtutility=2 alerts=2
   LumidexUtil=3
-  host=10 cli=80
   host_base=10 host_settings=11
   host_catalogue=20 host_pixels=20
   host_shots=30

@@ -4,7 +4,7 @@
 #include "InputFile.h"
 
 #include <LumidexUtil/HolidayAlbums.h>
-#include <host/CalendarCheck.h>
+#include <host/albums/CalendarCheck.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/app/IDownloads.h>

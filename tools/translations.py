@@ -17,7 +17,7 @@ import tempfile
 import xml.etree.ElementTree as ElementTree
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-FOLDERS = ["LumidexUtil", "platform", "apps"]
+FOLDERS = ["LumidexUtil", "platform", "host", "samples", "apps"]
 LANGUAGES = ["en_US", "de_DE", "es_ES", "fr_FR", "it_IT", "ja_JP", "nl_NL", "pt_BR", "ru_RU"]
 UNFINISHED = re.compile(
     r'<source>([^<]*)</source>(\s*(?:<comment>[^<]*</comment>\s*)?)<translation type="unfinished"></translation>')

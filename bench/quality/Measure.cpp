@@ -2,7 +2,7 @@
 
 #include "Hashes.h"
 
-#include <host/PhotoAnalysis.h>
+#include <host/pixels/PhotoAnalysis.h>
 
 #include <algorithm>
 #include <atomic>

@@ -2,8 +2,8 @@
 
 #include "PixelSources.h"
 
-#include <host/PhotoReading.h>
-#include <host/ShotNames.h>
+#include <host/shots/PhotoReading.h>
+#include <host/shots/ShotNames.h>
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,14 +1,14 @@
 #include "Verdicts.h"
 
-#include "DetailMeter.h"
 #include "Drawn.h"
 #include "Photos.h"
 #include "SampleScenes.h"
 
-#include <host/PhotoAnalysis.h>
-#include <host/PhotoOrigin.h>
-#include <host/PictureVerdict.h>
-#include <host/SimilarKeeper.h>
+#include <host/pixels/DetailMeter.h>
+#include <host/pixels/PhotoAnalysis.h>
+#include <host/pixels/PictureVerdict.h>
+#include <host/shots/PhotoOrigin.h>
+#include <host/similar/SimilarKeeper.h>
 
 #include <exiv2/exiv2.hpp>
 

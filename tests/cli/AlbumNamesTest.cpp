@@ -1,4 +1,4 @@
-#include "AlbumNames.h"
+#include <cli/views/AlbumNames.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "CalendarWatch.h"
+#include <cli/session/CalendarWatch.h>
 
 #include <zenvora/core/Exception.h>
 

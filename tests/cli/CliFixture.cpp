@@ -1,6 +1,6 @@
 #include "CliFixture.h"
 
-#include <host/Catalogue.h>
+#include <host/catalogue/Catalogue.h>
 
 #include <QFile>
 #include <QJsonDocument>

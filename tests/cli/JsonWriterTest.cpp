@@ -1,5 +1,4 @@
-#include "JsonWriter.h"
-
+#include <cli/terminal/JsonWriter.h>
 #include <support/LeftOut.h>
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "LogLines.h"
-#include "Progress.h"
-#include "TerminalText.h"
+#include <cli/terminal/LogLines.h>
+#include <cli/terminal/Progress.h>
+#include <cli/terminal/TerminalText.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "Question.h"
+#include <cli/terminal/Question.h>
 
 #include <gtest/gtest.h>
 

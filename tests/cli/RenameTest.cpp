@@ -1,6 +1,6 @@
 #include "ChangeFixture.h"
 
-#include <host/Catalogue.h>
+#include <host/catalogue/Catalogue.h>
 #include <support/LeftOut.h>
 #include <support/SmallDisk.h>
 

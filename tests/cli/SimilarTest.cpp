@@ -1,6 +1,6 @@
 #include "CliFixture.h"
 
-#include <host/ModelAnalyser.h>
+#include <host/model/ModelAnalyser.h>
 #include <support/TinyModel.h>
 
 #include <zenvora/core/FileState.h>

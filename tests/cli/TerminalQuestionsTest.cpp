@@ -1,10 +1,10 @@
 // Which button a line means, and how buttons are offered.
 
-#include "Console.h"
-#include "Output.h"
-#include "Question.h"
-#include "Session.h"
-#include "TerminalQuestions.h"
+#include <cli/session/Session.h>
+#include <cli/session/TerminalQuestions.h>
+#include <cli/terminal/Console.h>
+#include <cli/terminal/Output.h>
+#include <cli/terminal/Question.h>
 
 #include <zenvora/app/ISettingsManager.h>
 

@@ -1,6 +1,7 @@
-#include "TerminalText.h"
-#include "TextTable.h"
 #include "Utf8.h"
+
+#include <cli/terminal/TerminalText.h>
+#include <cli/terminal/TextTable.h>
 
 #include <gtest/gtest.h>
 

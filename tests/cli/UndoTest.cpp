@@ -1,7 +1,7 @@
 #include "ChangeFixture.h"
 
 #include <LumidexUtil/FileAccessLocker.h>
-#include <host/UndoJournal.h>
+#include <host/history/UndoJournal.h>
 #include <support/LeftOut.h>
 #include <support/SmallDisk.h>
 

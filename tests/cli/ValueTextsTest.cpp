@@ -1,6 +1,7 @@
+#include <cli/terminal/ValueTexts.h>
+
 #include <gtest/gtest.h>
 
-#include <ValueTexts.h>
 #include <limits>
 
 namespace Zenvora::Lumidex::Cli {

@@ -1,13 +1,13 @@
 // Texts in another language: how they are filled in, what answers mean, and that tables stay tables.
 
-#include "AlbumsView.h"
-#include "Question.h"
 #include "StepText.h"
-#include "TerminalQuestions.h"
-#include "TerminalText.h"
-#include "Words.h"
 
-#include <host/InterfaceTexts.h>
+#include <cli/session/TerminalQuestions.h>
+#include <cli/terminal/Question.h>
+#include <cli/terminal/TerminalText.h>
+#include <cli/terminal/Words.h>
+#include <cli/views/AlbumsView.h>
+#include <host/settings/InterfaceTexts.h>
 
 #include <zenvora/app/RealServices.h>
 

@@ -1,6 +1,6 @@
 // The calendar as it lies in the resource folder.
 
-#include <host/CalendarCheck.h>
+#include <host/albums/CalendarCheck.h>
 
 #include <zenvora/app/RealServices.h>
 

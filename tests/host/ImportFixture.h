@@ -1,9 +1,9 @@
 #pragma once
 
-#include <host/Catalogue.h>
-#include <host/Import.h>
-#include <host/ImportPlan.h>
-#include <host/ImportSources.h>
+#include <host/catalogue/Catalogue.h>
+#include <host/import/Import.h>
+#include <host/import/ImportPlan.h>
+#include <host/scan/ImportSources.h>
 #include <support/Doubles.h>
 #include <support/PhotoMaker.h>
 #include <support/TempTree.h>

@@ -3,8 +3,8 @@
 #include "RawSql.h"
 
 #include <LumidexUtil/FileAccessLocker.h>
-#include <host/PhotoEditing.h>
-#include <host/UndoJournal.h>
+#include <host/edit/PhotoEditing.h>
+#include <host/history/UndoJournal.h>
 #include <support/TempTree.h>
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <host/Catalogue.h>
+#include <host/catalogue/Catalogue.h>
 
 #include <string>
 #include <vector>

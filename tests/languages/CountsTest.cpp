@@ -1,7 +1,7 @@
 // Counted words against the plural rules of ICU, for every number from 0 to 200.
 
 #include <LumidexUtil/Wording.h>
-#include <host/InterfaceTexts.h>
+#include <host/settings/InterfaceTexts.h>
 
 #include <zenvora/app/RealServices.h>
 

@@ -2,7 +2,7 @@
 
 #include "CatalogueFile.h"
 
-#include <host/InterfaceTexts.h>
+#include <host/settings/InterfaceTexts.h>
 
 #include <zenvora/app/RealServices.h>
 

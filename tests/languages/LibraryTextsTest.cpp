@@ -7,7 +7,7 @@
 #include <LumidexUtil/CheckFormatsWritable.h>
 #include <LumidexUtil/CheckSaveAvailable.h>
 #include <LumidexUtil/Wording.h>
-#include <host/InterfaceTexts.h>
+#include <host/settings/InterfaceTexts.h>
 #include <support/Doubles.h>
 #include <support/TempTree.h>
 

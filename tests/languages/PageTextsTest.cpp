@@ -2,8 +2,8 @@
 
 #include "CatalogueFile.h"
 
-#include <host/InterfaceTexts.h>
-#include <host/Report.h>
+#include <host/report/Report.h>
+#include <host/settings/InterfaceTexts.h>
 #include <support/TempTree.h>
 
 #include <zenvora/app/RealServices.h>

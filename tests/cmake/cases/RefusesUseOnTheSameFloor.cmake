@@ -1,3 +1,3 @@
-room(cli KIND PROGRAM)
-room(gui KIND PROGRAM USES cli)
-set(REFUSED "Room 'gui' may not use 'cli': rooms of floor 5 do not know each other")
+room(cli_program KIND PROGRAM)
+room(gui KIND PROGRAM USES cli_program)
+set(REFUSED "Room 'gui' may not use 'cli_program': rooms of floor 5 do not know each other")

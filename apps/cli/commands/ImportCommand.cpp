@@ -1,0 +1,263 @@
+#include <cli/commands/Commands.h>
+#include <cli/session/OpenJournal.h>
+#include <cli/session/Options.h>
+#include <cli/session/Sources.h>
+#include <cli/session/TerminalQuestions.h>
+#include <cli/terminal/Failure.h>
+#include <cli/terminal/Interrupt.h>
+#include <cli/terminal/Progress.h>
+#include <cli/terminal/Words.h>
+#include <cli/views/ImportView.h>
+#include <host/catalogue/Catalogue.h>
+#include <host/import/Import.h>
+#include <host/import/ImportPlan.h>
+#include <host/scan/ImportSources.h>
+
+#include <glog/logging.h>
+
+#include <QDir>
+
+#include <memory>
+#include <optional>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+using Outcome = Host::ImportPlan::Outcome;
+
+constexpr char kDescription[] =
+    "Copy photos and films off a card, and take the photos into the catalogue.\n"
+    "\n"
+    "Copies what lies on removable storage, with --to everything; other photos are\n"
+    "taken in where they lie. Every copy is read back from the disk and compared\n"
+    "before it counts. Your files are only read. What is there already is left\n"
+    "alone, and a run that stopped half way is completed when repeated. \"lumidex\n"
+    "undo\" moves the copies of a run to the trash.";
+
+constexpr char kFooter[] =
+    R"help(A folder stands for all photos and films in it and below it, with what belongs
+to them: thumbnails, spoken notes, settings (.xmp and others). Copies keep
+their names; where one is taken, "(1)" is put behind it. Beside the copies a
+hidden folder .lumidex-import lists each of them with its source and its
+SHA-256.
+
+Everything else on what is copied off is left and named, hidden files among it,
+but for what cameras and systems keep for themselves (.DS_Store, Thumbs.db,
+AUTPRINT.MRK and such, unless it begins like a picture or a film). "Safe to
+format" is said only when nothing else is left.
+
+Undo moves copies to the trash that are what they were; changed ones stay. The
+list of copies stays, too, and photos taken in where they lie stay in the
+catalogue: to copy nothing is no step that undo knows.
+
+Without --to, --yes and --no-copy the questions are asked on the terminal;
+where nobody can be asked, nothing is imported.
+
+Examples:
+  lumidex import /media/card
+  lumidex import /media/card --to ~/Pictures/2024 --yes
+  lumidex import --dry-run /media/card --to ~/Pictures/2024
+  lumidex import --no-copy ~/Downloads/photos
+
+Exit codes: 0 done; 1 nothing was imported because you said so or there is
+nothing to import, something is left, or there is something to look at; 3 some
+files are missing or cannot be read; 4 nothing could be imported;
+130 interrupted.)help";
+
+struct ImportArguments {
+  std::vector<std::string> sources;
+  std::string to;
+  bool yes = false;
+  bool noCopy = false;
+  bool dryRun = false;
+};
+
+GivenAnswers AnswersOf(const ImportArguments& arguments) {
+  GivenAnswers given;
+  given.yes = arguments.yes;
+  given.noCopy = arguments.noCopy;
+  if (arguments.to.empty()) {
+    return given;
+  }
+  const ioPath folder = AbsolutePath(arguments.to);
+  given.folder = QDir::cleanPath(folder.qstring());
+#ifndef _WIN32
+  // Settings and the names of copies are text.
+  if (ioPath(folder.qstring()) != folder) {
+    throw UsageError("--to: the name of the folder must be text in UTF-8");
+  }
+#endif
+  return given;
+}
+
+/// One run of the command.
+class ImportCommand {
+ public:
+  ImportCommand(const ImportArguments& arguments, Session& session)
+      : arguments_(arguments), session_(session) {
+    view_.catalogue = session.CatalogueFile();
+    view_.dryRun = arguments.dryRun;
+    view_.noCopy = arguments.noCopy;
+  }
+
+  ExitCode Run() {
+    const std::vector<ioPath> roots = ExistingSources(arguments_.sources);
+    const GivenAnswers given = AnswersOf(arguments_);
+    if (!arguments_.dryRun) {
+      RecoverIfNeeded(session_);
+    }
+    view_.sources = roots;
+    const Host::GatheredSources sources = Host::GatherSources(roots, Host::Gathered::Everything);
+    view_.found = sources.files.size();
+    Plan(sources, given);
+    if (!arguments_.dryRun && view_.plan.outcome == Outcome::Ready && view_.plan.obstacle.empty() &&
+        !(view_.plan.copies.empty() && view_.plan.stays.empty())) {
+      Import();
+      LookAtJournal();
+    }
+    if (!arguments_.dryRun) {
+      view_.verdict = Host::JudgeSources(roots, view_.plan, view_.result);
+    }
+    view_.recovered = session_.recovered;
+    session_.output.Print(session_.globals.json ? ImportDocument(view_) : ImportText(view_));
+    Tell();
+    return Judge();
+  }
+
+ private:
+  void Plan(const Host::GatheredSources& sources, const GivenAnswers& given) {
+    // A dry run, and one that is declined, makes none.
+    std::vector<Host::PhotoRecord> photos;
+    if (view_.catalogue.exists()) {
+      const auto mode =
+          arguments_.dryRun ? Host::Catalogue::Mode::ReadOnly : Host::Catalogue::Mode::ReadWrite;
+      catalogue_.emplace(view_.catalogue, mode);
+      photos = catalogue_->Photos();
+    }
+    Host::ImportPlanOptions options;
+    options.copyAll = !arguments_.to.empty();
+    options.cancel = &session_.interrupted;
+    const TerminalQuestions questions(session_, given);
+    {
+      Progress progress(session_.console, Say(Words::tr("Comparing")), Say(Words::tr("files", "of so many")));
+      view_.plan = Host::PlanImport(
+          sources, photos, options,
+          [&progress](std::uint64_t done, std::uint64_t total) { progress.Update(done, total); });
+    }
+    if (view_.plan.outcome == Outcome::Declined && !session_.interrupted && !questions.Unanswered().empty()) {
+      throw Failure("needs-answer", "Nothing was imported, since nobody could be asked: " +
+                                        questions.Unanswered() + " Say --yes, --to DIR or --no-copy.");
+    }
+    if (session_.interrupted) {
+      view_.plan.outcome = Outcome::Interrupted;
+    }
+  }
+
+  void Import() {
+    if (!catalogue_) {
+      catalogue_.emplace(view_.catalogue, Host::Catalogue::Mode::ReadWrite);
+    }
+    VLOG(1) << "importing into " << view_.catalogue;
+    Host::ImportOptions options;
+    options.cancel = &session_.interrupted;
+    Progress progress(session_.console, Say(Words::tr("Copying")), Say(Words::tr("files", "of so many")));
+    view_.result = Host::RunImport(
+        view_.plan, *catalogue_, options,
+        [&progress](const Host::ImportProgress& now) { progress.Update(now.files, now.totalFiles); });
+  }
+
+  /// The step is written. Somebody who works with the journal meanwhile is no reason to wait.
+  void LookAtJournal() {
+    if (view_.result.step == 0) {
+      return;
+    }
+    try {
+      OpenJournal journal(session_);
+      journal.Prune();
+      for (const Host::UndoStep& step : journal.Get().Steps()) {
+        view_.canBeUndone = view_.canBeUndone || (step.number == view_.result.step && !step.undone &&
+                                                  !step.givenUp && !step.underWay);
+      }
+    } catch (const Host::HostError& error) {
+      VLOG(1) << "the journal was not looked at: " << error.what();
+    }
+  }
+
+  void Tell() const {
+    if (view_.result.cancelled) {
+      session_.console.Note(Say(Words::tr(
+          "Interrupted. What was copied is whole and compared; the same command copies the rest.")));
+    } else if (view_.found == 0) {
+      session_.console.Note(Say(Words::tr("There are no photos or films in the given folders.")));
+    }
+  }
+
+  ExitCode Judge() const {
+    if (view_.result.cancelled || view_.plan.outcome == Outcome::Interrupted) {
+      return ExitCode::Interrupted;
+    }
+    if (!view_.plan.obstacle.empty()) {
+      return ExitCode::Failed;
+    }
+    ExitCode code =
+        view_.verdict.kind == Host::ImportVerdict::Kind::SomethingLeft ? ExitCode::Findings : ExitCode::Done;
+    if (view_.plan.outcome == Outcome::Declined || view_.found == 0 || !view_.plan.splits.empty() ||
+        !view_.plan.joins.empty()) {
+      code = ExitCode::Findings;
+    }
+    for (const Host::LeftFile& left : view_.plan.left) {
+      if (left.kind == Host::LeftFile::Kind::Unreadable) {
+        code = Graver(code, ExitCode::Partly);
+      } else if (left.kind == Host::LeftFile::Kind::Loop || left.copiedOff) {
+        code = Graver(code, ExitCode::Findings);
+      }
+    }
+    for (const Host::ScanFinding& finding : view_.result.findings) {
+      code = Graver(
+          code, finding.kind == Host::ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
+    }
+    return view_.result.missing.empty() && view_.result.stopped.empty() ? code
+                                                                        : Graver(code, ExitCode::Partly);
+  }
+
+  const ImportArguments& arguments_;
+  Session& session_;
+  ImportView view_;
+  std::optional<Host::Catalogue> catalogue_;
+};
+
+}  // namespace
+
+void AddImportCommand(CLI::App& program, Action& chosen) {
+  CLI::App* const command = program.add_subcommand("import", kDescription);
+  const auto arguments = std::make_shared<ImportArguments>();
+  command->footer(kFooter);
+  command->add_option("SOURCE", arguments->sources, "Folders and files to import, with all below them.")
+      ->required()
+      ->transform(Text());
+  CLI::Option* const to =
+      command
+          ->add_option("--to", arguments->to,
+                       "Copy everything to this folder, also what does not lie on removable storage.")
+          ->option_text("DIR")
+          ->transform(Text());
+  CLI::Option* const noCopy =
+      command->add_flag("--no-copy", arguments->noCopy, "Copy nothing: take photos in where they lie.")
+          ->disable_flag_override();
+  noCopy->excludes(to);
+  command
+      ->add_flag(
+          "--yes", arguments->yes,
+          "Ask nothing: copy from removable storage, to the folder used last without --to, and leave out "
+          "what cannot be read.")
+      ->disable_flag_override()
+      ->excludes(noCopy);
+  command->add_flag("--dry-run", arguments->dryRun, "Only tell what would be done; make and change nothing.")
+      ->disable_flag_override();
+  command->callback([arguments, &chosen] {
+    chosen = [arguments](Session& session) { return ImportCommand(*arguments, session).Run(); };
+  });
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,90 @@
+#include <cli/views/AlbumNames.h>
+
+#include <QStringList>
+
+#include <algorithm>
+#include <numeric>
+#include <set>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+QString Composed(const QString& text) {
+  return text.normalized(QString::NormalizationForm_C);
+}
+
+std::vector<std::string> OneLineNames(const std::vector<QString>& names,
+                                      const std::vector<std::size_t>& places) {
+  std::vector<std::string> texts;
+  texts.reserve(places.size());
+  for (const std::size_t place : places) {
+    texts.push_back(OneLineName(names[place]));
+  }
+  return texts;
+}
+
+std::vector<std::size_t> AllPlaces(const std::vector<QString>& names) {
+  std::vector<std::size_t> places(names.size());
+  std::iota(places.begin(), places.end(), 0);
+  return places;
+}
+
+std::vector<std::size_t> Similar(const std::string& wish, const std::vector<QString>& names) {
+  const QString part = Composed(QString::fromStdString(wish)).trimmed();
+  std::vector<std::size_t> places;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const QString name = Composed(QString::fromStdString(OneLineName(names[i])));
+    if (!part.isEmpty() && name.contains(part, Qt::CaseInsensitive)) {
+      places.push_back(i);
+    }
+  }
+  return places;
+}
+
+}  // namespace
+
+AlbumTitle TitleOf(const QString& name) {
+  QStringList lines = name.split(QLatin1Char('\n'));
+  const QString first = lines.takeFirst();
+  return {first.toStdString(), lines.join(QStringLiteral(", ")).toStdString()};
+}
+
+std::string OneLineName(const QString& name) {
+  return QString(name).replace(QLatin1Char('\n'), QStringLiteral(", ")).toStdString();
+}
+
+bool MeansAlbum(const std::string& wish, const QString& name) {
+  const QString wanted = Composed(QString::fromStdString(wish));
+  for (const char* const separator : {"\n", ", ", " - ", "\\n"}) {
+    if (Composed(QString(name).replace(QLatin1Char('\n'), QLatin1String(separator))) == wanted) {
+      return true;
+    }
+  }
+  return false;
+}
+
+AlbumChoice ChooseAlbums(const std::vector<std::string>& wishes, const std::vector<QString>& names) {
+  AlbumChoice choice;
+  std::set<std::size_t> chosen;
+  for (const std::string& wish : wishes) {
+    std::vector<std::size_t> fitting = AllPlaces(names);
+    if (wish != "all") {
+      fitting.erase(std::remove_if(fitting.begin(), fitting.end(),
+                                   [&](std::size_t place) { return !MeansAlbum(wish, names[place]); }),
+                    fitting.end());
+      if (fitting.size() != 1) {
+        choice.refused = wish;
+        choice.isAmbiguous = !fitting.empty();
+        const auto similar = choice.isAmbiguous ? fitting : Similar(wish, names);
+        choice.candidates = OneLineNames(names, similar.empty() ? AllPlaces(names) : similar);
+        return choice;
+      }
+    }
+    chosen.insert(fitting.begin(), fitting.end());
+  }
+  choice.chosen.assign(chosen.begin(), chosen.end());
+  return choice;
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,466 @@
+#include <cli/terminal/JsonWriter.h>
+#include <cli/terminal/TerminalText.h>
+#include <cli/terminal/TextTable.h>
+#include <cli/terminal/ValueTexts.h>
+#include <cli/terminal/Words.h>
+#include <cli/views/ImportView.h>
+#include <cli/views/JournalView.h>
+
+#include <algorithm>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+using Host::KnownFile;
+using Host::LeftFile;
+using Host::MissingCopy;
+using Host::ScanFinding;
+
+/// People read no thousand lines; `--json` has them all.
+constexpr std::size_t kMostLeftLines = 20;
+
+const char* MissingKindName(MissingCopy::Kind kind) {
+  switch (kind) {
+    case MissingCopy::Kind::Unreadable:
+      return "unreadable";
+    case MissingCopy::Kind::Changed:
+      return "changed";
+    case MissingCopy::Kind::NotWritten:
+      return "not-written";
+    case MissingCopy::Kind::Different:
+      return "different";
+    case MissingCopy::Kind::NameTaken:
+      return "name-taken";
+    case MissingCopy::Kind::NotReached:
+      return "not-reached";
+    case MissingCopy::Kind::Repeated:
+      return "repeated";
+  }
+  return "";
+}
+
+const char* KnownKindName(KnownFile::Kind kind) {
+  switch (kind) {
+    case KnownFile::Kind::Catalogued:
+      return "catalogued";
+    case KnownFile::Kind::Copied:
+      return "copied";
+    case KnownFile::Kind::Repeated:
+      return "repeated";
+  }
+  return "";
+}
+
+const char* FindingKindName(ScanFinding::Kind kind) {
+  switch (kind) {
+    case ScanFinding::Kind::NotAnImage:
+      return "not-an-image";
+    case ScanFinding::Kind::Unreadable:
+      return "unreadable";
+    case ScanFinding::Kind::Loop:
+      return "loop";
+    case ScanFinding::Kind::Ambiguous:
+      return "ambiguous";
+  }
+  return "";
+}
+
+const char* OutcomeName(const ImportView& view) {
+  using Outcome = Host::ImportPlan::Outcome;
+  if (view.result.cancelled || view.plan.outcome == Outcome::Interrupted) {
+    return "interrupted";
+  }
+  if (view.plan.outcome == Outcome::Declined) {
+    return "declined";
+  }
+  if (!view.plan.obstacle.empty()) {
+    return "refused";
+  }
+  return view.dryRun ? "planned" : view.result.stopped.empty() ? "done" : "stopped";
+}
+
+void WritePaths(JsonWriter& json, const char* name, const std::vector<ioPath>& paths) {
+  json.BeginArray(name);
+  for (const ioPath& path : paths) {
+    json.BeginObject();
+    json.Path("path", path);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+void WritePlan(JsonWriter& json, const Host::ImportPlan& plan) {
+  json.BeginArray("copies");
+  for (const Host::ImportCopy& copy : plan.copies) {
+    json.BeginObject();
+    json.Path("source", copy.source);
+    json.Path("target", copy.target);
+    json.Number("size", static_cast<long long>(copy.state.size));
+    json.EndObject();
+  }
+  json.EndArray();
+  WritePaths(json, "stays", plan.stays);
+  json.BeginArray("known");
+  for (const KnownFile& known : plan.known) {
+    json.BeginObject();
+    json.Text("kind", KnownKindName(known.kind));
+    json.Path("path", known.path);
+    json.Path("other", known.other);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.BeginArray("left");
+  for (const LeftFile& left : plan.left) {
+    json.BeginObject();
+    json.Text("kind", LeftKindName(left.kind));
+    json.Path("path", left.path);
+    json.Text("cause", left.cause);
+    json.Truth("copiedOff", left.copiedOff);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.Number("housekeeping", static_cast<long long>(plan.housekeeping));
+  json.Number("inPlace", static_cast<long long>(plan.photosInPlace + plan.filmsInPlace));
+  json.BeginArray("splits");
+  for (const Host::SplitShot& split : plan.splits) {
+    json.BeginObject();
+    WritePaths(json, "sources", split.sources);
+    WritePaths(json, "targets", split.targets);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.BeginArray("joins");
+  for (const Host::JoinedShot& join : plan.joins) {
+    json.BeginObject();
+    WritePaths(json, "sources", join.sources);
+    WritePaths(json, "targets", join.targets);
+    WritePaths(json, "others", join.others);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+void WriteResult(JsonWriter& json, const Host::ImportResult& result) {
+  json.Number("copied", static_cast<long long>(result.copied));
+  json.Number("bytesCopied", static_cast<long long>(result.bytes));
+  json.Number("added", static_cast<long long>(result.added));
+  json.BeginArray("missing");
+  for (const MissingCopy& missing : result.missing) {
+    json.BeginObject();
+    json.Text("kind", MissingKindName(missing.kind));
+    json.Path("source", missing.source);
+    if (!missing.target.empty()) {
+      json.Path("target", missing.target);
+    }
+    json.Text("cause", missing.cause);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.BeginArray("findings");
+  for (const ScanFinding& finding : result.findings) {
+    json.BeginObject();
+    json.Text("kind", FindingKindName(finding.kind));
+    json.Path("path", finding.path);
+    json.Text("cause", finding.cause);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+std::string PlanText(const ImportView& view) {
+  std::string text;
+  if (!view.plan.copies.empty()) {
+    TextTable table({{}, {}, {}});
+    for (const Host::ImportCopy& copy : view.plan.copies) {
+      table.AddRow({copy.source.utf8string(), "->", copy.target.filename().utf8string()});
+    }
+    text += Say(Words::tr("Would be copied to %1:"), {EscapeForTerminal(view.plan.folder.utf8string())}) +
+            '\n' + table.Text(2) + '\n';
+  }
+  if (!view.plan.stays.empty()) {
+    TextTable table(std::vector<TextTable::Column>(1));
+    for (const ioPath& path : view.plan.stays) {
+      table.AddRow({path.utf8string()});
+    }
+    text += Say(Words::tr("Would be taken in where they lie:")) + '\n' + table.Text(2) + '\n';
+  }
+  return text;
+}
+
+template <class Shot>
+std::string ShotsText(const std::string& what, const std::vector<Shot>& shots) {
+  if (shots.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}, {}});
+  for (const Shot& shot : shots) {
+    for (std::size_t i = 0; i < shot.sources.size(); ++i) {
+      table.AddRow({shot.sources[i].utf8string(), "->", shot.targets[i].filename().utf8string()});
+    }
+  }
+  return what + '\n' + table.Text(2) + '\n';
+}
+
+std::string ShotsText(const Host::ImportPlan& plan) {
+  return ShotsText(Say(Words::tr("These files are of one shot each, and the free names for them are not:")),
+                   plan.splits) +
+         ShotsText(Say(Words::tr("These files are of other shots than those whose names they share there:")),
+                   plan.joins);
+}
+
+std::string MissingText(const ImportView& view) {
+  if (view.result.missing.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}});
+  for (const MissingCopy& missing : view.result.missing) {
+    table.AddRow({missing.source.utf8string(), missing.cause});
+  }
+  return Say(Words::tr("Missing:")) + '\n' + table.Text(2) + '\n';
+}
+
+std::string FindingsText(const ImportView& view) {
+  if (view.result.findings.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}});
+  for (const ScanFinding& finding : view.result.findings) {
+    table.AddRow({finding.path.utf8string(), finding.cause});
+  }
+  return Say(Words::tr("Not taken into the catalogue:")) + '\n' + table.Text(2) + '\n';
+}
+
+void WriteVerdict(JsonWriter& json, const ImportView& view) {
+  using Kind = Host::ImportVerdict::Kind;
+  if (view.dryRun || view.verdict.kind == Kind::NotAsked) {
+    json.Null("safeToFormat");
+  } else {
+    json.Truth("safeToFormat", view.verdict.kind == Kind::NothingLeft);
+  }
+  json.Truth("wholeVolumes", view.verdict.wholeVolumes);
+  json.Truth("canBeUndone", view.canBeUndone);
+}
+
+std::string ReasonText(const LeftFile& file) {
+  return !file.cause.empty()                   ? file.cause
+         : file.kind == LeftFile::Kind::Hidden ? Say(Words::tr("It is hidden"))
+                                               : Say(Words::tr("It is neither a photo nor a film, nor what "
+                                                               "belongs to one"));
+}
+
+std::string SourcesText(const ImportView& view) {
+  std::string names;
+  for (const ioPath& source : view.sources) {
+    names += (names.empty() ? "" : ", ") + EscapeForTerminal(source.utf8string());
+  }
+  return names;
+}
+
+std::string LeftText(const ImportView& view) {
+  if (view.plan.left.empty()) {
+    return {};
+  }
+  TextTable table({{}, {}});
+  // What would be lost with the source, and what could not be read, comes first: each is named.
+  const auto matters = [](const LeftFile& file) {
+    return file.copiedOff || file.kind != LeftFile::Kind::NotAPhoto;
+  };
+  std::vector<LeftFile> left = view.plan.left;
+  std::stable_sort(left.begin(), left.end(), [&matters](const LeftFile& one, const LeftFile& other) {
+    return matters(one) > matters(other);
+  });
+  std::size_t shown = 0;
+  for (const LeftFile& file : left) {
+    if (!matters(file) && shown >= kMostLeftLines) {
+      break;
+    }
+    table.AddRow({file.path.utf8string(), ReasonText(file)});
+    ++shown;
+  }
+  std::string text = Say(Words::tr("Left out:")) + '\n' + table.Text(2);
+  if (shown < left.size()) {
+    const std::size_t more = left.size() - shown;
+    text += "  " +
+            Say(Words::tr("and %1 more (--json lists them)", nullptr, Amount(more)), {GroupDigits(more)}) +
+            '\n';
+  }
+  return text + '\n';
+}
+
+std::string KnownText(const ImportView& view) {
+  const auto count = [&view](KnownFile::Kind kind) {
+    return static_cast<unsigned long long>(
+        std::count_if(view.plan.known.begin(), view.plan.known.end(),
+                      [kind](const KnownFile& known) { return known.kind == kind; }));
+  };
+  std::string text;
+  if (const auto files = count(KnownFile::Kind::Catalogued)) {
+    text +=
+        Say(Words::tr("%1 photos in the catalogue already.", nullptr, Amount(files)), {GroupDigits(files)}) +
+        '\n';
+  }
+  if (const auto files = count(KnownFile::Kind::Copied)) {
+    text += Say(Words::tr("%1 files copied before.", nullptr, Amount(files)), {GroupDigits(files)}) + '\n';
+  }
+  if (const auto files = count(KnownFile::Kind::Repeated)) {
+    text += Say(Words::tr("%1 photos there twice among the sources.", nullptr, Amount(files)),
+                {GroupDigits(files)}) +
+            '\n';
+  }
+  return text;
+}
+
+std::string OutcomeText(const ImportView& view) {
+  const Host::ImportPlan& plan = view.plan;
+  if (plan.outcome != Host::ImportPlan::Outcome::Ready) {
+    return Say(Words::tr("Nothing was imported.")) + '\n';
+  }
+  if (!plan.obstacle.empty()) {
+    return EscapeForTerminal(plan.obstacle) + '\n' +
+           Say(view.dryRun ? Words::tr("Nothing would be imported.") : Words::tr("Nothing was imported.")) +
+           '\n';
+  }
+  if (view.dryRun) {
+    return Say(Words::tr("%1 files (%2) would be copied", nullptr, Amount(plan.copies.size())),
+               {GroupDigits(plan.copies.size()), SizeText(plan.bytes)}) +
+           ", " +
+           Say(Words::tr("%1 photos taken in where they lie.", "would be", Amount(plan.stays.size())),
+               {GroupDigits(plan.stays.size())}) +
+           ' ' + Say(Words::tr("This was a dry run:\nnothing was changed.")) + '\n';
+  }
+  std::string text;
+  if (!plan.copies.empty()) {
+    text += Say(Words::tr("%1 files (%2) copied to %3, each compared.", nullptr, Amount(view.result.copied)),
+                {GroupDigits(view.result.copied), SizeText(view.result.bytes),
+                 EscapeForTerminal(plan.folder.utf8string())}) +
+            '\n';
+  }
+  text += Say(Words::tr("%1 photos new in the catalogue.", nullptr, Amount(view.result.added)),
+              {GroupDigits(view.result.added)}) +
+          '\n';
+  if (const std::size_t missing = view.result.missing.size(); missing > 0) {
+    text += Say(Words::tr("%1 files missing; the same command tries again.", nullptr, Amount(missing)),
+                {GroupDigits(missing)}) +
+            '\n';
+  }
+  if (view.canBeUndone) {
+    text += Say(Words::tr("\"lumidex undo\" moves the copies of this run to the trash.")) + '\n';
+  }
+  return text;
+}
+
+/// What stays where it is, and why.
+std::string InPlaceText(const ImportView& view) {
+  const Host::ImportPlan& plan = view.plan;
+  const std::size_t files = plan.photosInPlace + plan.filmsInPlace;
+  if (plan.outcome != Host::ImportPlan::Outcome::Ready || files == 0) {
+    return {};
+  }
+  std::string text;
+  if (view.noCopy || plan.copyDeclined) {
+    text = Say(
+        Words::tr("%1 files are not copied, as you said: they stay where they are.", nullptr, Amount(files)),
+        {GroupDigits(files)});
+  } else {
+    text = Say(Words::tr("%1 files are not copied: they do not lie on removable storage and stay where they "
+                         "are. \"--to DIR\" copies them.",
+                         nullptr, Amount(files)),
+               {GroupDigits(files)});
+  }
+  text += '\n';
+  if (plan.filmsInPlace > 0) {
+    text += Say(Words::tr("%1 of them are films, which the catalogue does not take.", nullptr,
+                          Amount(plan.filmsInPlace)),
+                {GroupDigits(plan.filmsInPlace)}) +
+            '\n';
+  }
+  return text;
+}
+
+std::string HousekeepingText(const ImportView& view) {
+  const std::size_t files = view.plan.copiesOff ? view.plan.housekeeping : 0;
+  return files == 0 ? std::string()
+                    : Say(Words::tr("%1 housekeeping files of cameras and systems are left.", nullptr,
+                                    Amount(files)),
+                          {GroupDigits(files)}) +
+                          '\n';
+}
+
+std::string VerdictText(const ImportView& view) {
+  using Kind = Host::ImportVerdict::Kind;
+  const std::string sources = SourcesText(view);
+  switch (view.verdict.kind) {
+    case Kind::NotAsked:
+      return {};
+    case Kind::SomethingLeft:
+      return Say(Words::tr("Not everything in %1 is copied: do not format or empty it yet."), {sources}) +
+             '\n';
+    case Kind::CopiesWithin:
+      return Say(Words::tr("Copies lie in %1 itself: do not format or empty it."), {sources}) + '\n';
+    case Kind::NothingLeft:
+      break;
+  }
+  // What is left all the same is no reason to wait, but it is no copy either.
+  const std::string left =
+      view.plan.housekeeping == 0
+          ? Say(Words::tr("Nothing is left in %1: each file has a compared copy elsewhere."), {sources})
+          : Say(Words::tr("Nothing but housekeeping files is left in %1: each other file has a compared copy "
+                          "elsewhere."),
+                {sources});
+  return left + '\n' +
+         Say(view.verdict.wholeVolumes
+                 ? Words::tr("It is safe to format.")
+                 : Words::tr("As far as this folder goes it is safe to format; what lies beside it was not\n"
+                             "looked at.")) +
+         '\n';
+}
+
+}  // namespace
+
+const char* LeftKindName(LeftFile::Kind kind) {
+  switch (kind) {
+    case LeftFile::Kind::NotAPhoto:
+      return "not-a-photo";
+    case LeftFile::Kind::Hidden:
+      return "hidden";
+    case LeftFile::Kind::NoFile:
+      return "no-file";
+    case LeftFile::Kind::Unreadable:
+      return "unreadable";
+    case LeftFile::Kind::Loop:
+      return "loop";
+  }
+  return "";
+}
+
+std::string ImportDocument(const ImportView& view) {
+  JsonWriter json("lumidex.import", 1);
+  json.Path("catalogue", view.catalogue);
+  json.Truth("dryRun", view.dryRun);
+  json.Text("outcome", OutcomeName(view));
+  if (view.plan.folder.empty()) {
+    json.Null("folder");
+  } else {
+    json.Path("folder", view.plan.folder);
+  }
+  json.Number("found", static_cast<long long>(view.found));
+  json.Number("bytesPlanned", static_cast<long long>(view.plan.bytes));
+  json.Text("obstacle", view.plan.obstacle);
+  json.Text("stopped", view.result.stopped);
+  WritePlan(json, view.plan);
+  WriteResult(json, view.result);
+  WriteVerdict(json, view);
+  WriteRecovered(json, view.recovered);
+  return json.Finish();
+}
+
+std::string ImportText(const ImportView& view) {
+  return LeftText(view) + ShotsText(view.plan) + (view.dryRun ? PlanText(view) : "") + MissingText(view) +
+         FindingsText(view) +
+         (view.result.stopped.empty() ? "" : EscapeForTerminal(view.result.stopped) + '\n') +
+         KnownText(view) + OutcomeText(view) + InPlaceText(view) + HousekeepingText(view) +
+         (view.dryRun ? "" : VerdictText(view));
+}
+
+}  // namespace Zenvora::Lumidex::Cli

@@ -1,0 +1,162 @@
+#include "StepText.h"
+
+#include <cli/session/UndoSettings.h>
+#include <cli/terminal/Failure.h>
+#include <cli/terminal/Question.h>
+#include <cli/terminal/TerminalText.h>
+#include <cli/terminal/ValueTexts.h>
+#include <cli/terminal/Words.h>
+#include <cli/views/StepRoom.h>
+#include <cli/views/UndoView.h>
+
+#include <array>
+#include <utility>
+
+namespace Zenvora::Lumidex::Cli {
+
+namespace {
+
+/// A limit with room for so many bytes, as "undo --keep-size" takes it; at most a tenth too large.
+std::string LimitFor(std::uint64_t bytes) {
+  constexpr std::array<std::pair<unsigned, const char*>, 4> kUnits = {
+      {{30, "G"}, {20, "M"}, {10, "K"}, {0, ""}}};
+  constexpr std::uint64_t kLeast = 10;
+  for (const auto& [shift, letter] : kUnits) {
+    const std::uint64_t whole = bytes >> shift;
+    if (whole >= kLeast || shift == 0) {
+      return std::to_string(whole + ((whole << shift) < bytes ? 1 : 0)) + letter;
+    }
+  }
+  return {};
+}
+
+std::string TooMuchText(const Host::JournalRoom& room) {
+  return Say(Words::tr("To be taken back it needs %1 of originals kept, and the limit is %2."),
+             {SizeText(room.needed), SizeText(room.limit)}) +
+         ' ' +
+         Say(Words::tr(
+                 "\"lumidex undo --keep-size %1\" raises the limit; with --no-undo nothing is kept, and it "
+                 "cannot be taken back."),
+             {LimitFor(room.needed)});
+}
+
+std::string ForgetsText(const Host::JournalRoom& room, bool beforehand) {
+  const int amount = Amount(room.forgotten.size());
+  return Say(
+      beforehand
+          ? Words::tr("To keep %1 of originals within the limit of %2, undo would have to forget %3 older "
+                      "steps:",
+                      nullptr, amount)
+          : Words::tr("To keep %1 of originals within the limit of %2, undo forgets %3 older steps:", nullptr,
+                      amount),
+      {SizeText(room.needed), SizeText(room.limit), GroupDigits(room.forgotten.size())});
+}
+
+std::vector<std::string> StepLines(const Host::JournalRoom& room) {
+  std::vector<std::string> lines;
+  for (const Host::UndoStep& step : room.forgotten) {
+    lines.push_back(WhenText(step) + "  " + StepText(step.name.toStdString()));
+  }
+  return lines;
+}
+
+std::string ForgottenText(const Host::JournalRoom& room, bool beforehand) {
+  std::string text = ForgetsText(room, beforehand) + '\n';
+  for (const std::string& line : StepLines(room)) {
+    text += "  " + EscapeForTerminal(line) + '\n';
+  }
+  return text;
+}
+
+std::string TightText(const Host::JournalRoom& room) {
+  std::string text;
+  for (const Host::TightVolume& volume : room.tight) {
+    text +=
+        Say(Words::tr("The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones "
+                      "would be left as they are."),
+            {EscapeForTerminal(volume.folder.utf8string()),
+             SizeText(static_cast<std::uint64_t>(volume.bytesFree)), SizeText(volume.bytesNeeded)}) +
+        '\n';
+  }
+  return text;
+}
+
+std::string RaiseText(const Host::JournalRoom& room) {
+  return Say(Words::tr("\"lumidex undo --keep-size %1\" makes room for all of them."),
+             {LimitFor(room.total)});
+}
+
+}  // namespace
+
+void AddRoomOptions(CLI::App& command, RoomWish& wish) {
+  CLI::Option* const forget =
+      command
+          .add_flag("--forget-older", wish.forgetOlder,
+                    "Where the limit of what is kept for undo is reached, let undo forget the oldest steps "
+                    "without being asked.")
+          ->disable_flag_override();
+  command
+      .add_flag("--no-undo", wish.noUndo, "Keep no originals: \"lumidex undo\" cannot take this step back.")
+      ->disable_flag_override()
+      ->excludes(forget);
+}
+
+Host::JournalRoom RoomFor(Session& session, const std::vector<ioPath>& files, const RoomWish& wish) {
+  return wish.noUndo ? Host::JournalRoom()
+                     : Host::PlanRoom(session.CatalogueFile(), files, StoredLimits(session.console));
+}
+
+bool WouldBeRefused(const Host::JournalRoom& room, const RoomWish& wish) {
+  return !room.Fits() || (!room.forgotten.empty() && !wish.forgetOlder && !CanAsk());
+}
+
+bool AgreeOnRoom(Session& session, const Host::JournalRoom& room, const RoomWish& wish) {
+  if (!room.Fits()) {
+    throw Failure("undo-limit", Say(Words::tr("Nothing was changed.")) + ' ' + TooMuchText(room));
+  }
+  if (room.forgotten.empty() || wish.forgetOlder) {
+    return true;
+  }
+  if (!CanAsk()) {
+    throw Failure("undo-limit", Say(Words::tr("Nothing was changed.")) + ' ' + ForgetsText(room, true),
+                  StepLines(room), Say(Words::tr("--forget-older allows it.")) + ' ' + RaiseText(room));
+  }
+  return Ask(session.console, ForgottenText(room, true) + RaiseText(room) + '\n',
+             Say(Words::tr("Forget them and go on? [y/N]")), session.interrupted);
+}
+
+std::string RoomText(const Host::JournalRoom& room, const RoomWish& wish) {
+  if (wish.noUndo) {
+    return Say(Words::tr("Nothing would be kept: it could not be taken back.")) + '\n';
+  }
+  if (!room.Fits()) {
+    return Say(Words::tr("It would be refused.")) + ' ' + TooMuchText(room) + '\n';
+  }
+  if (room.forgotten.empty()) {
+    return TightText(room);
+  }
+  return TightText(room) + ForgottenText(room, !wish.forgetOlder) +
+         (wish.forgetOlder ? std::string() : Say(Words::tr("--forget-older allows it.")) + ' ') +
+         RaiseText(room) + '\n';
+}
+
+void WriteRoom(JsonWriter& json, const Host::JournalRoom& room, const RoomWish& wish) {
+  json.BeginObject("undo");
+  json.Truth("keeps", !wish.noUndo);
+  json.Number("bytesNeeded", static_cast<long long>(room.needed));
+  json.Number("bytesLimit", static_cast<long long>(room.limit));
+  json.Truth("fits", room.Fits());
+  WriteSteps(json, "forgets", room.forgotten);
+  json.BeginArray("tight");
+  for (const Host::TightVolume& volume : room.tight) {
+    json.BeginObject();
+    json.Path("folder", volume.folder);
+    json.Number("bytesNeeded", static_cast<long long>(volume.bytesNeeded));
+    json.Number("bytesFree", static_cast<long long>(volume.bytesFree));
+    json.EndObject();
+  }
+  json.EndArray();
+  json.EndObject();
+}
+
+}  // namespace Zenvora::Lumidex::Cli

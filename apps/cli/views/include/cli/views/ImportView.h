@@ -1,0 +1,35 @@
+#pragma once
+
+#include <host/import/Import.h>
+#include <host/import/ImportPlan.h>
+#include <host/import/ImportVerdict.h>
+
+#include <zenvora/core/ioPath.h>
+
+#include <string>
+#include <vector>
+
+namespace Zenvora::Lumidex::Cli {
+
+/// All that one import, or its dry run, shows.
+struct ImportView {
+  ioPath catalogue;
+  std::vector<ioPath> sources;  ///< As they were given, absolute.
+  bool dryRun = false;
+  bool noCopy = false;    ///< The user said so.
+  std::size_t found = 0;  ///< Photos and films, and what belongs to them.
+  Host::ImportPlan plan;
+  Host::ImportResult result;  ///< Of the run; of a dry run empty.
+  Host::ImportVerdict verdict;
+  bool canBeUndone = false;  ///< The copies of this run.
+  std::vector<std::string> recovered;
+};
+
+/// docs/formats/json-output.md, lumidex.import.
+std::string ImportDocument(const ImportView& view);
+std::string ImportText(const ImportView& view);
+
+/// "not-a-photo", "hidden", "no-file", "unreadable", "loop".
+const char* LeftKindName(Host::LeftFile::Kind kind);
+
+}  // namespace Zenvora::Lumidex::Cli

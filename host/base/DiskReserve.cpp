@@ -1,0 +1,136 @@
+#include <host/base/DiskReserve.h>
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace Zenvora::Lumidex::Host {
+
+#ifdef _WIN32
+
+namespace {
+
+/// A file open for writing, closed with the object.
+class OpenFile {
+ public:
+  explicit OpenFile(const ioPath& file)
+      : handle_(CreateFileW(file.for_system().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                            FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+  ~OpenFile() {
+    if (IsOpen()) {
+      CloseHandle(handle_);
+    }
+  }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  bool SetSize(std::uint64_t bytes) const {
+    LARGE_INTEGER end;
+    end.QuadPart = static_cast<LONGLONG>(bytes);
+    return SetFilePointerEx(handle_, end, nullptr, FILE_BEGIN) && SetEndOfFile(handle_);
+  }
+  bool Allocate(std::uint64_t bytes) const {
+    FILE_ALLOCATION_INFO wish;
+    wish.AllocationSize.QuadPart = static_cast<LONGLONG>(bytes);
+    return SetFileInformationByHandle(handle_, FileAllocationInfo, &wish, sizeof(wish)) != 0;
+  }
+
+ private:
+  const HANDLE handle_;
+};
+
+}  // namespace
+
+std::error_code DiskReserve::Hold(std::uint64_t bytes) const {
+  const OpenFile file(file_);
+  // The size of a file is room that it has, here: there is none without the other.
+  return file.IsOpen() && file.SetSize(0) && file.Allocate(bytes) && file.SetSize(bytes) ? std::error_code()
+                                                                                         : LastSystemError();
+}
+
+bool DiskReserve::Release() const {
+  if (Wanted() == 0) {
+    return false;
+  }
+  const OpenFile file(file_);
+  return file.IsOpen() && file.SetSize(0);
+}
+
+#else
+
+namespace {
+
+/// A descriptor, closed with the object.
+class OpenFile {
+ public:
+  explicit OpenFile(const ioPath& file)
+      : handle_(open(file.native().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR)) {}
+  ~OpenFile() {
+    if (IsOpen()) {
+      close(handle_);
+    }
+  }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  bool IsOpen() const { return handle_ >= 0; }
+  bool SetSize(std::uint64_t bytes) const { return ftruncate(handle_, static_cast<off_t>(bytes)) == 0; }
+  /// Blocks of the file that hold nothing so far.
+  std::error_code Allocate(std::uint64_t bytes) const {
+    // Returns the error instead of setting `errno`; writes where the file system can do nothing better.
+    return {posix_fallocate(handle_, 0, static_cast<off_t>(bytes)), std::generic_category()};
+  }
+  bool HasBlocks() const {
+    struct stat facts = {};
+    return fstat(handle_, &facts) == 0 && facts.st_blocks > 0;
+  }
+
+ private:
+  const int handle_;
+};
+
+}  // namespace
+
+std::error_code DiskReserve::Hold(std::uint64_t bytes) const {
+  const OpenFile file(file_);
+  if (!file.IsOpen() || !file.SetSize(bytes)) {
+    return LastSystemError();
+  }
+  const std::error_code error = file.Allocate(bytes);
+  if (error) {
+    // Part of the room is no use, and the size alone takes none.
+    file.SetSize(0);
+    file.SetSize(bytes);
+  }
+  return error;
+}
+
+bool DiskReserve::Release() const {
+  const std::uint64_t wanted = Wanted();
+  if (wanted == 0) {
+    return false;
+  }
+  const OpenFile file(file_);
+  return file.IsOpen() && file.HasBlocks() && file.SetSize(0) && file.SetSize(wanted);
+}
+
+#endif
+
+std::uint64_t DiskReserve::Wanted() const {
+  return QueryFile(file_).size;
+}
+
+void DiskReserve::Remove() const {
+  file_.remove();
+}
+
+}  // namespace Zenvora::Lumidex::Host

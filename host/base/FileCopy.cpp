@@ -1,0 +1,263 @@
+#include <host/base/ContentHash.h>
+#include <host/base/FileCopy.h>
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileReader.h>
+
+#include <algorithm>
+#include <system_error>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+using Status = CopyOutcome::Status;
+
+/// Once: a file that is still being written is finished as a rule by then, one that never rests is not waited
+/// for.
+constexpr int kReadings = 2;
+/// Shorter runs of zeros are cheaper written than left out.
+constexpr std::size_t kHole = std::size_t{64} * 1024;
+
+CopyOutcome Failed(Status status, const std::string& cause) {
+  CopyOutcome outcome;
+  outcome.status = status;
+  outcome.cause = cause;
+  return outcome;
+}
+
+/// Whether what stopped one file will stop all.
+Status StatusOfWriting(const std::error_code& error) {
+  for (const std::errc hopeless :
+       {std::errc::no_space_on_device, std::errc::read_only_file_system, std::errc::io_error,
+        std::errc::no_such_device, std::errc::no_such_file_or_directory}) {
+    if (error == hopeless) {
+      return Status::NoRoom;
+    }
+  }
+#ifdef EDQUOT
+  if (error.category() == std::generic_category() && error.value() == EDQUOT) {
+    return Status::NoRoom;
+  }
+#endif
+  return Status::NotWritten;
+}
+
+CopyOutcome NotWritten(const std::error_code& error) {
+  return Failed(StatusOfWriting(error), "the copy cannot be written: " + ErrorText(error));
+}
+
+bool IsSameState(const FileState& left, const FileState& right) {
+  return left.kind == right.kind && left.identity == right.identity && left.size == right.size &&
+         left.modifiedNs == right.modifiedNs;
+}
+
+bool IsAllZero(std::string_view bytes) {
+  // Compared with itself one byte on: as quick as memory.
+  return bytes.front() == '\0' && std::equal(bytes.begin() + 1, bytes.end(), bytes.begin());
+}
+
+std::error_code WriteSparsely(std::string_view piece, NewFile& copy) {
+  while (!piece.empty()) {
+    const std::string_view part = piece.substr(0, kHole);
+    const bool hole = part.size() == kHole && IsAllZero(part);
+    if (const std::error_code error = hole ? copy.Skip(part.size()) : copy.Write(part.data(), part.size())) {
+      return error;
+    }
+    piece.remove_prefix(part.size());
+  }
+  return {};
+}
+
+/// A piece without a zero at either end is written in one go.
+std::error_code WritePiece(std::string_view piece, NewFile& copy) {
+  for (std::size_t at = 0; at < piece.size(); at += kHole) {
+    if (piece[at] == '\0' && IsAllZero(piece.substr(at, kHole))) {
+      return WriteSparsely(piece, copy);
+    }
+  }
+  return copy.Write(piece.data(), piece.size());
+}
+
+CopyOutcome CopyContent(FileReader& reader, std::uint64_t size, NewFile& copy, const CopyGoesOn& goesOn) {
+  CopyOutcome outcome;
+  ContentHash hash;
+  for (;;) {
+    std::string_view piece;
+    if (const std::error_code error = reader.Next(piece)) {
+      return Failed(Status::Unreadable, ErrorText(error));
+    }
+    if (piece.empty()) {
+      break;
+    }
+    hash.Add(piece);
+    if (const std::error_code error = WritePiece(piece, copy)) {
+      return NotWritten(error);
+    }
+    outcome.size += piece.size();
+    // A file that grows as fast as it is read would have no end.
+    if (outcome.size > size) {
+      return outcome;
+    }
+    if (goesOn && !goesOn(outcome.size)) {
+      return Failed(Status::GivenUp, "given up");
+    }
+  }
+  outcome.sha256 = hash.Finish();
+  return outcome;
+}
+
+#ifdef _WIN32
+
+/// What tells more of a file than its content and its time, when it has its final rights.
+void TakeAttributes(const ioPath& source, const ioPath& copy) {
+  WIN32_FILE_ATTRIBUTE_DATA facts;
+  if (!GetFileAttributesExW(source.for_system().c_str(), GetFileExInfoStandard, &facts)) {
+    return;
+  }
+  const HANDLE handle = CreateFileW(copy.for_system().c_str(), FILE_WRITE_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle != INVALID_HANDLE_VALUE) {
+    SetFileTime(handle, &facts.ftCreationTime, nullptr, nullptr);
+    CloseHandle(handle);
+  }
+}
+
+#else
+
+void TakeAttributes(const ioPath& /*source*/, const ioPath& /*copy*/) {}
+
+#endif
+
+CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expected,
+                     const CopyGoesOn& goesOn) {
+  FileReader reader;
+  if (const std::error_code error = reader.Open(source)) {
+    return Failed(Status::Unreadable,
+                  error == std::errc::not_supported ? "it is not a regular file any more" : ErrorText(error));
+  }
+  const FileState before = reader.State();
+  if (!IsSameState(before, expected)) {
+    expected = before;
+    return Failed(Status::Changed, "it was changed meanwhile");
+  }
+  NewFile written;
+  if (const std::error_code error = written.Create(copy)) {
+    return Failed(Status::NoRoom, "no file can be made in the folder of copies: " + ErrorText(error));
+  }
+  CopyOutcome outcome = CopyContent(reader, before.size, written, goesOn);
+  if (outcome.status != Status::Copied) {
+    return outcome;
+  }
+  expected = reader.State();
+  // Also by its name: whoever replaced it meant the new one.
+  if (!IsSameState(before, expected) || !IsSameState(before, QueryFile(source)) ||
+      outcome.size != before.size) {
+    expected = QueryFile(source);
+    return Failed(Status::Changed, "it was changed while it was copied");
+  }
+  written.TakeRightsOf(source);
+  std::error_code error = written.SetModified(before.modifiedNs);
+  if (!error) {
+    error = written.Close(false);
+  }
+  if (error) {
+    return NotWritten(error);
+  }
+  TakeAttributes(source, copy);
+  outcome.modifiedNs = before.modifiedNs;
+  written.Release();
+  return outcome;
+}
+
+}  // namespace
+
+CopyOutcome CopyToNew(const ioPath& source, const FileState& expected, const ioPath& copy,
+                      const CopyGoesOn& goesOn) {
+  FileState state = expected;
+  CopyOutcome outcome;
+  for (int reading = 0; reading < kReadings; ++reading) {
+    outcome = CopyOnce(source, copy, state, goesOn);
+    if (outcome.status != Status::Changed) {
+      break;
+    }
+  }
+  return outcome;
+}
+
+CopyOutcome VerifyCopy(const ioPath& copy, const CopyOutcome& copied) {
+  if (const std::error_code error = SyncFile(copy)) {
+    return NotWritten(error);
+  }
+  FileReader reader;
+  if (const std::error_code error = reader.Open(copy, FileReader::From::Device)) {
+    return Failed(Status::Different, "the copy cannot be read back: " + ErrorText(error));
+  }
+  ContentHash hash;
+  std::uint64_t size = 0;
+  for (;;) {
+    std::string_view piece;
+    if (const std::error_code error = reader.Next(piece)) {
+      return Failed(Status::Different, "the copy cannot be read back: " + ErrorText(error));
+    }
+    if (piece.empty()) {
+      break;
+    }
+    hash.Add(piece);
+    size += piece.size();
+  }
+  if (size != copied.size || hash.Finish() != copied.sha256) {
+    return Failed(Status::Different, "read back, the copy differs from what was read");
+  }
+  return copied;
+}
+
+std::string SketchOf(const ioPath& file) {
+  constexpr std::size_t kPlace = std::size_t{16} * 1024;
+  FileReader reader;
+  if (reader.Open(file)) {
+    return {};
+  }
+  const std::uint64_t size = reader.State().size;
+  const std::uint64_t last = size > kPlace ? size - kPlace : 0;
+  ContentHash hash;
+  for (const std::uint64_t place : {std::uint64_t{0}, last / 2, last}) {
+    std::string_view bytes;
+    if (reader.At(place, kPlace, bytes)) {
+      return {};
+    }
+    hash.Add(bytes);
+  }
+  return std::to_string(size) + '-' + hash.Finish();
+}
+
+bool SameContent(const ioPath& left, const ioPath& right, const CopyGoesOn& goesOn) {
+  FileReader one;
+  FileReader other;
+  if (one.Open(left) || other.Open(right)) {
+    return false;
+  }
+  std::uint64_t done = 0;
+  for (;;) {
+    std::string_view first;
+    std::string_view second;
+    // Files of one kind come in equal pieces; what does not is worth another copy.
+    if (one.Next(first) || other.Next(second) || first != second) {
+      return false;
+    }
+    if (first.empty()) {
+      return true;
+    }
+    done += first.size();
+    if (goesOn && !goesOn(done)) {
+      return false;
+    }
+  }
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,237 @@
+#include "ImportNames.h"
+
+#include <host/base/PathText.h>
+#include <host/base/RenameNames.h>
+#include <host/shots/ShotNames.h>
+#include <host/shots/ShotSets.h>
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <map>
+#include <set>
+#include <unordered_map>
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+/// Of what was in the folder before and belongs to no shot of the sources.
+constexpr std::size_t kForeign = std::numeric_limits<std::size_t>::max();
+/// As the library counts.
+constexpr int kFirstMark = 1;
+constexpr int kMarkStep = 2;
+
+bool IsTooLong(const std::string& name) {
+#ifdef _WIN32
+  // Counted in units of UTF-16 there.
+  return QString::fromStdString(name).size() > static_cast<int>(kLongestFileName);
+#else
+  return name.size() > kLongestFileName;
+#endif
+}
+
+/// Cuts whole characters off the base until the name is short enough.
+std::string Fitting(std::string base, const std::string& end) {
+  const auto isContinuation = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
+  while (base.size() > 1 && IsTooLong(base + end)) {
+    while (base.size() > 1 && isContinuation(base.back())) {
+      base.pop_back();
+    }
+    base.pop_back();
+  }
+  return base + end;
+}
+
+class Names {
+ public:
+  explicit Names(const std::vector<ioPath>& entries) {
+    for (const ioPath& entry : entries) {
+      const std::string name = entry.utf8string();
+      entries_.insert(name);
+      Take(name);
+    }
+  }
+
+  void Take(const std::string& name) { keys_.insert(NameKey(name)); }
+
+  /// False for names that the library could not see to be taken, or to be too long.
+  bool Serves(const ioPath& target) const {
+    const std::string name = target.filename().utf8string();
+    return !IsTooLong(name) && (IsText(target.filename()) || entries_.count(name) == 0);
+  }
+
+  /// Free, and taken from now on.
+  std::string Next(const ioPath& file) {
+    const std::string name = file.filename().utf8string();
+    const std::size_t dot = name.rfind('.');
+    const std::string base = name.substr(0, dot);
+    const std::string extension = dot == std::string::npos ? "." : name.substr(dot);
+    std::string marks;
+    std::string candidate = name;
+    for (int mark = kFirstMark; IsTooLong(candidate) || keys_.count(NameKey(candidate)) > 0;
+         mark += kMarkStep) {
+      marks += '(' + std::to_string(mark) + ')';
+      candidate = Fitting(base, marks + extension);
+    }
+    Take(candidate);
+    return candidate;
+  }
+
+ private:
+  std::unordered_set<std::string> entries_;
+  std::unordered_set<std::string> keys_;
+};
+
+/// The files of one set by the shots that they come from.
+class Mixture {
+ public:
+  void Add(const ioPath& path, std::size_t shot, const ImportCopy* copy) {
+    shots_[shot].push_back({path, copy});
+  }
+
+  void Tell(std::vector<JoinedShot>& joins) const {
+    const std::size_t owner = Owner();
+    for (const auto& [shot, files] : shots_) {
+      JoinedShot join;
+      for (const File& file : files) {
+        if (shot != owner && file.copy != nullptr) {
+          join.sources.push_back(file.copy->source);
+          join.targets.push_back(file.path);
+        }
+      }
+      if (!join.sources.empty()) {
+        join.others = Others(shot);
+        joins.push_back(std::move(join));
+      }
+    }
+  }
+
+ private:
+  struct File {
+    ioPath path;
+    const ImportCopy* copy;
+  };
+
+  /// Who was there first.
+  std::size_t Owner() const {
+    if (shots_.count(kForeign) > 0) {
+      return kForeign;
+    }
+    for (const auto& [shot, files] : shots_) {
+      if (std::any_of(files.begin(), files.end(), [](const File& file) { return file.copy == nullptr; })) {
+        return shot;
+      }
+    }
+    return shots_.begin()->first;
+  }
+
+  std::vector<ioPath> Others(std::size_t than) const {
+    std::vector<ioPath> others;
+    for (const auto& [shot, files] : shots_) {
+      for (const File& file : files) {
+        if (shot != than) {
+          others.push_back(file.path);
+        }
+      }
+    }
+    std::sort(others.begin(), others.end());
+    return others;
+  }
+
+  std::map<std::size_t, std::vector<File>> shots_;
+};
+
+std::string BaseOf(const ioPath& file) {
+  return SplitShotName(file.filename().utf8string()).base;
+}
+
+}  // namespace
+
+void MakeNamesServe(std::vector<ImportCopy>& copies, const std::vector<ioPath>& entries) {
+  Names names(entries);
+  for (const ImportCopy& copy : copies) {
+    if (names.Serves(copy.target)) {
+      names.Take(copy.target.filename().utf8string());
+    }
+  }
+  for (ImportCopy& copy : copies) {
+    if (!names.Serves(copy.target)) {
+      copy.target = Sibling(copy.target, names.Next(copy.source));
+    }
+  }
+}
+
+std::vector<SplitShot> FindSplits(const std::vector<ImportCopy>& copies,
+                                  const std::vector<std::size_t>& shots,
+                                  const std::vector<PlacedFile>& placed) {
+  struct Split {
+    SplitShot shot;
+    std::set<std::string> bases;
+    bool renamed = false;
+    void Add(const ioPath& source, const ioPath& target) {
+      bases.insert(BaseOf(target));
+      renamed = renamed || source.filename() != target.filename();
+      shot.sources.push_back(source);
+      shot.targets.push_back(target);
+    }
+  };
+  std::map<std::size_t, Split> splits;
+  for (std::size_t i = 0; i < copies.size(); ++i) {
+    splits[shots[i]].Add(copies[i].source, copies[i].target);
+  }
+  for (const PlacedFile& file : placed) {
+    const auto split = splits.find(file.shot);
+    if (split != splits.end()) {
+      split->second.Add(file.source, file.path);
+    }
+  }
+  std::vector<SplitShot> found;
+  for (auto& [shot, split] : splits) {
+    if (split.renamed && split.bases.size() > 1) {
+      found.push_back(std::move(split.shot));
+    }
+  }
+  return found;
+}
+
+std::vector<JoinedShot> FindJoins(const std::vector<ImportCopy>& copies,
+                                  const std::vector<std::size_t>& shots,
+                                  const std::vector<PlacedFile>& placed, const std::vector<ioPath>& entries) {
+  if (copies.empty()) {
+    return {};
+  }
+  std::unordered_map<ioPath, std::size_t> copyOf;
+  std::unordered_map<ioPath, std::size_t> shotOf;
+  std::vector<ioPath> files;
+  for (std::size_t i = 0; i < copies.size(); ++i) {
+    copyOf.emplace(copies[i].target, i);
+    files.push_back(copies[i].target);
+  }
+  for (const PlacedFile& file : placed) {
+    shotOf.emplace(file.path, file.shot);
+  }
+  std::vector<ioPath> there;
+  there.reserve(entries.size());
+  for (const ioPath& entry : entries) {
+    there.push_back(Sibling(copies.front().target, entry.utf8string()));
+  }
+  std::vector<JoinedShot> joins;
+  for (const ShotSet& set : GroupShots(files, there)) {
+    Mixture mixture;
+    for (const ShotFile& file : set.files) {
+      const auto copy = copyOf.find(file.path);
+      const auto shot = shotOf.find(file.path);
+      if (copy != copyOf.end()) {
+        mixture.Add(file.path, shots[copy->second], &copies[copy->second]);
+      } else {
+        mixture.Add(file.path, shot == shotOf.end() ? kForeign : shot->second, nullptr);
+      }
+    }
+    mixture.Tell(joins);
+  }
+  return joins;
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,247 @@
+#include "JpegMending.h"
+
+#include <host/pixels/PhotoPixels.h>
+
+#include <zenvora/quillet/DecoderNotes.h>
+#include <zenvora/strandel/FormatByHead.h>
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageReader>
+#include <QPainter>
+#include <QTransform>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <initializer_list>
+#include <mutex>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+/// Taken by such a picture, in the form that its decoder gives.
+constexpr std::int64_t kMostBytes = 400'000'000;
+/// JPEG is decoded row by row, but for progressive ones.
+constexpr std::int64_t kMostJpegPixels = 300'000'000;
+/// From here on one picture at a time, whatever the number of threads.
+constexpr std::int64_t kLargePixels = 40'000'000;
+
+bool IsJpeg(const QByteArray& format) {
+  return format == "jpeg" || format == "jpg";
+}
+
+/// Formats without a reliable signature would claim any file.
+bool IsPhotoFormat(const QByteArray& format) {
+  constexpr std::array kFormats = {"jpeg", "jpg", "png",  "tiff", "tif",  "webp", "gif",
+                                   "bmp",  "jp2", "heic", "heif", "avif", "jxl"};
+  return std::any_of(kFormats.begin(), kFormats.end(),
+                     [&format](const char* known) { return format == known; });
+}
+
+int ByteAt(QIODevice& device) {
+  char byte = 0;
+  return device.getChar(&byte) ? static_cast<unsigned char>(byte) : -1;
+}
+
+/// True for a JPEG stream whose decoder keeps the whole picture, or whose kind is not to be found out.
+bool IsHeldWhole(QIODevice& device) {
+  constexpr int kMostSegments = 5000;
+  device.seek(2);
+  for (int i = 0; i < kMostSegments; ++i) {
+    if (ByteAt(device) != 0xFF) {
+      return true;
+    }
+    int marker = 0xFF;
+    while (marker == 0xFF) {
+      marker = ByteAt(device);
+    }
+    if (marker == 0xC0 || marker == 0xC1) {
+      return false;
+    }
+    const int high = ByteAt(device);
+    const int low = ByteAt(device);
+    const int length = high * 256 + low;
+    const bool otherFrame =
+        marker >= 0xC2 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+    if (otherFrame || marker < 0 || high < 0 || low < 0 || length < 2 ||
+        !device.seek(device.pos() + length - 2)) {
+      return true;
+    }
+  }
+  return true;
+}
+
+bool IsTooLarge(QImageReader& reader, QIODevice& device, std::int64_t pixels) {
+  if (IsJpeg(reader.format())) {
+    if (pixels <= kMostPixels) {
+      return false;
+    }
+    const qint64 before = device.pos();
+    const bool tooLarge = pixels > kMostJpegPixels || IsHeldWhole(device);
+    device.seek(before);
+    return tooLarge;
+  }
+  const int bits = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
+  return pixels > kMostPixels || pixels * std::max(bits, 8) / 8 > kMostBytes;
+}
+
+/// Why there is no reader for what the device begins with, and what would bring one.
+std::string NoReaderText(QIODevice& device) {
+  device.seek(0);
+  const std::string head = device.peek(Strandel::kFormatHeadBytes).toStdString();
+  const std::string format = Strandel::FormatByHead(head);
+  if (format.empty()) {
+    return "its content is no picture of a known format";
+  }
+  const auto isOneOf = [&format](std::initializer_list<const char*> formats) {
+    return std::any_of(formats.begin(), formats.end(), [&format](const char* one) { return format == one; });
+  };
+  const std::string text = format + " pictures cannot be decoded by this installation";
+  if (isOneOf({"HEIC", "AVIF", "JPEG XL", "PSD"})) {
+    return text + "; install the plug-ins of KImageFormats for Qt 5";
+  }
+  if (isOneOf({"TIFF", "WebP", "JPEG 2000"})) {
+    return text + "; install the plug-ins of Qt Image Formats for Qt 5";
+  }
+  return format == "RAW" ? text + ", and the file holds no preview" : "the head of the picture is damaged";
+}
+
+QImage InSrgb(QImage image) {
+  const QColorSpace space = image.colorSpace();
+  if (space.isValid() && space != QColorSpace(QColorSpace::SRgb)) {
+    image = image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    image.convertToColorSpace(QColorSpace::SRgb);
+  }
+  return image;
+}
+
+/// As far as it goes; null when that is nothing.
+QImage ReadDamagedJpeg(QIODevice& device, const QSize& size, bool upright) {
+  QByteArray bytes = device.seek(0) ? device.readAll() : QByteArray();
+  if (!MendJpeg(bytes)) {
+    return {};
+  }
+  QBuffer buffer(&bytes);
+  if (!buffer.open(QIODevice::ReadOnly)) {
+    return {};
+  }
+  QImageReader reader(&buffer);
+  reader.setAutoTransform(upright);
+  reader.setScaledSize(size);
+  return reader.read();
+}
+
+}  // namespace
+
+QSize FittedSize(const QSize& size, int longerSide) {
+  const int longer = std::max(size.width(), size.height());
+  if (longer <= longerSide || size.isEmpty()) {
+    return size;
+  }
+  const double scale = static_cast<double>(longerSide) / longer;
+  return {std::max(1, static_cast<int>(std::lround(size.width() * scale))),
+          std::max(1, static_cast<int>(std::lround(size.height() * scale)))};
+}
+
+std::string TooLargeText(const QSize& size) {
+  return "the picture is too large: " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
+         " pixels";
+}
+
+DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
+  Quillet::TakeDecoderNotes();
+  QImageReader reader(&device);
+  reader.setDecideFormatFromContent(true);
+  if (!reader.canRead() || !IsPhotoFormat(reader.format())) {
+    return {{}, {}, NoReaderText(device)};
+  }
+  const QSize size = reader.size();
+  if (size.isEmpty()) {
+    return {{}, {}, "the head of the picture is damaged"};
+  }
+  const bool jpeg = IsJpeg(reader.format());
+  const bool turned = upright && reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+  DecodedPicture result;
+  result.size = turned ? size.transposed() : size;
+  const std::int64_t pixels = static_cast<std::int64_t>(size.width()) * size.height();
+  if (IsTooLarge(reader, device, pixels)) {
+    result.cause = TooLargeText(size);
+    return result;
+  }
+  static std::mutex largeOnes;
+  std::unique_lock<std::mutex> oneAtATime(largeOnes, std::defer_lock);
+  if (pixels > kLargePixels) {
+    oneAtATime.lock();
+  }
+  reader.setAutoTransform(upright);
+  const QSize wished = FittedSize(size, longerSide);
+  if (jpeg && wished != size) {
+    reader.setScaledSize(wished);
+  }
+  QImage image = reader.read();
+  if (image.isNull() && jpeg) {
+    image = ReadDamagedJpeg(device, wished, upright);
+    result.isDamaged = !image.isNull();
+  }
+  if (image.isNull()) {
+    result.cause = "nothing of the picture can be decoded";
+    return result;
+  }
+  const QSize fitted = FittedSize(image.size(), longerSide);
+  if (fitted != image.size()) {
+    image = image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  }
+  result.image = InSrgb(image);
+  return result;
+}
+
+QSize PictureSize(QIODevice& device) {
+  Quillet::TakeDecoderNotes();
+  const qint64 before = device.pos();
+  QSize size;
+  {
+    QImageReader reader(&device);
+    reader.setDecideFormatFromContent(true);
+    if (reader.canRead() && IsPhotoFormat(reader.format())) {
+      size = reader.size();
+    }
+  }
+  device.seek(before);
+  return size;
+}
+
+QImage DecodeBytes(const QByteArray& bytes, int longerSide) {
+  QBuffer buffer;
+  buffer.setData(bytes);
+  return buffer.open(QIODevice::ReadOnly) ? DecodePicture(buffer, longerSide, false).image : QImage();
+}
+
+QImage OnWhite(const QImage& picture) {
+  if (!picture.hasAlphaChannel()) {
+    return picture.convertToFormat(QImage::Format_RGB32);
+  }
+  QImage plain(picture.size(), QImage::Format_RGB32);
+  plain.fill(Qt::white);
+  QPainter painter(&plain);
+  painter.drawImage(0, 0, picture);
+  return plain;
+}
+
+QImage Turned(const QImage& stored, int orientation) {
+  if (orientation < 2 || orientation > 8) {
+    return stored;
+  }
+  // Mirrored first, then turned clockwise.
+  const bool mirrored = orientation == 2 || orientation == 4 || orientation == 5 || orientation == 7;
+  const int turn = orientation == 3 || orientation == 4   ? 180
+                   : orientation == 6 || orientation == 7 ? 90
+                   : orientation == 5 || orientation == 8 ? 270
+                                                          : 0;
+  const QImage flipped = mirrored ? stored.mirrored(true, false) : stored;
+  return turn == 0 ? flipped : flipped.transformed(QTransform().rotate(turn));
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,456 @@
+#include <host/base/FolderEntries.h>
+#include <host/base/LinkSearch.h>
+#include <host/base/RenameNames.h>
+#include <host/pixels/JudgedPictures.h>
+#include <host/pixels/PictureEnd.h>
+#include <host/scan/FileVerdicts.h>
+#include <host/shots/ShotNames.h>
+#include <host/shots/ShotSets.h>
+#include <host/trash/TrashPlan.h>
+
+#include <zenvora/core/ErrorText.h>
+#include <zenvora/core/FileState.h>
+#include <zenvora/quillet/MatchTemplate.h>
+#include <zenvora/tavolin/Trash.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <set>
+#include <unordered_map>
+#include <utility>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+using Identity = std::pair<std::uint64_t, std::uint64_t>;
+
+SeenFile KnownAs(const PhotoRecord& photo) {
+  return {photo.path, photo.size, photo.modifiedNs};
+}
+
+bool IsLink(const ioPath& file) {
+  std::error_code error;
+  return std::filesystem::is_symlink(std::filesystem::symlink_status(file.for_system(), error));
+}
+
+bool IsAsKnown(const FileState& state, const SeenFile& file) {
+  return state.kind == FileState::Kind::File && state.size == file.size &&
+         state.modifiedNs == file.modifiedNs;
+}
+
+/// To be put behind the name.
+std::string WhatIsWrong(const FileState& state) {
+  switch (state.kind) {
+    case FileState::Kind::Missing:
+      return "is not there any more";
+    case FileState::Kind::File:
+      return "has been changed since it was looked at";
+    default:
+      return state.error ? "cannot be looked at (" + ErrorText(state.error) + ")" : "is no file any more";
+  }
+}
+
+std::string Stays(const ioPath& photo, const std::string& why) {
+  return photo.utf8string() + " stays: " + why + ".";
+}
+
+class Planner {
+ public:
+  Planner(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore)
+      : groups_(groups), choice_(choice), hasMore_(hasMore) {
+    for (const SuggestedGroup& group : groups) {
+      const FileState state = QueryFile(KeptOf(group).photo.path);
+      if (state.kind == FileState::Kind::File) {
+        kept_.insert(state.identity);
+      }
+    }
+  }
+
+  TrashPlan Run() {
+    for (const SuggestedGroup& group : groups_) {
+      AddGroup(group);
+    }
+    const std::vector<Beside> beside = FindBeside();
+    SpareSettings(beside);
+    for (const Beside& file : beside) {
+      AddAppendix(file);
+    }
+    return std::move(plan_);
+  }
+
+ private:
+  static const SimilarMember& KeptOf(const SuggestedGroup& group) {
+    return group.group.members[group.keeper.index];
+  }
+
+  /// The middle of a group wanders with each photo that comes, and those at its two ends can differ widely.
+  static bool IsLike(const SimilarMember& photo, const SimilarMember& kept) {
+    return Quillet::MatchTemplate(photo.features.vector, kept.features.vector) > kSameGroupScore;
+  }
+
+  /// What is wrong with the photo to keep.
+  struct Fault {
+    std::string text;
+    bool isRule = false;
+  };
+
+  void AddGroup(const SuggestedGroup& group) {
+    const ioPath& kept = KeptOf(group).photo.path;
+    const FileState state = QueryFile(kept);
+    Fault fault;
+    if (!IsAsKnown(state, KnownAs(KeptOf(group).photo))) {
+      fault.text = "the one to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
+    } else if (Tavolin::LiesInTrash(kept)) {
+      fault.text = "the one to keep, " + kept.utf8string() + ", is in a trash itself";
+    } else if (IsLink(kept)) {
+      // The file that it leads to may lie on what is pulled out, and nobody looks after it here.
+      fault.text = "the one to keep, " + kept.utf8string() + ", is a link to another file";
+      fault.isRule = true;
+    } else if (group.group.members.size() > 1 && EndsTooSoon(kept)) {
+      // As large as it was, and hardly less sharp: nothing else tells it from the whole one.
+      fault.text = "the one to keep, " + kept.utf8string() + ", breaks off before the end of its picture";
+    } else if (KeptOf(group).origin && !KeptOf(group).origin->degradation.empty()) {
+      fault.text =
+          "the one to keep, " + kept.utf8string() + ", is damaged: " + KeptOf(group).origin->degradation;
+    }
+    std::set<std::size_t> raws;
+    for (std::size_t i = 0; i < group.group.members.size(); ++i) {
+      if (i != group.keeper.index) {
+        Judge(group, i, fault, raws);
+      }
+    }
+    SettleRaws(group, raws);
+  }
+
+  void Judge(const SuggestedGroup& group, std::size_t index, const Fault& fault,
+             std::set<std::size_t>& raws) {
+    const PhotoRecord& photo = group.group.members[index].photo;
+    const ioPath& kept = KeptOf(group).photo.path;
+    const FileState state = QueryFile(photo.path);
+    if (!fault.text.empty()) {
+      Stay(photo.path, fault.text, fault.isRule);
+    } else if (!IsAsKnown(state, KnownAs(photo))) {
+      Stay(photo.path, "it " + WhatIsWrong(state), false);
+    } else if (FileVerdict verdict = JudgeTrash(photo.path); verdict.IsRefused()) {
+      plan_.stays.push_back(
+          {photo.path, std::move(verdict.text), verdict.kind == FileVerdict::Kind::Kept, {}});
+    } else if (kept_.count(state.identity) > 0) {
+      Stay(photo.path, "it is another name of a file that is kept", true);
+    } else if (ShotKey(photo.path) == ShotKey(kept)) {
+      Stay(photo.path, "it is of the same shot as " + kept.filename().utf8string() + ", which is kept", true);
+    } else if (!IsLike(group.group.members[index], KeptOf(group))) {
+      Stay(photo.path, "it is like others of its group, but not like the one to keep, " + kept.utf8string(),
+           true);
+    } else if (const std::string why = WhyKept(VerdictOf(group, index), kept); !why.empty()) {
+      plan_.stays.push_back({photo.path, Stays(photo.path, why), true, VerdictOf(group, index).verdict});
+    } else if (hasMore_ && hasMore_(photo, KeptOf(group).photo)) {
+      Stay(photo.path, "it has tags or albums that " + kept.utf8string() + ", which is kept, has not", true);
+    } else if (const ioPath link = LinkTo(state.identity); !link.empty()) {
+      Stay(photo.path, "the link " + link.utf8string() + " leads to it", true);
+    } else if (IsRawName(photo.path.filename().utf8string())) {
+      raws.insert(index);
+    } else {
+      Go(group, index);
+    }
+  }
+
+  /// Somebody chose this file and no other of its group: a link in or below a folder of the photos. Empty:
+  /// none.
+  ioPath LinkTo(const Identity& file) {
+    if (!links_) {
+      links_.emplace();
+      std::set<ioPath> folders;
+      for (const SuggestedGroup& group : groups_) {
+        for (const SimilarMember& member : group.group.members) {
+          folders.insert(member.photo.path.parent_path());
+        }
+      }
+      for (const ioPath& link : FindLinks({}, {folders.begin(), folders.end()})) {
+        const FileState state = QueryFile(link);
+        if (state.kind == FileState::Kind::File && !Tavolin::LiesInTrash(link)) {
+          links_->emplace(state.identity, link);
+        }
+      }
+    }
+    const auto link = links_->find(file);
+    return link == links_->end() ? ioPath() : link->second;
+  }
+
+  static PictureVerdict VerdictOf(const SuggestedGroup& group, std::size_t index) {
+    return index < group.verdicts.size() ? group.verdicts[index] : PictureVerdict();
+  }
+
+  /// What the pixels of both say against it; empty: nothing.
+  std::string WhyKept(const PictureVerdict& judged, const ioPath& kept) const {
+    const std::string why = judged.why.empty() ? std::string() : " (" + judged.why + ")";
+    switch (judged.verdict) {
+      case Verdict::Same:
+        return {};
+      case Verdict::Alike:
+        return choice_ == TrashChoice::SameOrAlike
+                   ? std::string()
+                   : "it is only alike to " + kept.utf8string() + ", not the same picture" + why;
+      case Verdict::Different:
+        return "it shows something else than the one to keep, " + kept.utf8string() + why;
+      case Verdict::Unknown:
+        break;
+    }
+    return "it could not be compared with the one to keep, " + kept.utf8string() + why;
+  }
+
+  /// A raw file is what all other formats are made from: one of the group always stays.
+  void SettleRaws(const SuggestedGroup& group, const std::set<std::size_t>& raws) {
+    const bool keepsRaw =
+        !raws.empty() && std::any_of(group.group.members.begin(), group.group.members.end(),
+                                     [&](const SimilarMember& member) { return IsRawOfKept(group, member); });
+    for (const std::size_t index : raws) {
+      if (keepsRaw) {
+        Go(group, index);
+      } else {
+        Stay(group.group.members[index].photo.path, "it is a raw file, and no raw file of its group is kept",
+             true);
+      }
+    }
+  }
+
+  /// A link could lead to one that goes.
+  static bool IsRawOfKept(const SuggestedGroup& group, const SimilarMember& member) {
+    const ioPath& path = member.photo.path;
+    return IsRawName(path.filename().utf8string()) && ShotKey(path) == ShotKey(KeptOf(group).photo.path) &&
+           IsAsKnown(QueryFile(path), KnownAs(member.photo)) &&
+           (!IsLink(path) || path == KeptOf(group).photo.path) && !EndsTooSoon(path);
+  }
+
+  void Go(const SuggestedGroup& group, std::size_t index) {
+    const SeenFile photo = KnownAs(group.group.members[index].photo);
+    going_.emplace(photo.path, plan_.photos.size());
+    plan_.photos.push_back({photo, KnownAs(KeptOf(group).photo), {}, VerdictOf(group, index)});
+  }
+
+  void Stay(const ioPath& photo, const std::string& why, bool isRule) {
+    plan_.stays.push_back({photo, Stays(photo, why), isRule, {}});
+  }
+
+  /// Settings or a thumbnail, and the photos that they are of.
+  struct Beside {
+    ioPath file;
+    std::vector<ioPath> owners;
+    /// A film's thumbnail, or the settings of a layered picture.
+    bool isOthersToo = false;
+  };
+
+  /// What lies beside the photos that go.
+  std::vector<Beside> FindBeside() const {
+    std::map<ioPath, std::vector<ioPath>> folders;
+    for (const TrashPhoto& photo : plan_.photos) {
+      folders[photo.photo.path.parent_path()].push_back(photo.photo.path);
+    }
+    std::vector<Beside> beside;
+    for (auto& [folder, photos] : folders) {
+      for (const ShotSet& set : GroupShots(std::move(photos), FilesOf(folder))) {
+        AddBeside(set, beside);
+      }
+    }
+    return beside;
+  }
+
+  /// What cannot be listed stays: nothing is lost by that.
+  static std::vector<ioPath> FilesOf(const ioPath& folder) {
+    std::vector<ioPath> files;
+    std::error_code ignored;
+    for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::NotHidden, ignored)) {
+      if (entry.kind == FolderEntry::Kind::File || entry.kind == FolderEntry::Kind::Link) {
+        files.push_back(folder / entry.name);
+      }
+    }
+    return files;
+  }
+
+  static void AddBeside(const ShotSet& set, std::vector<Beside>& beside) {
+    Beside all;
+    // By their extensions. Where case counts, two photos can differ in nothing else.
+    std::unordered_map<std::string, std::vector<ioPath>> byExtension;
+    for (const ShotFile& file : set.files) {
+      if (IsPhotoName(file.path)) {
+        all.owners.push_back(file.path);
+        byExtension[NameKey(file.suffix)].push_back(file.path);
+      } else if (!IsAppendixName(file.path.filename().utf8string())) {
+        all.isOthersToo = true;
+      }
+    }
+    for (const ShotFile& file : set.files) {
+      if (!IsPhotoName(file.path) && IsAppendixName(file.path.filename().utf8string()) &&
+          !IsLink(file.path)) {
+        const auto owners = byExtension.find(NameKey(OwnerExtension(file.suffix)));
+        beside.push_back(owners != byExtension.end() ? Beside{{}, owners->second, false} : all);
+        beside.back().file = file.path;
+      }
+    }
+  }
+
+  bool GoesAlong(const Beside& beside) const {
+    return !beside.isOthersToo && !beside.owners.empty() &&
+           std::all_of(beside.owners.begin(), beside.owners.end(),
+                       [this](const ioPath& photo) { return going_.count(photo) > 0; });
+  }
+
+  /// Ratings, texts and developments of a copy are somebody's work: where the kept photo has not the very
+  /// same, the copy stays with them.
+  void SpareSettings(const std::vector<Beside>& beside) {
+    std::map<ioPath, std::string> spared;
+    for (const Beside& file : beside) {
+      if (!IsSettingsName(file.file.filename().utf8string()) || !GoesAlong(file) ||
+          QueryFile(file.file).size == 0) {
+        continue;
+      }
+      const auto misses = [&](const ioPath& owner) {
+        return FindEqual(file.file, plan_.photos[going_.at(owner)].kept.path).path.empty();
+      };
+      const auto owner = std::find_if(file.owners.begin(), file.owners.end(), misses);
+      if (owner != file.owners.end()) {
+        const ioPath& kept = plan_.photos[going_.at(*owner)].kept.path;
+        for (const ioPath& photo : file.owners) {
+          spared.emplace(photo, "its settings in " + file.file.filename().utf8string() +
+                                    " would go along, and beside " + kept.utf8string() +
+                                    ", which is kept, there are none like them");
+        }
+      }
+    }
+    if (spared.empty()) {
+      return;
+    }
+    std::vector<TrashPhoto> photos = std::move(plan_.photos);
+    plan_.photos.clear();
+    going_.clear();
+    for (TrashPhoto& photo : photos) {
+      const auto why = spared.find(photo.photo.path);
+      if (why != spared.end()) {
+        Stay(photo.photo.path, why->second, true);
+      } else {
+        going_.emplace(photo.photo.path, plan_.photos.size());
+        plan_.photos.push_back(std::move(photo));
+      }
+    }
+  }
+
+  /// Settings beside the kept photo that hold the same bytes, as a file of their own.
+  static SeenFile FindEqual(const ioPath& settings, const ioPath& kept) {
+    const FileState state = QueryFile(settings);
+    for (const ShotSet& set : GroupShots({kept}, FilesOf(kept.parent_path()))) {
+      for (const ShotFile& file : set.files) {
+        const FileState other = QueryFile(file.path);
+        if (IsSettingsName(file.path.filename().utf8string()) && !IsLink(file.path) &&
+            other.kind == FileState::Kind::File && other.size == state.size && file.path != settings &&
+            HoldTheSameBytes(settings, file.path)) {
+          return {file.path, other.size, other.modifiedNs};
+        }
+      }
+    }
+    return {};
+  }
+
+  void AddAppendix(const Beside& beside) {
+    const FileState state = QueryFile(beside.file);
+    if (!GoesAlong(beside) || state.kind != FileState::Kind::File || !LinkTo(state.identity).empty()) {
+      return;
+    }
+    // With the last of them.
+    std::size_t last = 0;
+    for (const ioPath& photo : beside.owners) {
+      last = std::max(last, going_.at(photo));
+    }
+    TrashAppendix appendix = {{beside.file, state.size, state.modifiedNs}, beside.owners};
+    if (IsSettingsName(beside.file.filename().utf8string()) && state.size > 0) {
+      appendix.equal = FindEqual(beside.file, plan_.photos[last].kept.path);
+    }
+    plan_.photos[last].appendix.push_back(std::move(appendix));
+  }
+
+  const std::vector<SuggestedGroup>& groups_;
+  const TrashChoice choice_;
+  const HasMore& hasMore_;
+  std::set<Identity> kept_;
+  /// Files to which links lead.
+  std::optional<std::map<Identity, ioPath>> links_;
+  std::unordered_map<ioPath, std::size_t> going_;
+  TrashPlan plan_;
+};
+
+}  // namespace
+
+std::size_t TrashPlan::CountAlike() const {
+  return static_cast<std::size_t>(std::count_if(photos.begin(), photos.end(), [](const TrashPhoto& photo) {
+    return photo.verdict.verdict != Verdict::Same;
+  }));
+}
+
+std::size_t TrashPlan::CountFiles() const {
+  std::size_t files = 0;
+  for (const TrashPhoto& photo : photos) {
+    files += 1 + photo.appendix.size();
+  }
+  return files;
+}
+
+std::uint64_t TrashPlan::CountBytes() const {
+  std::uint64_t bytes = 0;
+  for (const TrashPhoto& photo : photos) {
+    bytes += photo.photo.size;
+    for (const SeenFile& file : photo.appendix) {
+      bytes += file.size;
+    }
+  }
+  return bytes;
+}
+
+TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore) {
+  return Planner(groups, choice, hasMore).Run();
+}
+
+std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept) {
+  const FileState keptState = QueryFile(kept.path);
+  if (!IsAsKnown(keptState, kept)) {
+    return Stays(photo.path, "the one to keep, " + kept.path.utf8string() + ", " + WhatIsWrong(keptState));
+  }
+  const FileState state = QueryFile(photo.path);
+  if (!IsAsKnown(state, photo)) {
+    return Stays(photo.path, "it " + WhatIsWrong(state));
+  }
+  if (IsLink(photo.path) || state.identity == keptState.identity) {
+    return Stays(photo.path, "it is another name of a file that is kept");
+  }
+  return {};
+}
+
+std::string FindTrashFault(const TrashPhoto& photo) {
+  const std::string fault = FindTrashFault(photo.photo, photo.kept);
+  // Two files can change their names within a second and be of one size: a look at both is certain.
+  if (fault.empty() && photo.verdict.why == kIdenticalFiles &&
+      !HoldTheSameBytes(photo.photo.path, photo.kept.path)) {
+    return Stays(photo.photo.path, "it has been changed since it was compared");
+  }
+  return fault;
+}
+
+std::string FindTrashFault(const TrashAppendix& appendix) {
+  for (const ioPath& photo : appendix.photos) {
+    if (QueryFile(photo).kind != FileState::Kind::Missing) {
+      return Stays(appendix.path, "so does " + photo.filename().utf8string() + ", to which it belongs");
+    }
+  }
+  const FileState state = QueryFile(appendix.path);
+  if (!IsAsKnown(state, appendix)) {
+    return Stays(appendix.path, "it " + WhatIsWrong(state));
+  }
+  if (!appendix.equal.path.empty() && (!IsAsKnown(QueryFile(appendix.equal.path), appendix.equal) ||
+                                       !HoldTheSameBytes(appendix.path, appendix.equal.path))) {
+    return Stays(appendix.path,
+                 "the settings in " + appendix.equal.path.utf8string() + " are not the same any more");
+  }
+  return IsLink(appendix.path) ? Stays(appendix.path, "it is a link to another file") : std::string();
+}
+
+}  // namespace Zenvora::Lumidex::Host

@@ -1,0 +1,176 @@
+#include <host/base/HostError.h>
+#include <host/catalogue/CatalogueRows.h>
+#include <host/shots/ShotNames.h>
+#include <host/trash/TrashSteps.h>
+
+#include <algorithm>
+#include <exception>
+#include <string>
+
+namespace Zenvora::Lumidex::Host {
+
+namespace {
+
+/// Of a step after files of it were moved back or again.
+State StateOfTrash(const std::vector<TrashedFile>& files, State goal, bool anyHope) {
+  const auto areAll = [&files](State state) {
+    return std::all_of(files.begin(), files.end(),
+                       [state](const TrashedFile& file) { return file.state == state; });
+  };
+  if (areAll(goal)) {
+    return goal;
+  }
+  if (areAll(State::Undone)) {
+    return State::Undone;
+  }
+  // What is gone for good must not keep older steps from being taken back.
+  return anyHope ? State::Done : State::GivenUp;
+}
+
+/// Settings whose photo was to go with them and stays.
+bool BelongsToWhatStays(const ioPath& file, const std::vector<FileFinding>& findings) {
+  return IsAppendixName(file.filename().utf8string()) &&
+         std::any_of(findings.begin(), findings.end(), [shot = ShotKey(file)](const FileFinding& finding) {
+           return ShotKey(finding.file) == shot;
+         });
+}
+
+}  // namespace
+
+/// False when the file stays; then there is a finding.
+bool TrashSteps::MoveOne(qlonglong step, const SeenFile& file, const ioPath& kept,
+                         TrashResult& result) const {
+  try {
+    result.moved.push_back({file.path, trash_.Move(step, file, kept)});
+    ++result.files;
+    return true;
+  } catch (const std::exception& failure) {
+    result.findings.push_back({file.path, failure.what()});
+    return false;
+  }
+}
+
+TrashResult TrashSteps::Run(const QString& name, const std::vector<TrashPhoto>& photos,
+                            const std::atomic<bool>& cancelled, const UndoProgress& progress) {
+  TrashResult result;
+  result.name = name;
+  journal_.HoldRoom();
+  const qlonglong step = journal_.Begin(StepType::Trash, name);
+  std::size_t looked = 0;
+  for (const TrashPhoto& photo : photos) {
+    if (cancelled) {
+      result.cancelled = true;
+      break;
+    }
+    const std::string fault = FindTrashFault(photo);
+    if (!fault.empty()) {
+      result.findings.push_back({photo.photo.path, fault});
+    } else if (MoveOne(step, photo.photo, photo.kept.path, result)) {
+      ++result.photos;
+      for (const TrashAppendix& file : photo.appendix) {
+        const std::string appendixFault = FindTrashFault(file);
+        if (!appendixFault.empty()) {
+          result.findings.push_back({file.path, appendixFault});
+        } else {
+          MoveOne(step, file, photo.kept.path, result);
+        }
+      }
+    }
+    if (progress) {
+      progress(++looked, photos.size());
+    }
+  }
+  try {
+    journal_.Finish([this, step] { Settle(step); });
+  } catch (const HostError& failure) {
+    result.findings.push_back({journal_.Database().File(), std::string(failure.what()) + kNotedLater});
+  }
+  return result;
+}
+
+/// Closes a step in which files were moved for the first time. Returns how many went.
+std::size_t TrashSteps::Settle(qlonglong step) {
+  std::size_t files = 0;
+  for (TrashedFile& file : trash_.Files(step)) {
+    files += file.state == State::Done || trash_.Settle(file) ? 1 : 0;
+  }
+  if (files == 0) {
+    journal_.Drop(step);
+    return 0;
+  }
+  journal_.Close(step, files);
+  journal_.DropUndone();
+  return files;
+}
+
+UndoResult TrashSteps::Reverse(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
+                               const UndoProgress& progress) {
+  UndoResult result;
+  result.name = step.name;
+  const State goal = redo ? State::Done : State::Undone;
+  journal_.SetState(step.number, redo ? State::Redoing : State::Undoing);
+  std::vector<TrashedFile> files = trash_.Files(step.number);
+  if (!redo) {
+    std::reverse(files.begin(), files.end());
+  }
+  std::size_t looked = 0;
+  bool anyHope = false;
+  for (TrashedFile& file : files) {
+    if (file.state != goal) {
+      if (cancelled) {
+        result.cancelled = true;
+        anyHope = true;
+        break;
+      }
+      if (redo && file.state == State::Undone && BelongsToWhatStays(file.file.path, result.findings)) {
+        result.findings.push_back(
+            {file.file.path, file.file.path.utf8string() + " stays: so does what it belongs to"});
+        anyHope = true;
+        continue;
+      }
+      bool isHopeless = false;
+      try {
+        redo ? trash_.MoveAgain(file) : trash_.TakeBack(file, isHopeless);
+        ++result.files;
+      } catch (const std::exception& failure) {
+        result.findings.push_back({file.file.path, failure.what()});
+        anyHope = anyHope || !isHopeless;
+      }
+    }
+    if (progress) {
+      progress(++looked, files.size());
+    }
+  }
+  journal_.EndReversal(step.number, StateOfTrash(files, goal, anyHope), result);
+  result.stands = !redo && anyHope;
+  return result;
+}
+
+void TrashSteps::Recover(StepRow& step) {
+  const std::string name = "\"" + step.name.toStdString() + "\"";
+  for (const TrashedFile& file : trash_.Files(step.number)) {
+    if (IsUnderWay(file.state) && trash_.IsOutOfReach(file)) {
+      journal_.Note(name + " had been broken off and is finished once " +
+                    file.place.file.parent_path().utf8string() + " can be reached again.");
+      return;
+    }
+  }
+  if (step.state == State::Doing) {
+    const std::size_t done = Settle(step.number);
+    journal_.Note(name + " had been broken off after " + std::to_string(done) +
+                  (done == 1 ? " file." : " files.") + " The others are where they were.");
+    return;
+  }
+  const std::atomic<bool> never{false};
+  journal_.NoteReversal(step, Reverse(step, step.state == State::Redoing, never, nullptr), false);
+}
+
+void TrashSteps::AddTraces(qlonglong step, StepTraces& traces) const {
+  for (const TrashedFile& file : trash_.Files(step)) {
+    if (file.state == State::Done) {
+      traces.gone.insert(file.file.path.utf8string());
+    }
+  }
+}
+
+}  // namespace Zenvora::Lumidex::Host

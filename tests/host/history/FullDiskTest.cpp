@@ -1,0 +1,227 @@
+#include "JournalFixture.h"
+
+#include <host/base/DiskReserve.h>
+#include <host/journal/JournalRoom.h>
+#include <support/LeftOut.h>
+#include <support/SmallDisk.h>
+
+#include <zenvora/core/FileState.h>
+
+#include <functional>
+
+namespace Zenvora::Lumidex::Host {
+namespace {
+
+using Zenvora::Test::ReadFile;
+
+TEST(DiskReserveTest, HoldsRoomAndGivesItBack) {
+  const Zenvora::Test::TempTree tree;
+  const DiskReserve reserve(tree.Path("reserve"));
+  EXPECT_EQ(reserve.Wanted(), 0U);
+  EXPECT_FALSE(reserve.Release());
+  EXPECT_FALSE(reserve.Hold(100'000));
+  EXPECT_EQ(reserve.Wanted(), 100'000U);
+  EXPECT_TRUE(reserve.Release());
+  EXPECT_FALSE(reserve.Release());
+  EXPECT_FALSE(reserve.Hold(200'000));
+  EXPECT_FALSE(reserve.Hold(50'000));
+  EXPECT_EQ(reserve.Wanted(), 50'000U);
+  reserve.Remove();
+  EXPECT_FALSE(tree.Path("reserve").exists());
+}
+
+#ifdef _WIN32
+constexpr char kNoDisk[] = "nobody can make a small disk here";
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, EditsWhatItCanAndTakesItBack, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, TakesBackPhotosOfAnotherVolume, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, GoesOnWithoutRedoWhereOthersTookTheRoom, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, BeginsNothingWithoutRoomToFinishIt, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, RenamesAndTakesItBack, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, HoldsItsRoomBetweenRuns, kNoDisk);
+#else
+/// The catalogue on a disk of its own, with little room; photos somewhere else, so that originals are copied.
+class FullDisk : public Zenvora::Test::JournalTest {
+ protected:
+  FullDisk() {
+    if (disk_.IsThere()) {
+      OpenHere();
+    }
+  }
+  ~FullDisk() override { Close(); }
+
+  void OpenHere() {
+    Close();
+    journal_ = std::make_unique<UndoJournal>(catalogueHere_, *locker_);
+  }
+
+  /// Takes the rest of the disk, but for so many bytes.
+  void Fill(std::uintmax_t but = 0) {
+    std::error_code error;
+    const std::uintmax_t free = std::filesystem::space(place_.native(), error).available;
+    if (free > but) {
+      std::ofstream stream((place_ / ("filler" + std::to_string(++fillers_))).native(), std::ios::binary);
+      stream << std::string(free - but, 'f');
+    }
+  }
+  std::uintmax_t Free() const { return std::filesystem::space(place_.native()).available; }
+
+  std::vector<ioPath> MakeMany(int count, std::size_t bytes) const {
+    std::vector<ioPath> photos;
+    for (int i = 0; i < count; ++i) {
+      photos.push_back(
+          Make("p" + std::to_string(i) + ".jpg", std::string(bytes, static_cast<char>('a' + i))));
+    }
+    return photos;
+  }
+
+  /// Edits, with something happening before each photo is written.
+  UndoResult EditWith(const std::vector<ioPath>& photos, const std::function<void(const ioPath&)>& before) {
+    return EditPhotos(
+        journal_->Edits(), *locker_, QStringLiteral("edit"), photos,
+        [&before](const ioPath& photo, const ioPath& side) {
+          before(photo);
+          std::ofstream(side.native(), std::ios::binary) << "edited";
+        },
+        never_, nullptr);
+  }
+
+  static constexpr std::size_t kBytes = std::size_t{8} << 20U;
+
+  const ioPath place_ = tree_.MakeFolder("small");
+  const Zenvora::Test::SmallDisk disk_{place_, kBytes};
+  const ioPath catalogueHere_ = place_ / "catalogue.sqlite";
+  int fillers_ = 0;
+};
+
+#define LUMIDEX_DISK_OR_SKIP()                            \
+  if (!disk_.IsThere()) {                                 \
+    GTEST_SKIP() << "this user cannot make a small disk"; \
+  }                                                       \
+  static_assert(true)
+
+TEST_F(FullDisk, EditsWhatItCanAndTakesItBack) {
+  LUMIDEX_DISK_OR_SKIP();
+  const std::vector<ioPath> photos = MakeMany(12, 100'000);
+  // Five are done when the last byte is taken.
+  const UndoResult result = EditWith(photos, [&](const ioPath& photo) {
+    if (photo == photos[5]) {
+      Fill();
+    }
+  });
+  EXPECT_EQ(result.files, 5U);
+  EXPECT_EQ(result.findings.size(), 7U);
+  for (std::size_t i = 0; i < photos.size(); ++i) {
+    EXPECT_EQ(ReadFile(photos[i]) == "edited", i < 5) << i;
+  }
+  OpenHere();
+  EXPECT_TRUE(journal_->RecoveryNotes().empty()) << journal_->RecoveryNotes()[0];
+  ASSERT_EQ(journal_->Steps().size(), 1U);
+  EXPECT_EQ(journal_->Steps()[0].files, 5U);
+  const UndoResult undone = Undo();
+  EXPECT_EQ(undone.files, 5U);
+  EXPECT_TRUE(undone.findings.empty()) << undone.findings[0].cause;
+  for (std::size_t i = 0; i < photos.size(); ++i) {
+    EXPECT_EQ(ReadFile(photos[i]), std::string(100'000, static_cast<char>('a' + i)));
+  }
+}
+
+TEST_F(FullDisk, TakesBackPhotosOfAnotherVolume) {
+  LUMIDEX_DISK_OR_SKIP();
+  const std::vector<ioPath> photos = MakeMany(3, 300'000);
+  // As large as the originals: for redo it takes as much.
+  ASSERT_EQ(Edit(photos, std::string(300'000, 'e')).files, 3U);
+  Close();
+  Fill();
+  OpenHere();
+  const UndoResult undone = Undo();
+  EXPECT_EQ(undone.files, 3U);
+  EXPECT_TRUE(undone.findings.empty()) << undone.findings[0].cause;
+  EXPECT_EQ(ReadFile(photos[0]), std::string(300'000, 'a'));
+  // And done again, and taken back once more.
+  Close();
+  Fill();
+  OpenHere();
+  EXPECT_EQ(Redo().files, 3U);
+  EXPECT_EQ(ReadFile(photos[0]), std::string(300'000, 'e'));
+  Close();
+  Fill();
+  OpenHere();
+  EXPECT_EQ(Undo().files, 3U);
+}
+
+TEST_F(FullDisk, GoesOnWithoutRedoWhereOthersTookTheRoom) {
+  LUMIDEX_DISK_OR_SKIP();
+  const std::vector<ioPath> photos = MakeMany(2, 300'000);
+  ASSERT_EQ(Edit(photos, std::string(300'000, 'e')).files, 2U);
+  const ioPath earlier = Make("earlier.jpg", std::string(50'000, 'o'));
+  ASSERT_EQ(Edit({earlier}, "edited").files, 1U);
+  ASSERT_EQ(Undo().files, 1U);
+  // The room that was held is free now, and taken, but for what SQLite needs.
+  Fill(200'000);
+  const UndoResult refused = Undo();
+  EXPECT_EQ(refused.files, 0U);
+  EXPECT_EQ(refused.findings.size(), 2U);
+  EXPECT_TRUE(refused.lacksRoomForRedo);
+  EXPECT_TRUE(refused.stands);
+  EXPECT_EQ(ReadFile(photos[0]), std::string(300'000, 'e'));
+
+  journal_->KeepForRedo(false);
+  const UndoResult undone = Undo();
+  EXPECT_EQ(undone.files, 2U);
+  EXPECT_TRUE(undone.findings.empty()) << undone.findings[0].cause;
+  EXPECT_EQ(ReadFile(photos[0]), std::string(300'000, 'a'));
+  EXPECT_TRUE(journal_->Steps().empty());
+  EXPECT_EQ(Redo().files, 0U);
+}
+
+TEST_F(FullDisk, BeginsNothingWithoutRoomToFinishIt) {
+  LUMIDEX_DISK_OR_SKIP();
+  const std::vector<ioPath> photos = MakeMany(1, 1000);
+  Fill(500'000);
+  EXPECT_THROW(Edit(photos, "edited"), HostError);
+  EXPECT_EQ(ReadFile(photos[0]), std::string(1000, 'a'));
+  EXPECT_TRUE(journal_->Steps().empty());
+}
+
+TEST_F(FullDisk, RenamesAndTakesItBack) {
+  LUMIDEX_DISK_OR_SKIP();
+  const std::vector<ioPath> photos = MakeMany(3, 10);
+  RenamePlan plan;
+  for (const ioPath& photo : photos) {
+    plan.steps.push_back({photo, ioPath(photo.utf8string() + ".new")});
+  }
+  plan.renames = plan.steps;
+  const UndoResult result =
+      journal_->Renames().Run(QStringLiteral("rename"), plan, never_, [this](std::size_t done, std::size_t) {
+        if (done == 2) {
+          Fill();
+        }
+      });
+  EXPECT_EQ(result.files, 3U);
+  EXPECT_TRUE(result.findings.empty()) << result.findings[0].cause;
+  OpenHere();
+  EXPECT_TRUE(journal_->RecoveryNotes().empty());
+  EXPECT_EQ(Undo().files, 3U);
+  EXPECT_EQ(ReadFile(photos[0]), std::string(10, 'a'));
+}
+
+TEST_F(FullDisk, HoldsItsRoomBetweenRuns) {
+  LUMIDEX_DISK_OR_SKIP();
+  const ioPath reserve = place_ / "catalogue.sqlite.undo" / "reserve";
+  Close();
+  // Nothing can be taken back.
+  EXPECT_FALSE(reserve.exists());
+  OpenHere();
+  Edit(MakeMany(1, 10), "edited");
+  Close();
+  const std::uintmax_t before = Free();
+  EXPECT_GE(reserve.file_size(), std::uint64_t{1} << 20U);
+  OpenHere();
+  EXPECT_GT(Free(), before);
+  Close();
+  EXPECT_LE(Free(), before + 65536);
+}
+#endif
+
+}  // namespace
+}  // namespace Zenvora::Lumidex::Host
