@@ -2,9 +2,12 @@
 
 #define PSAPI_VERSION 2
 #include <algorithm>
-#include <psapi.h>
 #include <string>
+// psapi.h needs what stands before it.
+// clang-format off
 #include <windows.h>
+#include <psapi.h>
+// clang-format on
 
 namespace Zenvora::Quillet {
 
