@@ -804,7 +804,7 @@ others are renamed.</source>
     </message>
     <message>
         <source>Dates read: %1</source>
-        <translation>Gelesene Daten: %1</translation>
+        <translation>Gelesene Datumsangaben: %1</translation>
     </message>
     <message numerus="yes">
         <source>files found</source>
@@ -1058,11 +1058,11 @@ above %1 against; later photos move the centre.</source>
     </message>
     <message>
         <source>shift dates by %1</source>
-        <translation>Daten um %1 verschieben</translation>
+        <translation>Datumsangaben um %1 verschieben</translation>
     </message>
     <message>
         <source>set dates to %1</source>
-        <translation>Daten auf %1 setzen</translation>
+        <translation>Datumsangaben auf %1 setzen</translation>
     </message>
     <message>
         <source>rotate left</source>
@@ -1538,13 +1538,6 @@ above %1 against; later photos move the centre.</source>
         <source>Of an edit of all these photos at once:</source>
         <translation>Zum Bearbeiten aller dieser Fotos auf einmal:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>%1 davon würde abgelehnt.</numerusform>
-            <numerusform>%1 davon würden abgelehnt.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>Prüfe</translation>
@@ -1641,20 +1634,6 @@ above %1 against; later photos move the centre.</source>
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>Kopien liegen in %1 selbst: Nicht formatieren oder leeren!</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>In %1 bleibt nichts zurück: Jede Datei hat anderswo eine verglichene Kopie.
-Es kann gefahrlos formatiert werden.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>In %1 bleibt nichts zurück: Jede Datei hat anderswo eine verglichene Kopie.
-Was diesen Ordner betrifft, kann gefahrlos formatiert werden; was daneben liegt,
-wurde nicht angesehen.</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -1937,13 +1916,6 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
             <numerusform>%1 Kopien sind jetzt im Papierkorb.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>Von %1 davon ist die Quelle nicht da: Leeren Sie den Papierkorb nicht, bevor Sie sie gefunden haben.</numerusform>
-            <numerusform>Von %1 davon sind die Quellen nicht da: Leeren Sie den Papierkorb nicht, bevor Sie sie gefunden haben.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>Für das, was zum Wiederholen aufzubewahren ist, fehlt der Platz; „lumidex undo --no-redo“ kommt ohne aus.</translation>
@@ -1959,6 +1931,53 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>unbekannt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>%1 Datei oder Ordner würde abgelehnt.</numerusform>
+            <numerusform>%1 Dateien oder Ordner würden abgelehnt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>Ein Import lässt %1 weitere Datei zurück (--json führt sie auf).</numerusform>
+            <numerusform>Ein Import lässt %1 weitere Dateien zurück (--json führt sie auf).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>In %1 bleibt nichts zurück: Jede Datei hat anderswo eine verglichene Kopie.</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>In %1 bleiben nur Verwaltungsdateien zurück: Jede andere Datei hat anderswo eine verglichene Kopie.</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>Es kann gefahrlos formatiert werden.</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Was diesen Ordner betrifft, kann gefahrlos formatiert werden; was daneben liegt,
+wurde nicht angesehen.</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>nicht vergrößert</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>Auf dem Laufwerk von %1 sind noch %2 frei, und um alle Fotos zu bearbeiten, werden %3 gebraucht: Die letzten würden unverändert gelassen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>Bei %1 davon ist die Quelle verschwunden oder wurde geändert: Leeren Sie den Papierkorb nicht, bevor Sie eine andere Kopie haben.</numerusform>
+            <numerusform>Bei %1 davon sind die Quellen verschwunden oder wurden geändert: Leeren Sie den Papierkorb nicht, bevor Sie andere Kopien haben.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1538,13 +1538,6 @@ above %1 against; later photos move the centre.</translation>
         <source>Of an edit of all these photos at once:</source>
         <translation>Of an edit of all these photos at once:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>%1 of them would be refused.</numerusform>
-            <numerusform>%1 of them would be refused.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>Checking</translation>
@@ -1641,20 +1634,6 @@ above %1 against; later photos move the centre.</translation>
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>Copies lie in %1 itself: do not format or empty it.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -1937,13 +1916,6 @@ files are new:</translation>
             <numerusform>%1 copies are in the trash now.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>Of %1 of them the source is not there: do not empty the trash before you have found it.</numerusform>
-            <numerusform>Of %1 of them the source is not there: do not empty the trash before you have found it.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</translation>
@@ -1959,6 +1931,53 @@ files are new:</translation>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>unknown</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>%1 file or folder would be refused.</numerusform>
+            <numerusform>%1 files or folders would be refused.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>An import leaves %1 other file (--json lists it).</numerusform>
+            <numerusform>An import leaves %1 other files (--json lists them).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>Nothing is left in %1: each file has a compared copy elsewhere.</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>It is safe to format.</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>not enlarged</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</numerusform>
+            <numerusform>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1316,7 +1316,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     </message>
     <message>
         <source>Steps can be undone within %1.</source>
-        <translation>Los pasos se pueden deshacer dentro de %1.</translation>
+        <translation>Los pasos se pueden deshacer dentro del límite de %1.</translation>
     </message>
     <message>
         <source>There is nothing to do again.</source>
@@ -1538,13 +1538,6 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <source>Of an edit of all these photos at once:</source>
         <translation>Si se editan todas estas fotos a la vez:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>%1 de ellos sería rechazado.</numerusform>
-            <numerusform>%1 de ellos serían rechazados.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>Comprobando</translation>
@@ -1641,20 +1634,6 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>Hay copias en %1 mismo: no lo formatee ni lo vacíe.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>No queda nada en %1: cada archivo tiene una copia comparada en otro lugar.
-Se puede formatear sin riesgo.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>No queda nada en %1: cada archivo tiene una copia comparada en otro lugar.
-Por lo que toca a esta carpeta, se puede formatear sin riesgo; lo que hay junto
-a ella no se ha mirado.</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -1937,13 +1916,6 @@ files are new:</source>
             <numerusform>%1 copias están ahora en la papelera.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>Falta el original de %1 de ellas: no vacíe la papelera antes de haberlo encontrado.</numerusform>
-            <numerusform>Faltan los originales de %1 de ellas: no vacíe la papelera antes de haberlos encontrado.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>No hay sitio para guardar lo que hace falta para rehacer; «lumidex undo --no-redo» prescinde de ello.</translation>
@@ -1959,6 +1931,53 @@ files are new:</source>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>desconocida</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>se rechazaría %1 archivo o carpeta.</numerusform>
+            <numerusform>se rechazarían %1 archivos o carpetas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>Una importación deja fuera %1 archivo más (--json lo enumera).</numerusform>
+            <numerusform>Una importación deja fuera %1 archivos más (--json los enumera).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>No queda nada en %1: cada archivo tiene una copia comparada en otro lugar.</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>En %1 solo quedan archivos de gestión: cada uno de los demás archivos tiene una copia comparada en otro lugar.</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>Se puede formatear sin riesgo.</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Por lo que toca a esta carpeta, se puede formatear sin riesgo; lo que hay junto
+a ella no se ha mirado.</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>no ampliada</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>En el disco de %1 quedan %2 libres, y editar todas las fotos requiere %3: las últimas se dejarían como están.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>El archivo de origen de %1 de ellas ha desaparecido o ha cambiado: no vacíe la papelera antes de tener otra copia.</numerusform>
+            <numerusform>Los archivos de origen de %1 de ellas han desaparecido o han cambiado: no vacíe la papelera antes de tener otras copias.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1538,13 +1538,6 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <source>Of an edit of all these photos at once:</source>
         <translation>Pour une modification de toutes ces photos à la fois&#xa0;:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>%1 d’entre eux serait refusé.</numerusform>
-            <numerusform>%1 d’entre eux seraient refusés.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>Vérification</translation>
@@ -1641,20 +1634,6 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>Des copies se trouvent dans %1 même&#xa0;: ne pas formater ni vider.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>Il ne reste rien dans %1&#xa0;: chaque fichier a ailleurs une copie comparée.
-Le formatage est sans risque.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>Il ne reste rien dans %1&#xa0;: chaque fichier a ailleurs une copie comparée.
-Pour ce dossier, le formatage est sans risque&#xa0;; ce qui se trouve à côté n’a pas
-été examiné.</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -1937,13 +1916,6 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
             <numerusform>%1 copies sont maintenant dans la corbeille.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>La source de %1 d’entre elles n’est pas là&#xa0;: ne videz pas la corbeille avant de l’avoir retrouvée.</numerusform>
-            <numerusform>Les sources de %1 d’entre elles ne sont pas là&#xa0;: ne videz pas la corbeille avant de les avoir retrouvées.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>Il n’y a pas de place pour conserver ce qu’il faut pour rétablir&#xa0;; «&#xa0;lumidex undo --no-redo&#xa0;» s’en passe.</translation>
@@ -1959,6 +1931,53 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>inconnue</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>%1 fichier ou dossier serait refusé.</numerusform>
+            <numerusform>%1 fichiers ou dossiers seraient refusés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>Une importation laisse de côté %1 autre fichier (--json l’indique).</numerusform>
+            <numerusform>Une importation laisse de côté %1 autres fichiers (--json en donne la liste).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>Il ne reste rien dans %1&#xa0;: chaque fichier a ailleurs une copie comparée.</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>Il ne reste que des fichiers de gestion dans %1&#xa0;: chaque autre fichier a ailleurs une copie comparée.</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>Le formatage est sans risque.</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Pour ce dossier, le formatage est sans risque&#xa0;; ce qui se trouve à côté n’a pas
+été examiné.</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>non agrandie</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>Il reste %2 de libre sur le disque de %1, et modifier toutes les photos demande %3&#xa0;: les dernières seraient laissées telles quelles.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>La source de %1 d’entre elles a disparu ou a été modifiée&#xa0;: ne videz pas la corbeille avant d’avoir une autre copie.</numerusform>
+            <numerusform>Les sources de %1 d’entre elles ont disparu ou ont été modifiées&#xa0;: ne videz pas la corbeille avant d’avoir d’autres copies.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

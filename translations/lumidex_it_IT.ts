@@ -517,7 +517,7 @@ stessa festività o dei fine settimana di un mese.</translation>
     </message>
     <message>
         <source>Would be taken in where they lie:</source>
-        <translation>Sarebbero accolte dove si trovano:</translation>
+        <translation>Sarebbero acquisite dove si trovano:</translation>
     </message>
     <message>
         <source>These files are of one shot each, and the free names for them are not:</source>
@@ -529,7 +529,7 @@ stessa festività o dei fine settimana di un mese.</translation>
     </message>
     <message>
         <source>Not taken into the catalogue:</source>
-        <translation>Non accolti nel catalogo:</translation>
+        <translation>Non acquisiti nel catalogo:</translation>
     </message>
     <message>
         <source>Left out:</source>
@@ -582,8 +582,8 @@ stessa festività o dei fine settimana di un mese.</translation>
         <source>%1 photos taken in where they lie.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>%1 foto accolta dove si trova.</numerusform>
-            <numerusform>%1 foto accolte dove si trovano.</numerusform>
+            <numerusform>%1 foto acquisita dove si trova.</numerusform>
+            <numerusform>%1 foto acquisite dove si trovano.</numerusform>
         </translation>
     </message>
     <message>
@@ -768,7 +768,7 @@ others are renamed.</source>
     </message>
     <message>
         <source>Not taken in:</source>
-        <translation>Non accolti:</translation>
+        <translation>Non acquisiti:</translation>
     </message>
     <message numerus="yes">
         <source>%1 original</source>
@@ -1538,13 +1538,6 @@ più di %1; le foto successive spostano il centro.</translation>
         <source>Of an edit of all these photos at once:</source>
         <translation>Per una modifica di tutte queste foto insieme:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>%1 di essi sarebbe rifiutato.</numerusform>
-            <numerusform>%1 di essi sarebbero rifiutati.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>Controllo</translation>
@@ -1623,8 +1616,8 @@ più di %1; le foto successive spostano il centro.</translation>
     <message numerus="yes">
         <source>%1 of them are films, which the catalogue does not take.</source>
         <translation>
-            <numerusform>%1 di essi è un video, che il catalogo non accoglie.</numerusform>
-            <numerusform>%1 di essi sono video, che il catalogo non accoglie.</numerusform>
+            <numerusform>%1 di essi è un video, che il catalogo non acquisisce.</numerusform>
+            <numerusform>%1 di essi sono video, che il catalogo non acquisisce.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1641,20 +1634,6 @@ più di %1; le foto successive spostano il centro.</translation>
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>Alcune copie si trovano in %1 stesso: non formattare né svuotare.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>Non resta nulla in %1: ogni file ha altrove una copia confrontata.
-Si può formattare senza rischi.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>Non resta nulla in %1: ogni file ha altrove una copia confrontata.
-Per quanto riguarda questa cartella si può formattare senza rischi; ciò che le
-sta accanto non è stato esaminato.</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -1937,13 +1916,6 @@ i file sono nuovi:</translation>
             <numerusform>%1 copie sono ora nel cestino.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>Di %1 di esse l’originale non c’è: non svuoti il cestino prima di averlo trovato.</numerusform>
-            <numerusform>Di %1 di esse gli originali non ci sono: non svuoti il cestino prima di averli trovati.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>Non c’è spazio per conservare ciò che serve per ripetere; «lumidex undo --no-redo» ne fa a meno.</translation>
@@ -1959,6 +1931,53 @@ i file sono nuovi:</translation>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>sconosciuta</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>%1 file o cartella sarebbe rifiutato.</numerusform>
+            <numerusform>%1 file o cartelle sarebbero rifiutati.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>Un’importazione tralascia %1 altro file (--json lo elenca).</numerusform>
+            <numerusform>Un’importazione tralascia altri %1 file (--json li elenca).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>Non resta nulla in %1: ogni file ha altrove una copia confrontata.</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>In %1 restano solo file di servizio: ogni altro file ha altrove una copia confrontata.</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>Si può formattare senza rischi.</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Per quanto riguarda questa cartella si può formattare senza rischi; ciò che le
+sta accanto non è stato esaminato.</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>non ingrandita</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>Sul disco di %1 restano liberi %2, e per modificare tutte le foto servono %3: le ultime sarebbero lasciate come sono.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>Di %1 di esse il file di origine non c’è più o è stato modificato: non svuoti il cestino prima di avere un’altra copia.</numerusform>
+            <numerusform>Di %1 di esse i file di origine non ci sono più o sono stati modificati: non svuoti il cestino prima di avere altre copie.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

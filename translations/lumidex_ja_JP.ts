@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>WHEN</source>
-        <translation>時期</translation>
+        <translation>日付</translation>
     </message>
     <message>
         <source>FIRST DAY</source>
@@ -1466,12 +1466,6 @@ above %1 against; later photos move the centre.</source>
         <source>Of an edit of all these photos at once:</source>
         <translation>これらの写真をすべて一度に編集する場合:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>うち%1個は拒否されます。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>確認中</translation>
@@ -1559,20 +1553,6 @@ above %1 against; later photos move the centre.</source>
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>コピーが %1 自体の中にあります。フォーマットしたり空にしたりしないでください。</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>%1 に残りはありません。どのファイルも別の場所に比較済みのコピーがあります。
-安全にフォーマットできます。</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>%1 に残りはありません。どのファイルも別の場所に比較済みのコピーがあります。
-このフォルダーに限れば安全にフォーマットできます。その隣にあるものは
-調べていません。</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -1838,12 +1818,6 @@ files are new:</source>
             <numerusform>コピー%1個は現在ごみ箱にあります。</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>うち%1個はコピー元が見つかりません。見つかるまでごみ箱を空にしないでください。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>やり直しに必要なものを保管する空きがありません。「lumidex undo --no-redo」なら保管せずに実行します。</translation>
@@ -1858,6 +1832,50 @@ files are new:</source>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>不明</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>ファイルまたはフォルダー%1個は拒否されます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>取り込みでは、ほかのファイル%1個が残ります (--json ですべて表示)。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>%1 に残りはありません。どのファイルも別の場所に比較済みのコピーがあります。</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>%1 に残っているのは管理用ファイルだけです。ほかのどのファイルも別の場所に比較済みのコピーがあります。</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>安全にフォーマットできます。</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>このフォルダーに限れば安全にフォーマットできます。その隣にあるものは
+調べていません。</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>拡大なし</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>%1 があるディスクの空きは %2 ですが、すべての写真を編集するには %3 必要です。最後のほうの写真はそのまま残ります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>うち%1個はコピー元がなくなったか、変更されています。別のコピーを用意するまでごみ箱を空にしないでください。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1238,7 +1238,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     <message>
         <source>given up</source>
         <comment>a step</comment>
-        <translation>opgegeven</translation>
+        <translation>losgelaten</translation>
     </message>
     <message>
         <source>There is nothing that could be undone.</source>
@@ -1301,7 +1301,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     </message>
     <message>
         <source>Given up: %1.</source>
-        <translation>Opgegeven: %1.</translation>
+        <translation>Losgelaten: %1.</translation>
     </message>
     <message>
         <source>What is kept of it (%1) stays until it is too old or too much.</source>
@@ -1538,13 +1538,6 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <source>Of an edit of all these photos at once:</source>
         <translation>Bij het bewerken van al deze foto’s tegelijk:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>%1 ervan zou worden geweigerd.</numerusform>
-            <numerusform>%1 ervan zouden worden geweigerd.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>Controleren</translation>
@@ -1641,20 +1634,6 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>Er staan kopieën in %1 zelf: niet formatteren of leegmaken.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>Er blijft niets achter in %1: elk bestand heeft elders een vergeleken kopie.
-Formatteren is veilig.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>Er blijft niets achter in %1: elk bestand heeft elders een vergeleken kopie.
-Wat deze map betreft is formatteren veilig; wat ernaast staat, is niet
-bekeken.</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -1937,13 +1916,6 @@ albums, de bestanden zijn nieuw:</translation>
             <numerusform>%1 kopieën liggen nu in de prullenbak.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>Van %1 ervan is de bron er niet: maak de prullenbak niet leeg voordat u die hebt gevonden.</numerusform>
-            <numerusform>Van %1 ervan zijn de bronnen er niet: maak de prullenbak niet leeg voordat u die hebt gevonden.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>Er is geen ruimte om te bewaren wat nodig is om het opnieuw te doen; ‘lumidex undo --no-redo’ doet het zonder.</translation>
@@ -1959,6 +1931,53 @@ albums, de bestanden zijn nieuw:</translation>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>onbekend</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>%1 bestand of map zou worden geweigerd.</numerusform>
+            <numerusform>%1 bestanden of mappen zouden worden geweigerd.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>Een import laat %1 ander bestand achter (--json somt het op).</numerusform>
+            <numerusform>Een import laat %1 andere bestanden achter (--json somt ze op).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>Er blijft niets achter in %1: elk bestand heeft elders een vergeleken kopie.</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>In %1 blijven alleen beheerbestanden achter: elk ander bestand heeft elders een vergeleken kopie.</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>Formatteren is veilig.</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Wat deze map betreft is formatteren veilig; wat ernaast staat, is niet
+bekeken.</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>niet vergroot</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>Op de schijf van %1 is nog %2 vrij, en het bewerken van alle foto’s vergt %3: de laatste zouden worden gelaten zoals ze zijn.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>Van %1 ervan is de bron verdwenen of gewijzigd: maak de prullenbak niet leeg voordat u een andere kopie hebt.</numerusform>
+            <numerusform>Van %1 ervan zijn de bronnen verdwenen of gewijzigd: maak de prullenbak niet leeg voordat u andere kopieën hebt.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1985,11 +2004,11 @@ albums, de bestanden zijn nieuw:</translation>
     </message>
     <message>
         <source>Some of the selected photos are in read-only formats (for example, %1). They will be converted to JPG or PNG after applying the tool.</source>
-        <translation>Sommige van de geselecteerde foto’s hebben een alleen-lezen formaat (bijvoorbeeld %1). Na toepassing van het gereedschap worden ze geconverteerd naar JPG of PNG.</translation>
+        <translation>Sommige van de geselecteerde foto’s hebben een alleen-lezen formaat (bijvoorbeeld %1). Na toepassing van het hulpmiddel worden ze geconverteerd naar JPG of PNG.</translation>
     </message>
     <message>
         <source>The selected photo is in read-only formats (%1). It will be converted to JPG or PNG after applying the tool.</source>
-        <translation>De geselecteerde foto heeft een alleen-lezen formaat (%1). Na toepassing van het gereedschap wordt deze geconverteerd naar JPG of PNG.</translation>
+        <translation>De geselecteerde foto heeft een alleen-lezen formaat (%1). Na toepassing van het hulpmiddel wordt deze geconverteerd naar JPG of PNG.</translation>
     </message>
     <message>
         <source>There is not enough space on the disk %1</source>

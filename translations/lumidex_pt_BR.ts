@@ -1538,13 +1538,6 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <source>Of an edit of all these photos at once:</source>
         <translation>Ao editar todas estas fotos de uma vez:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>%1 deles seria recusado.</numerusform>
-            <numerusform>%1 deles seriam recusados.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>Verificando</translation>
@@ -1641,20 +1634,6 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>Há cópias no próprio %1: não formate nem esvazie.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>Nada fica em %1: cada arquivo tem uma cópia comparada em outro lugar.
-É seguro formatar.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>Nada fica em %1: cada arquivo tem uma cópia comparada em outro lugar.
-No que toca a esta pasta, é seguro formatar; o que está ao lado dela não foi
-examinado.</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -1937,13 +1916,6 @@ os arquivos são novos:</translation>
             <numerusform>%1 cópias estão agora na lixeira.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>A origem de %1 delas não está lá: não esvazie a lixeira antes de encontrá-la.</numerusform>
-            <numerusform>As origens de %1 delas não estão lá: não esvazie a lixeira antes de encontrá-las.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>Não há espaço para guardar o que é preciso para refazer; “lumidex undo --no-redo” dispensa isso.</translation>
@@ -1959,6 +1931,53 @@ os arquivos são novos:</translation>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>desconhecida</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>%1 arquivo ou pasta seria recusado.</numerusform>
+            <numerusform>%1 arquivos ou pastas seriam recusados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>Uma importação deixa de fora %1 outro arquivo (--json mostra qual).</numerusform>
+            <numerusform>Uma importação deixa de fora %1 outros arquivos (--json mostra todos).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>Nada fica em %1: cada arquivo tem uma cópia comparada em outro lugar.</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>Em %1 só ficam arquivos de controle: cada um dos outros arquivos tem uma cópia comparada em outro lugar.</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>É seguro formatar.</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>No que toca a esta pasta, é seguro formatar; o que está ao lado dela não foi
+examinado.</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>não ampliada</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>O disco de %1 tem %2 livres, e editar todas as fotos precisa de %3: as últimas ficariam como estão.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>A origem de %1 delas desapareceu ou foi alterada: não esvazie a lixeira antes de ter outra cópia.</numerusform>
+            <numerusform>As origens de %1 delas desapareceram ou foram alteradas: não esvazie a lixeira antes de ter outras cópias.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

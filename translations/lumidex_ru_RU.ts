@@ -1610,14 +1610,6 @@ above %1 against; later photos move the centre.</source>
         <source>Of an edit of all these photos at once:</source>
         <translation>Об изменении всех этих фотографий сразу:</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them would be refused.</source>
-        <translation>
-            <numerusform>из них был бы отклонён %1.</numerusform>
-            <numerusform>из них было бы отклонено %1.</numerusform>
-            <numerusform>из них было бы отклонено %1.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Checking</source>
         <translation>Проверка</translation>
@@ -1723,20 +1715,6 @@ above %1 against; later photos move the centre.</source>
     <message>
         <source>Copies lie in %1 itself: do not format or empty it.</source>
         <translation>Копии лежат в самом %1: не форматируйте и не очищайте.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-It is safe to format.</source>
-        <translation>В %1 ничего не осталось: у каждого файла есть сверенная копия в другом месте.
-Можно безопасно форматировать.</translation>
-    </message>
-    <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.
-As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>В %1 ничего не осталось: у каждого файла есть сверенная копия в другом месте.
-Что касается этой папки, можно безопасно форматировать; то, что лежит рядом,
-не проверялось.</translation>
     </message>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
@@ -2036,14 +2014,6 @@ files are new:</source>
             <numerusform>%1 копий теперь в корзине.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>Of %1 of them the source is not there: do not empty the trash before you have found it.</source>
-        <translation>
-            <numerusform>Для %1 из них исходного файла нет на месте: не очищайте корзину, пока не найдёте его.</numerusform>
-            <numerusform>Для %1 из них исходных файлов нет на месте: не очищайте корзину, пока не найдёте их.</numerusform>
-            <numerusform>Для %1 из них исходных файлов нет на месте: не очищайте корзину, пока не найдёте их.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
         <translation>Нет места, чтобы сохранить нужное для повтора; «lumidex undo --no-redo» обойдётся без этого.</translation>
@@ -2060,6 +2030,56 @@ files are new:</source>
         <source>unknown</source>
         <comment>a date</comment>
         <translation>неизвестна</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files or folders would be refused.</source>
+        <translation>
+            <numerusform>был бы отклонён %1 файл или папка.</numerusform>
+            <numerusform>было бы отклонено %1 файла или папки.</numerusform>
+            <numerusform>было бы отклонено %1 файлов или папок.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>An import leaves %1 other files (--json lists them).</source>
+        <translation>
+            <numerusform>При импорте останется ещё %1 файл (--json покажет его).</numerusform>
+            <numerusform>При импорте останется ещё %1 файла (--json покажет их).</numerusform>
+            <numerusform>При импорте останется ещё %1 файлов (--json покажет их).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <translation>В %1 ничего не осталось: у каждого файла есть сверенная копия в другом месте.</translation>
+    </message>
+    <message>
+        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <translation>В %1 остались только служебные файлы: у каждого другого файла есть сверенная копия в другом месте.</translation>
+    </message>
+    <message>
+        <source>It is safe to format.</source>
+        <translation>Можно безопасно форматировать.</translation>
+    </message>
+    <message>
+        <source>As far as this folder goes it is safe to format; what lies beside it was not
+looked at.</source>
+        <translation>Что касается этой папки, можно безопасно форматировать; то, что лежит рядом,
+не проверялось.</translation>
+    </message>
+    <message>
+        <source>not enlarged</source>
+        <translation>не увеличена</translation>
+    </message>
+    <message>
+        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <translation>На диске папки %1 свободно %2, а для изменения всех фотографий нужно %3: последние остались бы как есть.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <translation>
+            <numerusform>Для %1 из них исходный файл исчез или был изменён: не очищайте корзину, пока у вас нет другой копии.</numerusform>
+            <numerusform>Для %1 из них исходные файлы исчезли или были изменены: не очищайте корзину, пока у вас нет других копий.</numerusform>
+            <numerusform>Для %1 из них исходные файлы исчезли или были изменены: не очищайте корзину, пока у вас нет других копий.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -186,8 +186,8 @@ TEST_F(LanguageOption, TellsStepsOfTheJournalInTheirLanguage) {
   EXPECT_EQ(Run({"set-date", "2020-01-02", "photos/trip"}).exitCode, 0);
   const std::string list = Run({"--lang", "de_DE", "undo", "--list"}).out;
   EXPECT_THAT(list, AllOf(HasSubstr("  2 Fotos umbenennen "), HasSubstr("  nach links drehen "),
-                          HasSubstr("  Daten um +1h verschieben "),
-                          HasSubstr("  Daten auf 2020-01-02 00:00:00 setzen ")));
+                          HasSubstr("  Datumsangaben um +1h verschieben "),
+                          HasSubstr("  Datumsangaben auf 2020-01-02 00:00:00 setzen ")));
   EXPECT_EQ(Run({"--lang", "fr_FR", "undo"}).out,
             "Annul\u00E9\u00A0: fixer les dates \u00E0 2020-01-02 00:00:00.\n");
   EXPECT_EQ(Run({"--json", "--lang", "fr_FR", "undo"})
