@@ -1,3 +1,3 @@
-room(cli_program KIND PROGRAM)
-room(gui KIND PROGRAM USES cli_program)
-set(REFUSED "Room 'gui' may not use 'cli_program': rooms of floor 5 do not know each other")
+room(host_tags KIND STATIC)
+room(host_rename KIND STATIC USES host_tags)
+set(REFUSED "Room 'host_rename' may not use 'host_tags': rooms of floor 50 do not know each other")
