@@ -1,8 +1,8 @@
 # The documented way in. Everything is built through the presets of CMakePresets.json.
 
 .DEFAULT_GOAL := help
-.PHONY: help translations setup setup-onnx setup-gallery gallery gallery-pictures run test test-dev test-asan test-tsan lint lint-format format bench fuzz clean \
-  windows-toolchain test-windows windows-package
+.PHONY: help translations setup setup-onnx setup-gallery gallery gallery-pictures run test test-dev test-sanitizers test-asan test-tsan lint lint-format format bench fuzz clean \
+  windows-toolchain test-windows windows-package soak
 
 # Where ccache is installed it serves every build, wherever the tree lies.
 export CMAKE_CXX_COMPILER_LAUNCHER ?= $(shell command -v ccache)
@@ -11,7 +11,9 @@ export CCACHE_NOHASHDIR := 1
 
 help:
 	@echo "make run [PHOTOS=folder]  install what is missing, build, find the albums of the photos (or of a sample)"
-	@echo "make test                 the tests, then again under the sanitizers"
+	@echo "make test                 the tests"
+	@echo "make test-sanitizers      the tests again under the sanitizers of threads, addresses and undefined behaviour"
+	@echo "make soak [ROUNDS=200]    the long tests: many files, many kills; takes an hour or more"
 	@echo "make lint                 clang-format and clang-tidy as gates"
 	@echo "make bench                the benchmarks' table"
 	@echo "make fuzz [SECONDS=15]    each reader of files from elsewhere, fed with inputs made to break it"
@@ -38,7 +40,9 @@ run: setup
 	cmake --build --preset release --target lumidex_cli_program
 	tools/run.sh $(if $(PHOTOS),"$(PHOTOS)")
 
-test: setup test-tsan test-asan test-dev
+test: setup test-dev
+
+test-sanitizers: setup test-tsan test-asan
 
 # What is off by default is tested and linted all the same, in one of the builds.
 OPTIONS_dev = -DLUMIDEX_ONNX=ON
@@ -50,6 +54,17 @@ test-dev test-asan: test-%: setup
 	cmake --build --preset $*
 	ctest --preset $* -j 2 --no-tests=error
 	@tools/skipped.sh build/$*
+
+# With a short form of each in the other tests.
+ROUNDS ?= 200
+KILLED = build/dev/bin/lumidex
+soak: setup setup-onnx setup-gallery
+	cmake --preset dev $(OPTIONS_dev)
+	cmake --build --preset dev
+	LUMIDEX_TEST_SOAK=1 ctest --preset dev -j 2 --no-tests=error --timeout 7200 -R 'host_(import|history)'
+	tests/cli/kill_test.py --lumidex $(KILLED) --rounds $(ROUNDS) --photos 60
+	tests/cli/import_kill_test.py --lumidex $(KILLED) --rounds $(ROUNDS) --photos 250
+	tests/cli/similar_kill_test.py --lumidex $(KILLED) --rounds $(ROUNDS)
 
 # Only what is about threads: the rest cannot tell the thread sanitizer anything.
 test-tsan: setup
