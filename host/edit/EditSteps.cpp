@@ -279,13 +279,16 @@ void EditSteps::AddTraces(qlonglong step, StepTraces& traces) const {
   }
 }
 
-std::string EditSteps::WhyHeld(qlonglong step) const {
+std::optional<FileFinding> EditSteps::WhyHeld(qlonglong step) const {
+  if (step == step_) {
+    return FileFinding{journal_.Database().File(), "The step is not at its end"};
+  }
   for (const ChangeRow& change : ReadChanges(journal_.Database(), step)) {
     if (IsSetAside(change)) {
-      return WhyAway(change, "it was not written whole");
+      return FileFinding{change.path, WhyAway(change, "it was not written whole")};
     }
   }
-  return {};
+  return std::nullopt;
 }
 
 void EditSteps::GiveUp(qlonglong step) {

@@ -4,6 +4,8 @@
 #include <zenvora/core/FileState.h>
 #include <zenvora/tavolin/Trash.h>
 
+#include <initializer_list>
+
 namespace Zenvora::Lumidex::Host {
 
 UndoJournal::UndoJournal(const ioPath& catalogue, IFileAccessLocker& locker)

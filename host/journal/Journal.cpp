@@ -8,7 +8,9 @@
 #include <zenvora/app/Application.h>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
+#include <set>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -210,8 +212,8 @@ std::optional<SkippedStep> Journal::SkipLast() {
   static_cast<UndoStep&>(step) = steps.front();
   step.blocked = StepsInTheWay(step.number, TracesOf(step));
   if (StepKind* const kind = KindOf(step.type)) {
-    if (const std::string cause = kind->WhyHeld(step.number); !cause.empty()) {
-      ThrowHostError(database_.File().utf8string(), cause);
+    if (const auto held = kind->WhyHeld(step.number)) {
+      ThrowHostError(held->file.utf8string(), held->cause);
     }
     kind->GiveUp(step.number);
   }
@@ -258,18 +260,13 @@ std::vector<UndoStep> Journal::Steps() const {
 }
 
 std::size_t Journal::Prune(const UndoLimits& limits, const std::vector<UndoStep>* announced) {
-  std::set<qlonglong> underWay;
-  for (const StepRow& step : ReadSteps("state IN (1, 3, 5)")) {
-    underWay.insert(step.number);
-  }
   std::size_t dropped = 0;
   for (const UndoStep& step : StepsBeyond(QuerySteps(database_), limits, 0)) {
     const auto isIt = [&step](const UndoStep& other) { return other.number == step.number; };
     const bool mayGo = announced == nullptr || step.givenUp || IsTooOld(step, limits) ||
                        std::any_of(announced->begin(), announced->end(), isIt);
     const StepKind* const kind = KindOf(step.type);
-    const bool isHeld =
-        underWay.count(step.number) > 0 || (kind != nullptr && !kind->WhyHeld(step.number).empty());
+    const bool isHeld = step.underWay || (kind != nullptr && kind->WhyHeld(step.number));
     if (mayGo && !isHeld) {
       Drop(step.number);
       dropped += step.givenUp ? 0 : 1;
@@ -282,7 +279,9 @@ std::size_t Journal::Prune(const UndoLimits& limits, const std::vector<UndoStep>
 
 void Journal::Recover() {
   for (StepRow& step : ReadSteps("state IN (1, 3, 5) ORDER BY number")) {
-    RequireKind(step).Recover(step);
+    if (StepKind* const kind = KindOf(step.type)) {
+      kind->Recover(step);
+    }
   }
   // Done while an import went on beside it: what was taken back before cannot be done again any more.
   for (const StepRow& step :

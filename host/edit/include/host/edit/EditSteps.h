@@ -13,6 +13,8 @@
 
 #include <atomic>
 #include <cstddef>
+#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -60,7 +62,7 @@ class EditSteps final : public StepKind {
                      const UndoProgress& progress) override;
   void TidyUp() override;
   void AddTraces(qlonglong step, StepTraces& traces) const override;
-  std::string WhyHeld(qlonglong step) const override;
+  std::optional<FileFinding> WhyHeld(qlonglong step) const override;
   void GiveUp(qlonglong step) override;
   std::vector<std::string> KeptNames(qlonglong step) const override;
 

@@ -9,6 +9,7 @@
 
 #include <zenvora/core/ioPath.h>
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <optional>

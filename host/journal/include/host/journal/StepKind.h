@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <atomic>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -54,8 +55,8 @@ class StepKind {
   virtual void TidyUp() {}
   /// Adds what the step did, as it stands.
   virtual void AddTraces(qlonglong /*step*/, StepTraces& /*traces*/) const {}
-  /// Why the step must be neither given up nor forgotten now, in an English sentence; empty: it may.
-  virtual std::string WhyHeld(qlonglong /*step*/) const { return {}; }
+  /// Why the step must be neither given up nor forgotten now; none: it may.
+  virtual std::optional<FileFinding> WhyHeld(qlonglong /*step*/) const { return std::nullopt; }
   /// The step stays as it is for good: nothing is left of an attempt to take it back.
   virtual void GiveUp(qlonglong /*step*/) {}
   /// The names of what is kept for the step (`KeptFiles`); it is removed once the step is forgotten.

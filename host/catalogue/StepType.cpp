@@ -1,4 +1,4 @@
-#include <host/journal/UndoTypes.h>
+#include <host/catalogue/StepType.h>
 
 namespace Zenvora::Lumidex::Host {
 
