@@ -15,7 +15,7 @@ set(LUMIDEX_FLOORS
   host_scan=40 host_search=40 host_model=40 host_journal=40
   host_albums=50 host_similar=50 host_rename=50 host_edit=50 host_tags=50 host_import=50
   host_trash=60
-  host_history=70 host_report=70 host_checks=70
+  host_history=70 host_report=70
   samples=75
   cli_terminal=80 cli_session=81 cli_views=82 cli_commands=83 cli_program=84
   gui=80)

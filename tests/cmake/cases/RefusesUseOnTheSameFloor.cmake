@@ -1,3 +1,3 @@
-room(host_tags KIND STATIC)
-room(host_rename KIND STATIC USES host_tags)
-set(REFUSED "Room 'host_rename' may not use 'host_tags': rooms of floor 50 do not know each other")
+room(host_scan KIND STATIC)
+room(host_search KIND STATIC USES host_scan)
+set(REFUSED "Room 'host_search' may not use 'host_scan': rooms of floor 40 do not know each other")
