@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-/// Stand on Windows for a test that cannot even be compiled there: it is listed all the same, and says why.
+/// Stand on Windows for a test that cannot even be compiled there: it is skipped there, and says why.
 #define LUMIDEX_LEFT_OUT_ON_WINDOWS(suite, name, reason) \
   TEST(suite, name) {                                    \
     GTEST_SKIP() << (reason);                            \

@@ -35,7 +35,8 @@ struct ChangeRow {
   std::string KeptAfter() const { return Kept("-after"); }
 };
 
-/// A name for the side file of a photo: short, whatever the length of the photo's own, and hidden from scans.
+/// A name for the staging file of a photo: short, whatever the length of the photo's own, and hidden from
+/// scans.
 ioPath SideName(const ioPath& photo);
 
 /// Of a step, in the order in which they were made.

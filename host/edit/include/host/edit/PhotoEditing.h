@@ -23,7 +23,7 @@ struct EditOrder {
   bool force = false;  ///< Also photos that are write-protected.
 };
 
-/// Makes the side file with the edited photo; throws what derives from `std::exception` when it cannot.
+/// Makes the staging file with the edited photo; throws what derives from `std::exception` when it cannot.
 using WriteSide = std::function<void(const ioPath& photo, const ioPath& side)>;
 
 struct EditResult : UndoResult {
