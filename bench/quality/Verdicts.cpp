@@ -33,6 +33,20 @@ using namespace Lumidex::Host;  // NOLINT(google-build-using-namespace): a progr
 
 enum class Goal { Same, Alike, Never, NotSame };
 
+bool IsAsWished(Goal goal, Verdict verdict) {
+  switch (goal) {
+    case Goal::Same:
+      return verdict == Verdict::Same;
+    case Goal::Alike:
+      return verdict == Verdict::Alike;
+    case Goal::Never:
+      return verdict == Verdict::Different || verdict == Verdict::Unknown;
+    case Goal::NotSame:
+      return verdict != Verdict::Same;
+  }
+  return false;
+}
+
 struct RowCount {
   std::string name;
   Goal goal;
@@ -43,17 +57,11 @@ struct RowCount {
   int Of(Verdict verdict) const { return verdicts.at(static_cast<std::size_t>(verdict)); }
   /// How many are as they should be.
   int Right() const {
-    switch (goal) {
-      case Goal::Same:
-        return Of(Verdict::Same);
-      case Goal::Alike:
-        return Of(Verdict::Alike);
-      case Goal::Never:
-        return Of(Verdict::Different) + Of(Verdict::Unknown);
-      case Goal::NotSame:
-        return All() - Of(Verdict::Same);
+    int right = 0;
+    for (const Verdict verdict : {Verdict::Unknown, Verdict::Same, Verdict::Alike, Verdict::Different}) {
+      right += IsAsWished(goal, verdict) ? Of(verdict) : 0;
     }
-    return 0;
+    return right;
   }
 };
 
@@ -266,9 +274,22 @@ class Measuring {
     return member;
   }
 
-  void CountKeeper(const ioPath& original, const ioPath& copy) {
+  /// Says of what file something is not as wished, when that was asked for.
+  void List(const ioPath& original, const QImage& picture, const std::string& text) const {
+    if (options_.isListing) {
+      std::printf("not as wished: %s (%d x %d): %s\n", original.filename().utf8string().c_str(),
+                  picture.width(), picture.height(), text.c_str());
+    }
+  }
+
+  void CountKeeper(const ioPath& original, const QImage& picture, const ioPath& copy) {
+    const KeeperChoice choice = SuggestKeeper({MemberOf(copy), MemberOf(original)});
     ++keepers_;
-    kept_ += SuggestKeeper({MemberOf(copy), MemberOf(original)}).index == 1 ? 1 : 0;
+    kept_ += choice.index == 1 ? 1 : 0;
+    if (choice.index != 1) {
+      const std::string reason = choice.reasons.empty() ? "" : KeeperReasonName(choice.reasons.front());
+      List(original, picture, row_ + ": the copy is kept, " + reason);
+    }
   }
 
   /// Of an original and its enlarged copy, both without EXIF; the names say nothing.
@@ -289,17 +310,24 @@ class Measuring {
     const std::string own = "copy.jpg";
     JudgedAgainst against(original);
     const auto judge = [&](const std::string& name, Goal goal, const ioPath& file) {
-      table_.Add(name, goal, against.Judge(file));
+      const PictureVerdict verdict = against.Judge(file);
+      table_.Add(name, goal, verdict);
+      row_ = name;
+      if (!IsAsWished(goal, verdict.verdict)) {
+        List(original, picture, name + ": " + VerdictName(verdict.verdict) + ", " + verdict.why);
+      }
       return file;
     };
     const auto jpeg = [&](const QImage& changed, int quality) {
       return Write(own, Encoded(changed, "JPEG", quality));
     };
-    CountKeeper(original, judge("quality 20", Goal::Same, jpeg(picture, 20)));
+    CountKeeper(original, picture, judge("quality 20", Goal::Same, jpeg(picture, 20)));
     judge("quality 40", Goal::Same, jpeg(picture, 40));
-    CountKeeper(original, judge("quality 70", Goal::Same, jpeg(picture, 70)));
-    CountKeeper(original, judge("resized to 50 %", Goal::Same, jpeg(Scaled(picture, 0.5), kQuality)));
-    CountKeeper(original, judge("enlarged to 150 %", Goal::Same, jpeg(Scaled(picture, 1.5), kQuality)));
+    CountKeeper(original, picture, judge("quality 70", Goal::Same, jpeg(picture, 70)));
+    CountKeeper(original, picture,
+                judge("resized to 50 %", Goal::Same, jpeg(Scaled(picture, 0.5), kQuality)));
+    CountKeeper(original, picture,
+                judge("enlarged to 150 %", Goal::Same, jpeg(Scaled(picture, 1.5), kQuality)));
     CountBareKeeper(picture, 1.25);
     CountBareKeeper(picture, 2);
     judge("PNG", Goal::Same, Write("copy.png", Encoded(picture, "PNG", -1)));
@@ -317,9 +345,9 @@ class Measuring {
         image->exifData()["Exif.Image.Orientation"] = static_cast<std::uint16_t>(turn);
       }
       image->writeMetadata();
-      CountKeeper(original, judge("stripped of metadata", Goal::Same, stripped));
+      CountKeeper(original, picture, judge("stripped of metadata", Goal::Same, stripped));
     }
-    CountKeeper(original,
+    CountKeeper(original, picture,
                 judge("sharpened", Goal::Alike, WithMetadataOf(original, own, Sharpened(picture), kQuality)));
     judge("cropped by 5 %", Goal::Alike, jpeg(Part(picture, 0.05, 0.05, 0.95), kQuality));
     judge("turned 2 degrees", Goal::Alike, jpeg(Turned(picture, 2), kQuality));
@@ -403,6 +431,7 @@ class Measuring {
   const QTemporaryDir work_;
   Table table_;
   QImage last_;
+  std::string row_;  ///< The one that was measured last.
   int kept_ = 0;
   int keepers_ = 0;
   int bareKept_ = 0;

@@ -15,6 +15,7 @@ struct VerdictOptions {
   ioPath folder;
   std::size_t originals = 10;  ///< For each seed, or of the folder.
   std::size_t drawn = 20;      ///< Pages, receipts and so on, of each kind for each seed.
+  bool isListing = false;      ///< Name the photos of which something is not as wished.
 };
 
 /// Prints what the verdicts between originals, copies, versions and other pictures are, and which of an

@@ -154,7 +154,8 @@ int main(int argc, char** argv) {
   options.add_option("--half", choice.half, "0 or 1: only every other photo")->check(CLI::Range(0, 1));
   options.add_option("--side", longerSide, "Longer side of the pictures that are changed")
       ->check(CLI::Range(200, 20000));
-  options.add_option("--list", listed, "How many of the worst pairs to list");
+  options.add_option("--list", listed,
+                     "How many of the worst pairs to list; with --verdicts: whether to list");
   Zenvora::Bench::VerdictOptions verdicts;
   verdicts.seeds = {1009, 50077, 902101};
   bool onlyVerdicts = false;
@@ -167,6 +168,7 @@ int main(int argc, char** argv) {
   choice.folder = Zenvora::ioPath(folder);
   choice.same = Zenvora::ioPath(same);
   verdicts.folder = choice.folder;
+  verdicts.isListing = listed > 0;
   try {
     if (onlyVerdicts || folder.empty()) {
       const bool met = Zenvora::Bench::MeasureVerdicts(verdicts);

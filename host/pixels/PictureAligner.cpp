@@ -1,5 +1,6 @@
 #include "PictureAligner.h"
 
+#include "AlignedTiles.h"
 #include "PicturePlane.h"
 
 #include <host/pixels/PhotoPixels.h>
@@ -241,166 +242,6 @@ std::optional<Placing> FindPlacing(const QImage& first, const QImage& second, bo
 // --- What is common
 
 constexpr int kCompared = 512;
-constexpr int kTile = 16;
-
-enum class TileState : char { Beyond, Plain, Right, Wrong };
-
-struct Sums {
-  double mean = 0;
-  double variance = 0;
-};
-
-Sums SumsOf(const PicturePlane& plane, int left, int top) {
-  double sum = 0;
-  double squares = 0;
-  for (int y = top; y < top + kTile; ++y) {
-    for (int x = left; x < left + kTile; ++x) {
-      const double value = static_cast<double>(plane.At(x, y));
-      sum += value;
-      squares += value * value;
-    }
-  }
-  constexpr double kCount = kTile * kTile;
-  return {sum / kCount, std::max(0.0, squares / kCount - sum * sum / kCount / kCount)};
-}
-
-/// The mean square of what is not explained, with light and contrast evened out within reason.
-double Unexplained(const PicturePlane& first, const PicturePlane& second, int left, int top, int dx, int dy) {
-  const Sums a = SumsOf(first, left + dx, top + dy);
-  const Sums b = SumsOf(second, left, top);
-  double product = 0;
-  for (int y = 0; y < kTile; ++y) {
-    const float* const from = first.Row(top + dy + y) + left + dx;
-    const float* const to = second.Row(top + y) + left;
-    for (int x = 0; x < kTile; ++x) {
-      product += static_cast<double>(from[x]) * static_cast<double>(to[x]);
-    }
-  }
-  const double together = product / (kTile * kTile) - a.mean * b.mean;
-  const double gain = std::clamp(together / std::max(a.variance, 1.0), 0.7, 1.4);
-  // Light may differ by some levels from place to place.
-  const double moved = std::max(0.0, std::abs(a.mean - b.mean) - 10);
-  return std::max(0.0, b.variance + gain * gain * a.variance - 2 * gain * together) + moved * moved;
-}
-
-class Tiles {
- public:
-  /// `first` laid over `second`, with what lies beyond it below 0; `colour`: how far their colours differ.
-  Tiles(const PicturePlane& first, const PicturePlane& second, const PicturePlane& colour)
-      : first_(first), second_(second), colour_(colour) {
-    columns_ = second.Width() / kTile;
-    rows_ = second.Height() / kTile;
-    states_.assign(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_), TileState::Beyond);
-    for (int row = 0; row < rows_; ++row) {
-      for (int column = 0; column < columns_; ++column) {
-        At(column, row) = Judge(column * kTile, row * kTile);
-      }
-    }
-  }
-
-  void Count(AlignedFinding& finding) {
-    double common = 0;
-    double plain = 0;
-    double wrong = 0;
-    for (const TileState state : states_) {
-      common += state != TileState::Beyond ? 1 : 0;
-      plain += state == TileState::Plain ? 1 : 0;
-      wrong += state == TileState::Wrong ? 1 : 0;
-    }
-    if (common == 0) {
-      return;
-    }
-    finding.plain = plain / common;
-    finding.seen = 1 - finding.plain;
-    finding.wrong = wrong / std::max(1.0, common - plain);
-    double largest = 0;
-    for (int row = 0; row < rows_; ++row) {
-      for (int column = 0; column < columns_; ++column) {
-        const double taken = At(column, row) == TileState::Wrong ? Take(column, row) : 0;
-        if (taken > largest) {
-          largest = taken;
-          finding.where = {(column + 0.5) / columns_, (row + 0.5) / rows_};
-        }
-      }
-    }
-    finding.largest = largest / common;
-  }
-
- private:
-  TileState& At(int column, int row) {
-    return states_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-                   static_cast<std::size_t>(column)];
-  }
-
-  bool IsCommon(int left, int top) const {
-    for (int y = top; y < top + kTile; ++y) {
-      for (int x = left; x < left + kTile; ++x) {
-        if (first_.At(x, y) < 0) {
-          return false;
-        }
-      }
-    }
-    return true;
-  }
-
-  TileState Judge(int left, int top) const {
-    if (!IsCommon(left, top)) {
-      return TileState::Beyond;
-    }
-    constexpr double kPlain = 4;
-    constexpr double kNoise = 40;
-    constexpr double kShare = 0.45;
-    const Sums a = SumsOf(first_, left, top);
-    const Sums b = SumsOf(second_, left, top);
-    const double limit = kNoise + kShare * std::max(a.variance, b.variance);
-    // More than another white balance.
-    constexpr double kOtherColour = 28;
-    if (std::sqrt(SumsOf(colour_, left, top).mean) > kOtherColour) {
-      return TileState::Wrong;
-    }
-    const double still = Unexplained(first_, second_, left, top, 0, 0);
-    if (still <= limit) {
-      return a.variance < kPlain && b.variance < kPlain ? TileState::Plain : TileState::Right;
-    }
-    // Hands move, and what is near moves more.
-    constexpr int kMoved = 3;
-    for (int dy = -kMoved; dy <= kMoved; ++dy) {
-      for (int dx = -kMoved; dx <= kMoved; ++dx) {
-        const bool inside = left + dx >= 0 && top + dy >= 0 && left + dx + kTile <= first_.Width() &&
-                            top + dy + kTile <= first_.Height();
-        if (inside && IsCommon(left + dx, top + dy) &&
-            Unexplained(first_, second_, left, top, dx, dy) <= limit) {
-          return TileState::Right;
-        }
-      }
-    }
-    return TileState::Wrong;
-  }
-
-  /// Counts what is wrong here and beside it, and forgets it.
-  double Take(int column, int row) {
-    double taken = 0;
-    std::vector<std::pair<int, int>> waiting = {{column, row}};
-    while (!waiting.empty()) {
-      const auto [x, y] = waiting.back();
-      waiting.pop_back();
-      if (x < 0 || y < 0 || x >= columns_ || y >= rows_ || At(x, y) != TileState::Wrong) {
-        continue;
-      }
-      At(x, y) = TileState::Right;
-      ++taken;
-      waiting.insert(waiting.end(), {{x + 1, y}, {x - 1, y}, {x, y + 1}, {x, y - 1}});
-    }
-    return taken;
-  }
-
-  const PicturePlane& first_;
-  const PicturePlane& second_;
-  const PicturePlane& colour_;
-  int columns_ = 0;
-  int rows_ = 0;
-  std::vector<TileState> states_;
-};
 
 }  // namespace
 
@@ -410,8 +251,11 @@ AlignedFinding Align(const QImage& first, const QImage& second, bool asTheyLie) 
   if (!placing) {
     return finding;
   }
-  const Level a = MakeLevel(first, kCompared);
-  const Level b = MakeLevel(second, kCompared);
+  Level a = MakeLevel(first, kCompared);
+  Level b = MakeLevel(second, kCompared);
+  // What is laid between pixels loses its finest detail there, which says nothing of what is shown.
+  a.light = BoxMean(a.light, 1);
+  b.light = BoxMean(b.light, 1);
   const PicturePlanes from = PlanesOf(a.picture);
   const PicturePlanes to = PlanesOf(b.picture);
   // One that was made grey has no colour to compare.
@@ -443,7 +287,7 @@ AlignedFinding Align(const QImage& first, const QImage& second, bool asTheyLie) 
   finding.turned = placing->Turn();
   finding.gain = placing->gain;
   finding.brightness = MeanOf(b.light) - MeanOf(a.light);
-  Tiles(laid, b.light, colour).Count(finding);
+  AlignedTiles(laid, b.light, colour).Count(finding);
   return finding;
 }
 

@@ -100,9 +100,12 @@ std::optional<PictureVerdict> VerdictOfCopies(const CopyFinding& finding, const 
         finding.otherColour <= kGrey ? "the same picture without colours" : "the same picture with colours",
         worst};
   }
-  // What is a copy but for one place was edited there, or is another page of the same form.
+  // What is a copy but for one place was edited there, or is another page of the same form. The less there
+  // is beyond that place, the less it takes: a word of a page made small is no more than twice the allowance.
   constexpr double kMostly = 0.9;
-  if (finding.alike >= kMostly && worst > kClearly && EditOf(finding, photo.size != kept.size).empty()) {
+  constexpr double kWholly = 0.98;
+  const double clearly = finding.alike >= kWholly ? kClearly / 2 : kClearly;
+  if (finding.alike >= kMostly && worst > clearly && EditOf(finding, photo.size != kept.size).empty()) {
     const QPoint& at = finding.worst >= finding.worstColour ? finding.where : finding.whereColour;
     return PictureVerdict{
         Verdict::Different,
@@ -135,8 +138,8 @@ std::optional<PictureVerdict> VerdictOfAligned(const AlignedFinding& finding) {
   constexpr double kShown = 0.68;
   constexpr double kLeastSeen = 0.02;
   const bool isDrawn = finding.plain > kDrawn;
-  const double mostWrong = isDrawn ? 0.02 : 0.08;
-  const double mostTogether = isDrawn ? 0.005 : 0.03;
+  const double mostWrong = isDrawn ? 0.02 : 0.05;
+  const double mostTogether = isDrawn ? 0.005 : 0.015;
   if (!finding.found || finding.seen < kLeastSeen || finding.wrong > mostWrong ||
       finding.largest > mostTogether || finding.firstShown < kShown || finding.secondShown < kShown) {
     return std::nullopt;

@@ -28,7 +28,7 @@ struct PictureVerdict {
 };
 
 /// Raised whenever a verdict may come out differently, so that stored ones are made anew.
-constexpr int kVerdictVersion = 4;
+constexpr int kVerdictVersion = 5;
 
 /// Judges several photos against one, which is decoded once and only when needed. Blocks on the disk; belongs
 /// to one thread at a time.
