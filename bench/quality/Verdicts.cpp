@@ -282,12 +282,24 @@ class Measuring {
     }
   }
 
+  /// True when of an original and its copy the original is suggested; looks for enlarged ones as groups do.
+  static bool IsOriginalKept(const ioPath& original, const ioPath& copy, std::string* reason = nullptr) {
+    std::vector<SimilarMember> members = {MemberOf(copy), MemberOf(original)};
+    members[0].origin->enlarged =
+        MayBeEnlarged(members[0], members[1]) && JudgedAgainst(copy).IsKeptEnlarged(original);
+    const KeeperChoice choice = SuggestKeeper(members);
+    if (reason != nullptr && !choice.reasons.empty()) {
+      *reason = KeeperReasonName(choice.reasons.front());
+    }
+    return choice.index == 1;
+  }
+
   void CountKeeper(const ioPath& original, const QImage& picture, const ioPath& copy) {
-    const KeeperChoice choice = SuggestKeeper({MemberOf(copy), MemberOf(original)});
+    std::string reason;
+    const bool isKept = IsOriginalKept(original, copy, &reason);
     ++keepers_;
-    kept_ += choice.index == 1 ? 1 : 0;
-    if (choice.index != 1) {
-      const std::string reason = choice.reasons.empty() ? "" : KeeperReasonName(choice.reasons.front());
+    kept_ += isKept ? 1 : 0;
+    if (!isKept) {
       List(original, picture, row_ + ": the copy is kept, " + reason);
     }
   }
@@ -296,11 +308,8 @@ class Measuring {
   void CountBareKeeper(const QImage& picture, double factor) {
     const ioPath original = Write("b.jpg", Encoded(picture, "JPEG", 94));
     const ioPath copy = Write("a.jpg", Encoded(Scaled(picture, factor), "JPEG", 88));
-    std::vector<SimilarMember> members = {MemberOf(copy), MemberOf(original)};
-    members[0].origin->enlarged =
-        MayBeEnlarged(members[0], members[1]) && JudgedAgainst(copy).IsKeptEnlarged(original);
     ++bareKeepers_;
-    bareKept_ += SuggestKeeper(members).index == 1 ? 1 : 0;
+    bareKept_ += IsOriginalKept(original, copy) ? 1 : 0;
   }
 
   void MeasureOriginal(const ioPath& original) {

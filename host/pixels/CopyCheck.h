@@ -43,6 +43,7 @@ struct WholeFinding {
   /// What all but a thousandth of the other places with something in them stay below.
   double elsewhere = 0;
   double strictness = 1;  ///< The share of the allowance that the pair got, less for copies of high quality.
+  double sharpness = 1;   ///< How much of the finest detail the first has for that of the second.
 };
 
 /// Compares the light of pictures of one size (Format_Grayscale8, 32 pixels a side at least) piece by piece,

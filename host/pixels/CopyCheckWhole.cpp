@@ -4,6 +4,7 @@
 #include <QRect>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdlib>
 #include <vector>
@@ -27,15 +28,32 @@ struct Cell {
   }
 };
 
+/// The mean of how much finer detail the first picture has, in pieces that count by how much the second has.
+class Sharpness {
+ public:
+  void Add(const Filter& fromSecond, const PicturePlane& second) {
+    const double detail = MeanOf(SquaredDifference(second, BoxMean(second, 1)));
+    sum_ += detail * fromSecond.Finest() / std::max(0.01, std::abs(fromSecond.Sum()));
+    weight_ += detail;
+  }
+  double Mean() const { return weight_ > 0 ? sum_ / weight_ : 1; }
+
+ private:
+  double sum_ = 0;
+  double weight_ = 0;
+};
+
 /// Compares a piece and adds its cells; `piece` lies within `around`, which is what is looked at.
 void ComparePiece(const QImage& first, const QImage& second, const QRect& piece, const QRect& around,
-                  ErrorRatios& ratios, std::vector<Cell>& cells) {
+                  ErrorRatios& ratios, Sharpness& sharpness, std::vector<Cell>& cells) {
   const auto light = [](const QImage& part) { return LightOf(part.convertToFormat(QImage::Format_RGB32)); };
   const QImage ours = first.copy(around);
   const QImage theirs = second.copy(around);
   const PicturePlane a = light(ours);
   const PicturePlane b = light(theirs);
-  const PicturePlane error = CopyError(a, b, FitFilter(a, b), FitFilter(b, a));
+  const Filter back = FitFilter(b, a);
+  const PicturePlane error = CopyError(a, b, FitFilter(a, b), back);
+  sharpness.Add(back, b);
   const PicturePlane expected =
       ExpectedError(a, light(CoarselyCompressed(ours)), b, light(CoarselyCompressed(theirs)));
   const QRect inner = piece.translated(-around.topLeft());
@@ -66,16 +84,18 @@ WholeFinding CompareWhole(const QImage& first, const QImage& second, bool isScal
   constexpr int kOnePlace = 32;
   constexpr std::size_t kFew = 1000;
   ErrorRatios ratios;
+  Sharpness sharpness;
   std::vector<Cell> cells;
   for (int y = 0; y < first.height(); y += kPiece) {
     for (int x = 0; x < first.width(); x += kPiece) {
       const QRect piece = QRect(x, y, kPiece, kPiece).intersected(first.rect());
       ComparePiece(first, second, piece,
                    piece.adjusted(-kMargin, -kMargin, kMargin, kMargin).intersected(first.rect()), ratios,
-                   cells);
+                   sharpness, cells);
     }
   }
   WholeFinding finding;
+  finding.sharpness = sharpness.Mean();
   finding.strictness = ratios.Strictness(LeastStrictness(isScaled));
   const Allowance allowance{kTimes * finding.strictness, kLightFloor};
   const auto ratioOf = [&allowance](const Cell& cell) {

@@ -101,10 +101,11 @@ std::optional<PictureVerdict> VerdictOfCopies(const CopyFinding& finding, const 
         worst};
   }
   // What is a copy but for one place was edited there, or is another page of the same form. The less there
-  // is beyond that place, the less it takes: a word of a page made small is no more than twice the allowance.
+  // is beyond that place, the less it takes: a word of a page made small comes to 3.5 times the allowance,
+  // where programs scale fine lines in other ways no more than 2.3.
   constexpr double kMostly = 0.9;
   constexpr double kWholly = 0.98;
-  const double clearly = finding.alike >= kWholly ? kClearly / 2 : kClearly;
+  const double clearly = finding.alike >= kWholly ? 3 : kClearly;
   if (finding.alike >= kMostly && worst > clearly && EditOf(finding, photo.size != kept.size).empty()) {
     const QPoint& at = finding.worst >= finding.worstColour ? finding.where : finding.whereColour;
     return PictureVerdict{
@@ -121,8 +122,12 @@ std::optional<PictureVerdict> VerdictOfWhole(const WholeFinding& finding, bool i
   constexpr double kSomething = 0.6;
   const double limit = (1.6 + 0.8 * finding.strictness) * finding.elsewhere;
   const bool standsOut = !isScaled && finding.worst > std::max(kSomething, limit);
+  // Programs that scale sharply come to 1.27, sharpening to 1.5 and more.
+  constexpr double kSharper = 1.4;
   if (finding.worst <= 1 && !standsOut) {
-    return std::nullopt;
+    return finding.sharpness > kSharper ? std::make_optional(PictureVerdict{
+                                              Verdict::Alike, "the same picture, sharpened", finding.worst})
+                                        : std::nullopt;
   }
   if (finding.worst > kClearly) {
     return PictureVerdict{Verdict::Different, "differs at " + PlaceName(finding.where), finding.worst};
@@ -139,7 +144,7 @@ std::optional<PictureVerdict> VerdictOfAligned(const AlignedFinding& finding) {
   constexpr double kLeastSeen = 0.02;
   const bool isDrawn = finding.plain > kDrawn;
   const double mostWrong = isDrawn ? 0.02 : 0.05;
-  const double mostTogether = isDrawn ? 0.005 : 0.015;
+  const double mostTogether = isDrawn ? 0.005 : 0.022;
   if (!finding.found || finding.seen < kLeastSeen || finding.wrong > mostWrong ||
       finding.largest > mostTogether || finding.firstShown < kShown || finding.secondShown < kShown) {
     return std::nullopt;

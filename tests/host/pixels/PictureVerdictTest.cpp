@@ -1,3 +1,4 @@
+#include "PictureVerdictRules.h"
 #include "Pictures.h"
 
 #include <host/pixels/JudgedPictures.h>
@@ -225,6 +226,47 @@ TEST(PictureVerdict, FindsAnotherWord) {
   }
 }
 
+TEST(PictureVerdict, FindsAnotherWordOfAPageMadeSmaller) {
+  for (const int word : {5, 60, 110, 150}) {
+    Expect(Verdict::Different, Compressed(Scaled(Page(1, word), 0.6), 85), Compressed(Page(1), 92),
+           std::to_string(word));
+  }
+}
+
+/// A striped table with something round and spotted on it, all with grain of their own.
+QImage Table(std::uint32_t seed) {
+  QImage table(640, 480, QImage::Format_RGB32);
+  std::mt19937 lot(seed);
+  for (int y = 0; y < table.height(); ++y) {
+    for (int x = 0; x < table.width(); ++x) {
+      const int grain = 14 * ((y / 14) % 3) + static_cast<int>(lot() % 10);
+      table.setPixel(x, y, qRgb(110 + grain, 80 + grain, 50 + grain));
+    }
+  }
+  QPainter painter(&table);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(190, 160, 100));
+  const QPointF middle(310 + static_cast<int>(lot() % 20), 230 + static_cast<int>(lot() % 20));
+  painter.drawEllipse(middle, 95 + static_cast<int>(lot() % 15), 70 + static_cast<int>(lot() % 15));
+  painter.setBrush(QColor(110, 80, 45));
+  for (int spot = 0; spot < 25; ++spot) {
+    const QPointF at(static_cast<int>(lot() % 120) - 60, static_cast<int>(lot() % 80) - 40);
+    painter.drawEllipse(middle + at, 3, 3);
+  }
+  return table;
+}
+
+TEST(PictureVerdict, IsDifferentForAnotherThingOnTheSameTable) {
+  for (std::uint32_t seed = 1; seed < 7; ++seed) {
+    Expect(Verdict::Different, Compressed(Table(seed + 1), 85), Compressed(Table(seed), 85),
+           std::to_string(seed));
+  }
+  Expect(Verdict::Alike, Compressed(Table(1).copy(32, 24, 608, 456), 85), Compressed(Table(1), 85),
+         "cropped");
+  Expect(Verdict::Alike, Compressed(Turned(Table(1), 2), 85), Compressed(Table(1), 85), "turned");
+}
+
 TEST(PictureVerdict, NamesWhereASmallThingWasAdded) {
   const QImage photo = Photo(SceneKind::Lake);
   QImage changed = photo;
@@ -321,6 +363,24 @@ TEST_F(PictureVerdictFiles, ThatZerosWereWrittenIntoAreNotJudged) {
       tree_.Write("zeros.jpg", TestPictures::Overwritten(Encoded(Photo(), "JPEG", 90)).toStdString());
   EXPECT_EQ(JudgePicture(damaged, whole).why, "it cannot be compared: a part of the picture is damaged");
   EXPECT_EQ(JudgePicture(whole, damaged).verdict, Verdict::Unknown);
+}
+
+TEST(PictureVerdict, IsAlikeForWhatWasSharpenedAtItsFullSize) {
+  for (const SceneKind kind : {SceneKind::Houses, SceneKind::Roses}) {
+    const QImage photo = Photo(kind);
+    const auto grey = [](const QImage& picture) {
+      return picture.convertToFormat(QImage::Format_Grayscale8);
+    };
+    const WholeFinding copy = CompareWhole(grey(Compressed(photo, 60)), grey(photo), true);
+    EXPECT_LT(copy.sharpness, 1.2) << static_cast<int>(kind);
+    EXPECT_FALSE(VerdictOfWhole(copy, true).has_value());
+    const WholeFinding sharpened = CompareWhole(grey(Compressed(Sharpened(photo), 88)), grey(photo), true);
+    EXPECT_GT(sharpened.sharpness, 1.4) << static_cast<int>(kind);
+    const auto verdict = VerdictOfWhole(sharpened, true);
+    ASSERT_TRUE(verdict.has_value());
+    EXPECT_EQ(verdict->verdict, Verdict::Alike);
+    EXPECT_EQ(verdict->why, "the same picture, sharpened") << sharpened.worst;
+  }
 }
 
 /// A screen of 3840 x 2160 pixels full of what looks like letters 12 pixels high, without a font. `changed`:
