@@ -1,7 +1,7 @@
 #include "ImportFixture.h"
 
-#include <host/scan/PhotoChoice.h>
 #include <host/rename/RenameSteps.h>
+#include <host/scan/PhotoChoice.h>
 #include <host/scan/SaveChecks.h>
 #include <support/LeftOut.h>
 #include <support/Unprivileged.h>
