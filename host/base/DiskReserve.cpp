@@ -38,11 +38,6 @@ class OpenFile {
     end.QuadPart = static_cast<LONGLONG>(bytes);
     return SetFilePointerEx(handle_, end, nullptr, FILE_BEGIN) && SetEndOfFile(handle_);
   }
-  bool Allocate(std::uint64_t bytes) const {
-    FILE_ALLOCATION_INFO wish;
-    wish.AllocationSize.QuadPart = static_cast<LONGLONG>(bytes);
-    return SetFileInformationByHandle(handle_, FileAllocationInfo, &wish, sizeof(wish)) != 0;
-  }
 
  private:
   const HANDLE handle_;
@@ -53,8 +48,7 @@ class OpenFile {
 std::error_code DiskReserve::Hold(std::uint64_t bytes) const {
   const OpenFile file(file_);
   // The size of a file is room that it has, here: there is none without the other.
-  return file.IsOpen() && file.SetSize(0) && file.Allocate(bytes) && file.SetSize(bytes) ? std::error_code()
-                                                                                         : LastSystemError();
+  return file.IsOpen() && file.SetSize(0) && file.SetSize(bytes) ? std::error_code() : LastSystemError();
 }
 
 bool DiskReserve::Release() const {
