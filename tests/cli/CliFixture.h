@@ -12,6 +12,8 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
+#include <QString>
 #include <QStringList>
 
 #include <string>
@@ -29,6 +31,11 @@ struct Ran {
   /// The standard output stream as the one JSON document that it must be; empty when it is none.
   QJsonObject Json() const;
 };
+
+/// The text has a part like the pattern. GoogleTest's own expressions are simpler on Windows.
+MATCHER_P(HasLike, pattern, "has a part like \"" + std::string(pattern) + '"') {
+  return QRegularExpression(QString::fromUtf8(pattern)).match(QString::fromStdString(arg)).hasMatch();
+}
 
 /// Runs the command in a home of its own.
 class CliTest : public ::testing::Test {

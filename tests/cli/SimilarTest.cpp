@@ -211,8 +211,8 @@ TEST_F(SimilarCommand, SaysWhatEachPhotoIsToTheOneToKeep) {
   Scan();
   const Ran ran = Run({"similar"});
   EXPECT_EQ(ran.exitCode, 0) << ran.err;
-  EXPECT_THAT(ran.out, ::testing::ContainsRegex("\n  same +[0-9.]+ +240x180 "));
-  EXPECT_THAT(ran.out, ::testing::ContainsRegex("\n  alike +[0-9.]+ +456x342 "));
+  EXPECT_THAT(ran.out, HasLike("\n  same +[0-9.]+ +240x180 "));
+  EXPECT_THAT(ran.out, HasLike("\n  alike +[0-9.]+ +456x342 "));
   EXPECT_THAT(ran.out, HasSubstr("3 of them ("));
   EXPECT_THAT(ran.out, HasSubstr(") are the same picture as the one to keep; \"lumidex similar --trash\""));
   std::map<std::string, std::string> verdicts;
@@ -239,11 +239,11 @@ TEST_F(SimilarCommand, KeepsTheNumbersOfGroupsWhereverTheyAreTold) {
   const Ran explained = Run({"similar", "--explain", "photos/b1.jpg", "photos/b2.jpg"});
   EXPECT_THAT(explained.out, HasSubstr("They are the same picture. ("));
   EXPECT_THAT(explained.out, HasSubstr("GROUP  VERDICT"));
-  EXPECT_THAT(explained.out, ::testing::ContainsRegex("b1.jpg +2  same +[0-9.]+\n"));
-  EXPECT_THAT(explained.out, ::testing::ContainsRegex("b2.jpg +2  keep +[0-9.]+\n"));
+  EXPECT_THAT(explained.out, HasLike("b1.jpg +2  same +[0-9.]+\n"));
+  EXPECT_THAT(explained.out, HasLike("b2.jpg +2  keep +[0-9.]+\n"));
   const Ran alone = Run({"similar", "--explain", "photos/c.jpg", "photos/a1.jpg"});
   EXPECT_THAT(alone.out, HasSubstr("They are different pictures."));
-  EXPECT_THAT(alone.out, ::testing::ContainsRegex("c.jpg +-  - +[0-9.]+ +[0-9.-]+\n"));
+  EXPECT_THAT(alone.out, HasLike("c.jpg +-  - +[0-9.]+ +[0-9.-]+\n"));
   const QJsonObject document =
       Run({"similar", "--json", "--explain", "photos/b1.jpg", "photos/b2.jpg"}).Json();
   EXPECT_EQ(document["verdict"].toString(), QStringLiteral("same"));
@@ -360,7 +360,7 @@ TEST_F(SimilarCommand, KeepsTheSharpestOfTheLargest) {
   Save("small.png", sharp.scaledToWidth(240, Qt::SmoothTransformation));
   Scan();
   const Ran ran = Run({"similar"});
-  EXPECT_THAT(ran.out, ::testing::ContainsRegex("\n  keep [^\n]*sharp.png +largest, sharpest"));
+  EXPECT_THAT(ran.out, HasLike("\n  keep [^\n]*sharp.png +largest, sharpest"));
   // What was measured is stored.
   EXPECT_EQ(Run({"similar"}).out, ran.out);
 }
