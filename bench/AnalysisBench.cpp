@@ -3,6 +3,7 @@
 
 #include <host/catalogue/Catalogue.h>
 #include <host/pixels/PhotoAnalysis.h>
+#include <host/scan/Scanner.h>
 #include <host/shots/PhotoReading.h>
 #include <host/similar/SimilarPhotos.h>
 #include <host/similar/SimilarUpdate.h>

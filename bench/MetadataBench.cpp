@@ -1,6 +1,7 @@
 // Reading metadata, and the metadata stage of a scan, beside bare Exiv2, on the same warm files, one core.
 
 #include <LumidexUtil/MetadataReaders.h>
+#include <host/scan/Scanner.h>
 #include <host/shots/PhotoReading.h>
 #include <samples/Sample.h>
 

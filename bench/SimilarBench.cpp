@@ -295,7 +295,7 @@ Template UnitOf(const Template& vector) {
 }
 
 /// The centres as rows of one matrix, each of length 1.
-std::vector<float> UnitRows(const std::vector<std::unique_ptr<Cluster>>& clusters) {
+[[maybe_unused]] std::vector<float> UnitRows(const std::vector<std::unique_ptr<Cluster>>& clusters) {
   std::vector<float> rows;
   rows.reserve(clusters.size() * kSize);
   for (const auto& cluster : clusters) {
