@@ -17,9 +17,12 @@
 #include <QImageReader>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <functional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -190,7 +193,8 @@ void DescriptorOfPixels(benchmark::State& state) {
   }
 }
 
-/// As many files as a long journey brings home. Behind their pictures is a hole, to be of a camera's size.
+/// As many files as a long journey brings home. Behind their pictures is a hole, to be of a camera's size,
+/// and at their ends noise: what a camera compressed looks like it.
 class Journey {
  public:
   static constexpr int kFiles = 10'000;
@@ -217,8 +221,12 @@ class Journey {
       }
       files_.emplace_back(copy);
     }
+    std::mt19937 random(1);
+    std::string noise(std::size_t{64} * 1024, '\0');
     for (const ioPath& file : files_) {
-      fs::resize_file(file.native(), kSize);
+      std::generate(noise.begin(), noise.end(), [&random] { return static_cast<char>(random()); });
+      fs::resize_file(file.native(), kSize - noise.size());
+      std::ofstream(file.native(), std::ios::binary | std::ios::app) << noise;
     }
   }
 

@@ -94,6 +94,8 @@ QByteArray NameOfLost(const QByteArray& path) {
 CatalogueMoves::CatalogueMoves(const CatalogueDatabase& database)
     : database_(database),
       hasTraces_(database.Value("SELECT EXISTS (SELECT 1 FROM photos WHERE edges IS NOT NULL)").toBool()),
+      hasFormerTraces_(
+          database.Value("SELECT EXISTS (SELECT 1 FROM photos WHERE length(edges) = 16)").toBool()),
       at_(database.Prepare(TracedPhotos("p.path = ?").c_str())),
       withEdges_(database.Prepare(TracedPhotos("p.edges = ? ORDER BY p.path").c_str())),
       withCameraId_(

@@ -23,13 +23,16 @@ bool IsSameStamp(const FileState& state, const PhotoRecord& photo) {
 }
 
 /// True when the file under the photo's name is it still, whatever was done to it.
-bool IsStill(const PhotoRecord& photo, const PhotoRecord& file) {
-  if (photo.trace.edges.isEmpty()) {
+bool IsStill(const PhotoRecord& photo, const PhotoRecord& file, const ContentTrace& trace) {
+  if (photo.trace.edges.isEmpty() || IsFormer(photo.trace) != IsFormer(trace)) {
     return photo.size == file.size && photo.modifiedNs == file.modifiedNs;
   }
   // Where the picture is the same under the same name, no camera needs to be asked.
-  return IsSameContent(photo.trace, file.trace) ||
-         (!photo.trace.tail.isEmpty() && photo.trace.tail == file.trace.tail);
+  return IsSameContent(photo.trace, trace) || (!photo.trace.tail.isEmpty() && photo.trace.tail == trace.tail);
+}
+
+std::string KeyOfContent(const ContentTrace& trace) {
+  return trace.edges.toStdString() + trace.content.toStdString();
 }
 
 bool HasOwnDate(const PhotoRecord& photo) {
@@ -50,14 +53,13 @@ std::string EndOfPath(ioPath path, int count) {
 
 // --- What is read
 
-MovedPhotos::Group& MovedPhotos::GroupOf(const std::string& key, bool byId, const PhotoRecord& record) {
+MovedPhotos::Group& MovedPhotos::GroupOf(const std::string& key, bool byId, const Held& held) {
   const auto [place, isNew] = groups_.try_emplace(key);
   Group& group = place->second;
   if (isNew) {
     group.byId = byId;
-    for (TracedPhoto& photo :
-         byId ? catalogue_.WithCameraId(record.trace) : catalogue_.WithEdges(record.trace)) {
-      if (LookFor(photo, record.path) == Whereabouts::Away) {
+    for (TracedPhoto& photo : byId ? catalogue_.WithCameraId(held.trace) : catalogue_.WithEdges(held.trace)) {
+      if (LookFor(photo, held.record.path) == Whereabouts::Away) {
         group.away.push_back(std::move(photo));
       } else {
         group.home.emplace(SpellingKey(photo.record.path), std::move(photo));
@@ -68,21 +70,21 @@ MovedPhotos::Group& MovedPhotos::GroupOf(const std::string& key, bool byId, cons
 }
 
 /// The key of the photos that are like it and not at their places; empty: there are none.
-std::string MovedPhotos::ChooseGroup(const PhotoRecord& record, qlonglong own) {
-  const auto hasOthers = [own](const Group& group) {
+std::string MovedPhotos::ChooseGroup(const Held& held) {
+  const auto hasOthers = [own = held.own ? held.own->number : 0](const Group& group) {
     return std::any_of(group.away.begin(), group.away.end(),
                        [own](const TracedPhoto& photo) { return photo.number != own; });
   };
-  const ContentTrace& trace = record.trace;
-  const std::string byEdges = trace.edges.toStdString() + trace.content.toStdString();
-  if (hasOthers(GroupOf(byEdges, false, record))) {
+  const ContentTrace& trace = held.trace;
+  const std::string byEdges = KeyOfContent(trace);
+  if (hasOthers(GroupOf(byEdges, false, held))) {
     return byEdges;
   }
   if (trace.cameraId.isEmpty() || trace.tail.isEmpty()) {
     return {};
   }
   const std::string byId = trace.tail.toStdString() + trace.cameraId.toStdString();
-  return hasOthers(GroupOf(byId, true, record)) ? byId : std::string();
+  return hasOthers(GroupOf(byId, true, held)) ? byId : std::string();
 }
 
 bool MovedPhotos::Take(PhotoRecord& record, bool isKnown) {
@@ -91,14 +93,21 @@ bool MovedPhotos::Take(PhotoRecord& record, bool isKnown) {
   }
   Held held;
   held.own = isKnown ? catalogue_.At(record.path) : std::nullopt;
-  if (held.own && IsStill(held.own->record, record)) {
+  held.record = record;
+  held.trace = record.trace;
+  if (held.own && IsStill(held.own->record, record, held.trace)) {
     return false;
   }
-  held.group = ChooseGroup(record, held.own ? held.own->number : 0);
-  held.record = record;
+  bool isLike = IsLike(held);
+  if (!isLike && catalogue_.HasFormerTraces() && ReadFormerTrace(record.path, held.trace)) {
+    if (held.own && IsStill(held.own->record, record, held.trace)) {
+      return false;
+    }
+    isLike = IsLike(held);
+  }
   const bool isAnother = held.own && !held.own->record.trace.edges.isEmpty();
   // What was known of the former content must not be written over while it may turn up elsewhere.
-  if (held.group.empty() && !isAnother && !MatchSpelling(held)) {
+  if (!isLike && !isAnother) {
     return false;
   }
   heldAt_.emplace(record.path.utf8string(), held_.size());
@@ -109,10 +118,15 @@ bool MovedPhotos::Take(PhotoRecord& record, bool isKnown) {
   return true;
 }
 
+/// True when a photo of the catalogue may be the file, as far as its trace tells.
+bool MovedPhotos::IsLike(Held& held) {
+  held.group = ChooseGroup(held);
+  return !held.group.empty() || MatchSpelling(held);
+}
+
 /// The same name in other letters, on a system that takes both for one.
 bool MovedPhotos::MatchSpelling(Held& held) {
-  const ContentTrace& trace = held.record.trace;
-  Group& group = groups_.at(trace.edges.toStdString() + trace.content.toStdString());
+  Group& group = groups_.at(KeyOfContent(held.trace));
   const auto home = group.home.find(SpellingKey(held.record.path));
   if (held.own || home == group.home.end()) {
     return false;
@@ -143,7 +157,8 @@ MovedPhotos::Whereabouts MovedPhotos::LookFor(const TracedPhoto& photo, const io
     return Whereabouts::Home;
   }
   ContentTrace now;
-  if (!ReadContentTrace(photo.record.path, now)) {
+  const bool isFormer = IsFormer(photo.record.trace);
+  if (!(isFormer ? ReadFormerTrace : ReadContentTrace)(photo.record.path, now)) {
     return Whereabouts::CannotTell;
   }
   return IsSameContent(now, photo.record.trace) ? Whereabouts::Home : Whereabouts::Away;

@@ -41,6 +41,8 @@ class MovedPhotos {
 
   struct Held {
     PhotoRecord record;
+    /// In the form in which the catalogue has that of the photo that it may be.
+    ContentTrace trace;
     /// What the catalogue has under its name.
     std::optional<TracedPhoto> own;
     /// Of `groups_`; none: nothing is like it.
@@ -62,10 +64,11 @@ class MovedPhotos {
 
   enum class Whereabouts { Home, Away, CannotTell };
 
-  Group& GroupOf(const std::string& key, bool byId, const PhotoRecord& record);
-  std::string ChooseGroup(const PhotoRecord& record, qlonglong own);
+  Group& GroupOf(const std::string& key, bool byId, const Held& held);
+  std::string ChooseGroup(const Held& held);
   Whereabouts LookFor(const TracedPhoto& photo, const ioPath& found);
   bool MatchSpelling(Held& held);
+  bool IsLike(Held& held);
   void Match(Group& group);
   bool MatchByNames(const std::vector<TracedPhoto>& photos, const Indices& held);
   void Report(const std::vector<TracedPhoto>& photos, const Indices& held);

@@ -15,13 +15,33 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-/// Of either end. A photo's first holds what its camera notes, the last nothing but picture as a rule.
-constexpr std::size_t kEdge = std::size_t{64} * 1024;
-/// More than enough to tell all photos of the world from each other.
-constexpr int kDigestBytes = 16;
+/// How traces are made. Scans read one of every photo: each kilobyte that is digested can be felt.
+struct TraceForm {
+  /// Of either end, in bytes. A photo's first holds what its camera notes, the last nothing but picture as a
+  /// rule.
+  std::size_t edge;
+  /// Of a digest; this many are more than enough to tell all photos of the world from each other, and their
+  /// number tells the form.
+  int digestBytes;
+  /// Of the last bytes their digest goes into the edges, so that none is digested twice.
+  bool edgesHoldTail;
+};
+constexpr TraceForm kPresent{std::size_t{16} * 1024, 20, true};
+/// Of catalogues up to format 6.
+constexpr TraceForm kFormer{std::size_t{64} * 1024, 16, false};
 
-QByteArray DigestOf(ContentHash& hash) {
-  return QByteArray::fromHex(QByteArray::fromStdString(hash.Finish())).left(kDigestBytes);
+std::string_view View(const QByteArray& bytes) {
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+QByteArray DigestOf(ContentHash& hash, const TraceForm& form) {
+  return QByteArray::fromHex(QByteArray::fromStdString(hash.Finish())).left(form.digestBytes);
+}
+
+QByteArray DigestOf(std::string_view bytes, const TraceForm& form) {
+  ContentHash hash;
+  hash.Add(bytes);
+  return DigestOf(hash, form);
 }
 
 /// How many different blocks of 16 bytes there are, counted up to clashes of their hashes.
@@ -59,7 +79,7 @@ void AddSize(ContentHash& hash, std::uint64_t size) {
   hash.Add(std::to_string(size) + ':');
 }
 
-bool ReadWhole(FileReader& reader, std::uint64_t size, QByteArray& digest) {
+bool ReadWhole(FileReader& reader, std::uint64_t size, const TraceForm& form, QByteArray& digest) {
   ContentHash hash;
   std::uint64_t done = 0;
   for (;;) {
@@ -69,7 +89,7 @@ bool ReadWhole(FileReader& reader, std::uint64_t size, QByteArray& digest) {
       return false;
     }
     if (piece.empty()) {
-      digest = DigestOf(hash);
+      digest = DigestOf(hash, form);
       return true;
     }
     hash.Add(piece);
@@ -77,9 +97,7 @@ bool ReadWhole(FileReader& reader, std::uint64_t size, QByteArray& digest) {
   }
 }
 
-}  // namespace
-
-bool ReadContentTrace(const ioPath& file, ContentTrace& trace) {
+bool ReadTrace(const ioPath& file, const TraceForm& form, ContentTrace& trace) {
   FileReader reader;
   std::string_view bytes;
   if (reader.Open(file)) {
@@ -89,36 +107,49 @@ bool ReadContentTrace(const ioPath& file, ContentTrace& trace) {
   ContentHash edges;
   BlockCount head;
   AddSize(edges, size);
-  if (reader.At(0, kEdge, bytes)) {
+  if (reader.At(0, form.edge, bytes)) {
     return false;
   }
   edges.Add(bytes);
   head.Add(bytes);
   ContentTrace read;
   // No byte counts twice.
-  const std::uint64_t last = std::max<std::uint64_t>(kEdge, size > kEdge ? size - kEdge : 0);
-  if (size > kEdge) {
-    if (reader.At(last, kEdge, bytes)) {
+  const std::uint64_t last = std::max<std::uint64_t>(form.edge, size > form.edge ? size - form.edge : 0);
+  if (size > form.edge) {
+    if (reader.At(last, form.edge, bytes)) {
       return false;
     }
-    edges.Add(bytes);
+    const QByteArray digest = DigestOf(bytes, form);
+    edges.Add(form.edgesHoldTail ? View(digest) : bytes);
     BlockCount tail;
     tail.Add(bytes);
     head.Add(bytes);
     // Of a small file it would be what is noted in it as well.
-    if (size >= 2 * kEdge && !tail.SaysLittle()) {
-      ContentHash hash;
-      hash.Add(bytes);
-      read.tail = DigestOf(hash);
+    if (size >= 2 * form.edge && !tail.SaysLittle()) {
+      read.tail = digest;
     }
-    if (last > kEdge && head.SaysLittle() && !ReadWhole(reader, size, read.content)) {
+    if (last > form.edge && head.SaysLittle() && !ReadWhole(reader, size, form, read.content)) {
       return false;
     }
   }
-  read.edges = DigestOf(edges);
+  read.edges = DigestOf(edges, form);
   read.cameraId = trace.cameraId;
   trace = std::move(read);
   return true;
+}
+
+}  // namespace
+
+bool ReadContentTrace(const ioPath& file, ContentTrace& trace) {
+  return ReadTrace(file, kPresent, trace);
+}
+
+bool ReadFormerTrace(const ioPath& file, ContentTrace& trace) {
+  return ReadTrace(file, kFormer, trace);
+}
+
+bool IsFormer(const ContentTrace& trace) {
+  return trace.edges.size() == kFormer.digestBytes;
 }
 
 bool IsSameContent(const ContentTrace& left, const ContentTrace& right) {

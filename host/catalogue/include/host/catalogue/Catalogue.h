@@ -33,8 +33,8 @@ struct PhotoPosition {
 
 /// By what a photo is known again under another name, as it was when its file was read. Digests are 16 bytes.
 struct ContentTrace {
-  QByteArray edges;    ///< Of the size, the first and the last 64 KiB; empty: not read.
-  QByteArray tail;     ///< Of the last 64 KiB; empty where these may hold no picture, or say little.
+  QByteArray edges;    ///< Of the size, the first and the last 16 KiB; empty: not read.
+  QByteArray tail;     ///< Of the last 16 KiB; empty where these may hold no picture, or say little.
   QByteArray content;  ///< Of all bytes; empty unless the edges say little.
   QString cameraId;    ///< What the camera calls the picture; empty: nothing.
 };
@@ -105,7 +105,7 @@ class Catalogue {
     ReadWrite,  ///< Made with its folders when missing, brought up to date when older.
     ReadOnly,   ///< Must exist. Nothing is written; an older schema is refused with a hint to run a scan.
   };
-  static constexpr int kSchemaVersion = 6;
+  static constexpr int kSchemaVersion = 7;
   static constexpr int kBusyTimeoutMs = 10'000;
 
   Catalogue(const ioPath& file, Mode mode);

@@ -39,6 +39,8 @@ class CatalogueMoves {
 
   /// False when no photo can be known again, as in a catalogue that is empty.
   bool HasTraces() const { return hasTraces_; }
+  /// True when some are of the form that catalogues up to format 6 hold, which is shorter.
+  bool HasFormerTraces() const { return hasFormerTraces_; }
   std::optional<TracedPhoto> At(const ioPath& path);
   /// Those with the same edges. Photos that are in the trash are not among them.
   std::vector<TracedPhoto> WithEdges(const ContentTrace& trace);
@@ -71,6 +73,7 @@ class CatalogueMoves {
 
   const CatalogueDatabase& database_;
   const bool hasTraces_;
+  const bool hasFormerTraces_;
   QSqlQuery at_;
   QSqlQuery withEdges_;
   QSqlQuery withCameraId_;
