@@ -23,7 +23,7 @@ class JpegBits {
  public:
   JpegBits(std::string_view bytes, std::size_t at) : bytes_(bytes), at_(at) {}
 
-  /// The next bits without taking them; zeros behind the end.
+  /// The next bits without going behind them; zeros behind the end.
   std::uint32_t Peek(int count) {
     while (held_ < count) {
       Hold();
@@ -31,7 +31,7 @@ class JpegBits {
     return static_cast<std::uint32_t>(bits_ >> (held_ - count)) & ((1U << count) - 1U);
   }
   void Skip(int count) { held_ -= count; }
-  std::uint32_t Take(int count) {
+  std::uint32_t Read(int count) {
     if (count == 0) {
       return 0;
     }
@@ -39,7 +39,7 @@ class JpegBits {
     Skip(count);
     return value;
   }
-  /// More was taken than there is.
+  /// More was read than there is.
   bool IsBeyondEnd() const { return invented_ > held_; }
 
   /// Leaves the bits that fill the last byte, and goes behind the next marker. Returns how many bytes were

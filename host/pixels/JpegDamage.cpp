@@ -1,3 +1,4 @@
+#include "DeviceBytes.h"
 #include "JpegBits.h"
 #include "JpegMending.h"
 
@@ -5,6 +6,7 @@
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/quillet/FileDevice.h>
+#include <zenvora/strandel/JpegSegments.h>
 
 #include <QByteArray>
 
@@ -17,14 +19,14 @@
 
 namespace Zenvora::Lumidex::Host {
 
+using Strandel::ByteView;
+using Strandel::JpegSegment;
+using Strandel::JpegSegments;
+
 namespace {
 
 constexpr int kLastCell = 63;
 constexpr std::size_t kMostTables = 4;
-
-bool IsRestart(int marker) {
-  return marker >= 0xD0 && marker <= 0xD7;
-}
 
 struct Component {
   int name = 0;
@@ -49,38 +51,33 @@ class Picture {
   bool IsBroken() {
     constexpr int kMostScans = 250;
     int scans = 0;
-    std::size_t at = 2;
-    while (at + 4 <= bytes_.size()) {
-      const int marker = Byte(bytes_, at + 1);
-      if (Byte(bytes_, at) == 0xFF && marker == 0xFF) {
-        ++at;
-        continue;
-      }
-      const auto length = static_cast<std::size_t>(Short(bytes_, at + 2));
-      if (marker == 0xD9 || scans > kMostScans) {
+    JpegSegments segments{ByteView(bytes_)};
+    for (auto segment = segments.Next(); segment; segment = segments.Next()) {
+      if (segment->marker == JpegSegment::kEndOfImage || scans > kMostScans) {
         return false;
       }
       // Before the first scan no decoder takes it for a picture.
-      if (Byte(bytes_, at) != 0xFF || length < 2 || at + 2 + length > bytes_.size()) {
+      if (segment->StandsAlone() || !segment->isWhole) {
         return scans > 0;
       }
-      const std::string_view segment = bytes_.substr(at + 4, length - 2);
-      at += 2 + length;
-      if (marker != 0xDA) {
-        if (!ReadSegment(marker, segment)) {
+      const std::string_view body = ByteView(bytes_).Part(segment->body).Text();
+      if (segment->marker != JpegSegment::kStartOfScan) {
+        if (!ReadSegment(segment->marker, body)) {
           return scans > 0;
         }
         continue;
       }
-      if (!BeginScan(segment)) {
+      if (!BeginScan(body)) {
         return scans > 0;
       }
+      std::size_t at = static_cast<std::size_t>(segment->whole.End());
       if (!DecodeScan(at)) {
         return true;
       }
+      segments.GoTo(at);
       ++scans;
     }
-    return false;
+    return scans > 0 && !segments.IsAtEnd();
   }
 
  private:
@@ -231,7 +228,8 @@ class Picture {
     }
     const std::size_t left = bits.LeftBefore(marker);
     at = bits.Position() - 2;
-    return left <= kMostLeft && (interval_ > 0 || !IsRestart(marker));
+    const bool isRestart = marker >= 0xD0 && marker <= 0xD7;
+    return left <= kMostLeft && (interval_ > 0 || !isRestart);
   }
 
   bool DecodeUnit(JpegBits& bits, std::size_t unit) {
@@ -250,7 +248,7 @@ class Picture {
   bool DecodePart(JpegBits& bits, Component& component, std::size_t unit) {
     if (first_ == 0) {
       if (isRefined_) {
-        bits.Take(1);
+        bits.Read(1);
         return true;
       }
       return DecodeMean(bits, component);
@@ -267,7 +265,7 @@ class Picture {
     if (size < 0 || size > kMostBits) {
       return false;
     }
-    const int value = static_cast<int>(bits.Take(size));
+    const int value = static_cast<int>(bits.Read(size));
     component.before += size > 0 && value < 1 << (size - 1) ? value - (1 << size) + 1 : value;
     const int step = std::max(steps_[component.quantisation], 1);
     return std::abs(component.before) <= (kMost / step + 1) >> (isProgressive_ ? shift_ : 0);
@@ -288,13 +286,13 @@ class Picture {
       if (cell > kLastCell) {
         return false;
       }
-      bits.Take(size);
+      bits.Read(size);
     }
     return true;
   }
 
   /// The number of blocks, this one included, that have nothing more; by the code that says so.
-  static int RunOf(JpegBits& bits, int power) { return (1 << power) + static_cast<int>(bits.Take(power)); }
+  static int RunOf(JpegBits& bits, int power) { return (1 << power) + static_cast<int>(bits.Read(power)); }
 
   bool FillDetail(JpegBits& bits, const Component& component, std::uint64_t& filled) {
     if (run_ > 0) {
@@ -318,7 +316,7 @@ class Picture {
         return false;
       }
       if (size > 0) {
-        bits.Take(size);
+        bits.Read(size);
         filled |= std::uint64_t{1} << cell;
       }
     }
@@ -340,10 +338,10 @@ class Picture {
         run_ = RunOf(bits, skipped);
         break;
       }
-      bits.Take(size);
+      bits.Read(size);
       for (; cell <= last_; ++cell) {
         if (isFilled(cell)) {
-          bits.Take(1);
+          bits.Read(1);
         } else if (--skipped < 0) {
           break;
         }
@@ -355,7 +353,7 @@ class Picture {
     }
     if (run_ > 0) {
       for (; cell <= last_; ++cell) {
-        bits.Take(isFilled(cell) ? 1 : 0);
+        bits.Read(isFilled(cell) ? 1 : 0);
       }
       --run_;
     }
@@ -393,7 +391,7 @@ bool IsDamagedJpeg(const ioPath& file) {
     return false;
   }
   QByteArray bytes = device.readAll();
-  return HasBrokenJpegData({bytes.constData(), static_cast<std::size_t>(bytes.size())}) || MendJpeg(bytes);
+  return HasBrokenJpegData(ViewOf(bytes).Text()) || MendJpeg(bytes);
 }
 
 }  // namespace Zenvora::Lumidex::Host

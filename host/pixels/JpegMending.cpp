@@ -1,12 +1,19 @@
 #include "JpegMending.h"
 
+#include "DeviceBytes.h"
+
+#include <zenvora/strandel/JpegSegments.h>
+
 namespace Zenvora::Lumidex::Host {
+
+using Strandel::JpegSegment;
+using Strandel::JpegSegments;
 
 namespace {
 
-constexpr int kTables = 0xC4;
-constexpr int kEnd = 0xD9;
-constexpr int kScan = 0xDA;
+constexpr int kTables = JpegSegment::kHuffmanTables;
+constexpr int kEnd = JpegSegment::kEndOfImage;
+constexpr int kScan = JpegSegment::kStartOfScan;
 
 int Byte(const QByteArray& bytes, int at) {
   return at < bytes.size() ? static_cast<unsigned char>(bytes.at(at)) : -1;
@@ -56,20 +63,10 @@ bool IsEnd(const QByteArray& bytes, int at) {
 
 /// The first byte of the first scan's data; -1 when there is none.
 int FirstData(const QByteArray& bytes) {
-  int at = 2;
-  while (Byte(bytes, at) == 0xFF) {
-    const int marker = Byte(bytes, at + 1);
-    if (marker == 0xFF) {
-      ++at;
-      continue;
-    }
-    const int length = Length(bytes, at);
-    if (length < 2) {
-      return -1;
-    }
-    at += 2 + length;
-    if (marker == kScan) {
-      return at;
+  JpegSegments segments(ViewOf(bytes));
+  for (auto segment = segments.Next(); segment && segment->isWhole; segment = segments.Next()) {
+    if (segment->marker == kScan) {
+      return static_cast<int>(segment->whole.End());
     }
   }
   return -1;

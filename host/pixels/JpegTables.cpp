@@ -1,4 +1,8 @@
+#include "JpegBits.h"
+
 #include <host/pixels/JpegTables.h>
+
+#include <zenvora/strandel/JpegSegments.h>
 
 #include <algorithm>
 #include <array>
@@ -6,6 +10,10 @@
 #include <cstdlib>
 
 namespace Zenvora::Lumidex::Host {
+
+using Strandel::ByteView;
+using Strandel::JpegSegment;
+using Strandel::JpegSegments;
 
 namespace {
 
@@ -17,14 +25,6 @@ constexpr Table kStandard = {16, 11, 12,  14,  12,  10, 16, 14,  13,  14,  18,  
                              26, 24, 22,  22,  24,  49, 35, 37,  29,  40,  58,  51,  61, 60,  57,  51,
                              56, 55, 64,  72,  92,  78, 64, 68,  87,  69,  55,  56,  80, 109, 81,  87,
                              95, 98, 103, 104, 103, 62, 77, 113, 121, 112, 100, 120, 92, 101, 103, 99};
-
-int Byte(std::string_view bytes, std::size_t at) {
-  return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0;
-}
-
-int Short(std::string_view bytes, std::size_t at) {
-  return Byte(bytes, at) * 256 + Byte(bytes, at + 1);
-}
 
 /// As the common JPEG library scales the standard's table by a quality of 1..100.
 bool IsScaledStandard(const Table& table) {
@@ -72,34 +72,24 @@ JpegTables ReadJpegTables(std::string_view beginning) {
     return tables;
   }
   tables.isJpeg = true;
-  const auto begins = [](std::string_view segment, std::string_view mark) {
-    return segment.compare(0, mark.size(), mark) == 0;
-  };
-  std::size_t at = 2;
-  while (at + 4 <= beginning.size() && Byte(beginning, at) == 0xFF) {
-    const int marker = Byte(beginning, at + 1);
-    if (marker == 0xFF) {
-      ++at;
-      continue;
-    }
-    const auto length = static_cast<std::size_t>(Short(beginning, at + 2));
-    if (marker == 0xDA || length < 2 || at + 2 + length > beginning.size()) {
+  const ByteView bytes(beginning);
+  JpegSegments segments(bytes);
+  for (auto segment = segments.Next(); segment && segment->isWhole; segment = segments.Next()) {
+    const ByteView body = bytes.Part(segment->body);
+    if (segment->marker == JpegSegment::kStartOfScan || segment->marker == JpegSegment::kEndOfImage) {
       break;
     }
-    const std::string_view segment = beginning.substr(at + 4, length - 2);
-    const bool isFrame =
-        marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-    if (marker == 0xDB) {
-      ReadQuantisation(segment, tables);
-    } else if (isFrame && segment.size() >= 5) {
-      tables.height = Short(segment, 1);
-      tables.width = Short(segment, 3);
-    } else if (marker == 0xE0 && begins(segment, "JFIF")) {
+    if (segment->marker == JpegSegment::kQuantisation) {
+      ReadQuantisation(body.Text(), tables);
+    } else if (segment->IsFrame() && body.Size() >= 5) {
+      const QSize size = Strandel::JpegFrameSize(body);
+      tables.height = size.height();
+      tables.width = size.width();
+    } else if (segment->marker == JpegSegment::kApp0 && body.BeginsWith("JFIF")) {
       tables.hasJfif = true;
-    } else if (marker == 0xED && begins(segment, "Photoshop")) {
+    } else if (segment->marker == JpegSegment::kApp13 && body.BeginsWith("Photoshop")) {
       tables.hasEditorBlock = true;
     }
-    at += 2 + length;
   }
   return tables;
 }

@@ -1,9 +1,11 @@
+#include "DeviceBytes.h"
 #include "JpegMending.h"
 
 #include <host/pixels/PhotoPixels.h>
 
 #include <zenvora/quillet/DecoderNotes.h>
 #include <zenvora/strandel/FormatByHead.h>
+#include <zenvora/strandel/JpegSegments.h>
 
 #include <QBuffer>
 #include <QColorSpace>
@@ -22,7 +24,7 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-/// Taken by such a picture, in the form that its decoder gives.
+/// Memory of such a picture, in the form that its decoder gives.
 constexpr std::int64_t kMostBytes = 400'000'000;
 /// JPEG is decoded row by row, but for progressive ones.
 constexpr std::int64_t kMostJpegPixels = 300'000'000;
@@ -41,34 +43,14 @@ bool IsPhotoFormat(const QByteArray& format) {
                      [&format](const char* known) { return format == known; });
 }
 
-int ByteAt(QIODevice& device) {
-  char byte = 0;
-  return device.getChar(&byte) ? static_cast<unsigned char>(byte) : -1;
-}
-
 /// True for a JPEG stream whose decoder keeps the whole picture, or whose kind is not to be found out.
 bool IsHeldWhole(QIODevice& device) {
-  constexpr int kMostSegments = 5000;
-  device.seek(2);
-  for (int i = 0; i < kMostSegments; ++i) {
-    if (ByteAt(device) != 0xFF) {
-      return true;
-    }
-    int marker = 0xFF;
-    while (marker == 0xFF) {
-      marker = ByteAt(device);
-    }
-    if (marker == 0xC0 || marker == 0xC1) {
-      return false;
-    }
-    const int high = ByteAt(device);
-    const int low = ByteAt(device);
-    const int length = high * 256 + low;
-    const bool otherFrame =
-        marker >= 0xC2 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-    if (otherFrame || marker < 0 || high < 0 || low < 0 || length < 2 ||
-        !device.seek(device.pos() + length - 2)) {
-      return true;
+  constexpr int kLastSequential = 0xC1;
+  DeviceBytes bytes(device);
+  Strandel::JpegSegments segments(bytes);
+  for (auto segment = segments.Next(); segment && segment->isWhole; segment = segments.Next()) {
+    if (segment->IsFrame()) {
+      return segment->marker > kLastSequential;
     }
   }
   return true;
@@ -79,10 +61,7 @@ bool IsTooLarge(QImageReader& reader, QIODevice& device, std::int64_t pixels) {
     if (pixels <= kMostPixels) {
       return false;
     }
-    const qint64 before = device.pos();
-    const bool tooLarge = pixels > kMostJpegPixels || IsHeldWhole(device);
-    device.seek(before);
-    return tooLarge;
+    return pixels > kMostJpegPixels || IsHeldWhole(device);
   }
   const int bits = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
   return pixels > kMostPixels || pixels * std::max(bits, 8) / 8 > kMostBytes;

@@ -1,5 +1,7 @@
 #include "PixelSources.h"
 
+#include "DeviceBytes.h"
+
 #include <host/pixels/PhotoPixels.h>
 
 #include <zenvora/core/ErrorText.h>
@@ -7,9 +9,8 @@
 #include <zenvora/core/FileState.h>
 #include <zenvora/quillet/FileDevice.h>
 #include <zenvora/strandel/EmbeddedPreview.h>
+#include <zenvora/strandel/HeifSize.h>
 #include <zenvora/strandel/JpegHead.h>
-
-#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -20,9 +21,6 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 constexpr std::uint64_t kMostFileBytes = 512ULL * 1024 * 1024;
-
-/// Sides beyond that only say that the file lies.
-constexpr quint32 kMostSide = 1'000'000'000;
 
 std::int64_t PixelsOf(const QSize& size) {
   return static_cast<std::int64_t>(size.width()) * size.height();
@@ -101,26 +99,6 @@ QImage PreviewOfShape(const ioPath& file, int longerSide, const Strandel::JpegHe
   return Turned(DecodeBytes(other.bytes, longerSide), other.orientation);
 }
 
-/// The most pixels that a picture within the file claims, when its boxes say so near the beginning. Decoders
-/// of HEIC and its kin tell the size only when they have decoded.
-QSize LargestClaimed(QIODevice& device) {
-  constexpr qint64 kLooked = 1024 * 1024;
-  const QByteArray head = device.peek(kLooked);
-  QSize largest(0, 0);
-  for (int at = head.indexOf("ispe"); at >= 0; at = head.indexOf("ispe", at + 4)) {
-    const QByteArray box = head.mid(at + 8, 8);
-    if (box.size() < 8) {
-      break;
-    }
-    const QSize size(static_cast<int>(std::min(qFromBigEndian<quint32>(box.constData()), kMostSide)),
-                     static_cast<int>(std::min(qFromBigEndian<quint32>(box.constData() + 4), kMostSide)));
-    if (PixelsOf(size) > PixelsOf(largest)) {
-      largest = size;
-    }
-  }
-  return largest;
-}
-
 /// The picture's size as it is shown, by the preview that shows it so.
 QSize TurnedLike(const QSize& preview, const QSize& stored) {
   const bool turned = !stored.isEmpty() && stored.width() != stored.height() &&
@@ -194,7 +172,8 @@ FoundPixels FindPixels(const ioPath& file, int longerSide, std::int64_t previews
   const QByteArray mark = device.peek(2);
   const bool tiff = mark == "II" || mark == "MM";
   if (device.peek(8).mid(4) == "ftyp") {
-    const QSize claimed = LargestClaimed(device);
+    DeviceBytes bytes(device);
+    const QSize claimed = Strandel::LargestHeifSize(bytes);
     if (PixelsOf(claimed) > kMostPixels) {
       found.cause = TooLargeText(claimed);
       return found;

@@ -1,17 +1,20 @@
 #include "UnseenContent.h"
 
+#include "DeviceBytes.h"
 #include "PixelSources.h"
 
 #include <zenvora/core/FileNotes.h>
 #include <zenvora/quillet/DecoderNotes.h>
 #include <zenvora/quillet/FileDevice.h>
 #include <zenvora/strandel/FormatByHead.h>
+#include <zenvora/strandel/JpegSegments.h>
 
 #include <QByteArray>
 #include <QImageReader>
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
@@ -27,28 +30,18 @@ std::string FormatOf(const ioPath& file) {
   Quillet::FileDevice device(file);
   const QByteArray head =
       device.isOpen() ? device.read(static_cast<qint64>(Strandel::kFormatHeadBytes)) : QByteArray();
-  return Strandel::FormatByHead({head.constData(), static_cast<std::size_t>(head.size())});
+  return Strandel::FormatByHead(ViewOf(head).Text());
 }
 
 /// Where the first picture of a JPEG stream ends, behind its last marker; the stream's size when it does not.
-std::size_t EndOfJpeg(std::string_view bytes) {
-  const auto at = [bytes](std::size_t place) { return static_cast<std::uint8_t>(bytes[place]); };
-  std::size_t place = 2;
-  while (place + 1 < bytes.size()) {
-    const std::uint8_t marker = at(place + 1);
-    if (at(place) != 0xFF || marker == 0x00 || (marker >= 0xD0 && marker <= 0xD7)) {
-      ++place;  // Compressed data, up to the next marker.
-    } else if (marker == 0xD9) {
-      return place + 2;
-    } else if (marker == 0xFF || marker == 0x01) {
-      ++place;
-    } else if (place + 3 < bytes.size()) {
-      place += 2 + std::max<std::size_t>(2, (std::size_t{at(place + 2)} << 8U) + at(place + 3));
-    } else {
-      break;
+std::size_t EndOfJpeg(Strandel::ByteView bytes) {
+  Strandel::JpegSegments segments(bytes, Strandel::JpegSegments::Gaps::Skipped);
+  for (auto segment = segments.Next(); segment; segment = segments.Next()) {
+    if (segment->marker == Strandel::JpegSegment::kEndOfImage) {
+      return static_cast<std::size_t>(segment->whole.End());
     }
   }
-  return bytes.size();
+  return bytes.Size();
 }
 
 /// What stands behind the picture of a JPEG file, without the padding that some cameras write.
@@ -61,7 +54,7 @@ QByteArray TailOf(const ioPath& file) {
     return {};
   }
   const QByteArray bytes = device.readAll();
-  const std::size_t end = EndOfJpeg({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  const std::size_t end = EndOfJpeg(ViewOf(bytes));
   QByteArray tail = bytes.mid(static_cast<int>(end));
   const bool isPadding = std::all_of(tail.begin(), tail.end(), [&tail](char byte) {
     return byte == tail.front() && (byte == '\0' || byte == '\xFF' || byte == '\n');

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PhotoSource.h"
+#include <zenvora/strandel/PhotoSource.h>
 
 #include <exiv2/exiv2.hpp>
 

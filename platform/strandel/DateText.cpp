@@ -11,7 +11,7 @@ class Groups {
  public:
   explicit Groups(const std::string& text, std::size_t at) : text_(text), at_(at) {}
 
-  bool Take(const char* separators, std::size_t digits, int& value) {
+  bool Read(const char* separators, std::size_t digits, int& value) {
     std::size_t at = at_;
     if (separators != nullptr) {
       if (at >= text_.size() || text_[at] == '\0' ||
@@ -67,10 +67,10 @@ std::optional<std::size_t> BehindZone(const std::string& text, std::size_t at) {
   int hours = 0;
   int minutes = 0;
   Groups groups(text, at);
-  if (!groups.Take("+-", 2, hours)) {
+  if (!groups.Read("+-", 2, hours)) {
     return std::nullopt;
   }
-  if (!groups.Take(":", 2, minutes) && !groups.Take(nullptr, 2, minutes)) {
+  if (!groups.Read(":", 2, minutes) && !groups.Read(nullptr, 2, minutes)) {
     return std::nullopt;
   }
   return groups.At();
@@ -96,21 +96,21 @@ std::optional<DateText> DateText::Parse(const std::string& text) {
   int hour = 0;
   int minute = 0;
   int second = 0;
-  if (!groups.Take(nullptr, 4, year)) {
+  if (!groups.Read(nullptr, 4, year)) {
     return std::nullopt;
   }
   result.parts_ = kYear;
-  if (groups.Take(kSeparators, 2, month)) {
+  if (groups.Read(kSeparators, 2, month)) {
     result.parts_ = kMonth;
-    if (groups.Take(kSeparators, 2, day)) {
+    if (groups.Read(kSeparators, 2, day)) {
       result.parts_ = kDay;
     }
   }
-  if (result.parts_ == kDay && groups.Take(" T", 2, hour)) {
-    if (!groups.Take(":", 2, minute)) {
+  if (result.parts_ == kDay && groups.Read(" T", 2, hour)) {
+    if (!groups.Read(":", 2, minute)) {
       return std::nullopt;
     }
-    result.parts_ = groups.Take(":", 2, second) ? kSecond : kMinute;
+    result.parts_ = groups.Read(":", 2, second) ? kSecond : kMinute;
   }
   std::size_t at = groups.At();
   if (result.parts_ == kSecond && at < text.size() && (text[at] == '.' || text[at] == ',')) {

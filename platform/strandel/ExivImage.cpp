@@ -73,30 +73,30 @@ class Collector {
  public:
   Found Collect(const Exiv2::ExifData& exif) {
     for (const Exiv2::Exifdatum& datum : exif) {
-      Take(datum);
+      Read(datum);
     }
     return found_;
   }
 
  private:
-  void Take(const Exiv2::Exifdatum& datum) {
+  void Read(const Exiv2::Exifdatum& datum) {
     constexpr std::uint16_t kLatitude = 2;
     constexpr std::uint16_t kLongitude = 4;
     switch (datum.tag()) {
       case kModel:
-        return TakeText(datum, modelRank_, found_.fields.model);
+        return ReadText(datum, modelRank_, found_.fields.model);
       case kDateTimeOriginal:
-        return TakeText(datum, originalRank_, found_.fields.original);
+        return ReadText(datum, originalRank_, found_.fields.original);
       case kSubSecondsOriginal:
-        return TakeText(datum, originalSubRank_, found_.fields.originalSubSeconds);
+        return ReadText(datum, originalSubRank_, found_.fields.originalSubSeconds);
       case kDateTimeDigitised:
-        return TakeText(datum, digitisedRank_, found_.fields.digitised);
+        return ReadText(datum, digitisedRank_, found_.fields.digitised);
       case kSubSecondsDigitised:
-        return TakeText(datum, digitisedSubRank_, found_.fields.digitisedSubSeconds);
+        return ReadText(datum, digitisedSubRank_, found_.fields.digitisedSubSeconds);
       case kExifDirectory:
-        return TakePlace(datum, found_.exifDirectory);
+        return ReadPlace(datum, found_.exifDirectory);
       case kGpsDirectory:
-        return TakePlace(datum, found_.gpsDirectory);
+        return ReadPlace(datum, found_.gpsDirectory);
       case kLatitude:
       case kLongitude:
         found_.blankPosition = found_.blankPosition || (datum.groupName() == "GPSInfo" && SaysNothing(datum));
@@ -105,13 +105,13 @@ class Collector {
         return;
     }
   }
-  static void TakePlace(const Exiv2::Exifdatum& datum, std::uint64_t& place) {
+  static void ReadPlace(const Exiv2::Exifdatum& datum, std::uint64_t& place) {
     if (RankOf(datum.groupName()) > 0 && datum.count() == 1) {
       place = static_cast<std::uint32_t>(datum.toLong());
     }
   }
   static constexpr int kNoRank = 100;
-  void TakeText(const Exiv2::Exifdatum& datum, int& rank, std::string& text) {
+  void ReadText(const Exiv2::Exifdatum& datum, int& rank, std::string& text) {
     const int own = RankOf(datum.groupName());
     if (own < 0 || own >= rank) {
       return;
@@ -212,10 +212,7 @@ bool ExivImage::ReadMore() {
 
 /// True when all that went wrong is a text chunk of a PNG file.
 bool ExivImage::Rescue() {
-  const auto read = [this](std::uint64_t at, void* to, std::size_t count) {
-    return source_.Read(at, to, count);
-  };
-  return image_->imageType() == Exiv2::ImageType::png && RescuePng(read, source_.Size(), *image_);
+  return image_->imageType() == Exiv2::ImageType::png && RescuePng(source_, *image_);
 }
 
 void ExivImage::WantEverything() {

@@ -2,7 +2,8 @@
 
 #include "ExifFields.h"
 #include "PartialCopy.h"
-#include "PhotoSource.h"
+
+#include <zenvora/strandel/PhotoSource.h>
 
 #include <exiv2/exiv2.hpp>
 

@@ -1,5 +1,7 @@
 #include "NewExif.h"
 
+#include <zenvora/strandel/JpegSegments.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -41,26 +43,19 @@ struct Picture {
   std::string components;  ///< As EXIF numbers them.
 };
 
-std::uint32_t Number(std::string_view bytes, std::size_t at, std::size_t size) {
-  std::uint32_t number = 0;
-  for (std::size_t i = 0; i < size && at + i < bytes.size(); ++i) {
-    number = number << 8U | static_cast<unsigned char>(bytes[at + i]);
-  }
-  return number;
+/// 0 where it is not there.
+std::uint32_t Number(ByteView bytes, std::size_t at, std::size_t size) {
+  return static_cast<std::uint32_t>(bytes.Big(at, size).value_or(0));
 }
 
-bool BeginsWith(std::string_view bytes, std::string_view start) {
-  return bytes.substr(0, start.size()) == start;
-}
-
-void TakeProfile(std::string_view profile, Picture& picture) {
+void ReadProfile(ByteView profile, Picture& picture) {
   picture.hasProfile = true;
-  picture.isSrgb = picture.isSrgb || profile.find("sRGB") != std::string_view::npos;
+  picture.isSrgb = picture.isSrgb || profile.Text().find("sRGB") != std::string_view::npos;
 }
 
 // --- JPEG ---
 
-void TakeJfif(std::string_view body, Picture& picture) {
+void ReadJfif(ByteView body, Picture& picture) {
   constexpr std::size_t kUnit = 7;
   constexpr std::uint32_t kPerInch = 1;
   constexpr std::uint32_t kPerCentimetre = 2;
@@ -75,7 +70,7 @@ void TakeJfif(std::string_view body, Picture& picture) {
 }
 
 /// Numbers of the components in the order in which the file has them; empty where EXIF has none for them.
-std::string ComponentsOf(std::string_view frame) {
+std::string ComponentsOf(ByteView frame) {
   constexpr std::size_t kCount = 5;
   constexpr std::size_t kFirst = 6;
   constexpr std::size_t kEach = 3;
@@ -92,26 +87,23 @@ std::string ComponentsOf(std::string_view frame) {
   }
 }
 
-bool IsFrame(unsigned marker) {
-  return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-}
-
-Picture LookAtJpeg(const std::string& bytes, const PictureAnatomy& anatomy) {
+Picture LookAtJpeg(ByteView bytes) {
   Picture picture;
-  for (const Stretch& stretch : anatomy.picture) {
-    std::string_view segment = std::string_view(bytes).substr(stretch.at, stretch.size);
-    while (segment.size() > 1 && segment[1] == '\xFF') {
-      segment.remove_prefix(1);
+  JpegSegments segments(bytes);
+  for (auto segment = segments.Next(); segment; segment = segments.Next()) {
+    const ByteView body = bytes.Part(segment->body);
+    if (segment->marker == JpegSegment::kStartOfScan) {
+      break;
     }
-    const std::uint32_t marker = Number(segment, 1, 1);
-    const std::string_view body = segment.size() > 4 ? segment.substr(4) : std::string_view();
-    if (marker == 0xE0 && BeginsWith(body, std::string_view("JFIF\0", 5))) {
-      TakeJfif(body, picture);
-    } else if (marker == 0xE2 && BeginsWith(body, std::string_view("ICC_PROFILE\0", 12))) {
-      TakeProfile(body, picture);
-    } else if (IsFrame(marker)) {
-      picture.height = Number(body, 1, 2);
-      picture.width = Number(body, 3, 2);
+    if (segment->marker == JpegSegment::kApp0 && body.BeginsWith(std::string_view("JFIF\0", 5))) {
+      ReadJfif(body, picture);
+    } else if (segment->marker == JpegSegment::kApp2 &&
+               body.BeginsWith(std::string_view("ICC_PROFILE\0", 12))) {
+      ReadProfile(body, picture);
+    } else if (segment->IsFrame()) {
+      const QSize size = JpegFrameSize(body);
+      picture.height = static_cast<std::uint32_t>(std::max(size.height(), 0));
+      picture.width = static_cast<std::uint32_t>(std::max(size.width(), 0));
       picture.components = ComponentsOf(body);
     }
   }
@@ -120,7 +112,7 @@ Picture LookAtJpeg(const std::string& bytes, const PictureAnatomy& anatomy) {
 
 // --- PNG and WebP ---
 
-void TakePngResolution(std::string_view body, Picture& picture) {
+void ReadPngResolution(ByteView body, Picture& picture) {
   constexpr std::uint32_t kPerMetre = 1;
   const std::uint32_t x = Number(body, 0, 4);
   const std::uint32_t y = Number(body, 4, 4);
@@ -133,19 +125,20 @@ void TakePngResolution(std::string_view body, Picture& picture) {
   }
 }
 
-Picture LookAtChunks(const std::string& bytes, const PictureAnatomy& anatomy, std::size_t typeAt) {
+Picture LookAtChunks(ByteView bytes, const ImageLayout& layout, std::size_t typeAt) {
+  constexpr std::uint64_t kHead = 8;
   Picture picture;
-  for (const Stretch& stretch : anatomy.picture) {
-    const std::string_view chunk = std::string_view(bytes).substr(stretch.at, stretch.size);
-    const std::string_view type = chunk.substr(std::min(typeAt, chunk.size()), 4);
-    const std::string_view body = chunk.substr(std::min<std::size_t>(8, chunk.size()));
+  for (const ByteRange& range : layout.picture) {
+    const ByteView chunk = bytes.Part(range);
+    const std::string_view type = chunk.Part({typeAt, 4}).Text();
+    const ByteView body = chunk.Part({kHead, chunk.Size()});
     if (type == "pHYs") {
-      TakePngResolution(body, picture);
+      ReadPngResolution(body, picture);
     } else if (type == "iCCP") {
       // Compressed, but for its name.
-      TakeProfile(body.substr(0, body.find('\0')), picture);
+      ReadProfile(body.Part({0, body.Text().find('\0')}), picture);
     } else if (type == "ICCP") {
-      TakeProfile(body, picture);
+      ReadProfile(body, picture);
     }
   }
   return picture;
@@ -188,14 +181,14 @@ ExifChange BytesField(std::uint16_t tag, const std::string& bytes) {
 }  // namespace
 
 std::vector<ExifChange> FieldsOfNewExif(PictureFormat format, const std::string& bytes,
-                                        const PictureAnatomy& anatomy) {
+                                        const ImageLayout& layout) {
   if (format == PictureFormat::Tiff) {
     return {};
   }
   constexpr std::size_t kPngType = 4;
   const bool jpeg = format == PictureFormat::Jpeg;
-  const Picture picture = jpeg ? LookAtJpeg(bytes, anatomy)
-                               : LookAtChunks(bytes, anatomy, format == PictureFormat::Png ? kPngType : 0);
+  const Picture picture =
+      jpeg ? LookAtJpeg(bytes) : LookAtChunks(bytes, layout, format == PictureFormat::Png ? kPngType : 0);
   std::vector<ExifChange> fields = {
       RatioField(kXResolution, picture.xResolution),
       RatioField(kYResolution, picture.yResolution),

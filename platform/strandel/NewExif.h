@@ -1,7 +1,7 @@
 #pragma once
 
+#include "ImageLayout.h"
 #include "MetadataPlan.h"
-#include "PictureAnatomy.h"
 
 #include <string>
 #include <vector>
@@ -12,6 +12,6 @@ namespace Zenvora::Strandel {
 /// resolution, colour space and versions; in JPEG files also how the pixels are coded, and how many there
 /// are. Empty for TIFF, which is no block of its own.
 std::vector<ExifChange> FieldsOfNewExif(PictureFormat format, const std::string& bytes,
-                                        const PictureAnatomy& anatomy);
+                                        const ImageLayout& layout);
 
 }  // namespace Zenvora::Strandel

@@ -1,7 +1,5 @@
 #include "OldPngExif.h"
 
-#include "EditRefusal.h"
-
 #include <QByteArray>
 
 #include <cstdio>
@@ -15,7 +13,7 @@ constexpr std::size_t kMostBytes = std::size_t{256} * 1024;
 constexpr std::size_t kSizeBytes = 4;  // What Qt puts before compressed bytes
 
 [[noreturn]] void RefuseDamaged() {
-  throw EditRefusal("its EXIF data, which are kept as text, are damaged");
+  throw OldPngExif::Damaged("its EXIF data, which are kept as text, are damaged");
 }
 
 std::string Uncompressed(std::string_view content) {
@@ -33,7 +31,7 @@ std::string Uncompressed(std::string_view content) {
 }
 
 /// The next line, without its end.
-std::string_view TakeLine(std::string_view& text) {
+std::string_view ReadLine(std::string_view& text) {
   const std::size_t end = text.find('\n');
   if (end == std::string_view::npos) {
     RefuseDamaged();
@@ -43,7 +41,7 @@ std::string_view TakeLine(std::string_view& text) {
   return line;
 }
 
-void TakeMark(OldPngExif& exif) {
+void SplitMark(OldPngExif& exif) {
   if (exif.block.compare(0, kExifMark.size(), kExifMark) == 0) {
     exif.mark = kExifMark;
     exif.block.erase(0, kExifMark.size());
@@ -66,14 +64,14 @@ std::optional<OldPngExif> OldPngExif::Parse(std::string_view type, std::string_v
   exif.compressed = type == "zTXt";
   const std::string all = exif.compressed ? Uncompressed(content) : std::string(content);
   std::string_view text = all;
-  TakeLine(text);
-  exif.label = TakeLine(text);
-  const std::string size(TakeLine(text));
+  ReadLine(text);
+  exif.label = ReadLine(text);
+  const std::string size(ReadLine(text));
   exif.block = QByteArray::fromHex(QByteArray(text.data(), static_cast<int>(text.size()))).toStdString();
   if (QByteArray::fromStdString(size).trimmed().toULongLong() != exif.block.size()) {
     RefuseDamaged();
   }
-  TakeMark(exif);
+  SplitMark(exif);
   return exif;
 }
 

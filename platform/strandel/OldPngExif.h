@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -15,7 +16,11 @@ struct OldPngExif {
   std::string mark;     ///< The bytes before the block that say what it is; perhaps none.
   std::string block;    ///< A TIFF structure.
 
-  /// Nothing for other chunks. Throws `EditRefusal` for what cannot be read.
+  /// What cannot be read, in English, as a sentence about the photo without its name.
+  struct Damaged : std::runtime_error {
+    using runtime_error::runtime_error;
+  };
+  /// Nothing for other chunks. Throws `Damaged`.
   static std::optional<OldPngExif> Parse(std::string_view type, std::string_view content);
   /// The chunk's content.
   std::string Content() const;

@@ -1,5 +1,7 @@
 #include "PartialCopy.h"
 
+#include <zenvora/strandel/TiffDirectories.h>
+
 #include <algorithm>
 #include <limits>
 #include <new>
@@ -96,16 +98,8 @@ bool PartialCopy::ReadFront(std::uint64_t end) {
 }
 
 std::uint64_t PartialCopy::FirstDirectory() const {
-  constexpr std::uint64_t kHeader = 8;
-  if (size_ < kHeader) {
-    return 0;
-  }
-  const bool bigEndian = bytes_.get()[0] == 'M';
-  std::uint64_t offset = 0;
-  for (int i = 0; i < 4; ++i) {
-    offset = offset << 8U | bytes_.get()[bigEndian ? 4 + i : 7 - i];
-  }
-  return offset;
+  const ByteView bytes(std::string_view(reinterpret_cast<const char*>(bytes_.get()), size_));
+  return TiffStructure(bytes, TiffStructure::Form::Classic).First().value_or(0);
 }
 
 bool PartialCopy::Covers(std::uint64_t offset) const {

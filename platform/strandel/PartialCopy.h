@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PhotoSource.h"
+#include <zenvora/strandel/PhotoSource.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -1,10 +1,10 @@
 #include "EditRefusal.h"
 #include "ExivLock.h"
+#include "ImageLayout.h"
 #include "MetadataPlan.h"
 #include "NewExif.h"
 #include "OtherDates.h"
-#include "PhotoSource.h"
-#include "PictureAnatomy.h"
+#include "PlanCheck.h"
 #include "PngRescue.h"
 #include "SideFile.h"
 #include "TextsInPlace.h"
@@ -15,6 +15,7 @@
 #include <zenvora/strandel/EditRules.h>
 #include <zenvora/strandel/PhotoEdit.h>
 #include <zenvora/strandel/PhotoFacts.h>
+#include <zenvora/strandel/PhotoSource.h>
 
 #include <exiv2/exiv2.hpp>
 
@@ -109,10 +110,7 @@ ExivPicture ReadMetadata(const std::string& bytes) {
   try {
     image->readMetadata();
   } catch (const Exiv2::AnyError&) {
-    const auto read = [&bytes](std::uint64_t at, void* to, std::size_t count) {
-      return at < bytes.size() ? bytes.copy(static_cast<char*>(to), count, static_cast<std::size_t>(at)) : 0;
-    };
-    if (image->imageType() != Exiv2::ImageType::png || !RescuePng(read, bytes.size(), *image)) {
+    if (image->imageType() != Exiv2::ImageType::png || !RescuePng(bytes, *image)) {
       throw;
     }
   }
@@ -128,17 +126,17 @@ void RequireReadableExif(const Exiv2::Image& image, std::string_view block) {
 
 /// The file with the plan carried out; all that the plan does not name stays where it is.
 std::string Carry(const MetadataPlan& plan, PictureFormat format, const std::string& before) {
-  const PictureAnatomy anatomy = Dissect(format, before);
+  const ImageLayout layout = ReadLayout(format, before);
   std::string bytes = before;
-  ChangeTextsInPlace(bytes, anatomy.texts, plan);
+  ChangeTextsInPlace(bytes, layout.texts, plan);
   std::optional<std::string> exif;
   if (!plan.exif.empty()) {
-    const std::string_view block = ExifBlock(bytes, anatomy);
+    const std::string_view block = ExifBlock(bytes, layout);
     TiffEdit tiff(block.empty() ? TiffEdit::Empty() : std::string(block));
     tiff.Apply(plan.exif);
     exif = tiff.Bytes();
   }
-  return WithExif(format, bytes, anatomy, exif);
+  return WithExif(format, bytes, layout, exif);
 }
 
 /// Makers' notes have other meanings for the same numbers.
@@ -200,8 +198,8 @@ class InnerPictures {
 void Check(const Content& content, const std::string& after, const Exiv2::Image& image,
            const MetadataPlan& plan) {
   CheckSamePicture(content.format, content.bytes, after);
-  const PictureAnatomy before = Dissect(content.format, content.bytes);
-  const PictureAnatomy now = Dissect(content.format, after);
+  const ImageLayout before = ReadLayout(content.format, content.bytes);
+  const ImageLayout now = ReadLayout(content.format, after);
   InnerPictures(image.exifData(), ExifBlock(content.bytes, before), ExifBlock(after, now)).CheckSame();
   CheckAgainstPlan(image, *ReadMetadata(after), plan);
 }
@@ -210,12 +208,12 @@ std::string Edited(const Content& content, const PhotoEdit& edit) {
   const auto lock = LockExiv();
   try {
     const ExivPicture image = ReadMetadata(content.bytes);
-    const PictureAnatomy anatomy = Dissect(content.format, content.bytes);
-    const std::string_view block = ExifBlock(content.bytes, anatomy);
+    const ImageLayout layout = ReadLayout(content.format, content.bytes);
+    const std::string_view block = ExifBlock(content.bytes, layout);
     RequireReadableExif(*image, block);
     MetadataPlan plan = PlanEdit(*image, edit, content.format == PictureFormat::Tiff);
     if (block.empty() && !plan.exif.empty()) {
-      const std::vector<ExifChange> fields = FieldsOfNewExif(content.format, content.bytes, anatomy);
+      const std::vector<ExifChange> fields = FieldsOfNewExif(content.format, content.bytes, layout);
       plan.exif.insert(plan.exif.end(), fields.begin(), fields.end());
     }
     std::string after = Carry(plan, content.format, content.bytes);

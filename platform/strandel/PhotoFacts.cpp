@@ -2,13 +2,13 @@
 #include "ExivImage.h"
 #include "ExivLock.h"
 #include "FormatName.h"
-#include "HeifSize.h"
 #include "ImageMetadata.h"
 #include "OtherDates.h"
 #include "PictureMarks.h"
 
 #include <zenvora/core/FileNotes.h>
 #include <zenvora/core/FileState.h>
+#include <zenvora/strandel/HeifSize.h>
 #include <zenvora/strandel/PhotoFacts.h>
 
 #include <exception>
@@ -34,7 +34,7 @@ std::string WithoutBlanks(const std::string& text) {
 }
 
 /// The file is a photo of that format that says this.
-void Take(std::string format, const ExifFields& fields, Picture& picture, PhotoFacts& facts) {
+void Accept(std::string format, const ExifFields& fields, Picture& picture, PhotoFacts& facts) {
   picture.format = std::move(format);
   facts.status = PhotoFacts::Status::Read;
   facts.cause.clear();
@@ -87,21 +87,21 @@ void ReadWithExiv2(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
       return;
     }
   }
-  Take(FormatName(found), FieldsIn(found.exifData()), picture, facts);
+  Accept(FormatName(found), FieldsIn(found.exifData()), picture, facts);
   facts.xmp = XmpDate(found.xmpData());
   facts.iptc = IptcDate(found.iptcData());
   picture.size = SizeOf(found, source);
   std::swap(picture.exif, found.exifData());
 }
 
-void TakeBigTiff(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
+void ReadBigTiffFile(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
   const auto lock = LockExiv();
   picture.exif = ReadBigTiff(source);
   if (picture.exif.empty()) {
     Refuse(facts, kDamagedDirectory);
     return;
   }
-  Take(TiffFormatName(picture.exif), FieldsIn(picture.exif), picture, facts);
+  Accept(TiffFormatName(picture.exif), FieldsIn(picture.exif), picture, facts);
   const auto number = [&picture](const char* key) {
     const auto found = picture.exif.findKey(Exiv2::ExifKey(key));
     return found == picture.exif.end() || found->count() != 1 ? 0 : static_cast<int>(found->toLong());
@@ -112,7 +112,7 @@ void TakeBigTiff(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
 void ReadKnownFormat(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
   try {
     if (BeginsLikeBigTiff(source)) {
-      TakeBigTiff(source, picture, facts);
+      ReadBigTiffFile(source, picture, facts);
     } else {
       ReadWithExiv2(source, picture, facts);
     }
@@ -133,14 +133,14 @@ void ReadContent(PhotoSource& source, Picture& picture, PhotoFacts& facts) {
     return;
   }
   if (const std::string format = OpaqueFormat(source); !format.empty()) {
-    Take(format, ExifFields(), picture, facts);
+    Accept(format, ExifFields(), picture, facts);
     return;
   }
   ReadKnownFormat(source, picture, facts);
   // Exiv2 takes films for pictures, and gives a picture up for a colour profile that it does not like.
   if (BeginsLikeContainer(source) && SaysNothing(facts)) {
     if (const std::string format = FormatByBrand(source); !format.empty()) {
-      Take(format, ExifFields(), picture, facts);
+      Accept(format, ExifFields(), picture, facts);
       picture.size = picture.size.isEmpty() ? ReadHeifSize(source) : picture.size;
     } else {
       Refuse(facts, kUnknown);

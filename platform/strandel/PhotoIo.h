@@ -1,7 +1,8 @@
 #pragma once
 
 #include "PartialCopy.h"
-#include "PhotoSource.h"
+
+#include <zenvora/strandel/PhotoSource.h>
 
 #include <exiv2/exiv2.hpp>
 
@@ -26,7 +27,7 @@ class PhotoIo : public Exiv2::BasicIo {
   long write(Exiv2::BasicIo& src) override;
   int putb(Exiv2::byte data) override;
   Exiv2::DataBuf read(long rcount) override;
-  /// Long stretches end in zeros: only boxes with the picture itself are read so, and Exiv2 passes over
+  /// Long reads end in zeros: only boxes with the picture itself are read so, and Exiv2 passes over
   /// their content.
   long read(Exiv2::byte* buf, long rcount) override;
   int getb() override;

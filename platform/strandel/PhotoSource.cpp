@@ -1,9 +1,8 @@
-#include "PhotoSource.h"
-
 #include <zenvora/core/ErrorText.h>
+#include <zenvora/strandel/PhotoSource.h>
 
 #include <algorithm>
-#include <cstring>
+#include <string_view>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -15,8 +14,6 @@
 #endif
 
 namespace Zenvora::Strandel {
-
-namespace {}  // namespace
 
 #ifdef _WIN32
 
@@ -125,20 +122,32 @@ std::size_t PhotoSource::Read(std::uint64_t offset, void* to, std::size_t count)
     return 0;
   }
   count = static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset));
-  const bool inside = offset >= windowOffset_ && offset + count <= windowOffset_ + windowSize_;
-  if (!inside) {
-    if (count >= sizeof window_) {
-      return ReadDirectly(offset, to, count);
-    }
-    windowSize_ = ReadDirectly(offset, window_, sizeof window_);
-    windowOffset_ = offset;
+  if (count > sizeof window_) {
+    return ReadDirectly(offset, to, count);
   }
-  const auto from = static_cast<std::size_t>(offset - windowOffset_);
-  const std::size_t given = std::min(count, windowSize_ - std::min(from, windowSize_));
-  if (given > 0) {
-    std::memcpy(to, window_ + from, given);
+  return Window(offset, count).Text().copy(static_cast<char*>(to), count);
+}
+
+ByteView PhotoSource::At(std::uint64_t at, std::size_t count) {
+  if (at >= size_ || count == 0) {
+    return {};
   }
-  return given;
+  count = static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - at));
+  if (count <= sizeof window_) {
+    return Window(at, count);
+  }
+  large_.resize(count);
+  large_.resize(ReadDirectly(at, large_.data(), count));
+  return large_;
+}
+
+/// `count` is no more than fits in.
+ByteView PhotoSource::Window(std::uint64_t at, std::size_t count) {
+  if (at < windowOffset_ || at + count > windowOffset_ + windowSize_) {
+    windowSize_ = ReadDirectly(at, window_, sizeof window_);
+    windowOffset_ = at;
+  }
+  return ByteView(std::string_view(window_, windowSize_)).Part({at - windowOffset_, count});
 }
 
 }  // namespace Zenvora::Strandel

@@ -67,12 +67,6 @@ std::string FormatIn(const Mark (&marks)[count], std::string_view head) {
   return found == std::end(marks) ? std::string() : std::string(found->format);
 }
 
-std::string HeadOf(PhotoSource& source, std::size_t size) {
-  std::string head(size, '\0');
-  head.resize(source.Read(0, head.data(), head.size()));
-  return head;
-}
-
 /// What stands before the box with the brands.
 std::size_t BrandBoxAt(std::string_view head) {
   return head.substr(0, kJxlMark.size()) == kJxlMark ? kJxlMark.size() : 0;
@@ -83,8 +77,7 @@ std::string FormatByBrand(std::string_view box, std::size_t& length) {
   if (box.size() < 16 || box.substr(4, 4) != "ftyp") {
     return {};
   }
-  const auto byte = [&box](std::size_t at) { return std::size_t{static_cast<unsigned char>(box[at])}; };
-  length = byte(0) << 24U | byte(1) << 16U | byte(2) << 8U | byte(3);
+  length = static_cast<std::size_t>(ByteView(box).Big(0, 4).value_or(0));
   const Mark* best = std::end(kBrands);
   // The first brand, a version, then what else it is compatible with.
   for (std::size_t at = 8; at + 4 <= std::min({length, box.size(), kBrandBytes}); at += at == 8 ? 8 : 4) {
@@ -98,30 +91,30 @@ std::string FormatByBrand(std::string_view box, std::size_t& length) {
 }  // namespace
 
 bool BeginsLikeTiff(PhotoSource& source) {
-  const std::string head = HeadOf(source, 2);
+  const std::string_view head = source.At(0, 2).Text();
   return head == "II" || head == "MM";
 }
 
 bool BeginsLikeBigTiff(PhotoSource& source) {
-  const std::string head = HeadOf(source, 8);
+  const std::string_view head = source.At(0, 8).Text();
   return head == std::string_view("II+\0\x08\0\0\0", 8) || head == std::string_view("MM\0+\0\x08\0\0", 8);
 }
 
 std::string OpaqueFormat(PhotoSource& source) {
   constexpr std::uint64_t kMoreThanAMark = 16;
-  return source.Size() > kMoreThanAMark ? FormatIn(kOpaqueMarks, HeadOf(source, 4)) : std::string();
+  return source.Size() > kMoreThanAMark ? FormatIn(kOpaqueMarks, source.At(0, 4).Text()) : std::string();
 }
 
 bool BeginsLikeContainer(PhotoSource& source) {
-  const std::string head = HeadOf(source, kJxlMark.size());
-  return head.compare(4 < head.size() ? 4 : head.size(), 4, "ftyp") == 0 || head == kJxlMark;
+  const std::string_view head = source.At(0, kJxlMark.size()).Text();
+  return (head.size() >= 8 && head.substr(4, 4) == "ftyp") || head == kJxlMark;
 }
 
 std::string FormatByBrand(PhotoSource& source) {
-  const std::string head = HeadOf(source, kFormatHeadBytes);
+  const std::string_view head = source.At(0, kFormatHeadBytes).Text();
   const std::size_t start = BrandBoxAt(head);
   std::size_t length = 0;
-  const std::string format = FormatByBrand(std::string_view(head).substr(start), length);
+  const std::string format = FormatByBrand(head.substr(start), length);
   return start + length < source.Size() ? format : std::string();
 }
 

@@ -1,8 +1,10 @@
 #include "PngRescue.h"
 
-#include "EditRefusal.h"
 #include "OldPngExif.h"
 
+#include <zenvora/strandel/PngChunks.h>
+
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -10,8 +12,6 @@ namespace Zenvora::Strandel {
 
 namespace {
 
-constexpr std::uint64_t kMark = 8;
-constexpr std::uint64_t kFrame = 12;  ///< Length, type and checksum of a chunk.
 constexpr std::uint64_t kMostMetadata = std::uint64_t{16} * 1024 * 1024;
 constexpr int kMostChunks = 100'000;
 constexpr std::string_view kExifMark("Exif\0\0", 6);
@@ -53,7 +53,7 @@ void Decode(std::string_view type, const std::string& content, Exiv2::Image& ima
     } else if (const auto old = OldPngExif::Parse(type, content)) {
       DecodeExif(old->block, image);
     }
-  } catch (const EditRefusal&) {
+  } catch (const OldPngExif::Damaged&) {
     // One more chunk that cannot be read.
   } catch (const Exiv2::AnyError&) {
     // Likewise.
@@ -66,30 +66,22 @@ bool HoldsMetadata(std::string_view type) {
 
 }  // namespace
 
-bool RescuePng(const ReadBytes& read, std::uint64_t size, Exiv2::Image& image) {
+bool RescuePng(const ByteSource& bytes, Exiv2::Image& image) {
   bool hasPicture = false;
-  std::uint64_t at = kMark;
-  for (int chunk = 0; chunk < kMostChunks; ++chunk) {
-    unsigned char head[8];
-    if (read(at, head, sizeof head) != sizeof head) {
+  PngChunks chunks(bytes);
+  for (int count = 0; count < kMostChunks; ++count) {
+    const auto chunk = chunks.Next();
+    if (!chunk || (count == 0 && chunk->Type() != "IHDR")) {
       break;
     }
-    const std::uint64_t length = std::uint64_t{head[0]} << 24U | std::uint64_t{head[1]} << 16U |
-                                 std::uint64_t{head[2]} << 8U | head[3];
-    const std::string_view type(reinterpret_cast<const char*>(head) + 4, 4);
-    if (chunk == 0 && type != "IHDR") {
-      return false;
-    }
-    hasPicture = hasPicture || type == "IDAT";
-    if (type == "IEND" || length + kFrame > size - at) {
+    hasPicture = hasPicture || chunk->Type() == "IDAT";
+    if (chunk->Type() == "IEND" || !chunk->isWhole) {
       break;
     }
-    if (HoldsMetadata(type) && length <= kMostMetadata) {
-      std::string content(static_cast<std::size_t>(length), '\0');
-      content.resize(read(at + sizeof head, content.data(), content.size()));
-      Decode(type, content, image);
+    if (HoldsMetadata(chunk->Type()) && chunk->body.size <= kMostMetadata) {
+      const auto size = static_cast<std::size_t>(chunk->body.size);
+      Decode(chunk->Type(), std::string(bytes.At(chunk->body.at, size).Text()), image);
     }
-    at += length + kFrame;
   }
   return hasPicture;
 }

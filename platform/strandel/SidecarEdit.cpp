@@ -2,11 +2,12 @@
 #include "ExivImage.h"
 #include "ExivLock.h"
 #include "MetadataPlan.h"
-#include "PhotoSource.h"
+#include "PlanCheck.h"
 #include "SideFile.h"
 #include "XmpPlaces.h"
 
 #include <zenvora/core/FileState.h>
+#include <zenvora/strandel/PhotoSource.h>
 #include <zenvora/strandel/SidecarEdit.h>
 
 #include <exiv2/exiv2.hpp>

@@ -39,7 +39,7 @@ bool EndsValue(std::string_view text, std::size_t at) {
   return at < text.size() && (text[at] == '"' || text[at] == '\'' || text[at] == '<');
 }
 
-bool ChangeXmp(std::string& bytes, Stretch place, const std::string& name, const XmpChange& change) {
+bool ChangeXmp(std::string& bytes, ByteRange place, const std::string& name, const XmpChange& change) {
   const std::string_view text = std::string_view(bytes).substr(place.at, place.size);
   bool found = false;
   for (std::size_t at = text.find(name); at != std::string_view::npos; at = text.find(name, at + 1)) {
@@ -53,7 +53,7 @@ bool ChangeXmp(std::string& bytes, Stretch place, const std::string& name, const
   return found;
 }
 
-bool ChangeIptc(std::string& bytes, Stretch place, const IptcChange& change, std::size_t size) {
+bool ChangeIptc(std::string& bytes, ByteRange place, const IptcChange& change, std::size_t size) {
   const std::string head = {'\x1C', static_cast<char>(change.record), static_cast<char>(change.number), '\0',
                             static_cast<char>(size)};
   const std::string wanted = head + change.before.substr(0, size);
@@ -66,7 +66,7 @@ bool ChangeIptc(std::string& bytes, Stretch place, const IptcChange& change, std
   return found;
 }
 
-bool ChangeIptc(std::string& bytes, Stretch place, const IptcChange& change) {
+bool ChangeIptc(std::string& bytes, ByteRange place, const IptcChange& change) {
   // Some programs leave the zone of a time out, which counts as 0 then.
   constexpr std::size_t kBareTime = 6;
   return ChangeIptc(bytes, place, change, change.before.size()) ||
@@ -74,9 +74,9 @@ bool ChangeIptc(std::string& bytes, Stretch place, const IptcChange& change) {
 }
 
 template <class Change>
-bool Anywhere(const std::vector<Stretch>& places, const Change& change) {
+bool Anywhere(const std::vector<ByteRange>& places, const Change& change) {
   bool found = false;
-  for (const Stretch& place : places) {
+  for (const ByteRange& place : places) {
     found = change(place) || found;
   }
   return found;
@@ -88,10 +88,10 @@ bool Anywhere(const std::vector<Stretch>& places, const Change& change) {
 
 }  // namespace
 
-void ChangeTextsInPlace(std::string& bytes, const std::vector<Stretch>& places, const MetadataPlan& plan) {
+void ChangeTextsInPlace(std::string& bytes, const std::vector<ByteRange>& places, const MetadataPlan& plan) {
   for (const XmpChange& change : plan.xmp) {
     const auto changeAs = [&](const std::string& name) {
-      return Anywhere(places, [&](Stretch place) { return ChangeXmp(bytes, place, name, change); });
+      return Anywhere(places, [&](ByteRange place) { return ChangeXmp(bytes, place, name, change); });
     };
     // Old programs call the name space otherwise.
     const std::string local = change.name.substr(change.name.find(':'));
@@ -102,7 +102,7 @@ void ChangeTextsInPlace(std::string& bytes, const std::vector<Stretch>& places, 
   }
   for (const IptcChange& change : plan.iptc) {
     if (change.before.size() != change.after.size() ||
-        !Anywhere(places, [&](Stretch place) { return ChangeIptc(bytes, place, change); })) {
+        !Anywhere(places, [&](ByteRange place) { return ChangeIptc(bytes, place, change); })) {
       Refuse("date", "IPTC");
     }
   }

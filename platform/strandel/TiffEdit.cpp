@@ -3,7 +3,6 @@
 #include "EditRefusal.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace Zenvora::Strandel {
@@ -18,11 +17,6 @@ enum Type : std::uint16_t { kAscii = 2, kShort = 3, kLong = 4, kRational = 5, kU
 
 [[noreturn]] void RefuseDamaged() {
   throw EditRefusal("its TIFF directory is damaged");
-}
-
-std::size_t SizeOfType(std::uint32_t type) {
-  static constexpr std::array<std::size_t, 14> kSizes = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8, 4};
-  return type < kSizes.size() ? kSizes[type] : 0;
 }
 
 }  // namespace
@@ -41,18 +35,11 @@ std::string TiffEdit::Empty() {
   return std::string("MM\0*\0\0\0\x08\0\0\0\0\0\0", 14);
 }
 
-std::uint32_t TiffEdit::Number(std::size_t at, std::size_t size) const {
-  if (at > bytes_.size() || bytes_.size() - at < size) {
-    RefuseDamaged();
-  }
-  std::uint32_t value = 0;
-  for (std::size_t i = 0; i < size; ++i) {
-    value = value << 8U | static_cast<unsigned char>(bytes_[at + (bigEndian_ ? i : size - 1 - i)]);
-  }
-  return value;
+TiffStructure TiffEdit::Structure() const {
+  return {ByteView(bytes_), TiffStructure::Form::Classic};
 }
 
-void TiffEdit::PutNumber(std::size_t at, std::size_t size, std::uint32_t value) {
+void TiffEdit::PutNumber(std::uint64_t at, std::size_t size, std::uint32_t value) {
   for (std::size_t i = 0; i < size; ++i, value >>= 8U) {
     bytes_[at + (bigEndian_ ? size - 1 - i : i)] = static_cast<char>(value & 0xFFU);
   }
@@ -66,48 +53,42 @@ std::size_t TiffEdit::Append(const std::string& bytes) {
   return at;
 }
 
-TiffEdit::Table TiffEdit::TableAt(std::size_t at) const {
-  const Table table{at, Number(at, 2)};
-  if (at < kHeader || table.End() > bytes_.size()) {
+TiffDirectory TiffEdit::DirectoryAt(std::optional<std::uint64_t> place) const {
+  const auto directory = place && *place >= kHeader ? Structure().DirectoryAt(*place) : std::nullopt;
+  if (!directory || !directory->isWhole) {
     RefuseDamaged();
   }
-  return table;
+  return *directory;
 }
 
-std::optional<TiffEdit::Table> TiffEdit::Find(ExifDirectory directory) const {
-  const Table first = TableAt(Number(4, 4));
+std::optional<TiffDirectory> TiffEdit::Find(ExifDirectory directory) const {
+  const TiffStructure tiff = Structure();
+  const TiffDirectory first = DirectoryAt(tiff.First());
   if (directory == ExifDirectory::Image) {
     return first;
   }
   if (directory == ExifDirectory::Photo) {
-    const auto entry = FindEntry(first, kExifTag);
-    return entry ? std::optional<Table>(TableAt(Number(*entry + 8, 4))) : std::nullopt;
+    const auto entry = tiff.Find(first, kExifTag);
+    return entry ? std::optional(DirectoryAt(tiff.Number(entry->at + 8, 4))) : std::nullopt;
   }
-  const std::size_t next = Number(first.End(), 4);
-  return next == 0 ? std::nullopt : std::optional<Table>(TableAt(next));
+  const auto next = tiff.Next(first);
+  return next == 0U ? std::nullopt : std::optional(DirectoryAt(next));
 }
 
-std::optional<std::size_t> TiffEdit::FindEntry(const Table& table, std::uint16_t tag) const {
-  for (std::size_t index = 0; index < table.count; ++index) {
-    if (Number(table.Entry(index), 2) == tag) {
-      return table.Entry(index);
-    }
-  }
-  return std::nullopt;
+std::optional<TiffEntry> TiffEdit::FindEntry(ExifDirectory directory, std::uint16_t tag) const {
+  const auto found = Find(directory);
+  return found ? Structure().Find(*found, tag) : std::nullopt;
 }
 
-std::optional<TiffEdit::Range> TiffEdit::ValueAt(std::size_t entry) const {
-  const std::uint64_t size = std::uint64_t{Number(entry + 4, 4)} * SizeOfType(Number(entry + 2, 2));
-  const std::size_t at = size <= 4 ? entry + 8 : Number(entry + 8, 4);
-  if (size == 0 || at < kHeader || at > bytes_.size() || size > bytes_.size() - at) {
-    return std::nullopt;
-  }
-  return Range{at, static_cast<std::size_t>(size)};
+std::optional<ByteRange> TiffEdit::ValueOf(const TiffEntry& entry) const {
+  const ByteRange& value = entry.value;
+  return value.size == 0 || value.at < kHeader || value.End() > bytes_.size() ? std::nullopt
+                                                                              : std::optional(value);
 }
 
-std::optional<TiffEdit::Range> TiffEdit::ValueOf(std::uint16_t tag) const {
-  const auto entry = FindEntry(*Find(ExifDirectory::Image), tag);
-  return entry ? ValueAt(*entry) : std::nullopt;
+std::optional<ByteRange> TiffEdit::ValueOf(std::uint16_t tag) const {
+  const auto entry = FindEntry(ExifDirectory::Image, tag);
+  return entry ? ValueOf(*entry) : std::nullopt;
 }
 
 void TiffEdit::Apply(const std::vector<ExifChange>& changes) {
@@ -137,11 +118,11 @@ void TiffEdit::Apply(const ExifChange& change) {
     case ExifChange::Kind::Remove:
       return Remove(change.directory, change.tag);
     case ExifChange::Kind::Number:
-      return PutNumberOf(kShort, 2, Entry(change.directory, change.tag), change.number);
+      return PutNumberOf(kShort, 2, Entry(change.directory, change.tag).at, change.number);
     case ExifChange::Kind::Long:
-      return PutNumberOf(kLong, 4, Entry(change.directory, change.tag), change.number);
+      return PutNumberOf(kLong, 4, Entry(change.directory, change.tag).at, change.number);
     case ExifChange::Kind::WholeRatio:
-      return PutRatio(Entry(change.directory, change.tag), change.number);
+      return PutRatio(Entry(change.directory, change.tag).at, change.number);
     case ExifChange::Kind::Text:
       return PutBytes(kAscii, Entry(change.directory, change.tag), change.text);
     case ExifChange::Kind::Bytes:
@@ -149,9 +130,8 @@ void TiffEdit::Apply(const ExifChange& change) {
   }
 }
 
-std::size_t TiffEdit::Entry(ExifDirectory directory, std::uint16_t tag) const {
-  const auto table = Find(directory);
-  const auto entry = table ? FindEntry(*table, tag) : std::nullopt;
+TiffEntry TiffEdit::Entry(ExifDirectory directory, std::uint16_t tag) const {
+  const auto entry = FindEntry(directory, tag);
   if (!entry) {
     RefuseDamaged();
   }
@@ -163,7 +143,7 @@ void TiffEdit::MakeExifDirectory() {
     return;
   }
   MakeEntries(ExifDirectory::Image, {kExifTag});
-  const std::size_t entry = Entry(ExifDirectory::Image, kExifTag);
+  const std::uint64_t entry = Entry(ExifDirectory::Image, kExifTag).at;
   const std::size_t at = Append(std::string(6, '\0'));
   PutNumber(entry + 2, 2, kLong);
   PutNumber(entry + 4, 4, 1);
@@ -190,7 +170,7 @@ void TiffEdit::MakeEntries(ExifDirectory directory, std::vector<std::uint16_t> t
     RefuseDamaged();
   }
   tags.erase(std::remove_if(tags.begin(), tags.end(),
-                            [&](std::uint16_t tag) { return FindEntry(*old, tag).has_value(); }),
+                            [&](std::uint16_t tag) { return FindEntry(directory, tag).has_value(); }),
              tags.end());
   constexpr std::size_t kMostEntries = 0xFFFF;
   if (tags.empty()) {
@@ -200,8 +180,8 @@ void TiffEdit::MakeEntries(ExifDirectory directory, std::vector<std::uint16_t> t
     RefuseDamaged();
   }
   std::vector<std::string> entries;
-  for (std::size_t index = 0; index < old->count; ++index) {
-    entries.push_back(bytes_.substr(old->Entry(index), kEntry));
+  for (std::uint64_t index = 0; index < old->count; ++index) {
+    entries.push_back(bytes_.substr(old->at + 2 + index * kEntry, kEntry));
   }
   for (const std::uint16_t tag : tags) {
     // The old ones keep their order, right or wrong.
@@ -214,63 +194,64 @@ void TiffEdit::MakeEntries(ExifDirectory directory, std::vector<std::uint16_t> t
     table += entry;
   }
   // Blocks may end with their last entry, without the place of a next directory.
-  table += bytes_.size() - old->End() >= 4 ? bytes_.substr(old->End(), 4) : std::string(4, '\0');
-  const std::size_t pointer = PointerTo(directory);
+  const std::uint64_t end = Structure().EndOf(*old);
+  table += bytes_.size() - end >= 4 ? bytes_.substr(end, 4) : std::string(4, '\0');
+  const std::uint64_t pointer = PointerTo(directory);
   const std::size_t at = Append(table);
   PutNumber(at, 2, static_cast<std::uint32_t>(entries.size()));
   PutNumber(pointer, 4, static_cast<std::uint32_t>(at));
 }
 
 /// Where the place of a directory is told.
-std::size_t TiffEdit::PointerTo(ExifDirectory directory) const {
+std::uint64_t TiffEdit::PointerTo(ExifDirectory directory) const {
   switch (directory) {
     case ExifDirectory::Photo:
-      return Entry(ExifDirectory::Image, kExifTag) + 8;
+      return Entry(ExifDirectory::Image, kExifTag).at + 8;
     case ExifDirectory::Thumbnail:
-      return Find(ExifDirectory::Image)->End();
+      return Structure().EndOf(*Find(ExifDirectory::Image));
     default:
       return 4;
   }
 }
 
-void TiffEdit::PutNumberOf(std::uint16_t type, std::size_t size, std::size_t entry, std::uint32_t value) {
+void TiffEdit::PutNumberOf(std::uint16_t type, std::size_t size, std::uint64_t entry, std::uint32_t value) {
   PutNumber(entry + 2, 2, type);
   PutNumber(entry + 4, 4, 1);
   PutNumber(entry + 8, 4, 0);
   PutNumber(entry + 8, size, value);
 }
 
-void TiffEdit::PutRatio(std::size_t entry, std::uint32_t value) {
+void TiffEdit::PutRatio(std::uint64_t entry, std::uint32_t value) {
   const std::size_t at = Append(std::string(8, '\0'));
   PutNumber(at, 4, value);
   PutNumber(at + 4, 4, 1);
   PutNumberOf(kRational, 4, entry, static_cast<std::uint32_t>(at));
 }
 
-void TiffEdit::PutBytes(std::uint16_t type, std::size_t entry, const std::string& text) {
-  const auto old = ValueAt(entry);
+void TiffEdit::PutBytes(std::uint16_t type, const TiffEntry& entry, const std::string& text) {
+  const auto old = ValueOf(entry);
   if (text.size() <= 4) {
-    bytes_.replace(entry + 8, 4, text + std::string(4 - text.size(), '\0'));
+    bytes_.replace(entry.at + 8, 4, text + std::string(4 - text.size(), '\0'));
   } else if (old && old->size > 4 && old->size >= text.size()) {
     bytes_.replace(old->at, old->size, text + std::string(old->size - text.size(), '\0'));
   } else {
     const std::size_t at = Append(text);
-    PutNumber(entry + 8, 4, static_cast<std::uint32_t>(at));
+    PutNumber(entry.at + 8, 4, static_cast<std::uint32_t>(at));
   }
-  PutNumber(entry + 2, 2, type);
-  PutNumber(entry + 4, 4, static_cast<std::uint32_t>(text.size()));
+  PutNumber(entry.at + 2, 2, type);
+  PutNumber(entry.at + 4, 4, static_cast<std::uint32_t>(text.size()));
 }
 
 void TiffEdit::Remove(ExifDirectory directory, std::uint16_t tag) {
-  const auto table = Find(directory);
-  const auto entry = table ? FindEntry(*table, tag) : std::nullopt;
+  const auto entry = FindEntry(directory, tag);
   if (!entry) {
     return;
   }
-  const std::size_t end = std::min(table->End() + 4, bytes_.size());
-  const std::string rest = bytes_.substr(*entry + kEntry, end - *entry - kEntry);
-  bytes_.replace(*entry, end - *entry, rest + std::string(kEntry, '\0'));
-  PutNumber(table->at, 2, static_cast<std::uint32_t>(table->count - 1));
+  const TiffDirectory table = *Find(directory);
+  const std::uint64_t end = std::min<std::uint64_t>(Structure().EndOf(table) + 4, bytes_.size());
+  const std::string rest = bytes_.substr(entry->at + kEntry, end - entry->at - kEntry);
+  bytes_.replace(entry->at, end - entry->at, rest + std::string(kEntry, '\0'));
+  PutNumber(table.at, 2, static_cast<std::uint32_t>(table.count - 1));
 }
 
 }  // namespace Zenvora::Strandel

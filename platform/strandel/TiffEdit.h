@@ -2,6 +2,8 @@
 
 #include "MetadataPlan.h"
 
+#include <zenvora/strandel/TiffDirectories.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -30,39 +32,29 @@ class TiffEdit {
 
   /// Where in the structure the value of a field of the first directory stands; nothing when there is none or
   /// it stands nowhere.
-  struct Range {
-    std::size_t at;
-    std::size_t size;
-  };
-  std::optional<Range> ValueOf(std::uint16_t tag) const;
+  std::optional<ByteRange> ValueOf(std::uint16_t tag) const;
 
  private:
-  struct Table {
-    std::size_t at;     ///< Of its number of entries.
-    std::size_t count;  ///< Of them.
-    std::size_t Entry(std::size_t index) const { return at + 2 + index * 12; }
-    std::size_t End() const { return Entry(count); }
-  };
-
-  std::uint32_t Number(std::size_t at, std::size_t size) const;
-  void PutNumber(std::size_t at, std::size_t size, std::uint32_t value);
+  /// Of the bytes as they are now.
+  TiffStructure Structure() const;
+  void PutNumber(std::uint64_t at, std::size_t size, std::uint32_t value);
   std::size_t Append(const std::string& bytes);
 
-  Table TableAt(std::size_t at) const;
-  std::optional<Table> Find(ExifDirectory directory) const;
-  std::optional<std::size_t> FindEntry(const Table& table, std::uint16_t tag) const;
-  std::optional<Range> ValueAt(std::size_t entry) const;
+  TiffDirectory DirectoryAt(std::optional<std::uint64_t> place) const;
+  std::optional<TiffDirectory> Find(ExifDirectory directory) const;
+  std::optional<TiffEntry> FindEntry(ExifDirectory directory, std::uint16_t tag) const;
+  std::optional<ByteRange> ValueOf(const TiffEntry& entry) const;
 
-  std::size_t PointerTo(ExifDirectory directory) const;
+  std::uint64_t PointerTo(ExifDirectory directory) const;
   std::string EmptyEntry(std::uint16_t tag) const;
   unsigned TagOf(const std::string& entry) const;
   void MakeExifDirectory();
   void MakeEntries(ExifDirectory directory, std::vector<std::uint16_t> tags);
   void Apply(const ExifChange& change);
-  std::size_t Entry(ExifDirectory directory, std::uint16_t tag) const;
-  void PutNumberOf(std::uint16_t type, std::size_t size, std::size_t entry, std::uint32_t value);
-  void PutRatio(std::size_t entry, std::uint32_t value);
-  void PutBytes(std::uint16_t type, std::size_t entry, const std::string& text);
+  TiffEntry Entry(ExifDirectory directory, std::uint16_t tag) const;
+  void PutNumberOf(std::uint16_t type, std::size_t size, std::uint64_t entry, std::uint32_t value);
+  void PutRatio(std::uint64_t entry, std::uint32_t value);
+  void PutBytes(std::uint16_t type, const TiffEntry& entry, const std::string& text);
   void Remove(ExifDirectory directory, std::uint16_t tag);
 
   std::string bytes_;

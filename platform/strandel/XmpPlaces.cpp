@@ -88,7 +88,7 @@ class Scanner {
     }
   }
 
-  std::string_view TakeName() {
+  std::string_view ReadName() {
     const std::size_t begin = at_;
     while (!EndsName(Here())) {
       ++at_;
@@ -99,9 +99,9 @@ class Scanner {
     return text_.substr(begin, at_ - begin);
   }
 
-  Attribute TakeAttribute() {
+  Attribute ReadAttribute() {
     Attribute attribute;
-    attribute.name = TakeName();
+    attribute.name = ReadName();
     SkipBlanks();
     if (Here() != '=') {
       Refuse();
@@ -125,11 +125,11 @@ class Scanner {
   void Open() {
     ++at_;
     Element element;
-    element.name = TakeName();
+    element.name = ReadName();
     element.spacesBefore = spaces_.size();
     std::vector<Attribute> attributes;
     for (SkipBlanks(); Here() != '>' && Here() != '/'; SkipBlanks()) {
-      attributes.push_back(TakeAttribute());
+      attributes.push_back(ReadAttribute());
       DeclareSpace(attributes.back());
     }
     const bool isEmpty = Here() == '/';
@@ -161,7 +161,7 @@ class Scanner {
   void Close() {
     const std::size_t end = at_;
     at_ += 2;
-    const std::string_view name = TakeName();
+    const std::string_view name = ReadName();
     SkipBlanks();
     if (Here() != '>' || open_.empty() || open_.back().name != name) {
       Refuse();

@@ -331,11 +331,16 @@ TEST(DescribePhoto, RefusesHugeJpegsByTheirHead) {
       << "the decoder of progressive pictures keeps all of them";
 }
 
+std::string Box(const std::string& type, const std::string& content) {
+  return std::string(3, '\0') + static_cast<char>(8 + content.size()) + type + content;
+}
+
 TEST(DescribePhoto, RefusesHugeHeicPicturesByTheirBoxes) {
   const TempTree tree;
-  const std::string heic = std::string("\0\0\0\x18", 4) + "ftypheic" + std::string(12, '\0') +
-                           std::string("\0\0\0\x14", 4) + "ispe" + std::string(4, '\0') +
-                           std::string("\0\0\xEA\x60\0\0\xEA\x60", 8);
+  const std::string version(4, '\0');
+  const std::string size = Box("ispe", version + std::string("\0\0\xEA\x60\0\0\xEA\x60", 8));
+  const std::string heic =
+      Box("ftyp", "heic" + std::string(12, '\0')) + Box("meta", version + Box("iprp", Box("ipco", size)));
   EXPECT_EQ(Describe(tree.Write("vast.heic", heic)).cause, "the picture is too large: 60000 x 60000 pixels");
   std::string cut = heic;
   cut.resize(heic.size() - 5);
