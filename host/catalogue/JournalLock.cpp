@@ -1,5 +1,6 @@
 #include <host/base/HostError.h>
 #include <host/catalogue/JournalLock.h>
+#include <host/catalogue/UndoFolder.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/core/ErrorText.h>
@@ -19,7 +20,7 @@ constexpr int kAttempts = 40;
 }  // namespace
 
 JournalLock::JournalLock(const ioPath& catalogue) {
-  const ioPath folder(catalogue.absolute().utf8string() + ".undo");
+  const ioPath folder = UndoFolderOf(catalogue.absolute());
   if (QueryFile(folder).kind == FileState::Kind::Missing) {
     return;
   }

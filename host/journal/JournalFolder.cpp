@@ -1,4 +1,5 @@
 #include <host/base/HostError.h>
+#include <host/catalogue/UndoFolder.h>
 #include <host/journal/JournalFolder.h>
 
 #include <zenvora/app/Application.h>
@@ -33,12 +34,12 @@ constexpr std::uint64_t kOwnBytes = std::uint64_t{1} << 20U;
 }  // namespace
 
 std::uint64_t JournalFolder::RoomToBegin(const ioPath& catalogue) {
-  const std::uint64_t held = DiskReserve(ioPath(catalogue.utf8string() + ".undo") / kReserveName).Wanted();
+  const std::uint64_t held = DiskReserve(UndoFolderOf(catalogue) / kReserveName).Wanted();
   return held < kOwnBytes ? kOwnBytes - held : 0;
 }
 
 JournalFolder::JournalFolder(const ioPath& catalogue)
-    : folder_(ioPath(catalogue.utf8string() + ".undo")), reserve_(folder_ / kReserveName) {
+    : folder_(UndoFolderOf(catalogue)), reserve_(folder_ / kReserveName) {
   if (QueryFile(folder_ / kLockName).kind == FileState::Kind::File) {
     TakeLock();
   }

@@ -1,6 +1,7 @@
 #include "FolderWalker.h"
 
 #include <host/base/PathText.h>
+#include <host/catalogue/UndoFolder.h>
 #include <host/shots/ShotNames.h>
 
 #include <zenvora/core/ErrorText.h>
@@ -128,7 +129,8 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
   std::vector<ioPath> links;
   const EntryChoice choice = wanted_ == Wanted::Files ? EntryChoice::All : EntryChoice::NotHidden;
   for (const FolderEntry& entry : ReadFolderEntries(folder.path, choice, error)) {
-    if (passOver_ && passOver_(folder.path / entry.name, entry)) {
+    const ioPath path = folder.path / entry.name;
+    if (passOver_ && passOver_(path, entry)) {
       continue;
     }
     if (const std::string fault = FaultOfEntry(entry.name); !fault.empty()) {
@@ -137,7 +139,9 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
     }
     switch (entry.kind) {
       case FolderEntry::Kind::Folder:
-        folders.push_back(entry.name.utf8string());
+        if (wanted_ == Wanted::Files || !IsUndoFolder(path)) {
+          folders.push_back(entry.name.utf8string());
+        }
         break;
       case FolderEntry::Kind::Link:
         links.push_back(entry.name);

@@ -4,6 +4,7 @@
 
 #include <host/base/FolderEntries.h>
 #include <host/base/HostError.h>
+#include <host/catalogue/UndoFolder.h>
 #include <host/scan/ImportSources.h>
 #include <host/shots/ShotNames.h>
 #include <host/shots/ShotSets.h>
@@ -79,10 +80,10 @@ class Gatherer {
   }
 
   bool PassOver(const ioPath& path, const FolderEntry& entry) {
-    if (!everything_) {
-      return entry.hidden;
-    }
     const bool isFolder = entry.kind == FolderEntry::Kind::Folder;
+    if (!everything_) {
+      return entry.hidden || (isFolder && IsUndoFolder(path));
+    }
     if (isFolder ? IsHousekeepingFolder(path) : IsHousekeepingFile(path)) {
       if (isFolder || entry.kind == FolderEntry::Kind::Other || !MayHoldAPicture(path)) {
         ++result_.housekeeping;

@@ -4,6 +4,7 @@
 #include "MovedPhotos.h"
 
 #include <host/catalogue/JournalLock.h>
+#include <host/catalogue/UndoFolder.h>
 #include <host/scan/Scanner.h>
 #include <host/shots/ContentTrace.h>
 #include <host/shots/PhotoDate.h>
@@ -255,7 +256,9 @@ void ScanRun::MarkLost() {
     }
     // Asked again: what the walk passed over, such as a folder that is hidden by now, is not lost.
     const FileState::Kind kind = QueryFile(path).kind;
-    if (kind != FileState::Kind::File && kind != FileState::Kind::Unknown) {
+    const bool isThere = kind == FileState::Kind::File || kind == FileState::Kind::Unknown;
+    // Former scans took in what undo keeps.
+    if (!isThere || IsUndoFolder(path.parent_path())) {
       lost.push_back(path);
     }
   }

@@ -152,6 +152,21 @@ TEST(PhotoDates, AreTheFirstThatThereIs) {
   }
 }
 
+/// A catalogue may lie among the photos. Its originals were taken for photos, and would have gone to the trash
+/// as copies of what was edited.
+TEST_F(Scanner, LeavesAloneWhatUndoKeeps) {
+  WriteJpeg(root_ / "a.jpg", Taken("2021:05:01 10:20:30"));
+  WriteJpeg(root_ / "c.sqlite.undo/1-before.jpg", Taken("2021:05:01 10:20:31"));
+  WriteJpeg(root_ / "trip.undo/b.jpg", Taken("2021:05:01 10:20:32"));
+  tree_.Write("photos/c.sqlite", "catalogue");
+  EXPECT_EQ(Run().added, 3U) << "no lock makes it an undo folder";
+  tree_.Write("photos/c.sqlite.undo/lock", "");
+  const ScanResult result = Run();
+  EXPECT_EQ(result.found, 2U);
+  EXPECT_EQ(result.lost, 1U) << "what a former scan took in";
+  EXPECT_THAT(Names(), ElementsAre("a.jpg", "trip.undo/b.jpg"));
+}
+
 TEST_F(Scanner, ReadsUnchangedFilesOnlyOnce) {
   const ioPath file = WriteJpeg(root_ / "a.jpg", Taken("2021:05:01 10:20:30"));
   SetTime(file, 2015);
