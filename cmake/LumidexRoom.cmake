@@ -7,7 +7,7 @@ include(GenerateExportHeader)
 set(LUMIDEX_FLOORS
   core=0
   lumidex=1
-  app=2 quillet=2 tavolin=2 strandel=2 usage=2 qtutility=2 alerts=2
+  app=2 quillet=2 tavolin=2 strandel_read=2 strandel=2 usage=2 qtutility=2 alerts=2
   LumidexUtil=3
   host_base=10 host_settings=11
   host_catalogue=20 host_pixels=20
@@ -77,7 +77,8 @@ function(lumidex_room name)
     add_library(${target} OBJECT ${R_SOURCES})
     # The export macro of the library that the part becomes part of.
     target_compile_definitions(${target} PRIVATE lumidex_${R_PART_OF}_EXPORTS)
-    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}/../include"
+    # Where a part has a floor, others of its library may use it: they see its folder.
+    target_include_directories(${target} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}" PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/../include"
       "${CMAKE_CURRENT_BINARY_DIR}/../include")
   elseif(R_KIND STREQUAL "PROGRAM")
     add_executable(${target} ${R_SOURCES})

@@ -39,17 +39,21 @@ class PartialCopy {
     std::size_t size;
     void operator()(unsigned char* bytes) const;
   };
+  using Memory = std::unique_ptr<unsigned char, Free>;
   struct Part {
     std::uint64_t begin;
     std::uint64_t end;
   };
 
+  /// Straight from the system: an allocator may give used memory again, and then clears all of it. Throws
+  /// `std::bad_alloc`.
+  static Memory Allocate(std::size_t size);
   std::uint64_t FirstDirectory() const;
   bool Covers(std::uint64_t offset) const;
 
   PhotoSource& source_;
   const std::uint64_t size_;
-  std::unique_ptr<unsigned char, Free> bytes_{nullptr, Free{0}};
+  Memory bytes_{nullptr, Free{0}};
   /// Everything before it has been read.
   std::uint64_t front_ = 0;
   std::vector<Part> parts_;

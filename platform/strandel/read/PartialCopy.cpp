@@ -4,13 +4,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <new>
-
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <sys/mman.h>
-#endif
 
 namespace Zenvora::Strandel {
 
@@ -26,39 +19,7 @@ constexpr std::uint64_t kDirectory = std::uint64_t{8} * 1024;
 constexpr std::uint64_t kMostCounted =
     std::min<std::uint64_t>(std::numeric_limits<long>::max(), std::numeric_limits<std::uint32_t>::max());
 
-// Straight from the system: an allocator may give used memory again, and then clears all of it.
-#ifdef _WIN32
-
-unsigned char* Allocate(std::size_t size) {
-  void* const bytes = VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
-  if (bytes == nullptr) {
-    throw std::bad_alloc();
-  }
-  return static_cast<unsigned char*>(bytes);
-}
-
-#else
-
-unsigned char* Allocate(std::size_t size) {
-  void* const bytes =
-      mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-  if (bytes == MAP_FAILED) {
-    throw std::bad_alloc();
-  }
-  return static_cast<unsigned char*>(bytes);
-}
-
-#endif
-
 }  // namespace
-
-void PartialCopy::Free::operator()(unsigned char* bytes) const {
-#ifdef _WIN32
-  VirtualFree(bytes, 0, MEM_RELEASE);
-#else
-  munmap(bytes, size);
-#endif
-}
 
 PartialCopy::PartialCopy(PhotoSource& source)
     : source_(source), size_(std::min(source.Size(), kMostCounted)) {}
@@ -70,7 +31,7 @@ bool PartialCopy::IsCut() const {
 unsigned char* PartialCopy::Bytes() {
   if (!Begun()) {
     const auto size = static_cast<std::size_t>(size_) + 1;
-    bytes_ = std::unique_ptr<unsigned char, Free>(Allocate(size), Free{size});
+    bytes_ = Allocate(size);
     ReadFront(kFront);
     ReadAround(FirstDirectory());
   }

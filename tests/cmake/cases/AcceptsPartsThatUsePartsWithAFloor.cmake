@@ -1,0 +1,5 @@
+room(strandel_read KIND PART PART_OF strandel)
+file(WRITE "${WORK}/source/strandel_read/Inside.h" "#pragma once\n")
+room(strandel_edit KIND PART PART_OF strandel INCLUDES Inside.h USES strandel_read)
+room(strandel KIND SHARED PARTS strandel_read strandel_edit)
+set(ACCEPTED ON)
