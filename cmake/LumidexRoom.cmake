@@ -38,6 +38,7 @@ endfunction()
 #   KIND SHARED|STATIC|PART|PROGRAM    PART: an object library that is linked into the room named by PART_OF
 #   [PART_OF <room>] [OUTPUT <file name>]
 #   [SOURCES ...]                      paths relative to the room's folder
+#   [SYSTEM ...]                       names of sources that each system has its own of: X_unix.cpp or X_windows.cpp
 #   [USES ...]                         rooms that the room's public headers name
 #   [USES_PRIVATELY ...]               rooms that only its sources name
 #   [LINKS ...] [LINKS_PRIVATELY ...]  libraries from outside, likewise
@@ -45,10 +46,18 @@ endfunction()
 # The target is lumidex_<name>; its public headers live under include/, which is its include root. A SHARED room gets
 # the header <include root name>/Export.h with the macro ZENVORA_<NAME>_EXPORT.
 function(lumidex_room name)
-  cmake_parse_arguments(R "" "KIND;PART_OF;OUTPUT" "SOURCES;USES;USES_PRIVATELY;LINKS;LINKS_PRIVATELY;PARTS" ${ARGN})
+  cmake_parse_arguments(R "" "KIND;PART_OF;OUTPUT" "SOURCES;SYSTEM;USES;USES_PRIVATELY;LINKS;LINKS_PRIVATELY;PARTS" ${ARGN})
   if(R_UNPARSED_ARGUMENTS)
     message(FATAL_ERROR "Room '${name}': unknown arguments ${R_UNPARSED_ARGUMENTS}")
   endif()
+
+  set(system unix)
+  if(WIN32)
+    set(system windows)
+  endif()
+  foreach(body IN LISTS R_SYSTEM)
+    list(APPEND R_SOURCES ${body}_${system}.cpp)
+  endforeach()
 
   set(place "${name}")
   if(R_PART_OF)

@@ -1,3 +1,5 @@
+#include "ReadProbe.h"
+
 #include <LumidexUtil/FileAccessLocker.h>
 
 #include <zenvora/app/Application.h>
@@ -7,21 +9,12 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <cerrno>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <map>
 #include <mutex>
-
-#ifdef _WIN32
-#include <cstdio>
-#include <share.h>
-#else
-#include <fcntl.h>
-#include <unistd.h>
-#endif
 
 namespace Zenvora::Lumidex {
 
@@ -30,24 +23,6 @@ namespace {
 // Half a second: longer than a virus scanner or a viewer holds a photo, shorter than anybody's patience.
 constexpr int PROBE_ATTEMPTS = 50;
 constexpr std::chrono::milliseconds PROBE_PAUSE(10);
-
-bool CanBeRead(const ioPath& path) {
-#ifdef _WIN32
-  // Other names stand for devices, some of which would wait for input.
-  if (!path.name_fault().empty()) {
-    return false;
-  }
-  std::FILE* const file = _wfsopen(path.for_system().c_str(), L"rt", _SH_DENYNO);
-  return file != nullptr && std::fclose(file) == 0;
-#else
-  int file = -1;
-  do {
-    // Not waiting for the writer of a pipe.
-    file = ::open(path.native().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  } while (file < 0 && errno == EINTR);
-  return file >= 0 && ::close(file) == 0;
-#endif
-}
 
 void WaitUntilReadable(const ioPath& path) {
   int failures = 0;

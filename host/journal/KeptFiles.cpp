@@ -78,7 +78,7 @@ std::error_code Finish(NewFile& file, std::int64_t modifiedNs) {
 bool ShareBlocks(const ioPath& from, const ioPath& to) {
   const FileState state = QueryFile(from);
   NewFile twin;
-  if (!NewFile::kMayShareBlocks || twin.Create(to)) {
+  if (twin.Create(to)) {
     return false;
   }
   twin.TakeRightsOf(from);

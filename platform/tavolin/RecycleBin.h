@@ -1,6 +1,5 @@
 #pragma once
 
-#ifdef _WIN32
 #include <zenvora/tavolin/Trash.h>
 
 #include <string>
@@ -16,4 +15,3 @@ ZENVORA_TAVOLIN_EXPORT TrashPlace ChooseInBin(const ioPath& bin, const ioPath& f
 ZENVORA_TAVOLIN_EXPORT ioPath BinOf(const ioPath& file);
 
 }  // namespace Zenvora::Tavolin
-#endif

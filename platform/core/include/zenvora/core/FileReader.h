@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zenvora/core/Export.h>
+#include <zenvora/core/FileHandle.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/ioPath.h>
 
@@ -42,13 +43,8 @@ class ZENVORA_CORE_EXPORT FileReader {
   FileState State() const;
 
  private:
-  struct Buffer;
-  std::unique_ptr<Buffer> buffer_;
-#ifdef _WIN32
-  void* handle_ = nullptr;
-#else
-  int handle_ = -1;
-#endif
+  std::unique_ptr<char, void (*)(char*)> buffer_;
+  FileHandle handle_ = kNoFileHandle;
 };
 
 /// Waits until all that was written to the file is on the disk. Blocks; any thread.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zenvora/core/Export.h>
+#include <zenvora/core/FileHandle.h>
 #include <zenvora/core/ioPath.h>
 
 #include <cstdint>
@@ -32,12 +33,8 @@ struct FileState {
 /// Asks without opening the file's content. Blocks on the disk; safe from any thread; never throws.
 ZENVORA_CORE_EXPORT FileState QueryFile(const ioPath& file) noexcept;
 
-/// The same of a file that this process has open: a descriptor on Linux, a `HANDLE` on Windows.
-#ifdef _WIN32
-ZENVORA_CORE_EXPORT FileState QueryOpenFile(void* handle) noexcept;
-#else
-ZENVORA_CORE_EXPORT FileState QueryOpenFile(int handle) noexcept;
-#endif
+/// The same of a file that this process has open.
+ZENVORA_CORE_EXPORT FileState QueryOpenFile(FileHandle handle) noexcept;
 
 /// True when both names are of one existing file or folder.
 ZENVORA_CORE_EXPORT bool IsSameFile(const ioPath& left, const ioPath& right) noexcept;

@@ -14,13 +14,6 @@ namespace Zenvora {
 /// half written stays behind. An object belongs to one thread; everything blocks on the disk.
 class ZENVORA_CORE_EXPORT NewFile {
  public:
-#ifdef _WIN32
-  static constexpr bool kMayShareBlocks = false;
-#else
-  /// False where no file system can.
-  static constexpr bool kMayShareBlocks = true;
-#endif
-
   NewFile() = default;
   ~NewFile();
   NewFile(const NewFile&) = delete;
@@ -39,7 +32,8 @@ class ZENVORA_CORE_EXPORT NewFile {
   void TakeRightsOf(const ioPath& file);
 
   /// Gives the file, while nothing is written, the content of another by sharing its blocks, which takes
-  /// neither room nor time. False where the file system cannot do it; then nothing has changed.
+  /// neither room nor time. False where the file system cannot do it; then nothing has changed. Never on
+  /// Windows.
   bool ShareBlocksOf(const ioPath& file);
   std::error_code Write(const void* bytes, std::size_t count);
   /// As writing so many zeros, but they take no room where the file system can do without.
@@ -50,9 +44,7 @@ class ZENVORA_CORE_EXPORT NewFile {
   /// `durable`: first waits until the bytes are on the disk. No writing afterwards.
   std::error_code Close(bool durable);
   /// The file stays, or has got another name meanwhile.
-  void Release() {
-    file_.clear();
-  }
+  void Release() { file_.clear(); }
 
  private:
   std::error_code EndSkipped();

@@ -1,11 +1,15 @@
 #pragma once
 
-#ifdef _WIN32
 #include <chrono>
 #include <thread>
-#endif
 
 namespace Zenvora {
+
+#ifdef _WIN32
+constexpr int kPatientAttempts = 50;
+#else
+constexpr int kPatientAttempts = 1;
+#endif
 
 /// Makes an attempt and returns whether it was a success; on Windows it is repeated for up to a second.
 ///
@@ -14,13 +18,10 @@ namespace Zenvora {
 template <class Attempt>
 bool Patiently(const Attempt& attempt) {
   bool done = attempt();
-#ifdef _WIN32
-  constexpr int kAttempts = 50;
-  for (int count = 1; !done && count < kAttempts; ++count) {
+  for (int count = 1; !done && count < kPatientAttempts; ++count) {
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
     done = attempt();
   }
-#endif
   return done;
 }
 

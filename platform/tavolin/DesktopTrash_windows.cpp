@@ -1,7 +1,4 @@
-#ifdef _WIN32
-
 #include "RecycleBin.h"
-
 #include "TrashRules.h"
 
 #include <zenvora/app/Application.h>
@@ -226,5 +223,3 @@ bool LiesInTrash(const ioPath& file) {
 }
 
 }  // namespace Zenvora::Tavolin
-
-#endif

@@ -1,4 +1,3 @@
-#ifdef _WIN32
 #include <zenvora/tavolin/RemovableStorage.h>
 
 #include <map>
@@ -103,4 +102,3 @@ std::shared_ptr<App::IRemovableStorage> MakeSystemRemovableStorage() {
 }
 
 }  // namespace Zenvora::Tavolin
-#endif

@@ -1,5 +1,3 @@
-#ifndef _WIN32
-
 #include "TrashRules.h"
 
 #include <zenvora/app/Application.h>
@@ -333,5 +331,3 @@ bool LiesInTrash(const ioPath& file) {
 }
 
 }  // namespace Zenvora::Tavolin
-
-#endif

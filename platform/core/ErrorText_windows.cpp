@@ -1,16 +1,10 @@
 #include <zenvora/core/ErrorText.h>
 
-#ifdef _WIN32
 #include <QString>
 
 #include <windows.h>
-#else
-#include <cerrno>
-#endif
 
 namespace Zenvora {
-
-#ifdef _WIN32
 
 std::string SystemErrorText(int error) {
   wchar_t* text = nullptr;
@@ -32,21 +26,5 @@ std::error_code LastSystemError() {
 std::string ErrorText(const std::error_code& error) {
   return error.category() == std::system_category() ? SystemErrorText(error.value()) : error.message();
 }
-
-#else
-
-std::string SystemErrorText(int error) {
-  return std::system_category().message(error);
-}
-
-std::error_code LastSystemError() {
-  return {errno, std::system_category()};
-}
-
-std::string ErrorText(const std::error_code& error) {
-  return error.message();
-}
-
-#endif
 
 }  // namespace Zenvora
