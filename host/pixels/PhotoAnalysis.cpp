@@ -1,13 +1,11 @@
 #include "PixelSources.h"
 
-#include <host/base/OrderedWork.h>
+#include <host/base/TaskThreads.h>
 #include <host/pixels/PhotoAnalysis.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <new>
-#include <optional>
 #include <utility>
 
 namespace Zenvora::Lumidex::Host {
@@ -68,18 +66,10 @@ std::size_t DescribePhotos(const std::vector<ioPath>& files, const PhotoAnalyser
                            const AnalysisOptions& options, const DescriptionHandler& take) {
   // A large picture among small ones shall not hold the other threads up.
   constexpr std::size_t kAheadPerThread = 64;
-  OrderedWork<PhotoDescription> descriptions(
-      files.size(), static_cast<unsigned>(std::max(options.threads, 0)), kAheadPerThread,
-      [&](std::size_t item) { return DescribePhoto(files[item], analyser, options); });
-  const auto isCancelled = [&options] { return options.cancel != nullptr && *options.cancel; };
-  for (std::size_t i = 0; i < files.size(); ++i) {
-    std::optional<PhotoDescription> description = descriptions.TakeNextUnless(isCancelled);
-    if (!description) {
-      return i;
-    }
-    take(i, std::move(*description));
-  }
-  return files.size();
+  return WorkInOrder(
+      files.size(), options.threads, kAheadPerThread,
+      [&](std::size_t item) { return DescribePhoto(files[item], analyser, options); },
+      [&options] { return options.cancel != nullptr && *options.cancel; }, take);
 }
 
 }  // namespace Zenvora::Lumidex::Host

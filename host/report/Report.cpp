@@ -1,6 +1,7 @@
-#include "OrderedThumbnails.h"
 #include "ReportPage.h"
+#include "ReportThumbnail.h"
 
+#include <host/base/TaskThreads.h>
 #include <host/base/WholeFile.h>
 #include <host/report/Report.h>
 
@@ -16,14 +17,19 @@ std::size_t ShownOf(const ReportAlbum& album, const ReportOptions& options) {
              : album.photos.size();
 }
 
-std::vector<const ioPath*> FilesToShow(const std::vector<ReportAlbum>& albums, const ReportOptions& options) {
-  std::vector<const ioPath*> files;
-  for (const ReportAlbum& album : albums) {
-    for (std::size_t i = 0; i < ShownOf(album, options); ++i) {
-      files.push_back(&album.photos[i].path);
+struct Shown {
+  std::size_t album = 0;
+  std::size_t photo = 0;  ///< Of the album.
+};
+
+std::vector<Shown> PhotosToShow(const std::vector<ReportAlbum>& albums, const ReportOptions& options) {
+  std::vector<Shown> photos;
+  for (std::size_t album = 0; album < albums.size(); ++album) {
+    for (std::size_t i = 0; i < ShownOf(albums[album], options); ++i) {
+      photos.push_back({album, i});
     }
   }
-  return files;
+  return photos;
 }
 
 }  // namespace
@@ -36,29 +42,40 @@ int WriteReport(const ioPath& file, const std::vector<ReportAlbum>& albums, cons
   WholeFile output(file);
   const ReportPage page(albums, options);
   output.Write(page.Begin());
-  const std::vector<const ioPath*> files = FilesToShow(albums, options);
-  OrderedThumbnails thumbnails(files, options.thumbnailSize);
-  const auto isCancelled = [&options] { return options.cancel != nullptr && options.cancel->load(); };
-  int done = 0;
-  int missing = 0;
-  for (std::size_t a = 0; a < albums.size(); ++a) {
-    const ReportAlbum& album = albums[a];
-    output.Write(page.BeginAlbum(album, static_cast<int>(a) + 1));
-    const std::size_t shown = ShownOf(album, options);
-    for (std::size_t i = 0; i < shown; ++i) {
-      const auto thumbnail = thumbnails.TakeNextUnless(isCancelled);
-      if (!thumbnail) {
-        ThrowHostError(file.utf8string(), "cancelled");
+  // Albums that are begun; all but the last one of them are ended.
+  std::size_t begun = 0;
+  const auto beginAlbums = [&](std::size_t last) {
+    for (; begun <= last; ++begun) {
+      if (begun > 0) {
+        const ReportAlbum& ended = albums[begun - 1];
+        output.Write(page.EndAlbum(static_cast<int>(ended.photos.size() - ShownOf(ended, options))));
       }
-      missing += thumbnail->jpeg.isEmpty() ? 1 : 0;
-      output.Write(page.Photo(album, i, *thumbnail));
-      ++done;
-      if (progress) {
-        progress(done, static_cast<int>(files.size()));
+      if (begun < albums.size()) {
+        output.Write(page.BeginAlbum(albums[begun], static_cast<int>(begun) + 1));
       }
     }
-    output.Write(page.EndAlbum(static_cast<int>(album.photos.size() - shown)));
-  }
+  };
+  constexpr std::size_t kAheadPerThread = 8;
+  const std::vector<Shown> photos = PhotosToShow(albums, options);
+  const auto isCancelled = [&options] { return options.cancel != nullptr && options.cancel->load(); };
+  int missing = 0;
+  WorkInOrder(
+      photos.size(), 0, kAheadPerThread,
+      [&](std::size_t item) {
+        const auto& [album, photo] = photos[item];
+        return MakeReportThumbnail(albums[album].photos[photo].path, options.thumbnailSize);
+      },
+      isCancelled,
+      [&](std::size_t item, const ReportThumbnail& thumbnail) {
+        const auto& [album, photo] = photos[item];
+        beginAlbums(album);
+        missing += thumbnail.jpeg.isEmpty() ? 1 : 0;
+        output.Write(page.Photo(albums[album], photo, thumbnail));
+        if (progress) {
+          progress(static_cast<int>(item) + 1, static_cast<int>(photos.size()));
+        }
+      });
+  beginAlbums(albums.size());
   output.Write(page.End());
   if (isCancelled()) {
     ThrowHostError(file.utf8string(), "cancelled");

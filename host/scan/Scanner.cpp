@@ -1,14 +1,15 @@
 #include "FolderWalker.h"
-#include "MetadataReaders.h"
 #include "MovedCompanions.h"
 #include "MovedPhotos.h"
 
+#include <host/base/TaskThreads.h>
 #include <host/catalogue/JournalLock.h>
 #include <host/catalogue/UndoFolder.h>
 #include <host/scan/Scanner.h>
 #include <host/shots/ContentTrace.h>
 #include <host/shots/PhotoDate.h>
 #include <host/shots/PhotoInfo.h>
+#include <host/shots/PhotoReading.h>
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
@@ -17,9 +18,9 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <exception>
 #include <filesystem>
 #include <string_view>
-#include <thread>
 #include <tuple>
 #include <unordered_map>
 #include <utility>
@@ -33,13 +34,31 @@ using SteadyClock = std::chrono::steady_clock;
 constexpr std::size_t kBatchSize = 500;
 constexpr auto kBatchAge = std::chrono::seconds(2);
 constexpr auto kProgressInterval = std::chrono::milliseconds(100);
-constexpr int kMaxAutomaticThreads = 8;
-constexpr int kMaxThreads = 64;
+/// That many results at most wait for the catalogue: it bounds the memory.
+constexpr std::size_t kMostUnderWay = 1024;
 
-int ThreadCount(const ScanOptions& options) {
-  const int cores = static_cast<int>(std::thread::hardware_concurrency());
-  const int wanted = options.threads > 0 ? options.threads : std::min(cores, kMaxAutomaticThreads);
-  return std::clamp(wanted, 1, kMaxThreads);
+struct PhotoToRead {
+  ioPath path;
+  bool known = false;  ///< The catalogue has the photo already.
+};
+
+struct PhotoRead {
+  bool ok = false;
+  bool known = false;
+  PhotoRecord record;   ///< When ok.
+  ScanFinding finding;  ///< When not.
+};
+
+PhotoRead ReadOne(const PhotoToRead& photo) {
+  PhotoRead result;
+  result.known = photo.known;
+  try {
+    result.ok = ReadPhoto(photo.path, result.record, result.finding);
+  } catch (const std::exception& error) {
+    // Memory has run out: this file is passed over, and the scan goes on.
+    result.finding = {ScanFinding::Kind::Unreadable, photo.path, error.what()};
+  }
+  return result;
 }
 
 /// Canonical, so that a photo has one path however its folder is named.
@@ -74,7 +93,7 @@ class ScanRun {
         moves_(catalogue.Database()),
         volumes_(moves_),
         movedPhotos_(moves_, volumes_),
-        readers_(ThreadCount(options)) {}
+        readers_(options.threads, &ReadOne) {}
 
   ScanResult Run();
 
@@ -87,7 +106,7 @@ class ScanRun {
   void Take(const FolderWalker::Found& found);
   void CollectAll();
   void Collect(bool wait);
-  void TakeResult(MetadataReaders::Result& result);
+  void TakeResult(PhotoRead& result);
   void CommitWhenDue();
   void Commit();
   void Follow();
@@ -112,7 +131,7 @@ class ScanRun {
   ScanProgress progress_;
   ScanResult result_;
   // Last: its threads end before anything else does.
-  MetadataReaders readers_;
+  TaskThreads<PhotoToRead, PhotoRead> readers_;
 };
 
 ScanResult ScanRun::Run() {
@@ -142,7 +161,7 @@ void ScanRun::WalkAll() {
   while (!IsCancelled() && walker_.Next(found)) {
     Take(found);
     Collect(false);
-    while (readers_.IsFull() && !IsCancelled()) {
+    while (readers_.UnderWay() >= kMostUnderWay && !IsCancelled()) {
       Collect(true);
     }
   }
@@ -169,20 +188,20 @@ void ScanRun::Take(const FolderWalker::Found& found) {
 }
 
 void ScanRun::CollectAll() {
-  while (!readers_.IsIdle() && !IsCancelled()) {
+  while (readers_.UnderWay() > 0 && !IsCancelled()) {
     Collect(true);
   }
 }
 
 void ScanRun::Collect(bool wait) {
-  for (MetadataReaders::Result& result : readers_.Collect(wait)) {
+  for (PhotoRead& result : readers_.Collect(wait)) {
     TakeResult(result);
   }
   CommitWhenDue();
   ReportProgress(false);
 }
 
-void ScanRun::TakeResult(MetadataReaders::Result& result) {
+void ScanRun::TakeResult(PhotoRead& result) {
   ++progress_.done;
   if (!result.ok) {
     result_.findings.push_back(std::move(result.finding));

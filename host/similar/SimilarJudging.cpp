@@ -1,6 +1,6 @@
 #include "SimilarDetail.h"
 
-#include <host/base/OrderedWork.h>
+#include <host/base/TaskThreads.h>
 #include <host/similar/SimilarJudging.h>
 
 #include <zenvora/core/FileState.h>
@@ -23,17 +23,9 @@ bool IsAsKnown(const PhotoRecord& photo) {
          state.modifiedNs == photo.modifiedNs;
 }
 
-/// The work of the threads, with what they share.
-class Threads {
- public:
-  explicit Threads(const AnalysisOptions& options) : options_(options) {}
-
-  unsigned Count() const { return static_cast<unsigned>(std::max(options_.threads, 0)); }
-  bool IsCancelled() const { return options_.cancel != nullptr && *options_.cancel; }
-
- private:
-  const AnalysisOptions& options_;
-};
+bool IsCancelled(const AnalysisOptions& options) {
+  return options.cancel != nullptr && *options.cancel;
+}
 
 // --- Origins
 
@@ -53,7 +45,7 @@ std::optional<PhotoOrigin> ReadKnownOrigin(const PhotoRecord& photo) {
 }
 
 /// Returns whether all were read.
-bool ReadOrigins(const std::vector<SimilarGroup>& groups, VerdictStore& store, const Threads& threads,
+bool ReadOrigins(const std::vector<SimilarGroup>& groups, VerdictStore& store, const AnalysisOptions& options,
                  const SimilarProgressHandler& progress) {
   std::vector<const PhotoRecord*> photos;
   for (const SimilarGroup& group : groups) {
@@ -65,27 +57,21 @@ bool ReadOrigins(const std::vector<SimilarGroup>& groups, VerdictStore& store, c
   }
   constexpr std::size_t kAheadPerThread = 64;
   std::vector<std::pair<PhotoRecord, PhotoOrigin>> read;
-  OrderedWork<std::optional<PhotoOrigin>> work(
-      photos.size(), threads.Count(), kAheadPerThread,
-      [&photos](std::size_t item) { return ReadKnownOrigin(*photos[item]); });
-  std::size_t done = 0;
-  while (done < photos.size()) {
-    std::optional<std::optional<PhotoOrigin>> origin =
-        work.TakeNextUnless([&threads] { return threads.IsCancelled(); });
-    if (!origin) {
-      break;
-    }
-    if (*origin) {
-      read.emplace_back(*photos[done], **origin);
-    }
-    ++done;
-    if (read.size() >= kBatch) {
-      store.StoreOrigins(std::exchange(read, {}));
-    }
-    if (progress) {
-      progress({SimilarProgress::Step::Reading, done, photos.size()});
-    }
-  }
+  const std::size_t done = WorkInOrder(
+      photos.size(), options.threads, kAheadPerThread,
+      [&photos](std::size_t item) { return ReadKnownOrigin(*photos[item]); },
+      [&options] { return IsCancelled(options); },
+      [&](std::size_t item, const std::optional<PhotoOrigin>& origin) {
+        if (origin) {
+          read.emplace_back(*photos[item], *origin);
+        }
+        if (read.size() >= kBatch) {
+          store.StoreOrigins(std::exchange(read, {}));
+        }
+        if (progress) {
+          progress({SimilarProgress::Step::Reading, item + 1, photos.size()});
+        }
+      });
   if (!read.empty()) {
     store.StoreOrigins(read);
   }
@@ -133,14 +119,14 @@ struct JudgedBunch {
   bool keptIsEnlarged = false;
 };
 
-JudgedBunch JudgeBunch(const Bunch& bunch, const Threads& threads) {
+JudgedBunch JudgeBunch(const Bunch& bunch, const AnalysisOptions& options) {
   JudgedBunch judged;
   try {
     const PhotoRecord& keptPhoto = bunch.kept->photo;
     JudgedAgainst kept(keptPhoto.path);
     for (const SimilarMember* const member : bunch.photos) {
       const PhotoRecord& photo = member->photo;
-      if (threads.IsCancelled() || !IsAsKnown(keptPhoto) || !IsAsKnown(photo)) {
+      if (IsCancelled(options) || !IsAsKnown(keptPhoto) || !IsAsKnown(photo)) {
         judged.verdicts.emplace_back();
         continue;
       }
@@ -171,26 +157,20 @@ struct JudgingRound {
   bool hasEnlarged = false;
 };
 
-JudgingRound Judge(const std::vector<SuggestedGroup>& groups, VerdictStore& store, const Threads& threads,
-                   const SimilarProgressHandler& progress) {
+JudgingRound Judge(const std::vector<SuggestedGroup>& groups, VerdictStore& store,
+                   const AnalysisOptions& options, const SimilarProgressHandler& progress) {
   const std::vector<Bunch> bunches = ToJudge(groups, store);
   std::size_t total = 0;
   for (const Bunch& bunch : bunches) {
     total += bunch.photos.size();
   }
   constexpr std::size_t kAheadPerThread = 4;
-  OrderedWork<JudgedBunch> work(bunches.size(), threads.Count(), kAheadPerThread,
-                                [&](std::size_t item) { return JudgeBunch(bunches[item], threads); });
   JudgingRound round;
   std::vector<JudgedPhoto> judged;
   std::size_t done = 0;
-  for (const Bunch& bunch : bunches) {
-    std::optional<JudgedBunch> found = work.TakeNextUnless([&threads] { return threads.IsCancelled(); });
-    if (!found) {
-      round.result.cancelled = true;
-      break;
-    }
-    if (found->keptIsEnlarged) {
+  const auto take = [&](std::size_t item, JudgedBunch&& found) {
+    const Bunch& bunch = bunches[item];
+    if (found.keptIsEnlarged) {
       // Before the verdicts: once those are stored nobody looks again.
       PhotoOrigin origin = bunch.kept->origin.value_or(PhotoOrigin());
       origin.enlarged = true;
@@ -198,7 +178,7 @@ JudgingRound Judge(const std::vector<SuggestedGroup>& groups, VerdictStore& stor
       round.hasEnlarged = true;
     }
     for (std::size_t i = 0; i < bunch.photos.size(); ++i) {
-      if (std::optional<PictureVerdict>& verdict = found->verdicts[i]) {
+      if (std::optional<PictureVerdict>& verdict = found.verdicts[i]) {
         judged.push_back({bunch.photos[i]->photo, bunch.kept->photo, std::move(*verdict)});
         ++round.result.judged;
       }
@@ -210,7 +190,11 @@ JudgingRound Judge(const std::vector<SuggestedGroup>& groups, VerdictStore& stor
     if (progress) {
       progress({SimilarProgress::Step::Comparing, done, total});
     }
-  }
+  };
+  round.result.cancelled = WorkInOrder(
+                               bunches.size(), options.threads, kAheadPerThread,
+                               [&](std::size_t item) { return JudgeBunch(bunches[item], options); },
+                               [&options] { return IsCancelled(options); }, take) < bunches.size();
   if (!judged.empty()) {
     store.StoreVerdicts(judged);
   }
@@ -221,17 +205,16 @@ JudgingRound Judge(const std::vector<SuggestedGroup>& groups, VerdictStore& stor
 
 JudgingResult JudgeSimilar(SimilarPhotos& similar, VerdictStore& store, const AnalysisOptions& options,
                            const SimilarProgressHandler& progress) {
-  const Threads threads(options);
   JudgingResult result;
-  result.cancelled = !ReadOrigins(similar.Groups(2), store, threads, progress);
+  result.cancelled = !ReadOrigins(similar.Groups(2), store, options, progress);
   for (bool isOver = result.cancelled; !isOver;) {
     result.cancelled = !MeasureDetail(similar, store, options, progress);
     if (result.cancelled) {
       break;
     }
-    const JudgingRound round = Judge(SuggestGroups(similar, store, 2), store, threads, progress);
+    const JudgingRound round = Judge(SuggestGroups(similar, store, 2), store, options, progress);
     result.judged += round.result.judged;
-    result.cancelled = round.result.cancelled || threads.IsCancelled();
+    result.cancelled = round.result.cancelled || IsCancelled(options);
     isOver = result.cancelled || !round.hasEnlarged;
   }
   return result;

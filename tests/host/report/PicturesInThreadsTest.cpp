@@ -1,7 +1,5 @@
 // What the sample maker and the report do in several threads; runs under the thread sanitizer too.
 
-#include "OrderedThumbnails.h"
-
 #include <host/report/Report.h>
 #include <samples/Sample.h>
 #include <support/PhotoMaker.h>
@@ -9,17 +7,15 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
+#include <atomic>
+#include <string>
 #include <thread>
 
 namespace Zenvora::Lumidex::Host {
 namespace {
 
-using Test::PhotoTags;
 using Test::TempTree;
 using Test::WriteJpeg;
-
-constexpr std::chrono::minutes kHanging{2};
 
 TEST(PicturesInThreads, AreDrawnWhileAnotherThreadCancels) {
   const TempTree tree;
@@ -37,38 +33,6 @@ TEST(PicturesInThreads, AreDrawnWhileAnotherThreadCancels) {
   impatient.join();
   EXPECT_GE(result.photos, 3);
   EXPECT_EQ(result.cancelled, result.photos < 50);
-}
-
-TEST(PicturesInThreads, ArriveInOrder) {
-  const TempTree tree;
-  std::vector<ioPath> paths;
-  for (int i = 0; i < 100; ++i) {
-    PhotoTags tags;
-    tags.width = 20 + i;
-    paths.push_back(WriteJpeg(tree.Path(std::to_string(i) + ".jpg"), tags));
-  }
-  std::vector<const ioPath*> files;
-  for (const ioPath& path : paths) {
-    files.push_back(&path);
-  }
-  OrderedThumbnails thumbnails(files, 500, 4);
-  for (int i = 0; i < 100; ++i) {
-    const auto thumbnail = thumbnails.TakeNext(kHanging);
-    ASSERT_TRUE(thumbnail.has_value());
-    EXPECT_EQ(thumbnail->size.width(), 20 + i);
-  }
-}
-
-TEST(PicturesInThreads, AreGivenUpHalfway) {
-  const TempTree tree;
-  const ioPath photo = WriteJpeg(tree.Path("p.jpg"));
-  const std::vector<const ioPath*> files(500, &photo);
-  for (const int taken : {0, 1, 40}) {
-    OrderedThumbnails thumbnails(files, 100, 3);
-    for (int i = 0; i < taken; ++i) {
-      EXPECT_TRUE(thumbnails.TakeNext(kHanging).has_value());
-    }
-  }
 }
 
 TEST(PicturesInThreads, MakeOneReport) {

@@ -1,4 +1,4 @@
-#include "OrderedThumbnails.h"
+#include "ReportThumbnail.h"
 
 #include <host/pixels/PhotoFiles.h>
 
@@ -12,7 +12,6 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-constexpr std::size_t kAheadPerThread = 8;
 constexpr int kJpegQuality = 80;
 
 /// Nothing but the pixels: neither transparency, which JPEG would make black, nor texts and profiles of the
@@ -25,7 +24,9 @@ QImage Flattened(const QImage& image) {
   return plain;
 }
 
-ReportThumbnail LoadOne(const ioPath& file, int longerSide) {
+}  // namespace
+
+ReportThumbnail MakeReportThumbnail(const ioPath& file, int longerSide) {
   try {
     const QImage image = LoadThumbnail(file, longerSide);
     if (image.isNull()) {
@@ -42,12 +43,5 @@ ReportThumbnail LoadOne(const ioPath& file, int longerSide) {
     return {};
   }
 }
-
-}  // namespace
-
-OrderedThumbnails::OrderedThumbnails(const std::vector<const ioPath*>& files, int longerSide,
-                                     unsigned threads)
-    : OrderedWork(files.size(), threads, kAheadPerThread,
-                  [&files, longerSide](std::size_t item) { return LoadOne(*files[item], longerSide); }) {}
 
 }  // namespace Zenvora::Lumidex::Host
