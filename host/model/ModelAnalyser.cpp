@@ -3,13 +3,13 @@
 #include "ModelNet.h"
 #include "ModelPixels.h"
 
+#include <host/base/ContentHash.h>
 #include <host/base/HostError.h>
-#include <host/model/ModelAnalyser.h>
+#include <host/model/OnnxModel.h>
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 
-#include <QCryptographicHash>
 #include <QImage>
 
 #include <algorithm>
@@ -60,9 +60,9 @@ std::string ReadModel(const ioPath& file) {
 }
 
 std::string DigestOf(const std::string& bytes) {
-  QCryptographicHash hash(QCryptographicHash::Sha256);
-  hash.addData(bytes.data(), static_cast<int>(bytes.size()));
-  return hash.result().toHex().toStdString();
+  ContentHash hash;
+  hash.Add(bytes);
+  return hash.Finish().toHex().toStdString();
 }
 
 /// Light from corner to corner: plain pictures lead some models into a division by zero.
@@ -79,13 +79,11 @@ QImage TrialPicture(const ModelHead& head) {
   return picture;
 }
 
-}  // namespace
-
-class ModelAnalyser::Impl {
+class ModelAnalyser : public PhotoAnalyser {
  public:
-  explicit Impl(const ioPath& file)
+  explicit ModelAnalyser(const ioPath& file)
       : bytes_(ReadModel(file)), head_(ReadModelHead(bytes_)), name_("onnx:" + DigestOf(bytes_)) {
-    auto net = MakeModelNet(bytes_, head_);
+    std::unique_ptr<ModelNet> net = MakeModelNet(bytes_, head_);
     length_ = net->Run(ModelPixels(TrialPicture(head_), head_)).size();
     if (length_ == 0 || length_ > kMostNumbers) {
       throw ModelFault("its output has " + std::to_string(length_) + " numbers, and needed are 1 to " +
@@ -94,19 +92,25 @@ class ModelAnalyser::Impl {
     idle_.push_back(std::move(net));
   }
 
-  const std::string& Name() const { return name_; }
-  std::size_t Length() const { return length_; }
-  const ModelHead& Head() const { return head_; }
+  std::string Name() const override { return name_; }
+  int Version() const override { return kModelPixelsVersion; }
+  int Size() const override { return static_cast<int>(length_); }
+  /// Enough for pictures twice as wide as the model's; the middle of wider ones is made larger.
+  int LongerSide() const override { return 2 * std::max(head_.width, head_.height); }
 
-  std::vector<float> Describe(const QImage& picture) {
-    std::unique_ptr<ModelNet> net = Take();
+  std::vector<float> Describe(const QImage& picture) const override {
+    if (picture.isNull()) {
+      return {};
+    }
+    // After a failure it is not put back: it must not be used again.
+    std::unique_ptr<ModelNet> net = TakeNet();
     std::vector<float> output = net->Run(ModelPixels(picture, head_));
-    GiveBack(std::move(net));
+    PutBack(std::move(net));
     return ModelVector(std::move(output), length_);
   }
 
  private:
-  std::unique_ptr<ModelNet> Take() {
+  std::unique_ptr<ModelNet> TakeNet() const {
     {
       const std::lock_guard<std::mutex> lock(mutex_);
       if (!idle_.empty()) {
@@ -117,8 +121,7 @@ class ModelAnalyser::Impl {
     }
     return MakeModelNet(bytes_, head_);
   }
-
-  void GiveBack(std::unique_ptr<ModelNet> net) {
+  void PutBack(std::unique_ptr<ModelNet> net) const {
     const std::lock_guard<std::mutex> lock(mutex_);
     idle_.push_back(std::move(net));
   }
@@ -127,54 +130,22 @@ class ModelAnalyser::Impl {
   const ModelHead head_;
   const std::string name_;
   std::size_t length_ = 0;
-  std::mutex mutex_;
-  std::vector<std::unique_ptr<ModelNet>> idle_;
+  mutable std::mutex mutex_;
+  mutable std::vector<std::unique_ptr<ModelNet>> idle_;
 };
-
-namespace {
-
-[[noreturn]] void ThrowUnusable(const ioPath& model, const std::string& cause) {
-  ThrowHostError(model.utf8string(), "Cannot use the model " + model.utf8string() + ": " + cause);
-}
-
-/// Runs `make` and names the file in what it throws.
-template <class Make>
-auto Named(const ioPath& model, const Make& make) {
-  try {
-    return make();
-  } catch (const ModelFault& fault) {
-    ThrowUnusable(model, fault.what());
-  } catch (const std::bad_alloc&) {
-    ThrowUnusable(model, "there is not enough memory");
-  }
-}
 
 }  // namespace
 
-ModelAnalyser::ModelAnalyser(const ioPath& model)
-    : impl_(Named(model, [&model] { return std::make_unique<Impl>(model); })) {}
-
-ModelAnalyser::~ModelAnalyser() = default;
-
-std::string ModelAnalyser::Name() const {
-  return impl_->Name();
-}
-
-int ModelAnalyser::Version() const {
-  return kModelPixelsVersion;
-}
-
-int ModelAnalyser::Size() const {
-  return static_cast<int>(impl_->Length());
-}
-
-int ModelAnalyser::LongerSide() const {
-  // Enough for pictures twice as wide as the model's; the middle of wider ones is made larger.
-  return 2 * std::max(impl_->Head().width, impl_->Head().height);
-}
-
-std::vector<float> ModelAnalyser::Describe(const QImage& picture) const {
-  return picture.isNull() ? std::vector<float>() : impl_->Describe(picture);
+std::unique_ptr<PhotoAnalyser> OpenOnnxModel(const ioPath& file) {
+  std::string cause;
+  try {
+    return std::make_unique<ModelAnalyser>(file);
+  } catch (const ModelFault& fault) {
+    cause = fault.what();
+  } catch (const std::bad_alloc&) {
+    cause = "there is not enough memory";
+  }
+  ThrowHostError(file.utf8string(), "Cannot use the model " + file.utf8string() + ": " + cause);
 }
 
 }  // namespace Zenvora::Lumidex::Host

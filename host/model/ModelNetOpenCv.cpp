@@ -1,7 +1,7 @@
 #include "ModelFault.h"
 #include "ModelNet.h"
 
-#include <host/model/ModelAnalyser.h>
+#include <host/model/OnnxModel.h>
 
 #include <algorithm>
 #include <exception>
@@ -105,7 +105,7 @@ class OpenCvNet : public ModelNet {
 
 }  // namespace
 
-std::string ModelRuntime() {
+std::string OnnxRuntime() {
   return "OpenCV " + cv::getVersionString();
 }
 

@@ -22,6 +22,13 @@ std::vector<float> VectorOf(const QByteArray& bytes) {
   return vector;
 }
 
+QSqlQuery RunFor(const CatalogueDatabase& database, const std::string& sql, qlonglong analyser) {
+  QSqlQuery query = database.Prepare(sql.c_str());
+  query.addBindValue(analyser);
+  database.Run(query);
+  return query;
+}
+
 // --- Transactions
 
 class CatalogueTransactions::Transaction : public ITransaction {
@@ -85,18 +92,16 @@ SimilarStore::SimilarStore(const CatalogueDatabase& database, const CatalogueTra
 
 std::vector<Cluster> SimilarStore::GetClusters() {
   QSqlQuery query =
-      database_.Prepare("SELECT id, count, centre FROM clusters WHERE analyser = ? ORDER BY id");
-  query.addBindValue(analyser_);
-  database_.Run(query);
+      RunFor(database_, "SELECT id, count, centre FROM clusters WHERE analyser = ? ORDER BY id", analyser_);
   std::vector<Cluster> clusters;
   while (database_.Next(query)) {
     Cluster& cluster = clusters.emplace_back(VectorOf(query.value(2).toByteArray()), query.value(1).toInt());
     cluster.id = query.value(0).toLongLong();
   }
-  QSqlQuery last = database_.Prepare(
-      "SELECT max(m.arrival) FROM cluster_photos m JOIN clusters c ON c.id = m.cluster WHERE c.analyser = ?");
-  last.addBindValue(analyser_);
-  database_.Run(last);
+  QSqlQuery last = RunFor(
+      database_,
+      "SELECT max(m.arrival) FROM cluster_photos m JOIN clusters c ON c.id = m.cluster WHERE c.analyser = ?",
+      analyser_);
   database_.Next(last);
   nextArrival_ = last.value(0).toLongLong() + 1;
   return clusters;

@@ -22,6 +22,12 @@ namespace Zenvora::Lumidex::Host {
 QByteArray VectorBytes(const std::vector<float>& vector);
 std::vector<float> VectorOf(const QByteArray& bytes);
 
+/// For photos as `p`: by date taken, then path.
+constexpr char kByDate[] = " ORDER BY p.taken IS NULL, p.taken, p.path";
+
+/// Runs `sql`, whose one place is for the analyser's number in the catalogue.
+QSqlQuery RunFor(const CatalogueDatabase& database, const std::string& sql, qlonglong analyser);
+
 /// Somebody else has written to the catalogue.
 class WrittenByOthers : public HostError {};
 

@@ -1,6 +1,6 @@
 #include "CliFixture.h"
 
-#include <host/model/ModelAnalyser.h>
+#include <host/similar/Models.h>
 #include <support/TinyModel.h>
 
 #include <zenvora/core/FileState.h>

@@ -6,7 +6,7 @@
 #include <cli/session/ReportTarget.h>
 #include <cli/terminal/Failure.h>
 #include <cli/terminal/Question.h>
-#include <host/model/ModelAnalyser.h>
+#include <host/similar/Models.h>
 
 #include <memory>
 
@@ -69,7 +69,7 @@ std::unique_ptr<Host::PhotoAnalyser> AnalyserOf(const SimilarArguments& argument
   if (Host::ModelRuntime().empty()) {
     throw UsageError("--model: this lumidex was built without support for models (LUMIDEX_ONNX)");
   }
-  return std::make_unique<Host::ModelAnalyser>(AbsolutePath(arguments.model));
+  return Host::OpenModel(AbsolutePath(arguments.model));
 }
 
 /// Before all the work, whether there will be anything to ask or not: a script fails the first time.

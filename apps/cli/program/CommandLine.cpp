@@ -4,7 +4,7 @@
 #include <cli/session/Options.h>
 #include <cli/terminal/HelpFormatter.h>
 #include <cli/terminal/JsonWriter.h>
-#include <host/model/ModelAnalyser.h>
+#include <host/similar/Models.h>
 
 #include <algorithm>
 #include <numeric>

@@ -75,6 +75,8 @@ struct SimilarityFacts {
   float secondToSecond = 0;
 };
 
+class SimilarClusters;
+
 /// Feature vectors and clusters of similar photos in a catalogue.
 ///
 /// Photos are matched in the order of their dates and paths among those that come together, and after all
@@ -127,8 +129,13 @@ class SimilarPhotos {
   std::vector<std::string> Check() const;
 
  private:
-  class Impl;
-  std::unique_ptr<Impl> impl_;
+  bool ChangesACluster(const AnalysedPhoto& photo) const;
+
+  const std::unique_ptr<CatalogueDatabase> opened_;
+  const CatalogueDatabase& database_;
+  const std::size_t length_;
+  const qlonglong analyser_;
+  const std::unique_ptr<SimilarClusters> clusters_;
 };
 
 }  // namespace Zenvora::Lumidex::Host

@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -22,25 +21,9 @@ std::string ModelRuntime();
 /// its numbers are not finite, are all zero or are not as many as otherwise. The same picture gives the same
 /// bits on one machine; on another kind of processor the last ones may differ.
 ///
-/// Each thread that describes a picture has a copy of the model in memory.
-class ModelAnalyser : public PhotoAnalyser {
- public:
-  /// Reads the file and tries the model out, which blocks on the disk. Throws `HostError` naming the file and
-  /// the cause; in every case when `ModelRuntime` is empty.
-  explicit ModelAnalyser(const ioPath& model);
-  ~ModelAnalyser() override;
-  ModelAnalyser(const ModelAnalyser&) = delete;
-  ModelAnalyser& operator=(const ModelAnalyser&) = delete;
-
-  std::string Name() const override;
-  int Version() const override;
-  int Size() const override;
-  int LongerSide() const override;
-  std::vector<float> Describe(const QImage& picture) const override;
-
- private:
-  class Impl;
-  const std::unique_ptr<Impl> impl_;
-};
+/// Reads the file and tries the model out, which blocks on the disk. Each thread that describes a picture has
+/// a copy of the model in memory. Throws `HostError` naming the file and the cause; in every case when
+/// `ModelRuntime` is empty.
+std::unique_ptr<PhotoAnalyser> OpenModel(const ioPath& file);
 
 }  // namespace Zenvora::Lumidex::Host
