@@ -50,11 +50,11 @@ InterfaceTexts::~InterfaceTexts() {
 }
 
 void InterfaceTexts::Speak(const std::string& locale) {
-  locale_ = App::NearestInterfaceLanguage(locale);
-  const QString file = QStringLiteral(":/translations/lumidex_") + QString::fromStdString(locale_);
+  const std::string nearest = App::NearestInterfaceLanguage(locale);
+  const QString file = QStringLiteral(":/translations/lumidex_") + QString::fromStdString(nearest);
   // Loading tells of the change by itself; it needs to be installed only once, and then keeps its place.
   if (!catalogue_.load(file)) {
-    LOG(ERROR) << "the catalogue of texts is missing: " << locale_;
+    LOG(ERROR) << "the catalogue of texts is missing: " << nearest;
   }
   if (!installed_) {
     installed_ = QCoreApplication::installTranslator(&catalogue_);

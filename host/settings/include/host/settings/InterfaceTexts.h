@@ -23,11 +23,7 @@ class InterfaceTexts {
   /// From now on in this language. Windows are told by Qt's event for that.
   void Speak(const std::string& locale);
 
-  /// The language in force.
-  const std::string& Locale() const { return locale_; }
-
  private:
-  std::string locale_;
   QTranslator catalogue_;
   bool installed_ = false;
 };
