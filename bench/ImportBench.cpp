@@ -8,7 +8,6 @@
 
 #include <zenvora/app/IFolderDialog.h>
 #include <zenvora/app/Services.h>
-#include <zenvora/core/FileReader.h>
 
 #include <benchmark/benchmark.h>
 
@@ -88,13 +87,8 @@ void Settle() {
 }
 
 std::string HashOf(const fs::path& file) {
-  FileReader reader;
-  ContentHash hash;
-  static_cast<void>(reader.Open(ioPath(file)));
-  for (std::string_view piece; !reader.Next(piece) && !piece.empty();) {
-    hash.Add(piece);
-  }
-  return hash.Finish();
+  std::error_code error;
+  return HashFile(ioPath(file), ContentHash::Kind::Sha256, error).toHex().toStdString();
 }
 
 void Count(benchmark::State& state) {

@@ -1,4 +1,5 @@
-#include <host/base/ContentHash.h>
+#include "SystemFiles.h"
+
 #include <host/base/FileCopy.h>
 
 #include <zenvora/core/ErrorText.h>
@@ -6,10 +7,6 @@
 
 #include <algorithm>
 #include <system_error>
-
-#ifdef _WIN32
-#include <windows.h>
-#endif
 
 namespace Zenvora::Lumidex::Host {
 
@@ -107,32 +104,9 @@ CopyOutcome CopyContent(FileReader& reader, std::uint64_t size, NewFile& copy, c
       return Failed(Status::GivenUp, "given up");
     }
   }
-  outcome.sha256 = hash.Finish();
+  outcome.sha256 = hash.Finish().toHex().toStdString();
   return outcome;
 }
-
-#ifdef _WIN32
-
-/// What tells more of a file than its content and its time, when it has its final rights.
-void TakeAttributes(const ioPath& source, const ioPath& copy) {
-  WIN32_FILE_ATTRIBUTE_DATA facts;
-  if (!GetFileAttributesExW(source.for_system().c_str(), GetFileExInfoStandard, &facts)) {
-    return;
-  }
-  const HANDLE handle = CreateFileW(copy.for_system().c_str(), FILE_WRITE_ATTRIBUTES,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (handle != INVALID_HANDLE_VALUE) {
-    SetFileTime(handle, &facts.ftCreationTime, nullptr, nullptr);
-    CloseHandle(handle);
-  }
-}
-
-#else
-
-void TakeAttributes(const ioPath& /*source*/, const ioPath& /*copy*/) {}
-
-#endif
 
 CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expected,
                      const CopyGoesOn& goesOn) {
@@ -169,7 +143,7 @@ CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expect
   if (error) {
     return NotWritten(error);
   }
-  TakeAttributes(source, copy);
+  CopyTimeMade(source, copy);
   outcome.modifiedNs = before.modifiedNs;
   written.Release();
   return outcome;
@@ -199,19 +173,10 @@ CopyOutcome VerifyCopy(const ioPath& copy, const CopyOutcome& copied) {
     return Failed(Status::Different, "the copy cannot be read back: " + ErrorText(error));
   }
   ContentHash hash;
-  std::uint64_t size = 0;
-  for (;;) {
-    std::string_view piece;
-    if (const std::error_code error = reader.Next(piece)) {
-      return Failed(Status::Different, "the copy cannot be read back: " + ErrorText(error));
-    }
-    if (piece.empty()) {
-      break;
-    }
-    hash.Add(piece);
-    size += piece.size();
+  if (const std::error_code error = hash.Add(reader)) {
+    return Failed(Status::Different, "the copy cannot be read back: " + ErrorText(error));
   }
-  if (size != copied.size || hash.Finish() != copied.sha256) {
+  if (hash.Finish().toHex().toStdString() != copied.sha256) {
     return Failed(Status::Different, "read back, the copy differs from what was read");
   }
   return copied;
@@ -233,7 +198,7 @@ std::string SketchOf(const ioPath& file) {
     }
     hash.Add(bytes);
   }
-  return std::to_string(size) + '-' + hash.Finish();
+  return std::to_string(size) + '-' + hash.Finish().toHex().toStdString();
 }
 
 bool SameContent(const ioPath& left, const ioPath& right, const CopyGoesOn& goesOn) {

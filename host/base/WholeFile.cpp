@@ -1,40 +1,26 @@
+#include "SystemFiles.h"
+
 #include <host/base/HostError.h>
 #include <host/base/WholeFile.h>
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
-#include <zenvora/core/Patience.h>
 
 #include <atomic>
-#include <cstdio>
-#include <filesystem>
+#include <string>
 #include <system_error>
 
-#ifdef _WIN32
-#include <process.h>
-#include <windows.h>
-#else
-#include <unistd.h>
-#endif
-
 namespace Zenvora::Lumidex::Host {
-
-namespace fs = std::filesystem;
 
 namespace {
 
 constexpr int kAttempts = 100;
-[[maybe_unused]] constexpr int kMostLinks = 40;
 
 /// Short, whatever the length of the file's own name, and hidden from scans.
 ioPath TemporaryBeside(const ioPath& file) {
   static std::atomic<unsigned> counter{0};
-#ifdef _WIN32
-  const int process = _getpid();
-#else
-  const int process = getpid();
-#endif
-  const std::string name = ".lumidex-" + std::to_string(process) + "-" + std::to_string(++counter) + ".tmp";
+  const std::string name =
+      ".lumidex-" + std::to_string(ProcessNumber()) + "-" + std::to_string(++counter) + ".tmp";
   return file.parent_path() / ioPath(name);
 }
 
@@ -68,32 +54,6 @@ WholeFile::WholeFile(const ioPath& file) : named_(file), target_(file) {
   }
 }
 
-#ifdef _WIN32
-
-void WholeFile::FollowLinks() {
-  std::error_code ignored;
-  const ioPath target = target_.canonical(ignored);
-  if (!target.empty()) {
-    target_ = target;
-  }
-}
-
-#else
-
-// Also a link that leads nowhere yet: the file appears where it points.
-void WholeFile::FollowLinks() {
-  std::error_code error;
-  for (int links = 0; fs::is_symlink(fs::symlink_status(target_.native(), error)); ++links) {
-    const fs::path next = fs::read_symlink(target_.native(), error);
-    if (error || links == kMostLinks) {
-      ThrowCannotWrite(named_, error ? ErrorText(error) : "its links lead in a circle");
-    }
-    target_ = ioPath(target_.native().parent_path() / next);
-  }
-}
-
-#endif
-
 WholeFile::~WholeFile() = default;
 
 void WholeFile::Write(const QByteArray& bytes) {
@@ -116,16 +76,7 @@ void WholeFile::CommitWithTime(std::int64_t modifiedMs) {
 }
 
 void WholeFile::Rename() {
-#ifdef _WIN32
-  // Returns when the new name is on the disk.
-  const bool done = Patiently([this] {
-    return MoveFileExW(temporary_.for_system().c_str(), target_.for_system().c_str(),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
-  });
-#else
-  const bool done = std::rename(temporary_.native().c_str(), target_.native().c_str()) == 0;
-#endif
-  if (!done) {
+  if (!MoveOver(temporary_, target_)) {
     ThrowCannotWrite(named_, ErrorText(LastSystemError()));
   }
   written_.Release();

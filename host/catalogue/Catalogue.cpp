@@ -1,3 +1,5 @@
+#include "SystemCatalogue.h"
+
 #include <host/catalogue/AlbumRows.h>
 #include <host/catalogue/Catalogue.h>
 #include <host/catalogue/CatalogueDatabase.h>
@@ -13,13 +15,6 @@
 
 #include <filesystem>
 #include <utility>
-
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <cerrno>
-#include <unistd.h>
-#endif
 
 namespace Zenvora::Lumidex::Host {
 
@@ -67,23 +62,6 @@ void CloseToOthers(const ioPath& file) {
   for (const char* const end : {"", "-wal", "-shm", "-journal"}) {
     MakePrivate(ioPath(file.utf8string() + end));
   }
-}
-
-void RequireWritable(const ioPath& file) {
-#ifndef _WIN32
-  const ioPath folder = file.parent_path().empty() ? ioPath(".") : file.parent_path();
-  for (const ioPath& place : {folder, file}) {
-    if (access(place.native().c_str(), W_OK) != 0 && errno != ENOENT) {
-      ThrowCatalogueError(file, place == file ? "it is write-protected" : "its folder is write-protected");
-    }
-  }
-#else
-  // Folders have no such mark; what their access lists forbid shows on opening.
-  const DWORD attributes = GetFileAttributesW(file.for_system().c_str());
-  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
-    ThrowCatalogueError(file, "it is write-protected");
-  }
-#endif
 }
 
 std::unique_ptr<CatalogueDatabase> OpenForWriting(const ioPath& file) {

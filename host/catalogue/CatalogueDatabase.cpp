@@ -3,7 +3,6 @@
 
 #include <QSqlError>
 
-#include <algorithm>
 #include <atomic>
 #include <filesystem>
 
@@ -80,13 +79,7 @@ std::string CauseOfSqliteCode(int code, const std::string& sqliteText, int busyT
 }
 
 QString SqliteUri(const ioPath& absoluteFile, const char* query) {
-  std::string name = absoluteFile.utf8string();
-#ifdef _WIN32
-  std::replace(name.begin(), name.end(), '\\', '/');
-  // "file:///C:/a" and "file:////server/share/a".
-  name.insert(0, absoluteFile.root_name().native().native().size() == 2 ? "/" : "");
-#endif
-  const QByteArray encoded = QByteArray::fromStdString(name).toPercentEncoding("/");
+  const QByteArray encoded = QByteArray::fromStdString(UriPath(absoluteFile)).toPercentEncoding("/");
   return QStringLiteral("file://") + QString::fromLatin1(encoded) + QLatin1Char('?') + QLatin1String(query);
 }
 

@@ -1,20 +1,14 @@
+#include <host/base/PathText.h>
 #include <host/catalogue/CatalogueRows.h>
 
 #include <zenvora/strandel/PhotoFacts.h>
 #include <zenvora/tavolin/Uuid.h>
 
-#include <filesystem>
 #include <string>
 
 namespace Zenvora::Lumidex::Host {
 
 namespace {
-
-#ifdef _WIN32
-constexpr char kSeparator = '\\';
-#else
-constexpr char kSeparator = '/';
-#endif
 
 /// `start`: with the separator behind the folder.
 bool IsDirectlyIn(const QByteArray& start, const QByteArray& path) {
@@ -22,15 +16,6 @@ bool IsDirectlyIn(const QByteArray& start, const QByteArray& path) {
 }
 
 }  // namespace
-
-QByteArray PathBytes(const ioPath& path) {
-#ifdef _WIN32
-  std::filesystem::path plain = path.native();
-  return QByteArray::fromStdString(ioPath(plain.make_preferred()).utf8string());
-#else
-  return QByteArray::fromStdString(path.native().native());
-#endif
-}
 
 ioPath PathOf(const QVariant& bytes) {
   return ioPath(bytes.toByteArray().toStdString());

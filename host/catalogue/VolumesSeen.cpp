@@ -1,3 +1,5 @@
+#include "SystemCatalogue.h"
+
 #include <host/base/PathText.h>
 #include <host/catalogue/CatalogueRows.h>
 #include <host/catalogue/VolumesSeen.h>
@@ -7,10 +9,6 @@
 #include <optional>
 #include <system_error>
 #include <vector>
-
-#ifndef _WIN32
-#include <sys/statvfs.h>
-#endif
 
 namespace Zenvora::Lumidex::Host {
 
@@ -26,18 +24,6 @@ ioPath MountOf(ioPath folder) {
     }
     folder = above;
   }
-}
-
-/// What stays of a volume wherever it is mounted; empty: the system does not tell.
-QString VolumeId(const ioPath& mount) {
-#ifdef _WIN32
-  const std::uint64_t serial = QueryFile(mount).identity.first;
-#else
-  struct statvfs facts {};
-  const std::uint64_t serial =
-      statvfs(mount.native().c_str(), &facts) == 0 ? static_cast<std::uint64_t>(facts.f_fsid) : 0;
-#endif
-  return serial == 0 ? QString() : QString::number(serial, 16);
 }
 
 /// True when something is mounted there, also where it is the root of all.
@@ -93,11 +79,8 @@ bool VolumesSeen::IsSameVolume(const std::string& mounted, const QString& id) {
   if (!IsMount(folder)) {
     return false;
   }
-  if (folder.parent_path() == folder || folder.parent_path().empty()) {
-#ifndef _WIN32
-    // The root of all is always there.
+  if (IsAlwaysMounted(folder)) {
     return true;
-#endif
   }
   const QString now = VolumeId(folder);
   if (!id.isEmpty() && now == id) {

@@ -1,5 +1,7 @@
 #include "ImportManifest.h"
 
+#include "AppendedFile.h"
+
 #include <host/base/FolderEntries.h>
 #include <host/base/HostError.h>
 #include <host/base/ProcessLock.h>
@@ -16,17 +18,6 @@
 #include <cstdio>
 #include <fstream>
 #include <utility>
-
-#ifdef _WIN32
-#include <cstdint>
-#include <fcntl.h>
-#include <io.h>
-#include <windows.h>
-#else
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 namespace Zenvora::Lumidex::Host {
 
@@ -72,66 +63,6 @@ bool GetNumber(const QJsonObject& object, const QString& name, Number& number) {
   number = static_cast<Number>(std::is_signed_v<Number> ? static_cast<Number>(text.toLongLong(&ok))
                                                         : static_cast<Number>(text.toULongLong(&ok)));
   return ok;
-}
-
-/// For reading and adding; never through a link, and nothing but a regular file that has no other name.
-std::FILE* OpenToAppend(const ioPath& file) {
-#ifdef _WIN32
-  const HANDLE handle =
-      CreateFileW(file.for_system().c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                  nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-  BY_HANDLE_FILE_INFORMATION facts;
-  if (handle == INVALID_HANDLE_VALUE) {
-    errno = EACCES;
-    return nullptr;
-  }
-  if (!GetFileInformationByHandle(handle, &facts) ||
-      (facts.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
-    CloseHandle(handle);
-    errno = ELOOP;
-    return nullptr;
-  }
-  if (facts.nNumberOfLinks > 1) {
-    CloseHandle(handle);
-    errno = EMLINK;
-    return nullptr;
-  }
-  const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_APPEND | _O_BINARY);
-  if (descriptor < 0) {
-    CloseHandle(handle);
-    return nullptr;
-  }
-  std::FILE* const stream = _fdopen(descriptor, "a+b");
-  if (stream == nullptr) {
-    _close(descriptor);
-  }
-  return stream;
-#else
-  const int descriptor =
-      open(file.native().c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666);
-  if (descriptor < 0) {
-    return nullptr;
-  }
-  struct stat facts = {};
-  if (fstat(descriptor, &facts) != 0 || !S_ISREG(facts.st_mode) || facts.st_nlink > 1) {
-    close(descriptor);
-    errno = facts.st_nlink > 1 ? EMLINK : EINVAL;
-    return nullptr;
-  }
-  std::FILE* const stream = fdopen(descriptor, "a+b");
-  if (stream == nullptr) {
-    close(descriptor);
-  }
-  return stream;
-#endif
-}
-
-bool Sync(std::FILE* stream) {
-#ifdef _WIN32
-  return std::fflush(stream) == 0 && _commit(_fileno(stream)) == 0;
-#else
-  return std::fflush(stream) == 0 && fsync(fileno(stream)) == 0;
-#endif
 }
 
 /// True when what was written last ends in the middle of a line. Leaves the stream at its end.
@@ -263,7 +194,8 @@ class ImportManifest::Stream {
     errno = 0;
     const auto size = static_cast<std::size_t>(bytes.size());
     // After a failure it may end within a line: whoever opens it anew sees to that.
-    if (stream_ == nullptr || std::fwrite(bytes.constData(), 1, size, stream_) != size || !Sync(stream_)) {
+    if (stream_ == nullptr || std::fwrite(bytes.constData(), 1, size, stream_) != size ||
+        !SyncAppended(stream_)) {
       Throw();
     }
   }

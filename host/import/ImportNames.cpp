@@ -24,12 +24,7 @@ constexpr int kFirstMark = 1;
 constexpr int kMarkStep = 2;
 
 bool IsTooLong(const std::string& name) {
-#ifdef _WIN32
-  // Counted in units of UTF-16 there.
-  return QString::fromStdString(name).size() > static_cast<int>(kLongestFileName);
-#else
-  return name.size() > kLongestFileName;
-#endif
+  return NameLength(name) > kLongestFileName;
 }
 
 /// Cuts whole characters off the base until the name is short enough.

@@ -10,7 +10,6 @@
 
 #include <zenvora/app/Application.h>
 #include <zenvora/core/ErrorText.h>
-#include <zenvora/core/FileReader.h>
 #include <zenvora/core/FileState.h>
 
 #include <algorithm>
@@ -33,18 +32,7 @@ std::set<ioPath> FoldersOf(const std::vector<ImportedCopy>& copies) {
 
 /// Empty when it cannot be read.
 std::string Sha256Of(const ioPath& file, std::error_code& error) {
-  FileReader reader;
-  error = reader.Open(file);
-  ContentHash hash;
-  std::string_view piece;
-  while (!error) {
-    error = reader.Next(piece);
-    if (error || piece.empty()) {
-      break;
-    }
-    hash.Add(piece);
-  }
-  return error ? std::string() : hash.Finish();
+  return HashFile(file, ContentHash::Kind::Sha256, error).toHex().toStdString();
 }
 
 /// By its bytes: a source may be another picture of that size by now.

@@ -1,3 +1,4 @@
+#include <host/base/ContentHash.h>
 #include <host/base/HostError.h>
 #include <host/journal/KeptFiles.h>
 
@@ -6,8 +7,6 @@
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
 #include <zenvora/tavolin/Uuid.h>
-
-#include <QCryptographicHash>
 
 #include <algorithm>
 #include <cerrno>
@@ -155,10 +154,13 @@ bool Reproduce(const ioPath& from, const ioPath& to) {
 }  // namespace
 
 QByteArray DigestOf(const ioPath& file) {
-  QCryptographicHash hash(QCryptographicHash::Sha1);
-  ReadAll(file,
-          [&hash](const char* bytes, std::size_t count) { hash.addData(bytes, static_cast<int>(count)); });
-  return hash.result();
+  RequireFile(file);
+  std::error_code error;
+  QByteArray digest = HashFile(file, ContentHash::Kind::Sha1, error);
+  if (error) {
+    Fail(file, "Cannot read", error);
+  }
+  return digest;
 }
 
 bool KeptFiles::Keep(const ioPath& file, const std::string& name) const {

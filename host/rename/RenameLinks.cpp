@@ -1,3 +1,4 @@
+#include <host/base/PathText.h>
 #include <host/base/SymbolicLinks.h>
 #include <host/rename/RenameLinks.h>
 #include <host/shots/ShotNames.h>
@@ -19,11 +20,7 @@ namespace {
 
 /// Where a link's text has its last name; npos: it ends with no name of a file.
 std::size_t LastNameOf(const std::string& text) {
-#ifdef _WIN32
-  const std::size_t separator = text.find_last_of("/\\");
-#else
-  const std::size_t separator = text.rfind('/');
-#endif
+  const std::size_t separator = text.find_last_of(kSeparators);
   const std::size_t begin = separator == std::string::npos ? 0 : separator + 1;
   const std::string_view name = std::string_view(text).substr(begin);
   return name.empty() || name == "." || name == ".." ? std::string::npos : begin;

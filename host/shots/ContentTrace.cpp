@@ -35,7 +35,7 @@ std::string_view View(const QByteArray& bytes) {
 }
 
 QByteArray DigestOf(ContentHash& hash, const TraceForm& form) {
-  return QByteArray::fromHex(QByteArray::fromStdString(hash.Finish())).left(form.digestBytes);
+  return hash.Finish().left(form.digestBytes);
 }
 
 QByteArray DigestOf(std::string_view bytes, const TraceForm& form) {
@@ -79,24 +79,6 @@ void AddSize(ContentHash& hash, std::uint64_t size) {
   hash.Add(std::to_string(size) + ':');
 }
 
-bool ReadWhole(FileReader& reader, std::uint64_t size, const TraceForm& form, QByteArray& digest) {
-  ContentHash hash;
-  std::uint64_t done = 0;
-  for (;;) {
-    std::string_view piece;
-    // A file that grows as fast as it is read would have no end.
-    if (reader.Next(piece) || done > size) {
-      return false;
-    }
-    if (piece.empty()) {
-      digest = DigestOf(hash, form);
-      return true;
-    }
-    hash.Add(piece);
-    done += piece.size();
-  }
-}
-
 bool ReadTrace(const ioPath& file, const TraceForm& form, ContentTrace& trace) {
   FileReader reader;
   std::string_view bytes;
@@ -128,8 +110,12 @@ bool ReadTrace(const ioPath& file, const TraceForm& form, ContentTrace& trace) {
     if (size >= 2 * form.edge && !tail.SaysLittle()) {
       read.tail = digest;
     }
-    if (last > form.edge && head.SaysLittle() && !ReadWhole(reader, size, form, read.content)) {
-      return false;
+    if (last > form.edge && head.SaysLittle()) {
+      ContentHash whole;
+      if (whole.Add(reader)) {
+        return false;
+      }
+      read.content = DigestOf(whole, form);
     }
   }
   read.edges = DigestOf(edges, form);

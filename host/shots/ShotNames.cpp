@@ -1,3 +1,4 @@
+#include <host/base/PathText.h>
 #include <host/base/RenameNames.h>
 #include <host/shots/ShotNames.h>
 
@@ -11,11 +12,6 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-#ifdef _WIN32
-constexpr const char* kSeparators = "/\\";
-#else
-constexpr const char* kSeparators = "/";
-#endif
 constexpr std::size_t kVersionLength = 3;  // "_01"
 
 /// As `ioPath::extension`.

@@ -8,6 +8,7 @@
 #include <cli/terminal/Progress.h>
 #include <cli/terminal/Words.h>
 #include <cli/views/ImportView.h>
+#include <host/base/PathText.h>
 #include <host/catalogue/Catalogue.h>
 #include <host/import/Import.h>
 #include <host/import/ImportPlan.h>
@@ -82,12 +83,10 @@ GivenAnswers AnswersOf(const ImportArguments& arguments) {
   }
   const ioPath folder = AbsolutePath(arguments.to);
   given.folder = QDir::cleanPath(folder.qstring());
-#ifndef _WIN32
   // Settings and the names of copies are text.
-  if (ioPath(folder.qstring()) != folder) {
+  if (!Host::IsText(folder)) {
     throw UsageError("--to: the name of the folder must be text in UTF-8");
   }
-#endif
   return given;
 }
 

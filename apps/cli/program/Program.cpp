@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "CommandLine.h"
+#include "ProcessSetup.h"
 
 #include <cli/commands/StatsCommand.h>
 #include <cli/session/Options.h>
@@ -17,48 +18,13 @@
 #include <QCoreApplication>
 #include <QTextCodec>
 
-#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <optional>
 
-#ifdef _WIN32
-#include <fcntl.h>
-#include <io.h>
-#include <windows.h>
-#endif
-
 namespace Zenvora::Lumidex::Cli {
 
 namespace {
-
-#ifdef _WIN32
-/// The console belongs to others, too: it gets its code page back.
-class Utf8Console {
- public:
-  Utf8Console() : former_(GetConsoleOutputCP()) { SetConsoleOutputCP(CP_UTF8); }
-  ~Utf8Console() { SetConsoleOutputCP(former_); }
-  Utf8Console(const Utf8Console&) = delete;
-  Utf8Console& operator=(const Utf8Console&) = delete;
-
- private:
-  const UINT former_;
-};
-#endif
-
-void PrepareProcess() {
-#ifdef _WIN32
-  // Output is the same bytes everywhere.
-  _setmode(_fileno(stdout), _O_BINARY);
-  _setmode(_fileno(stderr), _O_BINARY);
-#else
-  // A file that may not grow any more is an error to report, not a reason to die.
-  std::signal(SIGXFSZ, SIG_IGN);
-#endif
-  // File names are UTF-8 whatever the locale says; Qt would replace what plain "C" cannot spell.
-  QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-  WatchInterrupts();
-}
 
 /// In one line, where the candidates are what the advice is about.
 std::string WholeMessage(const std::string& message, const std::vector<std::string>& candidates,
@@ -153,10 +119,10 @@ ExitCode RunCommand(const ParsedCommandLine& parsed, Output& output, Console& co
 }  // namespace
 
 int RunProgram(int argc, char** argv) {
-#ifdef _WIN32
-  const Utf8Console utf8Console;
-#endif
-  PrepareProcess();
+  const ProcessSetup setup;
+  // File names are UTF-8 whatever the locale says; Qt would replace what plain "C" cannot spell.
+  QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+  WatchInterrupts();
   const std::vector<std::string> arguments = ProgramArguments(argc, argv);
   Console plain(false);
   if (arguments.empty()) {

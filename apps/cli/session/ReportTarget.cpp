@@ -63,27 +63,6 @@ std::string Named(const ioPath& report, const ioPath& target) {
 
 }  // namespace
 
-ioPath FollowLinks(const ioPath& file) {
-#ifdef _WIN32
-  // The standard library knows no links there. One that leads nowhere stays itself.
-  std::error_code error;
-  const ioPath target = file.canonical(error);
-  return target.empty() ? file : target;
-#else
-  constexpr int kMostLinks = 40;
-  std::error_code error;
-  fs::path target = file.native();
-  for (int i = 0; i < kMostLinks && fs::is_symlink(target, error); ++i) {
-    const fs::path next = fs::read_symlink(target, error);
-    if (error) {
-      break;
-    }
-    target = next.is_absolute() ? next : target.parent_path() / next;
-  }
-  return ioPath(target);
-#endif
-}
-
 void RequireReportName(const ioPath& report, const ioPath& catalogue) {
   const ioPath target = FollowLinks(report);
   for (const ioPath& file : {report, target}) {

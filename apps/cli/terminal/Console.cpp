@@ -1,33 +1,16 @@
+#include "SystemTerminal.h"
+
 #include <cli/terminal/Console.h>
 #include <cli/terminal/TerminalText.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
-
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <sys/ioctl.h>
-#include <unistd.h>
-#endif
 
 namespace Zenvora::Lumidex::Cli {
 
 namespace {
 
 constexpr int kUsualColumns = 80;
-
-bool StderrIsTerminal() {
-#ifdef _WIN32
-  // Not `_isatty`, which takes the null device for a terminal.
-  DWORD mode = 0;
-  return GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
-#else
-  const char* const kind = std::getenv("TERM");
-  return isatty(STDERR_FILENO) == 1 && !(kind && std::string(kind) == "dumb");
-#endif
-}
 
 void Put(const std::string& text) {
   std::fwrite(text.data(), 1, text.size(), stderr);
@@ -43,18 +26,7 @@ Console::~Console() {
 }
 
 int Console::Columns() {
-#ifdef _WIN32
-  CONSOLE_SCREEN_BUFFER_INFO info;
-  if (GetConsoleScreenBufferInfo(GetStdHandle(STD_ERROR_HANDLE), &info)) {
-    return info.srWindow.Right - info.srWindow.Left + 1;
-  }
-#else
-  winsize size{};
-  if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
-    return size.ws_col;
-  }
-#endif
-  return kUsualColumns;
+  return TerminalColumns().value_or(kUsualColumns);
 }
 
 void Console::Note(const std::string& text, const std::vector<std::string>& more) {

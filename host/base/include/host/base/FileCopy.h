@@ -1,11 +1,12 @@
 #pragma once
 
+#include <host/base/ContentHash.h>
+
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/NewFile.h>
 #include <zenvora/core/ioPath.h>
 
 #include <cstdint>
-#include <functional>
 #include <string>
 
 namespace Zenvora::Lumidex::Host {
@@ -24,14 +25,13 @@ struct CopyOutcome {
   Status status = Status::Copied;
   /// English, to be put behind a name and a colon; empty when copied.
   std::string cause;
-  /// Of the source, as it was read.
+  /// Of the source, as it was read: 64 hexadecimal digits in lower case.
   std::string sha256;
   std::uint64_t size = 0;
   std::int64_t modifiedNs = 0;
 };
 
-/// Asked after each piece, with the bytes copied so far; false gives the copy up.
-using CopyGoesOn = std::function<bool(std::uint64_t bytes)>;
+using CopyGoesOn = KeepGoing;
 
 /// Copies the content of `source`, its time, its permissions and what people noted of it (`NewFile`) into the
 /// new file `copy`, which stays only when that went well: not yet safe on the disk, and not compared. Blocks

@@ -4,7 +4,22 @@
 
 #include <QString>
 
+#include <cstddef>
+#include <string>
+
 namespace Zenvora::Lumidex::Host {
+
+/// What stands between the elements of a path's text: all that the system knows, and the one that it writes.
+#ifdef _WIN32
+constexpr char kSeparators[] = "/\\";
+constexpr char kSeparator = '\\';
+#else
+constexpr char kSeparators[] = "/";
+constexpr char kSeparator = '/';
+#endif
+
+/// How much of `kLongestFileName` a name in UTF-8 takes. Pure.
+std::size_t NameLength(const std::string& name);
 
 /// A path as text that leads back to its very bytes: those that are no text go into it as lone surrogates,
 /// which no text holds. Qt opens no file of such a name, but it compares, cuts and joins them. Pure.

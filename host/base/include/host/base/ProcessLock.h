@@ -1,5 +1,6 @@
 #pragma once
 
+#include <zenvora/core/FileHandle.h>
 #include <zenvora/core/ioPath.h>
 
 #include <system_error>
@@ -20,11 +21,7 @@ class ProcessLock {
   std::error_code Take(const ioPath& file);
 
  private:
-#ifdef _WIN32
-  void* handle_ = nullptr;
-#else
-  int handle_ = -1;
-#endif
+  FileHandle handle_ = kNoFileHandle;
 };
 
 }  // namespace Zenvora::Lumidex::Host

@@ -2,18 +2,9 @@
 
 #include <zenvora/core/ErrorText.h>
 
-#ifdef _WIN32
 #include <windows.h>
-#else
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-#endif
 
 namespace Zenvora::Lumidex::Host {
-
-#ifdef _WIN32
 
 std::error_code ProcessLock::Take(const ioPath& file) {
   const HANDLE handle =
@@ -36,35 +27,9 @@ std::error_code ProcessLock::Take(const ioPath& file) {
 }
 
 ProcessLock::~ProcessLock() {
-  if (handle_ != nullptr) {
+  if (handle_ != kNoFileHandle) {
     CloseHandle(handle_);
   }
 }
-
-#else
-
-std::error_code ProcessLock::Take(const ioPath& file) {
-  const int handle = open(file.native().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666);
-  if (handle < 0) {
-    return LastSystemError();
-  }
-  if (flock(handle, LOCK_EX | LOCK_NB) != 0) {
-    const std::error_code error = errno == EWOULDBLOCK
-                                      ? std::make_error_code(std::errc::resource_unavailable_try_again)
-                                      : LastSystemError();
-    close(handle);
-    return error;
-  }
-  handle_ = handle;
-  return {};
-}
-
-ProcessLock::~ProcessLock() {
-  if (handle_ >= 0) {
-    close(handle_);
-  }
-}
-
-#endif
 
 }  // namespace Zenvora::Lumidex::Host
