@@ -4,8 +4,8 @@
 
 #include "FeatureVectors.h"
 
-#include <zenvora/quillet/MatchTemplate.h>
-#include <zenvora/quillet/TemplateIndex.h>
+#include <zenvora/quillet/match/MatchTemplate.h>
+#include <zenvora/quillet/match/TemplateIndex.h>
 
 #include <benchmark/benchmark.h>
 

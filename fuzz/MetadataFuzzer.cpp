@@ -5,7 +5,7 @@
 
 #include <LumidexUtil/MetadataReaders.h>
 
-#include <zenvora/quillet/ImageLoader.h>
+#include <zenvora/quillet/picture/ImageLoader.h>
 #include <zenvora/strandel/JpegHead.h>
 #include <zenvora/strandel/MetadataSettings.h>
 #include <zenvora/strandel/PhotoFacts.h>

@@ -6,7 +6,7 @@
 #include <zenvora/app/Application.h>
 #include <zenvora/core/Exception.h>
 #include <zenvora/core/ioPath.h>
-#include <zenvora/quillet/Config.h>
+#include <zenvora/quillet/config/Config.h>
 #include <zenvora/tavolin/DownloadableResource.h>
 #include <zenvora/tavolin/Uuid.h>
 

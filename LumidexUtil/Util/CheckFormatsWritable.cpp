@@ -2,7 +2,7 @@
 
 #include <LumidexUtil/CheckFormatsWritable.h>
 
-#include <zenvora/quillet/FormatHelper.h>
+#include <zenvora/quillet/picture/FormatHelper.h>
 
 namespace Zenvora::Util {
 

@@ -10,7 +10,7 @@
 #include <zenvora/app/Application.h>
 #include <zenvora/core/CallStack.h>
 #include <zenvora/lumidex/FileAccessLockerGuard.h>
-#include <zenvora/quillet/ImageLoader.h>
+#include <zenvora/quillet/picture/ImageLoader.h>
 #include <zenvora/strandel/MetadataSettings.h>
 #include <zenvora/tavolin/FileDateTime.h>
 

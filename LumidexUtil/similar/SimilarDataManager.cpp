@@ -2,7 +2,7 @@
 
 #include <LumidexUtil/SimilarDataManager.h>
 
-#include <zenvora/quillet/TemplateIndex.h>
+#include <zenvora/quillet/match/TemplateIndex.h>
 
 #include <cstddef>
 #include <cstdint>

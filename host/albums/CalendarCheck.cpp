@@ -6,7 +6,7 @@
 #include <zenvora/app/IDownloads.h>
 #include <zenvora/app/RealServices.h>
 #include <zenvora/core/Exception.h>
-#include <zenvora/quillet/Config.h>
+#include <zenvora/quillet/config/Config.h>
 #include <zenvora/tavolin/DownloadableResource.h>
 
 #include <QDateTime>

@@ -5,7 +5,7 @@
 #include <host/pixels/JpegDamage.h>
 
 #include <zenvora/core/FileState.h>
-#include <zenvora/quillet/FileDevice.h>
+#include <zenvora/quillet/picture/FileDevice.h>
 #include <zenvora/strandel/JpegSegments.h>
 
 #include <QByteArray>

@@ -3,7 +3,7 @@
 
 #include <host/pixels/PhotoPixels.h>
 
-#include <zenvora/quillet/DecoderNotes.h>
+#include <zenvora/quillet/picture/DecoderNotes.h>
 #include <zenvora/strandel/FormatByHead.h>
 #include <zenvora/strandel/JpegSegments.h>
 

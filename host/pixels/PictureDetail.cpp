@@ -5,8 +5,8 @@
 #include <host/pixels/PhotoPixels.h>
 
 #include <zenvora/core/FileNotes.h>
-#include <zenvora/quillet/DecoderNotes.h>
-#include <zenvora/quillet/FileDevice.h>
+#include <zenvora/quillet/picture/DecoderNotes.h>
+#include <zenvora/quillet/picture/FileDevice.h>
 
 #include <QImageReader>
 #include <QRect>

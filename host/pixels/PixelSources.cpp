@@ -7,7 +7,7 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileNotes.h>
 #include <zenvora/core/FileState.h>
-#include <zenvora/quillet/FileDevice.h>
+#include <zenvora/quillet/picture/FileDevice.h>
 #include <zenvora/strandel/EmbeddedPreview.h>
 #include <zenvora/strandel/HeifSize.h>
 #include <zenvora/strandel/JpegHead.h>

@@ -4,8 +4,8 @@
 #include "PixelSources.h"
 
 #include <zenvora/core/FileNotes.h>
-#include <zenvora/quillet/DecoderNotes.h>
-#include <zenvora/quillet/FileDevice.h>
+#include <zenvora/quillet/picture/DecoderNotes.h>
+#include <zenvora/quillet/picture/FileDevice.h>
 #include <zenvora/strandel/FormatByHead.h>
 #include <zenvora/strandel/JpegSegments.h>
 

@@ -3,7 +3,7 @@
 #include <host/shots/PhotoInfo.h>
 
 #include <zenvora/core/FileState.h>
-#include <zenvora/quillet/ImageLoader.h>
+#include <zenvora/quillet/picture/ImageLoader.h>
 
 #include <cmath>
 

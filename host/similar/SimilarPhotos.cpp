@@ -5,7 +5,7 @@
 #include <host/catalogue/CatalogueSchema.h>
 #include <host/similar/SimilarPhotos.h>
 
-#include <zenvora/quillet/MatchTemplate.h>
+#include <zenvora/quillet/match/MatchTemplate.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -2,7 +2,7 @@
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
-#include <zenvora/quillet/MatchTemplate.h>
+#include <zenvora/quillet/match/MatchTemplate.h>
 
 #include <glog/logging.h>
 

@@ -2,7 +2,7 @@
 
 #include "DownloadLimits.h"
 
-#include <zenvora/quillet/Config.h>
+#include <zenvora/quillet/config/Config.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>

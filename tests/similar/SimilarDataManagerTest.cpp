@@ -2,7 +2,7 @@
 #include <support/SimilarDoubles.h>
 #include <support/Slots.h>
 
-#include <zenvora/quillet/MatchTemplate.h>
+#include <zenvora/quillet/match/MatchTemplate.h>
 
 #include <boost/smart_ptr/intrusive_ptr.hpp>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "DownloadLimits.h"
 #include "ResourceValidator.h"
 
-#include <zenvora/quillet/Config.h>
+#include <zenvora/quillet/config/Config.h>
 
 #include <gtest/gtest.h>
 

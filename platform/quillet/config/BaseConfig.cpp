@@ -4,7 +4,7 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/ioPath.h>
-#include <zenvora/quillet/Config.h>
+#include <zenvora/quillet/config/Config.h>
 
 #include <QByteArray>
 #include <QJsonDocument>

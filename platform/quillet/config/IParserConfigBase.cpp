@@ -1,4 +1,4 @@
-#include <zenvora/quillet/Config.h>
+#include <zenvora/quillet/config/Config.h>
 
 namespace Zenvora::Quillet {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <zenvora/core/RefCountImpl.h>
-#include <zenvora/quillet/ISerializer.h>
+#include <zenvora/quillet/config/ISerializer.h>
 
 #include <QJsonValue>
 

@@ -1,7 +1,7 @@
 #include "MatchKernel.h"
 #include "MatchScore.h"
 
-#include <zenvora/quillet/MatchTemplate.h>
+#include <zenvora/quillet/match/MatchTemplate.h>
 
 namespace Zenvora::Quillet {
 

@@ -1,6 +1,6 @@
 #include "FirstFit.h"
 
-#include <zenvora/quillet/TemplateIndex.h>
+#include <zenvora/quillet/match/TemplateIndex.h>
 
 #include <utility>
 

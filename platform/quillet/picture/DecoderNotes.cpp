@@ -1,7 +1,7 @@
 #include "LoadedFunctions.h"
 
 #include <zenvora/core/FileNotes.h>
-#include <zenvora/quillet/DecoderNotes.h>
+#include <zenvora/quillet/picture/DecoderNotes.h>
 
 #include <QBuffer>
 #include <QImageReader>

@@ -1,4 +1,4 @@
-#include <zenvora/quillet/FileDevice.h>
+#include <zenvora/quillet/picture/FileDevice.h>
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include <zenvora/quillet/FormatHelper.h>
+#include <zenvora/quillet/picture/FormatHelper.h>
 
 #include <algorithm>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include <zenvora/quillet/GPSData.h>
+#include <zenvora/quillet/picture/GPSData.h>
 
 #include <cmath>
 #include <limits>

@@ -1,8 +1,8 @@
 #include <zenvora/core/FileNotes.h>
 #include <zenvora/core/FileState.h>
-#include <zenvora/quillet/DecoderNotes.h>
-#include <zenvora/quillet/FileDevice.h>
-#include <zenvora/quillet/ImageLoader.h>
+#include <zenvora/quillet/picture/DecoderNotes.h>
+#include <zenvora/quillet/picture/FileDevice.h>
+#include <zenvora/quillet/picture/ImageLoader.h>
 
 #include <QImageReader>
 #include <QSize>

@@ -3,7 +3,7 @@
 #include <support/TempTree.h>
 
 #include <zenvora/core/Exception.h>
-#include <zenvora/quillet/Config.h>
+#include <zenvora/quillet/config/Config.h>
 
 #include <functional>
 #include <string>

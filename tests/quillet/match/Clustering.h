@@ -2,7 +2,7 @@
 
 #include "Vectors.h"
 
-#include <zenvora/quillet/MatchTemplate.h>
+#include <zenvora/quillet/match/MatchTemplate.h>
 
 #include <FirstFit.h>
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "Vectors.h"
 
-#include <zenvora/quillet/MatchTemplate.h>
+#include <zenvora/quillet/match/MatchTemplate.h>
 
 #include <gtest/gtest.h>
 

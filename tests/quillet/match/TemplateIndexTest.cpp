@@ -1,7 +1,7 @@
 #include "Clustering.h"
 #include "Vectors.h"
 
-#include <zenvora/quillet/TemplateIndex.h>
+#include <zenvora/quillet/match/TemplateIndex.h>
 
 #include <gtest/gtest.h>
 

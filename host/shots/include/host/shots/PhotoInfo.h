@@ -3,8 +3,8 @@
 #include <host/shots/PhotoDate.h>
 
 #include <zenvora/core/ioPath.h>
-#include <zenvora/quillet/FrameInfo.h>
-#include <zenvora/quillet/GPSData.h>
+#include <zenvora/quillet/picture/FrameInfo.h>
+#include <zenvora/quillet/picture/GPSData.h>
 #include <zenvora/strandel/IImageMetadata.h>
 
 #include <boost/smart_ptr/intrusive_ptr.hpp>

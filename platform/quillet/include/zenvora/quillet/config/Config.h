@@ -1,7 +1,7 @@
 #pragma once
 
 #include <zenvora/quillet/Export.h>
-#include <zenvora/quillet/ISerializer.h>
+#include <zenvora/quillet/config/ISerializer.h>
 
 #include <cstddef>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include <zenvora/core/ioPath.h>
 #include <zenvora/quillet/Export.h>
-#include <zenvora/quillet/FrameInfo.h>
+#include <zenvora/quillet/picture/FrameInfo.h>
 #include <zenvora/strandel/IImageMetadata.h>
 
 #include <boost/smart_ptr/intrusive_ptr.hpp>
