@@ -2,6 +2,8 @@
 #include <host/base/RenameNames.h>
 #include <host/shots/ShotNames.h>
 
+#include <zenvora/quillet/picture/FormatHelper.h>
+
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -18,6 +20,10 @@ constexpr std::size_t kVersionLength = 3;  // "_01"
 std::string_view ExtensionOf(std::string_view name) {
   const std::size_t dot = name.rfind('.');
   return dot == std::string_view::npos || dot == 0 || name == ".." ? std::string_view() : name.substr(dot);
+}
+
+const Quillet::FormatHelper::Entry& FormatOf(const std::string& extension) {
+  return Quillet::FormatHelper::GetFormatDescriptionForExtension(extension, false);
 }
 
 template <std::size_t kCount>
@@ -86,19 +92,7 @@ ShotName SplitShotName(std::string_view name) {
 }
 
 bool IsPhotoName(const ioPath& file) {
-  // What cameras and phones write, and what people keep; docs/decisions/metadata.md.
-  static constexpr std::array<std::string_view, 41> kExtensions = {
-      ".3fr",  ".arw",  ".avif", ".bmp", ".cr2",  ".cr3",  ".crw",  ".dcr", ".dng", ".erf", ".gif",
-      ".heic", ".heif", ".hif",  ".iiq", ".jfif", ".jpe",  ".jpeg", ".jpg", ".jxl", ".kdc", ".mef",
-      ".mos",  ".mrw",  ".nef",  ".nrw", ".orf",  ".pef",  ".png",  ".raf", ".raw", ".rw2", ".rwl",
-      ".sr2",  ".srf",  ".srw",  ".tif", ".tiff", ".webp", ".x3f",  ".fff"};
-  std::string extension = file.extension().utf8string();
-  for (char& letter : extension) {
-    if (letter >= 'A' && letter <= 'Z') {
-      letter = static_cast<char>(letter - 'A' + 'a');
-    }
-  }
-  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+  return FormatOf(file.extension().utf8string()).second.photo;
 }
 
 bool IsShotFile(std::string_view name) {
@@ -106,10 +100,7 @@ bool IsShotFile(std::string_view name) {
 }
 
 bool IsRawName(std::string_view name) {
-  static constexpr std::array<std::string_view, 26> kExtensions = {
-      ".3fr", ".arw", ".cr2", ".cr3", ".crw", ".dcr", ".dng", ".erf", ".fff", ".iiq", ".kdc", ".mef", ".mos",
-      ".mrw", ".nef", ".nrw", ".orf", ".pef", ".raf", ".raw", ".rw2", ".rwl", ".sr2", ".srf", ".srw", ".x3f"};
-  return HasOneOf(name, kExtensions);
+  return FormatOf(std::string(ExtensionOf(name))).first == Quillet::FormatHelper::FORMAT_RAW;
 }
 
 bool IsFilmName(std::string_view name) {

@@ -16,15 +16,20 @@ constexpr bool kHasAdditionalWriters = true;
 #endif
 
 FormatHelper::Entry Writable(const char* name, std::vector<std::string> extensions) {
-  return {name, {false, std::move(extensions)}};
+  return {name, {false, std::move(extensions), true}};
 }
 
 FormatHelper::Entry ReadOnly(const char* name, std::vector<std::string> extensions) {
-  return {name, {true, std::move(extensions)}};
+  return {name, {true, std::move(extensions), true}};
+}
+
+/// What belongs to a photo, or comes from no camera.
+FormatHelper::Entry NoPhoto(const char* name, std::vector<std::string> extensions) {
+  return {name, {true, std::move(extensions), false}};
 }
 
 FormatHelper::Entry Additional(const char* name, std::vector<std::string> extensions) {
-  return {name, {!kHasAdditionalWriters, std::move(extensions)}};
+  return {name, {!kHasAdditionalWriters, std::move(extensions), true}};
 }
 
 std::vector<FormatHelper::Entry> MakeFormats() {
@@ -38,8 +43,8 @@ std::vector<FormatHelper::Entry> MakeFormats() {
       ReadOnly("HEIC", {"heic", "heif", "hif"}),
       ReadOnly("AVIF", {"avif"}),
       ReadOnly("JPEG XL", {"jxl"}),
-      ReadOnly("JPEG 2000", {"jp2", "j2k", "j2c", "jpc", "jpf", "jpx"}),
-      ReadOnly("PSD", {"psd", "psb"}),
+      NoPhoto("JPEG 2000", {"jp2", "j2k", "j2c", "jpc", "jpf", "jpx"}),
+      NoPhoto("PSD", {"psd", "psb"}),
       ReadOnly(
           FormatHelper::FORMAT_RAW.c_str(),
           {"3fr", "arw", "cr2", "cr3", "crw", "dcr", "dng", "erf", "fff", "gpr", "iiq", "k25", "kdc", "mef",

@@ -606,12 +606,13 @@ INSTANTIATE_TEST_SUITE_P(
         NameRow{"a.dng", true}, NameRow{"a.cr2", true}, NameRow{"a.CR3", true}, NameRow{"a.crw", true},
         NameRow{"a.nef", true}, NameRow{"a.nrw", true}, NameRow{"a.arw", true}, NameRow{"a.raf", true},
         NameRow{"a.orf", true}, NameRow{"a.rw2", true}, NameRow{"a.pef", true}, NameRow{"a.srw", true},
-        NameRow{"a.x3f", true}, NameRow{"a.3fr", true}, NameRow{"a.iiq", true}, NameRow{"a.rwl", true},
-        NameRow{"a.b.jpg", true}, NameRow{"\xFF.jpg", true}, NameRow{"a.jpg.xmp", false},
-        NameRow{"a.xmp", false}, NameRow{"a.mp4", false}, NameRow{"a.mov", false}, NameRow{"a.txt", false},
-        NameRow{"jpg", false}, NameRow{".jpg", false}, NameRow{"a.", false}, NameRow{"a", false},
-        NameRow{"", false}, NameRow{"a.jpgx", false}, NameRow{"a.jp", false}, NameRow{"a.jpg ", false},
-        NameRow{"a.psd", false}, NameRow{"a.svg", false}));
+        NameRow{"a.gpr", true}, NameRow{"a.K25", true}, NameRow{"a.dib", true}, NameRow{"a.x3f", true},
+        NameRow{"a.3fr", true}, NameRow{"a.iiq", true}, NameRow{"a.rwl", true}, NameRow{"a.b.jpg", true},
+        NameRow{"\xFF.jpg", true}, NameRow{"a.jpg.xmp", false}, NameRow{"a.xmp", false},
+        NameRow{"a.mp4", false}, NameRow{"a.mov", false}, NameRow{"a.txt", false}, NameRow{"jpg", false},
+        NameRow{".jpg", false}, NameRow{"a.", false}, NameRow{"a", false}, NameRow{"", false},
+        NameRow{"a.jpgx", false}, NameRow{"a.jp", false}, NameRow{"a.jpg ", false}, NameRow{"a.psd", false},
+        NameRow{"a.jp2", false}, NameRow{"a.svg", false}));
 
 TEST(ReadPhoto, SaysWhyAFileIsNone) {
   const TempTree tree;

@@ -375,7 +375,7 @@ TEST_F(TrashPlanTest, LeavesSettingsThatAreALink) {
 }
 
 TEST(RawNames, AreThoseOfPhotos) {
-  for (const char* const name : {"a.CR2", "a.nef", "x.y.DNG", "a.fff", "a.x3f"}) {
+  for (const char* const name : {"a.CR2", "a.nef", "x.y.DNG", "a.fff", "a.gpr", "a.x3f"}) {
     EXPECT_TRUE(IsRawName(name)) << name;
     EXPECT_TRUE(IsPhotoName(ioPath(name))) << name;
   }

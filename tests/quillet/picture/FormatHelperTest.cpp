@@ -31,12 +31,19 @@ TEST(FormatHelper, KnowsWhatPeopleHave) {
 TEST(FormatHelper, TakesTheFilesOfAllCamerasForRaw) {
   EXPECT_EQ(FormatHelper::FORMAT_RAW, "RAW");
   for (const char* extension :
-       {"3fr", "arw", "cr2", "cr3", "crw", "dcr", "dng", "erf", "fff", "iiq", "kdc", "mef", "mos",
-        "mrw", "nef", "nrw", "orf", "pef", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw", "x3f"}) {
+       {"3fr", "arw", "cr2", "cr3", "crw", "dcr", "dng", "erf", "fff", "gpr", "iiq", "k25", "kdc", "mef",
+        "mos", "mrw", "nef", "nrw", "orf", "pef", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw", "x3f"}) {
     EXPECT_EQ(NameOf(extension), FormatHelper::FORMAT_RAW) << extension;
     EXPECT_TRUE(FormatHelper::GetFormatDescriptionForExtension(extension, false).second.readOnly)
         << extension;
   }
+}
+
+TEST(FormatHelper, SaysWhatPhotosAre) {
+  for (const auto& [name, record] : FormatHelper::GetFormats()) {
+    EXPECT_EQ(record.photo, name != "PSD" && name != "JPEG 2000") << name;
+  }
+  EXPECT_FALSE(FormatHelper::GetFormatDescriptionForExtension("txt", false).second.photo);
 }
 
 TEST(FormatHelper, TakesExtensionsWithAndWithoutTheirDot) {

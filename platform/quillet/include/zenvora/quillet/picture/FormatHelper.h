@@ -14,6 +14,8 @@ struct FormatRecord {
   bool readOnly = false;
   /// The endings of its files, in lower case and without the dot; the usual one first.
   std::vector<std::string> extensions;
+  /// Its files are photos, which a catalogue takes in.
+  bool photo = false;
 };
 
 /// The table of picture formats (docs/formats/pictures.md). It goes by the names of files and never looks
