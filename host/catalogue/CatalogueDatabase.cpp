@@ -1,3 +1,5 @@
+#include "SystemCatalogue.h"
+
 #include <host/base/HostError.h>
 #include <host/catalogue/CatalogueDatabase.h>
 

@@ -2,9 +2,8 @@
 
 #include "SimilarStore.h"
 
+#include <LumidexUtil/ISimilarDataManager.h>
 #include <host/similar/SimilarPhotos.h>
-
-#include <zenvora/lumidex/ISimilarDataManager.h>
 
 #include <boost/smart_ptr/intrusive_ptr.hpp>
 
