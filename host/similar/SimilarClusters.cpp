@@ -28,7 +28,8 @@ SimilarClusters::SimilarClusters(const CatalogueDatabase& database, qlonglong an
 
 SimilarClusters::~SimilarClusters() = default;
 
-std::size_t SimilarClusters::Add(const std::atomic<bool>& cancelled, const Progress& progress) {
+std::size_t SimilarClusters::Add(const std::atomic<bool>& cancelled,
+                                 const SimilarPhotos::Progress& progress) {
   std::vector<QString> waiting;
   {
     QSqlQuery query =
