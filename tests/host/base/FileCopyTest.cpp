@@ -1,4 +1,3 @@
-#include <host/base/ContentHash.h>
 #include <host/base/FileCopy.h>
 #include <support/LeftOut.h>
 #include <support/TempTree.h>
@@ -28,24 +27,6 @@ using Zenvora::Test::TempTree;
 constexpr std::size_t kPiece = FileReader::kPiece;
 
 const CopyGoesOn kGoesOn = [](std::uint64_t) { return true; };
-
-TEST(ContentHash, IsTheOneOfTheStandard) {
-  const auto hash = [](std::string_view bytes) {
-    ContentHash sum;
-    sum.Add(bytes);
-    return sum.Finish();
-  };
-  EXPECT_EQ(hash(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
-  EXPECT_EQ(hash("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
-}
-
-TEST(ContentHash, DoesNotDependOnThePieces) {
-  ContentHash sum;
-  sum.Add("a");
-  sum.Add("");
-  sum.Add("bc");
-  EXPECT_EQ(sum.Finish(), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
-}
 
 TEST(CopyToNew, KeepsContentAndTime) {
   const TempTree tree;
