@@ -1,5 +1,6 @@
 #include "DeviceBytes.h"
 #include "JpegMending.h"
+#include "TiffParts.h"
 
 #include <host/pixels/PhotoPixels.h>
 
@@ -54,6 +55,11 @@ bool IsHeldWhole(QIODevice& device) {
     }
   }
   return true;
+}
+
+bool IsCutTiff(QIODevice& device) {
+  DeviceBytes bytes(device);
+  return !HoldsFirstPicture(bytes);
 }
 
 bool IsTooLarge(QImageReader& reader, QIODevice& device, std::int64_t pixels) {
@@ -148,6 +154,10 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   const std::int64_t pixels = static_cast<std::int64_t>(size.width()) * size.height();
   if (IsTooLarge(reader, device, pixels)) {
     result.cause = TooLargeText(size);
+    return result;
+  }
+  if (IsCutTiff(device)) {
+    result.cause = kCutText;
     return result;
   }
   static std::mutex largeOnes;

@@ -1,3 +1,5 @@
+#include "TiffParts.h"
+
 #include <host/pixels/PictureEnd.h>
 
 #include <zenvora/strandel/IsoBoxes.h>
@@ -11,11 +13,9 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
-using Strandel::ByteRange;
 using Strandel::ByteView;
 using Strandel::IsoBoxes;
 using Strandel::JpegSegment;
@@ -23,7 +23,6 @@ using Strandel::JpegSegments;
 using Strandel::PhotoSource;
 using Strandel::PngChunks;
 using Strandel::TiffDirectories;
-using Strandel::TiffDirectory;
 using Strandel::TiffStructure;
 
 namespace {
@@ -71,30 +70,11 @@ bool BoxesEndTooSoon(PhotoSource& source) {
   return box.has_value();
 }
 
-/// False when what a directory tells of is not all there.
-bool HasAllParts(const TiffStructure& tiff, const TiffDirectory& directory, std::uint16_t places,
-                 std::uint16_t sizes) {
-  constexpr std::uint64_t kMostParts = 1'000'000;
-  const auto numbers = [&](std::uint16_t tag) {
-    const auto entry = tiff.Find(directory, tag);
-    return entry ? tiff.Numbers(*entry, kMostParts) : std::vector<std::uint64_t>();
-  };
-  const std::vector<std::uint64_t> at = numbers(places);
-  const std::vector<std::uint64_t> size = numbers(sizes);
-  for (std::size_t i = 0; i < std::min(at.size(), size.size()); ++i) {
-    if (ByteRange{at[i], size[i]}.End() > tiff.Bytes().Size()) {
-      return false;
-    }
-  }
-  return true;
-}
-
 bool TiffEndsTooSoon(PhotoSource& source) {
   const TiffStructure tiff(source, TiffStructure::Form::Classic);
   TiffDirectories directories(tiff);
   for (auto directory = directories.Next(); directory; directory = directories.Next()) {
-    if (!directory->isWhole || !HasAllParts(tiff, *directory, 0x0111, 0x0117) ||
-        !HasAllParts(tiff, *directory, 0x0144, 0x0145)) {
+    if (!directory->isWhole || !HoldsAllParts(tiff, *directory)) {
       return true;
     }
   }

@@ -94,7 +94,7 @@ JudgedPicture ReadJudgedPicture(const ioPath& file) {
       picture.size = picture.size.isEmpty() ? picture.image.size() : picture.size;
     }
     if (EndsTooSoon(file)) {
-      picture.degradation = "it breaks off before the end of its picture";
+      picture.degradation = kCutText;
     } else if (found.isDamaged || (found.isJpeg && IsDamagedJpeg(file))) {
       picture.degradation = kDamagedText;
     }

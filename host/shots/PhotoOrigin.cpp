@@ -129,7 +129,7 @@ PhotoOrigin ReadPhotoOrigin(const ioPath& file) {
     // What cannot be read says nothing for it.
   }
   if (EndsTooSoon(file)) {
-    origin.degradation = "it breaks off before the end of its picture";
+    origin.degradation = kCutText;
   } else if (tables.isJpeg && IsDamagedJpeg(file)) {
     origin.degradation = kDamagedText;
   }

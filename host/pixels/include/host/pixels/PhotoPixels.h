@@ -24,8 +24,9 @@ struct DecodedPicture {
   bool isDamaged = false;  ///< A part of the image is not what the picture shows.
 };
 
-/// What is told of damaged pictures.
+/// What is told of damaged pictures, and of those whose file ends too soon.
 constexpr const char* kDamagedText = "a part of the picture is damaged";
+constexpr const char* kCutText = "it breaks off before the end of its picture";
 
 /// Decodes a picture in one of the formats that photos come in, no larger than `longerSide`, in sRGB, turned
 /// upright when `upright`. No image for other formats, for pictures that would take too much memory, which is
