@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 seconds=${1:-15}
 shift || true
 fuzzers=("$@")
-[ ${#fuzzers[@]} -gt 0 ] || fuzzers=(Position Dates Metadata Calendar)
+[ ${#fuzzers[@]} -gt 0 ] || fuzzers=(Position Dates Metadata Calendar ImageLayout TiffEdit PictureEnd Sidecar ModelHead)
 work=build/fuzz
 export ASAN_OPTIONS=detect_odr_violation=0
 export LSAN_OPTIONS=suppressions=tests/support/lsan.suppressions:print_suppressions=0
