@@ -165,7 +165,7 @@
         <translation>Der Katalog enthält noch keine Fotos. Rufen Sie auf: lumidex scan ORDNER</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
             <numerusform>Das %1 Foto des Katalogs war beim letzten Einlesen nicht mehr da. Fehlt ein Laufwerk?</numerusform>
             <numerusform>Alle %1 Fotos des Katalogs waren beim letzten Einlesen nicht mehr da. Fehlt ein Laufwerk?</numerusform>
@@ -233,14 +233,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
             <numerusform>%1 Foto zum schon übernommenen Album %2 hinzugefügt.</numerusform>
             <numerusform>%1 Fotos zum schon übernommenen Album %2 hinzugefügt.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
+        <source>%1 was accepted before, and there are no photos to add.</source>
         <translation>An %1 ist nichts zu ändern, es war schon übernommen.</translation>
     </message>
     <message numerus="yes">
@@ -260,7 +260,7 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
         <translation>Es ist noch kein Album übernommen. „lumidex albums“ zeigt Vorschläge.</translation>
     </message>
     <message numerus="yes">
@@ -351,7 +351,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <translation>Es gibt keinen Kalender.</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
+        <source>Still in use: %1</source>
         <translation>Weiterhin in Gebrauch: %1</translation>
     </message>
     <message>
@@ -363,11 +363,11 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <translation>Der Kalender ist auf dem neuesten Stand: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>Der Feiertagskalender konnte nicht zu Ende gelesen werden, daher fehlen Feiertage. Versuchen Sie: lumidex calendar check oder lumidex calendar update.</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>Der Feiertagskalender %1 konnte nicht zu Ende gelesen werden, daher fehlen Feiertage. Versuchen Sie: lumidex calendar check oder lumidex calendar update.</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
+        <source>no problems found.</source>
         <translation>nichts steht im Wege.</translation>
     </message>
     <message>
@@ -416,7 +416,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <translation>In den angegebenen Ordnern sind keine Fotos.</translation>
     </message>
     <message>
-        <source>Trying</source>
+        <source>Checking</source>
         <translation>Probiere</translation>
     </message>
     <message>
@@ -480,7 +480,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <translation>Nichts wurde geändert.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 Foto bearbeitet; „lumidex undo“ macht es rückgängig.</numerusform>
             <numerusform>%1 Fotos bearbeitet; „lumidex undo“ macht es rückgängig.</numerusform>
@@ -508,7 +508,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <translation>Kopiere</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
         <translation>Abgebrochen. Was kopiert wurde, ist vollständig und verglichen; derselbe Befehl kopiert den Rest.</translation>
     </message>
     <message>
@@ -516,23 +516,23 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <translation>Nach %1 würden kopiert:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
+        <source>Would be added to the catalogue without copying:</source>
         <translation>An ihrem Ort würden aufgenommen:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
+        <source>Copies of one shot would get different names:</source>
         <translation>Diese Dateien gehören je zu einer Aufnahme, die freien Namen für sie nicht:</translation>
     </message>
     <message>
-        <source>Missing:</source>
+        <source>Not copied:</source>
         <translation>Es fehlen:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
+        <source>Not added to the catalogue:</source>
         <translation>Nicht in den Katalog aufgenommen:</translation>
     </message>
     <message>
-        <source>Left out:</source>
+        <source>Skipped:</source>
         <translation>Ausgelassen:</translation>
     </message>
     <message numerus="yes">
@@ -543,21 +543,21 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
             <numerusform>%1 Foto ist bereits im Katalog.</numerusform>
             <numerusform>%1 Fotos sind bereits im Katalog.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
             <numerusform>%1 Datei wurde schon früher kopiert.</numerusform>
             <numerusform>%1 Dateien wurden schon früher kopiert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
             <numerusform>%1 Foto kommt in den Quellen doppelt vor.</numerusform>
             <numerusform>%1 Fotos kommen in den Quellen doppelt vor.</numerusform>
@@ -579,7 +579,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
             <numerusform>%1 Foto an seinem Ort aufgenommen.</numerusform>
@@ -593,21 +593,21 @@ nothing was changed.</source>
 Nichts wurde geändert.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
             <numerusform>%1 Datei (%2) nach %3 kopiert und verglichen.</numerusform>
             <numerusform>%1 Dateien (%2) nach %3 kopiert, jede verglichen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
             <numerusform>%1 Foto neu im Katalog.</numerusform>
             <numerusform>%1 Fotos neu im Katalog.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
             <numerusform>%1 Datei fehlt; derselbe Befehl versucht es erneut.</numerusform>
             <numerusform>%1 Dateien fehlen; derselbe Befehl versucht es erneut.</numerusform>
@@ -619,7 +619,7 @@ Nichts wurde geändert.</translation>
         <translation>%1:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
         <translation>%1 gibt es nicht; %2 wird verwendet.</translation>
     </message>
@@ -660,22 +660,22 @@ Nichts wurde geändert.</translation>
         <translation>Nicht umbenennbar:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
             <numerusform>%1 Foto hat kein eigenes Datum; die Zeit der Datei wird verwendet.</numerusform>
             <numerusform>%1 Fotos haben kein eigenes Datum; die Zeiten der Dateien werden verwendet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
             <numerusform>%1 Datei hat ihren Namen bereits.</numerusform>
             <numerusform>%1 Dateien haben ihre Namen bereits.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Nichts würde umbenannt: Der neue Name ist unmöglich für %1 von %2 Foto. Mit
 --skip-problems werden die übrigen umbenannt.</numerusform>
@@ -684,8 +684,8 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Nichts wurde umbenannt: Der neue Name ist unmöglich für %1 von %2 Foto. Mit
 --skip-problems werden die übrigen umbenannt.</numerusform>
@@ -710,14 +710,14 @@ others are renamed.</source>
         <translation>Nichts wurde umbenannt.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
             <numerusform>%1 Datei konnte den alten Namen nicht zurückbekommen.</numerusform>
             <numerusform>%1 Dateien konnten den alten Namen nicht zurückbekommen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
             <numerusform>%1 umbenannt; „lumidex undo“ macht es rückgängig.</numerusform>
@@ -733,7 +733,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
+        <source>Problems</source>
         <translation>Im Wege</translation>
     </message>
     <message>
@@ -741,7 +741,7 @@ others are renamed.</source>
         <translation>Bericht: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
             <numerusform>%1 Bild konnte nicht gelesen werden und ist durch einen Platzhalter ersetzt.</numerusform>
             <numerusform>%1 Bilder konnten nicht gelesen werden und sind durch Platzhalter ersetzt.</numerusform>
@@ -767,7 +767,7 @@ others are renamed.</source>
         <translation>Schleife</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
+        <source>Not added:</source>
         <translation>Nicht aufgenommen:</translation>
     </message>
     <message numerus="yes">
@@ -846,7 +846,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
             <numerusform>verschwunden, jetzt als verloren markiert</numerusform>
@@ -866,11 +866,11 @@ others are renamed.</source>
         <translation>Lese ein</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
         <translation>Abgebrochen. Was bisher gelesen wurde, steht im Katalog; derselbe Befehl macht dort weiter.</translation>
     </message>
     <message>
-        <source>Looking at</source>
+        <source>Analysing</source>
         <translation>Sichte</translation>
     </message>
     <message>
@@ -886,7 +886,7 @@ others are renamed.</source>
         <translation>Abgebrochen. Was verschoben wurde, liegt im Papierkorb.</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
+        <source>Interrupted. Run the same command to continue.</source>
         <translation>Abgebrochen. Derselbe Befehl macht dort weiter.</translation>
     </message>
     <message>
@@ -1023,17 +1023,17 @@ others are renamed.</source>
         <translation>Die Fotos gleichen sich zu %1 und sind in verschiedenen Gruppen.</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
         <translation>Ein Foto kommt in die erste Gruppe, deren Mitte, dem Mittel ihrer damaligen Fotos, es zu mehr als
 %1 glich; spätere Fotos verschieben die Mitte.</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
+        <source>Matching all photos again gives the same groups.</source>
         <translation>Die Gruppen sind so, wie ein neuer Vergleich aller Fotos sie bildet.</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
         <translation>„lumidex similar --anew“ bildet die Gruppen von Grund auf neu.</translation>
     </message>
     <message numerus="yes">
@@ -1200,26 +1200,26 @@ above %1 against; later photos move the centre.</source>
         <translation>An ihrem Platz gelassen</translation>
     </message>
     <message>
-        <source>Doing again</source>
+        <source>Redoing</source>
         <translation>Wiederhole</translation>
     </message>
     <message>
-        <source>Taking back</source>
+        <source>Undoing</source>
         <translation>Mache rückgängig</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
+        <source>Interrupted. What was done so far stays done.</source>
         <translation>Abgebrochen. Was bisher getan wurde, bleibt so.</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
             <numerusform>Nur %1 Schritt der %2 verlangten.</numerusform>
             <numerusform>Nur %1 Schritte der %2 verlangten.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>Die Einstellung %1 ergibt keinen Sinn (%2); die übliche Grenze wird verwendet.</translation>
     </message>
     <message numerus="yes">
@@ -1241,7 +1241,7 @@ above %1 against; later photos move the centre.</source>
         <translation>aufgegeben</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
+        <source>There is nothing to undo.</source>
         <translation>Es gibt nichts, was sich rückgängig machen ließe.</translation>
     </message>
     <message>
@@ -1262,37 +1262,37 @@ above %1 against; later photos move the centre.</source>
         <translation>Unverändert gelassen</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
         <translation>Nichts von „%1“ wurde wiederholt.</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
         <translation>Nichts von „%1“ wurde rückgängig gemacht.</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
+        <source>Redone: %1.</source>
         <translation>Wiederholt: %1.</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
+        <source>Undone: %1.</source>
         <translation>Rückgängig gemacht: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Wiederholt: %1, bis auf %2 Datei.</numerusform>
             <numerusform>Wiederholt: %1, bis auf %2 Dateien.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Rückgängig gemacht: %1, bis auf %2 Datei.</numerusform>
             <numerusform>Rückgängig gemacht: %1, bis auf %2 Dateien.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
         <translation>Ältere Schritte warten darauf; „lumidex undo --skip“ lässt es endgültig, wie es ist.</translation>
     </message>
     <message>
@@ -1300,11 +1300,11 @@ above %1 against; later photos move the centre.</source>
         <translation>Es gibt nichts zu überspringen.</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
+        <source>Skipped: %1.</source>
         <translation>Aufgegeben: %1.</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
         <translation>Was davon aufbewahrt ist (%1), bleibt, bis es zu alt oder zu viel wird.</translation>
     </message>
     <message numerus="yes">
@@ -1315,19 +1315,19 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
         <translation>Schritte lassen sich innerhalb von %1 rückgängig machen.</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
+        <source>There is nothing to redo.</source>
         <translation>Es gibt nichts zu wiederholen.</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
+        <source>There is nothing to undo.</source>
         <translation>Es gibt nichts rückgängig zu machen.</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
+        <source>Copies would share names with files of other shots:</source>
         <translation>Diese Dateien gehören zu anderen Aufnahmen als die, deren Namen sie dort teilen:</translation>
     </message>
     <message>
@@ -1505,7 +1505,7 @@ above %1 against; later photos move the centre.</source>
         <translation>Nicht verschlagwortet</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 Foto geändert; „lumidex undo“ macht es rückgängig.</numerusform>
             <numerusform>%1 Fotos geändert; „lumidex undo“ macht es rückgängig.</numerusform>
@@ -1519,11 +1519,11 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
         <translation>„lumidex undo“ macht es rückgängig.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
             <numerusform>%1 Foto wurde ausgelassen, denn nur die Zeit seiner Datei datiert es. Um es aufzunehmen, rufen Sie auf: lumidex albums --file-times</numerusform>
             <numerusform>%1 Fotos wurden ausgelassen, denn nur die Zeiten ihrer Dateien datieren sie. Um sie aufzunehmen, rufen Sie auf: lumidex albums --file-times</numerusform>
@@ -1535,7 +1535,7 @@ above %1 against; later photos move the centre.</source>
         <translation>Abgelehnt von %1</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
+        <source>If all these photos are edited at once:</source>
         <translation>Zum Bearbeiten aller dieser Fotos auf einmal:</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
+        <source>There are no photos or videos in the given folders.</source>
         <translation>In den angegebenen Ordnern sind keine Fotos oder Videos.</translation>
     </message>
     <message>
@@ -1592,7 +1592,7 @@ above %1 against; later photos move the centre.</source>
         <translation>Die Datei ist versteckt</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <source>It is not a photo, a video or a file that belongs to one</source>
         <translation>Die Datei ist weder ein Foto noch ein Video, noch gehört sie zu einem</translation>
     </message>
     <message>
@@ -1600,28 +1600,28 @@ above %1 against; later photos move the centre.</source>
         <translation>„lumidex undo“ verschiebt die Kopien dieses Laufs in den Papierkorb.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
             <numerusform>%1 Datei wird wie gewünscht nicht kopiert: Sie bleibt, wo sie ist.</numerusform>
             <numerusform>%1 Dateien werden wie gewünscht nicht kopiert: Sie bleiben, wo sie sind.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
             <numerusform>%1 Datei wird nicht kopiert: Sie liegt nicht auf einem Wechseldatenträger und bleibt, wo sie ist. „--to ORDNER“ kopiert sie.</numerusform>
             <numerusform>%1 Dateien werden nicht kopiert: Sie liegen nicht auf einem Wechseldatenträger und bleiben, wo sie sind. „--to ORDNER“ kopiert sie.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
             <numerusform>%1 davon ist ein Video, das der Katalog nicht aufnimmt.</numerusform>
             <numerusform>%1 davon sind Videos, die der Katalog nicht aufnimmt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
             <numerusform>%1 Verwaltungsdatei von Kameras und Systemen bleibt zurück.</numerusform>
             <numerusform>%1 Verwaltungsdateien von Kameras und Systemen bleiben zurück.</numerusform>
@@ -1632,11 +1632,11 @@ above %1 against; later photos move the centre.</source>
         <translation>Nicht alles in %1 ist kopiert: Noch nicht formatieren oder leeren!</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
         <translation>Kopien liegen in %1 selbst: Nicht formatieren oder leeren!</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
             <numerusform>%1 Schritt kann nicht mehr rückgängig gemacht werden: Seitdem sind mehr als %2 Nutzungstage vergangen.</numerusform>
             <numerusform>%1 Schritte können nicht mehr rückgängig gemacht werden: Seitdem sind mehr als %2 Nutzungstage vergangen.</numerusform>
@@ -1669,8 +1669,8 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
         <translation>Vielleicht verschoben, aber das lässt sich nicht entscheiden. Die Fotos behalten
 Schlagwörter und Alben, die Dateien sind neu:</translation>
     </message>
@@ -1730,7 +1730,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
         <translation>unversehrtes</translation>
     </message>
@@ -1739,7 +1739,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         <translation>die eigene Datei der Kamera</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
+        <source>has maker notes</source>
         <translation>mit Herstellernotiz</translation>
     </message>
     <message>
@@ -1751,7 +1751,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         <translation>weniger komprimiert</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
+        <source>more bytes per pixel</source>
         <translation>mehr Bytes je Pixel</translation>
     </message>
     <message>
@@ -1817,11 +1817,11 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         <translation>URTEIL</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
         <translation>Zum Rückgängigmachen müssen Originale von %1 aufbewahrt werden, und die Grenze ist %2.</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
         <translation>„lumidex undo --keep-size %1“ hebt die Grenze an; mit --no-undo wird nichts aufbewahrt, und es lässt sich nicht rückgängig machen.</translation>
     </message>
     <message numerus="yes">
@@ -1847,15 +1847,15 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         <translation>--forget-older erlaubt es.</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
+        <source>Forget them and continue? [y/N]</source>
         <translation>Diese vergessen und fortfahren? [j/N]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
+        <source>No originals would be kept, so the edit could not be undone.</source>
         <translation>Nichts würde aufbewahrt: Es ließe sich nicht rückgängig machen.</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
+        <source>The edit would be refused.</source>
         <translation>Es würde abgelehnt.</translation>
     </message>
     <message numerus="yes">
@@ -1901,7 +1901,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
+        <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>Ohne das fortfahren, was zum Wiederholen nötig ist? [j/N]</translation>
     </message>
     <message>
@@ -1917,11 +1917,11 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
         <translation>Für das, was zum Wiederholen aufzubewahren ist, fehlt der Platz; „lumidex undo --no-redo“ kommt ohne aus.</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
             <numerusform>Das Rückgängigmachen von „%1“ (%2) wird %3 Datei lassen, wie sie ist, denn dieser Schritt hat sie seitdem geändert:</numerusform>
             <numerusform>Das Rückgängigmachen von „%1“ (%2) wird %3 Dateien lassen, wie sie sind, denn dieser Schritt hat sie seitdem geändert:</numerusform>
@@ -1940,18 +1940,18 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
             <numerusform>Ein Import lässt %1 weitere Datei zurück (--json führt sie auf).</numerusform>
             <numerusform>Ein Import lässt %1 weitere Dateien zurück (--json führt sie auf).</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
         <translation>In %1 bleibt nichts zurück: Jede Datei hat anderswo eine verglichene Kopie.</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
         <translation>In %1 bleiben nur Verwaltungsdateien zurück: Jede andere Datei hat anderswo eine verglichene Kopie.</translation>
     </message>
     <message>
@@ -1959,8 +1959,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         <translation>Es kann gefahrlos formatiert werden.</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
         <translation>Was diesen Ordner betrifft, kann gefahrlos formatiert werden; was daneben liegt,
 wurde nicht angesehen.</translation>
     </message>
@@ -1969,11 +1968,11 @@ wurde nicht angesehen.</translation>
         <translation>nicht vergrößert</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
         <translation>Auf dem Laufwerk von %1 sind noch %2 frei, und um alle Fotos zu bearbeiten, werden %3 gebraucht: Die letzten würden unverändert gelassen.</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>Bei %1 davon ist die Quelle verschwunden oder wurde geändert: Leeren Sie den Papierkorb nicht, bevor Sie eine andere Kopie haben.</numerusform>
             <numerusform>Bei %1 davon sind die Quellen verschwunden oder wurden geändert: Leeren Sie den Papierkorb nicht, bevor Sie andere Kopien haben.</numerusform>

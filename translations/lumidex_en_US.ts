@@ -165,10 +165,10 @@
         <translation>The catalogue holds no photos yet. Run: lumidex scan DIR</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>All %1 photo of the catalogue were gone at the last scan. Is a disk missing?</numerusform>
-            <numerusform>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</numerusform>
+            <numerusform>The %1 photo of the catalogue was missing at the last scan. Is a disk not connected?</numerusform>
+            <numerusform>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</numerusform>
         </translation>
     </message>
     <message>
@@ -233,15 +233,15 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
-            <numerusform>Added %1 photo to %2, accepted before.</numerusform>
-            <numerusform>Added %1 photos to %2, accepted before.</numerusform>
+            <numerusform>Added %1 photo to %2, which was accepted before.</numerusform>
+            <numerusform>Added %1 photos to %2, which was accepted before.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
-        <translation>Nothing to change in %1, accepted before.</translation>
+        <source>%1 was accepted before, and there are no photos to add.</source>
+        <translation>%1 was accepted before, and there are no photos to add.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -260,8 +260,8 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
-        <translation>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</translation>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <translation>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</translation>
     </message>
     <message numerus="yes">
         <source>%1 accepted albums.</source>
@@ -351,8 +351,8 @@ holiday, or of the weekends of one month.</translation>
         <translation>There is no calendar.</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
-        <translation>In use as before: %1</translation>
+        <source>Still in use: %1</source>
+        <translation>Still in use: %1</translation>
     </message>
     <message>
         <source>The calendar was updated: %1</source>
@@ -363,12 +363,12 @@ holiday, or of the weekends of one month.</translation>
         <translation>The calendar is up to date: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</translation>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</translation>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
+        <translation>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -404,8 +404,8 @@ holiday, or of the weekends of one month.</translation>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
-        <translation>nothing is in the way.</translation>
+        <source>no problems found.</source>
+        <translation>no problems found.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -416,8 +416,8 @@ holiday, or of the weekends of one month.</translation>
         <translation>There are no photos in the given folders.</translation>
     </message>
     <message>
-        <source>Trying</source>
-        <translation>Trying</translation>
+        <source>Checking</source>
+        <translation>Checking</translation>
     </message>
     <message>
         <source>photos</source>
@@ -480,10 +480,10 @@ holiday, or of the weekends of one month.</translation>
         <translation>Nothing was changed.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
-            <numerusform>%1 photo edited; &quot;lumidex undo&quot; takes it back.</numerusform>
-            <numerusform>%1 photos edited; &quot;lumidex undo&quot; takes it back.</numerusform>
+            <numerusform>%1 photo edited; &quot;lumidex undo&quot; undoes it.</numerusform>
+            <numerusform>%1 photos edited; &quot;lumidex undo&quot; undoes it.</numerusform>
         </translation>
     </message>
     <message>
@@ -508,32 +508,32 @@ holiday, or of the weekends of one month.</translation>
         <translation>Copying</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
-        <translation>Interrupted. What was copied is whole and compared; the same command copies the rest.</translation>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
+        <translation>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
         <translation>Would be copied to %1:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
-        <translation>Would be taken in where they lie:</translation>
+        <source>Would be added to the catalogue without copying:</source>
+        <translation>Would be added to the catalogue without copying:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
-        <translation>These files are of one shot each, and the free names for them are not:</translation>
+        <source>Copies of one shot would get different names:</source>
+        <translation>Copies of one shot would get different names:</translation>
     </message>
     <message>
-        <source>Missing:</source>
-        <translation>Missing:</translation>
+        <source>Not copied:</source>
+        <translation>Not copied:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
-        <translation>Not taken into the catalogue:</translation>
+        <source>Not added to the catalogue:</source>
+        <translation>Not added to the catalogue:</translation>
     </message>
     <message>
-        <source>Left out:</source>
-        <translation>Left out:</translation>
+        <source>Skipped:</source>
+        <translation>Skipped:</translation>
     </message>
     <message numerus="yes">
         <source>and %1 more (--json lists them)</source>
@@ -543,24 +543,24 @@ holiday, or of the weekends of one month.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
-            <numerusform>%1 photo in the catalogue already.</numerusform>
-            <numerusform>%1 photos in the catalogue already.</numerusform>
+            <numerusform>%1 photo is in the catalogue already.</numerusform>
+            <numerusform>%1 photos are in the catalogue already.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
-            <numerusform>%1 file copied before.</numerusform>
-            <numerusform>%1 files copied before.</numerusform>
+            <numerusform>%1 file was copied before.</numerusform>
+            <numerusform>%1 files were copied before.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
-            <numerusform>%1 photo there twice among the sources.</numerusform>
-            <numerusform>%1 photos there twice among the sources.</numerusform>
+            <numerusform>%1 photo occurs twice in the sources.</numerusform>
+            <numerusform>%1 photos occur twice in the sources.</numerusform>
         </translation>
     </message>
     <message>
@@ -579,11 +579,11 @@ holiday, or of the weekends of one month.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>%1 photo taken in where they lie.</numerusform>
-            <numerusform>%1 photos taken in where they lie.</numerusform>
+            <numerusform>%1 photo added without copying.</numerusform>
+            <numerusform>%1 photos added without copying.</numerusform>
         </translation>
     </message>
     <message>
@@ -593,24 +593,24 @@ nothing was changed.</source>
 nothing was changed.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>%1 file (%2) copied to %3, each compared.</numerusform>
-            <numerusform>%1 files (%2) copied to %3, each compared.</numerusform>
+            <numerusform>%1 file (%2) copied to %3 and verified.</numerusform>
+            <numerusform>%1 files (%2) copied to %3 and verified.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>%1 photo new in the catalogue.</numerusform>
-            <numerusform>%1 photos new in the catalogue.</numerusform>
+            <numerusform>%1 photo added to the catalogue.</numerusform>
+            <numerusform>%1 photos added to the catalogue.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>%1 file missing; the same command tries again.</numerusform>
-            <numerusform>%1 files missing; the same command tries again.</numerusform>
+            <numerusform>%1 file was not copied; run the same command to try again.</numerusform>
+            <numerusform>%1 files were not copied; run the same command to try again.</numerusform>
         </translation>
     </message>
     <message>
@@ -619,9 +619,9 @@ nothing was changed.</translation>
         <translation>%1:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>There is no %1; %2 is used.</translation>
+        <translation>%1 is not supported; %2 is used.</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -660,37 +660,37 @@ nothing was changed.</translation>
         <translation>Cannot be renamed:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>%1 photo has no date of its own; its file&apos;s time is used.</numerusform>
-            <numerusform>%1 photos have no date of their own; their files&apos; times are used.</numerusform>
+            <numerusform>%1 photo has no date; the time of its file is used.</numerusform>
+            <numerusform>%1 photos have no date; the times of their files are used.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>%1 file has its name already.</numerusform>
-            <numerusform>%1 files have their names already.</numerusform>
+            <numerusform>%1 file has its new name already.</numerusform>
+            <numerusform>%1 files have their new names already.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Nothing would be renamed: %1 of %2 photo cannot have the new name. With --skip-problems the
-others are renamed.</numerusform>
-            <numerusform>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</numerusform>
+            <numerusform>Nothing would be renamed: %1 of %2 photo cannot get its new name.
+Add --skip-problems to rename the others.</numerusform>
+            <numerusform>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Nothing was renamed: %1 of %2 photo cannot have the new name. With --skip-problems the
-others are renamed.</numerusform>
-            <numerusform>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</numerusform>
+            <numerusform>Nothing was renamed: %1 of %2 photo cannot get its new name.
+Add --skip-problems to rename the others.</numerusform>
+            <numerusform>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</numerusform>
         </translation>
     </message>
     <message>
@@ -710,18 +710,18 @@ others are renamed.</numerusform>
         <translation>Nothing was renamed.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
-            <numerusform>%1 file could not be given back the old name.</numerusform>
-            <numerusform>%1 files could not be given back the old name.</numerusform>
+            <numerusform>%1 file could not get its old name back.</numerusform>
+            <numerusform>%1 files could not get their old names back.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
-            <numerusform>%1 renamed; &quot;lumidex undo&quot; takes it back.</numerusform>
-            <numerusform>%1 renamed; &quot;lumidex undo&quot; takes it back.</numerusform>
+            <numerusform>%1 renamed; &quot;lumidex undo&quot; undoes it.</numerusform>
+            <numerusform>%1 renamed; &quot;lumidex undo&quot; undoes it.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -733,18 +733,18 @@ others are renamed.</numerusform>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
-        <translation>In the way</translation>
+        <source>Problems</source>
+        <translation>Problems</translation>
     </message>
     <message>
         <source>Report: %1</source>
         <translation>Report: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
-            <numerusform>%1 picture could not be read and got a placeholder.</numerusform>
-            <numerusform>%1 pictures could not be read and got a placeholder.</numerusform>
+            <numerusform>%1 picture could not be read; a placeholder stands for it.</numerusform>
+            <numerusform>%1 pictures could not be read; placeholders stand for them.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -767,8 +767,8 @@ others are renamed.</numerusform>
         <translation>loop</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
-        <translation>Not taken in:</translation>
+        <source>Not added:</source>
+        <translation>Not added:</translation>
     </message>
     <message numerus="yes">
         <source>%1 original</source>
@@ -846,11 +846,11 @@ others are renamed.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
-            <numerusform>gone, now marked lost</numerusform>
-            <numerusform>gone, now marked lost</numerusform>
+            <numerusform>missing, now marked as lost</numerusform>
+            <numerusform>missing, now marked as lost</numerusform>
         </translation>
     </message>
     <message>
@@ -866,12 +866,12 @@ others are renamed.</numerusform>
         <translation>Scanning</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
-        <translation>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</translation>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
+        <translation>Interrupted. What was read so far is in the catalogue; run the same command to continue.</translation>
     </message>
     <message>
-        <source>Looking at</source>
-        <translation>Looking at</translation>
+        <source>Analysing</source>
+        <translation>Analysing</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -886,8 +886,8 @@ others are renamed.</numerusform>
         <translation>Interrupted. What was moved is in the trash.</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
-        <translation>Interrupted. The same command goes on from there.</translation>
+        <source>Interrupted. Run the same command to continue.</source>
+        <translation>Interrupted. Run the same command to continue.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -1023,18 +1023,18 @@ others are renamed.</numerusform>
         <translation>The photos score %1 against each other and are in different groups.</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
-        <translation>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</translation>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
+        <translation>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
-        <translation>The groups are as matching all photos again makes them.</translation>
+        <source>Matching all photos again gives the same groups.</source>
+        <translation>Matching all photos again gives the same groups.</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
-        <translation>&quot;lumidex similar --anew&quot; makes the groups from nothing.</translation>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
+        <translation>&quot;lumidex similar --anew&quot; makes all groups again.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1200,27 +1200,27 @@ above %1 against; later photos move the centre.</translation>
         <translation>Left where they are</translation>
     </message>
     <message>
-        <source>Doing again</source>
-        <translation>Doing again</translation>
+        <source>Redoing</source>
+        <translation>Redoing</translation>
     </message>
     <message>
-        <source>Taking back</source>
-        <translation>Taking back</translation>
+        <source>Undoing</source>
+        <translation>Undoing</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
-        <translation>Interrupted. What was done so far stays so.</translation>
+        <source>Interrupted. What was done so far stays done.</source>
+        <translation>Interrupted. What was done so far stays done.</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>Only %1 step of the %2 asked for.</numerusform>
-            <numerusform>Only %1 steps of the %2 asked for.</numerusform>
+            <numerusform>Only %1 of the %2 steps that you asked for.</numerusform>
+            <numerusform>Only %1 of the %2 steps that you asked for.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
-        <translation>The setting %1 makes no sense (%2); the usual limit is used.</translation>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
+        <translation>The setting %1 is invalid (%2); the default is used.</translation>
     </message>
     <message numerus="yes">
         <source>%1 days and %2</source>
@@ -1241,8 +1241,8 @@ above %1 against; later photos move the centre.</translation>
         <translation>given up</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
-        <translation>There is nothing that could be undone.</translation>
+        <source>There is nothing to undo.</source>
+        <translation>There is nothing to undo.</translation>
     </message>
     <message>
         <source>WHAT</source>
@@ -1262,50 +1262,50 @@ above %1 against; later photos move the centre.</translation>
         <translation>Left as they are</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
-        <translation>Nothing of &quot;%1&quot; was done again.</translation>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
+        <translation>Nothing of &quot;%1&quot; was redone.</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
-        <translation>Nothing of &quot;%1&quot; was taken back.</translation>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
+        <translation>Nothing of &quot;%1&quot; was undone.</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
-        <translation>Done again: %1.</translation>
+        <source>Redone: %1.</source>
+        <translation>Redone: %1.</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
-        <translation>Taken back: %1.</translation>
+        <source>Undone: %1.</source>
+        <translation>Undone: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
-            <numerusform>Done again: %1, but for %2 file.</numerusform>
-            <numerusform>Done again: %1, but for %2 files.</numerusform>
+            <numerusform>Redone: %1, except for %2 file.</numerusform>
+            <numerusform>Redone: %1, except for %2 files.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
-            <numerusform>Taken back: %1, but for %2 file.</numerusform>
-            <numerusform>Taken back: %1, but for %2 files.</numerusform>
+            <numerusform>Undone: %1, except for %2 file.</numerusform>
+            <numerusform>Undone: %1, except for %2 files.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
-        <translation>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</translation>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
+        <translation>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
         <translation>There is nothing to skip.</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
-        <translation>Given up: %1.</translation>
+        <source>Skipped: %1.</source>
+        <translation>Skipped: %1.</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
-        <translation>What is kept of it (%1) stays until it is too old or too much.</translation>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
+        <translation>Its originals (%1) are kept until they exceed the limits of undo.</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1315,20 +1315,20 @@ above %1 against; later photos move the centre.</translation>
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
-        <translation>Steps can be undone within %1.</translation>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
+        <translation>Steps can be undone for %1 days of use, with up to %2 of originals.</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
-        <translation>There is nothing to do again.</translation>
+        <source>There is nothing to redo.</source>
+        <translation>There is nothing to redo.</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
-        <translation>There is nothing to take back.</translation>
+        <source>There is nothing to undo.</source>
+        <translation>There is nothing to undo.</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
-        <translation>These files are of other shots than those whose names they share there:</translation>
+        <source>Copies would share names with files of other shots:</source>
+        <translation>Copies would share names with files of other shots:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1505,10 +1505,10 @@ above %1 against; later photos move the centre.</translation>
         <translation>Not tagged</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
-            <numerusform>%1 photo changed; &quot;lumidex undo&quot; takes it back.</numerusform>
-            <numerusform>%1 photos changed; &quot;lumidex undo&quot; takes it back.</numerusform>
+            <numerusform>%1 photo changed; &quot;lumidex undo&quot; undoes it.</numerusform>
+            <numerusform>%1 photos changed; &quot;lumidex undo&quot; undoes it.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1519,14 +1519,14 @@ above %1 against; later photos move the centre.</translation>
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
-        <translation>&quot;lumidex undo&quot; takes it back.</translation>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
+        <translation>&quot;lumidex undo&quot; undoes it.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>%1 photo was left out, for only the time of its file dates it. To take it in, run: lumidex albums --file-times</numerusform>
-            <numerusform>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</numerusform>
+            <numerusform>%1 photo was left out, because it has no date but the time of its file. To include it, run: lumidex albums --file-times</numerusform>
+            <numerusform>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1535,8 +1535,8 @@ above %1 against; later photos move the centre.</translation>
         <translation>Refused by %1</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
-        <translation>Of an edit of all these photos at once:</translation>
+        <source>If all these photos are edited at once:</source>
+        <translation>If all these photos are edited at once:</translation>
     </message>
     <message>
         <source>Checking</source>
@@ -1584,47 +1584,47 @@ above %1 against; later photos move the centre.</translation>
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
-        <translation>There are no photos or films in the given folders.</translation>
+        <source>There are no photos or videos in the given folders.</source>
+        <translation>There are no photos or videos in the given folders.</translation>
     </message>
     <message>
         <source>It is hidden</source>
         <translation>It is hidden</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
-        <translation>It is neither a photo nor a film, nor what belongs to one</translation>
+        <source>It is not a photo, a video or a file that belongs to one</source>
+        <translation>It is not a photo, a video or a file that belongs to one</translation>
     </message>
     <message>
         <source>&quot;lumidex undo&quot; moves the copies of this run to the trash.</source>
         <translation>&quot;lumidex undo&quot; moves the copies of this run to the trash.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
-            <numerusform>%1 file is not copied, as you said: it stays where it is.</numerusform>
-            <numerusform>%1 files are not copied, as you said: they stay where they are.</numerusform>
+            <numerusform>%1 file is not copied, as you chose; it stays where it is.</numerusform>
+            <numerusform>%1 files are not copied, as you chose; they stay where they are.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>%1 file is not copied: it does not lie on removable storage and stays where it is. &quot;--to DIR&quot; copies it.</numerusform>
-            <numerusform>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</numerusform>
+            <numerusform>%1 file is not copied, because it is not on removable storage; &quot;--to DIR&quot; copies it.</numerusform>
+            <numerusform>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
-            <numerusform>%1 of them is a film, which the catalogue does not take.</numerusform>
-            <numerusform>%1 of them are films, which the catalogue does not take.</numerusform>
+            <numerusform>%1 of them is a video, which the catalogue does not hold.</numerusform>
+            <numerusform>%1 of them are videos, which the catalogue does not hold.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>%1 housekeeping file of cameras and systems is left.</numerusform>
-            <numerusform>%1 housekeeping files of cameras and systems are left.</numerusform>
+            <numerusform>%1 housekeeping file of cameras and systems is not copied.</numerusform>
+            <numerusform>%1 housekeeping files of cameras and systems are not copied.</numerusform>
         </translation>
     </message>
     <message>
@@ -1632,14 +1632,14 @@ above %1 against; later photos move the centre.</translation>
         <translation>Not everything in %1 is copied: do not format or empty it yet.</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
-        <translation>Copies lie in %1 itself: do not format or empty it.</translation>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
+        <translation>Copies are in %1 itself: do not format or empty it.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>%1 step cannot be undone any more: more than %2 days of use have passed since.</numerusform>
-            <numerusform>%1 steps cannot be undone any more: more than %2 days of use have passed since.</numerusform>
+            <numerusform>%1 step cannot be undone any more, because more than %2 days of use have passed.</numerusform>
+            <numerusform>%1 steps cannot be undone any more, because more than %2 days of use have passed.</numerusform>
         </translation>
     </message>
     <message>
@@ -1669,10 +1669,10 @@ above %1 against; later photos move the centre.</translation>
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
-        <translation>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</translation>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
+        <translation>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1730,17 +1730,17 @@ files are new:</translation>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
-        <translation>whole</translation>
+        <translation>undamaged</translation>
     </message>
     <message>
         <source>the camera&apos;s own file</source>
         <translation>the camera&apos;s own file</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
-        <translation>has the maker&apos;s note</translation>
+        <source>has maker notes</source>
+        <translation>has maker notes</translation>
     </message>
     <message>
         <source>not written by another program</source>
@@ -1751,8 +1751,8 @@ files are new:</translation>
         <translation>compressed less</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
-        <translation>more bytes a pixel</translation>
+        <source>more bytes per pixel</source>
+        <translation>more bytes per pixel</translation>
     </message>
     <message>
         <source>named by the camera</source>
@@ -1817,12 +1817,12 @@ files are new:</translation>
         <translation>VERDICT</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
-        <translation>To be taken back it needs %1 of originals kept, and the limit is %2.</translation>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
+        <translation>To undo the edit, %1 of originals must be kept, but the limit is %2.</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
-        <translation>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</translation>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
+        <translation>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1847,16 +1847,16 @@ files are new:</translation>
         <translation>--forget-older allows it.</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
-        <translation>Forget them and go on? [y/N]</translation>
+        <source>Forget them and continue? [y/N]</source>
+        <translation>Forget them and continue? [y/N]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
-        <translation>Nothing would be kept: it could not be taken back.</translation>
+        <source>No originals would be kept, so the edit could not be undone.</source>
+        <translation>No originals would be kept, so the edit could not be undone.</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
-        <translation>It would be refused.</translation>
+        <source>The edit would be refused.</source>
+        <translation>The edit would be refused.</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1901,8 +1901,8 @@ files are new:</translation>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
-        <translation>Go on without what redo needs? [y/N]</translation>
+        <source>Undo without keeping what redo needs? [y/N]</source>
+        <translation>Undo without keeping what redo needs? [y/N]</translation>
     </message>
     <message>
         <source>goes on</source>
@@ -1917,14 +1917,14 @@ files are new:</translation>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
-        <translation>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</translation>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
+        <translation>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
-            <numerusform>Undo of &quot;%1&quot; (%2) will leave %3 file as it is, for this step changed it since:</numerusform>
-            <numerusform>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</numerusform>
+            <numerusform>Undo of &quot;%1&quot; (%2) will leave %3 file as it is, because this step changed it later:</numerusform>
+            <numerusform>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</numerusform>
         </translation>
     </message>
     <message>
@@ -1940,43 +1940,41 @@ files are new:</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>An import leaves %1 other file (--json lists it).</numerusform>
-            <numerusform>An import leaves %1 other files (--json lists them).</numerusform>
+            <numerusform>An import skips %1 other file (--json lists it).</numerusform>
+            <numerusform>An import skips %1 other files (--json lists them).</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
-        <translation>Nothing is left in %1: each file has a compared copy elsewhere.</translation>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
+        <translation>Every file in %1 has a verified copy elsewhere.</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
-        <translation>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</translation>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
+        <translation>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
         <translation>It is safe to format.</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
-        <translation>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</translation>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
+        <translation>Formatting loses nothing of this folder; what is outside it was not checked.</translation>
     </message>
     <message>
         <source>not enlarged</source>
         <translation>not enlarged</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
-        <translation>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</translation>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
+        <translation>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
-            <numerusform>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</numerusform>
-            <numerusform>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</numerusform>
+            <numerusform>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</numerusform>
+            <numerusform>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</numerusform>
         </translation>
     </message>
 </context>

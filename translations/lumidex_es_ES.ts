@@ -165,7 +165,7 @@
         <translation>El catálogo todavía no contiene fotos. Ejecute: lumidex scan CARPETA</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
             <numerusform>La %1 foto del catálogo ya no estaba en la última exploración. ¿Falta algún disco?</numerusform>
             <numerusform>Las %1 fotos del catálogo ya no estaban en la última exploración. ¿Falta algún disco?</numerusform>
@@ -233,14 +233,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
             <numerusform>Se añadió %1 foto a %2, aceptado anteriormente.</numerusform>
             <numerusform>Se añadieron %1 fotos a %2, aceptado anteriormente.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
+        <source>%1 was accepted before, and there are no photos to add.</source>
         <translation>No hay nada que cambiar en %1, aceptado anteriormente.</translation>
     </message>
     <message numerus="yes">
@@ -260,7 +260,7 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
         <translation>Todavía no se ha aceptado ningún álbum. «lumidex albums» muestra propuestas.</translation>
     </message>
     <message numerus="yes">
@@ -351,7 +351,7 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <translation>No hay ningún calendario.</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
+        <source>Still in use: %1</source>
         <translation>Sigue en uso: %1</translation>
     </message>
     <message>
@@ -363,11 +363,11 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <translation>El calendario está al día: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>El calendario de días festivos no se pudo leer hasta el final, por lo que faltan días festivos. Pruebe: lumidex calendar check o lumidex calendar update.</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>El calendario de días festivos %1 no se pudo leer hasta el final, por lo que faltan días festivos. Pruebe: lumidex calendar check o lumidex calendar update.</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
+        <source>no problems found.</source>
         <translation>no hay ningún obstáculo.</translation>
     </message>
     <message>
@@ -416,7 +416,7 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <translation>No hay fotos en las carpetas indicadas.</translation>
     </message>
     <message>
-        <source>Trying</source>
+        <source>Checking</source>
         <translation>Probando</translation>
     </message>
     <message>
@@ -480,7 +480,7 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <translation>No se cambió nada.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 foto editada; «lumidex undo» lo deshace.</numerusform>
             <numerusform>%1 fotos editadas; «lumidex undo» lo deshace.</numerusform>
@@ -508,7 +508,7 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <translation>Copiando</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
         <translation>Interrumpido. Lo copiado está completo y comparado; la misma orden copia el resto.</translation>
     </message>
     <message>
@@ -516,23 +516,23 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <translation>Se copiarían en %1:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
+        <source>Would be added to the catalogue without copying:</source>
         <translation>Se incorporarían en su lugar actual:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
+        <source>Copies of one shot would get different names:</source>
         <translation>Los archivos de cada una de estas tomas van juntos, pero los nombres libres para ellos no:</translation>
     </message>
     <message>
-        <source>Missing:</source>
+        <source>Not copied:</source>
         <translation>Faltan:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
+        <source>Not added to the catalogue:</source>
         <translation>No incorporados al catálogo:</translation>
     </message>
     <message>
-        <source>Left out:</source>
+        <source>Skipped:</source>
         <translation>Omitidos:</translation>
     </message>
     <message numerus="yes">
@@ -543,21 +543,21 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
             <numerusform>%1 foto ya está en el catálogo.</numerusform>
             <numerusform>%1 fotos ya están en el catálogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
             <numerusform>%1 archivo ya se copió antes.</numerusform>
             <numerusform>%1 archivos ya se copiaron antes.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
             <numerusform>%1 foto está repetida en los orígenes.</numerusform>
             <numerusform>%1 fotos están repetidas en los orígenes.</numerusform>
@@ -579,7 +579,7 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
             <numerusform>%1 foto se incorporaría en su lugar actual.</numerusform>
@@ -593,21 +593,21 @@ nothing was changed.</source>
 no se cambió nada.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
             <numerusform>%1 archivo (%2) copiado en %3 y comparado.</numerusform>
             <numerusform>%1 archivos (%2) copiados en %3, todos comparados.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
             <numerusform>%1 foto nueva en el catálogo.</numerusform>
             <numerusform>%1 fotos nuevas en el catálogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
             <numerusform>Falta %1 archivo; la misma orden lo intenta de nuevo.</numerusform>
             <numerusform>Faltan %1 archivos; la misma orden lo intenta de nuevo.</numerusform>
@@ -619,7 +619,7 @@ no se cambió nada.</translation>
         <translation>%1:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
         <translation>No existe %1; se usa %2.</translation>
     </message>
@@ -660,22 +660,22 @@ no se cambió nada.</translation>
         <translation>No se pueden renombrar:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
             <numerusform>%1 foto no tiene fecha propia; se usa la hora del archivo.</numerusform>
             <numerusform>%1 fotos no tienen fecha propia; se usan las horas de los archivos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
             <numerusform>%1 archivo ya tiene su nombre.</numerusform>
             <numerusform>%1 archivos ya tienen su nombre.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>No se renombraría nada: el nombre nuevo es imposible para %1 de %2 foto. Con
 --skip-problems se renombran las demás.</numerusform>
@@ -684,8 +684,8 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>No se renombró nada: el nombre nuevo es imposible para %1 de %2 foto. Con
 --skip-problems se renombran las demás.</numerusform>
@@ -710,14 +710,14 @@ others are renamed.</source>
         <translation>No se renombró nada.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
             <numerusform>A %1 archivo no se le pudo devolver el nombre antiguo.</numerusform>
             <numerusform>A %1 archivos no se les pudo devolver el nombre antiguo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
             <numerusform>Se renombró %1; «lumidex undo» lo deshace.</numerusform>
@@ -733,7 +733,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
+        <source>Problems</source>
         <translation>Lo impide</translation>
     </message>
     <message>
@@ -741,7 +741,7 @@ others are renamed.</source>
         <translation>Informe: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
             <numerusform>%1 imagen no se pudo leer y se sustituyó por un marcador.</numerusform>
             <numerusform>%1 imágenes no se pudieron leer y se sustituyeron por un marcador.</numerusform>
@@ -767,7 +767,7 @@ others are renamed.</source>
         <translation>bucle</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
+        <source>Not added:</source>
         <translation>No incorporados:</translation>
     </message>
     <message numerus="yes">
@@ -846,7 +846,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
             <numerusform>desaparecido, marcado ahora como perdido</numerusform>
@@ -866,11 +866,11 @@ others are renamed.</source>
         <translation>Explorando</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
         <translation>Interrumpido. Lo leído hasta ahora está en el catálogo; la misma orden continúa desde ahí.</translation>
     </message>
     <message>
-        <source>Looking at</source>
+        <source>Analysing</source>
         <translation>Examinando</translation>
     </message>
     <message>
@@ -886,7 +886,7 @@ others are renamed.</source>
         <translation>Interrumpido. Lo movido está en la papelera.</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
+        <source>Interrupted. Run the same command to continue.</source>
         <translation>Interrumpido. La misma orden continúa desde ahí.</translation>
     </message>
     <message>
@@ -1023,17 +1023,17 @@ others are renamed.</source>
         <translation>Las fotos tienen una similitud de %1 entre sí y están en grupos distintos.</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
         <translation>Una foto se une al primer grupo con cuyo centro, la media de sus fotos en ese momento, su
 similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
+        <source>Matching all photos again gives the same groups.</source>
         <translation>Los grupos son los que resultan de volver a comparar todas las fotos.</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
         <translation>«lumidex similar --anew» forma los grupos desde cero.</translation>
     </message>
     <message numerus="yes">
@@ -1200,26 +1200,26 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>Dejados en su lugar</translation>
     </message>
     <message>
-        <source>Doing again</source>
+        <source>Redoing</source>
         <translation>Rehaciendo</translation>
     </message>
     <message>
-        <source>Taking back</source>
+        <source>Undoing</source>
         <translation>Deshaciendo</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
+        <source>Interrupted. What was done so far stays done.</source>
         <translation>Interrumpido. Lo hecho hasta ahora queda así.</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
             <numerusform>Solo %1 paso de los %2 pedidos.</numerusform>
             <numerusform>Solo %1 pasos de los %2 pedidos.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>El ajuste %1 no tiene sentido (%2); se usa el límite habitual.</translation>
     </message>
     <message numerus="yes">
@@ -1241,7 +1241,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>abandonado</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
+        <source>There is nothing to undo.</source>
         <translation>No hay nada que se pueda deshacer.</translation>
     </message>
     <message>
@@ -1262,37 +1262,37 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>Dejados como están</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
         <translation>No se rehízo nada de «%1».</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
         <translation>No se deshizo nada de «%1».</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
+        <source>Redone: %1.</source>
         <translation>Rehecho: %1.</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
+        <source>Undone: %1.</source>
         <translation>Deshecho: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Rehecho: %1, salvo %2 archivo.</numerusform>
             <numerusform>Rehecho: %1, salvo %2 archivos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Deshecho: %1, salvo %2 archivo.</numerusform>
             <numerusform>Deshecho: %1, salvo %2 archivos.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
         <translation>Los pasos anteriores esperan por este; «lumidex undo --skip» lo deja como está para siempre.</translation>
     </message>
     <message>
@@ -1300,11 +1300,11 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>No hay nada que omitir.</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
+        <source>Skipped: %1.</source>
         <translation>Abandonado: %1.</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
         <translation>Lo que se guarda de él (%1) permanece hasta que sea demasiado antiguo o demasiado grande.</translation>
     </message>
     <message numerus="yes">
@@ -1315,19 +1315,19 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
         <translation>Los pasos se pueden deshacer dentro del límite de %1.</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
+        <source>There is nothing to redo.</source>
         <translation>No hay nada que rehacer.</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
+        <source>There is nothing to undo.</source>
         <translation>No hay nada que deshacer.</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
+        <source>Copies would share names with files of other shots:</source>
         <translation>Estos archivos son de otras tomas que aquellos cuyos nombres comparten allí:</translation>
     </message>
     <message>
@@ -1505,7 +1505,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>Sin etiquetar</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 foto cambiada; «lumidex undo» lo deshace.</numerusform>
             <numerusform>%1 fotos cambiadas; «lumidex undo» lo deshace.</numerusform>
@@ -1519,11 +1519,11 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
         <translation>«lumidex undo» lo deshace.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
             <numerusform>Se omitió %1 foto, porque solo la hora de su archivo le da fecha. Para incluirla, ejecute: lumidex albums --file-times</numerusform>
             <numerusform>Se omitieron %1 fotos, porque solo las horas de sus archivos les dan fecha. Para incluirlas, ejecute: lumidex albums --file-times</numerusform>
@@ -1535,7 +1535,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>Rechazados por %1</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
+        <source>If all these photos are edited at once:</source>
         <translation>Si se editan todas estas fotos a la vez:</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
+        <source>There are no photos or videos in the given folders.</source>
         <translation>No hay fotos ni vídeos en las carpetas indicadas.</translation>
     </message>
     <message>
@@ -1592,7 +1592,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>Está oculto</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <source>It is not a photo, a video or a file that belongs to one</source>
         <translation>No es una foto ni un vídeo, ni pertenece a ninguno</translation>
     </message>
     <message>
@@ -1600,28 +1600,28 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>«lumidex undo» mueve a la papelera las copias de esta ejecución.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
             <numerusform>%1 archivo no se copia, como usted indicó: se queda donde está.</numerusform>
             <numerusform>%1 archivos no se copian, como usted indicó: se quedan donde están.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
             <numerusform>%1 archivo no se copia: no está en un soporte extraíble y se queda donde está. «--to CARPETA» lo copia.</numerusform>
             <numerusform>%1 archivos no se copian: no están en un soporte extraíble y se quedan donde están. «--to CARPETA» los copia.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
             <numerusform>%1 de ellos es un vídeo, que el catálogo no admite.</numerusform>
             <numerusform>%1 de ellos son vídeos, que el catálogo no admite.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
             <numerusform>Se deja %1 archivo de gestión de cámaras y sistemas.</numerusform>
             <numerusform>Se dejan %1 archivos de gestión de cámaras y sistemas.</numerusform>
@@ -1632,11 +1632,11 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>No está copiado todo lo que hay en %1: no lo formatee ni lo vacíe todavía.</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
         <translation>Hay copias en %1 mismo: no lo formatee ni lo vacíe.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
             <numerusform>%1 paso ya no se puede deshacer: desde entonces han pasado más de %2 días de uso.</numerusform>
             <numerusform>%1 pasos ya no se pueden deshacer: desde entonces han pasado más de %2 días de uso.</numerusform>
@@ -1669,8 +1669,8 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
         <translation>Quizá movidos, pero no se puede saber. Las fotos conservan sus etiquetas y
 álbumes, los archivos son nuevos:</translation>
     </message>
@@ -1730,7 +1730,7 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
         <translation>íntegra</translation>
     </message>
@@ -1739,7 +1739,7 @@ files are new:</source>
         <translation>el archivo de la propia cámara</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
+        <source>has maker notes</source>
         <translation>con la nota del fabricante</translation>
     </message>
     <message>
@@ -1751,7 +1751,7 @@ files are new:</source>
         <translation>menos comprimida</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
+        <source>more bytes per pixel</source>
         <translation>más bytes por píxel</translation>
     </message>
     <message>
@@ -1817,11 +1817,11 @@ files are new:</source>
         <translation>VEREDICTO</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
         <translation>Para poder deshacerlo hay que guardar %1 de originales, y el límite es %2.</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
         <translation>«lumidex undo --keep-size %1» eleva el límite; con --no-undo no se guarda nada y no se puede deshacer.</translation>
     </message>
     <message numerus="yes">
@@ -1847,15 +1847,15 @@ files are new:</source>
         <translation>--forget-older lo permite.</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
+        <source>Forget them and continue? [y/N]</source>
         <translation>¿Olvidarlos y continuar? [s/N]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
+        <source>No originals would be kept, so the edit could not be undone.</source>
         <translation>No se guardaría nada: no se podría deshacer.</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
+        <source>The edit would be refused.</source>
         <translation>Se rechazaría.</translation>
     </message>
     <message numerus="yes">
@@ -1901,7 +1901,7 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
+        <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>¿Continuar sin lo que hace falta para rehacer? [s/N]</translation>
     </message>
     <message>
@@ -1917,11 +1917,11 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
         <translation>No hay sitio para guardar lo que hace falta para rehacer; «lumidex undo --no-redo» prescinde de ello.</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
             <numerusform>Al deshacer «%1» (%2) quedará %3 archivo como está, porque este paso lo cambió después:</numerusform>
             <numerusform>Al deshacer «%1» (%2) quedarán %3 archivos como están, porque este paso los cambió después:</numerusform>
@@ -1940,18 +1940,18 @@ files are new:</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
             <numerusform>Una importación deja fuera %1 archivo más (--json lo enumera).</numerusform>
             <numerusform>Una importación deja fuera %1 archivos más (--json los enumera).</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
         <translation>No queda nada en %1: cada archivo tiene una copia comparada en otro lugar.</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
         <translation>En %1 solo quedan archivos de gestión: cada uno de los demás archivos tiene una copia comparada en otro lugar.</translation>
     </message>
     <message>
@@ -1959,8 +1959,7 @@ files are new:</source>
         <translation>Se puede formatear sin riesgo.</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
         <translation>Por lo que toca a esta carpeta, se puede formatear sin riesgo; lo que hay junto
 a ella no se ha mirado.</translation>
     </message>
@@ -1969,11 +1968,11 @@ a ella no se ha mirado.</translation>
         <translation>no ampliada</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
         <translation>En el disco de %1 quedan %2 libres, y editar todas las fotos requiere %3: las últimas se dejarían como están.</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>El archivo de origen de %1 de ellas ha desaparecido o ha cambiado: no vacíe la papelera antes de tener otra copia.</numerusform>
             <numerusform>Los archivos de origen de %1 de ellas han desaparecido o han cambiado: no vacíe la papelera antes de tener otras copias.</numerusform>

@@ -165,7 +165,7 @@
         <translation>Le catalogue ne contient pas encore de photos. Lancez&#xa0;: lumidex scan DOSSIER</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
             <numerusform>La %1 photo du catalogue avait disparu lors de la dernière analyse. Un disque manque-t-il&#xa0;?</numerusform>
             <numerusform>Les %1 photos du catalogue avaient toutes disparu lors de la dernière analyse. Un disque manque-t-il&#xa0;?</numerusform>
@@ -233,14 +233,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
             <numerusform>%1 photo ajoutée à %2, déjà accepté.</numerusform>
             <numerusform>%1 photos ajoutées à %2, déjà accepté.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
+        <source>%1 was accepted before, and there are no photos to add.</source>
         <translation>Rien à changer dans %1, déjà accepté.</translation>
     </message>
     <message numerus="yes">
@@ -260,7 +260,7 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
         <translation>Aucun album n’est encore accepté. «&#xa0;lumidex albums&#xa0;» montre des propositions.</translation>
     </message>
     <message numerus="yes">
@@ -351,7 +351,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <translation>Il n’y a pas de calendrier.</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
+        <source>Still in use: %1</source>
         <translation>Toujours utilisé&#xa0;: %1</translation>
     </message>
     <message>
@@ -363,11 +363,11 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <translation>Le calendrier est à jour&#xa0;: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>Le calendrier des fêtes n’a pas pu être lu jusqu’au bout, il manque donc des jours de fête. Essayez&#xa0;: lumidex calendar check ou lumidex calendar update.</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>Le calendrier des fêtes %1 n’a pas pu être lu jusqu’au bout, il manque donc des jours de fête. Essayez&#xa0;: lumidex calendar check ou lumidex calendar update.</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
+        <source>no problems found.</source>
         <translation>aucun obstacle.</translation>
     </message>
     <message>
@@ -416,7 +416,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <translation>Il n’y a pas de photos dans les dossiers indiqués.</translation>
     </message>
     <message>
-        <source>Trying</source>
+        <source>Checking</source>
         <translation>Essai</translation>
     </message>
     <message>
@@ -480,7 +480,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <translation>Rien n’a été modifié.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 photo modifiée&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
             <numerusform>%1 photos modifiées&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
@@ -508,7 +508,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <translation>Copie</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
         <translation>Interrompu. Ce qui a été copié est complet et comparé&#xa0;; la même commande copie le reste.</translation>
     </message>
     <message>
@@ -516,23 +516,23 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <translation>Seraient copiés dans %1&#xa0;:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
+        <source>Would be added to the catalogue without copying:</source>
         <translation>Seraient ajoutées sur place&#xa0;:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
+        <source>Copies of one shot would get different names:</source>
         <translation>Les fichiers de chacune de ces prises de vue vont ensemble, mais pas les noms libres pour eux&#xa0;:</translation>
     </message>
     <message>
-        <source>Missing:</source>
+        <source>Not copied:</source>
         <translation>Manquants&#xa0;:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
+        <source>Not added to the catalogue:</source>
         <translation>Non ajoutés au catalogue&#xa0;:</translation>
     </message>
     <message>
-        <source>Left out:</source>
+        <source>Skipped:</source>
         <translation>Laissés de côté&#xa0;:</translation>
     </message>
     <message numerus="yes">
@@ -543,21 +543,21 @@ même jour de fête ou des week-ends d’un mois.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
             <numerusform>%1 photo est déjà dans le catalogue.</numerusform>
             <numerusform>%1 photos sont déjà dans le catalogue.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
             <numerusform>%1 fichier avait déjà été copié.</numerusform>
             <numerusform>%1 fichiers avaient déjà été copiés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
             <numerusform>%1 photo figure deux fois dans les sources.</numerusform>
             <numerusform>%1 photos figurent deux fois dans les sources.</numerusform>
@@ -579,7 +579,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
             <numerusform>%1 photo ajoutée sur place.</numerusform>
@@ -593,21 +593,21 @@ nothing was changed.</source>
 rien n’a été modifié.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
             <numerusform>%1 fichier (%2) copié dans %3 et comparé.</numerusform>
             <numerusform>%1 fichiers (%2) copiés dans %3, tous comparés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
             <numerusform>%1 nouvelle photo dans le catalogue.</numerusform>
             <numerusform>%1 nouvelles photos dans le catalogue.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
             <numerusform>%1 fichier manque&#xa0;; la même commande réessaie.</numerusform>
             <numerusform>%1 fichiers manquent&#xa0;; la même commande réessaie.</numerusform>
@@ -619,7 +619,7 @@ rien n’a été modifié.</translation>
         <translation>%1&#xa0;:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
         <translation>Il n’y a pas de %1&#xa0;; %2 est utilisé.</translation>
     </message>
@@ -660,22 +660,22 @@ rien n’a été modifié.</translation>
         <translation>Impossible à renommer&#xa0;:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
             <numerusform>%1 photo n’a pas de date propre&#xa0;; l’heure du fichier est utilisée.</numerusform>
             <numerusform>%1 photos n’ont pas de date propre&#xa0;; l’heure des fichiers est utilisée.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
             <numerusform>%1 fichier a déjà son nom.</numerusform>
             <numerusform>%1 fichiers ont déjà leur nom.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Rien ne serait renommé&#xa0;: le nouveau nom est impossible pour %1 photo sur %2. Avec
 --skip-problems, les autres sont renommées.</numerusform>
@@ -684,8 +684,8 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Rien n’a été renommé&#xa0;: le nouveau nom est impossible pour %1 photo sur %2. Avec
 --skip-problems, les autres sont renommées.</numerusform>
@@ -710,14 +710,14 @@ others are renamed.</source>
         <translation>Rien n’a été renommé.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
             <numerusform>%1 fichier n’a pas pu retrouver son ancien nom.</numerusform>
             <numerusform>%1 fichiers n’ont pas pu retrouver leur ancien nom.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
             <numerusform>%1 renommée&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
@@ -733,7 +733,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
+        <source>Problems</source>
         <translation>Ce qui l’empêche</translation>
     </message>
     <message>
@@ -741,7 +741,7 @@ others are renamed.</source>
         <translation>Rapport&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
             <numerusform>%1 image n’a pas pu être lue et est remplacée par un emplacement vide.</numerusform>
             <numerusform>%1 images n’ont pas pu être lues et sont remplacées par un emplacement vide.</numerusform>
@@ -767,7 +767,7 @@ others are renamed.</source>
         <translation>boucle</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
+        <source>Not added:</source>
         <translation>Non ajoutés&#xa0;:</translation>
     </message>
     <message numerus="yes">
@@ -846,7 +846,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
             <numerusform>disparu, désormais marqué comme perdu</numerusform>
@@ -866,11 +866,11 @@ others are renamed.</source>
         <translation>Analyse</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
         <translation>Interrompu. Ce qui a été lu jusqu’ici est dans le catalogue&#xa0;; la même commande reprend à partir de là.</translation>
     </message>
     <message>
-        <source>Looking at</source>
+        <source>Analysing</source>
         <translation>Examen</translation>
     </message>
     <message>
@@ -886,7 +886,7 @@ others are renamed.</source>
         <translation>Interrompu. Ce qui a été déplacé est dans la corbeille.</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
+        <source>Interrupted. Run the same command to continue.</source>
         <translation>Interrompu. La même commande reprend à partir de là.</translation>
     </message>
     <message>
@@ -1023,17 +1023,17 @@ others are renamed.</source>
         <translation>Les photos se ressemblent à %1 et sont dans des groupes différents.</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
         <translation>Une photo rejoint le premier groupe dont le centre, la moyenne de ses photos à ce moment-là, lui
 ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
+        <source>Matching all photos again gives the same groups.</source>
         <translation>Les groupes sont tels qu’une nouvelle comparaison de toutes les photos les forme.</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
         <translation>«&#xa0;lumidex similar --anew&#xa0;» refait les groupes à partir de rien.</translation>
     </message>
     <message numerus="yes">
@@ -1200,26 +1200,26 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>Laissés à leur place</translation>
     </message>
     <message>
-        <source>Doing again</source>
+        <source>Redoing</source>
         <translation>Rétablissement</translation>
     </message>
     <message>
-        <source>Taking back</source>
+        <source>Undoing</source>
         <translation>Annulation</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
+        <source>Interrupted. What was done so far stays done.</source>
         <translation>Interrompu. Ce qui a été fait jusqu’ici le reste.</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
             <numerusform>Seulement %1 étape sur les %2 demandées.</numerusform>
             <numerusform>Seulement %1 étapes sur les %2 demandées.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>Le réglage %1 n’a pas de sens (%2)&#xa0;; la limite habituelle est utilisée.</translation>
     </message>
     <message numerus="yes">
@@ -1241,7 +1241,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>abandonnée</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
+        <source>There is nothing to undo.</source>
         <translation>Il n’y a rien qui puisse être annulé.</translation>
     </message>
     <message>
@@ -1262,37 +1262,37 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>Laissés tels quels</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
         <translation>Rien de «&#xa0;%1&#xa0;» n’a été rétabli.</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
         <translation>Rien de «&#xa0;%1&#xa0;» n’a été annulé.</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
+        <source>Redone: %1.</source>
         <translation>Rétabli&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
+        <source>Undone: %1.</source>
         <translation>Annulé&#xa0;: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Rétabli&#xa0;: %1, sauf %2 fichier.</numerusform>
             <numerusform>Rétabli&#xa0;: %1, sauf %2 fichiers.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Annulé&#xa0;: %1, sauf %2 fichier.</numerusform>
             <numerusform>Annulé&#xa0;: %1, sauf %2 fichiers.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
         <translation>Des étapes plus anciennes en dépendent&#xa0;; «&#xa0;lumidex undo --skip&#xa0;» la laisse définitivement telle quelle.</translation>
     </message>
     <message>
@@ -1300,11 +1300,11 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>Il n’y a rien à passer.</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
+        <source>Skipped: %1.</source>
         <translation>Abandonné&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
         <translation>Ce qui en est conservé (%1) reste jusqu’à devenir trop ancien ou trop volumineux.</translation>
     </message>
     <message numerus="yes">
@@ -1315,19 +1315,19 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
         <translation>Les étapes peuvent être annulées dans la limite de %1.</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
+        <source>There is nothing to redo.</source>
         <translation>Il n’y a rien à rétablir.</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
+        <source>There is nothing to undo.</source>
         <translation>Il n’y a rien à annuler.</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
+        <source>Copies would share names with files of other shots:</source>
         <translation>Ces fichiers sont d’autres prises de vue que ceux dont ils partagent le nom à cet endroit&#xa0;:</translation>
     </message>
     <message>
@@ -1505,7 +1505,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>Sans changement de mots-clés</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 photo changée&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
             <numerusform>%1 photos changées&#xa0;; «&#xa0;lumidex undo&#xa0;» l’annule.</numerusform>
@@ -1519,11 +1519,11 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
         <translation>«&#xa0;lumidex undo&#xa0;» l’annule.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
             <numerusform>%1 photo a été laissée de côté, car seule l’heure de son fichier la date. Pour la prendre en compte, lancez&#xa0;: lumidex albums --file-times</numerusform>
             <numerusform>%1 photos ont été laissées de côté, car seule l’heure de leurs fichiers les date. Pour les prendre en compte, lancez&#xa0;: lumidex albums --file-times</numerusform>
@@ -1535,7 +1535,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>Refusés par %1</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
+        <source>If all these photos are edited at once:</source>
         <translation>Pour une modification de toutes ces photos à la fois&#xa0;:</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
+        <source>There are no photos or videos in the given folders.</source>
         <translation>Il n’y a pas de photos ni de vidéos dans les dossiers indiqués.</translation>
     </message>
     <message>
@@ -1592,7 +1592,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>Il est masqué</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <source>It is not a photo, a video or a file that belongs to one</source>
         <translation>Ce n’est ni une photo ni une vidéo, ni un fichier qui s’y rattache</translation>
     </message>
     <message>
@@ -1600,28 +1600,28 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>«&#xa0;lumidex undo&#xa0;» met à la corbeille les copies faites cette fois-ci.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
             <numerusform>%1 fichier n’est pas copié, comme demandé&#xa0;: il reste où il est.</numerusform>
             <numerusform>%1 fichiers ne sont pas copiés, comme demandé&#xa0;: ils restent où ils sont.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
             <numerusform>%1 fichier n’est pas copié&#xa0;: il ne se trouve pas sur un support amovible et reste où il est. «&#xa0;--to DOSSIER&#xa0;» le copie.</numerusform>
             <numerusform>%1 fichiers ne sont pas copiés&#xa0;: ils ne se trouvent pas sur un support amovible et restent où ils sont. «&#xa0;--to DOSSIER&#xa0;» les copie.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
             <numerusform>%1 d’entre eux est une vidéo, que le catalogue ne prend pas.</numerusform>
             <numerusform>%1 d’entre eux sont des vidéos, que le catalogue ne prend pas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
             <numerusform>%1 fichier de gestion des appareils et des systèmes est laissé.</numerusform>
             <numerusform>%1 fichiers de gestion des appareils et des systèmes sont laissés.</numerusform>
@@ -1632,11 +1632,11 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>Le contenu de %1 n’est pas entièrement copié&#xa0;: ne pas encore formater ni vider.</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
         <translation>Des copies se trouvent dans %1 même&#xa0;: ne pas formater ni vider.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
             <numerusform>%1 étape ne peut plus être annulée&#xa0;: plus de %2 jours d’utilisation se sont écoulés depuis.</numerusform>
             <numerusform>%1 étapes ne peuvent plus être annulées&#xa0;: plus de %2 jours d’utilisation se sont écoulés depuis.</numerusform>
@@ -1669,8 +1669,8 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
         <translation>Peut-être déplacés, mais impossible de le savoir. Les photos gardent leurs
 mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
@@ -1730,7 +1730,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
         <translation>intacte</translation>
     </message>
@@ -1739,7 +1739,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         <translation>le fichier même de l’appareil</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
+        <source>has maker notes</source>
         <translation>avec la note du fabricant</translation>
     </message>
     <message>
@@ -1751,7 +1751,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         <translation>moins comprimée</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
+        <source>more bytes per pixel</source>
         <translation>plus d’octets par pixel</translation>
     </message>
     <message>
@@ -1817,11 +1817,11 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         <translation>VERDICT</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
         <translation>Pour pouvoir être annulé, cela demande de conserver %1 d’originaux, et la limite est de %2.</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
         <translation>«&#xa0;lumidex undo --keep-size %1&#xa0;» relève la limite&#xa0;; avec --no-undo, rien n’est conservé et cela ne peut pas être annulé.</translation>
     </message>
     <message numerus="yes">
@@ -1847,15 +1847,15 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         <translation>--forget-older l’autorise.</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
+        <source>Forget them and continue? [y/N]</source>
         <translation>Les oublier et continuer&#xa0;? [o/N]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
+        <source>No originals would be kept, so the edit could not be undone.</source>
         <translation>Rien ne serait conservé&#xa0;: cela ne pourrait pas être annulé.</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
+        <source>The edit would be refused.</source>
         <translation>Cela serait refusé.</translation>
     </message>
     <message numerus="yes">
@@ -1901,7 +1901,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
+        <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>Continuer sans ce qu’il faut pour rétablir&#xa0;? [o/N]</translation>
     </message>
     <message>
@@ -1917,11 +1917,11 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
         <translation>Il n’y a pas de place pour conserver ce qu’il faut pour rétablir&#xa0;; «&#xa0;lumidex undo --no-redo&#xa0;» s’en passe.</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
             <numerusform>L’annulation de «&#xa0;%1&#xa0;» (%2) laissera %3 fichier tel quel, car cette étape l’a modifié depuis&#xa0;:</numerusform>
             <numerusform>L’annulation de «&#xa0;%1&#xa0;» (%2) laissera %3 fichiers tels quels, car cette étape les a modifiés depuis&#xa0;:</numerusform>
@@ -1940,18 +1940,18 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
             <numerusform>Une importation laisse de côté %1 autre fichier (--json l’indique).</numerusform>
             <numerusform>Une importation laisse de côté %1 autres fichiers (--json en donne la liste).</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
         <translation>Il ne reste rien dans %1&#xa0;: chaque fichier a ailleurs une copie comparée.</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
         <translation>Il ne reste que des fichiers de gestion dans %1&#xa0;: chaque autre fichier a ailleurs une copie comparée.</translation>
     </message>
     <message>
@@ -1959,8 +1959,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         <translation>Le formatage est sans risque.</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
         <translation>Pour ce dossier, le formatage est sans risque&#xa0;; ce qui se trouve à côté n’a pas
 été examiné.</translation>
     </message>
@@ -1969,11 +1968,11 @@ looked at.</source>
         <translation>non agrandie</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
         <translation>Il reste %2 de libre sur le disque de %1, et modifier toutes les photos demande %3&#xa0;: les dernières seraient laissées telles quelles.</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>La source de %1 d’entre elles a disparu ou a été modifiée&#xa0;: ne videz pas la corbeille avant d’avoir une autre copie.</numerusform>
             <numerusform>Les sources de %1 d’entre elles ont disparu ou ont été modifiées&#xa0;: ne videz pas la corbeille avant d’avoir d’autres copies.</numerusform>

@@ -165,7 +165,7 @@
         <translation>Il catalogo non contiene ancora foto. Esegua: lumidex scan CARTELLA</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
             <numerusform>La %1 foto del catalogo non c’era più all’ultimo esame. Manca un disco?</numerusform>
             <numerusform>Tutte le %1 foto del catalogo non c’erano più all’ultimo esame. Manca un disco?</numerusform>
@@ -233,14 +233,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
             <numerusform>Aggiunta %1 foto a %2, già accettato.</numerusform>
             <numerusform>Aggiunte %1 foto a %2, già accettato.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
+        <source>%1 was accepted before, and there are no photos to add.</source>
         <translation>Nulla da cambiare in %1, già accettato.</translation>
     </message>
     <message numerus="yes">
@@ -260,7 +260,7 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
         <translation>Nessun album è ancora accettato. «lumidex albums» mostra le proposte.</translation>
     </message>
     <message numerus="yes">
@@ -351,7 +351,7 @@ stessa festività o dei fine settimana di un mese.</translation>
         <translation>Non c’è alcun calendario.</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
+        <source>Still in use: %1</source>
         <translation>In uso come prima: %1</translation>
     </message>
     <message>
@@ -363,11 +363,11 @@ stessa festività o dei fine settimana di un mese.</translation>
         <translation>Il calendario è aggiornato: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>Non è stato possibile leggere fino in fondo il calendario delle festività, perciò mancano delle festività. Provi: lumidex calendar check oppure lumidex calendar update.</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>Non è stato possibile leggere fino in fondo il calendario delle festività %1, perciò mancano delle festività. Provi: lumidex calendar check oppure lumidex calendar update.</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@ stessa festività o dei fine settimana di un mese.</translation>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
+        <source>no problems found.</source>
         <translation>nessun ostacolo.</translation>
     </message>
     <message>
@@ -416,7 +416,7 @@ stessa festività o dei fine settimana di un mese.</translation>
         <translation>Non ci sono foto nelle cartelle indicate.</translation>
     </message>
     <message>
-        <source>Trying</source>
+        <source>Checking</source>
         <translation>Prova</translation>
     </message>
     <message>
@@ -480,7 +480,7 @@ stessa festività o dei fine settimana di un mese.</translation>
         <translation>Nulla è stato modificato.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 foto modificata; «lumidex undo» annulla la modifica.</numerusform>
             <numerusform>%1 foto modificate; «lumidex undo» annulla la modifica.</numerusform>
@@ -508,7 +508,7 @@ stessa festività o dei fine settimana di un mese.</translation>
         <translation>Copia</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
         <translation>Interrotto. Ciò che è stato copiato è completo e confrontato; lo stesso comando copia il resto.</translation>
     </message>
     <message>
@@ -516,23 +516,23 @@ stessa festività o dei fine settimana di un mese.</translation>
         <translation>Sarebbero copiati in %1:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
+        <source>Would be added to the catalogue without copying:</source>
         <translation>Sarebbero acquisite dove si trovano:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
+        <source>Copies of one shot would get different names:</source>
         <translation>I file di ciascuno di questi scatti vanno insieme, ma i nomi liberi per loro no:</translation>
     </message>
     <message>
-        <source>Missing:</source>
+        <source>Not copied:</source>
         <translation>Mancano:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
+        <source>Not added to the catalogue:</source>
         <translation>Non acquisiti nel catalogo:</translation>
     </message>
     <message>
-        <source>Left out:</source>
+        <source>Skipped:</source>
         <translation>Tralasciati:</translation>
     </message>
     <message numerus="yes">
@@ -543,21 +543,21 @@ stessa festività o dei fine settimana di un mese.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
             <numerusform>%1 foto è già nel catalogo.</numerusform>
             <numerusform>%1 foto sono già nel catalogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
             <numerusform>%1 file era già stato copiato.</numerusform>
             <numerusform>%1 file erano già stati copiati.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
             <numerusform>%1 foto compare due volte nelle origini.</numerusform>
             <numerusform>%1 foto compaiono due volte nelle origini.</numerusform>
@@ -579,7 +579,7 @@ stessa festività o dei fine settimana di un mese.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
             <numerusform>%1 foto acquisita dove si trova.</numerusform>
@@ -593,21 +593,21 @@ nothing was changed.</source>
 nulla è stato modificato.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
             <numerusform>%1 file (%2) copiato in %3 e confrontato.</numerusform>
             <numerusform>%1 file (%2) copiati in %3, tutti confrontati.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
             <numerusform>%1 nuova foto nel catalogo.</numerusform>
             <numerusform>%1 nuove foto nel catalogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
             <numerusform>Manca %1 file; lo stesso comando riprova.</numerusform>
             <numerusform>Mancano %1 file; lo stesso comando riprova.</numerusform>
@@ -619,7 +619,7 @@ nulla è stato modificato.</translation>
         <translation>%1:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
         <translation>%1 non esiste; si usa %2.</translation>
     </message>
@@ -660,22 +660,22 @@ nulla è stato modificato.</translation>
         <translation>Non rinominabili:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
             <numerusform>%1 foto non ha una data propria; si usa l’ora del file.</numerusform>
             <numerusform>%1 foto non hanno una data propria; si usa l’ora dei file.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
             <numerusform>%1 file ha già il suo nome.</numerusform>
             <numerusform>%1 file hanno già il loro nome.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Nulla sarebbe rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
 --skip-problems si rinominano le altre.</numerusform>
@@ -684,8 +684,8 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Nulla è stato rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
 --skip-problems si rinominano le altre.</numerusform>
@@ -710,14 +710,14 @@ others are renamed.</source>
         <translation>Nulla è stato rinominato.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
             <numerusform>Non è stato possibile ridare il vecchio nome a %1 file.</numerusform>
             <numerusform>Non è stato possibile ridare il vecchio nome a %1 file.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
             <numerusform>%1 rinominata; «lumidex undo» annulla la modifica.</numerusform>
@@ -733,7 +733,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
+        <source>Problems</source>
         <translation>Ciò che lo impedisce</translation>
     </message>
     <message>
@@ -741,7 +741,7 @@ others are renamed.</source>
         <translation>Rapporto: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
             <numerusform>%1 immagine non leggibile è stata sostituita da un segnaposto.</numerusform>
             <numerusform>%1 immagini non leggibili sono state sostituite da un segnaposto.</numerusform>
@@ -767,7 +767,7 @@ others are renamed.</source>
         <translation>ciclo</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
+        <source>Not added:</source>
         <translation>Non acquisiti:</translation>
     </message>
     <message numerus="yes">
@@ -846,7 +846,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
             <numerusform>scomparso, ora segnato come perduto</numerusform>
@@ -866,11 +866,11 @@ others are renamed.</source>
         <translation>Esame</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
         <translation>Interrotto. Ciò che è stato letto finora è nel catalogo; lo stesso comando riprende da lì.</translation>
     </message>
     <message>
-        <source>Looking at</source>
+        <source>Analysing</source>
         <translation>Osservazione</translation>
     </message>
     <message>
@@ -886,7 +886,7 @@ others are renamed.</source>
         <translation>Interrotto. Ciò che è stato spostato è nel cestino.</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
+        <source>Interrupted. Run the same command to continue.</source>
         <translation>Interrotto. Lo stesso comando riprende da lì.</translation>
     </message>
     <message>
@@ -1023,17 +1023,17 @@ others are renamed.</source>
         <translation>Le foto si somigliano a %1 e sono in gruppi diversi.</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
         <translation>Una foto entra nel primo gruppo al cui centro, la media delle sue foto in quel momento, somigliava
 più di %1; le foto successive spostano il centro.</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
+        <source>Matching all photos again gives the same groups.</source>
         <translation>I gruppi sono come li forma un nuovo confronto di tutte le foto.</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
         <translation>«lumidex similar --anew» forma i gruppi da zero.</translation>
     </message>
     <message numerus="yes">
@@ -1200,26 +1200,26 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>Lasciati al loro posto</translation>
     </message>
     <message>
-        <source>Doing again</source>
+        <source>Redoing</source>
         <translation>Ripetizione</translation>
     </message>
     <message>
-        <source>Taking back</source>
+        <source>Undoing</source>
         <translation>Annullamento</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
+        <source>Interrupted. What was done so far stays done.</source>
         <translation>Interrotto. Ciò che è stato fatto finora resta.</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
             <numerusform>Solo %1 passo dei %2 richiesti.</numerusform>
             <numerusform>Solo %1 passi dei %2 richiesti.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>L’impostazione %1 non ha senso (%2); si usa il limite consueto.</translation>
     </message>
     <message numerus="yes">
@@ -1241,7 +1241,7 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>abbandonato</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
+        <source>There is nothing to undo.</source>
         <translation>Non c’è nulla che si possa annullare.</translation>
     </message>
     <message>
@@ -1262,37 +1262,37 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>Lasciati come sono</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
         <translation>Nulla di «%1» è stato ripetuto.</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
         <translation>Nulla di «%1» è stato annullato.</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
+        <source>Redone: %1.</source>
         <translation>Ripetuto: %1.</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
+        <source>Undone: %1.</source>
         <translation>Annullato: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Ripetuto: %1, tranne %2 file.</numerusform>
             <numerusform>Ripetuto: %1, tranne %2 file.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Annullato: %1, tranne %2 file.</numerusform>
             <numerusform>Annullato: %1, tranne %2 file.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
         <translation>I passi più vecchi lo attendono; «lumidex undo --skip» lo lascia definitivamente com’è.</translation>
     </message>
     <message>
@@ -1300,11 +1300,11 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>Non c’è nulla da saltare.</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
+        <source>Skipped: %1.</source>
         <translation>Abbandonato: %1.</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
         <translation>Ciò che ne è conservato (%1) resta finché non è troppo vecchio o troppo grande.</translation>
     </message>
     <message numerus="yes">
@@ -1315,19 +1315,19 @@ più di %1; le foto successive spostano il centro.</translation>
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
         <translation>I passi si possono annullare entro %1.</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
+        <source>There is nothing to redo.</source>
         <translation>Non c’è nulla da ripetere.</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
+        <source>There is nothing to undo.</source>
         <translation>Non c’è nulla da annullare.</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
+        <source>Copies would share names with files of other shots:</source>
         <translation>Questi file sono di scatti diversi da quelli di cui condividono lì il nome:</translation>
     </message>
     <message>
@@ -1505,7 +1505,7 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>Senza tag</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 foto cambiata; «lumidex undo» annulla la modifica.</numerusform>
             <numerusform>%1 foto cambiate; «lumidex undo» annulla la modifica.</numerusform>
@@ -1519,11 +1519,11 @@ più di %1; le foto successive spostano il centro.</translation>
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
         <translation>«lumidex undo» annulla la modifica.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
             <numerusform>È stata tralasciata %1 foto, perché solo l’ora del suo file la data. Per includerla, esegua: lumidex albums --file-times</numerusform>
             <numerusform>Sono state tralasciate %1 foto, perché solo l’ora dei loro file le data. Per includerle, esegua: lumidex albums --file-times</numerusform>
@@ -1535,7 +1535,7 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>Rifiutati da %1</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
+        <source>If all these photos are edited at once:</source>
         <translation>Per una modifica di tutte queste foto insieme:</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@ più di %1; le foto successive spostano il centro.</translation>
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
+        <source>There are no photos or videos in the given folders.</source>
         <translation>Non ci sono foto né video nelle cartelle indicate.</translation>
     </message>
     <message>
@@ -1592,7 +1592,7 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>È nascosto</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <source>It is not a photo, a video or a file that belongs to one</source>
         <translation>Non è una foto né un video, né appartiene a uno di essi</translation>
     </message>
     <message>
@@ -1600,28 +1600,28 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>«lumidex undo» sposta nel cestino le copie di questa esecuzione.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
             <numerusform>%1 file non viene copiato, come richiesto: resta dov’è.</numerusform>
             <numerusform>%1 file non vengono copiati, come richiesto: restano dove sono.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
             <numerusform>%1 file non viene copiato: non si trova su un supporto rimovibile e resta dov’è. «--to CARTELLA» lo copia.</numerusform>
             <numerusform>%1 file non vengono copiati: non si trovano su un supporto rimovibile e restano dove sono. «--to CARTELLA» li copia.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
             <numerusform>%1 di essi è un video, che il catalogo non acquisisce.</numerusform>
             <numerusform>%1 di essi sono video, che il catalogo non acquisisce.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
             <numerusform>Si lascia %1 file di servizio di fotocamere e sistemi.</numerusform>
             <numerusform>Si lasciano %1 file di servizio di fotocamere e sistemi.</numerusform>
@@ -1632,11 +1632,11 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>Non tutto il contenuto di %1 è copiato: non formattare né svuotare ancora.</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
         <translation>Alcune copie si trovano in %1 stesso: non formattare né svuotare.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
             <numerusform>%1 passo non si può più annullare: da allora sono trascorsi più di %2 giorni d’uso.</numerusform>
             <numerusform>%1 passi non si possono più annullare: da allora sono trascorsi più di %2 giorni d’uso.</numerusform>
@@ -1669,8 +1669,8 @@ più di %1; le foto successive spostano il centro.</translation>
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
         <translation>Forse spostati, ma non si può stabilire. Le foto mantengono i loro tag e album,
 i file sono nuovi:</translation>
     </message>
@@ -1730,7 +1730,7 @@ i file sono nuovi:</translation>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
         <translation>integra</translation>
     </message>
@@ -1739,7 +1739,7 @@ i file sono nuovi:</translation>
         <translation>il file della fotocamera stessa</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
+        <source>has maker notes</source>
         <translation>con la nota del produttore</translation>
     </message>
     <message>
@@ -1751,7 +1751,7 @@ i file sono nuovi:</translation>
         <translation>meno compressa</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
+        <source>more bytes per pixel</source>
         <translation>più byte per pixel</translation>
     </message>
     <message>
@@ -1817,11 +1817,11 @@ i file sono nuovi:</translation>
         <translation>VERDETTO</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
         <translation>Per poterlo annullare occorre conservare %1 di originali, e il limite è %2.</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
         <translation>«lumidex undo --keep-size %1» alza il limite; con --no-undo non si conserva nulla e non si può annullare.</translation>
     </message>
     <message numerus="yes">
@@ -1847,15 +1847,15 @@ i file sono nuovi:</translation>
         <translation>--forget-older lo consente.</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
+        <source>Forget them and continue? [y/N]</source>
         <translation>Dimenticarli e continuare? [s/N]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
+        <source>No originals would be kept, so the edit could not be undone.</source>
         <translation>Nulla sarebbe conservato: non si potrebbe annullare.</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
+        <source>The edit would be refused.</source>
         <translation>Sarebbe rifiutato.</translation>
     </message>
     <message numerus="yes">
@@ -1901,7 +1901,7 @@ i file sono nuovi:</translation>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
+        <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>Continuare senza ciò che serve per ripetere? [s/N]</translation>
     </message>
     <message>
@@ -1917,11 +1917,11 @@ i file sono nuovi:</translation>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
         <translation>Non c’è spazio per conservare ciò che serve per ripetere; «lumidex undo --no-redo» ne fa a meno.</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
             <numerusform>L’annullamento di «%1» (%2) lascerà %3 file com’è, perché questo passo lo ha modificato in seguito:</numerusform>
             <numerusform>L’annullamento di «%1» (%2) lascerà %3 file come sono, perché questo passo li ha modificati in seguito:</numerusform>
@@ -1940,18 +1940,18 @@ i file sono nuovi:</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
             <numerusform>Un’importazione tralascia %1 altro file (--json lo elenca).</numerusform>
             <numerusform>Un’importazione tralascia altri %1 file (--json li elenca).</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
         <translation>Non resta nulla in %1: ogni file ha altrove una copia confrontata.</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
         <translation>In %1 restano solo file di servizio: ogni altro file ha altrove una copia confrontata.</translation>
     </message>
     <message>
@@ -1959,8 +1959,7 @@ i file sono nuovi:</translation>
         <translation>Si può formattare senza rischi.</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
         <translation>Per quanto riguarda questa cartella si può formattare senza rischi; ciò che le
 sta accanto non è stato esaminato.</translation>
     </message>
@@ -1969,11 +1968,11 @@ sta accanto non è stato esaminato.</translation>
         <translation>non ingrandita</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
         <translation>Sul disco di %1 restano liberi %2, e per modificare tutte le foto servono %3: le ultime sarebbero lasciate come sono.</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>Di %1 di esse il file di origine non c’è più o è stato modificato: non svuoti il cestino prima di avere un’altra copia.</numerusform>
             <numerusform>Di %1 di esse i file di origine non ci sono più o sono stati modificati: non svuoti il cestino prima di avere altre copie.</numerusform>

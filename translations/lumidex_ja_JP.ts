@@ -164,7 +164,7 @@
         <translation>カタログにはまだ写真がありません。次を実行してください: lumidex scan フォルダー</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
             <numerusform>前回の読み込みで、カタログの写真%1枚がすべて見つかりませんでした。ディスクが外れていませんか?</numerusform>
         </translation>
@@ -228,13 +228,13 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
             <numerusform>採用済みの %2 に写真%1枚を追加しました。</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
+        <source>%1 was accepted before, and there are no photos to add.</source>
         <translation>採用済みの %1 に変更はありません。</translation>
     </message>
     <message numerus="yes">
@@ -252,7 +252,7 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
         <translation>採用したアルバムはまだありません。「lumidex albums」で候補が表示されます。</translation>
     </message>
     <message numerus="yes">
@@ -338,7 +338,7 @@ holiday, or of the weekends of one month.</source>
         <translation>カレンダーがありません。</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
+        <source>Still in use: %1</source>
         <translation>これまでどおり使用中: %1</translation>
     </message>
     <message>
@@ -350,11 +350,11 @@ holiday, or of the weekends of one month.</source>
         <translation>カレンダーは最新です: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>祝日カレンダーを最後まで読めなかったため、一部の祝日がありません。次をお試しください: lumidex calendar check または lumidex calendar update</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>祝日カレンダー %1 を最後まで読めなかったため、一部の祝日がありません。次をお試しください: lumidex calendar check または lumidex calendar update</translation>
     </message>
     <message>
@@ -390,7 +390,7 @@ holiday, or of the weekends of one month.</source>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
+        <source>no problems found.</source>
         <translation>問題はありません。</translation>
     </message>
     <message>
@@ -402,7 +402,7 @@ holiday, or of the weekends of one month.</source>
         <translation>指定したフォルダーに写真はありません。</translation>
     </message>
     <message>
-        <source>Trying</source>
+        <source>Checking</source>
         <translation>試行中</translation>
     </message>
     <message>
@@ -465,7 +465,7 @@ holiday, or of the weekends of one month.</source>
         <translation>何も変更していません。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>写真%1枚を編集しました。「lumidex undo」で元に戻せます。</numerusform>
         </translation>
@@ -492,7 +492,7 @@ holiday, or of the weekends of one month.</source>
         <translation>コピー中</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
         <translation>中断しました。コピー済みのものは完全で、比較も済んでいます。同じコマンドで残りをコピーします。</translation>
     </message>
     <message>
@@ -500,23 +500,23 @@ holiday, or of the weekends of one month.</source>
         <translation>%1 へコピーするもの:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
+        <source>Would be added to the catalogue without copying:</source>
         <translation>元の場所のまま取り込むもの:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
+        <source>Copies of one shot would get different names:</source>
         <translation>次のファイルはそれぞれ同じ撮影のものですが、空いている名前ではそうなりません:</translation>
     </message>
     <message>
-        <source>Missing:</source>
+        <source>Not copied:</source>
         <translation>見つからないもの:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
+        <source>Not added to the catalogue:</source>
         <translation>カタログに取り込まなかったもの:</translation>
     </message>
     <message>
-        <source>Left out:</source>
+        <source>Skipped:</source>
         <translation>除外したもの:</translation>
     </message>
     <message numerus="yes">
@@ -526,19 +526,19 @@ holiday, or of the weekends of one month.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
             <numerusform>写真%1枚はすでにカタログにあります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
             <numerusform>ファイル%1個は以前にコピー済みです。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
             <numerusform>写真%1枚が取り込み元に重複しています。</numerusform>
         </translation>
@@ -558,7 +558,7 @@ holiday, or of the weekends of one month.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
             <numerusform>写真%1枚を元の場所のまま取り込むことになります。</numerusform>
@@ -571,19 +571,19 @@ nothing was changed.</source>
 何も変更していません。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
             <numerusform>ファイル%1個 (%2) を %3 へコピーし、すべて比較しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
             <numerusform>カタログに新しい写真%1枚。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
             <numerusform>ファイル%1個がありません。同じコマンドでもう一度試します。</numerusform>
         </translation>
@@ -594,7 +594,7 @@ nothing was changed.</source>
         <translation>%1:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
         <translation>%1 はありません。%2 を使います。</translation>
     </message>
@@ -635,28 +635,28 @@ nothing was changed.</source>
         <translation>名前を変更できないもの:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
             <numerusform>写真%1枚には固有の日付がないため、ファイルの時刻を使います。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
             <numerusform>ファイル%1個はすでにその名前です。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>何も名前を変更しません: 写真%2枚のうち%1枚は新しい名前にできません。
 --skip-problems を付けると、残りの名前を変更します。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>何も名前を変更していません: 写真%2枚のうち%1枚は新しい名前にできません。
 --skip-problems を付けると、残りの名前を変更します。</numerusform>
@@ -678,13 +678,13 @@ others are renamed.</source>
         <translation>何も名前を変更していません。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
             <numerusform>ファイル%1個は元の名前に戻せませんでした。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
             <numerusform>%1の名前を変更しました。「lumidex undo」で元に戻せます。</numerusform>
@@ -698,7 +698,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
+        <source>Problems</source>
         <translation>妨げになっているもの</translation>
     </message>
     <message>
@@ -706,7 +706,7 @@ others are renamed.</source>
         <translation>レポート: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
             <numerusform>画像%1枚を読み取れなかったため、代わりの枠を表示しています。</numerusform>
         </translation>
@@ -730,7 +730,7 @@ others are renamed.</source>
         <translation>循環</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
+        <source>Not added:</source>
         <translation>取り込まなかったもの:</translation>
     </message>
     <message numerus="yes">
@@ -800,7 +800,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
             <numerusform>個が見つからず、消失と記録</numerusform>
@@ -819,11 +819,11 @@ others are renamed.</source>
         <translation>読み込み中</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
         <translation>中断しました。それまでに読み取ったものはカタログにあります。同じコマンドで続きから始めます。</translation>
     </message>
     <message>
-        <source>Looking at</source>
+        <source>Analysing</source>
         <translation>確認中</translation>
     </message>
     <message>
@@ -839,7 +839,7 @@ others are renamed.</source>
         <translation>中断しました。移動したものはごみ箱にあります。</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
+        <source>Interrupted. Run the same command to continue.</source>
         <translation>中断しました。同じコマンドで続きから始めます。</translation>
     </message>
     <message>
@@ -971,17 +971,17 @@ others are renamed.</source>
         <translation>2枚の写真の類似度は %1 で、別々のグループに入っています。</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
         <translation>写真は、その時点の写真の平均であるグループの中心との類似度が %1 を
 超えた最初のグループに入ります。その後の写真は中心を動かします。</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
+        <source>Matching all photos again gives the same groups.</source>
         <translation>グループは、すべての写真を比較し直した結果と同じです。</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
         <translation>「lumidex similar --anew」でグループを最初から作り直します。</translation>
     </message>
     <message numerus="yes">
@@ -1142,25 +1142,25 @@ above %1 against; later photos move the centre.</source>
         <translation>元の場所に残したもの</translation>
     </message>
     <message>
-        <source>Doing again</source>
+        <source>Redoing</source>
         <translation>やり直し中</translation>
     </message>
     <message>
-        <source>Taking back</source>
+        <source>Undoing</source>
         <translation>元に戻し中</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
+        <source>Interrupted. What was done so far stays done.</source>
         <translation>中断しました。それまでに行ったことはそのままです。</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
             <numerusform>%2件のうち%1件だけです。</numerusform>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>設定 %1 の値が正しくありません (%2)。通常の上限を使います。</translation>
     </message>
     <message numerus="yes">
@@ -1181,7 +1181,7 @@ above %1 against; later photos move the centre.</source>
         <translation>断念</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
+        <source>There is nothing to undo.</source>
         <translation>元に戻せるものはありません。</translation>
     </message>
     <message>
@@ -1202,35 +1202,35 @@ above %1 against; later photos move the centre.</source>
         <translation>そのまま残したもの</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
         <translation>「%1」は何もやり直していません。</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
         <translation>「%1」は何も元に戻していません。</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
+        <source>Redone: %1.</source>
         <translation>やり直しました: %1。</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
+        <source>Undone: %1.</source>
         <translation>元に戻しました: %1。</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
             <numerusform>やり直しました: %1 (ファイル%2個を除く)。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
             <numerusform>元に戻しました: %1 (ファイル%2個を除く)。</numerusform>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
         <translation>それより前の操作はこれを待っています。「lumidex undo --skip」で、これをこのまま確定します。</translation>
     </message>
     <message>
@@ -1238,11 +1238,11 @@ above %1 against; later photos move the centre.</source>
         <translation>飛ばすものはありません。</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
+        <source>Skipped: %1.</source>
         <translation>断念しました: %1。</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
         <translation>保管しているもの (%1) は、古くなりすぎるか多くなりすぎるまで残ります。</translation>
     </message>
     <message numerus="yes">
@@ -1252,19 +1252,19 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
         <translation>操作を元に戻せる範囲: %1。</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
+        <source>There is nothing to redo.</source>
         <translation>やり直すものはありません。</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
+        <source>There is nothing to undo.</source>
         <translation>元に戻すものはありません。</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
+        <source>Copies would share names with files of other shots:</source>
         <translation>次のファイルは、そこで名前を共有するものとは別の撮影のものです:</translation>
     </message>
     <message>
@@ -1436,7 +1436,7 @@ above %1 against; later photos move the centre.</source>
         <translation>タグを付けなかったもの</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>写真%1枚を変更しました。「lumidex undo」で元に戻せます。</numerusform>
         </translation>
@@ -1448,11 +1448,11 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
         <translation>「lumidex undo」で元に戻せます。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
             <numerusform>写真%1枚を除外しました。日付の手がかりがファイルの時刻しかないためです。含めるには、次を実行してください: lumidex albums --file-times</numerusform>
         </translation>
@@ -1463,7 +1463,7 @@ above %1 against; later photos move the centre.</source>
         <translation>拒否されるもの (%1)</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
+        <source>If all these photos are edited at once:</source>
         <translation>これらの写真をすべて一度に編集する場合:</translation>
     </message>
     <message>
@@ -1507,7 +1507,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
+        <source>There are no photos or videos in the given folders.</source>
         <translation>指定したフォルダーに写真も動画もありません。</translation>
     </message>
     <message>
@@ -1515,7 +1515,7 @@ above %1 against; later photos move the centre.</source>
         <translation>隠しファイルです</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <source>It is not a photo, a video or a file that belongs to one</source>
         <translation>写真でも動画でも、それに付属するファイルでもありません</translation>
     </message>
     <message>
@@ -1523,25 +1523,25 @@ above %1 against; later photos move the centre.</source>
         <translation>「lumidex undo」で、今回のコピーをごみ箱に移動できます。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
             <numerusform>ご指定のとおり、ファイル%1個はコピーしません。元の場所に残ります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
             <numerusform>ファイル%1個はコピーしません。リムーバブルストレージにないため、元の場所に残ります。「--to フォルダー」でコピーできます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
             <numerusform>うち%1個は動画で、カタログには入りません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
             <numerusform>カメラやシステムの管理用ファイル%1個は残します。</numerusform>
         </translation>
@@ -1551,11 +1551,11 @@ above %1 against; later photos move the centre.</source>
         <translation>%1 にまだコピーしていないものがあります。フォーマットしたり空にしたりしないでください。</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
         <translation>コピーが %1 自体の中にあります。フォーマットしたり空にしたりしないでください。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
             <numerusform>操作%1件は、もう元に戻せません。その後の使用日数が%2日を超えました。</numerusform>
         </translation>
@@ -1584,8 +1584,8 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
         <translation>移動された可能性がありますが、判断できません。写真のタグとアルバムはそのままで、
 ファイルは新規として扱います:</translation>
     </message>
@@ -1641,7 +1641,7 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
         <translation>破損なし</translation>
     </message>
@@ -1650,7 +1650,7 @@ files are new:</source>
         <translation>カメラ自身のファイル</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
+        <source>has maker notes</source>
         <translation>メーカーノートあり</translation>
     </message>
     <message>
@@ -1662,7 +1662,7 @@ files are new:</source>
         <translation>圧縮が弱い</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
+        <source>more bytes per pixel</source>
         <translation>1画素あたりのバイト数が多い</translation>
     </message>
     <message>
@@ -1726,11 +1726,11 @@ files are new:</source>
         <translation>判定</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
         <translation>元に戻せるようにするには、元のファイルを %1 保管する必要がありますが、上限は %2 です。</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
         <translation>「lumidex undo --keep-size %1」で上限を上げられます。--no-undo を付けると何も保管せず、元に戻せません。</translation>
     </message>
     <message numerus="yes">
@@ -1754,15 +1754,15 @@ files are new:</source>
         <translation>--forget-older を付けると許可します。</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
+        <source>Forget them and continue? [y/N]</source>
         <translation>忘れて続行しますか? [h/N]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
+        <source>No originals would be kept, so the edit could not be undone.</source>
         <translation>何も保管されず、元に戻せなくなります。</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
+        <source>The edit would be refused.</source>
         <translation>拒否されます。</translation>
     </message>
     <message numerus="yes">
@@ -1804,7 +1804,7 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
+        <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>やり直しに必要なものを保管せずに続行しますか? [h/N]</translation>
     </message>
     <message>
@@ -1819,11 +1819,11 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
         <translation>やり直しに必要なものを保管する空きがありません。「lumidex undo --no-redo」なら保管せずに実行します。</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
             <numerusform>「%1」(%2) を元に戻しても、ファイル%3個はそのまま残ります。この操作がその後に変更したためです:</numerusform>
         </translation>
@@ -1840,17 +1840,17 @@ files are new:</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
             <numerusform>取り込みでは、ほかのファイル%1個が残ります (--json ですべて表示)。</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
         <translation>%1 に残りはありません。どのファイルも別の場所に比較済みのコピーがあります。</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
         <translation>%1 に残っているのは管理用ファイルだけです。ほかのどのファイルも別の場所に比較済みのコピーがあります。</translation>
     </message>
     <message>
@@ -1858,8 +1858,7 @@ files are new:</source>
         <translation>安全にフォーマットできます。</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
         <translation>このフォルダーに限れば安全にフォーマットできます。その隣にあるものは
 調べていません。</translation>
     </message>
@@ -1868,11 +1867,11 @@ looked at.</source>
         <translation>拡大なし</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
         <translation>%1 があるディスクの空きは %2 ですが、すべての写真を編集するには %3 必要です。最後のほうの写真はそのまま残ります。</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>うち%1個はコピー元がなくなったか、変更されています。別のコピーを用意するまでごみ箱を空にしないでください。</numerusform>
         </translation>

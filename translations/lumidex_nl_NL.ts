@@ -165,7 +165,7 @@
         <translation>De catalogus bevat nog geen foto’s. Voer uit: lumidex scan MAP</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
             <numerusform>De %1 foto van de catalogus was bij het laatste inlezen verdwenen. Ontbreekt er een schijf?</numerusform>
             <numerusform>Alle %1 foto’s van de catalogus waren bij het laatste inlezen verdwenen. Ontbreekt er een schijf?</numerusform>
@@ -233,14 +233,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
             <numerusform>%1 foto toegevoegd aan het al geaccepteerde %2.</numerusform>
             <numerusform>%1 foto’s toegevoegd aan het al geaccepteerde %2.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
+        <source>%1 was accepted before, and there are no photos to add.</source>
         <translation>Niets te wijzigen in het al geaccepteerde %1.</translation>
     </message>
     <message numerus="yes">
@@ -260,7 +260,7 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
         <translation>Er is nog geen album geaccepteerd. ‘lumidex albums’ toont voorstellen.</translation>
     </message>
     <message numerus="yes">
@@ -351,7 +351,7 @@ van één feestdag of van de weekenden van één maand.</translation>
         <translation>Er is geen kalender.</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
+        <source>Still in use: %1</source>
         <translation>Nog steeds in gebruik: %1</translation>
     </message>
     <message>
@@ -363,11 +363,11 @@ van één feestdag of van de weekenden van één maand.</translation>
         <translation>De kalender is actueel: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>De feestdagenkalender kon niet tot het einde worden gelezen, dus er ontbreken feestdagen. Probeer: lumidex calendar check of lumidex calendar update.</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>De feestdagenkalender %1 kon niet tot het einde worden gelezen, dus er ontbreken feestdagen. Probeer: lumidex calendar check of lumidex calendar update.</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@ van één feestdag of van de weekenden van één maand.</translation>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
+        <source>no problems found.</source>
         <translation>niets staat in de weg.</translation>
     </message>
     <message>
@@ -416,7 +416,7 @@ van één feestdag of van de weekenden van één maand.</translation>
         <translation>Er staan geen foto’s in de opgegeven mappen.</translation>
     </message>
     <message>
-        <source>Trying</source>
+        <source>Checking</source>
         <translation>Proberen</translation>
     </message>
     <message>
@@ -480,7 +480,7 @@ van één feestdag of van de weekenden van één maand.</translation>
         <translation>Er is niets gewijzigd.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 foto bewerkt; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
             <numerusform>%1 foto’s bewerkt; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
@@ -508,7 +508,7 @@ van één feestdag of van de weekenden van één maand.</translation>
         <translation>Kopiëren</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
         <translation>Afgebroken. Wat is gekopieerd, is volledig en vergeleken; dezelfde opdracht kopieert de rest.</translation>
     </message>
     <message>
@@ -516,23 +516,23 @@ van één feestdag of van de weekenden van één maand.</translation>
         <translation>Zouden worden gekopieerd naar %1:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
+        <source>Would be added to the catalogue without copying:</source>
         <translation>Zouden op hun plaats worden opgenomen:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
+        <source>Copies of one shot would get different names:</source>
         <translation>Deze bestanden horen telkens bij één opname, maar de vrije namen ervoor niet:</translation>
     </message>
     <message>
-        <source>Missing:</source>
+        <source>Not copied:</source>
         <translation>Ontbreekt:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
+        <source>Not added to the catalogue:</source>
         <translation>Niet opgenomen in de catalogus:</translation>
     </message>
     <message>
-        <source>Left out:</source>
+        <source>Skipped:</source>
         <translation>Weggelaten:</translation>
     </message>
     <message numerus="yes">
@@ -543,21 +543,21 @@ van één feestdag of van de weekenden van één maand.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
             <numerusform>%1 foto staat al in de catalogus.</numerusform>
             <numerusform>%1 foto’s staan al in de catalogus.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
             <numerusform>%1 bestand was al eerder gekopieerd.</numerusform>
             <numerusform>%1 bestanden waren al eerder gekopieerd.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
             <numerusform>%1 foto komt dubbel voor in de bronnen.</numerusform>
             <numerusform>%1 foto’s komen dubbel voor in de bronnen.</numerusform>
@@ -579,7 +579,7 @@ van één feestdag of van de weekenden van één maand.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
             <numerusform>%1 foto op zijn plaats opgenomen.</numerusform>
@@ -593,21 +593,21 @@ nothing was changed.</source>
 er is niets gewijzigd.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
             <numerusform>%1 bestand (%2) gekopieerd naar %3 en vergeleken.</numerusform>
             <numerusform>%1 bestanden (%2) gekopieerd naar %3, elk vergeleken.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
             <numerusform>%1 nieuwe foto in de catalogus.</numerusform>
             <numerusform>%1 nieuwe foto’s in de catalogus.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
             <numerusform>%1 bestand ontbreekt; dezelfde opdracht probeert het opnieuw.</numerusform>
             <numerusform>%1 bestanden ontbreken; dezelfde opdracht probeert het opnieuw.</numerusform>
@@ -619,7 +619,7 @@ er is niets gewijzigd.</translation>
         <translation>%1:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
         <translation>%1 bestaat niet; %2 wordt gebruikt.</translation>
     </message>
@@ -660,22 +660,22 @@ er is niets gewijzigd.</translation>
         <translation>Niet te hernoemen:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
             <numerusform>%1 foto heeft geen eigen datum; de tijd van het bestand wordt gebruikt.</numerusform>
             <numerusform>%1 foto’s hebben geen eigen datum; de tijden van de bestanden worden gebruikt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
             <numerusform>%1 bestand heeft zijn naam al.</numerusform>
             <numerusform>%1 bestanden hebben hun naam al.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Er zou niets worden hernoemd: de nieuwe naam kan niet bij %1 van %2 foto. Met
 --skip-problems worden de andere hernoemd.</numerusform>
@@ -684,8 +684,8 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Er is niets hernoemd: de nieuwe naam kan niet bij %1 van %2 foto. Met
 --skip-problems worden de andere hernoemd.</numerusform>
@@ -710,14 +710,14 @@ others are renamed.</source>
         <translation>Er is niets hernoemd.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
             <numerusform>%1 bestand kon de oude naam niet terugkrijgen.</numerusform>
             <numerusform>%1 bestanden konden de oude naam niet terugkrijgen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
             <numerusform>%1 hernoemd; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
@@ -733,7 +733,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
+        <source>Problems</source>
         <translation>In de weg</translation>
     </message>
     <message>
@@ -741,7 +741,7 @@ others are renamed.</source>
         <translation>Rapport: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
             <numerusform>%1 afbeelding kon niet worden gelezen en is vervangen door een leeg vak.</numerusform>
             <numerusform>%1 afbeeldingen konden niet worden gelezen en zijn vervangen door een leeg vak.</numerusform>
@@ -767,7 +767,7 @@ others are renamed.</source>
         <translation>lus</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
+        <source>Not added:</source>
         <translation>Niet opgenomen:</translation>
     </message>
     <message numerus="yes">
@@ -846,7 +846,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
             <numerusform>verdwenen, nu als verloren gemarkeerd</numerusform>
@@ -866,11 +866,11 @@ others are renamed.</source>
         <translation>Inlezen</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
         <translation>Afgebroken. Wat tot nu toe is gelezen, staat in de catalogus; dezelfde opdracht gaat daar verder.</translation>
     </message>
     <message>
-        <source>Looking at</source>
+        <source>Analysing</source>
         <translation>Bekijken</translation>
     </message>
     <message>
@@ -886,7 +886,7 @@ others are renamed.</source>
         <translation>Afgebroken. Wat is verplaatst, ligt in de prullenbak.</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
+        <source>Interrupted. Run the same command to continue.</source>
         <translation>Afgebroken. Dezelfde opdracht gaat daar verder.</translation>
     </message>
     <message>
@@ -1023,17 +1023,17 @@ others are renamed.</source>
         <translation>De foto’s lijken voor %1 op elkaar en zitten in verschillende groepen.</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
         <translation>Een foto komt in de eerste groep waarvan het midden, het gemiddelde van de foto’s op dat moment,
 voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
+        <source>Matching all photos again gives the same groups.</source>
         <translation>De groepen zijn zoals een nieuwe vergelijking van alle foto’s ze vormt.</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
         <translation>‘lumidex similar --anew’ vormt de groepen helemaal opnieuw.</translation>
     </message>
     <message numerus="yes">
@@ -1200,26 +1200,26 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>Op hun plaats gelaten</translation>
     </message>
     <message>
-        <source>Doing again</source>
+        <source>Redoing</source>
         <translation>Opnieuw uitvoeren</translation>
     </message>
     <message>
-        <source>Taking back</source>
+        <source>Undoing</source>
         <translation>Ongedaan maken</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
+        <source>Interrupted. What was done so far stays done.</source>
         <translation>Afgebroken. Wat tot nu toe is gedaan, blijft zo.</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
             <numerusform>Slechts %1 stap van de %2 gevraagde.</numerusform>
             <numerusform>Slechts %1 stappen van de %2 gevraagde.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>De instelling %1 is onzinnig (%2); de gebruikelijke grens wordt gebruikt.</translation>
     </message>
     <message numerus="yes">
@@ -1241,7 +1241,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>losgelaten</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
+        <source>There is nothing to undo.</source>
         <translation>Er is niets dat ongedaan kan worden gemaakt.</translation>
     </message>
     <message>
@@ -1262,37 +1262,37 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>Gelaten zoals ze zijn</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
         <translation>Van ‘%1’ is niets opnieuw gedaan.</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
         <translation>Van ‘%1’ is niets ongedaan gemaakt.</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
+        <source>Redone: %1.</source>
         <translation>Opnieuw gedaan: %1.</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
+        <source>Undone: %1.</source>
         <translation>Ongedaan gemaakt: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Opnieuw gedaan: %1, op %2 bestand na.</numerusform>
             <numerusform>Opnieuw gedaan: %1, op %2 bestanden na.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Ongedaan gemaakt: %1, op %2 bestand na.</numerusform>
             <numerusform>Ongedaan gemaakt: %1, op %2 bestanden na.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
         <translation>Oudere stappen wachten erop; ‘lumidex undo --skip’ laat het voorgoed zoals het is.</translation>
     </message>
     <message>
@@ -1300,11 +1300,11 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>Er is niets over te slaan.</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
+        <source>Skipped: %1.</source>
         <translation>Losgelaten: %1.</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
         <translation>Wat ervan is bewaard (%1), blijft tot het te oud of te veel is.</translation>
     </message>
     <message numerus="yes">
@@ -1315,19 +1315,19 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
         <translation>Stappen kunnen ongedaan worden gemaakt binnen %1.</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
+        <source>There is nothing to redo.</source>
         <translation>Er is niets opnieuw te doen.</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
+        <source>There is nothing to undo.</source>
         <translation>Er is niets ongedaan te maken.</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
+        <source>Copies would share names with files of other shots:</source>
         <translation>Deze bestanden zijn van andere opnamen dan die waarmee ze daar de naam delen:</translation>
     </message>
     <message>
@@ -1505,7 +1505,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>Niet getagd</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 foto gewijzigd; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
             <numerusform>%1 foto’s gewijzigd; ‘lumidex undo’ maakt dit ongedaan.</numerusform>
@@ -1519,11 +1519,11 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
         <translation>‘lumidex undo’ maakt dit ongedaan.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
             <numerusform>%1 foto is weggelaten, want alleen de tijd van het bestand dateert deze. Voer uit om deze op te nemen: lumidex albums --file-times</numerusform>
             <numerusform>%1 foto’s zijn weggelaten, want alleen de tijden van de bestanden dateren ze. Voer uit om ze op te nemen: lumidex albums --file-times</numerusform>
@@ -1535,7 +1535,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>Geweigerd door %1</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
+        <source>If all these photos are edited at once:</source>
         <translation>Bij het bewerken van al deze foto’s tegelijk:</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
+        <source>There are no photos or videos in the given folders.</source>
         <translation>Er staan geen foto’s of video’s in de opgegeven mappen.</translation>
     </message>
     <message>
@@ -1592,7 +1592,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>Het is verborgen</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <source>It is not a photo, a video or a file that belongs to one</source>
         <translation>Het is geen foto of video en hoort er ook niet bij</translation>
     </message>
     <message>
@@ -1600,28 +1600,28 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>‘lumidex undo’ verplaatst de kopieën van deze keer naar de prullenbak.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
             <numerusform>%1 bestand wordt zoals gevraagd niet gekopieerd: het blijft waar het is.</numerusform>
             <numerusform>%1 bestanden worden zoals gevraagd niet gekopieerd: ze blijven waar ze zijn.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
             <numerusform>%1 bestand wordt niet gekopieerd: het staat niet op verwisselbare opslag en blijft waar het is. ‘--to MAP’ kopieert het.</numerusform>
             <numerusform>%1 bestanden worden niet gekopieerd: ze staan niet op verwisselbare opslag en blijven waar ze zijn. ‘--to MAP’ kopieert ze.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
             <numerusform>%1 ervan is een video, die de catalogus niet opneemt.</numerusform>
             <numerusform>%1 ervan zijn video’s, die de catalogus niet opneemt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
             <numerusform>%1 beheerbestand van camera’s en systemen blijft achter.</numerusform>
             <numerusform>%1 beheerbestanden van camera’s en systemen blijven achter.</numerusform>
@@ -1632,11 +1632,11 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>Niet alles uit %1 is gekopieerd: nog niet formatteren of leegmaken.</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
         <translation>Er staan kopieën in %1 zelf: niet formatteren of leegmaken.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
             <numerusform>%1 stap kan niet meer ongedaan worden gemaakt: sindsdien zijn meer dan %2 gebruiksdagen verstreken.</numerusform>
             <numerusform>%1 stappen kunnen niet meer ongedaan worden gemaakt: sindsdien zijn meer dan %2 gebruiksdagen verstreken.</numerusform>
@@ -1669,8 +1669,8 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
         <translation>Misschien verplaatst, maar dat is niet te zeggen. De foto’s houden hun tags en
 albums, de bestanden zijn nieuw:</translation>
     </message>
@@ -1730,7 +1730,7 @@ albums, de bestanden zijn nieuw:</translation>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
         <translation>onbeschadigd</translation>
     </message>
@@ -1739,7 +1739,7 @@ albums, de bestanden zijn nieuw:</translation>
         <translation>het eigen bestand van de camera</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
+        <source>has maker notes</source>
         <translation>met notitie van de fabrikant</translation>
     </message>
     <message>
@@ -1751,7 +1751,7 @@ albums, de bestanden zijn nieuw:</translation>
         <translation>minder gecomprimeerd</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
+        <source>more bytes per pixel</source>
         <translation>meer bytes per pixel</translation>
     </message>
     <message>
@@ -1817,11 +1817,11 @@ albums, de bestanden zijn nieuw:</translation>
         <translation>OORDEEL</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
         <translation>Om het ongedaan te kunnen maken moet %1 aan originelen worden bewaard, en de grens is %2.</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
         <translation>‘lumidex undo --keep-size %1’ verhoogt de grens; met --no-undo wordt niets bewaard en kan het niet ongedaan worden gemaakt.</translation>
     </message>
     <message numerus="yes">
@@ -1847,15 +1847,15 @@ albums, de bestanden zijn nieuw:</translation>
         <translation>--forget-older staat dit toe.</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
+        <source>Forget them and continue? [y/N]</source>
         <translation>Deze vergeten en doorgaan? [j/N]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
+        <source>No originals would be kept, so the edit could not be undone.</source>
         <translation>Er zou niets worden bewaard: het zou niet ongedaan kunnen worden gemaakt.</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
+        <source>The edit would be refused.</source>
         <translation>Het zou worden geweigerd.</translation>
     </message>
     <message numerus="yes">
@@ -1901,7 +1901,7 @@ albums, de bestanden zijn nieuw:</translation>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
+        <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>Doorgaan zonder wat nodig is om het opnieuw te doen? [j/N]</translation>
     </message>
     <message>
@@ -1917,11 +1917,11 @@ albums, de bestanden zijn nieuw:</translation>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
         <translation>Er is geen ruimte om te bewaren wat nodig is om het opnieuw te doen; ‘lumidex undo --no-redo’ doet het zonder.</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
             <numerusform>Het ongedaan maken van ‘%1’ (%2) zal %3 bestand laten zoals het is, want deze stap heeft het sindsdien gewijzigd:</numerusform>
             <numerusform>Het ongedaan maken van ‘%1’ (%2) zal %3 bestanden laten zoals ze zijn, want deze stap heeft ze sindsdien gewijzigd:</numerusform>
@@ -1940,18 +1940,18 @@ albums, de bestanden zijn nieuw:</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
             <numerusform>Een import laat %1 ander bestand achter (--json somt het op).</numerusform>
             <numerusform>Een import laat %1 andere bestanden achter (--json somt ze op).</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
         <translation>Er blijft niets achter in %1: elk bestand heeft elders een vergeleken kopie.</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
         <translation>In %1 blijven alleen beheerbestanden achter: elk ander bestand heeft elders een vergeleken kopie.</translation>
     </message>
     <message>
@@ -1959,8 +1959,7 @@ albums, de bestanden zijn nieuw:</translation>
         <translation>Formatteren is veilig.</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
         <translation>Wat deze map betreft is formatteren veilig; wat ernaast staat, is niet
 bekeken.</translation>
     </message>
@@ -1969,11 +1968,11 @@ bekeken.</translation>
         <translation>niet vergroot</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
         <translation>Op de schijf van %1 is nog %2 vrij, en het bewerken van alle foto’s vergt %3: de laatste zouden worden gelaten zoals ze zijn.</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>Van %1 ervan is de bron verdwenen of gewijzigd: maak de prullenbak niet leeg voordat u een andere kopie hebt.</numerusform>
             <numerusform>Van %1 ervan zijn de bronnen verdwenen of gewijzigd: maak de prullenbak niet leeg voordat u andere kopieën hebt.</numerusform>

@@ -165,7 +165,7 @@
         <translation>O catálogo ainda não contém fotos. Execute: lumidex scan PASTA</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
             <numerusform>A %1 foto do catálogo não estava mais lá na última leitura. Falta algum disco?</numerusform>
             <numerusform>Todas as %1 fotos do catálogo não estavam mais lá na última leitura. Falta algum disco?</numerusform>
@@ -233,14 +233,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
             <numerusform>%1 foto adicionada a %2, aceito anteriormente.</numerusform>
             <numerusform>%1 fotos adicionadas a %2, aceito anteriormente.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
+        <source>%1 was accepted before, and there are no photos to add.</source>
         <translation>Nada a mudar em %1, aceito anteriormente.</translation>
     </message>
     <message numerus="yes">
@@ -260,7 +260,7 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
         <translation>Nenhum álbum foi aceito ainda. “lumidex albums” mostra propostas.</translation>
     </message>
     <message numerus="yes">
@@ -351,7 +351,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <translation>Não há calendário.</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
+        <source>Still in use: %1</source>
         <translation>Continua em uso: %1</translation>
     </message>
     <message>
@@ -363,11 +363,11 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <translation>O calendário está atualizado: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>O calendário de feriados não pôde ser lido até o fim, por isso faltam feriados. Tente: lumidex calendar check ou lumidex calendar update.</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>O calendário de feriados %1 não pôde ser lido até o fim, por isso faltam feriados. Tente: lumidex calendar check ou lumidex calendar update.</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
+        <source>no problems found.</source>
         <translation>nada impede.</translation>
     </message>
     <message>
@@ -416,7 +416,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <translation>Não há fotos nas pastas indicadas.</translation>
     </message>
     <message>
-        <source>Trying</source>
+        <source>Checking</source>
         <translation>Experimentando</translation>
     </message>
     <message>
@@ -480,7 +480,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <translation>Nada foi alterado.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 foto editada; “lumidex undo” desfaz isso.</numerusform>
             <numerusform>%1 fotos editadas; “lumidex undo” desfaz isso.</numerusform>
@@ -508,7 +508,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <translation>Copiando</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
         <translation>Interrompido. O que foi copiado está completo e comparado; o mesmo comando copia o resto.</translation>
     </message>
     <message>
@@ -516,23 +516,23 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <translation>Seriam copiados para %1:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
+        <source>Would be added to the catalogue without copying:</source>
         <translation>Seriam incluídas onde estão:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
+        <source>Copies of one shot would get different names:</source>
         <translation>Os arquivos de cada um destes disparos andam juntos, mas os nomes livres para eles não:</translation>
     </message>
     <message>
-        <source>Missing:</source>
+        <source>Not copied:</source>
         <translation>Faltam:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
+        <source>Not added to the catalogue:</source>
         <translation>Não incluídos no catálogo:</translation>
     </message>
     <message>
-        <source>Left out:</source>
+        <source>Skipped:</source>
         <translation>Deixados de fora:</translation>
     </message>
     <message numerus="yes">
@@ -543,21 +543,21 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
             <numerusform>%1 foto já está no catálogo.</numerusform>
             <numerusform>%1 fotos já estão no catálogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
             <numerusform>%1 arquivo já tinha sido copiado.</numerusform>
             <numerusform>%1 arquivos já tinham sido copiados.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
             <numerusform>%1 foto aparece duas vezes nas origens.</numerusform>
             <numerusform>%1 fotos aparecem duas vezes nas origens.</numerusform>
@@ -579,7 +579,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
             <numerusform>%1 foto incluída onde está.</numerusform>
@@ -593,21 +593,21 @@ nothing was changed.</source>
 nada foi alterado.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
             <numerusform>%1 arquivo (%2) copiado para %3 e comparado.</numerusform>
             <numerusform>%1 arquivos (%2) copiados para %3, todos comparados.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
             <numerusform>%1 nova foto no catálogo.</numerusform>
             <numerusform>%1 novas fotos no catálogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
             <numerusform>Falta %1 arquivo; o mesmo comando tenta novamente.</numerusform>
             <numerusform>Faltam %1 arquivos; o mesmo comando tenta novamente.</numerusform>
@@ -619,7 +619,7 @@ nada foi alterado.</translation>
         <translation>%1:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
         <translation>%1 não existe; %2 será usado.</translation>
     </message>
@@ -660,22 +660,22 @@ nada foi alterado.</translation>
         <translation>Não podem ser renomeadas:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
             <numerusform>%1 foto não tem data própria; a hora do arquivo é usada.</numerusform>
             <numerusform>%1 fotos não têm data própria; as horas dos arquivos são usadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
             <numerusform>%1 arquivo já tem seu nome.</numerusform>
             <numerusform>%1 arquivos já têm seus nomes.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Nada seria renomeado: o novo nome é impossível para %1 de %2 foto. Com
 --skip-problems, as outras são renomeadas.</numerusform>
@@ -684,8 +684,8 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Nada foi renomeado: o novo nome é impossível para %1 de %2 foto. Com
 --skip-problems, as outras são renomeadas.</numerusform>
@@ -710,14 +710,14 @@ others are renamed.</source>
         <translation>Nada foi renomeado.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
             <numerusform>Não foi possível devolver o nome antigo a %1 arquivo.</numerusform>
             <numerusform>Não foi possível devolver o nome antigo a %1 arquivos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
             <numerusform>%1 renomeada; “lumidex undo” desfaz isso.</numerusform>
@@ -733,7 +733,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
+        <source>Problems</source>
         <translation>O que impede</translation>
     </message>
     <message>
@@ -741,7 +741,7 @@ others are renamed.</source>
         <translation>Relatório: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
             <numerusform>%1 imagem não pôde ser lida e foi substituída por um espaço reservado.</numerusform>
             <numerusform>%1 imagens não puderam ser lidas e foram substituídas por um espaço reservado.</numerusform>
@@ -767,7 +767,7 @@ others are renamed.</source>
         <translation>laço</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
+        <source>Not added:</source>
         <translation>Não incluídos:</translation>
     </message>
     <message numerus="yes">
@@ -846,7 +846,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
             <numerusform>desaparecido, agora marcado como perdido</numerusform>
@@ -866,11 +866,11 @@ others are renamed.</source>
         <translation>Lendo pastas</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
         <translation>Interrompido. O que foi lido até agora está no catálogo; o mesmo comando continua a partir daí.</translation>
     </message>
     <message>
-        <source>Looking at</source>
+        <source>Analysing</source>
         <translation>Examinando</translation>
     </message>
     <message>
@@ -886,7 +886,7 @@ others are renamed.</source>
         <translation>Interrompido. O que foi movido está na lixeira.</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
+        <source>Interrupted. Run the same command to continue.</source>
         <translation>Interrompido. O mesmo comando continua a partir daí.</translation>
     </message>
     <message>
@@ -1023,17 +1023,17 @@ others are renamed.</source>
         <translation>As fotos têm semelhança %1 entre si e estão em grupos diferentes.</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
         <translation>Uma foto entra no primeiro grupo com cujo centro, a média das suas fotos naquele momento, a
 semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
+        <source>Matching all photos again gives the same groups.</source>
         <translation>Os grupos são os que uma nova comparação de todas as fotos forma.</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
         <translation>“lumidex similar --anew” forma os grupos do zero.</translation>
     </message>
     <message numerus="yes">
@@ -1200,26 +1200,26 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>Deixados onde estão</translation>
     </message>
     <message>
-        <source>Doing again</source>
+        <source>Redoing</source>
         <translation>Refazendo</translation>
     </message>
     <message>
-        <source>Taking back</source>
+        <source>Undoing</source>
         <translation>Desfazendo</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
+        <source>Interrupted. What was done so far stays done.</source>
         <translation>Interrompido. O que foi feito até agora permanece assim.</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
             <numerusform>Apenas %1 etapa das %2 pedidas.</numerusform>
             <numerusform>Apenas %1 etapas das %2 pedidas.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>A configuração %1 não faz sentido (%2); o limite habitual é usado.</translation>
     </message>
     <message numerus="yes">
@@ -1241,7 +1241,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>abandonada</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
+        <source>There is nothing to undo.</source>
         <translation>Não há nada que possa ser desfeito.</translation>
     </message>
     <message>
@@ -1262,37 +1262,37 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>Deixados como estão</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
         <translation>Nada de “%1” foi refeito.</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
         <translation>Nada de “%1” foi desfeito.</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
+        <source>Redone: %1.</source>
         <translation>Refeito: %1.</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
+        <source>Undone: %1.</source>
         <translation>Desfeito: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Refeito: %1, exceto %2 arquivo.</numerusform>
             <numerusform>Refeito: %1, exceto %2 arquivos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Desfeito: %1, exceto %2 arquivo.</numerusform>
             <numerusform>Desfeito: %1, exceto %2 arquivos.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
         <translation>Etapas mais antigas esperam por esta; “lumidex undo --skip” a deixa como está para sempre.</translation>
     </message>
     <message>
@@ -1300,11 +1300,11 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>Não há nada a pular.</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
+        <source>Skipped: %1.</source>
         <translation>Abandonado: %1.</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
         <translation>O que está guardado dela (%1) permanece até ficar antigo demais ou grande demais.</translation>
     </message>
     <message numerus="yes">
@@ -1315,19 +1315,19 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
         <translation>As etapas podem ser desfeitas dentro de %1.</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
+        <source>There is nothing to redo.</source>
         <translation>Não há nada a refazer.</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
+        <source>There is nothing to undo.</source>
         <translation>Não há nada a desfazer.</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
+        <source>Copies would share names with files of other shots:</source>
         <translation>Estes arquivos são de disparos diferentes daqueles cujos nomes compartilham ali:</translation>
     </message>
     <message>
@@ -1505,7 +1505,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>Não etiquetadas</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>%1 foto alterada; “lumidex undo” desfaz isso.</numerusform>
             <numerusform>%1 fotos alteradas; “lumidex undo” desfaz isso.</numerusform>
@@ -1519,11 +1519,11 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
         <translation>“lumidex undo” desfaz isso.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
             <numerusform>%1 foto foi deixada de fora, pois só a hora do arquivo a data. Para incluí-la, execute: lumidex albums --file-times</numerusform>
             <numerusform>%1 fotos foram deixadas de fora, pois só as horas dos arquivos as datam. Para incluí-las, execute: lumidex albums --file-times</numerusform>
@@ -1535,7 +1535,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>Recusados por %1</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
+        <source>If all these photos are edited at once:</source>
         <translation>Ao editar todas estas fotos de uma vez:</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
+        <source>There are no photos or videos in the given folders.</source>
         <translation>Não há fotos nem vídeos nas pastas indicadas.</translation>
     </message>
     <message>
@@ -1592,7 +1592,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>Está oculto</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <source>It is not a photo, a video or a file that belongs to one</source>
         <translation>Não é foto nem vídeo, nem pertence a um deles</translation>
     </message>
     <message>
@@ -1600,28 +1600,28 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>“lumidex undo” move para a lixeira as cópias desta execução.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
             <numerusform>%1 arquivo não é copiado, como você pediu: fica onde está.</numerusform>
             <numerusform>%1 arquivos não são copiados, como você pediu: ficam onde estão.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
             <numerusform>%1 arquivo não é copiado: não está em armazenamento removível e fica onde está. “--to PASTA” o copia.</numerusform>
             <numerusform>%1 arquivos não são copiados: não estão em armazenamento removível e ficam onde estão. “--to PASTA” os copia.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
             <numerusform>%1 deles é um vídeo, que o catálogo não aceita.</numerusform>
             <numerusform>%1 deles são vídeos, que o catálogo não aceita.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
             <numerusform>%1 arquivo de controle de câmeras e sistemas é deixado.</numerusform>
             <numerusform>%1 arquivos de controle de câmeras e sistemas são deixados.</numerusform>
@@ -1632,11 +1632,11 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>Nem tudo em %1 foi copiado: não formate nem esvazie ainda.</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
         <translation>Há cópias no próprio %1: não formate nem esvazie.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
             <numerusform>%1 etapa não pode mais ser desfeita: desde então passaram mais de %2 dias de uso.</numerusform>
             <numerusform>%1 etapas não podem mais ser desfeitas: desde então passaram mais de %2 dias de uso.</numerusform>
@@ -1669,8 +1669,8 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
         <translation>Talvez movidos, mas não dá para saber. As fotos mantêm suas etiquetas e álbuns,
 os arquivos são novos:</translation>
     </message>
@@ -1730,7 +1730,7 @@ os arquivos são novos:</translation>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
         <translation>íntegra</translation>
     </message>
@@ -1739,7 +1739,7 @@ os arquivos são novos:</translation>
         <translation>o arquivo da própria câmera</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
+        <source>has maker notes</source>
         <translation>com a nota do fabricante</translation>
     </message>
     <message>
@@ -1751,7 +1751,7 @@ os arquivos são novos:</translation>
         <translation>menos comprimida</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
+        <source>more bytes per pixel</source>
         <translation>mais bytes por pixel</translation>
     </message>
     <message>
@@ -1817,11 +1817,11 @@ os arquivos são novos:</translation>
         <translation>VEREDITO</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
         <translation>Para poder ser desfeito, é preciso guardar %1 de originais, e o limite é %2.</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
         <translation>“lumidex undo --keep-size %1” aumenta o limite; com --no-undo nada é guardado e isso não pode ser desfeito.</translation>
     </message>
     <message numerus="yes">
@@ -1847,15 +1847,15 @@ os arquivos são novos:</translation>
         <translation>--forget-older permite isso.</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
+        <source>Forget them and continue? [y/N]</source>
         <translation>Esquecê-las e continuar? [s/N]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
+        <source>No originals would be kept, so the edit could not be undone.</source>
         <translation>Nada seria guardado: não poderia ser desfeito.</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
+        <source>The edit would be refused.</source>
         <translation>Seria recusado.</translation>
     </message>
     <message numerus="yes">
@@ -1901,7 +1901,7 @@ os arquivos são novos:</translation>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
+        <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>Continuar sem o que é preciso para refazer? [s/N]</translation>
     </message>
     <message>
@@ -1917,11 +1917,11 @@ os arquivos são novos:</translation>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
         <translation>Não há espaço para guardar o que é preciso para refazer; “lumidex undo --no-redo” dispensa isso.</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
             <numerusform>Desfazer “%1” (%2) deixará %3 arquivo como está, pois esta etapa o alterou desde então:</numerusform>
             <numerusform>Desfazer “%1” (%2) deixará %3 arquivos como estão, pois esta etapa os alterou desde então:</numerusform>
@@ -1940,18 +1940,18 @@ os arquivos são novos:</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
             <numerusform>Uma importação deixa de fora %1 outro arquivo (--json mostra qual).</numerusform>
             <numerusform>Uma importação deixa de fora %1 outros arquivos (--json mostra todos).</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
         <translation>Nada fica em %1: cada arquivo tem uma cópia comparada em outro lugar.</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
         <translation>Em %1 só ficam arquivos de controle: cada um dos outros arquivos tem uma cópia comparada em outro lugar.</translation>
     </message>
     <message>
@@ -1959,8 +1959,7 @@ os arquivos são novos:</translation>
         <translation>É seguro formatar.</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
         <translation>No que toca a esta pasta, é seguro formatar; o que está ao lado dela não foi
 examinado.</translation>
     </message>
@@ -1969,11 +1968,11 @@ examinado.</translation>
         <translation>não ampliada</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
         <translation>O disco de %1 tem %2 livres, e editar todas as fotos precisa de %3: as últimas ficariam como estão.</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>A origem de %1 delas desapareceu ou foi alterada: não esvazie a lixeira antes de ter outra cópia.</numerusform>
             <numerusform>As origens de %1 delas desapareceram ou foram alteradas: não esvazie a lixeira antes de ter outras cópias.</numerusform>

@@ -166,7 +166,7 @@
         <translation>В каталоге пока нет фотографий. Выполните: lumidex scan ПАПКА</translation>
     </message>
     <message numerus="yes">
-        <source>All %1 photos of the catalogue were gone at the last scan. Is a disk missing?</source>
+        <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
             <numerusform>При последнем сканировании не нашлась ни одна фотография каталога (всего %1). Не отключён ли диск?</numerusform>
             <numerusform>При последнем сканировании не нашлась ни одна фотография каталога (всего %1). Не отключён ли диск?</numerusform>
@@ -238,7 +238,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Added %1 photos to %2, accepted before.</source>
+        <source>Added %1 photos to %2, which was accepted before.</source>
         <translation>
             <numerusform>Добавлена %1 фотография в принятый ранее альбом %2.</numerusform>
             <numerusform>Добавлено %1 фотографии в принятый ранее альбом %2.</numerusform>
@@ -246,7 +246,7 @@
         </translation>
     </message>
     <message>
-        <source>Nothing to change in %1, accepted before.</source>
+        <source>%1 was accepted before, and there are no photos to add.</source>
         <translation>В принятом ранее альбоме %1 менять нечего.</translation>
     </message>
     <message numerus="yes">
@@ -268,7 +268,7 @@
         </translation>
     </message>
     <message>
-        <source>No album is accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
+        <source>No album has been accepted yet. &quot;lumidex albums&quot; shows proposals.</source>
         <translation>Пока не принят ни один альбом. «lumidex albums» показывает предложения.</translation>
     </message>
     <message numerus="yes">
@@ -364,7 +364,7 @@ holiday, or of the weekends of one month.</source>
         <translation>Календаря нет.</translation>
     </message>
     <message>
-        <source>In use as before: %1</source>
+        <source>Still in use: %1</source>
         <translation>По-прежнему используется: %1</translation>
     </message>
     <message>
@@ -376,11 +376,11 @@ holiday, or of the weekends of one month.</source>
         <translation>Календарь актуален: %1</translation>
     </message>
     <message>
-        <source>The holiday calendar could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>Календарь праздников не удалось прочитать до конца, поэтому часть праздников отсутствует. Попробуйте: lumidex calendar check или lumidex calendar update.</translation>
     </message>
     <message>
-        <source>The holiday calendar %1 could not be read to its end, so holidays are missing. Try: lumidex calendar check, or lumidex calendar update.</source>
+        <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
         <translation>Календарь праздников %1 не удалось прочитать до конца, поэтому часть праздников отсутствует. Попробуйте: lumidex calendar check или lumidex calendar update.</translation>
     </message>
     <message>
@@ -418,7 +418,7 @@ holiday, or of the weekends of one month.</source>
         </translation>
     </message>
     <message>
-        <source>nothing is in the way.</source>
+        <source>no problems found.</source>
         <translation>препятствий нет.</translation>
     </message>
     <message>
@@ -430,7 +430,7 @@ holiday, or of the weekends of one month.</source>
         <translation>В указанных папках нет фотографий.</translation>
     </message>
     <message>
-        <source>Trying</source>
+        <source>Checking</source>
         <translation>Проба</translation>
     </message>
     <message>
@@ -495,7 +495,7 @@ holiday, or of the weekends of one month.</source>
         <translation>Ничего не изменено.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos edited; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos edited; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>Изменена %1 фотография; «lumidex undo» отменит это.</numerusform>
             <numerusform>Изменено %1 фотографии; «lumidex undo» отменит это.</numerusform>
@@ -524,7 +524,7 @@ holiday, or of the weekends of one month.</source>
         <translation>Копирование</translation>
     </message>
     <message>
-        <source>Interrupted. What was copied is whole and compared; the same command copies the rest.</source>
+        <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
         <translation>Прервано. Скопированное сохранено полностью и сверено; та же команда скопирует остальное.</translation>
     </message>
     <message>
@@ -532,23 +532,23 @@ holiday, or of the weekends of one month.</source>
         <translation>Было бы скопировано в %1:</translation>
     </message>
     <message>
-        <source>Would be taken in where they lie:</source>
+        <source>Would be added to the catalogue without copying:</source>
         <translation>Было бы добавлено на месте:</translation>
     </message>
     <message>
-        <source>These files are of one shot each, and the free names for them are not:</source>
+        <source>Copies of one shot would get different names:</source>
         <translation>Файлы каждого из этих снимков относятся друг к другу, а свободные имена для них — нет:</translation>
     </message>
     <message>
-        <source>Missing:</source>
+        <source>Not copied:</source>
         <translation>Отсутствуют:</translation>
     </message>
     <message>
-        <source>Not taken into the catalogue:</source>
+        <source>Not added to the catalogue:</source>
         <translation>Не добавлены в каталог:</translation>
     </message>
     <message>
-        <source>Left out:</source>
+        <source>Skipped:</source>
         <translation>Пропущены:</translation>
     </message>
     <message numerus="yes">
@@ -560,7 +560,7 @@ holiday, or of the weekends of one month.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos in the catalogue already.</source>
+        <source>%1 photos are in the catalogue already.</source>
         <translation>
             <numerusform>%1 фотография уже в каталоге.</numerusform>
             <numerusform>%1 фотографии уже в каталоге.</numerusform>
@@ -568,7 +568,7 @@ holiday, or of the weekends of one month.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files copied before.</source>
+        <source>%1 files were copied before.</source>
         <translation>
             <numerusform>%1 файл скопирован ранее.</numerusform>
             <numerusform>%1 файла скопировано ранее.</numerusform>
@@ -576,7 +576,7 @@ holiday, or of the weekends of one month.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos there twice among the sources.</source>
+        <source>%1 photos occur twice in the sources.</source>
         <translation>
             <numerusform>%1 фотография повторяется в источниках.</numerusform>
             <numerusform>%1 фотографии повторяются в источниках.</numerusform>
@@ -600,7 +600,7 @@ holiday, or of the weekends of one month.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos taken in where they lie.</source>
+        <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
             <numerusform>добавлена на месте %1 фотография.</numerusform>
@@ -615,7 +615,7 @@ nothing was changed.</source>
 ничего не изменено.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files (%2) copied to %3, each compared.</source>
+        <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
             <numerusform>%1 файл (%2) скопирован в %3 и сверен.</numerusform>
             <numerusform>%1 файла (%2) скопировано в %3, каждый сверен.</numerusform>
@@ -623,7 +623,7 @@ nothing was changed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos new in the catalogue.</source>
+        <source>%1 photos added to the catalogue.</source>
         <translation>
             <numerusform>%1 новая фотография в каталоге.</numerusform>
             <numerusform>%1 новые фотографии в каталоге.</numerusform>
@@ -631,7 +631,7 @@ nothing was changed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files missing; the same command tries again.</source>
+        <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
             <numerusform>Отсутствует %1 файл; та же команда попробует снова.</numerusform>
             <numerusform>Отсутствует %1 файла; та же команда попробует снова.</numerusform>
@@ -644,7 +644,7 @@ nothing was changed.</source>
         <translation>%1:</translation>
     </message>
     <message>
-        <source>There is no %1; %2 is used.</source>
+        <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
         <translation>Языка %1 нет; используется %2.</translation>
     </message>
@@ -685,7 +685,7 @@ nothing was changed.</source>
         <translation>Нельзя переименовать:</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos have no date of their own; their files&apos; times are used.</source>
+        <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
             <numerusform>У %1 фотографии нет своей даты; используется время файла.</numerusform>
             <numerusform>У %1 фотографий нет своей даты; используется время файлов.</numerusform>
@@ -693,7 +693,7 @@ nothing was changed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files have their names already.</source>
+        <source>%1 files have their new names already.</source>
         <translation>
             <numerusform>%1 файл уже носит своё имя.</numerusform>
             <numerusform>%1 файла уже носят свои имена.</numerusform>
@@ -701,8 +701,8 @@ nothing was changed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing would be renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Ничего не было бы переименовано: новое имя невозможно для %1 из %2 фотографии.
 С --skip-problems будут переименованы остальные.</numerusform>
@@ -713,8 +713,8 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was renamed: %1 of %2 photos cannot have the new name. With --skip-problems the
-others are renamed.</source>
+        <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
+Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>Ничего не переименовано: новое имя невозможно для %1 из %2 фотографии.
 С --skip-problems будут переименованы остальные.</numerusform>
@@ -742,7 +742,7 @@ others are renamed.</source>
         <translation>Ничего не переименовано.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files could not be given back the old name.</source>
+        <source>%1 files could not get their old names back.</source>
         <translation>
             <numerusform>Не удалось вернуть прежнее имя %1 файлу.</numerusform>
             <numerusform>Не удалось вернуть прежнее имя %1 файлам.</numerusform>
@@ -750,7 +750,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 renamed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 renamed; &quot;lumidex undo&quot; undoes it.</source>
         <comment>so many photos</comment>
         <translation>
             <numerusform>Переименовано: %1; «lumidex undo» отменит это.</numerusform>
@@ -768,7 +768,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message>
-        <source>In the way</source>
+        <source>Problems</source>
         <translation>Мешает</translation>
     </message>
     <message>
@@ -776,7 +776,7 @@ others are renamed.</source>
         <translation>Отчёт: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 pictures could not be read and got a placeholder.</source>
+        <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
             <numerusform>%1 изображение не удалось прочитать, вместо него показана заглушка.</numerusform>
             <numerusform>%1 изображения не удалось прочитать, вместо них показаны заглушки.</numerusform>
@@ -804,7 +804,7 @@ others are renamed.</source>
         <translation>петля</translation>
     </message>
     <message>
-        <source>Not taken in:</source>
+        <source>Not added:</source>
         <translation>Не добавлены:</translation>
     </message>
     <message numerus="yes">
@@ -892,7 +892,7 @@ others are renamed.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>gone, now marked lost</source>
+        <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
             <numerusform>исчез, помечен как утраченный</numerusform>
@@ -913,11 +913,11 @@ others are renamed.</source>
         <translation>Сканирование</translation>
     </message>
     <message>
-        <source>Interrupted. What was read so far is in the catalogue; the same command goes on from there.</source>
+        <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
         <translation>Прервано. Прочитанное сохранено в каталоге; та же команда продолжит с этого места.</translation>
     </message>
     <message>
-        <source>Looking at</source>
+        <source>Analysing</source>
         <translation>Просмотр</translation>
     </message>
     <message>
@@ -933,7 +933,7 @@ others are renamed.</source>
         <translation>Прервано. Перемещённое находится в корзине.</translation>
     </message>
     <message>
-        <source>Interrupted. The same command goes on from there.</source>
+        <source>Interrupted. Run the same command to continue.</source>
         <translation>Прервано. Та же команда продолжит с этого места.</translation>
     </message>
     <message>
@@ -1075,17 +1075,17 @@ others are renamed.</source>
         <translation>Сходство фотографий — %1, они в разных группах.</translation>
     </message>
     <message>
-        <source>A photo joins the first group whose centre, the mean of its photos at that time, it scored
-above %1 against; later photos move the centre.</source>
+        <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
+mean of the photos in the group at that time; later photos move it.</source>
         <translation>Фотография попадает в первую группу, сходство с центром которой (средним её фотографий на тот
 момент) превышало %1; следующие фотографии сдвигают центр.</translation>
     </message>
     <message>
-        <source>The groups are as matching all photos again makes them.</source>
+        <source>Matching all photos again gives the same groups.</source>
         <translation>Группы таковы, какими их даёт новое сравнение всех фотографий.</translation>
     </message>
     <message>
-        <source>&quot;lumidex similar --anew&quot; makes the groups from nothing.</source>
+        <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
         <translation>«lumidex similar --anew» составит группы с нуля.</translation>
     </message>
     <message numerus="yes">
@@ -1258,19 +1258,19 @@ above %1 against; later photos move the centre.</source>
         <translation>Оставлены на месте</translation>
     </message>
     <message>
-        <source>Doing again</source>
+        <source>Redoing</source>
         <translation>Повтор</translation>
     </message>
     <message>
-        <source>Taking back</source>
+        <source>Undoing</source>
         <translation>Отмена</translation>
     </message>
     <message>
-        <source>Interrupted. What was done so far stays so.</source>
+        <source>Interrupted. What was done so far stays done.</source>
         <translation>Прервано. Уже сделанное остаётся.</translation>
     </message>
     <message numerus="yes">
-        <source>Only %1 steps of the %2 asked for.</source>
+        <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
             <numerusform>Только %1 шаг из %2 запрошенных.</numerusform>
             <numerusform>Только %1 шага из %2 запрошенных.</numerusform>
@@ -1278,7 +1278,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>The setting %1 makes no sense (%2); the usual limit is used.</source>
+        <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>Параметр %1 не имеет смысла (%2); используется обычное ограничение.</translation>
     </message>
     <message numerus="yes">
@@ -1301,7 +1301,7 @@ above %1 against; later photos move the centre.</source>
         <translation>оставлен как есть</translation>
     </message>
     <message>
-        <source>There is nothing that could be undone.</source>
+        <source>There is nothing to undo.</source>
         <translation>Отменять нечего.</translation>
     </message>
     <message>
@@ -1322,23 +1322,23 @@ above %1 against; later photos move the centre.</source>
         <translation>Оставлены как есть</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was done again.</source>
+        <source>Nothing of &quot;%1&quot; was redone.</source>
         <translation>Из «%1» ничего не повторено.</translation>
     </message>
     <message>
-        <source>Nothing of &quot;%1&quot; was taken back.</source>
+        <source>Nothing of &quot;%1&quot; was undone.</source>
         <translation>Из «%1» ничего не отменено.</translation>
     </message>
     <message>
-        <source>Done again: %1.</source>
+        <source>Redone: %1.</source>
         <translation>Повторено: %1.</translation>
     </message>
     <message>
-        <source>Taken back: %1.</source>
+        <source>Undone: %1.</source>
         <translation>Отменено: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Done again: %1, but for %2 files.</source>
+        <source>Redone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Повторено: %1, кроме %2 файла.</numerusform>
             <numerusform>Повторено: %1, кроме %2 файлов.</numerusform>
@@ -1346,7 +1346,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Taken back: %1, but for %2 files.</source>
+        <source>Undone: %1, except for %2 files.</source>
         <translation>
             <numerusform>Отменено: %1, кроме %2 файла.</numerusform>
             <numerusform>Отменено: %1, кроме %2 файлов.</numerusform>
@@ -1354,7 +1354,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>Older steps wait for it; &quot;lumidex undo --skip&quot; leaves it as it is for good.</source>
+        <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
         <translation>Более ранние шаги ждут его; «lumidex undo --skip» навсегда оставит его как есть.</translation>
     </message>
     <message>
@@ -1362,11 +1362,11 @@ above %1 against; later photos move the centre.</source>
         <translation>Пропускать нечего.</translation>
     </message>
     <message>
-        <source>Given up: %1.</source>
+        <source>Skipped: %1.</source>
         <translation>Оставлено как есть: %1.</translation>
     </message>
     <message>
-        <source>What is kept of it (%1) stays until it is too old or too much.</source>
+        <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
         <translation>Хранимое для него (%1) останется, пока не станет слишком старым или слишком большим.</translation>
     </message>
     <message numerus="yes">
@@ -1378,19 +1378,19 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>Steps can be undone within %1.</source>
+        <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
         <translation>Шаги можно отменить в пределах: %1.</translation>
     </message>
     <message>
-        <source>There is nothing to do again.</source>
+        <source>There is nothing to redo.</source>
         <translation>Повторять нечего.</translation>
     </message>
     <message>
-        <source>There is nothing to take back.</source>
+        <source>There is nothing to undo.</source>
         <translation>Отменять нечего.</translation>
     </message>
     <message>
-        <source>These files are of other shots than those whose names they share there:</source>
+        <source>Copies would share names with files of other shots:</source>
         <translation>Эти файлы относятся к другим снимкам, чем те, с чьими именами они там совпадают:</translation>
     </message>
     <message>
@@ -1574,7 +1574,7 @@ above %1 against; later photos move the centre.</source>
         <translation>Метки не изменены</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos changed; &quot;lumidex undo&quot; takes it back.</source>
+        <source>%1 photos changed; &quot;lumidex undo&quot; undoes it.</source>
         <translation>
             <numerusform>Метки изменены у %1 фотографии; «lumidex undo» отменит это.</numerusform>
             <numerusform>Метки изменены у %1 фотографий; «lumidex undo» отменит это.</numerusform>
@@ -1590,11 +1590,11 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>&quot;lumidex undo&quot; takes it back.</source>
+        <source>&quot;lumidex undo&quot; undoes it.</source>
         <translation>«lumidex undo» отменит это.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 photos were left out, for only the times of their files date them. To take them in, run: lumidex albums --file-times</source>
+        <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
             <numerusform>Пропущена %1 фотография: её дата известна только по времени файла. Чтобы включить её, выполните: lumidex albums --file-times</numerusform>
             <numerusform>Пропущено %1 фотографии: их даты известны только по времени файлов. Чтобы включить их, выполните: lumidex albums --file-times</numerusform>
@@ -1607,7 +1607,7 @@ above %1 against; later photos move the centre.</source>
         <translation>Отклоняются (%1)</translation>
     </message>
     <message>
-        <source>Of an edit of all these photos at once:</source>
+        <source>If all these photos are edited at once:</source>
         <translation>Об изменении всех этих фотографий сразу:</translation>
     </message>
     <message>
@@ -1661,7 +1661,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>There are no photos or films in the given folders.</source>
+        <source>There are no photos or videos in the given folders.</source>
         <translation>В указанных папках нет ни фотографий, ни видео.</translation>
     </message>
     <message>
@@ -1669,7 +1669,7 @@ above %1 against; later photos move the centre.</source>
         <translation>Файл скрыт</translation>
     </message>
     <message>
-        <source>It is neither a photo nor a film, nor what belongs to one</source>
+        <source>It is not a photo, a video or a file that belongs to one</source>
         <translation>Это не фотография и не видео, и к ним файл не относится</translation>
     </message>
     <message>
@@ -1677,7 +1677,7 @@ above %1 against; later photos move the centre.</source>
         <translation>«lumidex undo» переместит копии этого запуска в корзину.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied, as you said: they stay where they are.</source>
+        <source>%1 files are not copied, as you chose; they stay where they are.</source>
         <translation>
             <numerusform>Как вы указали, %1 файл не копируется: он остаётся на месте.</numerusform>
             <numerusform>Как вы указали, %1 файла не копируются: они остаются на месте.</numerusform>
@@ -1685,7 +1685,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 files are not copied: they do not lie on removable storage and stay where they are. &quot;--to DIR&quot; copies them.</source>
+        <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
             <numerusform>%1 файл не копируется: он находится не на съёмном носителе и остаётся на месте. «--to ПАПКА» скопирует его.</numerusform>
             <numerusform>%1 файла не копируются: они находятся не на съёмном носителе и остаются на месте. «--to ПАПКА» скопирует их.</numerusform>
@@ -1693,7 +1693,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of them are films, which the catalogue does not take.</source>
+        <source>%1 of them are videos, which the catalogue does not hold.</source>
         <translation>
             <numerusform>Из них %1 видео, а видео в каталог не добавляются.</numerusform>
             <numerusform>Из них %1 видео, а видео в каталог не добавляются.</numerusform>
@@ -1701,7 +1701,7 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 housekeeping files of cameras and systems are left.</source>
+        <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
             <numerusform>Оставлен %1 служебный файл камер и систем.</numerusform>
             <numerusform>Оставлено %1 служебных файла камер и систем.</numerusform>
@@ -1713,11 +1713,11 @@ above %1 against; later photos move the centre.</source>
         <translation>Из %1 скопировано не всё: пока не форматируйте и не очищайте.</translation>
     </message>
     <message>
-        <source>Copies lie in %1 itself: do not format or empty it.</source>
+        <source>Copies are in %1 itself: do not format or empty it.</source>
         <translation>Копии лежат в самом %1: не форматируйте и не очищайте.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 steps cannot be undone any more: more than %2 days of use have passed since.</source>
+        <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
             <numerusform>%1 шаг больше нельзя отменить: число дней использования с тех пор превысило %2.</numerusform>
             <numerusform>%1 шага больше нельзя отменить: число дней использования с тех пор превысило %2.</numerusform>
@@ -1754,8 +1754,8 @@ above %1 against; later photos move the centre.</source>
         </translation>
     </message>
     <message>
-        <source>Perhaps moved, but it cannot be told. The photos keep their tags and albums, the
-files are new:</source>
+        <source>These may be photos that were moved, but several files or photos come into question.
+The photos keep their tags and albums, the files are new:</source>
         <translation>Возможно, перемещены, но определить это нельзя. Фотографии сохраняют метки и
 альбомы, файлы считаются новыми:</translation>
     </message>
@@ -1819,7 +1819,7 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>whole</source>
+        <source>undamaged</source>
         <comment>photo</comment>
         <translation>неповреждённая</translation>
     </message>
@@ -1828,7 +1828,7 @@ files are new:</source>
         <translation>собственный файл камеры</translation>
     </message>
     <message>
-        <source>has the maker&apos;s note</source>
+        <source>has maker notes</source>
         <translation>с заметкой производителя</translation>
     </message>
     <message>
@@ -1840,7 +1840,7 @@ files are new:</source>
         <translation>сжата слабее</translation>
     </message>
     <message>
-        <source>more bytes a pixel</source>
+        <source>more bytes per pixel</source>
         <translation>больше байтов на пиксель</translation>
     </message>
     <message>
@@ -1908,11 +1908,11 @@ files are new:</source>
         <translation>ВЫВОД</translation>
     </message>
     <message>
-        <source>To be taken back it needs %1 of originals kept, and the limit is %2.</source>
+        <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
         <translation>Чтобы это можно было отменить, нужно хранить %1 исходных файлов, а ограничение — %2.</translation>
     </message>
     <message>
-        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and it cannot be taken back.</source>
+        <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
         <translation>«lumidex undo --keep-size %1» повысит ограничение; с --no-undo ничего не сохраняется, и отменить это будет нельзя.</translation>
     </message>
     <message numerus="yes">
@@ -1940,15 +1940,15 @@ files are new:</source>
         <translation>--forget-older разрешает это.</translation>
     </message>
     <message>
-        <source>Forget them and go on? [y/N]</source>
+        <source>Forget them and continue? [y/N]</source>
         <translation>Забыть их и продолжить? [д/Н]</translation>
     </message>
     <message>
-        <source>Nothing would be kept: it could not be taken back.</source>
+        <source>No originals would be kept, so the edit could not be undone.</source>
         <translation>Ничего не было бы сохранено: отменить это было бы нельзя.</translation>
     </message>
     <message>
-        <source>It would be refused.</source>
+        <source>The edit would be refused.</source>
         <translation>Это было бы отклонено.</translation>
     </message>
     <message numerus="yes">
@@ -1998,7 +1998,7 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>Go on without what redo needs? [y/N]</source>
+        <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>Продолжить без того, что нужно для повтора? [д/Н]</translation>
     </message>
     <message>
@@ -2015,11 +2015,11 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>There is no room for keeping what redo needs; &quot;lumidex undo --no-redo&quot; does without.</source>
+        <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
         <translation>Нет места, чтобы сохранить нужное для повтора; «lumidex undo --no-redo» обойдётся без этого.</translation>
     </message>
     <message numerus="yes">
-        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, for this step changed them since:</source>
+        <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
         <translation>
             <numerusform>Отмена «%1» (%2) оставит %3 файл как есть, так как этот шаг с тех пор изменил его:</numerusform>
             <numerusform>Отмена «%1» (%2) оставит %3 файла как есть, так как этот шаг с тех пор изменил их:</numerusform>
@@ -2040,7 +2040,7 @@ files are new:</source>
         </translation>
     </message>
     <message numerus="yes">
-        <source>An import leaves %1 other files (--json lists them).</source>
+        <source>An import skips %1 other files (--json lists them).</source>
         <translation>
             <numerusform>При импорте останется ещё %1 файл (--json покажет его).</numerusform>
             <numerusform>При импорте останется ещё %1 файла (--json покажет их).</numerusform>
@@ -2048,11 +2048,11 @@ files are new:</source>
         </translation>
     </message>
     <message>
-        <source>Nothing is left in %1: each file has a compared copy elsewhere.</source>
+        <source>Every file in %1 has a verified copy elsewhere.</source>
         <translation>В %1 ничего не осталось: у каждого файла есть сверенная копия в другом месте.</translation>
     </message>
     <message>
-        <source>Nothing but housekeeping files is left in %1: each other file has a compared copy elsewhere.</source>
+        <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
         <translation>В %1 остались только служебные файлы: у каждого другого файла есть сверенная копия в другом месте.</translation>
     </message>
     <message>
@@ -2060,8 +2060,7 @@ files are new:</source>
         <translation>Можно безопасно форматировать.</translation>
     </message>
     <message>
-        <source>As far as this folder goes it is safe to format; what lies beside it was not
-looked at.</source>
+        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
         <translation>Что касается этой папки, можно безопасно форматировать; то, что лежит рядом,
 не проверялось.</translation>
     </message>
@@ -2070,11 +2069,11 @@ looked at.</source>
         <translation>не увеличена</translation>
     </message>
     <message>
-        <source>The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones would be left as they are.</source>
+        <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
         <translation>На диске папки %1 свободно %2, а для изменения всех фотографий нужно %3: последние остались бы как есть.</translation>
     </message>
     <message numerus="yes">
-        <source>Of %1 of them the source is gone or was changed: do not empty the trash before you have another copy.</source>
+        <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>Для %1 из них исходный файл исчез или был изменён: не очищайте корзину, пока у вас нет другой копии.</numerusform>
             <numerusform>Для %1 из них исходные файлы исчезли или были изменены: не очищайте корзину, пока у вас нет других копий.</numerusform>

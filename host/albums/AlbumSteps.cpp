@@ -121,8 +121,8 @@ std::size_t AlbumSteps::TakeOut(const Change& change, std::vector<FileFinding>& 
     return photos;
   }
   if (NextPosition(database_, *album) > 0) {
-    findings.push_back(
-        {database_.File(), "The album " + ShownName(change.name) + " stays: photos were added to it since"});
+    findings.push_back({database_.File(), "The album " + ShownName(change.name) +
+                                              " is kept, because photos were added to it later"});
     return photos;
   }
   for (const char* const sql :
@@ -146,12 +146,11 @@ qlonglong AlbumSteps::Make(const Change& change) const {
 std::size_t AlbumSteps::BringIn(const Change& change, std::vector<FileFinding>& findings) const {
   std::optional<qlonglong> album = FindAlbumById(database_, change.id);
   if (!album && !change.created) {
-    findings.push_back({database_.File(), "The album " + ShownName(change.name) + " is not there any more"});
+    findings.push_back({database_.File(), "The album " + ShownName(change.name) + " no longer exists"});
     return 0;
   }
   if (!album && FindAlbum(database_, "SELECT number FROM albums WHERE name = ?", change.name)) {
-    findings.push_back(
-        {database_.File(), "There is another album of the name " + ShownName(change.name) + " now"});
+    findings.push_back({database_.File(), "Another album has the name " + ShownName(change.name) + " now"});
     return 0;
   }
   if (!album) {

@@ -202,7 +202,7 @@ void CheckUnknownLocale(const Calendar& calendar, const std::string& locale,
     LocaleCheck(locale, calendar.Read(locale), findings).Run();
   } catch (const Core::JsonException&) {
     // Album proposals never read it, so the file serves all the same.
-    findings.push_back({locale, 0, "This is no list of events."});
+    findings.push_back({locale, 0, "This is not a list of events."});
   }
 }
 
@@ -251,8 +251,9 @@ std::string FindUpdateFault(const std::optional<App::DownloadReply>& answer, boo
   }
   switch (answer->outcome) {
     case App::DownloadReply::Outcome::Fetched:
-      return serves && stored == answer->body ? ""
-                                              : "The server's answer is no calendar, or it cannot be stored.";
+      return serves && stored == answer->body
+                 ? ""
+                 : "The server's answer is not a calendar, or it cannot be stored.";
     case App::DownloadReply::Outcome::NotModified:
       return serves ? "" : "The server says that nothing changed, but there is no copy.";
     case App::DownloadReply::Outcome::Failed:

@@ -118,11 +118,11 @@ CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expect
   const FileState before = reader.State();
   if (!IsSameState(before, expected)) {
     expected = before;
-    return Failed(Status::Changed, "it was changed meanwhile");
+    return Failed(Status::Changed, "it was changed while it was read");
   }
   NewFile written;
   if (const std::error_code error = written.Create(copy)) {
-    return Failed(Status::NoRoom, "no file can be made in the folder of copies: " + ErrorText(error));
+    return Failed(Status::NoRoom, "no file can be created in the target folder: " + ErrorText(error));
   }
   CopyOutcome outcome = CopyContent(reader, before.size, written, goesOn);
   if (outcome.status != Status::Copied) {
@@ -177,7 +177,7 @@ CopyOutcome VerifyCopy(const ioPath& copy, const CopyOutcome& copied) {
     return Failed(Status::Different, "the copy cannot be read back: " + ErrorText(error));
   }
   if (hash.Finish().toHex().toStdString() != copied.sha256) {
-    return Failed(Status::Different, "read back, the copy differs from what was read");
+    return Failed(Status::Different, "the copy differs from the original");
   }
   return copied;
 }

@@ -39,7 +39,7 @@ void RequireUsablePlace(const ioPath& file, Catalogue::Mode mode) {
     case FileState::Kind::Folder:
       ThrowCatalogueError(file, "it is a folder");
     case FileState::Kind::Other:
-      ThrowCatalogueError(file, "it is no regular file");
+      ThrowCatalogueError(file, "it is not a regular file");
     case FileState::Kind::Loop:
     case FileState::Kind::Unknown:
       ThrowCatalogueError(file, ErrorText(state.error));
@@ -49,7 +49,7 @@ void RequireUsablePlace(const ioPath& file, Catalogue::Mode mode) {
 void MakeFolderOf(const ioPath& file) {
   const ioPath folder = file.parent_path();
   if (const std::error_code error = folder.empty() ? std::error_code() : MakePrivateFolders(folder)) {
-    ThrowCatalogueError(file, "its folder cannot be made (" + ErrorText(error) + ")");
+    ThrowCatalogueError(file, "its folder cannot be created (" + ErrorText(error) + ")");
   }
 }
 

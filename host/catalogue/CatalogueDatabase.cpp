@@ -74,7 +74,7 @@ std::string CauseOfSqliteCode(int code, const std::string& sqliteText, int busyT
     case kCannotOpen:
       return "it or a file beside it cannot be opened (" + sqliteText + ")";
     case kNoDatabase:
-      return "it is no catalogue (" + sqliteText + ")";
+      return "it is not a catalogue (" + sqliteText + ")";
     default:
       return sqliteText;
   }

@@ -391,7 +391,7 @@ void MakeByDraft(const ioPath& file) {
   const ioPath draft(file.utf8string() + kDraftMark + token);
   const auto require = [&file](const std::error_code& error) {
     if (error) {
-      ThrowCatalogueError(file, "it cannot be made (" + ErrorText(error) + ")");
+      ThrowCatalogueError(file, "it cannot be created (" + ErrorText(error) + ")");
     }
   };
   NewFile made;

@@ -23,9 +23,9 @@ void TellOfGroup(const std::vector<ChangeRow>& group, State goal, const FileFind
     if (change.path == obstacle.file) {
       result.findings.push_back(obstacle);
     } else if (change.state != goal) {
-      result.findings.push_back(
-          {change.path,
-           change.path.utf8string() + " is left as it is, too: it goes with " + obstacle.file.utf8string()});
+      result.findings.push_back({change.path, change.path.utf8string() +
+                                                  " is left as it is, because it belongs to " +
+                                                  obstacle.file.utf8string()});
     }
   }
 }
@@ -34,8 +34,8 @@ void TellOfGroup(const std::vector<ChangeRow>& group, State goal, const FileFind
 
 /// Of a photo that has the name of its staging file and could not get its own back.
 std::string WhyAway(const ChangeRow& change, const std::string& cause) {
-  return change.path.utf8string() + " is not in its place for now, its versions are kept (" + cause +
-         "). Make room on its disk and run \"lumidex undo\" again";
+  return change.path.utf8string() + " is missing for now, but its versions are kept (" + cause +
+         "). Free space on its disk and run \"lumidex undo\" again";
 }
 
 /// Puts the version that is kept in the photo's place and keeps the one that was there.
@@ -67,7 +67,7 @@ void EditReversal::Exchange(ChangeRow& change, bool redo) {
   UndoFileHolder holder(nullptr, locker_, item, change.side, false);
   if (DigestOf(change.side) != (redo ? change.digestAfter : change.digestBefore)) {
     ThrowHostError(change.path.utf8string(),
-                   change.path.utf8string() + " is left as it is: others have changed " +
+                   change.path.utf8string() + " is left as it is: another program changed " +
                        journal_.Kept().PathOf(incoming).utf8string() + ", where its other version was kept");
   }
   holder.Process();
@@ -82,7 +82,7 @@ void EditReversal::ExchangeInItsRoom(const ChangeRow& change, bool redo) {
     ThrowHostError(change.path.utf8string(),
                    change.path.utf8string() +
                        " is left as it is: its disk has no room for its other version (" +
-                       std::to_string(incoming.file_size()) + " bytes). Make room there and try again");
+                       std::to_string(incoming.file_size()) + " bytes). Free space there and try again");
   }
 }
 
@@ -117,10 +117,10 @@ bool EditReversal::IsKept(const ChangeRow& change, bool redo) const {
 /// By what the file is now; empty: it can be.
 std::string EditReversal::WhyNotPutBack(const ChangeRow& change, const QByteArray& now, bool redo) const {
   if (now != (redo ? change.digestBefore : change.digestAfter)) {
-    return change.path.utf8string() + " has been changed since and is left as it is";
+    return change.path.utf8string() + " was changed later and is left as it is";
   }
   if (!IsKept(change, redo)) {
-    return change.path.utf8string() + " is left as it is: its other version is not kept any more";
+    return change.path.utf8string() + " is left as it is: its other version is no longer kept";
   }
   return {};
 }

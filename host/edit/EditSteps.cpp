@@ -181,8 +181,7 @@ void EditSteps::BringTogether(std::vector<ChangeRow>& group) {
     }
   } catch (const Exception& failure) {
     journal_.Note(group.front().path.utf8string() +
-                  " and its sidecar do not agree any more: only one of them is edited (" + failure.what() +
-                  ").");
+                  " and its sidecar disagree, because only one of them was edited (" + failure.what() + ").");
   }
 }
 
@@ -344,8 +343,8 @@ void EditSteps::Recover(StepRow& step) {
                     std::to_string(step.number))
                        .c_str())
             .toULongLong());
-    journal_.Note(name + " had been broken off after " + std::to_string(photos) +
-                  (photos == 1 ? " photo." : " photos.") + " The others are as they were.");
+    journal_.Note(name + " was interrupted. Photos edited: " + std::to_string(photos) +
+                  "; the others are unchanged.");
     return;
   }
   const std::atomic<bool> never{false};

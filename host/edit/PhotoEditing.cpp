@@ -46,7 +46,7 @@ class EditRunner {
         break;
       }
       if (!stopped_.empty()) {
-        Find(task, task.photo.utf8string() + " is as it was: " + stopped_);
+        Find(task, task.photo.utf8string() + " is unchanged: " + stopped_);
         continue;
       }
       Take(task);
@@ -83,7 +83,7 @@ class EditRunner {
     } catch (const HostError& failure) {
       // Not the photo's fault, but the journal's, which finds out later how far it was.
       if (!isFound) {
-        Find(task, task.photo.utf8string() + " is as it was: " + failure.what());
+        Find(task, task.photo.utf8string() + " is unchanged: " + failure.what());
       }
       stopped_ = failure.what();
       return;
@@ -123,8 +123,8 @@ class EditRunner {
   }
 
   void TellLater(const EditTask& task, const HostError& failure) {
-    Find(task, task.photo.utf8string() + " is edited, but that could not be written down (" + failure.what() +
-                   "). The next run of lumidex does it");
+    Find(task, task.photo.utf8string() + " was edited, but the catalogue could not be updated (" +
+                   failure.what() + "). The next run of lumidex updates it");
   }
 
   void End(const std::vector<EditTask>& tasks) {

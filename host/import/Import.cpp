@@ -63,7 +63,7 @@ class Workshop {
     RefuseLinks();
     if (const std::error_code error = TakeLock()) {
       const bool busy = error == std::errc::resource_unavailable_try_again;
-      ThrowHostError(folder.utf8string(), busy ? "Another import is at work in " + folder.utf8string() + "."
+      ThrowHostError(folder.utf8string(), busy ? "Another import is running in " + folder.utf8string() + "."
                                                : "Nothing can be copied to " + folder.utf8string() + ": " +
                                                      ErrorText(error) + ".");
     }
@@ -369,7 +369,7 @@ class ImportRun {
       DropFromStep(copy);
       const bool taken = error == std::errc::file_exists;
       Miss(result.task.index, taken ? Missing::NameTaken : Missing::NotWritten,
-           taken ? "something else got the name " + copy.target.filename().utf8string() + " meanwhile"
+           taken ? "another file got the name " + copy.target.filename().utf8string() + " meanwhile"
                  : "it cannot be given its name: " + ErrorText(error));
       return;
     }
@@ -392,7 +392,7 @@ class ImportRun {
       if (result_.step != 0) {
         DropFromStep(plan_.copies[result.task.index]);
       }
-      Miss(result.task.index, Missing::NotWritten, "it cannot be noted that it was copied");
+      Miss(result.task.index, Missing::NotWritten, "the copy cannot be recorded");
     }
     batch_.clear();
   }
@@ -440,7 +440,7 @@ class ImportRun {
             {Missing::Repeated,
              known.path,
              {},
-             "its content was to come by " + known.other.utf8string() + ", which could not be copied"});
+             "it is identical to " + known.other.utf8string() + ", which could not be copied"});
       }
     }
     std::sort(result_.missing.begin(), result_.missing.end(),

@@ -308,7 +308,7 @@ class Planner {
       place = place.parent_path();
     }
     if (QueryFile(place).kind != FileState::Kind::Folder) {
-      plan_.obstacle = place.utf8string() + " is no folder.";
+      plan_.obstacle = place.utf8string() + " is not a folder.";
       return;
     }
     if (const std::string fault = FindLinkFault(plan_.folder); !fault.empty()) {

@@ -56,13 +56,13 @@ std::optional<Fault> FindFault(const ImportedCopy& copy) {
   const FileState state = LeadsElsewhere(copy.path) ? FileState() : QueryFile(copy.path);
   if (state.kind == FileState::Kind::Missing) {
     const bool isAway = FindFolderOutOfReach({{copy.path, copy.path}}).has_value();
-    return isAway ? Fault{name + " cannot be reached: its volume may be away", true}
-                  : Fault{name + " is not there any more", false};
+    return isAway ? Fault{name + " cannot be reached: its disk may not be connected", true}
+                  : Fault{name + " no longer exists", false};
   }
   if (state.kind == FileState::Kind::Unknown && state.error) {
-    return Fault{name + " cannot be looked at: " + ErrorText(state.error), true};
+    return Fault{name + " cannot be read: " + ErrorText(state.error), true};
   }
-  const std::string changed = name + " has been changed since and is left as it is";
+  const std::string changed = name + " was changed later and is left as it is";
   if (state.kind != FileState::Kind::File || state.size != copy.size) {
     return Fault{changed, false};
   }
@@ -87,7 +87,7 @@ void ImportSteps::RequireIdle(qlonglong step) const {
   for (const ioPath& folder : FoldersOf(rows_.Copies(step))) {
     if (IsImportAtWork(folder)) {
       ThrowHostError(folder.utf8string(),
-                     "An import is at work in " + folder.utf8string() + ". Try again when it has finished.");
+                     "An import is running in " + folder.utf8string() + ". Try again when it has finished.");
     }
   }
 }
@@ -170,7 +170,7 @@ State ImportSteps::TakeBack(qlonglong step, const std::atomic<bool>& cancelled, 
     if (gone.count(copy.path) > 0) {
       // Since an undo that was broken off.
     } else if (isAppendix && staying.count(ShotKey(copy.path)) > 0) {
-      stays(copy.path.utf8string() + " stays: so does what it belongs to", false);
+      stays(copy.path.utf8string() + " was kept, because its photo was kept", false);
     } else if (const std::optional<Fault> fault = FindFault(copy)) {
       stays(fault->cause, fault->mayPass);
     } else {
@@ -241,14 +241,14 @@ void ImportSteps::Recover(StepRow& step) {
   }
   const std::string name = "\"" + step.name.toStdString() + "\"";
   if (const std::optional<ioPath> away = FindFolderAway(step.number)) {
-    journal_.Note(name + " had been broken off and is finished once " + away->utf8string() +
-                  " can be reached again.");
+    journal_.Note(name + " was interrupted and will be finished once " + away->utf8string() +
+                  " can be reached.");
     return;
   }
   if (step.state == State::Doing) {
     const std::size_t files = Settle(step.number);
-    journal_.Note(name + " had been broken off; " + std::to_string(files) +
-                  (files == 1 ? " copy is" : " copies are") + " there. The same import copies the rest.");
+    journal_.Note(name + " was interrupted. Copies made: " + std::to_string(files) +
+                  "; run the same import to copy the rest.");
     return;
   }
   const std::atomic<bool> never{false};

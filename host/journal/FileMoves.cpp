@@ -130,10 +130,10 @@ void MovePatiently(IFileAccessLocker& locker, const ioPath& from, const ioPath& 
 
 std::string CauseOfMove(const std::error_code& error) {
   if (error == std::errc::file_exists) {
-    return "there is something of that name";
+    return "another file has that name";
   }
   if (error == std::errc::cross_device_link) {
-    return "that is on another volume";
+    return "it is on another volume";
   }
   return ErrorText(error);
 }
@@ -157,7 +157,7 @@ std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps) {
     } else {
       const FileState state = QueryFile(step.from);
       if (state.kind != FileState::Kind::File) {
-        Fail(step.from, step.to, state.error ? ErrorText(state.error) : "it is no file any more");
+        Fail(step.from, step.to, state.error ? ErrorText(state.error) : "it is no longer a file");
       }
       move.device = state.identity.first;
       move.inode = state.identity.second;

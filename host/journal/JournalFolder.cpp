@@ -92,8 +92,8 @@ void JournalFolder::TakeLock() {
 void JournalFolder::Hold(std::uint64_t more) {
   const std::uint64_t bytes = kOwnBytes + copy_ + more;
   if (const std::error_code error = reserve_.Hold(bytes)) {
-    Fail(folder_, "nothing is begun without " + std::to_string((bytes >> 20U) + 1) +
-                      " MiB of room for finishing it and taking it back (" + ErrorText(error) + ")");
+    Fail(folder_, "no step is started without " + std::to_string((bytes >> 20U) + 1) +
+                      " MiB free for finishing and undoing it (" + ErrorText(error) + ")");
   }
 }
 
@@ -103,7 +103,7 @@ void JournalFolder::HoldForCopy(std::uint64_t bytes) {
     if (const std::error_code error = reserve_.Hold(kOwnBytes + copy_)) {
       copy_ = before;
       reserve_.Hold(kOwnBytes + copy_);
-      Fail(folder_, "there is no room for taking it back (" + ErrorText(error) + ")");
+      Fail(folder_, "there is no room for undoing it (" + ErrorText(error) + ")");
     }
   }
 }

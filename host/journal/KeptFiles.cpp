@@ -118,7 +118,7 @@ bool FillReused(const ioPath& from, const ioPath& file) {
 
 void Require(const std::error_code& error, const ioPath& file) {
   if (error) {
-    Fail(file, "Cannot set aside", error);
+    Fail(file, "Cannot move", error);
   }
 }
 

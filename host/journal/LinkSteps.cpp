@@ -14,8 +14,8 @@ namespace {
 
 void Check(const LinkChange& link, const std::error_code& error) {
   if (error) {
-    ThrowHostError(link.link.utf8string(), "Cannot point the link " + link.link.utf8string() +
-                                               " to another name: " + ErrorText(error));
+    ThrowHostError(link.link.utf8string(), "Cannot change the target of the link " + link.link.utf8string() +
+                                               ": " + ErrorText(error));
   }
 }
 

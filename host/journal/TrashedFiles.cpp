@@ -253,7 +253,7 @@ void TrashedFiles::Drive(TrashedFile& file) const {
     file.place = trash_.Choose(file.file.path);
     Store(file);
   }
-  FailMove(file.file.path, "others are always faster with a name there");
+  FailMove(file.file.path, "no free name in the trash");
 }
 
 ioPath TrashedFiles::Move(qlonglong step, const SeenFile& known, const ioPath& kept) const {
@@ -287,14 +287,14 @@ void TrashedFiles::MoveAgain(TrashedFile& file) const {
     Drop(file);
   }
   if (QueryFile(file.file.path).kind == FileState::Kind::Missing) {
-    Fail(file.file.path, file.file.path.utf8string() + " is not there any more");
+    Fail(file.file.path, file.file.path.utf8string() + " no longer exists");
   }
   if (!IsIt(file.file.path, file)) {
-    Fail(file.file.path, file.file.path.utf8string() + " has been changed since and is left as it is");
+    Fail(file.file.path, file.file.path.utf8string() + " was changed later and is left as it is");
   }
   if (QueryFile(file.kept).kind != FileState::Kind::File || IsSameFile(file.kept, file.file.path)) {
-    Fail(file.file.path, file.file.path.utf8string() + " stays: the photo that was kept in its stead, " +
-                             file.kept.utf8string() + ", is not there any more");
+    Fail(file.file.path, file.file.path.utf8string() + " was kept, because the photo kept in its place, " +
+                             file.kept.utf8string() + ", no longer exists");
   }
   file.place = trash_.Choose(file.file.path);
   file.state = State::Redoing;
@@ -328,7 +328,7 @@ std::string TrashedFiles::MoveHome(const TrashedFile& file) const {
     std::error_code error = MakeFolders(file.file.path.parent_path());
     error = error ? error : MoveOrTell(locker_, file.place.file, file.file.path);
     return !error                            ? std::string()
-           : error == std::errc::file_exists ? "there is something of its old name"
+           : error == std::errc::file_exists ? "another file has its former name"
                                              : CauseOfMove(error);
   } catch (const std::exception& failure) {
     return failure.what();
@@ -346,16 +346,16 @@ void TrashedFiles::TakeBack(TrashedFile& file, bool& isHopeless) const {
     }
     if (!trash_.IsInReach(file.place)) {
       Fail(file.file.path, name + " is in the trash as " + file.place.file.utf8string() +
-                               ", which cannot be reached: its volume may be away");
+                               ", which cannot be reached: its disk may not be connected");
     }
     if (const FileState state = QueryFile(file.place.file); CannotTell(state)) {
       Fail(file.file.path, name + " may be in the trash as " + file.place.file.utf8string() +
-                               ", which cannot be looked at: " + ErrorText(state.error));
+                               ", which cannot be read: " + ErrorText(state.error));
     }
     isHopeless = true;
     const bool isTaken = QueryFile(file.file.path).kind != FileState::Kind::Missing;
-    Fail(file.file.path, name + (isTaken ? " is not in the trash any more; there is something of its old name"
-                                         : " is not in the trash any more and cannot be brought back"));
+    Fail(file.file.path, name + (isTaken ? " is no longer in the trash; another file has its name"
+                                         : " is no longer in the trash and cannot be brought back"));
   }
   const State former = file.state;
   file.state = State::Undoing;
@@ -365,7 +365,7 @@ void TrashedFiles::TakeBack(TrashedFile& file, bool& isHopeless) const {
   if (!cause.empty() && (IsInTrash(file) || !IsIt(file.file.path, file))) {
     file.state = former == State::Undoing ? State::Done : former;
     Store(file);
-    Fail(file.file.path, name + " stays in the trash as " + file.place.file.utf8string() + ": " + cause);
+    Fail(file.file.path, name + " remains in the trash as " + file.place.file.utf8string() + ": " + cause);
   }
   SyncNames(file);
   RemoveLeftNote(file);

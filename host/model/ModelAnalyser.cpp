@@ -38,7 +38,7 @@ std::string ReadModel(const ioPath& file) {
     case FileState::Kind::Folder:
       throw ModelFault("it is a folder");
     case FileState::Kind::Other:
-      throw ModelFault("it is no regular file");
+      throw ModelFault("it is not a regular file");
     case FileState::Kind::File:
       break;
   }

@@ -405,7 +405,7 @@ ModelHead ReadModelHead(std::string_view model) {
     }
   }
   if (!isModel || !graph) {
-    throw ModelFault("it is no ONNX model, or a damaged one");
+    throw ModelFault("it is not an ONNX model, or it is damaged");
   }
   TakeInput(*graph, head);
   if (graph->outputs.empty() || graph->outputs.front().name.empty()) {

@@ -7,7 +7,7 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 [[noreturn]] void ThrowDamaged() {
-  throw ModelFault("it is no ONNX model, or a damaged one");
+  throw ModelFault("it is not an ONNX model, or it is damaged");
 }
 
 }  // namespace

@@ -79,7 +79,7 @@ std::string NoReaderText(QIODevice& device) {
   const std::string head = device.peek(Strandel::kFormatHeadBytes).toStdString();
   const std::string format = Strandel::FormatByHead(head);
   if (format.empty()) {
-    return "its content is no picture of a known format";
+    return "its content is not a picture of a known format";
   }
   const auto isOneOf = [&format](std::initializer_list<const char*> formats) {
     return std::any_of(formats.begin(), formats.end(), [&format](const char* one) { return format == one; });

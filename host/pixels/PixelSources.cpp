@@ -42,7 +42,7 @@ std::string Refusal(const ioPath& file) {
       return ErrorText(state.error);
     case FileState::Kind::Folder:
     case FileState::Kind::Other:
-      return "it is no regular file";
+      return "it is not a regular file";
     case FileState::Kind::File:
       break;
   }

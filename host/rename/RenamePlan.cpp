@@ -82,7 +82,7 @@ void CheckToken(const std::string& token) {
     fault = "is too long";
   }
   if (!fault.empty()) {
-    ThrowHostError(token, "The token for names of files on their way " + fault);
+    ThrowHostError(token, "The token for staging names " + fault);
   }
 }
 
@@ -145,11 +145,11 @@ class Planner {
         std::any_of(files_.begin() + static_cast<std::ptrdiff_t>(shot.firstFile),
                     files_.begin() + static_cast<std::ptrdiff_t>(shot.endFile), moves)) {
       Fail(shot, Kind::Torn, given.set.files.front().path, {}, given.link,
-           "would lose a link of its name, which stays as it is");
+           "has a link of the same name beside it, which would not be renamed");
     }
     if (!named) {
       Fail(shot, Kind::NoDate, given.set.files.front().path, {}, {},
-           given.dateFault.empty() ? "has no date" : "cannot be read for its date: " + given.dateFault);
+           given.dateFault.empty() ? "has no date" : "has no readable date: " + given.dateFault);
     }
   }
 
@@ -228,12 +228,11 @@ class Planner {
       const auto stranger = strangers_.find(file.toKey);
       const auto strangeShot = strangeShots_.find(shot.newKey);
       if (stranger != strangers_.end()) {
-        Fail(shot, Kind::Taken, *file.from, file.to, *stranger->second,
-             "is the name of something that stays");
+        Fail(shot, Kind::Taken, *file.from, file.to, *stranger->second, "is the name of another file");
       } else if (strangeShot != strangeShots_.end() && shot.newKey != shot.oldKey) {
         // The settings of a stranger would become those of the photo.
         Fail(shot, Kind::Taken, *file.from, file.to, *strangeShot->second,
-             "is the name of a photo that stays, or of something beside one");
+             "is the name of another photo or its sidecar");
       }
     }
   }

@@ -216,8 +216,8 @@ void RenameSteps::Recover(StepRow& step) {
   const std::string name = "\"" + step.name.toStdString() + "\"";
   if (const std::optional<ioPath> away = FindFolderOutOfReach(batch.moves)) {
     // How far it was can only be seen there.
-    journal_.Note(name + " had been broken off and is finished once " + away->utf8string() +
-                  " can be reached again.");
+    journal_.Note(name + " was interrupted and will be finished once " + away->utf8string() +
+                  " can be reached.");
     return;
   }
   const std::atomic<bool> never{false};
@@ -232,18 +232,19 @@ void RenameSteps::Recover(StepRow& step) {
   if (!backwards || TryToPoint(links, false, ofLinks)) {
     drive = DriveMoves(batch.moves, found, goal, never, nullptr);
   }
-  std::string note = name + " had been broken off";
+  std::string note;
   if (drive.at == goal && (backwards || TryToPoint(links, true, ofLinks))) {
-    note += goal == 0 ? " while it was taken back; now it is." : " and is finished now.";
+    note = (backwards ? "Interrupted undo of " : "Interrupted step ") + name + " is now complete.";
   } else {
-    note += " and cannot be finished (" +
-            (drive.failure ? drive.failure->cause : ofLinks.findings.front().cause) + ")";
+    note = name + " was interrupted and cannot be finished (" +
+           (drive.failure ? drive.failure->cause : ofLinks.findings.front().cause) + ")";
     TryToPoint(links, false, ofLinks);
     drive = DriveMoves(batch.moves, drive.at, all - goal, never, nullptr);
     if (!drive.failure && backwards) {
       TryToPoint(links, true, ofLinks);
     }
-    note += drive.failure ? ", nor taken back (" + drive.failure->cause + ")." : "; it is as before now.";
+    note += drive.failure ? ", nor undone (" + drive.failure->cause + ")."
+                          : "; the files have their former names.";
   }
   Settle(batch, drive.at);
   journal_.Note(note);

@@ -56,7 +56,7 @@ FileVerdict JudgeRoom(const ioPath& photo, const ioPath& file) {
   }
   return Refusal(Kind::Room, CannotEdit(photo) + "its disk has no room for a new version of it (" +
                                  std::to_string(needed) + " bytes are needed, " + std::to_string(free) +
-                                 " are free); make room there");
+                                 " are free); free space there");
 }
 
 constexpr char kProtected[] = "is write-protected; allow writing to it, or use --force";
@@ -102,14 +102,14 @@ FileVerdict JudgeSidecar(const ioPath& sidecar, const ioPath& photo, const Stran
   try {
     changes = Strandel::TryEditSidecar(sidecar, photo, edit);
   } catch (const Strandel::PhotoEditError& failure) {
-    return refusal("what lies beside it has to change along with it. " + std::string(failure.what()) +
-                   "; repair that, or move it away");
+    return refusal("its sidecar must be edited with it. " + std::string(failure.what()) +
+                   "; repair or move the sidecar");
   }
   if (!changes) {
     return {};
   }
   if (const std::string fault = FolderFault(sidecar); !fault.empty()) {
-    return refusal("its sidecar " + name + " has to change along with it, and " + fault);
+    return refusal("its sidecar " + name + " must be edited with it, but " + fault);
   }
   if (!force && IsWriteProtected(sidecar)) {
     return refusal("its sidecar " + name + ' ' + kProtected);
@@ -159,10 +159,10 @@ FileVerdict JudgeRename(const ioPath& file) {
 
 FileVerdict JudgeTrash(const ioPath& photo) {
   const auto stays = [&photo](Kind kind, const std::string& why) {
-    return Refusal(kind, photo.utf8string() + " stays: " + why + ".");
+    return Refusal(kind, photo.utf8string() + " is kept: " + why + ".");
   };
   if (Tavolin::LiesInTrash(photo)) {
-    return stays(Kind::Kept, "it is in a trash already");
+    return stays(Kind::Kept, "it is already in a trash");
   }
   if (IsLink(photo)) {
     return stays(Kind::Kept, "it is a link to another file");

@@ -31,7 +31,7 @@ std::string FaultOfEntry(const ioPath& name) {
   if (!fault.empty()) {
     return "Its name " + fault;
   }
-  return ioPath(name.utf8string()) == name ? "" : "Its name is no text";
+  return ioPath(name.utf8string()) == name ? "" : "Its name is not valid text";
 }
 
 }  // namespace

@@ -99,7 +99,7 @@ class Gatherer {
 
   void Leave(LeftKind kind, const ioPath& file) {
     const char* const cause = misnamed_.count(file) > 0
-                                  ? "It is named like a housekeeping file, but may be a picture or a film"
+                                  ? "It is named like a housekeeping file, but may be a picture or a video"
                                   : "";
     result_.left.push_back({kind, file, cause, false});
   }
@@ -203,7 +203,7 @@ std::string ReasonToLeave(const LeftFile& file) {
     return file.cause;
   }
   return file.kind == LeftKind::Hidden ? "It is hidden"
-                                       : "It is neither a photo nor a film, nor what belongs to one";
+                                       : "It is not a photo, a video or a file that belongs to one";
 }
 
 GatheredSources GatherSources(const std::vector<ioPath>& sources, Gathered wanted) {

@@ -261,7 +261,7 @@ void MovedPhotos::Report(const std::vector<TracedPhoto>& photos, const Indices& 
   std::sort(files.begin(), files.end());
   if (photos.size() > 1 && held.size() == 1) {
     ScanFinding finding{Kind::Ambiguous, held_[held.front()].record.path,
-                        "It may be any of " + std::to_string(photos.size()) + " photos that are gone"};
+                        "It may be any of " + std::to_string(photos.size()) + " photos that are missing"};
     for (const TracedPhoto& photo : photos) {
       finding.candidates.push_back(photo.record.path);
     }
@@ -270,7 +270,7 @@ void MovedPhotos::Report(const std::vector<TracedPhoto>& photos, const Indices& 
   }
   for (const TracedPhoto& photo : photos) {
     ScanFinding finding{Kind::Ambiguous, photo.record.path,
-                        "It is gone, and " + std::to_string(held.size()) + " files may be it"};
+                        "It is missing, and " + std::to_string(held.size()) + " files may be it"};
     finding.candidates = files;
     findings_.push_back(std::move(finding));
   }

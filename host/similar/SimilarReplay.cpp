@@ -89,7 +89,7 @@ std::vector<std::string> SimilarReplay::Compare(const std::vector<Cluster>& stor
     }
     const auto place = left.find(id);
     if (place == left.end()) {
-      differences.push_back(NameOf(id) + " ought to be two.");
+      differences.push_back(NameOf(id) + " should be split.");
       continue;
     }
     if (place->second->count != made.cluster.count) {

@@ -22,10 +22,10 @@ constexpr std::size_t kBatch = 256;
 std::string WhyUnreadable(const ioPath& file) {
   const FileState state = QueryFile(file);
   if (state.kind == FileState::Kind::Missing) {
-    return "it is not there any more";
+    return "it no longer exists";
   }
   if (state.kind != FileState::Kind::File) {
-    return state.error ? ErrorText(state.error) : "it is no file any more";
+    return state.error ? ErrorText(state.error) : "it is no longer a file";
   }
   return std::ifstream(file.for_system(), std::ios::binary).is_open() ? "" : "it cannot be opened";
 }

@@ -45,16 +45,16 @@ bool IsAsKnown(const FileState& state, const SeenFile& file) {
 std::string WhatIsWrong(const FileState& state) {
   switch (state.kind) {
     case FileState::Kind::Missing:
-      return "is not there any more";
+      return "no longer exists";
     case FileState::Kind::File:
-      return "has been changed since it was looked at";
+      return "was changed after it was analysed";
     default:
-      return state.error ? "cannot be looked at (" + ErrorText(state.error) + ")" : "is no file any more";
+      return state.error ? "cannot be read (" + ErrorText(state.error) + ")" : "is no longer a file";
   }
 }
 
 std::string Stays(const ioPath& photo, const std::string& why) {
-  return photo.utf8string() + " stays: " + why + ".";
+  return photo.utf8string() + " is kept: " + why + ".";
 }
 
 class Planner {
@@ -102,19 +102,19 @@ class Planner {
     const FileState state = QueryFile(kept);
     Fault fault;
     if (!IsAsKnown(state, KnownAs(KeptOf(group).photo))) {
-      fault.text = "the one to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
+      fault.text = "the photo to keep, " + kept.utf8string() + ", " + WhatIsWrong(state);
     } else if (Tavolin::LiesInTrash(kept)) {
-      fault.text = "the one to keep, " + kept.utf8string() + ", is in a trash itself";
+      fault.text = "the photo to keep, " + kept.utf8string() + ", is in a trash";
     } else if (IsLink(kept)) {
       // The file that it leads to may lie on what is pulled out, and nobody looks after it here.
-      fault.text = "the one to keep, " + kept.utf8string() + ", is a link to another file";
+      fault.text = "the photo to keep, " + kept.utf8string() + ", is a link to another file";
       fault.isRule = true;
     } else if (group.group.members.size() > 1 && EndsTooSoon(kept)) {
       // As large as it was, and hardly less sharp: nothing else tells it from the whole one.
-      fault.text = "the one to keep, " + kept.utf8string() + ", breaks off before the end of its picture";
+      fault.text = "the photo to keep, " + kept.utf8string() + ", breaks off before the end of its picture";
     } else if (KeptOf(group).origin && !KeptOf(group).origin->degradation.empty()) {
       fault.text =
-          "the one to keep, " + kept.utf8string() + ", is damaged: " + KeptOf(group).origin->degradation;
+          "the photo to keep, " + kept.utf8string() + ", is damaged: " + KeptOf(group).origin->degradation;
     }
     std::set<std::size_t> raws;
     for (std::size_t i = 0; i < group.group.members.size(); ++i) {
@@ -142,12 +142,13 @@ class Planner {
     } else if (ShotKey(photo.path) == ShotKey(kept)) {
       Stay(photo.path, "it is of the same shot as " + kept.filename().utf8string() + ", which is kept", true);
     } else if (!IsLike(group.group.members[index], KeptOf(group))) {
-      Stay(photo.path, "it is like others of its group, but not like the one to keep, " + kept.utf8string(),
+      Stay(photo.path, "it is like others of its group, but not like the photo to keep, " + kept.utf8string(),
            true);
     } else if (const std::string why = WhyKept(VerdictOf(group, index), kept); !why.empty()) {
       plan_.stays.push_back({photo.path, Stays(photo.path, why), true, VerdictOf(group, index).verdict});
     } else if (hasMore_ && hasMore_(photo, KeptOf(group).photo)) {
-      Stay(photo.path, "it has tags or albums that " + kept.utf8string() + ", which is kept, has not", true);
+      Stay(photo.path,
+           "it has tags or albums that the photo to keep, " + kept.utf8string() + ", does not have", true);
     } else if (const ioPath link = LinkTo(state.identity); !link.empty()) {
       Stay(photo.path, "the link " + link.utf8string() + " leads to it", true);
     } else if (IsRawName(photo.path.filename().utf8string())) {
@@ -194,11 +195,11 @@ class Planner {
                    ? std::string()
                    : "it is only alike to " + kept.utf8string() + ", not the same picture" + why;
       case Verdict::Different:
-        return "it shows something else than the one to keep, " + kept.utf8string() + why;
+        return "it is a different picture from the photo to keep, " + kept.utf8string() + why;
       case Verdict::Unknown:
         break;
     }
-    return "it could not be compared with the one to keep, " + kept.utf8string() + why;
+    return "it could not be compared with the photo to keep, " + kept.utf8string() + why;
   }
 
   /// A raw file is what all other formats are made from: one of the group always stays.
@@ -313,9 +314,9 @@ class Planner {
       if (owner != file.owners.end()) {
         const ioPath& kept = plan_.photos[going_.at(*owner)].kept.path;
         for (const ioPath& photo : file.owners) {
-          spared.emplace(photo, "its settings in " + file.file.filename().utf8string() +
-                                    " would go along, and beside " + kept.utf8string() +
-                                    ", which is kept, there are none like them");
+          spared.emplace(photo, "its settings, " + file.file.filename().utf8string() +
+                                    ", would be lost: the photo to keep, " + kept.utf8string() +
+                                    ", does not have them");
         }
       }
     }
@@ -413,7 +414,7 @@ TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choic
 std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept) {
   const FileState keptState = QueryFile(kept.path);
   if (!IsAsKnown(keptState, kept)) {
-    return Stays(photo.path, "the one to keep, " + kept.path.utf8string() + ", " + WhatIsWrong(keptState));
+    return Stays(photo.path, "the photo to keep, " + kept.path.utf8string() + ", " + WhatIsWrong(keptState));
   }
   const FileState state = QueryFile(photo.path);
   if (!IsAsKnown(state, photo)) {
@@ -430,7 +431,7 @@ std::string FindTrashFault(const TrashPhoto& photo) {
   // Two files can change their names within a second and be of one size: a look at both is certain.
   if (fault.empty() && photo.verdict.why == kIdenticalFiles &&
       !HoldTheSameBytes(photo.photo.path, photo.kept.path)) {
-    return Stays(photo.photo.path, "it has been changed since it was compared");
+    return Stays(photo.photo.path, "it was changed after it was compared");
   }
   return fault;
 }
@@ -438,7 +439,7 @@ std::string FindTrashFault(const TrashPhoto& photo) {
 std::string FindTrashFault(const TrashAppendix& appendix) {
   for (const ioPath& photo : appendix.photos) {
     if (QueryFile(photo).kind != FileState::Kind::Missing) {
-      return Stays(appendix.path, "so does " + photo.filename().utf8string() + ", to which it belongs");
+      return Stays(appendix.path, photo.filename().utf8string() + ", to which it belongs, is kept");
     }
   }
   const FileState state = QueryFile(appendix.path);
@@ -447,8 +448,7 @@ std::string FindTrashFault(const TrashAppendix& appendix) {
   }
   if (!appendix.equal.path.empty() && (!IsAsKnown(QueryFile(appendix.equal.path), appendix.equal) ||
                                        !HoldTheSameBytes(appendix.path, appendix.equal.path))) {
-    return Stays(appendix.path,
-                 "the settings in " + appendix.equal.path.utf8string() + " are not the same any more");
+    return Stays(appendix.path, "the settings in " + appendix.equal.path.utf8string() + " were changed");
   }
   return IsLink(appendix.path) ? Stays(appendix.path, "it is a link to another file") : std::string();
 }

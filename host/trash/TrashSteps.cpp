@@ -124,7 +124,7 @@ UndoResult TrashSteps::Reverse(StepRow& step, bool redo, const std::atomic<bool>
       }
       if (redo && file.state == State::Undone && BelongsToWhatStays(file.file.path, result.findings)) {
         result.findings.push_back(
-            {file.file.path, file.file.path.utf8string() + " stays: so does what it belongs to"});
+            {file.file.path, file.file.path.utf8string() + " was kept, because its photo was kept"});
         anyHope = true;
         continue;
       }
@@ -150,15 +150,15 @@ void TrashSteps::Recover(StepRow& step) {
   const std::string name = "\"" + step.name.toStdString() + "\"";
   for (const TrashedFile& file : trash_.Files(step.number)) {
     if (IsUnderWay(file.state) && trash_.IsOutOfReach(file)) {
-      journal_.Note(name + " had been broken off and is finished once " +
-                    file.place.file.parent_path().utf8string() + " can be reached again.");
+      journal_.Note(name + " was interrupted and will be finished once " +
+                    file.place.file.parent_path().utf8string() + " can be reached.");
       return;
     }
   }
   if (step.state == State::Doing) {
     const std::size_t done = Settle(step.number);
-    journal_.Note(name + " had been broken off after " + std::to_string(done) +
-                  (done == 1 ? " file." : " files.") + " The others are where they were.");
+    journal_.Note(name + " was interrupted. Files moved: " + std::to_string(done) +
+                  "; the others are where they were.");
     return;
   }
   const std::atomic<bool> never{false};

@@ -27,7 +27,7 @@ QString DisplayUnparsed(QString text) {
 
 QString BaseFault(const QUrl& base) {
   if (!base.isValid() || base.isRelative()) {
-    return QStringLiteral("it is no URL");
+    return QStringLiteral("it is not a URL");
   }
   if (IsHttp(base) || IsHttps(base)) {
     return base.host().isEmpty() ? QStringLiteral("it names no host") : QString();

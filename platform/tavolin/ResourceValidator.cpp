@@ -46,7 +46,7 @@ QString FindJsonFault(const QByteArray& body, const QString& section) {
     return QStringLiteral("it is not JSON (byte %1: %2)").arg(failure.offset).arg(failure.errorString());
   }
   if (!document.isObject()) {
-    return QStringLiteral("its root is no object");
+    return QStringLiteral("its root is not an object");
   }
   if (IsDeeperThan(document.object(), kDepthLimit)) {
     return QStringLiteral("it is nested too deep");

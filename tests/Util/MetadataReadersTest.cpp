@@ -560,14 +560,14 @@ TEST_F(MetadataReaders, SayWhatFilesCannotBeReadAndWhy) {
   // The system does not even open folders there, and says so in its own words.
   const char* const folderCause = "";
 #else
-  const char* const folderCause = "It is no regular file";
+  const char* const folderCause = "It is not a regular file";
 #endif
   const struct {
     ioPath file;
     const char* cause;
   } rows[] = {{tree_.Path("none.jpg"), ""},
               {tree_.MakeFolder("folder.jpg"), folderCause},
-              {tree_.Write("text.jpg", std::string(1000, 'x')), "Its content is of no known picture format"},
+              {tree_.Write("text.jpg", std::string(1000, 'x')), "Its picture format is not known"},
               {tree_.Write("empty.jpg", ""), "It is empty"}};
   for (const auto& row : rows) {
     const std::string name = row.file.utf8string();

@@ -103,7 +103,7 @@ TEST_F(CheckTruth, LeavesWhatIsWriteProtectedToForce) {
   const Ran forced = Run({"rotate", "--force", "right", "photos"});
   EXPECT_EQ(forced.exitCode, 0);
   EXPECT_THAT(forced.out,
-              HasSubstr("edited along with them.\n1 photo edited; \"lumidex undo\" takes it back.\n"));
+              HasSubstr("edited along with them.\n1 photo edited; \"lumidex undo\" undoes it.\n"));
   EXPECT_NE(ReadFile(photo), before);
   EXPECT_THAT(ReadFile(sidecar), HasSubstr("tiff:Orientation=\"6\""));
   EXPECT_EQ(Run({"undo"}).exitCode, 0);
@@ -116,7 +116,7 @@ TEST_F(CheckTruth, TellsWhatUndoWouldHaveToForget) {
   ASSERT_EQ(Run({"undo", "--keep-size", "1"}).exitCode, 0);
   const Ran check = Run({"check", "--for", "rotate", "photos"});
   EXPECT_EQ(check.exitCode, 1);
-  EXPECT_THAT(check.out, HasSubstr("It would be refused."));
+  EXPECT_THAT(check.out, HasSubstr("The edit would be refused."));
   EXPECT_FALSE(Run({"check", "--json", "photos"}).Json()["undo"].toObject()["fits"].toBool(true));
   EXPECT_EQ(Run({"check", "--for", "rename", "photos"}).exitCode, 0);
 }

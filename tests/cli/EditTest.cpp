@@ -38,7 +38,7 @@ TEST_F(EditCommands, TurnPhotosAndTakeItBack) {
   for (const auto& row : rows) {
     const Ran ran = Run({"rotate", row.direction, "photos"});
     EXPECT_EQ(ran.exitCode, 0) << row.direction;
-    EXPECT_EQ(ran.out, "1 photo edited; \"lumidex undo\" takes it back.\n");
+    EXPECT_EQ(ran.out, "1 photo edited; \"lumidex undo\" undoes it.\n");
     EXPECT_THAT(ran.err, IsEmpty());
     EXPECT_EQ(Orientation(photo), row.shown) << row.direction;
     EXPECT_EQ(ReadFile(photo).size(), before.size()) << row.direction;

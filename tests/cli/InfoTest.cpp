@@ -168,7 +168,7 @@ TEST_F(InfoCommand, NamesFilesThatCannotBeReadAndTheCause) {
   EXPECT_EQ(ran.exitCode, 3);
   EXPECT_THAT(ran.out, HasSubstr("Not read:\n"));
   EXPECT_THAT(ran.out, HasSubstr("Cannot read the metadata of " + broken.utf8string() +
-                                 ": Its content is of no known picture format.\n"));
+                                 ": Its picture format is not known.\n"));
   EXPECT_THAT(ran.out, HasSubstr("  " + missing.utf8string() + " "));
   EXPECT_THAT(ran.out, HasSubstr(text.utf8string() + " is not named like a photo.\n"));
   EXPECT_THAT(ran.out, HasSubstr("Model X")) << "the others are shown";

@@ -171,7 +171,7 @@ TEST_F(InterruptedChange, KeepsWhatIsEdited) {
   EXPECT_EQ(ran.exitCode, 130) << ran.err;
   EXPECT_TRUE(ran.Json()["interrupted"].toBool());
   EXPECT_EQ(ran.Json()["edited"].toInt(-1), 0);
-  EXPECT_THAT(ran.err, HasSubstr("Interrupted. The photos edited so far stay so."));
+  EXPECT_THAT(ran.err, HasSubstr("Interrupted. The photos edited so far stay edited."));
   EXPECT_EQ(ReadFile(Photos() / "a" / "img0.jpg"), before);
   EXPECT_EQ(Run({"undo"}).exitCode, 1);
 }

@@ -144,7 +144,7 @@ TEST_F(LanguageOption, RefusesWhatIsNotSpoken) {
 TEST_F(LanguageOption, IsThatOfTheSettingsWithoutIt) {
   tree.Write("config/lumidex/lumidex.ini", "[Interface]\nLanguage=fr_FR\n");
   EXPECT_EQ(Run({"undo"}).out, "Il n\u2019y a rien \u00E0 annuler.\n");
-  EXPECT_EQ(Run({"--lang", "en_US", "undo"}).out, "There is nothing to take back.\n");
+  EXPECT_EQ(Run({"--lang", "en_US", "undo"}).out, "There is nothing to undo.\n");
 }
 
 #ifndef _WIN32
@@ -152,7 +152,7 @@ TEST_F(LanguageOption, IsThatOfTheSystemWithoutAny) {
   environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("it_IT.UTF-8"));
   EXPECT_EQ(Run({"undo"}).out, "Non c\u2019\u00E8 nulla da annullare.\n");
   environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("sv_SE.UTF-8"));
-  EXPECT_EQ(Run({"undo"}).out, "There is nothing to take back.\n");
+  EXPECT_EQ(Run({"undo"}).out, "There is nothing to undo.\n");
 }
 #endif
 

@@ -114,7 +114,7 @@ TEST_F(OddFiles, AreDamagedRatherThanUndated) {
   tree.Write("photos/a.jpg", "this is no image");
   const Ran ran = Run({"rename", "--pattern", "{date}_{number}", "photos"});
   EXPECT_THAT(ran.out + ran.err, Not(HasSubstr("has no date")));
-  EXPECT_THAT(ran.out + ran.err, HasSubstr("a.jpg  cannot be read for its date: "));
+  EXPECT_THAT(ran.out + ran.err, HasSubstr("a.jpg  has no readable date: "));
 }
 
 TEST_F(OddFiles, HaveTheirFileTimesUnderOneNameInJson) {

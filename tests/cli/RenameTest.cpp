@@ -23,7 +23,7 @@ TEST_F(RenameCommand, GivesNewNamesAndTakesThemBack) {
   const std::int64_t time = QueryFile(Photos() / "a.jpg").modifiedNs;
   const Ran ran = Rename("{date}_{number:3}");
   EXPECT_EQ(ran.exitCode, 0);
-  EXPECT_EQ(ran.out, "2 photos renamed; \"lumidex undo\" takes it back.\n");
+  EXPECT_EQ(ran.out, "2 photos renamed; \"lumidex undo\" undoes it.\n");
   EXPECT_THAT(ran.err, IsEmpty());
   EXPECT_THAT(Names(), ElementsAre("2024-05-17_001.jpg", "2024-05-18_002.jpg"));
   EXPECT_EQ(ReadFile(Photos() / "2024-05-17_001.jpg"), second);
@@ -129,7 +129,7 @@ TEST_F(RenameCommand, RenamesNothingWhenOneNameIsTaken) {
     const Ran ran = Rename("Trip {number}", {option, "photos/a.jpg", "photos/b.jpg"});
     EXPECT_EQ(ran.exitCode, 1);
     EXPECT_THAT(ran.out, HasSubstr("Cannot be renamed:\n  " + (Photos() / "b.jpg").utf8string() +
-                                   "  Trip 2.jpg is the name of something that stays: Trip 2.jpg\n"));
+                                   "  Trip 2.jpg is the name of another file: Trip 2.jpg\n"));
     EXPECT_THAT(ran.out, HasSubstr("1 of 2 photos"));
     EXPECT_THAT(Names(), ElementsAre("Trip 2.jpg", "a.jpg", "b.jpg"));
   }
@@ -223,7 +223,7 @@ TEST_F(RenameCommand, RefusesPhotosWithoutAnyDate) {
   tree.Write("photos/fake.jpg", "this is no image");
   const Ran ran = Rename("{date}");
   EXPECT_EQ(ran.exitCode, 1);
-  EXPECT_THAT(ran.out, HasSubstr("fake.jpg  cannot be read for its date: "));
+  EXPECT_THAT(ran.out, HasSubstr("fake.jpg  has no readable date: "));
 }
 
 TEST_F(RenameCommand, TakesDatesFromTheCatalogueOnlyOfUnchangedFiles) {
@@ -441,7 +441,7 @@ TEST_F(RenameCommand, TearsNoPhotoFromALinkOfItsName) {
   LUMIDEX_LINK_OR_SKIP("b.jpg", Photos() / "b.png");
   const Ran ran = Rename("R{number}");
   EXPECT_EQ(ran.exitCode, 1);
-  EXPECT_THAT(ran.out, HasSubstr("would lose a link of its name, which stays as it is: a.xmp"));
+  EXPECT_THAT(ran.out, HasSubstr("has a link of the same name beside it, which would not be renamed: a.xmp"));
   EXPECT_EQ(Rename("R{number}", {"--skip-problems", "photos"}).exitCode, 3);
   EXPECT_THAT(Names(), ElementsAre("R2.jpg", "a.jpg", "a.xmp", "b.png"));
   EXPECT_TRUE(IsSameFile(Photos() / "b.png", Photos() / "R2.jpg"));

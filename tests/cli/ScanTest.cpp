@@ -156,9 +156,10 @@ TEST_F(ScanCommand, NamesPhotosThatMovedNobodyKnowsWhere) {
   ASSERT_TRUE(photo.rename(Photos() / "two.jpg"));
   const Ran shown = Run({"scan", "--dry-run", Text(Photos())});
   EXPECT_EQ(shown.exitCode, 1);
-  EXPECT_THAT(shown.out, HasSubstr("  " + photo.utf8string() + "\n    It is gone, and 2 files may be it: " +
-                                   (Photos() / "one.jpg").utf8string() + ", " +
-                                   (Photos() / "two.jpg").utf8string() + '\n'));
+  EXPECT_THAT(shown.out,
+              HasSubstr("  " + photo.utf8string() +
+                        "\n    It is missing, and 2 files may be it: " + (Photos() / "one.jpg").utf8string() +
+                        ", " + (Photos() / "two.jpg").utf8string() + '\n'));
   EXPECT_THAT(shown.out, Not(HasSubstr("Not taken in")));
   const QJsonObject document = Run({"--json", "scan", Text(Photos())}).Json();
   EXPECT_EQ(Number(document, "added"), 2);

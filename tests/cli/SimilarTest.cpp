@@ -170,7 +170,7 @@ TEST_F(SimilarCommand, TriesAgainWhatIsNotThere) {
   ASSERT_TRUE((Photos() / "b2.jpg").rename(away));
   const Ran without = Run({"similar"});
   EXPECT_EQ(without.exitCode, 3);
-  EXPECT_THAT(without.out, HasSubstr("it is not there any more"));
+  EXPECT_THAT(without.out, HasSubstr("it no longer exists"));
   ASSERT_TRUE(away.rename(Photos() / "b2.jpg"));
   EXPECT_EQ(Groups(Run({"similar", "--json"})).size(), 2U);
 }
@@ -431,7 +431,7 @@ TEST_F(SimilarByModel, SaysWhyAModelCannotBeUsed) {
   unknown.operation = "Frobnicate";
   const std::pair<std::string, std::string> cases[] = {
       {"missing.onnx", "there is no such file"},
-      {"photos/a1.jpg", "it is no ONNX model, or a damaged one"},
+      {"photos/a1.jpg", "it is not an ONNX model, or it is damaged"},
       {"unknown.onnx", "Frobnicate"},
       {"photos", "it is a folder"},
   };

@@ -36,11 +36,11 @@ class TagCommand : public ChangeTest {
 TEST_F(TagCommand, GivesAndTakesTags) {
   const Ran added = Run({"tag", "photos/a.jpg", "photos/b.jpg", "+Beach", "+family"});
   EXPECT_EQ(added.exitCode, 0) << added.err;
-  EXPECT_EQ(added.out, "2 photos changed; \"lumidex undo\" takes it back.\n");
+  EXPECT_EQ(added.out, "2 photos changed; \"lumidex undo\" undoes it.\n");
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("own Beach", "system Family"));
   const Ran removed = Run({"tag", "-beach", "photos/a.jpg"});
   EXPECT_EQ(removed.exitCode, 0);
-  EXPECT_EQ(removed.out, "1 photo changed; \"lumidex undo\" takes it back.\n");
+  EXPECT_EQ(removed.out, "1 photo changed; \"lumidex undo\" undoes it.\n");
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("system Family"));
   EXPECT_THAT(TagsOf("b.jpg"), ElementsAre("own Beach", "system Family"));
 }

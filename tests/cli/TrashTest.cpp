@@ -141,7 +141,7 @@ TEST_F(TrashCommand, TellsWhatAnEmptiedTrashDoesNotGiveBack) {
   const Ran part = Run({"undo"});
   EXPECT_EQ(part.exitCode, 3);
   EXPECT_THAT(part.out, HasSubstr((Photos() / "a2.jpg").utf8string() +
-                                  " is not in the trash any more and cannot be brought back\n"));
+                                  " is no longer in the trash and cannot be brought back\n"));
   EXPECT_THAT(part.out, HasSubstr("Taken back: move similar photos to the trash, but for 1 file."));
   EXPECT_THAT(part.out, Not(HasSubstr("wait for it")));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "b1.jpg", "b2.jpg", "c.jpg", "sub/a3.jpg"));
@@ -241,7 +241,7 @@ TEST_F(TrashCommand, TakesWhatIsAlikeWhenToldTo) {
   Run({"scan", Text(Photos())});
   const auto before = State();
   const Ran dry = Run({"similar", "--trash", "--alike", "--dry-run"});
-  const std::size_t apart = dry.out.find("Not the same picture as the one to keep, only alike:\n  ");
+  const std::size_t apart = dry.out.find("Not the same picture as the photo to keep, only alike:\n  ");
   ASSERT_NE(apart, std::string::npos) << dry.out;
   EXPECT_THAT(dry.out.substr(apart), HasSubstr((Photos() / "b3.jpg").utf8string() + "  alike to b2.jpg  "));
   EXPECT_THAT(dry.out.substr(apart), Not(HasSubstr("b1.jpg")));
@@ -298,7 +298,7 @@ TEST_F(TrashCommand, LeavesWhatWasChangedSinceTheScan) {
   EXPECT_EQ(ran.exitCode, 3);
   EXPECT_THAT(ran.out, HasSubstr("\n  stay   "));
   EXPECT_THAT(ran.out, HasSubstr("Not moved:\n  " + (Photos() / "a2.jpg").utf8string() +
-                                 " stays: it has been changed since it was looked at.\n"));
+                                 " stays: it was changed after it was analysed.\n"));
   EXPECT_THAT(ran.out, HasSubstr("2 photos moved to the trash"));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "a2.jpg", "b2.jpg", "c.jpg"));
 }
@@ -309,7 +309,7 @@ TEST_F(TrashCommand, FailsWhenNothingCouldBeMoved) {
   tree.Write("photos/b2.jpg", "x");
   const Ran ran = Run({"similar", "--trash", "--yes"});
   EXPECT_EQ(ran.exitCode, 4);
-  EXPECT_THAT(ran.out, HasSubstr("stays: the one to keep, "));
+  EXPECT_THAT(ran.out, HasSubstr("stays: the photo to keep, "));
   EXPECT_THAT(ran.out, HasSubstr("Nothing to move to the trash.\n"));
   EXPECT_EQ(Run({"similar", "--trash", "--dry-run"}).exitCode, 4);
   EXPECT_THAT(Names(), ::testing::SizeIs(6));
@@ -320,7 +320,7 @@ TEST_F(TrashCommand, BringsNothingBackOverWhatIsThereNow) {
   tree.Write("photos/a2.jpg", "new");
   const Ran ran = Run({"undo"});
   EXPECT_EQ(ran.exitCode, 3);
-  EXPECT_THAT(ran.out, HasSubstr(": there is something of its old name\n"));
+  EXPECT_THAT(ran.out, HasSubstr(": another file has its former name\n"));
   EXPECT_EQ(ReadFile(Photos() / "a2.jpg"), "new");
   ASSERT_TRUE((Photos() / "a2.jpg").remove());
   EXPECT_EQ(Run({"undo"}).exitCode, 0);
@@ -442,8 +442,8 @@ TEST_F(TrashQuestion, LeavesWhatWasChangedWhileItWasAsked) {
   terminal_.Type("yes\n");
   const Ran ran = Finish(process);
   EXPECT_EQ(ran.exitCode, 3);
-  EXPECT_THAT(ran.out, HasSubstr("a2.jpg stays: it has been changed since it was looked at."));
-  EXPECT_THAT(ran.out, HasSubstr("b1.jpg stays: the one to keep, "));
+  EXPECT_THAT(ran.out, HasSubstr("a2.jpg stays: it was changed after it was analysed."));
+  EXPECT_THAT(ran.out, HasSubstr("b1.jpg stays: the photo to keep, "));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "a2.jpg", "b1.jpg", "c.jpg"));
 }
 

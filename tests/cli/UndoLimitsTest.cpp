@@ -51,7 +51,7 @@ TEST_F(UndoLimits, RefuseWhatDoesNotFitAlone) {
   const Ran raised = Run({"rotate", "right", "--forget-older", "photos/a.jpg"});
   EXPECT_EQ(raised.exitCode, 0) << raised.err;
   EXPECT_EQ(raised.out,
-            "1 photo edited; \"lumidex undo\" takes it back.\n1 older step cannot be undone any more.\n");
+            "1 photo edited; \"lumidex undo\" undoes it.\n1 older step cannot be undone any more.\n");
   EXPECT_EQ(Run({"undo"}).exitCode, 0);
   EXPECT_EQ(ReadFile(Photos() / "a.jpg"), before);
 }
@@ -102,13 +102,14 @@ TEST_F(UndoLimits, AreTakenForWhatTheyAreByADryRun) {
   Limit("1K");
   const Ran dry = Run({"rotate", "--dry-run", "left", "photos"});
   EXPECT_EQ(dry.exitCode, 4);
-  EXPECT_THAT(dry.out, HasSubstr("It would be refused. To be taken back it needs 39 KiB of originals kept"));
+  EXPECT_THAT(dry.out,
+              HasSubstr("The edit would be refused. To be taken back it needs 39 KiB of originals kept"));
   EXPECT_FALSE(Run({"rotate", "--dry-run", "--json", "left", "photos"})
                    .Json()["undo"]
                    .toObject()["fits"]
                    .toBool(true));
   EXPECT_THAT(Run({"rotate", "--dry-run", "--no-undo", "left", "photos"}).out,
-              HasSubstr("Nothing would be kept: it could not be taken back."));
+              HasSubstr("No originals would be kept, so the edit could not be undone."));
 }
 
 TEST_F(UndoLimits, DoNotMatterForWhatNeedsNoUndo) {
@@ -203,7 +204,7 @@ TEST_F(UndoLimits, AreAskedAboutAtATerminal) {
   EXPECT_EQ(no.exitCode, 1) << no.err;
   EXPECT_THAT(no.err, HasSubstr("undo would have to forget 1 older step"));
   EXPECT_THAT(no.err, HasSubstr("  rotate right"));
-  EXPECT_THAT(no.err, HasSubstr("Forget them and go on? [y/N]"));
+  EXPECT_THAT(no.err, HasSubstr("Forget them and continue? [y/N]"));
   EXPECT_EQ(no.out, "Nothing was changed.\n");
   EXPECT_EQ(ReadFile(Photos() / "b.jpg"), before);
   EXPECT_EQ(Steps().size(), 1);
@@ -236,7 +237,7 @@ TEST_F(UndoLimits, TellWhatWasDoneOnAFullDisk) {
   EXPECT_EQ(ran.exitCode, 3) << ran.out << ran.err;
   EXPECT_THAT(ran.out, HasSubstr("Not edited:\n"));
   EXPECT_THAT(ran.out, HasSubstr("No space left on device"));
-  EXPECT_THAT(ran.out, HasSubstr("photos edited; \"lumidex undo\" takes it back."));
+  EXPECT_THAT(ran.out, HasSubstr("photos edited; \"lumidex undo\" undoes it."));
   int edited = 0;
   for (int i = 0; i < 8; ++i) {
     edited += ReadFile(Photos() / ("p" + std::to_string(i) + ".jpg")) != before[static_cast<std::size_t>(i)];

@@ -102,11 +102,11 @@ TEST_F(UndoCommand, WritesOneDocumentWithAllItsMembers) {
 TEST_F(UndoCommand, TellsWhenThereIsNothingToTakeBack) {
   const Ran none = Run({"undo"});
   EXPECT_EQ(none.exitCode, 1);
-  EXPECT_EQ(none.out, "There is nothing to take back.\n");
+  EXPECT_EQ(none.out, "There is nothing to undo.\n");
   EXPECT_EQ(Run({"redo"}).exitCode, 1);
   const Ran list = Run({"undo", "--list"});
   EXPECT_EQ(list.exitCode, 0);
-  EXPECT_EQ(list.out, "There is nothing that could be undone.\n");
+  EXPECT_EQ(list.out, "There is nothing to undo.\n");
   EXPECT_FALSE(tree.Path("data").exists());
 
   Photo("a.jpg");

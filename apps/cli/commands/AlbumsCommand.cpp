@@ -34,38 +34,37 @@ using Host::Catalogue;
 using Host::PhotoRecord;
 
 constexpr char kDescription[] =
-    "Show the albums that your photos would make, and accept those you like.\n"
+    "Show which albums your photos could form, and accept those you like.\n"
     "\n"
-    "Proposes an album for each holiday and for the weekends of each month that hold\n"
-    "20 photos or more, in the order of time. FIRST DAY is the first day of the\n"
-    "holiday or weekend, LAST DAY that of the latest photo. Photos that say no date\n"
-    "are left out, for the times of files tell when they were copied. Accepting\n"
-    "stores an album in the catalogue, and \"lumidex undo\" takes that back; your\n"
-    "files stay as they are.";
+    "Proposes an album for each holiday and for the weekends of each month that have\n"
+    "20 photos or more, sorted by time. FIRST DAY is the first day of the holiday or\n"
+    "weekend, LAST DAY is the day of the latest photo. Photos without a date are left\n"
+    "out, because the time of a file often says only when it was copied. Accepting\n"
+    "stores an album in the catalogue; \"lumidex undo\" undoes it. Your files do not\n"
+    "change.";
 
 constexpr char kFooter[] =
-    R"(NAME is an album's name and time as shown: "Christmas, December 2023". It must
-fit exactly one album; when one name does not, nothing is accepted. Accepting
-an album again adds the photos that are new since. All that one run accepts is
-one step: undo removes the albums that it made, and takes the photos that it
-added out of those that were there.
+    R"(NAME is the name and time of an album as shown: "Christmas, December 2023". It
+must match exactly one album; if one name does not, nothing is accepted.
+Accepting an album again adds its new photos. Undo treats all albums of one run
+as one step: it removes new albums, and removes added photos from the others.
 
 Examples:
   lumidex albums
   lumidex albums --list                  with the files of each album
-  lumidex albums --file-times            also photos that only their files date
+  lumidex albums --file-times            also photos without a date
   lumidex albums --locale ja_JP          with the holidays of Japan
   lumidex albums --accept "Christmas, December 2023"
   lumidex albums --accept all --report albums.html
-  lumidex albums --accepted              what was accepted so far
+  lumidex albums --accepted              the albums accepted so far
 
-A report replaces an older page of its name, but never a photo, a file of the
-catalogue or anything else that is no page.
+A report replaces an older report of the same name, but never a photo, a file of
+the catalogue or any other file.
 
-Exit codes: 0 done; 1 the catalogue holds no photos, or the holiday calendar
+Exit codes: 0 done; 1 the catalogue has no photos, or the holiday calendar
 cannot be read; 3 pictures are missing in the report; 4 there is no catalogue,
-it cannot be read or written, NAME fits no album or several, or the report
-cannot be written; 130 interrupted.)";
+it cannot be read or written, NAME matches no album or several albums, or the
+report cannot be written; 130 interrupted.)";
 
 struct AlbumsArguments {
   std::string locale;
@@ -231,8 +230,9 @@ ExitCode ShowEmpty(const AlbumsView& view, std::size_t known, Session& session) 
     session.output.Print(Say(Words::tr("The catalogue holds no photos yet. Run: lumidex scan DIR")) + '\n');
   } else {
     session.output.Print(
-        Say(Words::tr("All %1 photos of the catalogue were gone at the last scan. Is a disk missing?",
-                      nullptr, Amount(known)),
+        Say(Words::tr(
+                "All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?",
+                nullptr, Amount(known)),
             {GroupDigits(known)}) +
         '\n');
   }
@@ -385,28 +385,27 @@ void AddAlbumsCommand(CLI::App& program, Action& chosen) {
   CLI::App* const command = program.add_subcommand("albums", kDescription);
   const auto arguments = std::make_shared<AlbumsArguments>();
   command->footer(kFooter);
-  command->add_flag("--list", arguments->list, "List the files of each album, too.")->disable_flag_override();
+  command->add_flag("--list", arguments->list, "Also list the files of each album.")->disable_flag_override();
   command
       ->add_flag("--file-times", arguments->fileTimes,
-                 "Propose albums also of photos that only the times of their files date.")
+                 "Also use photos without a date, by the times of their files.")
       ->disable_flag_override();
-  auto* const accept = command
-                           ->add_option("--accept", arguments->accept,
-                                        "Accept the album of that name, or all. Can be given several times.")
-                           ->option_text("NAME|all")
-                           ->allow_extra_args(false)
-                           ->transform(Text());
+  auto* const accept =
+      command
+          ->add_option("--accept", arguments->accept,
+                       "Accept the album with this name, or all albums. Can be given several times.")
+          ->option_text("NAME|all")
+          ->allow_extra_args(false)
+          ->transform(Text());
   command->add_flag("--accepted", arguments->accepted, "Show the accepted albums instead of the proposals.")
       ->disable_flag_override()
       ->excludes(accept);
-  command
-      ->add_option("--report", arguments->report,
-                   "Write the albums shown as an HTML page with their pictures.")
+  command->add_option("--report", arguments->report, "Write the albums to an HTML page with their pictures.")
       ->option_text("FILE")
       ->transform(Text());
   command
       ->add_option("--locale", arguments->locale,
-                   "Holidays and wording of that language for this run, such as de_DE.")
+                   "Use the holidays and names of this language, such as de_DE.")
       ->option_text("LOCALE")
       ->transform(Text());
   command->callback([arguments, &chosen] {

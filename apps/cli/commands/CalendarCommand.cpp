@@ -25,15 +25,15 @@ constexpr char kDescription[] =
     "Show, check or update the holiday calendar.\n"
     "\n"
     "The calendar names the days that albums are proposed for. One comes with the\n"
-    "program; a newer one can be had from a server if you set one.";
+    "program; if you set a server, a newer one can be downloaded.";
 
 constexpr char kFooter[] = "\"lumidex help calendar COMMAND\" has the options and examples of a command.";
 
 constexpr char kShowDescription[] =
     "Show the holidays of a language.\n"
     "\n"
-    "They stand in the order in which they are tried: the first that holds a day\n"
-    "names it.";
+    "They are listed in the order in which they are tried: the first that contains\n"
+    "a day gives it its name.";
 
 constexpr char kShowFooter[] =
     R"(Examples:
@@ -46,8 +46,8 @@ calendar cannot be read.)";
 constexpr char kCheckDescription[] =
     "Check a calendar file for mistakes.\n"
     "\n"
-    "Finds days that do not exist, events that are never found because others stand\n"
-    "before them, missing and repeated names, and missing and unknown languages.";
+    "Finds days that do not exist, events that are never used because others come\n"
+    "first, missing and repeated names, and missing and unknown languages.";
 
 constexpr char kCheckFooter[] =
     R"(Examples:
@@ -59,18 +59,18 @@ Exit codes: 0 no mistakes; 1 mistakes; 4 the file cannot be read.)";
 constexpr char kUpdateDescription[] =
     "Ask the server for a newer calendar.\n"
     "\n"
-    "The server is the setting BaseUrl in the group Download of lumidex.ini. The\n"
-    "calendar in use stays when the server gives none. \"lumidex albums\" asks by\n"
-    "itself once a week, and once a day a server that gave nothing, for at most 5\n"
-    "seconds where there is a calendar of it; this command asks now, and waits.";
+    "Set the server in lumidex.ini: BaseUrl in the group Download. If the server has\n"
+    "no calendar, the one in use stays. \"lumidex albums\" asks the server once a\n"
+    "week, and after a failure once a day, and waits at most 5 seconds if there is a\n"
+    "downloaded calendar; this command asks now, and waits.";
 
 constexpr char kUpdateFooter[] =
     R"(Examples:
   lumidex calendar update
 
-Exit codes: 0 the calendar is the server's; 3 the server gave none, the
-calendar in use stays; 4 no server is set, or there is no calendar at all;
-130 interrupted.)";
+Exit codes: 0 the calendar is up to date; 3 the server has no calendar, and the
+one in use stays; 4 no server is set, or there is no calendar at all; 130
+interrupted.)";
 
 struct CalendarArguments {
   std::string file;
@@ -232,7 +232,7 @@ std::string UpdateText(const Host::CalendarUpdate& update) {
   if (!update.ok) {
     return Say(Words::tr("The calendar was not updated: %1"), {EscapeForTerminal(update.cause)}) + '\n' +
            (update.file.empty() ? Say(Words::tr("There is no calendar."))
-                                : Say(Words::tr("In use as before: %1"), {file})) +
+                                : Say(Words::tr("Still in use: %1"), {file})) +
            '\n';
   }
   return Say(update.changed ? Words::tr("The calendar was updated: %1")

@@ -28,30 +28,30 @@ using Host::FileAct;
 using Kind = Host::FileVerdict::Kind;
 
 constexpr char kDescription[] =
-    "See beforehand which files a command would refuse, and why.\n"
+    "Check which files a command would refuse, and why.\n"
     "\n"
-    "Asks for each file what import, rename, rotate, shift-date, set-date and\n"
-    "similar --trash would say of it, and lists everything at once. What is not\n"
-    "listed will be done. Changes nothing.";
+    "Checks for each file what import, rename, rotate, shift-date, set-date and\n"
+    "similar --trash would do, and lists the files that they would refuse. Nothing\n"
+    "is changed.";
 
 constexpr char kFooter[] =
-    R"(A folder stands for all photos in it and below it, with their side files;
-hidden files and folders are passed over. For import it stands for all that an
-import looks at, films and hidden files among it; what an import leaves as it
-is no picture is listed on removable storage and counted elsewhere.
+    R"(A folder stands for all photos in it and in its subfolders, with their
+sidecars; hidden files and folders are skipped. For import it stands for all
+files that an import looks at, also videos and hidden files. Files that are not
+pictures are listed on removable storage and counted elsewhere.
 
-For rotate, shift-date and set-date each photo is read whole and edited in
-memory, with its sidecar, so that the answer is certain. Where it depends on
-what the command is told (dates beyond the year 9999, names that are taken),
-only what holds in any case is listed; --dry-run of the command has the rest.
+For rotate, shift-date and set-date each photo and its sidecar are read
+completely and edited in memory, so the answer is certain. Problems that depend
+on the arguments of a command (dates after the year 9999, names that are taken)
+are not listed; --dry-run of the command shows them.
 
 Examples:
   lumidex check ~/Pictures
   lumidex check --for rotate,shift-date ~/Pictures/trip
   lumidex check --json IMG_1.CR2 IMG_1.JPG
 
-Exit codes: 0 nothing would be refused; 1 something would, or there are no
-photos; 4 a file or folder is missing; 130 interrupted.)";
+Exit codes: 0 no file would be refused; 1 some files would be refused, or there
+are no photos; 4 a file or folder is missing; 130 interrupted.)";
 
 struct ActName {
   FileAct act;
@@ -97,7 +97,7 @@ std::set<FileAct> ActsOf(const std::string& list) {
     const auto* const known =
         std::find_if(kActs.begin(), kActs.end(), [&name](const ActName& act) { return name == act.name; });
     if (known == kActs.end()) {
-      throw UsageError("--for must be of " + Joined(ActNames(all)) + ", not \"" + name +
+      throw UsageError("--for must name some of " + Joined(ActNames(all)) + ", not \"" + name +
                        "\" (see: lumidex help check)");
     }
     acts.insert(known->act);
@@ -229,7 +229,7 @@ std::string RefusedText(const CheckReport& report) {
 
 std::string EditRoomText(const Host::JournalRoom& room) {
   const std::string text = RoomText(room, RoomWish());
-  return text.empty() ? text : Say(Words::tr("Of an edit of all these photos at once:")) + '\n' + text + '\n';
+  return text.empty() ? text : Say(Words::tr("If all these photos are edited at once:")) + '\n' + text + '\n';
 }
 
 std::string ReportText(const CheckReport& report, const Host::JournalRoom& room) {
@@ -245,14 +245,14 @@ std::string ReportText(const CheckReport& report, const Host::JournalRoom& room)
   const std::string roomText = EditRoomText(room);
   const std::string outcome =
       (refused.empty() && roomText.empty()
-           ? Say(Words::tr("nothing is in the way."))
+           ? Say(Words::tr("no problems found."))
            : Say(Words::tr("%1 files or folders would be refused.", nullptr, Amount(refused.size())),
                  {GroupDigits(refused.size())})) +
       '\n';
   const std::string left = report.left.empty()
                                ? std::string()
-                               : Say(Words::tr("An import leaves %1 other files (--json lists them).",
-                                               nullptr, Amount(report.left.size())),
+                               : Say(Words::tr("An import skips %1 other files (--json lists them).", nullptr,
+                                               Amount(report.left.size())),
                                      {GroupDigits(report.left.size())}) +
                                      '\n';
   return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + roomText + left +
@@ -287,13 +287,13 @@ void AddCheckCommand(CLI::App& program, Action& chosen) {
   CLI::App* const command = program.add_subcommand("check", kDescription);
   const auto arguments = std::make_shared<CheckArguments>();
   command->footer(kFooter);
-  command->add_option("FILE", arguments->files, "Photos, or folders with all below them.")
+  command->add_option("FILE", arguments->files, "Photos, or folders with their subfolders.")
       ->required()
       ->transform(Text());
   command
       ->add_option("--for", arguments->acts,
-                   "For which of import, rename, rotate, shift-date, set-date and trash, with commas between "
-                   "them. Default: all.")
+                   "The commands to check: import, rename, rotate, shift-date, set-date, trash, "
+                   "separated by commas. Default: all.")
       ->option_text("COMMANDS")
       ->transform(Text());
   command->callback([arguments, &chosen] {

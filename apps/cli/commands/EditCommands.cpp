@@ -23,36 +23,36 @@ namespace Zenvora::Lumidex::Cli {
 namespace {
 
 constexpr char kRotateDescription[] =
-    "Turn photos without losing quality.\n"
+    "Rotate photos without losing quality.\n"
     "\n"
-    "DIRECTION is left, right (a quarter each) or 180. Only the note that tells\n"
-    "viewers how to show the picture changes. \"lumidex undo\" takes it back.";
+    "DIRECTION is left or right (by 90 degrees) or 180. Only the EXIF orientation\n"
+    "changes, not the picture. \"lumidex undo\" undoes it.";
 
 constexpr char kShiftDescription[] =
     "Correct the dates of photos whose camera's clock was wrong.\n"
     "\n"
-    "OFFSET is added to the dates: +1h, -2d3h, +90m, or by the clock +1:30 and\n"
-    "-0:00:45. All of a photo's dates move alike, also those in XMP and IPTC data.\n"
-    "\"lumidex undo\" takes it back.";
+    "OFFSET is added to the dates: +1h, -2d3h, +90m, or as a time +1:30, -0:00:45.\n"
+    "All dates of a photo are shifted, also those in its XMP and IPTC data.\n"
+    "\"lumidex undo\" undoes it.";
 
 constexpr char kSetDescription[] =
     "Give photos a date.\n"
     "\n"
     "DATE is a day with a time, 2024-05-17T18:30 or \"2024-05-17 18:30:05\", as the\n"
-    "camera's clock should have shown. A day alone stands for its midnight, which\n"
-    "is what a photo has whose time is not known. \"lumidex undo\" takes it back.";
+    "clock of the camera should have shown it. A day alone means its midnight.\n"
+    "\"lumidex undo\" undoes it.";
 
 constexpr char kEditNote[] =
-    R"(JPEG, PNG, WebP, TIFF and most raw files can be edited; the picture in them
-stays as it is, bit for bit. Others are listed with the reason. A folder stands
-for the photos in it, not for those below; a link for the photo it leads to.
-The sidecar of a photo (IMG_1.xmp, IMG_1.CR2.xmp) is edited along with it; an
-IMG_1.xmp that several formats share, along with the raw file. What is
-write-protected is left alone unless --force is given.
+    R"(JPEG, PNG, WebP, TIFF and most raw files can be edited; their pictures stay the
+same, bit for bit. Other photos are listed with the reason. A folder stands for
+the photos in it, without subfolders; a link stands for the photo it leads to.
+The sidecar of a photo (IMG_1.xmp, IMG_1.CR2.xmp) is edited with it; an
+IMG_1.xmp that several formats share is edited with the raw file.
+Write-protected files are skipped unless you give --force.
 
-The originals are kept for undo up to a limit (lumidex help undo). Where older
-steps had to be forgotten for it, you are asked; where nobody can be asked,
-nothing is changed unless --forget-older is given.
+The originals are kept for undo up to a limit (see: lumidex help undo). If undo
+would have to forget older steps for that, you are asked; without a terminal,
+nothing is changed unless you give --forget-older.
 )";
 
 constexpr char kRotateExamples[] =
@@ -65,8 +65,8 @@ Examples:
 constexpr char kShiftExamples[] =
     R"(
 Examples:
-  lumidex shift-date +1h ~/Pictures/trip        the clock was an hour slow
-  lumidex shift-date -2d3h IMG_1.jpg            it was days fast
+  lumidex shift-date +1h ~/Pictures/trip        the clock was one hour slow
+  lumidex shift-date -2d3h IMG_1.jpg            the clock was fast
   lumidex shift-date --dry-run +1:30 *.jpg
 )";
 
@@ -80,10 +80,10 @@ Examples:
 
 constexpr char kExitCodes[] =
     R"(
-Exit codes: 0 done; 1 there are no photos, or the answer was no; 3 some photos
-cannot be edited; 4 none can, the limit of what is kept for undo forbids it, or
-the catalogue cannot be written; 130 interrupted, the photos
-edited so far stay so. A dry run ends with the exit code of the run.)";
+Exit codes: 0 done; 1 there are no photos, or you answered no; 3 some photos
+cannot be edited; 4 no photo can be edited, the originals exceed the limit of
+undo, or the catalogue cannot be written; 130 interrupted, the photos edited so
+far stay edited. A dry run ends with the exit code of the run.)";
 
 struct EditArguments {
   std::string what;
@@ -197,7 +197,7 @@ class EditRun {
   }
 
   void Try() {
-    Progress progress(session_.console, Say(Words::tr("Trying")), Say(Words::tr("photos", "of so many")));
+    Progress progress(session_.console, Say(Words::tr("Checking")), Say(Words::tr("photos", "of so many")));
     std::uint64_t done = 0;
     for (const Host::EditTask& task : tasks_) {
       if (session_.interrupted) {
@@ -250,7 +250,7 @@ class EditRun {
     if (view_.interrupted) {
       session_.console.Note(Say(arguments_.dryRun
                                     ? Words::tr("Interrupted.")
-                                    : Words::tr("Interrupted. The photos edited so far stay so.")));
+                                    : Words::tr("Interrupted. The photos edited so far stay edited.")));
     } else if (tasks_.empty() && view_.findings.empty() && !view_.declined) {
       session_.console.Note(Say(Words::tr("There are no photos in the given folders.")));
     }
@@ -293,11 +293,9 @@ CLI::Option* AddCommand(CLI::App& program, Action& chosen, const char* name, con
   command->add_option("FILE", arguments->files, "Photos, or folders with photos.")
       ->required()
       ->transform(Text());
-  command
-      ->add_flag("--dry-run", arguments->dryRun, "Only tell what would be changed in which photo, and how.")
+  command->add_flag("--dry-run", arguments->dryRun, "Show what would be changed; change nothing.")
       ->disable_flag_override();
-  command->add_flag("--force", arguments->force, "Also edit what is write-protected.")
-      ->disable_flag_override();
+  command->add_flag("--force", arguments->force, "Also edit write-protected files.")->disable_flag_override();
   AddRoomOptions(*command, arguments->room);
   command->callback([arguments, makeOrder, &chosen] {
     chosen = [arguments, makeOrder](Session& session) {
@@ -314,7 +312,7 @@ void AddEditCommands(CLI::App& program, Action& chosen) {
              {"DIRECTION", "left, right or 180."}, RotateOrder)
       ->check(OneOf({"left", "right", "180"}));
   AddCommand(program, chosen, "shift-date", kShiftDescription, kShiftExamples,
-             {"OFFSET", "A sign and a time: +1h, -2d3h, +90m, +1:30."}, ShiftOrder);
+             {"OFFSET", "A sign and a duration: +1h, -2d3h, +90m, +1:30."}, ShiftOrder);
   AddCommand(program, chosen, "set-date", kSetDescription, kSetExamples,
              {"DATE", "A day, with or without a time of day."}, SetOrder);
 }

@@ -18,25 +18,24 @@ namespace {
 using Host::Catalogue;
 
 constexpr char kDescription[] =
-    "Find photos of the catalogue by date, camera, place, tag or text.\n"
+    "Find photos in the catalogue by date, camera, place, tag or text.\n"
     "\n"
-    "A photo is shown when all that is asked for fits; without anything, all are.\n"
-    "Case, accents and letters that look alike make no difference.";
+    "Shows the photos that match all options; without options, all photos. Case,\n"
+    "accents and letters that look alike make no difference.";
 
 constexpr char kFooter[] =
     R"(DATES is a year, a month or a day: 2015, 2015-03, 2015-03-01; or two of them
-with " - " between them: "2015-03-01 - 2015-03-09". One may be left out:
-"2015-03 -" is that month and all later ones. A day can also be in the short
-form of the interface language, such as 3/1/2015 or 01.03.15; a year of two
-digits is the latest one up to this year.
+separated by " - ": "2015-03-01 - 2015-03-09". One of the two can be left out:
+"2015-03 -" means that month and all later ones. A day can also be in the short
+form of the interface language, such as 3/1/2015 or 01.03.15; a year with two
+digits means the latest such year up to this one.
 
 TAG is a word in any of the nine languages: --tag Flugzeug and --tag jet find
-photos with the tag Plane, --tag Strand those with a tag Beach of your own. A
-word that is not known is found as it is written.
+photos with the tag Plane, --tag Strand finds photos with your own tag Beach. A
+word that is not known is searched for as it is.
 
-BOX is SOUTH,WEST,NORTH,EAST in degrees; it runs over the date line when WEST
-is greater than EAST. TEXT is a part of the file's path, of the camera's name
-or of a tag.
+BOX is SOUTH,WEST,NORTH,EAST in degrees; it crosses the date line if WEST is
+greater than EAST. TEXT is part of the path, of the camera name or of a tag.
 
 Examples:
   lumidex find --date "2023-06-01 - 2023-08-31" --tag Beach
@@ -45,8 +44,8 @@ Examples:
   lumidex find --text trip --tag Family --tag Travel
   lumidex find --tag Screenshot --paths | xargs -r -d '\n' ls -l
 
-Exit codes: 0 photos were found; 1 none were; 4 there is no catalogue, or it
-cannot be read.)";
+Exit codes: 0 photos were found; 1 no photos were found; 4 there is no
+catalogue, or it cannot be read.)";
 
 struct FindArguments {
   std::string dates;
@@ -124,25 +123,26 @@ void AddFindCommand(CLI::App& program, Action& chosen) {
   CLI::App* const command = program.add_subcommand("find", kDescription);
   const auto arguments = std::make_shared<FindArguments>();
   command->footer(kFooter);
-  command->add_option("--date", arguments->dates, "Taken on these days.")
+  command->add_option("--date", arguments->dates, "Photos taken on these days.")
       ->option_text("DATES")
       ->transform(Text());
-  command->add_option("--camera", arguments->camera, "Taken with a camera of that name, or a part of it.")
+  command
+      ->add_option("--camera", arguments->camera,
+                   "Photos taken with this camera; part of its name is enough.")
       ->option_text("NAME")
       ->transform(Text());
-  command->add_option("--place", arguments->place, "Taken within these borders.")
+  command->add_option("--place", arguments->place, "Photos taken in this area.")
       ->option_text("BOX")
       ->transform(Text());
-  command->add_option("--tag", arguments->tags, "With that tag. Can be given several times.")
+  command->add_option("--tag", arguments->tags, "Photos with this tag. Can be given several times.")
       ->option_text("TAG")
       ->allow_extra_args(false)
       ->transform(Text());
-  command->add_option("--text", arguments->texts, "With that text. Can be given several times.")
+  command->add_option("--text", arguments->texts, "Photos with this text. Can be given several times.")
       ->option_text("TEXT")
       ->allow_extra_args(false)
       ->transform(Text());
-  command
-      ->add_flag("--paths", arguments->paths, "Print nothing but the files, one on each line, as they are.")
+  command->add_flag("--paths", arguments->paths, "Print only the paths, one per line, unescaped.")
       ->disable_flag_override();
   command->callback([arguments, &chosen] {
     chosen = [arguments](Session& session) { return RunFind(*arguments, session); };

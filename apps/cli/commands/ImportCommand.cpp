@@ -28,32 +28,32 @@ namespace {
 using Outcome = Host::ImportPlan::Outcome;
 
 constexpr char kDescription[] =
-    "Copy photos and films off a card, and take the photos into the catalogue.\n"
+    "Copy photos and videos off a card, and add the photos to the catalogue.\n"
     "\n"
-    "Copies what lies on removable storage, with --to everything; other photos are\n"
-    "taken in where they lie. Every copy is read back from the disk and compared\n"
-    "before it counts. Your files are only read. What is there already is left\n"
-    "alone, and a run that stopped half way is completed when repeated. \"lumidex\n"
-    "undo\" moves the copies of a run to the trash.";
+    "Copies files on removable storage, with --to all files; other photos are added\n"
+    "to the catalogue without copying. Every copy is read back from the disk and\n"
+    "verified. Your files are only read. Files that were copied before are skipped,\n"
+    "so you can repeat a run that was interrupted. \"lumidex undo\" moves the copies\n"
+    "of a run to the trash.";
 
 constexpr char kFooter[] =
-    R"help(A folder stands for all photos and films in it and below it, with what belongs
-to them: thumbnails, spoken notes, settings (.xmp and others). Copies keep
-their names; where one is taken, "(1)" is put behind it. Beside the copies a
-hidden folder .lumidex-import lists each of them with its source and its
+    R"help(A folder stands for all photos and videos in it and in its subfolders, with the
+files that belong to them: thumbnails, voice memos, sidecars (.xmp and others).
+Copies keep their names; if a name is taken, "(1)" is added to it. The hidden
+folder .lumidex-import beside the copies lists each copy with its source and its
 SHA-256.
 
-Everything else on what is copied off is left and named, hidden files among it,
-but for what cameras and systems keep for themselves (.DS_Store, Thumbs.db,
-AUTPRINT.MRK and such, unless it begins like a picture or a film). "Safe to
-format" is said only when nothing else is left.
+All other files on removable storage are skipped and listed, also hidden ones.
+Only files that cameras and systems keep for themselves (.DS_Store, Thumbs.db,
+AUTPRINT.MRK and such) are not listed, unless they begin like a picture or a
+video. "Safe to format" is said only if no other file remains.
 
-Undo moves copies to the trash that are what they were; changed ones stay. The
-list of copies stays, too, and photos taken in where they lie stay in the
-catalogue: to copy nothing is no step that undo knows.
+Undo moves unchanged copies to the trash; changed copies stay. The list of
+copies stays, too. Photos that were added without copying stay in the catalogue:
+undo has no step for them.
 
-Without --to, --yes and --no-copy the questions are asked on the terminal;
-where nobody can be asked, nothing is imported.
+Without --to, --yes and --no-copy, questions are asked on the terminal; without
+a terminal, nothing is imported.
 
 Examples:
   lumidex import /media/card
@@ -61,10 +61,10 @@ Examples:
   lumidex import --dry-run /media/card --to ~/Pictures/2024
   lumidex import --no-copy ~/Downloads/photos
 
-Exit codes: 0 done; 1 nothing was imported because you said so or there is
-nothing to import, something is left, or there is something to look at; 3 some
-files are missing or cannot be read; 4 nothing could be imported;
-130 interrupted.)help";
+Exit codes: 0 done; 1 nothing was imported because you chose so or there is
+nothing to import, some files remain, or something needs your attention; 3 some
+files were not copied or cannot be read; 4 nothing could be imported; 130
+interrupted.)help";
 
 struct ImportArguments {
   std::vector<std::string> sources;
@@ -145,8 +145,8 @@ class ImportCommand {
           [&progress](std::uint64_t done, std::uint64_t total) { progress.Update(done, total); });
     }
     if (view_.plan.outcome == Outcome::Declined && !session_.interrupted && !questions.Unanswered().empty()) {
-      throw Failure("needs-answer", "Nothing was imported, since nobody could be asked: " +
-                                        questions.Unanswered() + " Say --yes, --to DIR or --no-copy.");
+      throw Failure("needs-answer", "Nothing was imported, because this question could not be asked: " +
+                                        questions.Unanswered() + " Add --yes, --to DIR or --no-copy.");
     }
     if (session_.interrupted) {
       view_.plan.outcome = Outcome::Interrupted;
@@ -185,10 +185,11 @@ class ImportCommand {
 
   void Tell() const {
     if (view_.result.cancelled) {
-      session_.console.Note(Say(Words::tr(
-          "Interrupted. What was copied is whole and compared; the same command copies the rest.")));
+      session_.console.Note(
+          Say(Words::tr("Interrupted. The copies made so far are complete and verified; run the same command "
+                        "to copy the rest.")));
     } else if (view_.found == 0) {
-      session_.console.Note(Say(Words::tr("There are no photos or films in the given folders.")));
+      session_.console.Note(Say(Words::tr("There are no photos or videos in the given folders.")));
     }
   }
 
@@ -232,27 +233,28 @@ void AddImportCommand(CLI::App& program, Action& chosen) {
   CLI::App* const command = program.add_subcommand("import", kDescription);
   const auto arguments = std::make_shared<ImportArguments>();
   command->footer(kFooter);
-  command->add_option("SOURCE", arguments->sources, "Folders and files to import, with all below them.")
+  command->add_option("SOURCE", arguments->sources, "Folders and files to import, with subfolders.")
       ->required()
       ->transform(Text());
   CLI::Option* const to =
       command
           ->add_option("--to", arguments->to,
-                       "Copy everything to this folder, also what does not lie on removable storage.")
+                       "Copy all files to this folder, also those that are not on removable storage.")
           ->option_text("DIR")
           ->transform(Text());
-  CLI::Option* const noCopy =
-      command->add_flag("--no-copy", arguments->noCopy, "Copy nothing: take photos in where they lie.")
-          ->disable_flag_override();
+  CLI::Option* const noCopy = command
+                                  ->add_flag("--no-copy", arguments->noCopy,
+                                             "Copy nothing: add the photos to the catalogue where they are.")
+                                  ->disable_flag_override();
   noCopy->excludes(to);
   command
-      ->add_flag(
-          "--yes", arguments->yes,
-          "Ask nothing: copy from removable storage, to the folder used last without --to, and leave out "
-          "what cannot be read.")
+      ->add_flag("--yes", arguments->yes,
+                 "Ask nothing: copy files on removable storage, without --to to the folder used last, and "
+                 "skip files "
+                 "that cannot be read.")
       ->disable_flag_override()
       ->excludes(noCopy);
-  command->add_flag("--dry-run", arguments->dryRun, "Only tell what would be done; make and change nothing.")
+  command->add_flag("--dry-run", arguments->dryRun, "Show what would be done; change nothing.")
       ->disable_flag_override();
   command->callback([arguments, &chosen] {
     chosen = [arguments](Session& session) { return ImportCommand(*arguments, session).Run(); };

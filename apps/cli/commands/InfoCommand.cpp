@@ -14,17 +14,17 @@ namespace Zenvora::Lumidex::Cli {
 namespace {
 
 constexpr char kDescription[] =
-    "Show what photos say of themselves: date, camera, position, picture.\n"
+    "Show the metadata of photos: date, camera, position, picture.\n"
     "\n"
     "The date is that of DateTimeOriginal, else of DateTimeDigitized, else that of\n"
     "XMP or IPTC, else the time of the file; FROM says which. Positions are in\n"
-    "decimal degrees. A question mark behind a hemisphere means that the photo does\n"
-    "not say it, or not properly. The catalogue is not looked at, and nothing is\n"
+    "decimal degrees. A question mark after a hemisphere means that the photo does\n"
+    "not give it, or gives it wrongly. The catalogue is not used, and nothing is\n"
     "changed.";
 
 constexpr char kFooter[] =
-    R"(A folder stands for the photos in it, not for those below; a link for the photo
-it leads to.
+    R"(A folder stands for the photos in it, without subfolders; a link stands for the
+photo it leads to.
 
 Examples:
   lumidex info IMG_1.jpg
@@ -32,7 +32,8 @@ Examples:
   lumidex info --json *.jpg
 
 Exit codes: 0 done; 1 there are no photos, or a position is doubtful; 3 some
-files cannot be read; 4 none can; 130 interrupted, what was read is shown.)";
+files cannot be read; 4 no file can be read; 130 interrupted, the files read so
+far are shown.)";
 
 class InfoRun {
  public:

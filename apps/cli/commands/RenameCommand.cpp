@@ -29,24 +29,24 @@ namespace {
 constexpr char kDescription[] =
     "Give photos new names, all at once.\n"
     "\n"
-    "PATTERN is text with placeholders in braces. Extensions stay as they are. What\n"
-    "belongs to one shot is renamed together: a raw file, its JPEG, its .xmp.\n"
-    "Symbolic links keep their names; those inside the folders lead to the new\n"
-    "names. No file is ever replaced, and \"lumidex undo\" takes all of it back.";
+    "PATTERN is text with placeholders in braces. Extensions do not change. The files\n"
+    "of one shot are renamed together: a raw file, its JPEG, its .xmp. Symbolic links\n"
+    "keep their names; those inside the folders are changed to lead to the new names.\n"
+    "No file is ever replaced, and \"lumidex undo\" undoes all renames.";
 
 constexpr char kFooter[] =
     R"(Placeholders:
-  {number}  {number:4}             a number, with at least so many digits
+  {number}  {number:4}             a number; a number with at least 4 digits
   {date}  {date:yyyy-MM-dd}        the day: letters d, M and y
   {datetime}                       yyyy-MM-dd_HH-mm-ss, the day and the time
-  {datetime:yyyyMMdd_HHmmss}       the same in other words; h, H, m, s, z, AP
+  {datetime:yyyyMMdd_HHmmss}       the same in your form: h, H, m, s, z, AP
   {name}                           the old name without its extension
-  {{  }}                           one brace
+  {{  }}                           a brace
 
-A folder stands for the photos in it, not for those below. When one photo
-cannot have its new name, because it is taken or no system should have such a
-name, nothing is renamed and every such photo is listed. Dates are those of the
-camera; of a photo without one the file's time is used, which is told.
+A folder stands for the photos in it, without subfolders. If one photo cannot
+get its new name, because the name is taken or not allowed on every system,
+nothing is renamed and every such photo is listed. Dates are those of the
+camera; for a photo without a date the time of its file is used, with a note.
 
 Examples:
   lumidex rename --dry-run --pattern "{date}_{number:3}" ~/Pictures/trip
@@ -55,8 +55,9 @@ Examples:
   lumidex rename --pattern "{datetime} {name}" --skip-problems *.jpg
 
 Exit codes: 0 done; 1 nothing was renamed because of problems, or there are no
-photos; 3 some photos were left out because of problems; 4 a file is missing,
-or could not be renamed: then none was; 130 interrupted, none was renamed.)";
+photos; 3 some photos were left out because of problems; 4 a file is missing or
+could not be renamed, and nothing was renamed; 130 interrupted, nothing was
+renamed.)";
 
 struct RenameArguments {
   std::vector<std::string> files;
@@ -212,7 +213,7 @@ void AddRenameCommand(CLI::App& program, Action& chosen) {
   command->add_option("FILE", arguments->files, "Photos, or folders with photos.")
       ->required()
       ->transform(Text());
-  command->add_option("--pattern", arguments->pattern, "How the new names are made; see below.")
+  command->add_option("--pattern", arguments->pattern, "The pattern of the new names; see below.")
       ->option_text("PATTERN")
       ->required()
       ->transform(Text());
@@ -221,14 +222,14 @@ void AddRenameCommand(CLI::App& program, Action& chosen) {
       ->check(WholeNumber(0, 4'294'967'295));
   command
       ->add_option("--order", arguments->order,
-                   "In which order photos are numbered: given, date or name. Default: given.")
+                   "The order of the numbers: given, date or name. Default: given.")
       ->option_text("ORDER")
       ->check(OneOf({"given", "date", "name"}));
   command
       ->add_flag("--skip-problems", arguments->skipProblems,
-                 "Leave out the photos that cannot have their new names, and rename the others.")
+                 "Leave out photos that cannot get their new names, and rename the others.")
       ->disable_flag_override();
-  command->add_flag("--dry-run", arguments->dryRun, "Only show the old and the new names; change nothing.")
+  command->add_flag("--dry-run", arguments->dryRun, "Show the old and the new names; change nothing.")
       ->disable_flag_override();
   command->callback([arguments, &chosen] {
     chosen = [arguments](Session& session) { return RenameRun(*arguments, session).Run(); };

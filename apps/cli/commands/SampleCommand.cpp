@@ -17,7 +17,7 @@ constexpr int kLeastPhotos = 50;
 constexpr int kMostPhotos = 100'000;
 
 constexpr char kDescription[] =
-    "Make a folder of sample photos to try things out on.\n"
+    "Make a folder of sample photos to try things out.\n"
     "\n"
     "Draws pictures and dates them over several years: holidays, weekends, bursts,\n"
     "several cameras. The folder must be empty or missing, so nothing of yours is\n"
@@ -32,7 +32,7 @@ Examples:
   lumidex -c /tmp/demo.sqlite scan /tmp/demo
   lumidex -c /tmp/demo.sqlite albums
 
-Exit codes: 0 done; 4 the folder holds something or cannot be written;
+Exit codes: 0 done; 4 the folder is not empty or cannot be written;
 130 interrupted.)";
 
 struct SampleArguments {
@@ -75,7 +75,7 @@ ExitCode RunSample(const SampleArguments& arguments, Session& session) {
   }
   if (result.cancelled) {
     session.console.Note(
-        Say(Words::tr("Interrupted. The photos made so far stay; delete the folder before another try.")));
+        Say(Words::tr("Interrupted. The photos made so far stay; delete the folder before you try again.")));
     return ExitCode::Interrupted;
   }
   return ExitCode::Done;
@@ -87,13 +87,13 @@ void AddSampleCommand(CLI::App& program, Action& chosen) {
   CLI::App* const command = program.add_subcommand("sample", kDescription);
   const auto arguments = std::make_shared<SampleArguments>();
   command->footer(kFooter);
-  command->add_option("DIR", arguments->folder, "The folder to make, with its parents.")
-      ->required()
-      ->transform(Text());
-  command->add_option("--seed", arguments->seed, "Which collection, 0 to 4294967295. Default: 1.")
+  command->add_option("DIR", arguments->folder, "The folder to create.")->required()->transform(Text());
+  command->add_option("--seed", arguments->seed, "The number of the collection, 0 to 4294967295. Default: 1.")
       ->option_text("N")
       ->check(WholeNumber(0, 4'294'967'295));
-  command->add_option("--photos", arguments->photos, "About how many photos, 50 to 100000. Default: 360.")
+  command
+      ->add_option("--photos", arguments->photos,
+                   "The approximate number of photos, 50 to 100000. Default: 360.")
       ->option_text("N")
       ->check(WholeNumber(kLeastPhotos, kMostPhotos));
   command->callback([arguments, &chosen] {

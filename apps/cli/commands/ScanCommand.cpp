@@ -35,25 +35,25 @@ using Host::ScanFinding;
 using Host::ScanResult;
 
 constexpr char kDescription[] =
-    "Take the photos below folders into the catalogue.\n"
+    "Add the photos of folders and their subfolders to the catalogue.\n"
     "\n"
     "Reads the dates of new and changed photos; a second run is quick. Photos that\n"
-    "were moved or renamed keep their tags and albums; those whose files are gone\n"
-    "are marked lost, not forgotten. Your files are only read. A run that is\n"
-    "interrupted goes on where it stopped when repeated.";
+    "were moved or renamed keep their tags and albums; photos whose files are missing\n"
+    "are marked as lost, but stay in the catalogue. Your files are only read. If a\n"
+    "run is interrupted, run the same command to continue.";
 
 constexpr char kFooter[] =
-    R"(Photos are known by their names: .jpg, .heic, .png, .tif, .webp, the raw
-formats of cameras and others. Hidden files and folders are passed over.
+    R"(Photos are recognised by their names: .jpg, .heic, .png, .tif, .webp, the raw
+formats of cameras and others. Hidden files and folders are skipped.
 
 Examples:
   lumidex scan ~/Pictures /media/card
-  lumidex scan --dry-run ~/Pictures     what would change, without changing it
-  lumidex scan --full ~/Pictures        read unchanged files again, too
+  lumidex scan --dry-run ~/Pictures     show what would change
+  lumidex scan --full ~/Pictures        also read unchanged files again
   lumidex scan --json ~/Pictures        for scripts
 
-Exit codes: 0 done; 1 no photos were found, some files are no images, folders
-loop, or a moved photo may be one of several files; 3 some files or folders
+Exit codes: 0 done; 1 no photos were found, some files are not images, folders
+form a loop, or several files may be a moved photo; 3 some files or folders
 cannot be read; 4 a folder is missing or the catalogue cannot be written; 130
 interrupted.)";
 
@@ -75,7 +75,7 @@ std::unique_ptr<QTemporaryDir> MakeScratch() {
   // Its path would be empty, and the catalogue be made in the current folder.
   if (!scratch->isValid()) {
     throw Failure("failed", "A dry run needs a folder in " + QDir::toNativeSeparators(parent).toStdString() +
-                                ", which cannot be made: " + scratch->errorString().toStdString());
+                                ", which cannot be created: " + scratch->errorString().toStdString());
   }
   return scratch;
 }
@@ -217,8 +217,8 @@ std::string AmbiguousText(const ScanResult& result) {
   return text.empty()
              ? text
              : Say(Words::tr(
-                   "Perhaps moved, but it cannot be told. The photos keep their tags and albums, the\n"
-                   "files are new:")) +
+                   "These may be photos that were moved, but several files or photos come into question.\n"
+                   "The photos keep their tags and albums, the files are new:")) +
                    '\n' + text + '\n';
 }
 
@@ -231,7 +231,7 @@ std::string FindingsText(const ScanResult& result) {
       isEmpty = false;
     }
   }
-  return (isEmpty ? std::string() : Say(Words::tr("Not taken in:")) + '\n' + table.Text(2) + '\n') +
+  return (isEmpty ? std::string() : Say(Words::tr("Not added:")) + '\n' + table.Text(2) + '\n') +
          AmbiguousText(result);
 }
 
@@ -276,8 +276,8 @@ std::string ResultText(const ScanArguments& arguments, const ioPath& catalogue, 
       {GroupDigits(result.unchanged), Say(Words::tr("unchanged", "files", Amount(result.unchanged)))});
   table.AddRow(
       {GroupDigits(result.moved), Say(Words::tr("moved or renamed", "files", Amount(result.moved)))});
-  table.AddRow(
-      {GroupDigits(result.lost), Say(Words::tr("gone, now marked lost", "files", Amount(result.lost)))});
+  table.AddRow({GroupDigits(result.lost),
+                Say(Words::tr("missing, now marked as lost", "files", Amount(result.lost)))});
   const std::string text = FindingsText(result) + table.Text(2) + DatesText(result);
   return text +
          (arguments.dryRun ? Say(Words::tr("This was a dry run: nothing was stored."))
@@ -327,10 +327,9 @@ ExitCode RunScan(const ScanArguments& arguments, Session& session) {
   session.output.Print(session.globals.json ? ResultDocument(arguments, file, result)
                                             : ResultText(arguments, file, result));
   if (result.cancelled) {
-    session.console.Note(
-        Say(arguments.dryRun ? Words::tr("Interrupted.")
-                             : Words::tr("Interrupted. What was read so far is in the catalogue; the same "
-                                         "command goes on from there.")));
+    session.console.Note(Say(arguments.dryRun ? Words::tr("Interrupted.")
+                                              : Words::tr("Interrupted. What was read so far is in the "
+                                                          "catalogue; run the same command to continue.")));
   } else if (result.found == 0) {
     session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }
@@ -343,18 +342,15 @@ void AddScanCommand(CLI::App& program, Action& chosen) {
   CLI::App* const command = program.add_subcommand("scan", kDescription);
   const auto arguments = std::make_shared<ScanArguments>();
   command->footer(kFooter);
-  command->add_option("DIR", arguments->folders, "Folders (or single files) to take in, with all below them.")
+  command->add_option("DIR", arguments->folders, "Folders (or single files) to add, with subfolders.")
       ->required()
       ->transform(Text());
-  command->add_flag("--full", arguments->full, "Read every file again, also unchanged ones.")
-      ->disable_flag_override();
-  command
-      ->add_flag("--dry-run", arguments->dryRun,
-                 "Only tell what would be done; make and change no catalogue.")
+  command->add_flag("--full", arguments->full, "Also read unchanged files again.")->disable_flag_override();
+  command->add_flag("--dry-run", arguments->dryRun, "Show what would be done; do not change the catalogue.")
       ->disable_flag_override();
   command
       ->add_option("--threads", arguments->threads,
-                   "Files read at a time, 1 to 64. Default: one for each core, at most 8.")
+                   "Files read in parallel, 1 to 64. Default: one per core, at most 8.")
       ->option_text("N")
       ->check(WholeNumber(1, 64));
   command->callback([arguments, &chosen] {

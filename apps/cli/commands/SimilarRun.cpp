@@ -28,7 +28,7 @@ namespace {
 std::string VerbOf(Host::SimilarProgress::Step step) {
   switch (step) {
     case Host::SimilarProgress::Step::Analysing:
-      return Say(Words::tr("Looking at"));
+      return Say(Words::tr("Analysing"));
     case Host::SimilarProgress::Step::Grouping:
       return Say(Words::tr("Grouping"));
     case Host::SimilarProgress::Step::Checking:
@@ -60,9 +60,10 @@ bool HasOneOf(const Host::SimilarGroup& group, const std::vector<ioPath>& photos
 }
 
 [[noreturn]] void ThrowNotCompared(const ioPath& photo) {
-  throw Failure("unknown-photo", photo.utf8string() +
-                                     " is not among the photos that are compared. \"lumidex scan\" takes "
-                                     "photos in, and \"lumidex similar\" tells which cannot be compared.");
+  throw Failure("unknown-photo",
+                photo.utf8string() +
+                    " is not among the photos that are compared. \"lumidex scan\" adds photos to the "
+                    "catalogue, and \"lumidex similar --not-compared\" lists those that cannot be compared.");
 }
 
 /// What a catalogue knows of photos beside their files: tags and albums, which would be lost with a copy.
@@ -131,9 +132,8 @@ class SimilarRun {
     session_.Count(ItemType::Photo, view_.photos, view_.groups.size());
     session_.output.Print(session_.globals.json ? SimilarDocument(view_) : SimilarText(view_));
     if (view_.cancelled) {
-      session_.console.Note(Say(view_.trash
-                                    ? Words::tr("Interrupted. What was moved is in the trash.")
-                                    : Words::tr("Interrupted. The same command goes on from there.")));
+      session_.console.Note(Say(view_.trash ? Words::tr("Interrupted. What was moved is in the trash.")
+                                            : Words::tr("Interrupted. Run the same command to continue.")));
       return ExitCode::Interrupted;
     }
     return Graver(Judge(), JudgeTrash());
@@ -251,7 +251,7 @@ class SimilarRun {
 
   ExitCode Explain() {
     if (view_.cancelled) {
-      ThrowIfInterrupted(Say(Words::tr("Interrupted. The same command goes on from there.")).c_str());
+      ThrowIfInterrupted(Say(Words::tr("Interrupted. Run the same command to continue.")).c_str());
     }
     ExplainView view;
     view.first.path = KnownName(AbsolutePath(arguments_.explain[0]));

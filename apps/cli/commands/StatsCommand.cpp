@@ -19,18 +19,18 @@ namespace Zenvora::Lumidex::Cli {
 namespace {
 
 constexpr char kDescription[] =
-    "Count what you use, for yourself, or stop counting.\n"
+    "Keep statistics of what you use, for yourself only.\n"
     "\n"
     "Statistics are off until you turn them on. They are kept in one file on this\n"
-    "computer and never sent anywhere: the day, the command, how many photos went in\n"
-    "and how many came out. They hold no names, no paths, nothing of your photos.";
+    "computer and never sent anywhere: the day, the command, and the numbers of photos\n"
+    "before and after it. They hold no names, no paths and nothing of your photos.";
 
 constexpr char kFooter[] = "\"lumidex help stats COMMAND\" has the examples of a command.";
 
 constexpr char kShowDescription[] =
     "Show the statistics in full.\n"
     "\n"
-    "There is nothing else in the file than what is shown.";
+    "The file holds nothing but what is shown.";
 constexpr char kShowFooter[] =
     R"(Examples:
   lumidex stats show
@@ -41,21 +41,21 @@ Exit codes: 0 done; 1 some lines of the file are damaged; 4 it cannot be read.)"
 constexpr char kClearDescription[] =
     "Delete the statistics.\n"
     "\n"
-    "Whether they are on or off stays as it is.";
+    "This does not turn them on or off.";
 constexpr char kClearFooter[] =
     R"(Examples:
   lumidex stats clear
 
-Exit codes: 0 there are none any more; 4 the file cannot be deleted.)";
+Exit codes: 0 done; 4 the file cannot be deleted.)";
 
 constexpr char kOnDescription[] =
     "Keep statistics from now on.\n"
     "\n"
     "In a file on this computer only; \"lumidex stats show\" shows all of it.";
 constexpr char kOffDescription[] =
-    "Keep no statistics any more.\n"
+    "Stop keeping statistics.\n"
     "\n"
-    "What was kept so far stays until \"lumidex stats clear\".";
+    "The statistics kept so far stay until \"lumidex stats clear\".";
 constexpr char kSwitchFooter[] =
     R"(Examples:
   lumidex stats on

@@ -25,22 +25,22 @@ using Host::Tag;
 using Host::TagDictionary;
 
 constexpr char kDescription[] =
-    "Give photos tags, take tags away, or list them.\n"
+    "Add tags to photos, remove tags, or list them.\n"
     "\n"
-    "+TAG gives a tag, -TAG takes it away. With files alone their tags are shown,\n"
-    "without anything all tags. Tags are kept in the catalogue: your files stay as\n"
-    "they are, and renames, the trash and undo do not lose them. \"lumidex undo\"\n"
-    "takes a change back.";
+    "+TAG adds a tag, -TAG removes it. With files only, their tags are shown; without\n"
+    "arguments, all tags. Tags are kept in the catalogue: your files do not change,\n"
+    "and photos keep their tags through renames, the trash and undo. \"lumidex undo\"\n"
+    "undoes a change.";
 
 constexpr char kFooter[] =
-    R"(A word that names one of the built-in tags in your language or in English gives
-that tag, which is shown in every language in its own words: Landscape, Hobby,
-Travel, Family, and those with an icon, such as Car, Flower or Home. Any other
-word is a tag of your own; words that look alike are one tag.
+    R"(A word that names a built-in tag in your language or in English means that tag,
+which is shown in the language of each user: Landscape, Hobby, Travel, Family,
+and those with an icon, such as Car, Flower or Home. Any other word is a tag of
+your own; words that look alike are the same tag.
 
-A folder stands for the photos in it, not for those below; a link for the photo
-it leads to. A tag of one letter is taken away with --remove; a file whose name
-begins with + or - is named ./+file. All words behind -- are files.
+A folder stands for the photos in it, without subfolders; a link stands for the
+photo it leads to. To remove a tag of one letter, write --remove; for a file
+whose name begins with + or -, write ./+file. All words after -- are files.
 
 Examples:
   lumidex tag ~/Pictures/trip +Beach +Family
@@ -49,7 +49,7 @@ Examples:
   lumidex tag --lang de_DE              all tags, in German
 
 Exit codes: 0 done; 1 there is nothing to show or to change; 3 some photos are
-not in the catalogue; 4 none are, or the catalogue cannot be written.)";
+not in the catalogue; 4 no photo is in it, or it cannot be written.)";
 
 constexpr int kMostLetters = 200;
 
@@ -72,8 +72,8 @@ QString CleanWord(const std::string& word) {
     return letter.category() != QChar::Other_Control && letter != QChar(QChar::ReplacementCharacter);
   });
   if (Host::LookAlikeForm(clean).isEmpty() || !isText || clean.size() > kMostLetters) {
-    ThrowUsage("A tag is a text of at most " + std::to_string(kMostLetters) + " letters, which \"" + word +
-               "\" is not");
+    ThrowUsage("\"" + word + "\" cannot be a tag; write a text of 1 to " + std::to_string(kMostLetters) +
+               " letters");
   }
   return clean;
 }
@@ -235,7 +235,7 @@ class TagRun {
       }
       for (const Tag& tag : meant) {
         if (std::find(wishes.add.begin(), wishes.add.end(), tag) != wishes.add.end()) {
-          ThrowUsage("The tag \"" + word + "\" cannot be given and taken away at once");
+          ThrowUsage("The tag \"" + word + "\" cannot be added and removed at once");
         }
         AddOnce(wishes.remove, tag);
       }
@@ -277,7 +277,7 @@ void AddTagCommand(CLI::App& program, Action& chosen) {
   CLI::App* const command = program.add_subcommand("tag", kDescription);
   const auto arguments = std::make_shared<TagArguments>();
   command->footer(kFooter);
-  command->add_option("FILE", arguments->files, "Photos, or folders with photos; +TAG and -TAG.")
+  command->add_option("FILE", arguments->files, "Photos or folders; tags as +TAG and -TAG.")
       ->transform(Text());
   command->add_option("--add", arguments->add, "The same as +TAG. Can be given several times.")
       ->option_text("TAG")

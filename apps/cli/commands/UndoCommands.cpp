@@ -20,57 +20,60 @@ namespace {
 constexpr int kMostSteps = 1'000;
 
 constexpr char kUndoDescription[] =
-    "Take back what was done: imports, albums, tags, renames, edits, the trash.\n"
+    "Undo imports, accepted albums, tags, renames, edits and moves to the trash.\n"
     "\n"
-    "Without an option, the last step. The photos get back their names and every\n"
-    "byte of what they were. A photo that was changed since by others is left as it\n"
-    "is, and listed; older steps wait then, until --skip gives this one up.";
+    "Without options, undoes the last step. Photos get back their names and every\n"
+    "byte of their files. A photo that another program changed later is left as it\n"
+    "is, and listed. Older steps cannot be undone before that one, unless you skip it\n"
+    "with --skip.";
 
 constexpr char kUndoFooter[] =
-    R"(These are steps that can be taken back, within the limits below:
-  import           copies that are what they were go to the trash, others stay
-  albums --accept  the albums that were made, or the photos that were added
-  tag              the tags that were given or taken
-  rename           the old names
+    R"(These steps can be undone, within the limits below:
+  import           unchanged copies go to the trash, changed copies stay
+  albums --accept  new albums are removed, added photos are removed from albums
+  tag              photos get their former tags back
+  rename           files get their former names back
   rotate, shift-date, set-date
-                   every byte of what the photos were
-  similar --trash  what is still in the trash comes back
-These are none: scan, photos that an import took in where they lie (they stay
-in the catalogue), the list of copies beside an import, what "similar" found
-out, settings, usage statistics, downloaded calendars, reports, sample photos.
+                   photos get every byte of their originals back
+  similar --trash  photos that are still in the trash come back
+These cannot be undone: scan, photos that an import added without copying (they
+stay in the catalogue), the list of copies of an import, the results of similar,
+settings, usage statistics, downloaded calendars, reports, sample photos.
 
-What was taken back can be done again with "lumidex redo", until something new
-is done. The originals of edited photos are kept beside the catalogue: usually
-for 90 days on which steps are made or taken back, and no more than 5 GiB of
-them. A step that needs older ones forgotten for that asks first.
+"lumidex redo" does undone steps again, until something new is done. The
+originals of edited photos are kept beside the catalogue, by default for 90 days
+of use (days on which steps are done or undone) and up to 5 GiB. If older steps
+must be forgotten for a new one, you are asked first.
 
 Examples:
   lumidex undo
-  lumidex undo --list                    what could be taken back
-  lumidex undo --last 3                  the last three steps
-  lumidex undo --skip                    leave the last step as it is, for good
-  lumidex undo --no-redo                 where the disk is full
+  lumidex undo --list                    list the steps that can be undone
+  lumidex undo --last 3                  undo the last three steps
+  lumidex undo --skip                    skip the last step for good
+  lumidex undo --no-redo                 if the disk is full
   lumidex undo --keep-days 365 --keep-size 20G
   lumidex undo --keep-size 0             keep no originals at all
 
-Exit codes: 0 done; 1 there is nothing to take back, or less than asked for;
-3 some files were left as they are; 4 all of them were, or the catalogue cannot
-be written; 130 interrupted, what was taken back so far stays so.)";
+Exit codes: 0 done; 1 there is nothing to undo, or less than you asked for; 3
+some files were left as they are; 4 all files were left as they are, or the
+catalogue cannot be written; 130 interrupted, what was undone so far stays
+undone.)";
 
 constexpr char kRedoDescription[] =
-    "Do again what \"lumidex undo\" took back.\n"
+    "Redo what \"lumidex undo\" undid.\n"
     "\n"
-    "Without an option, the step taken back last. It is possible until something new\n"
-    "is done to photos.";
+    "Without options, redoes the step that was undone last. This is possible until\n"
+    "something new is done.";
 
 constexpr char kRedoFooter[] =
     R"(Examples:
   lumidex redo
   lumidex redo --last 3
 
-Exit codes: 0 done; 1 there is nothing to do again, or less than asked for;
-3 some files were left as they are; 4 all of them were, or the catalogue cannot
-be written; 130 interrupted, what was done so far stays so.)";
+Exit codes: 0 done; 1 there is nothing to redo, or less than you asked for; 3
+some files were left as they are; 4 all files were left as they are, or the
+catalogue cannot be written; 130 interrupted, what was redone so far stays
+redone.)";
 
 struct UndoArguments {
   bool redo = false;
@@ -144,7 +147,7 @@ class UndoRun {
 
   /// False when no further step should be taken: an older one must not go before a newer one has gone whole.
   bool TakeStep(Host::UndoJournal& journal) {
-    Progress progress(session_.console, Say(view_.redo ? Words::tr("Doing again") : Words::tr("Taking back")),
+    Progress progress(session_.console, Say(view_.redo ? Words::tr("Redoing") : Words::tr("Undoing")),
                       Say(Words::tr("files", "of so many")));
     const auto show = [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); };
     Host::UndoResult result = view_.redo ? journal.RedoLast(session_.interrupted, show)
@@ -161,7 +164,7 @@ class UndoRun {
   /// Where only the room for doing it again is missing, and the person can do without.
   bool GoOnWithoutRedo(Host::UndoJournal& journal) {
     if (view_.done.empty() || !view_.done.back().lacksRoomForRedo || arguments_.noRedo || !CanAsk() ||
-        !Ask(session_.console, UndoText(view_), Say(Words::tr("Go on without what redo needs? [y/N]")),
+        !Ask(session_.console, UndoText(view_), Say(Words::tr("Undo without keeping what redo needs? [y/N]")),
              session_.interrupted)) {
       return false;
     }
@@ -177,10 +180,10 @@ class UndoRun {
 
   void Note() const {
     if (view_.interrupted) {
-      session_.console.Note(Say(Words::tr("Interrupted. What was done so far stays so.")));
+      session_.console.Note(Say(Words::tr("Interrupted. What was done so far stays done.")));
     } else if (!view_.done.empty() && AreFewer()) {
       session_.console.Note(
-          Say(Words::tr("Only %1 steps of the %2 asked for.", nullptr, Amount(view_.done.size())),
+          Say(Words::tr("Only %1 of the %2 steps that you asked for.", nullptr, Amount(view_.done.size())),
               {GroupDigits(view_.done.size()), std::to_string(arguments_.last)}));
     }
   }
@@ -219,7 +222,7 @@ CLI::Validator Size() {
 }
 
 CLI::Option* AddLast(CLI::App& command, UndoArguments& arguments) {
-  return command.add_option("--last", arguments.last, "So many steps, 1 to 1000. Default: 1.")
+  return command.add_option("--last", arguments.last, "The number of steps, 1 to 1000. Default: 1.")
       ->option_text("N")
       ->check(WholeNumber(1, kMostSteps));
 }
@@ -236,30 +239,28 @@ void AddUndoCommand(CLI::App& program, Action& chosen) {
   command->footer(kUndoFooter);
   CLI::Option* const last = AddLast(*command, *arguments);
   CLI::Option* const list =
-      command->add_flag("--list", arguments->list, "Only list the steps, the latest first.")
+      command->add_flag("--list", arguments->list, "List the steps, the latest first; undo nothing.")
           ->disable_flag_override()
           ->excludes(last);
   CLI::Option* const skip =
       command
           ->add_flag("--skip", arguments->skip,
-                     "Take nothing back: leave the last step as it is for good, so that the one before it is "
-                     "the next to be taken back.")
+                     "Undo nothing: skip the last step for good, so that the step before it is undone next.")
           ->disable_flag_override()
           ->excludes(last)
           ->excludes(list);
   command
-      ->add_flag(
-          "--no-redo", arguments->noRedo,
-          "Keep nothing for redo, neither of this nor of what was taken back before: undo needs no new "
-          "room then.")
+      ->add_flag("--no-redo", arguments->noRedo,
+                 "Undo without keeping what redo needs, so that undo needs no free disk space. Steps undone "
+                 "before cannot be redone either.")
       ->disable_flag_override()
       ->excludes(list)
       ->excludes(skip);
   command
       ->add_option(
           "--keep-days", arguments->keepDays,
-          "From now on, keep steps for so many days of use, 0 to 36500; take nothing back. A day counts "
-          "when steps are made or taken back on it, so a wrong clock makes nothing old.")
+          "From now on, keep steps for this many days of use, 0 to 36500; undo nothing. Only days on "
+          "which steps are done or undone count, so a wrong clock does not matter.")
       ->option_text("N")
       ->check(WholeNumber(0, kMostDays))
       ->excludes(last)
@@ -267,8 +268,7 @@ void AddUndoCommand(CLI::App& program, Action& chosen) {
       ->excludes(skip);
   command
       ->add_option("--keep-size", arguments->keepSize,
-                   "From now on, keep no more than that of originals, such as 500M, 5G or 0; take nothing "
-                   "back.")
+                   "From now on, keep at most this size of originals, such as 500M, 5G or 0; undo nothing.")
       ->option_text("SIZE")
       ->transform(Size())
       ->excludes(last)

@@ -17,31 +17,31 @@ using Words = std::vector<std::string>;
 
 constexpr char kDescription[] =
     "Lumidex keeps track of your photos, proposes albums for holidays and weekends,\n"
-    "and renames, turns and redates photos. \"lumidex undo\" takes back imports,\n"
-    "accepted albums, tags, renames, edits and moves to the trash; its help page\n"
-    "says what it does not cover. Lumidex never deletes a photo.";
+    "and renames photos, rotates them and corrects their dates. \"lumidex undo\"\n"
+    "undoes imports, accepted albums, tags, renames, edits and moves to the trash;\n"
+    "its help page says what it does not cover. Lumidex never deletes a photo.";
 
 constexpr char kFooter[] =
     R"(Examples:
-  lumidex scan ~/Pictures              take the photos into the catalogue
-  lumidex import /media/card           copy photos and films off a card
-  lumidex albums                       see which albums they would make
+  lumidex scan ~/Pictures              add the photos to the catalogue
+  lumidex import /media/card           copy photos and videos off a card
+  lumidex albums                       see which albums they could form
   lumidex albums --accept "Christmas, December 2023"
   lumidex albums --report albums.html  the same as a page with pictures
   lumidex find --tag Beach --date "2023-06-01 - 2023-08-31"
   lumidex rename --pattern "{date}_{number:3}" ~/Pictures/trip
-  lumidex undo                         take that back
-  lumidex sample /tmp/demo             make photos to try things out on
+  lumidex undo                         undo that
+  lumidex sample /tmp/demo             make sample photos to try things out
 
 "lumidex help COMMAND" has the options and examples of a command.
 
 Exit codes:
   0    done
-  1    done, and there is something to look at
-  2    the command line makes no sense
-  3    some of it could not be done
-  4    could not be done
-  130  interrupted; what was finished stays)";
+  1    done, but something needs your attention
+  2    invalid arguments
+  3    partly failed
+  4    failed
+  130  interrupted; what was finished stays done)";
 
 std::string VersionText() {
   const std::string runtime = Host::ModelRuntime();
@@ -69,15 +69,15 @@ std::unique_ptr<CLI::App> MakeProgram(Globals& globals, Action& chosen) {
   program->formatter_fn(
       [](const CLI::App* command, const std::string&, CLI::AppFormatMode) { return HelpPage(*command); });
   program->set_help_flag("-h,--help", "Print this page.");
-  program->set_version_flag("-V,--version", VersionText(), "Print the version, and what runs models.");
+  program->set_version_flag("-V,--version", VersionText(), "Print the version and the runtime for models.");
   program
       ->add_option("-c,--catalogue,--catalog", globals.catalogue,
-                   "The catalogue's file. Default: lumidex/catalogue.sqlite in your data folder.")
+                   "The catalogue file. Default: lumidex/catalogue.sqlite in your data folder.")
       ->option_text("FILE")
       ->transform(Text());
   program
       ->add_option("--lang", globals.language,
-                   "Speak that language, such as de_DE. Default: that of the settings, or the system's.")
+                   "The language of messages, such as de_DE. Default: that of the settings, or the system's.")
       ->option_text("LANG")
       ->transform(Text());
   program->add_flag("--json", globals.json, "Print the result as one JSON document.")
@@ -315,16 +315,15 @@ std::vector<std::string> CommandsWith(const std::string& option, const CLI::App&
   const std::string option = word.substr(0, word.find('='));
   const std::string name = NameOf(command);
   if (HasOption(command, option)) {
-    ThrowUsage(command,
-               "The option " + option + " belongs behind its command: lumidex " + name + ' ' + option);
+    ThrowUsage(command, "The option " + option + " must follow its command: lumidex " + name + ' ' + option);
   }
   if (name == "tag" && word.size() == 2) {
     const std::string tag = word.substr(1);
     ThrowUsage(command,
-               "There is no option " + word + "; to take away the tag " + tag + ", write --remove " + tag);
+               "There is no option " + word + "; to remove the tag " + tag + ", write --remove " + tag);
   }
   const std::vector<std::string> others = CommandsWith(option, program);
-  const std::string fault = name.empty() ? "There is no option " + word + " in front of a command"
+  const std::string fault = name.empty() ? "There is no option " + word + " before a command"
                                          : "There is no option " + word + " of \"" + name + '"';
   ThrowUsage(command, others.empty()
                           ? "There is no option " + word + Suggestion(option, NamesOfOptions(command))
@@ -350,7 +349,7 @@ void CheckLeftOvers(const CLI::App& program) {
     if (wantsCommand) {
       ThrowNoCommand(command, first);
     }
-    ThrowUsage(command, "The argument \"" + first + "\" is one too many");
+    ThrowUsage(command, "Unexpected argument \"" + first + "\"");
   }
   if (wantsCommand) {
     ThrowUsage(command, "A command is missing: " + CLI::detail::join(NamesOfCommands(command), ", "));
@@ -389,7 +388,7 @@ std::string MismatchText(const std::string& text) {
     return option + " needs " + text.substr(count, text.find(' ', count) - count) + " values";
   }
   const bool isMissing = text.find("missing") != std::string::npos;
-  return option + (isMissing ? " needs a value" : " can be given once only");
+  return option + (isMissing ? " needs a value" : " can be given only once");
 }
 
 }  // namespace

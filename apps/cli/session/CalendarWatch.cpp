@@ -44,10 +44,10 @@ std::optional<std::string> CalendarFaultOf(const std::string& logText) {
     file = logText.substr(begin, logText.find('\n', begin) - begin);
   }
   // A calendar with one faulty event may have given some holidays: no word of weekends only.
-  return file.empty() ? Say(Words::tr("The holiday calendar could not be read to its end, so holidays are "
-                                      "missing. Try: lumidex calendar check, or lumidex calendar update."))
-                      : Say(Words::tr("The holiday calendar %1 could not be read to its end, so holidays are "
-                                      "missing. Try: lumidex calendar check, or lumidex calendar update."),
+  return file.empty() ? Say(Words::tr("The holiday calendar could not be read completely, so holidays are "
+                                      "missing. Run: lumidex calendar check, or lumidex calendar update."))
+                      : Say(Words::tr("The holiday calendar %1 could not be read completely, so holidays are "
+                                      "missing. Run: lumidex calendar check, or lumidex calendar update."),
                             {file});
 }
 

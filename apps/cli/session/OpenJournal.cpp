@@ -37,7 +37,7 @@ std::size_t OpenJournal::Prune(const std::vector<Host::UndoStep>& announced) {
         [&limits](const Host::UndoStep& step) { return !step.givenUp && step.daysOfUse > limits.days; }));
     if (tooOld > 0) {
       session_.console.Note(
-          Say(Words::tr("%1 steps cannot be undone any more: more than %2 days of use have passed since.",
+          Say(Words::tr("%1 steps cannot be undone any more, because more than %2 days of use have passed.",
                         nullptr, Amount(tooOld)),
               {GroupDigits(tooOld), GroupDigits(static_cast<unsigned long long>(limits.days))}));
     }

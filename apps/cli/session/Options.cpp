@@ -28,14 +28,17 @@ std::string SpokenLocales() {
 App::InterfaceLanguage SpokenLanguage(const char* option, const std::string& wish) {
   App::InterfaceLanguage language = App::FindInterfaceLanguage(wish);
   if (language.match == App::LanguageMatch::None) {
-    throw UsageError(std::string(option) + ": \"" + wish + "\" is none of the languages " + SpokenLocales());
+    throw UsageError(std::string(option) + ": \"" + wish + "\" is not supported; choose one of " +
+                     SpokenLocales());
   }
   return language;
 }
 
 void TellIfNear(const std::string& wish, const App::InterfaceLanguage& language, Console& console) {
-  if (language.match == App::LanguageMatch::Near) {
-    console.Note(Say(Words::tr("There is no %1; %2 is used.", "languages"), {wish, language.locale}));
+  // "de" leaves the country open.
+  const bool namesCountry = wish.find_first_of("_-") != std::string::npos;
+  if (language.match == App::LanguageMatch::Near && namesCountry) {
+    console.Note(Say(Words::tr("%1 is not supported; %2 is used.", "languages"), {wish, language.locale}));
   }
 }
 

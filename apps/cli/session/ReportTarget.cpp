@@ -67,7 +67,8 @@ void RequireReportName(const ioPath& report, const ioPath& catalogue) {
   const ioPath target = FollowLinks(report);
   for (const ioPath& file : {report, target}) {
     if (Host::IsPhotoName(file)) {
-      throw UsageError("--report: " + Named(report, file) + " is named like a photo; a page ends in .html");
+      throw UsageError("--report: " + Named(report, file) +
+                       " is named like a photo; give the page a name that ends in .html");
     }
     // SQLite puts its files beside what a link leads to.
     if (IsOfTheCatalogue(file, catalogue) || IsOfTheCatalogue(file, FollowLinks(catalogue))) {
@@ -89,8 +90,7 @@ void RequireReplaceable(const ioPath& report, const std::vector<Host::PhotoRecor
                   Named(report, target) + " is a photo of the catalogue; it is not replaced by a page.");
   }
   if (HoldsSomethingElse(target)) {
-    throw Failure("not-replaceable",
-                  Named(report, target) + " holds something that is no page; it is not replaced.");
+    throw Failure("not-replaceable", Named(report, target) + " is not a report page; it is not replaced.");
   }
 }
 

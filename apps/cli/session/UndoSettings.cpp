@@ -40,8 +40,7 @@ std::optional<int> ParseDays(const std::string& text) {
 }
 
 void WarnOf(Console& console, const char* key, const std::string& value) {
-  console.Warning(
-      Say(Words::tr("The setting %1 makes no sense (%2); the usual limit is used."), {key, value}));
+  console.Warning(Say(Words::tr("The setting %1 is invalid (%2); the default is used."), {key, value}));
 }
 
 }  // namespace
@@ -74,8 +73,9 @@ void StoreLimits(const LimitsWish& wish) {
 }
 
 std::string LimitsText(const Host::UndoLimits& limits) {
-  return Say(Words::tr("%1 days and %2", "within so many", limits.days),
-             {GroupDigits(static_cast<unsigned long long>(limits.days)), SizeText(limits.bytes)});
+  return Say(
+      Words::tr("Steps can be undone for %1 days of use, with up to %2 of originals.", nullptr, limits.days),
+      {GroupDigits(static_cast<unsigned long long>(limits.days)), SizeText(limits.bytes)});
 }
 
 }  // namespace Zenvora::Lumidex::Cli

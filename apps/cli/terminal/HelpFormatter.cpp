@@ -107,6 +107,19 @@ void AddCommands(const CLI::App& command, const std::string& prefix, std::vector
   }
 }
 
+/// The pages of commands name them only: "lumidex --help" explains them.
+std::string GlobalOptionsLine(const CLI::App& program) {
+  std::string names;
+  for (const CLI::Option* const option : program.get_options()) {
+    names += (names.empty() ? "" : ", ") + ("--" + option->get_lnames().front());
+  }
+  std::string text = "\nGlobal options (see: lumidex --help):\n";
+  for (const std::string& line : Wrap(names, kColumns - 2)) {
+    text += "  " + line + '\n';
+  }
+  return text;
+}
+
 }  // namespace
 
 std::string UsageLine(const CLI::App& command) {
@@ -135,7 +148,7 @@ std::string HelpPage(const CLI::App& command) {
   if (&program != &command) {
     text += Section("Options", OptionsOf(command));
   }
-  text += Section("Options of every command", OptionsOf(program));
+  text += &program == &command ? Section("Global options", OptionsOf(program)) : GlobalOptionsLine(program);
   if (!command.get_footer().empty()) {
     text += '\n' + command.get_footer() + '\n';
   }

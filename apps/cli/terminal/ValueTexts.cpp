@@ -128,7 +128,7 @@ std::optional<seconds> ParseOffset(const std::string& text, std::string& fault) 
   if (!offset) {
     fault = "a time such as +1h, -2d3h, +90m, +1:30 or -0:00:45, not \"" + text + '"';
   } else if (offset->count() == 0) {
-    fault = "a time that moves something, not \"" + text + '"';
+    fault = "a time other than 0, not \"" + text + '"';
     return std::nullopt;
   }
   return offset && back ? -*offset : offset;

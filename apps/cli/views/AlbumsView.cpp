@@ -70,9 +70,11 @@ std::string AcceptedLine(const AcceptedRow& row) {
     return Say(Words::tr("Accepted %1: %2 photos.", nullptr, added), {shown, photos}) + '\n';
   }
   if (added > 0) {
-    return Say(Words::tr("Added %1 photos to %2, accepted before.", nullptr, added), {photos, shown}) + '\n';
+    return Say(Words::tr("Added %1 photos to %2, which was accepted before.", nullptr, added),
+               {photos, shown}) +
+           '\n';
   }
-  return Say(Words::tr("Nothing to change in %1, accepted before."), {shown}) + '\n';
+  return Say(Words::tr("%1 was accepted before, and there are no photos to add."), {shown}) + '\n';
 }
 
 std::string AcceptedLines(const AlbumsView& view) {
@@ -80,7 +82,7 @@ std::string AcceptedLines(const AlbumsView& view) {
   for (const AcceptedRow& row : view.accepted) {
     text += AcceptedLine(row);
   }
-  return view.canBeUndone ? text + Say(Words::tr("\"lumidex undo\" takes it back.")) + '\n' : text;
+  return view.canBeUndone ? text + Say(Words::tr("\"lumidex undo\" undoes it.")) + '\n' : text;
 }
 
 /// What stands behind "from".
@@ -97,7 +99,7 @@ std::string SummaryText(const AlbumsView& view) {
   if (view.areStored) {
     const std::size_t albums = view.rows.size();
     return view.rows.empty()
-               ? Say(Words::tr("No album is accepted yet. \"lumidex albums\" shows proposals.")) + '\n'
+               ? Say(Words::tr("No album has been accepted yet. \"lumidex albums\" shows proposals.")) + '\n'
                : '\n' +
                      Say(Words::tr("%1 accepted albums.", nullptr, Amount(albums)), {GroupDigits(albums)}) +
                      '\n';
@@ -121,10 +123,9 @@ std::string SummaryText(const AlbumsView& view) {
 std::string LeftOutText(const AlbumsView& view) {
   return view.leftOut == 0
              ? std::string()
-             : Say(Words::tr(
-                       "%1 photos were left out, for only the times of their files date them. To take them "
-                       "in, run: lumidex albums --file-times",
-                       nullptr, Amount(view.leftOut)),
+             : Say(Words::tr("%1 photos were left out, because they have no date but the times of their "
+                             "files. To include them, run: lumidex albums --file-times",
+                             nullptr, Amount(view.leftOut)),
                    {GroupDigits(view.leftOut)}) +
                    '\n';
 }

@@ -57,9 +57,8 @@ std::string OutcomeText(const EditView& view) {
   if (view.edited == 0) {
     return Say(Words::tr("Nothing was changed.")) + '\n';
   }
-  return Say(view.canBeUndone
-                 ? Words::tr("%1 photos edited; \"lumidex undo\" takes it back.", nullptr, amount)
-                 : Words::tr("%1 photos edited; it cannot be undone.", nullptr, amount),
+  return Say(view.canBeUndone ? Words::tr("%1 photos edited; \"lumidex undo\" undoes it.", nullptr, amount)
+                              : Words::tr("%1 photos edited; it cannot be undone.", nullptr, amount),
              {photos}) +
          '\n' + ForgottenLine(view.forgotten) + BlockedText(view.blocked);
 }

@@ -1,4 +1,3 @@
-#include <LumidexUtil/SearchHelper.h>
 #include <cli/terminal/JsonWriter.h>
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/TextTable.h>
@@ -46,16 +45,18 @@ std::string CountText(const FindView& view) {
   const std::pair<QDate, QDate> dates = view.dates.value_or(std::pair<QDate, QDate>());
   QString text = Words::tr("%1 of %2 photos.", "found, searched", amount);
   if (dates.first.isValid() && dates.second.isValid()) {
-    text = Words::tr("%1 of %2 photos, taken %3.", "found, searched, dates", amount);
+    text = dates.first == dates.second
+               ? Words::tr("%1 of %2 photos, taken on %3.", "found, searched, date", amount)
+               : Words::tr("%1 of %2 photos, taken from %3 to %4.", "found, searched, dates", amount);
   } else if (dates.first.isValid()) {
-    text = Words::tr("%1 of %2 photos, taken %3 or later.", "found, searched, date", amount);
+    text = Words::tr("%1 of %2 photos, taken on %3 or later.", "found, searched, date", amount);
   } else if (dates.second.isValid()) {
-    text = Words::tr("%1 of %2 photos, taken %3 or earlier.", "found, searched, date", amount);
+    text = Words::tr("%1 of %2 photos, taken on %3 or earlier.", "found, searched, date", amount);
   }
-  const QDate open = dates.first.isValid() ? dates.first : dates.second;
-  const bool isOpen = dates.first.isValid() != dates.second.isValid();
-  return Say(text, {GroupDigits(view.rows.size()), GroupDigits(view.photos),
-                    SearchHelper::GetDatesStr(isOpen ? std::pair(open, open) : dates).toStdString()});
+  const QDate first = dates.first.isValid() ? dates.first : dates.second;
+  return Say(text,
+             {GroupDigits(view.rows.size()), GroupDigits(view.photos),
+              first.toString(Qt::ISODate).toStdString(), dates.second.toString(Qt::ISODate).toStdString()});
 }
 
 }  // namespace

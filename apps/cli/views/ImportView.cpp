@@ -183,7 +183,7 @@ std::string PlanText(const ImportView& view) {
     for (const ioPath& path : view.plan.stays) {
       table.AddRow({path.utf8string()});
     }
-    text += Say(Words::tr("Would be taken in where they lie:")) + '\n' + table.Text(2) + '\n';
+    text += Say(Words::tr("Would be added to the catalogue without copying:")) + '\n' + table.Text(2) + '\n';
   }
   return text;
 }
@@ -203,10 +203,8 @@ std::string ShotsText(const std::string& what, const std::vector<Shot>& shots) {
 }
 
 std::string ShotsText(const Host::ImportPlan& plan) {
-  return ShotsText(Say(Words::tr("These files are of one shot each, and the free names for them are not:")),
-                   plan.splits) +
-         ShotsText(Say(Words::tr("These files are of other shots than those whose names they share there:")),
-                   plan.joins);
+  return ShotsText(Say(Words::tr("Copies of one shot would get different names:")), plan.splits) +
+         ShotsText(Say(Words::tr("Copies would share names with files of other shots:")), plan.joins);
 }
 
 std::string MissingText(const ImportView& view) {
@@ -217,7 +215,7 @@ std::string MissingText(const ImportView& view) {
   for (const MissingCopy& missing : view.result.missing) {
     table.AddRow({missing.source.utf8string(), missing.cause});
   }
-  return Say(Words::tr("Missing:")) + '\n' + table.Text(2) + '\n';
+  return Say(Words::tr("Not copied:")) + '\n' + table.Text(2) + '\n';
 }
 
 std::string FindingsText(const ImportView& view) {
@@ -228,7 +226,7 @@ std::string FindingsText(const ImportView& view) {
   for (const ScanFinding& finding : view.result.findings) {
     table.AddRow({finding.path.utf8string(), finding.cause});
   }
-  return Say(Words::tr("Not taken into the catalogue:")) + '\n' + table.Text(2) + '\n';
+  return Say(Words::tr("Not added to the catalogue:")) + '\n' + table.Text(2) + '\n';
 }
 
 void WriteVerdict(JsonWriter& json, const ImportView& view) {
@@ -243,10 +241,10 @@ void WriteVerdict(JsonWriter& json, const ImportView& view) {
 }
 
 std::string ReasonText(const LeftFile& file) {
-  return !file.cause.empty()                   ? file.cause
-         : file.kind == LeftFile::Kind::Hidden ? Say(Words::tr("It is hidden"))
-                                               : Say(Words::tr("It is neither a photo nor a film, nor what "
-                                                               "belongs to one"));
+  return !file.cause.empty() ? file.cause
+         : file.kind == LeftFile::Kind::Hidden
+             ? Say(Words::tr("It is hidden"))
+             : Say(Words::tr("It is not a photo, a video or a file that belongs to one"));
 }
 
 std::string SourcesText(const ImportView& view) {
@@ -278,7 +276,7 @@ std::string LeftText(const ImportView& view) {
     table.AddRow({file.path.utf8string(), ReasonText(file)});
     ++shown;
   }
-  std::string text = Say(Words::tr("Left out:")) + '\n' + table.Text(2);
+  std::string text = Say(Words::tr("Skipped:")) + '\n' + table.Text(2);
   if (shown < left.size()) {
     const std::size_t more = left.size() - shown;
     text += "  " +
@@ -296,15 +294,16 @@ std::string KnownText(const ImportView& view) {
   };
   std::string text;
   if (const auto files = count(KnownFile::Kind::Catalogued)) {
-    text +=
-        Say(Words::tr("%1 photos in the catalogue already.", nullptr, Amount(files)), {GroupDigits(files)}) +
-        '\n';
+    text += Say(Words::tr("%1 photos are in the catalogue already.", nullptr, Amount(files)),
+                {GroupDigits(files)}) +
+            '\n';
   }
   if (const auto files = count(KnownFile::Kind::Copied)) {
-    text += Say(Words::tr("%1 files copied before.", nullptr, Amount(files)), {GroupDigits(files)}) + '\n';
+    text +=
+        Say(Words::tr("%1 files were copied before.", nullptr, Amount(files)), {GroupDigits(files)}) + '\n';
   }
   if (const auto files = count(KnownFile::Kind::Repeated)) {
-    text += Say(Words::tr("%1 photos there twice among the sources.", nullptr, Amount(files)),
+    text += Say(Words::tr("%1 photos occur twice in the sources.", nullptr, Amount(files)),
                 {GroupDigits(files)}) +
             '\n';
   }
@@ -325,22 +324,23 @@ std::string OutcomeText(const ImportView& view) {
     return Say(Words::tr("%1 files (%2) would be copied", nullptr, Amount(plan.copies.size())),
                {GroupDigits(plan.copies.size()), SizeText(plan.bytes)}) +
            ", " +
-           Say(Words::tr("%1 photos taken in where they lie.", "would be", Amount(plan.stays.size())),
+           Say(Words::tr("%1 photos added without copying.", "would be", Amount(plan.stays.size())),
                {GroupDigits(plan.stays.size())}) +
            ' ' + Say(Words::tr("This was a dry run:\nnothing was changed.")) + '\n';
   }
   std::string text;
   if (!plan.copies.empty()) {
-    text += Say(Words::tr("%1 files (%2) copied to %3, each compared.", nullptr, Amount(view.result.copied)),
+    text += Say(Words::tr("%1 files (%2) copied to %3 and verified.", nullptr, Amount(view.result.copied)),
                 {GroupDigits(view.result.copied), SizeText(view.result.bytes),
                  EscapeForTerminal(plan.folder.utf8string())}) +
             '\n';
   }
-  text += Say(Words::tr("%1 photos new in the catalogue.", nullptr, Amount(view.result.added)),
+  text += Say(Words::tr("%1 photos added to the catalogue.", nullptr, Amount(view.result.added)),
               {GroupDigits(view.result.added)}) +
           '\n';
   if (const std::size_t missing = view.result.missing.size(); missing > 0) {
-    text += Say(Words::tr("%1 files missing; the same command tries again.", nullptr, Amount(missing)),
+    text += Say(Words::tr("%1 files were not copied; run the same command to try again.", nullptr,
+                          Amount(missing)),
                 {GroupDigits(missing)}) +
             '\n';
   }
@@ -360,17 +360,18 @@ std::string InPlaceText(const ImportView& view) {
   std::string text;
   if (view.noCopy || plan.copyDeclined) {
     text = Say(
-        Words::tr("%1 files are not copied, as you said: they stay where they are.", nullptr, Amount(files)),
+        Words::tr("%1 files are not copied, as you chose; they stay where they are.", nullptr, Amount(files)),
         {GroupDigits(files)});
   } else {
-    text = Say(Words::tr("%1 files are not copied: they do not lie on removable storage and stay where they "
-                         "are. \"--to DIR\" copies them.",
-                         nullptr, Amount(files)),
-               {GroupDigits(files)});
+    text = Say(
+        Words::tr(
+            "%1 files are not copied, because they are not on removable storage; \"--to DIR\" copies them.",
+            nullptr, Amount(files)),
+        {GroupDigits(files)});
   }
   text += '\n';
   if (plan.filmsInPlace > 0) {
-    text += Say(Words::tr("%1 of them are films, which the catalogue does not take.", nullptr,
+    text += Say(Words::tr("%1 of them are videos, which the catalogue does not hold.", nullptr,
                           Amount(plan.filmsInPlace)),
                 {GroupDigits(plan.filmsInPlace)}) +
             '\n';
@@ -381,7 +382,7 @@ std::string InPlaceText(const ImportView& view) {
 std::string HousekeepingText(const ImportView& view) {
   const std::size_t files = view.plan.copiesOff ? view.plan.housekeeping : 0;
   return files == 0 ? std::string()
-                    : Say(Words::tr("%1 housekeeping files of cameras and systems are left.", nullptr,
+                    : Say(Words::tr("%1 housekeeping files of cameras and systems are not copied.", nullptr,
                                     Amount(files)),
                           {GroupDigits(files)}) +
                           '\n';
@@ -397,22 +398,21 @@ std::string VerdictText(const ImportView& view) {
       return Say(Words::tr("Not everything in %1 is copied: do not format or empty it yet."), {sources}) +
              '\n';
     case Kind::CopiesWithin:
-      return Say(Words::tr("Copies lie in %1 itself: do not format or empty it."), {sources}) + '\n';
+      return Say(Words::tr("Copies are in %1 itself: do not format or empty it."), {sources}) + '\n';
     case Kind::NothingLeft:
       break;
   }
   // What is left all the same is no reason to wait, but it is no copy either.
   const std::string left =
       view.plan.housekeeping == 0
-          ? Say(Words::tr("Nothing is left in %1: each file has a compared copy elsewhere."), {sources})
-          : Say(Words::tr("Nothing but housekeeping files is left in %1: each other file has a compared copy "
-                          "elsewhere."),
+          ? Say(Words::tr("Every file in %1 has a verified copy elsewhere."), {sources})
+          : Say(Words::tr("Every file in %1, except for housekeeping files, has a verified copy elsewhere."),
                 {sources});
   return left + '\n' +
          Say(view.verdict.wholeVolumes
                  ? Words::tr("It is safe to format.")
-                 : Words::tr("As far as this folder goes it is safe to format; what lies beside it was not\n"
-                             "looked at.")) +
+                 : Words::tr(
+                       "Formatting loses nothing of this folder; what is outside it was not checked.")) +
          '\n';
 }
 

@@ -127,13 +127,13 @@ std::string NotesText(const RenameView& view) {
             '\n';
   }
   if (view.fileTimes > 0 && !view.refused) {
-    text += Say(Words::tr("%1 photos have no date of their own; their files' times are used.", nullptr,
+    text += Say(Words::tr("%1 photos have no date; the times of their files are used.", nullptr,
                           Amount(view.fileTimes)),
                 {GroupDigits(view.fileTimes)}) +
             '\n';
   }
   if (view.plan.unchanged > 0) {
-    text += Say(Words::tr("%1 files have their names already.", nullptr, Amount(view.plan.unchanged)),
+    text += Say(Words::tr("%1 files have their new names already.", nullptr, Amount(view.plan.unchanged)),
                 {GroupDigits(view.plan.unchanged)}) +
             '\n';
   }
@@ -142,13 +142,12 @@ std::string NotesText(const RenameView& view) {
 
 std::string RefusedText(const RenameView& view) {
   const int amount = Amount(view.shots);
-  return Say(view.dryRun
-                 ? Words::tr("Nothing would be renamed: %1 of %2 photos cannot have the new name. With "
-                             "--skip-problems the\nothers are renamed.",
-                             nullptr, amount)
-                 : Words::tr("Nothing was renamed: %1 of %2 photos cannot have the new name. With "
-                             "--skip-problems the\nothers are renamed.",
-                             nullptr, amount),
+  return Say(view.dryRun ? Words::tr("Nothing would be renamed: %1 of %2 photos cannot get their new names.\n"
+                                     "Add --skip-problems to rename the others.",
+                                     nullptr, amount)
+                         : Words::tr("Nothing was renamed: %1 of %2 photos cannot get their new names.\n"
+                                     "Add --skip-problems to rename the others.",
+                                     nullptr, amount),
              {GroupDigits(view.plan.problems.size()), GroupDigits(view.shots)}) +
          '\n';
 }
@@ -175,14 +174,12 @@ std::string OutcomeText(const RenameView& view) {
     return Say(Words::tr("Nothing was renamed.")) + '\n';
   }
   if (!view.result.findings.empty()) {
-    return Say(Words::tr("%1 files could not be given back the old name.", nullptr,
-                         Amount(view.result.files)),
+    return Say(Words::tr("%1 files could not get their old names back.", nullptr, Amount(view.result.files)),
                {GroupDigits(view.result.files)}) +
            '\n';
   }
-  return Say(view.canBeUndone
-                 ? Words::tr("%1 renamed; \"lumidex undo\" takes it back.", "so many photos", shots)
-                 : Words::tr("%1 renamed.", "so many photos", shots),
+  return Say(view.canBeUndone ? Words::tr("%1 renamed; \"lumidex undo\" undoes it.", "so many photos", shots)
+                              : Words::tr("%1 renamed.", "so many photos", shots),
              {what}) +
          '\n';
 }
@@ -252,8 +249,7 @@ std::string RenameDocument(const RenameView& view) {
 
 std::string RenameText(const RenameView& view) {
   return ProblemsText(view) + (view.dryRun ? MovesText(view.plan.renames) + LinksText(view) : "") +
-         FindingsText(Say(Words::tr("In the way")), view.result.findings) + NotesText(view) +
-         OutcomeText(view);
+         FindingsText(Say(Words::tr("Problems")), view.result.findings) + NotesText(view) + OutcomeText(view);
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -12,7 +12,8 @@ std::string ReportLines(const std::optional<ioPath>& report, int missingPictures
   std::string text = Say(Words::tr("Report: %1"), {EscapeForTerminal(report->utf8string())}) + '\n';
   if (missingPictures > 0) {
     text += "  " +
-            Say(Words::tr("%1 pictures could not be read and got a placeholder.", nullptr, missingPictures),
+            Say(Words::tr("%1 pictures could not be read; placeholders stand for them.", nullptr,
+                          missingPictures),
                 {GroupDigits(static_cast<unsigned long long>(missingPictures))}) +
             '\n';
   }

@@ -22,13 +22,13 @@ constexpr int kScoreDigits = 3;
 std::string ReasonText(Host::KeeperReason reason) {
   switch (reason) {
     case Host::KeeperReason::Whole:
-      return Say(Words::tr("whole", "photo"));
+      return Say(Words::tr("undamaged", "photo"));
     case Host::KeeperReason::CameraFile:
       return Say(Words::tr("the camera's own file"));
     case Host::KeeperReason::CameraData:
       return Say(Words::tr("has camera data"));
     case Host::KeeperReason::MakerNote:
-      return Say(Words::tr("has the maker's note"));
+      return Say(Words::tr("has maker notes"));
     case Host::KeeperReason::NotEnlarged:
       return Say(Words::tr("not enlarged"));
     case Host::KeeperReason::Largest:
@@ -40,7 +40,7 @@ std::string ReasonText(Host::KeeperReason reason) {
     case Host::KeeperReason::Sharpest:
       return Say(Words::tr("sharpest", "photo"));
     case Host::KeeperReason::MoreBytes:
-      return Say(Words::tr("more bytes a pixel"));
+      return Say(Words::tr("more bytes per pixel"));
     case Host::KeeperReason::CameraName:
       return Say(Words::tr("named by the camera"));
     case Host::KeeperReason::Earliest:
@@ -106,7 +106,7 @@ std::string SameText(const SimilarView& view) {
     return {};
   }
   return Say(Words::tr("%1 of them (%2) are the same picture as the one to keep; \"lumidex similar --trash\" "
-                       "moves those to the trash.",
+                       "moves them to the trash.",
                        nullptr, Amount(same.photos)),
              {GroupDigits(same.photos), SizeText(same.bytes)}) +
          '\n';
@@ -257,21 +257,22 @@ std::string ExplainText(const ExplainView& view) {
                : Words::tr("The photos score %1 against each other and are in different groups.");
   return Say(verdict, {ScoreText(facts.score)}) + '\n' + JudgedText(view.verdict) + "\n\n" + table.Text() +
          '\n' +
-         Say(Words::tr("A photo joins the first group whose centre, the mean of its photos at that time, it "
-                       "scored\nabove %1 against; later photos move the centre."),
+         Say(Words::tr(
+                 "A photo joins the first group whose centre scores above %1 against it. The centre is the\n"
+                 "mean of the photos in the group at that time; later photos move it."),
              {ScoreText(Host::kSameGroupScore)}) +
          '\n';
 }
 
 std::string CheckText(const std::vector<std::string>& differences) {
   if (differences.empty()) {
-    return Say(Words::tr("The groups are as matching all photos again makes them.")) + '\n';
+    return Say(Words::tr("Matching all photos again gives the same groups.")) + '\n';
   }
   std::string text;
   for (const std::string& difference : differences) {
     text += EscapeForTerminal(difference) + '\n';
   }
-  return text + Say(Words::tr("\"lumidex similar --anew\" makes the groups from nothing.")) + '\n';
+  return text + Say(Words::tr("\"lumidex similar --anew\" makes all groups again.")) + '\n';
 }
 
 }  // namespace Zenvora::Lumidex::Cli

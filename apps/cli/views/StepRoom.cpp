@@ -31,12 +31,11 @@ std::string LimitFor(std::uint64_t bytes) {
 }
 
 std::string TooMuchText(const Host::JournalRoom& room) {
-  return Say(Words::tr("To be taken back it needs %1 of originals kept, and the limit is %2."),
+  return Say(Words::tr("To undo the edit, %1 of originals must be kept, but the limit is %2."),
              {SizeText(room.needed), SizeText(room.limit)}) +
          ' ' +
-         Say(Words::tr(
-                 "\"lumidex undo --keep-size %1\" raises the limit; with --no-undo nothing is kept, and it "
-                 "cannot be taken back."),
+         Say(Words::tr("\"lumidex undo --keep-size %1\" raises the limit; with --no-undo nothing is kept, "
+                       "and the edit cannot be undone."),
              {LimitFor(room.needed)});
 }
 
@@ -71,12 +70,11 @@ std::string ForgottenText(const Host::JournalRoom& room, bool beforehand) {
 std::string TightText(const Host::JournalRoom& room) {
   std::string text;
   for (const Host::TightVolume& volume : room.tight) {
-    text +=
-        Say(Words::tr("The disk of %1 has %2 of room left, and editing all of them takes %3: the last ones "
-                      "would be left as they are."),
-            {EscapeForTerminal(volume.folder.utf8string()),
-             SizeText(static_cast<std::uint64_t>(volume.bytesFree)), SizeText(volume.bytesNeeded)}) +
-        '\n';
+    text += Say(Words::tr("The disk of %1 has %2 free, but editing all photos needs %3: the last ones would "
+                          "not be edited."),
+                {EscapeForTerminal(volume.folder.utf8string()),
+                 SizeText(static_cast<std::uint64_t>(volume.bytesFree)), SizeText(volume.bytesNeeded)}) +
+            '\n';
   }
   return text;
 }
@@ -92,11 +90,9 @@ void AddRoomOptions(CLI::App& command, RoomWish& wish) {
   CLI::Option* const forget =
       command
           .add_flag("--forget-older", wish.forgetOlder,
-                    "Where the limit of what is kept for undo is reached, let undo forget the oldest steps "
-                    "without being asked.")
+                    "If the limit of undo is reached, forget the oldest steps without asking.")
           ->disable_flag_override();
-  command
-      .add_flag("--no-undo", wish.noUndo, "Keep no originals: \"lumidex undo\" cannot take this step back.")
+  command.add_flag("--no-undo", wish.noUndo, "Keep no originals: \"lumidex undo\" cannot undo this step.")
       ->disable_flag_override()
       ->excludes(forget);
 }
@@ -122,15 +118,15 @@ bool AgreeOnRoom(Session& session, const Host::JournalRoom& room, const RoomWish
                   StepLines(room), Say(Words::tr("--forget-older allows it.")) + ' ' + RaiseText(room));
   }
   return Ask(session.console, ForgottenText(room, true) + RaiseText(room) + '\n',
-             Say(Words::tr("Forget them and go on? [y/N]")), session.interrupted);
+             Say(Words::tr("Forget them and continue? [y/N]")), session.interrupted);
 }
 
 std::string RoomText(const Host::JournalRoom& room, const RoomWish& wish) {
   if (wish.noUndo) {
-    return Say(Words::tr("Nothing would be kept: it could not be taken back.")) + '\n';
+    return Say(Words::tr("No originals would be kept, so the edit could not be undone.")) + '\n';
   }
   if (!room.Fits()) {
-    return Say(Words::tr("It would be refused.")) + ' ' + TooMuchText(room) + '\n';
+    return Say(Words::tr("The edit would be refused.")) + ' ' + TooMuchText(room) + '\n';
   }
   if (room.forgotten.empty()) {
     return TightText(room);

@@ -68,9 +68,8 @@ std::string ChangeText(const TagView& view) {
   }
   const int amount = Amount(view.changed);
   return findings +
-         Say(view.canBeUndone
-                 ? Words::tr("%1 photos changed; \"lumidex undo\" takes it back.", nullptr, amount)
-                 : Words::tr("%1 photos changed.", nullptr, amount),
+         Say(view.canBeUndone ? Words::tr("%1 photos changed; \"lumidex undo\" undoes it.", nullptr, amount)
+                              : Words::tr("%1 photos changed.", nullptr, amount),
              {GroupDigits(view.changed)}) +
          '\n';
 }

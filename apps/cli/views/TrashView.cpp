@@ -84,7 +84,7 @@ std::string AlikeText(const TrashView& view) {
   const std::string rows = table.Text(2);
   return view.plan.CountAlike() == 0
              ? std::string()
-             : Say(Words::tr("Not the same picture as the one to keep, only alike:")) + '\n' + rows + '\n';
+             : Say(Words::tr("Not the same picture as the photo to keep, only alike:")) + '\n' + rows + '\n';
 }
 
 std::string StaysText(const TrashView& view) {

@@ -20,8 +20,8 @@ using Host::UndoStep;
 
 std::string StateText(const UndoStep& step) {
   return step.undone     ? Say(Words::tr("undone", "a step"))
-         : step.givenUp  ? Say(Words::tr("given up", "a step"))
-         : step.underWay ? Say(Words::tr("goes on", "a step"))
+         : step.givenUp  ? Say(Words::tr("cannot be undone", "a step"))
+         : step.underWay ? Say(Words::tr("running", "a step"))
                          : std::string();
 }
 
@@ -31,9 +31,9 @@ const char* KindName(const UndoView& view) {
 
 std::string StepsText(const std::vector<UndoStep>& steps) {
   if (steps.empty()) {
-    return Say(Words::tr("There is nothing that could be undone.")) + '\n';
+    return Say(Words::tr("There is nothing to undo.")) + '\n';
   }
-  TextTable table({{Say(Words::tr("WHEN"))},
+  TextTable table({{Say(Words::tr("WHEN", "a step"))},
                    {Say(Words::tr("WHAT"))},
                    {Say(Words::tr("FILES")), TextTable::Align::Right},
                    {Say(Words::tr("KEPT", "so many bytes")), TextTable::Align::Right},
@@ -50,14 +50,14 @@ std::string ResultText(const UndoResult& result, bool redo) {
   const std::size_t left = result.findings.size();
   std::string text = FindingsText(Say(Words::tr("Left as they are")), result.findings);
   if (result.files == 0) {
-    text += Say(redo ? Words::tr("Nothing of \"%1\" was done again.")
-                     : Words::tr("Nothing of \"%1\" was taken back."),
-                {name});
+    text +=
+        Say(redo ? Words::tr("Nothing of \"%1\" was redone.") : Words::tr("Nothing of \"%1\" was undone."),
+            {name});
   } else if (left == 0) {
-    text += Say(redo ? Words::tr("Done again: %1.") : Words::tr("Taken back: %1."), {name});
+    text += Say(redo ? Words::tr("Redone: %1.") : Words::tr("Undone: %1."), {name});
   } else {
-    text += Say(redo ? Words::tr("Done again: %1, but for %2 files.", nullptr, Amount(left))
-                     : Words::tr("Taken back: %1, but for %2 files.", nullptr, Amount(left)),
+    text += Say(redo ? Words::tr("Redone: %1, except for %2 files.", nullptr, Amount(left))
+                     : Words::tr("Undone: %1, except for %2 files.", nullptr, Amount(left)),
                 {name, GroupDigits(left)});
   }
   text += '\n';
@@ -67,19 +67,20 @@ std::string ResultText(const UndoResult& result, bool redo) {
             '\n';
   }
   if (result.lastCopies > 0) {
-    text += Say(Words::tr("Of %1 of them the source is gone or was changed: do not empty the trash before "
-                          "you have another copy.",
+    text += Say(Words::tr("The sources of %1 of them are gone or changed: do not empty the trash before you "
+                          "have another copy.",
                           nullptr, Amount(result.lastCopies)),
                 {GroupDigits(result.lastCopies)}) +
             '\n';
   }
   if (result.stands && left > 0) {
-    text += Say(Words::tr("Older steps wait for it; \"lumidex undo --skip\" leaves it as it is for good.")) +
+    text += Say(Words::tr(
+                "Older steps cannot be undone before this one; \"lumidex undo --skip\" skips it for good.")) +
             '\n';
   }
   if (result.lacksRoomForRedo) {
-    text += Say(Words::tr("There is no room for keeping what redo needs; \"lumidex undo --no-redo\" does "
-                          "without.")) +
+    text += Say(Words::tr(
+                "There is no room to keep what redo needs; \"lumidex undo --no-redo\" undoes without it.")) +
             '\n';
   }
   return text;
@@ -90,9 +91,9 @@ std::string LineOfBlocked(const BlockedStep& blocked) {
   constexpr std::size_t kMostShown = 10;
   const std::size_t files = blocked.files.size();
   std::string text =
-      Say(Words::tr("Undo of \"%1\" (%2) will leave %3 files as they are, for this step changed "
-                    "them since:",
-                    nullptr, Amount(files)),
+      Say(Words::tr(
+              "Undo of \"%1\" (%2) will leave %3 files as they are, because this step changed them later:",
+              nullptr, Amount(files)),
           {EscapeForTerminal(StepText(blocked.step.name.toStdString())), WhenText(blocked.step),
            GroupDigits(files)}) +
       '\n';
@@ -108,9 +109,9 @@ std::string SkippedText(const std::vector<SkippedStep>& steps) {
   }
   std::string text;
   for (const SkippedStep& step : steps) {
-    text += Say(Words::tr("Given up: %1."), {EscapeForTerminal(StepText(step.name.toStdString()))});
+    text += Say(Words::tr("Skipped: %1."), {EscapeForTerminal(StepText(step.name.toStdString()))});
     if (step.keptBytes > 0) {
-      text += ' ' + Say(Words::tr("What is kept of it (%1) stays until it is too old or too much."),
+      text += ' ' + Say(Words::tr("Its originals (%1) are kept until they exceed the limits of undo."),
                         {SizeText(step.keptBytes)});
     }
     text += '\n';
@@ -121,8 +122,7 @@ std::string SkippedText(const std::vector<SkippedStep>& steps) {
 
 std::string LimitsLine(const UndoView& view) {
   const std::string forgotten = ForgottenLine(view.forgotten);
-  return Say(Words::tr("Steps can be undone within %1."), {LimitsText(*view.limits)}) +
-         (forgotten.empty() ? "\n" : ' ' + forgotten);
+  return LimitsText(*view.limits) + (forgotten.empty() ? "\n" : ' ' + forgotten);
 }
 
 void WriteDone(JsonWriter& json, const std::vector<UndoResult>& results) {
@@ -258,8 +258,8 @@ std::string UndoText(const UndoView& view) {
   for (const UndoResult& result : view.done) {
     text += ResultText(result, view.redo);
   }
-  return text.empty() ? Say(view.redo ? Words::tr("There is nothing to do again.")
-                                      : Words::tr("There is nothing to take back.")) +
+  return text.empty() ? Say(view.redo ? Words::tr("There is nothing to redo.")
+                                      : Words::tr("There is nothing to undo.")) +
                             '\n'
                       : text;
 }

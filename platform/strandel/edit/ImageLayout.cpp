@@ -94,7 +94,7 @@ std::optional<PictureFormat> FormatOf(std::string_view head, std::string& cause)
       return mark.format;
     }
   }
-  cause = "its content is of no picture format that can be edited";
+  cause = "its format cannot be edited";
   return std::nullopt;
 }
 
@@ -139,7 +139,7 @@ std::string WithExif(PictureFormat format, const std::string& bytes, const Image
 void CheckSamePicture(PictureFormat format, const std::string& before, const std::string& after) {
   const bool same = format == PictureFormat::WebP ? IsSameWebP(before, after) : IsSame(format, before, after);
   if (!same) {
-    throw EditRefusal("the picture in it would not stay as it is");
+    throw EditRefusal("its picture would change");
   }
 }
 

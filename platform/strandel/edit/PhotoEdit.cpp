@@ -93,7 +93,7 @@ Content ReadWhole(const ioPath& photo) {
     throw EditRefusal(source.Failure());
   }
   if (!whole || !IsSameState(before, QueryFile(photo))) {
-    throw EditRefusal("it was changed meanwhile");
+    throw EditRefusal("it was changed while it was read");
   }
   return content;
 }
@@ -105,7 +105,7 @@ ExivPicture ReadMetadata(const std::string& bytes) {
                                               static_cast<long>(bytes.size()))
                         .release());
   if (image == nullptr) {
-    throw EditRefusal("its content is of no known picture format");
+    throw EditRefusal("its picture format is not known");
   }
   try {
     image->readMetadata();
@@ -185,7 +185,7 @@ class InnerPictures {
     }
     budget_ -= size;
     if (before_.substr(at, size) != after_.substr(at, size)) {
-      throw EditRefusal("the picture in it would not stay as it is");
+      throw EditRefusal("its picture would change");
     }
   }
 
@@ -227,14 +227,14 @@ std::string Edited(const Content& content, const PhotoEdit& edit) {
 void CheckEdit(const PhotoEdit& edit) {
   const bool shifts = edit.shift.count() != 0;
   if (edit.turn == Turn::None && !shifts && !edit.date.isValid()) {
-    throw EditRefusal("nothing is to be changed");
+    throw EditRefusal("there is nothing to change");
   }
   if (shifts && edit.date.isValid()) {
     throw EditRefusal("its date cannot be set and shifted at once");
   }
   const int year = edit.date.isValid() ? edit.date.date().year() : 1;
   if (year < 1 || year > 9999) {
-    throw EditRefusal("a date is of the years 1 to 9999");
+    throw EditRefusal("the year must be 1 to 9999");
   }
 }
 

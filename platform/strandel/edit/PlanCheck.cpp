@@ -18,7 +18,7 @@ enum Tag : std::uint16_t {
 };
 
 [[noreturn]] void RefuseResult(const std::string& key) {
-  throw EditRefusal("its metadata cannot be changed without a loss (" + key + ")");
+  throw EditRefusal("its metadata cannot be changed without losing data (" + key + ")");
 }
 
 /// Compares two lists of metadata, without the data that `isPlanned` knows.
@@ -97,7 +97,7 @@ template <class Data, class Changes>
 void CheckDone(const Data& data, const Changes& changes) {
   if (!std::all_of(changes.begin(), changes.end(),
                    [&data](const auto& change) { return IsDone(data, change); })) {
-    throw EditRefusal("its metadata would not say afterwards what it should");
+    throw EditRefusal("its metadata would be wrong afterwards");
   }
 }
 

@@ -189,7 +189,7 @@ std::optional<std::string> Edited(const std::string& bytes, const ioPath& photo,
     throw EditRefusal("its text is damaged");
   }
   if (HoldsTooMany(sidecar.Utf8())) {
-    throw EditRefusal("it holds more properties than any program writes");
+    throw EditRefusal("it has too many properties");
   }
   const Exiv2::ExifData exif = ExifOf(photo);
   const auto lock = LockExiv();
@@ -218,7 +218,7 @@ std::string ReadWhole(const ioPath& sidecar) {
   std::string bytes(static_cast<std::size_t>(source.Size()), '\0');
   const bool whole = source.ReadAll(0, bytes.data(), bytes.size());
   if (!whole) {
-    throw EditRefusal(source.Failure().empty() ? "it was changed meanwhile" : source.Failure());
+    throw EditRefusal(source.Failure().empty() ? "it was changed while it was read" : source.Failure());
   }
   return bytes;
 }

@@ -26,7 +26,7 @@ struct Picture {
   Exiv2::ExifData exif;
 };
 
-constexpr const char* kUnknown = "Its content is of no known picture format";
+constexpr const char* kUnknown = "Its picture format is not known";
 constexpr const char* kDamagedDirectory = "Its TIFF directory is damaged";
 
 std::string WithoutBlanks(const std::string& text) {

@@ -31,7 +31,7 @@ bool PhotoSource::Open(const ioPath& file, std::string& cause) {
     }
   }
   if (!S_ISREG(facts.st_mode)) {
-    cause = "It is no regular file";
+    cause = "It is not a regular file";
     return false;
   }
   size_ = static_cast<std::uint64_t>(facts.st_size);

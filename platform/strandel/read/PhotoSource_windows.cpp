@@ -23,7 +23,7 @@ bool PhotoSource::Open(const ioPath& file, std::string& cause) {
   handle_ = handle;
   LARGE_INTEGER size;
   if (GetFileType(handle_) != FILE_TYPE_DISK || !GetFileSizeEx(handle_, &size)) {
-    cause = "It is no regular file";
+    cause = "It is not a regular file";
     return false;
   }
   size_ = static_cast<std::uint64_t>(size.QuadPart);

@@ -130,11 +130,11 @@ TEST_F(CheckingACalendar, FindsLocalesOfNoInterfaceLanguage) {
   for (const CalendarFinding& finding : CheckCalendar(tree.Write("calendar.json", text))) {
     texts.push_back(finding.locale + ' ' + std::to_string(finding.number) + ": " + finding.text);
   }
-  EXPECT_THAT(texts,
-              ElementsAre("en_us 0: No interface language has this name; did you mean en_US?",
-                          HasSubstr("en_us 1: The event has no name"),
-                          "pt_PT 0: No interface language has this name; did you mean pt_BR?",
-                          "xx 0: No interface language has this name.", "xx 0: This is no list of events."));
+  EXPECT_THAT(texts, ElementsAre("en_us 0: No interface language has this name; did you mean en_US?",
+                                 HasSubstr("en_us 1: The event has no name"),
+                                 "pt_PT 0: No interface language has this name; did you mean pt_BR?",
+                                 "xx 0: No interface language has this name.",
+                                 "xx 0: This is not a list of events."));
 }
 
 TEST_F(CheckingACalendar, FindsEventsThatOthersHide) {

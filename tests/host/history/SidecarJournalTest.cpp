@@ -140,7 +140,7 @@ TEST_F(SidecarJournal, LeavesBothWhenOthersChangedOneSince) {
   ASSERT_THAT(result.findings, SizeIs(2));
   EXPECT_EQ(result.findings[0].file, photo_);
   EXPECT_EQ(result.findings[0].cause,
-            photo_.utf8string() + " is left as it is, too: it goes with " + sidecar_.utf8string());
+            photo_.utf8string() + " is left as it is, because it belongs to " + sidecar_.utf8string());
   EXPECT_EQ(result.findings[1].file, sidecar_);
   EXPECT_THAT(result.findings[1].cause, HasSubstr("has been changed since"));
   EXPECT_TRUE(result.stands);

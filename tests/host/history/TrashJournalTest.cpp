@@ -202,7 +202,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToSeveralPhotosWhileOneStays) {
   EXPECT_EQ(result.files, 1U);
   ASSERT_THAT(result.findings, SizeIs(2));
   EXPECT_EQ(result.findings[1].cause,
-            Photo("a.xmp").utf8string() + " stays: so does a.jpg, to which it belongs.");
+            Photo("a.xmp").utf8string() + " stays: a.jpg, to which it belongs, is kept.");
   EXPECT_EQ(ReadFile(Photo("a.xmp")), "settings");
 }
 
@@ -232,12 +232,11 @@ TEST_F(TrashJournal, LeavesWhatIsNotAsItWas) {
   const TrashResult touched = Move({going});
   EXPECT_EQ(touched.files, 0U);
   ASSERT_THAT(touched.findings, SizeIs(1));
-  EXPECT_EQ(touched.findings[0].cause,
-            photo.utf8string() + " stays: it has been changed since it was looked at.");
+  EXPECT_EQ(touched.findings[0].cause, photo.utf8string() + " stays: it was changed after it was analysed.");
   photo.remove();
-  EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("it is not there any more"));
+  EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("it no longer exists"));
   std::filesystem::create_directory(photo.native());
-  EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("it is no file any more"));
+  EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("it is no longer a file"));
   EXPECT_TRUE(journal_->Steps().empty());
   EXPECT_THAT(Trash(), IsEmpty());
 }
@@ -250,7 +249,7 @@ TEST_F(TrashJournal, LeavesThePhotosOfOneThatIsNotKeptAfterAll) {
   EXPECT_THAT(Move({going}).findings[0].cause,
               AllOf(HasSubstr("a.jpg stays: the one to keep"), HasSubstr("has been changed")));
   Photo("keep.jpg").remove();
-  EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("is not there any more"));
+  EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("no longer exists"));
   EXPECT_EQ(Photos(), (Files{{"a.jpg", "A"}}));
 }
 
@@ -348,9 +347,9 @@ TEST_F(TrashJournal, BringsNothingBackOverWhatIsThereNow) {
   EXPECT_EQ(result.files, 1U);
   EXPECT_TRUE(result.stands);
   ASSERT_THAT(result.findings, SizeIs(1));
-  EXPECT_EQ(result.findings[0].cause, Photo("a.jpg").utf8string() + " stays in the trash as " +
+  EXPECT_EQ(result.findings[0].cause, Photo("a.jpg").utf8string() + " remains in the trash as " +
                                           (bin_ / "0-a.jpg").utf8string() +
-                                          ": there is something of its old name");
+                                          ": another file has its former name");
   EXPECT_EQ(Photos(), (Files{{"keep.jpg", "keep.jpg"}, {"a.jpg", "new"}, {"b.jpg", "b.jpg"}}));
   EXPECT_THAT(Trash(), SizeIs(2));
   Photo("a.jpg").remove();
@@ -373,7 +372,7 @@ TEST_F(TrashJournal, BringsBackWhatIsStillThereWhenTheTrashWasEmptied) {
   EXPECT_FALSE(result.stands);
   ASSERT_THAT(result.findings, SizeIs(1));
   EXPECT_EQ(result.findings[0].cause,
-            Photo("a.jpg").utf8string() + " is not in the trash any more and cannot be brought back");
+            Photo("a.jpg").utf8string() + " is no longer in the trash and cannot be brought back");
   EXPECT_EQ(ReadFile(Photo("b.jpg")), "b.jpg");
   EXPECT_TRUE(journal_->Steps().front().givenUp);
   // It keeps no older step from being taken back.
@@ -427,7 +426,7 @@ TEST_F(TrashJournal, SaysWhenSomethingElseHasTheNameOfWhatIsGone) {
   (bin_ / "0-a.jpg").remove();
   Make("a.jpg", "something else");
   EXPECT_THAT(Undo().findings[0].cause,
-              HasSubstr("a.jpg is not in the trash any more; there is something of its old name"));
+              HasSubstr("a.jpg is no longer in the trash; another file has its name"));
   EXPECT_EQ(ReadFile(Photo("a.jpg")), "something else");
 }
 
@@ -513,7 +512,7 @@ TEST_F(TrashJournal, WaitsForWhatCannotBeLookedAt) {
   const UndoResult undone = Undo();
   EXPECT_TRUE(undone.stands);
   ASSERT_THAT(undone.findings, SizeIs(1));
-  EXPECT_THAT(undone.findings[0].cause, HasSubstr(", which cannot be looked at: "));
+  EXPECT_THAT(undone.findings[0].cause, HasSubstr(", which cannot be read: "));
   place.remove();
   ASSERT_FALSE(MoveToFreeName(aside, place));
   EXPECT_EQ(Undo().files, 1U);
@@ -549,7 +548,7 @@ TEST_F(TrashJournal, WaitsForAVolumeThatIsAway) {
   trash_.inReach = false;
   const UndoResult result = Undo();
   EXPECT_TRUE(result.stands);
-  EXPECT_THAT(result.findings[0].cause, HasSubstr("cannot be reached: its volume may be away"));
+  EXPECT_THAT(result.findings[0].cause, HasSubstr("cannot be reached: its disk may not be connected"));
   ASSERT_TRUE(away.rename(bin_));
   trash_.inReach = true;
   EXPECT_EQ(Undo().files, 1U);
@@ -568,8 +567,8 @@ TEST_F(TrashJournal, DoesNotDoAgainWhatWouldLoseAPhoto) {
   const UndoResult result = Redo();
   EXPECT_EQ(result.files, 0U);
   ASSERT_THAT(result.findings, SizeIs(3));
-  EXPECT_THAT(result.findings[0].cause, HasSubstr("a.jpg has been changed since and is left as it is"));
-  EXPECT_THAT(result.findings[1].cause, HasSubstr("b.jpg is not there any more"));
+  EXPECT_THAT(result.findings[0].cause, HasSubstr("a.jpg was changed later and is left as it is"));
+  EXPECT_THAT(result.findings[1].cause, HasSubstr("b.jpg no longer exists"));
   EXPECT_THAT(result.findings[2].cause, HasSubstr("c.jpg stays: the photo that was kept in its stead"));
   EXPECT_EQ(Photos(), (Files{{"keep.jpg", "keep.jpg"}, {"a.jpg", "changed since"}, {"c.jpg", "c.jpg"}}));
   EXPECT_TRUE(journal_->Steps().front().undone);
@@ -587,7 +586,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoThatIsNotMovedAgain) {
   const UndoResult redone = Redo();
   EXPECT_EQ(redone.files, 1U);
   ASSERT_THAT(redone.findings, SizeIs(2));
-  EXPECT_EQ(redone.findings[1].cause, Photo("a.xmp").utf8string() + " stays: so does what it belongs to");
+  EXPECT_EQ(redone.findings[1].cause, Photo("a.xmp").utf8string() + " was kept, because its photo was kept");
   EXPECT_EQ(ReadFile(Photo("a.xmp")), "settings");
   EXPECT_EQ(Undo().files, 1U);
   EXPECT_THAT(Trash(), IsEmpty());

@@ -184,7 +184,7 @@ TEST_F(UndoJournalTest, RenamesAllOrNothing) {
   EXPECT_EQ(result.files, 0U);
   ASSERT_EQ(result.findings.size(), 1U);
   EXPECT_EQ(result.findings[0].file, Photo("b.jpg"));
-  EXPECT_NE(result.findings[0].cause.find("there is something of that name"), std::string::npos);
+  EXPECT_NE(result.findings[0].cause.find("another file has that name"), std::string::npos);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}, {"taken.jpg", "T"}}));
   EXPECT_TRUE(journal_->Steps().empty());
 }

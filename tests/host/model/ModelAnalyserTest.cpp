@@ -148,11 +148,11 @@ TEST_F(ModelAnalyserTest, SaysWhyAModelCannotBeUsed) {
   EXPECT_EQ(Refusal(tree_.Path("missing.onnx")), "there is no such file");
   EXPECT_EQ(Refusal(tree_.MakeFolder("folder.onnx")), "it is a folder");
   EXPECT_EQ(Refusal(tree_.Write("empty.onnx", "")), "the file is empty");
-  EXPECT_EQ(Refusal(tree_.Write("text.onnx", "no model")), "it is no ONNX model, or a damaged one");
+  EXPECT_EQ(Refusal(tree_.Write("text.onnx", "no model")), "it is not an ONNX model, or it is damaged");
   EXPECT_EQ(Refusal(tree_.Write("cut.onnx", bytes.substr(0, bytes.size() / 2))),
-            "it is no ONNX model, or a damaged one");
+            "it is not an ONNX model, or it is damaged");
   EXPECT_EQ(Refusal(tree_.Write("photo.onnx", Encoded(Colourful()).toStdString())),
-            "it is no ONNX model, or a damaged one");
+            "it is not an ONNX model, or it is damaged");
   const ioPath large = tree_.Write("large.onnx", bytes);
   std::filesystem::resize_file(large.for_system(), 513ULL * 1024 * 1024);
   EXPECT_EQ(Refusal(large), "the file is larger than 512 MiB");
@@ -161,7 +161,7 @@ TEST_F(ModelAnalyserTest, SaysWhyAModelCannotBeUsed) {
 
 TEST_F(ModelAnalyserTest, DoesNotWaitOnPipes) {
   const Pipe pipe(tree_.Path("pipe.onnx"));
-  EXPECT_EQ(Refusal(pipe.Path()), "it is no regular file");
+  EXPECT_EQ(Refusal(pipe.Path()), "it is not a regular file");
 }
 
 TEST_F(ModelAnalyserTest, SaysThatAModelCannotBeOpened) {

@@ -204,7 +204,7 @@ TEST(ReadModelHead, WantsAsManyWeightsAsTheirShapeSays) {
 }
 
 TEST(ReadModelHead, SeesNothingThatOtherReadersPassBy) {
-  const std::string damaged = "it is no ONNX model, or a damaged one";
+  const std::string damaged = "it is not an ONNX model, or it is damaged";
   const std::string eight(8, '\1');
   const auto weights = [] { return WireWriter().Number(1, 2).Number(2, 1); };
   const WireWriter tensors[] = {
@@ -275,7 +275,7 @@ TEST(ReadModelHead, FollowsNamesThroughTheModel) {
 }
 
 TEST(ReadModelHead, RefusesWhatIsNoModel) {
-  const std::string none = "it is no ONNX model, or a damaged one";
+  const std::string none = "it is not an ONNX model, or it is damaged";
   const std::string cases[] = {"",
                                "This is a letter, not a model.",
                                std::string(5000, '\0'),

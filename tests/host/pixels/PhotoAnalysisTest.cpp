@@ -220,11 +220,11 @@ TEST(DescribePhoto, SaysWhyThereIsNothing) {
     const char* cause;
   };
   const Case cases[] = {{"empty.jpg", "the file is empty"},
-                        {"text.jpg", "its content is no picture of a known format"},
+                        {"text.jpg", "its content is not a picture of a known format"},
                         {"start only.jpg", "the head of the picture is damaged"},
                         {"tiff only.tif", ""},
-                        {"zeros.jpg", "its content is no picture of a known format"},
-                        {"folder.jpg", "it is no regular file"},
+                        {"zeros.jpg", "its content is not a picture of a known format"},
+                        {"folder.jpg", "it is not a regular file"},
                         {"missing.jpg", "there is no such file"}};
   for (const Case& c : cases) {
     const auto description = Describe(tree.Path(c.name));

@@ -211,7 +211,7 @@ TEST(RenamePlan, IsRefusedForPhotosWithoutADate) {
             "has no date");
   shots[1].dateFault = "It is empty";
   EXPECT_EQ(MakeRenamePlan(shots, Pattern("{date}_{number}"), {}, Options()).problems[0].cause,
-            "cannot be read for its date: It is empty");
+            "has no readable date: It is empty");
 }
 
 TEST(RenamePlan, IsRefusedForNamesThatFilesShouldNotHave) {

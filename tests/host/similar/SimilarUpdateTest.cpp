@@ -127,7 +127,7 @@ TEST_F(SimilarUpdate, TriesAgainWhatFailedForAReasonThatMayPass) {
   analyser_.outOfMemory = true;
   EXPECT_THAT(Unreadable(Update()),
               testing::UnorderedElementsAre(std::make_pair("a.png", "there is not enough memory"),
-                                            std::make_pair("b.png", "it is not there any more")));
+                                            std::make_pair("b.png", "it no longer exists")));
   analyser_.outOfMemory = false;
   analyser_.broken = true;
   EXPECT_THAT(Unreadable(Update()), SizeIs(2));

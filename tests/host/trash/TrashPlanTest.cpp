@@ -115,9 +115,9 @@ TEST_F(TrashPlanTest, LeavesWhatIsNotAsTheCatalogueKnowsIt) {
   const TrashPlan plan = PlanTrash({group});
   EXPECT_THAT(Going(plan), ElementsAre("b.jpg"));
   EXPECT_THAT(Staying(plan), ElementsAre("changed.jpg!", "gone.jpg!", "folder.jpg!"));
-  EXPECT_THAT(plan.stays[0].cause, HasSubstr("it has been changed since it was looked at"));
-  EXPECT_THAT(plan.stays[1].cause, HasSubstr("it is not there any more"));
-  EXPECT_THAT(plan.stays[2].cause, HasSubstr("it is no file any more"));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("it was changed after it was analysed"));
+  EXPECT_THAT(plan.stays[1].cause, HasSubstr("it no longer exists"));
+  EXPECT_THAT(plan.stays[2].cause, HasSubstr("it is no longer a file"));
 }
 
 TEST_F(TrashPlanTest, LeavesAGroupWhoseKeptPhotoIsNotAsKnown) {
@@ -127,7 +127,7 @@ TEST_F(TrashPlanTest, LeavesAGroupWhoseKeptPhotoIsNotAsKnown) {
   const TrashPlan plan = PlanTrash({first, second});
   EXPECT_THAT(Going(plan), ElementsAre("e.jpg"));
   EXPECT_THAT(Staying(plan), ElementsAre("b.jpg!", "c.jpg!"));
-  EXPECT_THAT(plan.stays[0].cause, HasSubstr("the one to keep, "));
+  EXPECT_THAT(plan.stays[0].cause, HasSubstr("the photo to keep, "));
 }
 
 TEST_F(TrashPlanTest, LeavesWhatIsOnlyLikeTheMiddleOfItsGroup) {
@@ -139,7 +139,7 @@ TEST_F(TrashPlanTest, LeavesWhatIsOnlyLikeTheMiddleOfItsGroup) {
   EXPECT_THAT(Going(plan), ElementsAre("near.jpg"));
   EXPECT_THAT(Staying(plan), ElementsAre("far.jpg", "far.nef"));
   EXPECT_THAT(plan.stays[0].cause,
-              HasSubstr("it is like others of its group, but not like the one to keep, "));
+              HasSubstr("it is like others of its group, but not like the photo to keep, "));
 }
 
 TEST_F(TrashPlanTest, LeavesWhatIsNotTheSamePicture) {
@@ -156,8 +156,8 @@ TEST_F(TrashPlanTest, LeavesWhatIsNotTheSamePicture) {
   EXPECT_THAT(plan.stays[0].cause, HasSubstr("it is only alike to "));
   EXPECT_THAT(plan.stays[0].cause, HasSubstr("keep.jpg, not the same picture (cropped)."));
   EXPECT_EQ(plan.stays[0].byVerdict, Verdict::Alike);
-  EXPECT_THAT(plan.stays[1].cause, HasSubstr("it shows something else than the one to keep, "));
-  EXPECT_THAT(plan.stays[2].cause, HasSubstr("it could not be compared with the one to keep, "));
+  EXPECT_THAT(plan.stays[1].cause, HasSubstr("it is a different picture from the photo to keep, "));
+  EXPECT_THAT(plan.stays[2].cause, HasSubstr("it could not be compared with the photo to keep, "));
   group.verdicts.clear();
   EXPECT_THAT(Going(PlanTrash({group}, TrashChoice::SameOrAlike)), IsEmpty()) << "nothing was judged";
 }
@@ -297,10 +297,9 @@ TEST_F(TrashPlanTest, KeepsAPhotoWithSettingsThatTheKeptOneHasNot) {
   const TrashPlan plan = PlanTrash({Group({"keep.jpg", "a.jpg", "b.jpg", "c.jpg", "d.jpg", "e.jpg"})});
   EXPECT_THAT(Going(plan), ElementsAre("a.jpg +a.xmp", "c.jpg +c.xmp", "e.jpg +e.THM"));
   EXPECT_THAT(Staying(plan), ElementsAre("b.jpg", "d.jpg"));
-  EXPECT_THAT(
-      plan.stays[0].cause,
-      HasSubstr("b.jpg stays: its settings in b.xmp would go along, and beside " +
-                tree_.Path("photos/keep.jpg").utf8string() + ", which is kept, there are none like them."));
+  EXPECT_THAT(plan.stays[0].cause,
+              HasSubstr("b.jpg stays: its settings, b.xmp, would be lost: the photo to keep, " +
+                        tree_.Path("photos/keep.jpg").utf8string() + ", does not have them."));
   EXPECT_THAT(Going(PlanTrash({Group({"bare.jpg", "a.jpg"})})), IsEmpty());
   EXPECT_THAT(Going(PlanTrash({Group({"a.jpg", "bare.jpg"})})), ElementsAre("bare.jpg"));
 }

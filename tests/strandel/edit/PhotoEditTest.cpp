@@ -655,7 +655,7 @@ TEST(PhotoEdit, SaysThatAPhotoIsDamagedRatherThanUndated) {
 TEST(PhotoEdit, NeverLeavesTheYearsOfEXIF) {
   PhotoTags last;
   last.dateTimeOriginal = "9999:12:31 23:59:59";
-  const char* const cause = "its date would leave the years 1 to 9999";
+  const char* const cause = "its year would not be 1 to 9999";
   EXPECT_EQ(Refusal(MakeJpeg(last), ShiftedBy(seconds(1))), cause);
   EXPECT_EQ(Refusal(MakeJpeg(Tags()), ShiftedBy(hours(24 * 366 * 3000))), "");
   EXPECT_EQ(Refusal(MakeJpeg(Tags()), ShiftedBy(-hours(24 * 366 * 3000))), cause);
@@ -664,14 +664,14 @@ TEST(PhotoEdit, NeverLeavesTheYearsOfEXIF) {
   for (const int year : {-1, 10'000}) {
     PhotoEdit edit;
     edit.date = QDateTime(QDate(year, 1, 1), QTime(0, 0));
-    EXPECT_EQ(Refusal(MakeJpeg(Tags()), edit), "a date is of the years 1 to 9999") << year;
+    EXPECT_EQ(Refusal(MakeJpeg(Tags()), edit), "the year must be 1 to 9999") << year;
   }
 }
 
 // --- What is refused ---
 
 TEST(PhotoEdit, RefusesEditsThatMakeNoSense) {
-  EXPECT_EQ(Refusal(MakeJpeg(Tags()), PhotoEdit()), "nothing is to be changed");
+  EXPECT_EQ(Refusal(MakeJpeg(Tags()), PhotoEdit()), "there is nothing to change");
   PhotoEdit both = SetTo();
   both.shift = seconds(1);
   EXPECT_EQ(Refusal(MakeJpeg(Tags()), both), "its date cannot be set and shifted at once");
@@ -690,7 +690,7 @@ TEST_P(Formats, AreToldByTheirContent) {
   EXPECT_EQ(WhyNotEditable(photo), GetParam().cause);
 }
 
-constexpr const char* kUnknown = "its content is of no picture format that can be edited";
+constexpr const char* kUnknown = "its format cannot be edited";
 
 INSTANTIATE_TEST_SUITE_P(
     Table, Formats,

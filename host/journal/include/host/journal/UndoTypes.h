@@ -42,7 +42,7 @@ struct SkippedStep : UndoStep {
 };
 
 /// Behind the sentence that tells why something could not be written down.
-constexpr char kNotedLater[] = " What was done stays, and the next run writes it down.";
+constexpr char kNotedLater[] = " What was done stays done, and the next run records it.";
 
 /// What a step, an undo or a redo did.
 struct UndoResult {
