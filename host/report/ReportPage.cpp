@@ -3,6 +3,7 @@
 #include "ReportStyle.h"
 
 #include <LumidexUtil/Wording.h>
+#include <host/settings/IntervalText.h>
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -254,7 +255,7 @@ QByteArray ReportPage::Begin() const {
 QString ReportPage::When(const ReportAlbum& album) const {
   const QString rest = album.name.section(QLatin1Char('\n'), 1).simplified();
   return rest.isEmpty() && album.firstDay.isValid() ? locale_.toString(album.firstDay, QLocale::LongFormat)
-                                                    : rest;
+                                                    : IntervalText(rest, locale_);
 }
 
 QByteArray ReportPage::BeginAlbum(const ReportAlbum& album, int number) const {

@@ -1,7 +1,6 @@
 // Texts in another language: how they are filled in, what answers mean, and that tables stay tables.
 
-#include "StepText.h"
-
+#include <cli/session/StepText.h>
 #include <cli/session/TerminalQuestions.h>
 #include <cli/terminal/Question.h>
 #include <cli/terminal/TerminalText.h>

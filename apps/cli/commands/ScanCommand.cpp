@@ -1,4 +1,5 @@
 #include <cli/commands/Commands.h>
+#include <cli/session/CauseText.h>
 #include <cli/session/OpenJournal.h>
 #include <cli/session/Options.h>
 #include <cli/terminal/Failure.h>
@@ -210,8 +211,8 @@ std::string AmbiguousText(const ScanResult& result) {
   std::string text;
   for (const ScanFinding& finding : result.findings) {
     if (finding.kind == ScanFinding::Kind::Ambiguous) {
-      text += "  " + EscapeForTerminal(finding.path.utf8string()) + "\n    " + finding.cause + ": " +
-              SomeOf(finding.candidates) + '\n';
+      text += "  " + EscapeForTerminal(finding.path.utf8string()) + "\n    " + CauseText(finding.cause) +
+              ": " + SomeOf(finding.candidates) + '\n';
     }
   }
   return text.empty()
@@ -227,7 +228,7 @@ std::string FindingsText(const ScanResult& result) {
   bool isEmpty = true;
   for (const ScanFinding& finding : result.findings) {
     if (finding.kind != ScanFinding::Kind::Ambiguous) {
-      table.AddRow({KindText(finding.kind), finding.path.utf8string(), finding.cause});
+      table.AddRow({KindText(finding.kind), finding.path.utf8string(), CauseText(finding.cause)});
       isEmpty = false;
     }
   }

@@ -1,4 +1,5 @@
 #include <LumidexUtil/FileAccessLocker.h>
+#include <cli/session/CauseText.h>
 #include <cli/session/OpenJournal.h>
 #include <cli/session/UndoSettings.h>
 #include <cli/terminal/TerminalText.h>
@@ -22,7 +23,7 @@ OpenJournal::OpenJournal(Session& session)
   MakePrivate(App::UserSettingsFile().parent_path());
   MakePrivate(App::UserSettingsFile());
   for (const std::string& note : journal_->RecoveryNotes()) {
-    session.console.Note(note);
+    session.console.Note(CauseText(note));
     session.recovered.push_back(note);
   }
 }

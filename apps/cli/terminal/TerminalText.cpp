@@ -1,6 +1,7 @@
 #include "Utf8.h"
 
 #include <cli/terminal/TerminalText.h>
+#include <cli/terminal/Words.h>
 
 #include <QChar>
 
@@ -103,6 +104,15 @@ std::string Escaped(const Utf8Step& step) {
   return text.data();
 }
 
+std::string InGroups(unsigned long long number, const std::string& separator) {
+  std::string digits = std::to_string(number);
+  for (std::size_t place = digits.size(); place > 3;) {
+    place -= 3;
+    digits.insert(place, separator);
+  }
+  return digits;
+}
+
 }  // namespace
 
 std::string EscapeForTerminal(std::string_view text) {
@@ -145,16 +155,11 @@ std::string CutToWidth(std::string_view text, int columns) {
 }
 
 std::string GroupDigits(unsigned long long number) {
-  std::string digits = std::to_string(number);
-  for (std::size_t place = digits.size(); place > 3;) {
-    place -= 3;
-    digits.insert(place, ",");
-  }
-  return digits;
+  return InGroups(number, Say(Words::tr(",", "between thousands")));
 }
 
 std::string Counted(unsigned long long number, std::string_view noun) {
-  return GroupDigits(number) + " " + std::string(noun) + (number == 1 ? "" : "s");
+  return InGroups(number, ",") + " " + std::string(noun) + (number == 1 ? "" : "s");
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -1,4 +1,5 @@
 #include <cli/terminal/ValueTexts.h>
+#include <cli/terminal/Words.h>
 
 #include <array>
 #include <charconv>
@@ -178,8 +179,14 @@ std::optional<std::uint64_t> ParseSize(const std::string& text, std::string& fau
   return number << power;
 }
 
+std::string DecimalMark() {
+  return Say(Words::tr(".", "before decimals"));
+}
+
 std::string SizeText(std::uint64_t bytes) {
-  static constexpr std::array<const char*, 7> kNames = {" B", " KiB", " MiB", " GiB", " TiB", " PiB", " EiB"};
+  const std::array<QString, 7> names = {Words::tr("%1 B"),   Words::tr("%1 KiB"), Words::tr("%1 MiB"),
+                                        Words::tr("%1 GiB"), Words::tr("%1 TiB"), Words::tr("%1 PiB"),
+                                        Words::tr("%1 EiB")};
   std::size_t unit = 0;
   std::uint64_t rest = 0;
   while (bytes >= 1024) {
@@ -188,8 +195,8 @@ std::string SizeText(std::uint64_t bytes) {
     ++unit;
   }
   const std::uint64_t tenth = rest * 10 / 1024;
-  const std::string fraction = bytes < 100 && tenth > 0 ? '.' + std::to_string(tenth) : "";
-  return std::to_string(bytes) + fraction + kNames[unit];
+  const std::string fraction = bytes < 100 && tenth > 0 ? DecimalMark() + std::to_string(tenth) : "";
+  return Say(names.at(unit), {std::to_string(bytes) + fraction});
 }
 
 }  // namespace Zenvora::Lumidex::Cli

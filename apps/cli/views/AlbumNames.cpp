@@ -1,5 +1,9 @@
 #include <cli/views/AlbumNames.h>
+#include <host/settings/IntervalText.h>
 
+#include <zenvora/app/Application.h>
+
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -9,6 +13,10 @@
 namespace Zenvora::Lumidex::Cli {
 
 namespace {
+
+QLocale Language() {
+  return QLocale(QString::fromStdString(App::GetCurrentLocale()));
+}
 
 QString Composed(const QString& text) {
   return text.normalized(QString::NormalizationForm_C);
@@ -50,12 +58,30 @@ AlbumTitle TitleOf(const QString& name) {
   return {first.toStdString(), lines.join(QStringLiteral(", ")).toStdString()};
 }
 
+AlbumTitle ShownTitle(const QString& name) {
+  const AlbumTitle title = TitleOf(name);
+  return {title.title, Host::IntervalText(QString::fromStdString(title.interval), Language()).toStdString()};
+}
+
+std::string ShownName(const QString& name) {
+  const auto [title, interval] = TitleOf(name);
+  return interval.empty()
+             ? title
+             : title + ", " +
+                   Host::IntervalInSentence(QString::fromStdString(interval), Language()).toStdString();
+}
+
 std::string OneLineName(const QString& name) {
   return QString(name).replace(QLatin1Char('\n'), QStringLiteral(", ")).toStdString();
 }
 
 bool MeansAlbum(const std::string& wish, const QString& name) {
   const QString wanted = Composed(QString::fromStdString(wish));
+  const AlbumTitle shown = ShownTitle(name);
+  if (Composed(QString::fromStdString(shown.title + ", " + shown.interval)) == wanted ||
+      Composed(QString::fromStdString(ShownName(name))) == wanted) {
+    return true;
+  }
   for (const char* const separator : {"\n", ", ", " - ", "\\n"}) {
     if (Composed(QString(name).replace(QLatin1Char('\n'), QLatin1String(separator))) == wanted) {
       return true;

@@ -37,7 +37,7 @@ std::string TableText(const AlbumsView& view) {
   }
   TextTable table(columns);
   for (const AlbumRow& row : view.rows) {
-    const AlbumTitle title = TitleOf(row.name);
+    const AlbumTitle title = ShownTitle(row.name);
     table.AddRow({title.title, title.interval, DayText(row.firstDay), DayText(row.lastDay),
                   GroupDigits(row.photos.size()), AcceptedText(row)});
   }
@@ -49,7 +49,7 @@ std::string MembersText(const AlbumsView& view) {
   for (const AlbumRow& row : view.rows) {
     text += '\n' +
             Say(Words::tr("%1 (%2 photos)", nullptr, Amount(row.photos.size())),
-                {EscapeForTerminal(OneLineName(row.name)), GroupDigits(row.photos.size())}) +
+                {EscapeForTerminal(ShownName(row.name)), GroupDigits(row.photos.size())}) +
             '\n';
     TextTable members({{}, {}});
     for (const Host::PhotoRecord* const photo : row.photos) {
@@ -63,7 +63,7 @@ std::string MembersText(const AlbumsView& view) {
 }
 
 std::string AcceptedLine(const AcceptedRow& row) {
-  const std::string shown = EscapeForTerminal(OneLineName(row.name));
+  const std::string shown = EscapeForTerminal(ShownName(row.name));
   const int added = row.result.photosAdded;
   const std::string photos = GroupDigits(static_cast<unsigned long long>(added));
   if (row.result.created) {

@@ -1,3 +1,4 @@
+#include <cli/session/CauseText.h>
 #include <cli/terminal/JsonWriter.h>
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/TextTable.h>
@@ -213,7 +214,7 @@ std::string MissingText(const ImportView& view) {
   }
   TextTable table({{}, {}});
   for (const MissingCopy& missing : view.result.missing) {
-    table.AddRow({missing.source.utf8string(), missing.cause});
+    table.AddRow({missing.source.utf8string(), CauseText(missing.cause)});
   }
   return Say(Words::tr("Not copied:")) + '\n' + table.Text(2) + '\n';
 }
@@ -224,7 +225,7 @@ std::string FindingsText(const ImportView& view) {
   }
   TextTable table({{}, {}});
   for (const ScanFinding& finding : view.result.findings) {
-    table.AddRow({finding.path.utf8string(), finding.cause});
+    table.AddRow({finding.path.utf8string(), CauseText(finding.cause)});
   }
   return Say(Words::tr("Not added to the catalogue:")) + '\n' + table.Text(2) + '\n';
 }
@@ -241,7 +242,7 @@ void WriteVerdict(JsonWriter& json, const ImportView& view) {
 }
 
 std::string ReasonText(const LeftFile& file) {
-  return !file.cause.empty() ? file.cause
+  return !file.cause.empty() ? CauseText(file.cause)
          : file.kind == LeftFile::Kind::Hidden
              ? Say(Words::tr("It is hidden"))
              : Say(Words::tr("It is not a photo, a video or a file that belongs to one"));

@@ -1,3 +1,4 @@
+#include <cli/session/CauseText.h>
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/Words.h>
 #include <cli/views/JournalView.h>
@@ -10,7 +11,7 @@ std::string FindingsText(const std::string& title, const std::vector<Host::FileF
   }
   std::string text = Say(Words::tr("%1:", "a heading"), {title}) + '\n';
   for (const Host::FileFinding& finding : findings) {
-    text += "  " + EscapeForTerminal(finding.cause) + '\n';
+    text += "  " + EscapeForTerminal(CauseText(finding.cause)) + '\n';
   }
   return text + '\n';
 }

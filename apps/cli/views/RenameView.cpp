@@ -1,5 +1,4 @@
-#include "StepText.h"
-
+#include <cli/session/StepText.h>
 #include <cli/terminal/JsonWriter.h>
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/TextTable.h>
@@ -36,7 +35,7 @@ const char* KindName(RenameProblem::Kind kind) {
   return "";
 }
 
-std::string CauseText(const RenameProblem& problem) {
+std::string ProblemText(const RenameProblem& problem) {
   const std::string target =
       problem.target.empty() ? std::string() : problem.target.filename().utf8string() + ' ';
   const std::string other =
@@ -68,7 +67,7 @@ std::string ProblemsText(const RenameView& view) {
   TextTable table({{}, {}});
   for (const RenameProblem& problem : view.plan.problems) {
     if (problem.kind != RenameProblem::Kind::SameName || rivals[problem.target].size() == 1) {
-      table.AddRow({problem.file.utf8string(), CauseText(problem)});
+      table.AddRow({problem.file.utf8string(), ProblemText(problem)});
       continue;
     }
     const auto& group = rivals[problem.target];

@@ -1,5 +1,6 @@
 #include "ReportNote.h"
 
+#include <cli/session/CauseText.h>
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/TextTable.h>
 #include <cli/terminal/ValueTexts.h>
@@ -80,7 +81,7 @@ std::string ProblemsText(const SimilarView& view) {
   std::size_t known = 0;
   for (const SimilarView::Problem& problem : view.problems) {
     if (problem.isNew) {
-      table.AddRow({problem.photo.utf8string(), problem.cause});
+      table.AddRow({problem.photo.utf8string(), CauseText(problem.cause)});
     } else {
       ++known;
     }
@@ -206,7 +207,9 @@ std::string GroupText(const Host::SuggestedGroup& shown, const TrashView* trash)
 }
 
 std::string ScoreText(float score) {
-  return QString::number(static_cast<double>(score), 'f', kScoreDigits).toStdString();
+  return QString::number(static_cast<double>(score), 'f', kScoreDigits)
+      .replace(QLatin1Char('.'), QString::fromStdString(DecimalMark()))
+      .toStdString();
 }
 
 std::string ReasonsText(const Host::KeeperChoice& keeper) {

@@ -1,5 +1,4 @@
-#include "StepText.h"
-
+#include <cli/session/StepText.h>
 #include <cli/session/UndoSettings.h>
 #include <cli/terminal/Failure.h>
 #include <cli/terminal/Question.h>

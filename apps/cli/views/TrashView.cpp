@@ -1,5 +1,5 @@
-#include "StepText.h"
-
+#include <cli/session/CauseText.h>
+#include <cli/session/StepText.h>
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/TextTable.h>
 #include <cli/terminal/ValueTexts.h>
@@ -93,7 +93,7 @@ std::string StaysText(const TrashView& view) {
   for (const Host::TrashStay& stay : view.plan.stays) {
     // The groups tell what each photo is to the one to keep.
     if (!stay.byVerdict) {
-      text += "  " + EscapeForTerminal(stay.cause) + '\n';
+      text += "  " + EscapeForTerminal(CauseText(stay.cause)) + '\n';
     }
     alike += stay.byVerdict == Host::Verdict::Alike ? 1 : 0;
   }

@@ -1,5 +1,4 @@
-#include "StepText.h"
-
+#include <cli/session/StepText.h>
 #include <cli/session/UndoSettings.h>
 #include <cli/terminal/JsonWriter.h>
 #include <cli/terminal/TerminalText.h>

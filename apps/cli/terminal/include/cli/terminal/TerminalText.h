@@ -18,10 +18,10 @@ int DisplayWidth(std::string_view text);
 /// The longest beginning of the text that fits into `columns`.
 std::string CutToWidth(std::string_view text, int columns);
 
-/// A number with its digits in groups of three: 1,234,567.
+/// A number with its digits in groups of three, as the interface language has them: 1,234,567.
 std::string GroupDigits(unsigned long long number);
 
-/// "1 photo", "1,234 photos".
+/// "1 photo", "1,234 photos", in English whatever the interface language.
 std::string Counted(unsigned long long number, std::string_view noun);
 
 }  // namespace Zenvora::Lumidex::Cli

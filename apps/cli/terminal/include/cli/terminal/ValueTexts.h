@@ -29,7 +29,10 @@ std::optional<QDateTime> ParseDate(const std::string& text, std::string& fault);
 /// 2^63.
 std::optional<std::uint64_t> ParseSize(const std::string& text, std::string& fault);
 
-/// "0 B", "1.5 KiB", "5 GiB": one digit behind the point at most, cut off and not rounded.
+/// What stands before decimals in the interface language.
+std::string DecimalMark();
+
+/// "0 B", "1.5 KiB", "5 GiB" in the interface language: at most one decimal, cut off and not rounded.
 std::string SizeText(std::uint64_t bytes);
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -16,12 +16,19 @@ struct AlbumTitle {
 
 AlbumTitle TitleOf(const QString& name);
 
+/// What `TitleOf` gives, the interval as the interface language writes it.
+AlbumTitle ShownTitle(const QString& name);
+
+/// "Christmas, December 2023" for the middle of a sentence: the interval as the interface language writes it
+/// there.
+std::string ShownName(const QString& name);
+
 /// "Christmas, December 2023".
 std::string OneLineName(const QString& name);
 
-/// True when a user who wrote `wish` means that album: the one-line form, the name itself, or its lines with
-/// " - " or the two characters \n between them. Composed and decomposed accents are alike; upper and lower
-/// case are not.
+/// True when a user who wrote `wish` means that album: the one-line form, as it is or as it is shown, the
+/// name itself, or its lines with " - " or the two characters \n between them. Composed and decomposed
+/// accents are alike; upper and lower case are not.
 bool MeansAlbum(const std::string& wish, const QString& name);
 
 /// Which of the albums a user named.

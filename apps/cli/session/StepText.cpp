@@ -1,5 +1,4 @@
-#include "StepText.h"
-
+#include <cli/session/StepText.h>
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/Words.h>
 
