@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>%1 lässt sich nicht bearbeiten: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>%1 lässt sich nicht umbenennen: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>%1 lässt sich nicht in %2 umbenennen: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>%1 lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>in seinen Ordner darf nicht geschrieben werden; ändern Sie die Berechtigungen von %1</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>in seinem Ordner darf nur der Besitzer etwas ändern; ändern Sie den Besitzer oder die Berechtigungen von %1</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>auf seinem Laufwerk ist kein Platz für eine neue Fassung (%1 Bytes werden gebraucht, %2 sind frei); schaffen Sie dort Platz</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>die Datei ist schreibgeschützt; erlauben Sie das Schreiben, oder verwenden Sie --force</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>die Begleitdatei %1 ist schreibgeschützt; erlauben Sie das Schreiben, oder verwenden Sie --force</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>die Begleitdatei muss mit bearbeitet werden. %1; reparieren oder verschieben Sie die Begleitdatei</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>die Begleitdatei %1 muss mit bearbeitet werden, aber %2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>es gibt kein Datum zu verschieben</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>das Jahr läge nicht zwischen 1 und 9999</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>die Metadaten lassen sich nicht ohne Verlust ändern (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>die Metadaten wären danach falsch</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>die EXIF-Daten, die als Text abgelegt sind, sind beschädigt</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>die EXIF-Daten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>die XMP-Daten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>das TIFF-Verzeichnis ist beschädigt</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>das Bildformat ist unbekannt</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>das Format lässt sich nicht bearbeiten</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>Fotos im Format %1 lassen sich nicht bearbeiten</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>das Bild selbst würde sich ändern</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>die Datei ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>die Datei ist größer als 2 GiB</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>die Datei ist größer als 16 MiB</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>die Datei wurde während des Lesens geändert</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>der Arbeitsspeicher reicht zum Bearbeiten nicht aus</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>die JPEG-Daten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>die JPEG-Daten enden vor dem Bild</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>die JPEG-Daten brechen vor dem Bild ab</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>im EXIF-Block ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>die PNG-Daten brechen ab</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>die PNG-Daten beginnen nicht mit einem Bild</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>es gibt zwei EXIF-Blöcke</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>die WebP-Daten brechen ab</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>die WebP-Daten enthalten kein Bild</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>%1 lässt sich nicht an Ort und Stelle ändern</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>das Datum lässt sich in den %1-Daten nicht ändern</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>%1 lässt sich in den %2-Daten nicht ändern</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>die Datei bricht vor ihrem Ende ab</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>der Text ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>die Datei hat zu viele Eigenschaften</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 ist unverändert: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 wurde bearbeitet, aber der Katalog konnte nicht aktualisiert werden (%2). Der nächste Aufruf von lumidex holt das nach</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 lässt sich nicht so zurücklesen, wie es geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 bleibt unverändert, weil es zu %2 gehört</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 fehlt vorerst, aber die Fassungen sind aufbewahrt (%2). Schaffen Sie auf dem Laufwerk Platz, und rufen Sie „lumidex undo“ erneut auf</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 bleibt unverändert: Ein anderes Programm hat %2 geändert, wo die andere Fassung aufbewahrt war</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 bleibt unverändert: Auf dem Laufwerk ist kein Platz für die andere Fassung (%2 Bytes). Schaffen Sie dort Platz, und versuchen Sie es erneut</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 bleibt unverändert: Die andere Fassung ist nicht mehr aufbewahrt</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 wurde später geändert und bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 gibt es nicht mehr</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>%1 ist nicht erreichbar: Vielleicht ist das Laufwerk nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>Das Protokoll %1 zum Rückgängigmachen lässt sich nicht verwenden: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>ein anderes Programm benennt damit gerade Fotos um oder bearbeitet sie; versuchen Sie es erneut, wenn es fertig ist</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>ohne %1 MiB freien Platz, um ihn abzuschließen und rückgängig zu machen, wird kein Schritt begonnen (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>es fehlt der Platz, um es rückgängig zu machen (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>Das Ziel des Links %1 lässt sich nicht ändern: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>%1 lässt sich nicht in den Papierkorb verschieben: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>kein freier Name im Papierkorb</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>eine andere Datei hat diesen Namen</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>eine andere Datei hat den früheren Namen</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>das Ziel liegt auf einem anderen Laufwerk</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>es ist keine Datei mehr</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 wurde behalten, weil das zugehörige Foto behalten wurde</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 wurde behalten, weil es das Foto %2, das an seiner Stelle behalten wurde, nicht mehr gibt</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 liegt im Papierkorb als %2 und ist nicht erreichbar: Vielleicht ist das Laufwerk nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1 liegt vielleicht im Papierkorb als %2, was sich nicht lesen lässt: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 liegt nicht mehr im Papierkorb; eine andere Datei hat den Namen</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 liegt nicht mehr im Papierkorb und lässt sich nicht zurückholen</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 bleibt im Papierkorb als %2: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>Das Album „%1“ bleibt, weil später Fotos hinzukamen</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>Das Album „%1“ gibt es nicht mehr</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>Ein anderes Album heißt jetzt „%1“</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 bleibt: %2.</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>es liegt schon in einem Papierkorb</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>es ist ein Link auf eine andere Datei</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>es gibt die Datei nicht mehr</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>die Datei wurde nach der Analyse geändert</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>die Datei wurde nach dem Vergleich geändert</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>es ist ein anderer Name einer Datei, die behalten wird</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>es gehört zur selben Aufnahme wie %1, das behalten wird</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>es ist anderen der Gruppe ähnlich, aber nicht dem Foto, das zu behalten ist, %1</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>es hat Schlagwörter oder Alben, die das Foto, das zu behalten ist, %1, nicht hat</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>es ist eine Rohdatei, und keine Rohdatei der Gruppe wird behalten</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>die Einstellungen in %1 gingen verloren: Das Foto, das zu behalten ist, %2, hat sie nicht</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>der Link %1 führt dorthin</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>%1, zu dem es gehört, wird behalten</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>die Einstellungen in %1 wurden geändert</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>das Foto, das zu behalten ist, %1, gibt es nicht mehr</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>das Foto, das zu behalten ist, %1, wurde nach der Analyse geändert</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>das Foto, das zu behalten ist, %1, ist keine Datei mehr</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>das Foto, das zu behalten ist, %1, lässt sich nicht lesen (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>das Foto, das zu behalten ist, %1, liegt in einem Papierkorb</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>das Foto, das zu behalten ist, %1, ist ein Link auf eine andere Datei</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>das Foto, das zu behalten ist, %1, bricht vor dem Ende des Bildes ab</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>das Foto, das zu behalten ist, %1, ist beschädigt: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>Das abgebrochene Rückgängigmachen von „%1“ ist jetzt abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>Das abgebrochene Wiederholen von „%1“ ist jetzt abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Das abgebrochene Rückgängigmachen von „%1“ ist jetzt abgeschlossen, außer bei:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Das abgebrochene Wiederholen von „%1“ ist jetzt abgeschlossen, außer bei:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>Der abgebrochene Schritt „%1“ ist jetzt abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>„%1“ wurde abgebrochen und wird abgeschlossen, sobald %2 erreichbar ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>„%1“ wurde abgebrochen und lässt sich nicht abschließen (%2); die Dateien haben ihre früheren Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>„%1“ wurde abgebrochen und lässt sich weder abschließen (%2) noch rückgängig machen (%3).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>„%1“ wurde abgebrochen. Bearbeitete Fotos: %2; die übrigen sind unverändert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>„%1“ wurde abgebrochen. Fertige Kopien: %2; wiederholen Sie den Import, um den Rest zu kopieren.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>„%1“ wurde abgebrochen. Verschobene Dateien: %2; die übrigen sind, wo sie waren.</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>Originale, die dieser Katalog nicht kennt, wurden nach %1 verschoben.</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 und die Begleitdatei stimmen nicht überein, weil nur eine der beiden Dateien bearbeitet wurde (%2).</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>Die Datei lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>Es ist eine Pipe oder ein Gerät</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>Die Datei ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>Das Bildformat ist unbekannt</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Der Name ist kein gültiger Text</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>Die Datei heißt wie eine Verwaltungsdatei, kann aber ein Bild oder ein Video sein</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>Der Link führt zu einer Datei, die fehlt</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>Der Link führt zu einer Datei, die sich nicht lesen lässt</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>Der Link führt zu sich selbst zurück</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>Der Link führt zu einem Ordner, der sich nicht lesen lässt</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>Der Link führt zu einem übergeordneten Ordner zurück</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>Der Link führt zu einem Ordner, der schon besucht wurde</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 ist versteckt</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>%1 heißt nicht wie ein Foto</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 ist ein Link auf eine Datei, die fehlt</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>die Datei wurde während des Kopierens geändert</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>die Kopie weicht vom Original ab</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>die Kopie lässt sich nicht schreiben: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>die Kopie lässt sich nicht zurücklesen: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>die Kopie lässt sich nicht verzeichnen</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>eine andere Datei hat inzwischen den Namen %1 bekommen</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>die Datei ist identisch mit %1, das nicht kopiert werden konnte</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>der Import wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>Die Datei kann jedes von %1 fehlenden Fotos sein</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>Das Foto fehlt, und %1 Dateien kommen in Frage</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>Das Foto wurde geändert oder ersetzt, und eine Datei hat seinen früheren Inhalt</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -167,8 +750,8 @@
     <message numerus="yes">
         <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>Das %1 Foto des Katalogs war beim letzten Einlesen nicht mehr da. Fehlt ein Laufwerk?</numerusform>
-            <numerusform>Alle %1 Fotos des Katalogs waren beim letzten Einlesen nicht mehr da. Fehlt ein Laufwerk?</numerusform>
+            <numerusform>Das %1 Foto des Katalogs fehlte beim letzten Einlesen. Ist ein Laufwerk nicht angeschlossen?</numerusform>
+            <numerusform>Alle %1 Fotos des Katalogs fehlten beim letzten Einlesen. Ist ein Laufwerk nicht angeschlossen?</numerusform>
         </translation>
     </message>
     <message>
@@ -241,7 +824,7 @@
     </message>
     <message>
         <source>%1 was accepted before, and there are no photos to add.</source>
-        <translation>An %1 ist nichts zu ändern, es war schon übernommen.</translation>
+        <translation>%1 war schon übernommen, und es gibt keine Fotos hinzuzufügen.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -364,11 +947,11 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
     </message>
     <message>
         <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>Der Feiertagskalender konnte nicht zu Ende gelesen werden, daher fehlen Feiertage. Versuchen Sie: lumidex calendar check oder lumidex calendar update.</translation>
+        <translation>Der Feiertagskalender konnte nicht vollständig gelesen werden, daher fehlen Feiertage. Rufen Sie auf: lumidex calendar check oder lumidex calendar update.</translation>
     </message>
     <message>
         <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>Der Feiertagskalender %1 konnte nicht zu Ende gelesen werden, daher fehlen Feiertage. Versuchen Sie: lumidex calendar check oder lumidex calendar update.</translation>
+        <translation>Der Feiertagskalender %1 konnte nicht vollständig gelesen werden, daher fehlen Feiertage. Rufen Sie auf: lumidex calendar check oder lumidex calendar update.</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -405,7 +988,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
     </message>
     <message>
         <source>no problems found.</source>
-        <translation>nichts steht im Wege.</translation>
+        <translation>keine Probleme gefunden.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -427,10 +1010,6 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
     <message>
         <source>Editing</source>
         <translation>Bearbeite</translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>Abgebrochen. Die bis dahin bearbeiteten Fotos bleiben bearbeitet.</translation>
     </message>
     <message>
         <source>upright</source>
@@ -509,7 +1088,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
     </message>
     <message>
         <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
-        <translation>Abgebrochen. Was kopiert wurde, ist vollständig und verglichen; derselbe Befehl kopiert den Rest.</translation>
+        <translation>Abgebrochen. Die bisherigen Kopien sind vollständig und überprüft; rufen Sie denselben Befehl auf, um den Rest zu kopieren.</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
@@ -517,15 +1096,15 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
     </message>
     <message>
         <source>Would be added to the catalogue without copying:</source>
-        <translation>An ihrem Ort würden aufgenommen:</translation>
+        <translation>Würden ohne Kopieren in den Katalog aufgenommen:</translation>
     </message>
     <message>
         <source>Copies of one shot would get different names:</source>
-        <translation>Diese Dateien gehören je zu einer Aufnahme, die freien Namen für sie nicht:</translation>
+        <translation>Kopien derselben Aufnahme bekämen verschiedene Namen:</translation>
     </message>
     <message>
         <source>Not copied:</source>
-        <translation>Es fehlen:</translation>
+        <translation>Nicht kopiert:</translation>
     </message>
     <message>
         <source>Not added to the catalogue:</source>
@@ -533,7 +1112,7 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
     </message>
     <message>
         <source>Skipped:</source>
-        <translation>Ausgelassen:</translation>
+        <translation>Übersprungen:</translation>
     </message>
     <message numerus="yes">
         <source>and %1 more (--json lists them)</source>
@@ -582,8 +1161,8 @@ eines Feiertags oder der Wochenenden eines Monats.</translation>
         <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>%1 Foto an seinem Ort aufgenommen.</numerusform>
-            <numerusform>%1 Fotos an ihrem Ort aufgenommen.</numerusform>
+            <numerusform>%1 Foto ohne Kopieren aufgenommen.</numerusform>
+            <numerusform>%1 Fotos ohne Kopieren aufgenommen.</numerusform>
         </translation>
     </message>
     <message>
@@ -595,22 +1174,22 @@ Nichts wurde geändert.</translation>
     <message numerus="yes">
         <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>%1 Datei (%2) nach %3 kopiert und verglichen.</numerusform>
-            <numerusform>%1 Dateien (%2) nach %3 kopiert, jede verglichen.</numerusform>
+            <numerusform>%1 Datei (%2) nach %3 kopiert und überprüft.</numerusform>
+            <numerusform>%1 Dateien (%2) nach %3 kopiert und überprüft.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>%1 Foto neu im Katalog.</numerusform>
-            <numerusform>%1 Fotos neu im Katalog.</numerusform>
+            <numerusform>%1 Foto in den Katalog aufgenommen.</numerusform>
+            <numerusform>%1 Fotos in den Katalog aufgenommen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>%1 Datei fehlt; derselbe Befehl versucht es erneut.</numerusform>
-            <numerusform>%1 Dateien fehlen; derselbe Befehl versucht es erneut.</numerusform>
+            <numerusform>%1 Datei wurde nicht kopiert; rufen Sie denselben Befehl auf, um es erneut zu versuchen.</numerusform>
+            <numerusform>%1 Dateien wurden nicht kopiert; rufen Sie denselben Befehl auf, um es erneut zu versuchen.</numerusform>
         </translation>
     </message>
     <message>
@@ -621,7 +1200,7 @@ Nichts wurde geändert.</translation>
     <message>
         <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>%1 gibt es nicht; %2 wird verwendet.</translation>
+        <translation>%1 wird nicht unterstützt; %2 wird verwendet.</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -662,35 +1241,35 @@ Nichts wurde geändert.</translation>
     <message numerus="yes">
         <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>%1 Foto hat kein eigenes Datum; die Zeit der Datei wird verwendet.</numerusform>
-            <numerusform>%1 Fotos haben kein eigenes Datum; die Zeiten der Dateien werden verwendet.</numerusform>
+            <numerusform>%1 Foto hat kein Datum; die Zeit seiner Datei wird verwendet.</numerusform>
+            <numerusform>%1 Fotos haben kein Datum; die Zeiten ihrer Dateien werden verwendet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>%1 Datei hat ihren Namen bereits.</numerusform>
-            <numerusform>%1 Dateien haben ihre Namen bereits.</numerusform>
+            <numerusform>%1 Datei hat ihren neuen Namen bereits.</numerusform>
+            <numerusform>%1 Dateien haben ihre neuen Namen bereits.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Nichts würde umbenannt: Der neue Name ist unmöglich für %1 von %2 Foto. Mit
---skip-problems werden die übrigen umbenannt.</numerusform>
-            <numerusform>Nichts würde umbenannt: Der neue Name ist unmöglich für %1 von %2 Fotos. Mit
---skip-problems werden die übrigen umbenannt.</numerusform>
+            <numerusform>Nichts würde umbenannt: Der neue Name ist unmöglich für %1 von %2 Foto.
+Mit --skip-problems werden die übrigen umbenannt.</numerusform>
+            <numerusform>Nichts würde umbenannt: Der neue Name ist unmöglich für %1 von %2 Fotos.
+Mit --skip-problems werden die übrigen umbenannt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Nichts wurde umbenannt: Der neue Name ist unmöglich für %1 von %2 Foto. Mit
---skip-problems werden die übrigen umbenannt.</numerusform>
-            <numerusform>Nichts wurde umbenannt: Der neue Name ist unmöglich für %1 von %2 Fotos. Mit
---skip-problems werden die übrigen umbenannt.</numerusform>
+            <numerusform>Nichts wurde umbenannt: Der neue Name ist unmöglich für %1 von %2 Foto.
+Mit --skip-problems werden die übrigen umbenannt.</numerusform>
+            <numerusform>Nichts wurde umbenannt: Der neue Name ist unmöglich für %1 von %2 Fotos.
+Mit --skip-problems werden die übrigen umbenannt.</numerusform>
         </translation>
     </message>
     <message>
@@ -734,7 +1313,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Problems</source>
-        <translation>Im Wege</translation>
+        <translation>Probleme</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -743,8 +1322,8 @@ Add --skip-problems to rename the others.</source>
     <message numerus="yes">
         <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
-            <numerusform>%1 Bild konnte nicht gelesen werden und ist durch einen Platzhalter ersetzt.</numerusform>
-            <numerusform>%1 Bilder konnten nicht gelesen werden und sind durch Platzhalter ersetzt.</numerusform>
+            <numerusform>%1 Bild konnte nicht gelesen werden; ein Platzhalter steht an seiner Stelle.</numerusform>
+            <numerusform>%1 Bilder konnten nicht gelesen werden; Platzhalter stehen an ihrer Stelle.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -753,10 +1332,6 @@ Add --skip-problems to rename the others.</source>
             <numerusform>%1 Foto erzeugt in %2</numerusform>
             <numerusform>%1 Fotos erzeugt in %2</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>Abgebrochen. Die bisher erzeugten Fotos bleiben; löschen Sie den Ordner vor einem neuen Versuch.</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -849,8 +1424,8 @@ Add --skip-problems to rename the others.</source>
         <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
-            <numerusform>verschwunden, jetzt als verloren markiert</numerusform>
-            <numerusform>verschwunden, jetzt als verloren markiert</numerusform>
+            <numerusform>fehlt, jetzt als verloren markiert</numerusform>
+            <numerusform>fehlen, jetzt als verloren markiert</numerusform>
         </translation>
     </message>
     <message>
@@ -867,11 +1442,11 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
-        <translation>Abgebrochen. Was bisher gelesen wurde, steht im Katalog; derselbe Befehl macht dort weiter.</translation>
+        <translation>Abgebrochen. Was bisher gelesen wurde, steht im Katalog; rufen Sie denselben Befehl auf, um fortzufahren.</translation>
     </message>
     <message>
         <source>Analysing</source>
-        <translation>Sichte</translation>
+        <translation>Analysiere</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -887,7 +1462,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. Run the same command to continue.</source>
-        <translation>Abgebrochen. Derselbe Befehl macht dort weiter.</translation>
+        <translation>Abgebrochen. Rufen Sie denselben Befehl auf, um fortzufahren.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -1025,16 +1600,16 @@ Add --skip-problems to rename the others.</source>
     <message>
         <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
 mean of the photos in the group at that time; later photos move it.</source>
-        <translation>Ein Foto kommt in die erste Gruppe, deren Mitte, dem Mittel ihrer damaligen Fotos, es zu mehr als
-%1 glich; spätere Fotos verschieben die Mitte.</translation>
+        <translation>Ein Foto kommt in die erste Gruppe, deren Mitte ihm zu mehr als %1 gleicht. Die Mitte ist
+das Mittel der Fotos, die zu dieser Zeit in der Gruppe sind; spätere Fotos verschieben sie.</translation>
     </message>
     <message>
         <source>Matching all photos again gives the same groups.</source>
-        <translation>Die Gruppen sind so, wie ein neuer Vergleich aller Fotos sie bildet.</translation>
+        <translation>Ein neuer Vergleich aller Fotos ergibt dieselben Gruppen.</translation>
     </message>
     <message>
         <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
-        <translation>„lumidex similar --anew“ bildet die Gruppen von Grund auf neu.</translation>
+        <translation>„lumidex similar --anew“ bildet alle Gruppen neu.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1062,7 +1637,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>set dates to %1</source>
-        <translation>Datumsangaben auf %1 setzen</translation>
+        <translation>Datumsangaben auf den %1 setzen</translation>
     </message>
     <message>
         <source>rotate left</source>
@@ -1209,26 +1784,18 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>Interrupted. What was done so far stays done.</source>
-        <translation>Abgebrochen. Was bisher getan wurde, bleibt so.</translation>
+        <translation>Abgebrochen. Was bisher getan wurde, bleibt getan.</translation>
     </message>
     <message numerus="yes">
         <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>Nur %1 Schritt der %2 verlangten.</numerusform>
-            <numerusform>Nur %1 Schritte der %2 verlangten.</numerusform>
+            <numerusform>Nur %1 von %2 verlangten Schritten.</numerusform>
+            <numerusform>Nur %1 von %2 verlangten Schritten.</numerusform>
         </translation>
     </message>
     <message>
         <source>The setting %1 is invalid (%2); the default is used.</source>
-        <translation>Die Einstellung %1 ergibt keinen Sinn (%2); die übliche Grenze wird verwendet.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1 Tag und %2</numerusform>
-            <numerusform>%1 Tagen und %2</numerusform>
-        </translation>
+        <translation>Die Einstellung %1 ist ungültig (%2); der Standardwert wird verwendet.</translation>
     </message>
     <message>
         <source>undone</source>
@@ -1236,13 +1803,8 @@ mean of the photos in the group at that time; later photos move it.</source>
         <translation>rückgängig gemacht</translation>
     </message>
     <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>aufgegeben</translation>
-    </message>
-    <message>
         <source>There is nothing to undo.</source>
-        <translation>Es gibt nichts, was sich rückgängig machen ließe.</translation>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
     </message>
     <message>
         <source>WHAT</source>
@@ -1293,7 +1855,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
-        <translation>Ältere Schritte warten darauf; „lumidex undo --skip“ lässt es endgültig, wie es ist.</translation>
+        <translation>Ältere Schritte lassen sich nicht vor diesem rückgängig machen; „lumidex undo --skip“ überspringt ihn endgültig.</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
@@ -1301,11 +1863,11 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>Skipped: %1.</source>
-        <translation>Aufgegeben: %1.</translation>
+        <translation>Übersprungen: %1.</translation>
     </message>
     <message>
         <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
-        <translation>Was davon aufbewahrt ist (%1), bleibt, bis es zu alt oder zu viel wird.</translation>
+        <translation>Seine Originale (%1) werden aufbewahrt, bis sie die Grenzen für „undo“ überschreiten.</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1314,21 +1876,20 @@ mean of the photos in the group at that time; later photos move it.</source>
             <numerusform>%1 ältere Schritte können nicht mehr rückgängig gemacht werden.</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>Schritte lassen sich innerhalb von %1 rückgängig machen.</translation>
+        <translation>
+            <numerusform>Schritte lassen sich %1 Nutzungstag lang rückgängig machen, mit bis zu %2 an Originalen.</numerusform>
+            <numerusform>Schritte lassen sich %1 Nutzungstage lang rückgängig machen, mit bis zu %2 an Originalen.</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>Es gibt nichts zu wiederholen.</translation>
     </message>
     <message>
-        <source>There is nothing to undo.</source>
-        <translation>Es gibt nichts rückgängig zu machen.</translation>
-    </message>
-    <message>
         <source>Copies would share names with files of other shots:</source>
-        <translation>Diese Dateien gehören zu anderen Aufnahmen als die, deren Namen sie dort teilen:</translation>
+        <translation>Kopien würden sich Namen mit Dateien anderer Aufnahmen teilen:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1348,7 +1909,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>FROM</source>
-        <translation>AUS</translation>
+        <translation>QUELLE</translation>
     </message>
     <message>
         <source>CAMERA</source>
@@ -1389,14 +1950,6 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message>
         <source>FILE</source>
         <translation>DATEI</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>%1 von %2 Foto, aufgenommen %3.</numerusform>
-            <numerusform>%1 von %2 Fotos, aufgenommen %3.</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1525,8 +2078,8 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>%1 Foto wurde ausgelassen, denn nur die Zeit seiner Datei datiert es. Um es aufzunehmen, rufen Sie auf: lumidex albums --file-times</numerusform>
-            <numerusform>%1 Fotos wurden ausgelassen, denn nur die Zeiten ihrer Dateien datieren sie. Um sie aufzunehmen, rufen Sie auf: lumidex albums --file-times</numerusform>
+            <numerusform>%1 Foto wurde ausgelassen, weil es kein Datum außer der Zeit seiner Datei hat. Um es einzubeziehen, rufen Sie auf: lumidex albums --file-times</numerusform>
+            <numerusform>%1 Fotos wurden ausgelassen, weil sie kein Datum außer den Zeiten ihrer Dateien haben. Um sie einzubeziehen, rufen Sie auf: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1536,11 +2089,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>If all these photos are edited at once:</source>
-        <translation>Zum Bearbeiten aller dieser Fotos auf einmal:</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Prüfe</translation>
+        <translation>Wenn alle diese Fotos auf einmal bearbeitet werden:</translation>
     </message>
     <message>
         <source>its sidecar</source>
@@ -1565,22 +2114,6 @@ mean of the photos in the group at that time; later photos move it.</source>
         <translation>
             <numerusform>%1 Foto bearbeitet; das lässt sich nicht rückgängig machen.</numerusform>
             <numerusform>%1 Fotos bearbeitet; das lässt sich nicht rückgängig machen.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 von %2 Foto, aufgenommen am %3 oder später.</numerusform>
-            <numerusform>%1 von %2 Fotos, aufgenommen am %3 oder später.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 von %2 Foto, aufgenommen am %3 oder früher.</numerusform>
-            <numerusform>%1 von %2 Fotos, aufgenommen am %3 oder früher.</numerusform>
         </translation>
     </message>
     <message>
@@ -1609,8 +2142,8 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>%1 Datei wird nicht kopiert: Sie liegt nicht auf einem Wechseldatenträger und bleibt, wo sie ist. „--to ORDNER“ kopiert sie.</numerusform>
-            <numerusform>%1 Dateien werden nicht kopiert: Sie liegen nicht auf einem Wechseldatenträger und bleiben, wo sie sind. „--to ORDNER“ kopiert sie.</numerusform>
+            <numerusform>%1 Datei wird nicht kopiert, weil sie nicht auf einem Wechseldatenträger liegt; „--to ORDNER“ kopiert sie.</numerusform>
+            <numerusform>%1 Dateien werden nicht kopiert, weil sie nicht auf einem Wechseldatenträger liegen; „--to ORDNER“ kopiert sie.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1623,8 +2156,8 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>%1 Verwaltungsdatei von Kameras und Systemen bleibt zurück.</numerusform>
-            <numerusform>%1 Verwaltungsdateien von Kameras und Systemen bleiben zurück.</numerusform>
+            <numerusform>%1 Verwaltungsdatei von Kameras und Systemen wird nicht kopiert.</numerusform>
+            <numerusform>%1 Verwaltungsdateien von Kameras und Systemen werden nicht kopiert.</numerusform>
         </translation>
     </message>
     <message>
@@ -1638,8 +2171,8 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>%1 Schritt kann nicht mehr rückgängig gemacht werden: Seitdem sind mehr als %2 Nutzungstage vergangen.</numerusform>
-            <numerusform>%1 Schritte können nicht mehr rückgängig gemacht werden: Seitdem sind mehr als %2 Nutzungstage vergangen.</numerusform>
+            <numerusform>%1 Schritt lässt sich nicht mehr rückgängig machen, weil mehr als %2 Nutzungstage vergangen sind.</numerusform>
+            <numerusform>%1 Schritte lassen sich nicht mehr rückgängig machen, weil mehr als %2 Nutzungstage vergangen sind.</numerusform>
         </translation>
     </message>
     <message>
@@ -1671,8 +2204,8 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message>
         <source>These may be photos that were moved, but several files or photos come into question.
 The photos keep their tags and albums, the files are new:</source>
-        <translation>Vielleicht verschoben, aber das lässt sich nicht entscheiden. Die Fotos behalten
-Schlagwörter und Alben, die Dateien sind neu:</translation>
+        <translation>Das könnten verschobene Fotos sein, aber mehrere Dateien oder Fotos kommen in Frage.
+Die Fotos behalten Schlagwörter und Alben, die Dateien sind neu:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1732,7 +2265,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
     <message>
         <source>undamaged</source>
         <comment>photo</comment>
-        <translation>unversehrtes</translation>
+        <translation>unbeschädigt</translation>
     </message>
     <message>
         <source>the camera&apos;s own file</source>
@@ -1740,7 +2273,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
     </message>
     <message>
         <source>has maker notes</source>
-        <translation>mit Herstellernotiz</translation>
+        <translation>mit Herstellernotizen</translation>
     </message>
     <message>
         <source>not written by another program</source>
@@ -1763,13 +2296,6 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         <translation>
             <numerusform>%1 Foto ist weiterhin nicht vergleichbar; „lumidex similar --not-compared“ führt es auf.</numerusform>
             <numerusform>%1 Fotos sind weiterhin nicht vergleichbar; „lumidex similar --not-compared“ führt sie auf.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>%1 davon (%2) ist dasselbe Bild wie das, das zu behalten ist; „lumidex similar --trash“ verschiebt es in den Papierkorb.</numerusform>
-            <numerusform>%1 davon (%2) sind dasselbe Bild wie das, das zu behalten ist; „lumidex similar --trash“ verschiebt sie in den Papierkorb.</numerusform>
         </translation>
     </message>
     <message>
@@ -1818,11 +2344,11 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
     </message>
     <message>
         <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
-        <translation>Zum Rückgängigmachen müssen Originale von %1 aufbewahrt werden, und die Grenze ist %2.</translation>
+        <translation>Zum Rückgängigmachen müssen Originale von %1 aufbewahrt werden, aber die Grenze ist %2.</translation>
     </message>
     <message>
         <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
-        <translation>„lumidex undo --keep-size %1“ hebt die Grenze an; mit --no-undo wird nichts aufbewahrt, und es lässt sich nicht rückgängig machen.</translation>
+        <translation>„lumidex undo --keep-size %1“ hebt die Grenze an; mit --no-undo wird nichts aufbewahrt, und die Bearbeitung lässt sich nicht rückgängig machen.</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1852,11 +2378,11 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
     </message>
     <message>
         <source>No originals would be kept, so the edit could not be undone.</source>
-        <translation>Nichts würde aufbewahrt: Es ließe sich nicht rückgängig machen.</translation>
+        <translation>Es würden keine Originale aufbewahrt, daher ließe sich die Bearbeitung nicht rückgängig machen.</translation>
     </message>
     <message>
         <source>The edit would be refused.</source>
-        <translation>Es würde abgelehnt.</translation>
+        <translation>Die Bearbeitung würde abgelehnt.</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1881,10 +2407,6 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
         <comment>a photo is; a file</comment>
         <translation>ähnlich wie %1</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>Nicht dasselbe Bild wie das, das zu behalten ist, nur ähnlich:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1902,12 +2424,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
     </message>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
-        <translation>Ohne das fortfahren, was zum Wiederholen nötig ist? [j/N]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>läuft noch</translation>
+        <translation>Rückgängig machen, ohne aufzubewahren, was „redo“ braucht? [j/N]</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -1918,7 +2435,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
     </message>
     <message>
         <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
-        <translation>Für das, was zum Wiederholen aufzubewahren ist, fehlt der Platz; „lumidex undo --no-redo“ kommt ohne aus.</translation>
+        <translation>Es fehlt der Platz, um aufzubewahren, was „redo“ braucht; „lumidex undo --no-redo“ kommt ohne aus.</translation>
     </message>
     <message numerus="yes">
         <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
@@ -1942,17 +2459,17 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
     <message numerus="yes">
         <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>Ein Import lässt %1 weitere Datei zurück (--json führt sie auf).</numerusform>
-            <numerusform>Ein Import lässt %1 weitere Dateien zurück (--json führt sie auf).</numerusform>
+            <numerusform>Ein Import überspringt %1 weitere Datei (--json führt sie auf).</numerusform>
+            <numerusform>Ein Import überspringt %1 weitere Dateien (--json führt sie auf).</numerusform>
         </translation>
     </message>
     <message>
         <source>Every file in %1 has a verified copy elsewhere.</source>
-        <translation>In %1 bleibt nichts zurück: Jede Datei hat anderswo eine verglichene Kopie.</translation>
+        <translation>Jede Datei in %1 hat anderswo eine überprüfte Kopie.</translation>
     </message>
     <message>
         <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
-        <translation>In %1 bleiben nur Verwaltungsdateien zurück: Jede andere Datei hat anderswo eine verglichene Kopie.</translation>
+        <translation>Jede Datei in %1 außer den Verwaltungsdateien hat anderswo eine überprüfte Kopie.</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
@@ -1960,8 +2477,7 @@ Schlagwörter und Alben, die Dateien sind neu:</translation>
     </message>
     <message>
         <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Was diesen Ordner betrifft, kann gefahrlos formatiert werden; was daneben liegt,
-wurde nicht angesehen.</translation>
+        <translation>Beim Formatieren geht nichts aus diesem Ordner verloren; was außerhalb liegt, wurde nicht geprüft.</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -1969,7 +2485,7 @@ wurde nicht angesehen.</translation>
     </message>
     <message>
         <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
-        <translation>Auf dem Laufwerk von %1 sind noch %2 frei, und um alle Fotos zu bearbeiten, werden %3 gebraucht: Die letzten würden unverändert gelassen.</translation>
+        <translation>Auf dem Laufwerk von %1 sind %2 frei, aber um alle Fotos zu bearbeiten, werden %3 gebraucht: Die letzten würden nicht bearbeitet.</translation>
     </message>
     <message numerus="yes">
         <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
@@ -1977,6 +2493,110 @@ wurde nicht angesehen.</translation>
             <numerusform>Bei %1 davon ist die Quelle verschwunden oder wurde geändert: Leeren Sie den Papierkorb nicht, bevor Sie eine andere Kopie haben.</numerusform>
             <numerusform>Bei %1 davon sind die Quellen verschwunden oder wurden geändert: Leeren Sie den Papierkorb nicht, bevor Sie andere Kopien haben.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>Abgebrochen. Die bis dahin bearbeiteten Fotos bleiben bearbeitet.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>Abgebrochen. Die bisher erzeugten Fotos bleiben; löschen Sie den Ordner vor einem neuen Versuch.</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1 GiB</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1 TiB</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1 PiB</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1 EiB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 von %2 Foto, aufgenommen am %3.</numerusform>
+            <numerusform>%1 von %2 Fotos, aufgenommen am %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 von %2 Foto, aufgenommen vom %3 bis %4.</numerusform>
+            <numerusform>%1 von %2 Fotos, aufgenommen vom %3 bis %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 von %2 Foto, aufgenommen am %3 oder später.</numerusform>
+            <numerusform>%1 von %2 Fotos, aufgenommen am %3 oder später.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 von %2 Foto, aufgenommen am %3 oder früher.</numerusform>
+            <numerusform>%1 von %2 Fotos, aufgenommen am %3 oder früher.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>%1 davon (%2) ist dasselbe Bild wie das Foto, das zu behalten ist; „lumidex similar --trash“ verschiebt es in den Papierkorb.</numerusform>
+            <numerusform>%1 davon (%2) sind dasselbe Bild wie das Foto, das zu behalten ist; „lumidex similar --trash“ verschiebt sie in den Papierkorb.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>Nicht dasselbe Bild wie das Foto, das zu behalten ist, nur ähnlich:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>nicht rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>läuft noch</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>ZEITPUNKT</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>Cannot edit %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>Cannot rename %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>Cannot rename %1 to %2: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Cannot read %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Cannot write %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>cannot write %1: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>its folder cannot be written to; change the permissions of %1</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>its folder lets only its owner change it; change the owner, or the permissions of %1</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>it is write-protected; allow writing to it, or use --force</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>its sidecar %1 is write-protected; allow writing to it, or use --force</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>its sidecar must be edited with it. %1; repair or move the sidecar</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>its sidecar %1 must be edited with it, but %2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>it has no date to shift</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>its year would not be 1 to 9999</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>its metadata cannot be changed without losing data (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>its metadata would be wrong afterwards</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>its EXIF data, which are kept as text, are damaged</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>its EXIF data are damaged</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>its XMP data are damaged</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>its TIFF directory is damaged</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>its picture format is not known</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>its format cannot be edited</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>photos of the format %1 cannot be edited</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>its picture would change</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>it is empty</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>it is damaged: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>it is larger than 2 GiB</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>it is larger than 16 MiB</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>it was changed while it was read</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>editing it takes more memory than there is</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>its JPEG data is damaged</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>its JPEG data ends before the picture</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>its JPEG data breaks off before the picture</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>there is no room left in its EXIF block</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>its PNG data breaks off</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>its PNG data does not begin with a picture</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>it has two EXIF blocks</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>its WebP data breaks off</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>its WebP data holds no picture</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>its %1 cannot be changed in place</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>its date cannot be changed in its %1 data</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>its %1 cannot be changed in its %2 data</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>it breaks off before its end</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>its text is damaged</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>it has too many properties</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 is unchanged: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 cannot be read back as what was written</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 is left as it is, because it belongs to %2</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 is left as it is: another program changed %2, where its other version was kept</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 is left as it is: its other version is no longer kept</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 was changed later and is left as it is</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 no longer exists</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>%1 cannot be reached: its disk may not be connected</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>The undo journal %1 cannot be used: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>another program is renaming or editing photos with it; try again when that has finished</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>no step is started without %1 MiB free for finishing and undoing it (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>there is no room for undoing it (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>Cannot change the target of the link %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>Cannot move %1 to the trash: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>no free name in the trash</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>another file has that name</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>another file has its former name</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>it is on another volume</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>it is no longer a file</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 was kept, because its photo was kept</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 was kept, because the photo kept in its place, %2, no longer exists</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1 may be in the trash as %2, which cannot be read: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 is no longer in the trash; another file has its name</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 is no longer in the trash and cannot be brought back</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 remains in the trash as %2: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>The album &quot;%1&quot; is kept, because photos were added to it later</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>The album &quot;%1&quot; no longer exists</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>Another album has the name &quot;%1&quot; now</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 is kept: %2.</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>it is already in a trash</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>it is a link to another file</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>it no longer exists</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>it was changed after it was analysed</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>it was changed after it was compared</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>it is another name of a file that is kept</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>it is of the same shot as %1, which is kept</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>it is like others of its group, but not like the photo to keep, %1</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>it has tags or albums that the photo to keep, %1, does not have</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>it is a raw file, and no raw file of its group is kept</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>its settings, %1, would be lost: the photo to keep, %2, does not have them</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>the link %1 leads to it</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>%1, to which it belongs, is kept</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>the settings in %1 were changed</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>the photo to keep, %1, no longer exists</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>the photo to keep, %1, was changed after it was analysed</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>the photo to keep, %1, is no longer a file</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>the photo to keep, %1, cannot be read (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>the photo to keep, %1, is in a trash</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>the photo to keep, %1, is a link to another file</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>the photo to keep, %1, breaks off before the end of its picture</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>the photo to keep, %1, is damaged: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>Interrupted undo of &quot;%1&quot; is now complete.</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>Interrupted redo of &quot;%1&quot; is now complete.</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Interrupted undo of &quot;%1&quot; is now complete, except for:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Interrupted redo of &quot;%1&quot; is now complete, except for:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>Interrupted step &quot;%1&quot; is now complete.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>Originals that this catalogue does not know were moved to %1.</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 and its sidecar disagree, because only one of them was edited (%2).</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>It cannot be read</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>It is a pipe or a device</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>It is not a regular file</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>It is empty</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>It is damaged: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>Its picture format is not known</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Its name is not valid text</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>It is named like a housekeeping file, but may be a picture or a video</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>The link leads to a file that is missing</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>The link leads to a file that cannot be read</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>The link leads back to itself</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>The link leads to a folder that cannot be read</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>The link leads back to a folder above it</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>The link leads to a folder that was already visited</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 is hidden</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>%1 is not named like a photo</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 is a link to a file that is missing</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>it was changed while it was copied</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>the copy differs from the original</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>the copy cannot be written: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>the copy cannot be read back: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>the copy cannot be recorded</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>another file got the name %1 meanwhile</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>it is identical to %1, which could not be copied</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>the import was interrupted</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>It may be any of %1 photos that are missing</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>It is missing, and %1 files may be it</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>It was changed or replaced, and a file has its former content</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -429,10 +1012,6 @@ holiday, or of the weekends of one month.</translation>
         <translation>Editing</translation>
     </message>
     <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>Interrupted. The photos edited so far stay so.</translation>
-    </message>
-    <message>
         <source>upright</source>
         <translation>upright</translation>
     </message>
@@ -753,10 +1332,6 @@ Add --skip-problems to rename the others.</numerusform>
             <numerusform>Made %1 photo in %2</numerusform>
             <numerusform>Made %1 photos in %2</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>Interrupted. The photos made so far stay; delete the folder before another try.</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -1222,23 +1797,10 @@ mean of the photos in the group at that time; later photos move it.</translation
         <source>The setting %1 is invalid (%2); the default is used.</source>
         <translation>The setting %1 is invalid (%2); the default is used.</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1 day and %2</numerusform>
-            <numerusform>%1 days and %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>undone</source>
         <comment>a step</comment>
         <translation>undone</translation>
-    </message>
-    <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>given up</translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
@@ -1314,17 +1876,16 @@ mean of the photos in the group at that time; later photos move it.</translation
             <numerusform>%1 older steps cannot be undone any more.</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>Steps can be undone for %1 days of use, with up to %2 of originals.</translation>
+        <translation>
+            <numerusform>Steps can be undone for %1 day of use, with up to %2 of originals.</numerusform>
+            <numerusform>Steps can be undone for %1 days of use, with up to %2 of originals.</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>There is nothing to redo.</translation>
-    </message>
-    <message>
-        <source>There is nothing to undo.</source>
-        <translation>There is nothing to undo.</translation>
     </message>
     <message>
         <source>Copies would share names with files of other shots:</source>
@@ -1389,14 +1950,6 @@ mean of the photos in the group at that time; later photos move it.</translation
     <message>
         <source>FILE</source>
         <translation>FILE</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>%1 of %2 photo, taken %3.</numerusform>
-            <numerusform>%1 of %2 photos, taken %3.</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1539,10 +2092,6 @@ mean of the photos in the group at that time; later photos move it.</translation
         <translation>If all these photos are edited at once:</translation>
     </message>
     <message>
-        <source>Checking</source>
-        <translation>Checking</translation>
-    </message>
-    <message>
         <source>its sidecar</source>
         <translation>its sidecar</translation>
     </message>
@@ -1565,22 +2114,6 @@ mean of the photos in the group at that time; later photos move it.</translation
         <translation>
             <numerusform>%1 photo edited; it cannot be undone.</numerusform>
             <numerusform>%1 photos edited; it cannot be undone.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 of %2 photo, taken %3 or later.</numerusform>
-            <numerusform>%1 of %2 photos, taken %3 or later.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 of %2 photo, taken %3 or earlier.</numerusform>
-            <numerusform>%1 of %2 photos, taken %3 or earlier.</numerusform>
         </translation>
     </message>
     <message>
@@ -1765,13 +2298,6 @@ The photos keep their tags and albums, the files are new:</translation>
             <numerusform>%1 photos cannot be compared, as before; &quot;lumidex similar --not-compared&quot; lists them.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>%1 of them (%2) is the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves that to the trash.</numerusform>
-            <numerusform>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>They are the same picture.</source>
         <translation>They are the same picture.</translation>
@@ -1881,10 +2407,6 @@ The photos keep their tags and albums, the files are new:</translation>
         <comment>a photo is; a file</comment>
         <translation>alike to %1</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>Not the same picture as the one to keep, only alike:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1903,11 +2425,6 @@ The photos keep their tags and albums, the files are new:</translation>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
         <translation>Undo without keeping what redo needs? [y/N]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>goes on</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -1976,6 +2493,110 @@ The photos keep their tags and albums, the files are new:</translation>
             <numerusform>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</numerusform>
             <numerusform>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>Interrupted. The photos edited so far stay edited.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>Interrupted. The photos made so far stay; delete the folder before you try again.</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1 GiB</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1 TiB</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1 PiB</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1 EiB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 of %2 photo, taken on %3.</numerusform>
+            <numerusform>%1 of %2 photos, taken on %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 of %2 photo, taken from %3 to %4.</numerusform>
+            <numerusform>%1 of %2 photos, taken from %3 to %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 of %2 photo, taken on %3 or later.</numerusform>
+            <numerusform>%1 of %2 photos, taken on %3 or later.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 of %2 photo, taken on %3 or earlier.</numerusform>
+            <numerusform>%1 of %2 photos, taken on %3 or earlier.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>%1 of them (%2) is the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves it to the trash.</numerusform>
+            <numerusform>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>Not the same picture as the photo to keep, only alike:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>cannot be undone</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>running</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>WHEN</translation>
     </message>
 </context>
 <context>

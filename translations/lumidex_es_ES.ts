@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>No se puede editar %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>No se puede renombrar %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>No se puede renombrar %1 como %2: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>no se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>no se puede escribir en su carpeta; cambie los permisos de %1</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>su carpeta solo permite cambios a su propietario; cambie el propietario o los permisos de %1</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>en su disco no hay sitio para una versión nueva (se necesitan %1 bytes y quedan %2); libere espacio allí</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>está protegido contra escritura; permita la escritura o use --force</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>su archivo auxiliar %1 está protegido contra escritura; permita la escritura o use --force</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>su archivo auxiliar debe editarse con la foto. %1; repare o mueva el archivo auxiliar</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>su archivo auxiliar %1 debe editarse con la foto, pero %2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>no tiene ninguna fecha que desplazar</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>su año no estaría entre 1 y 9999</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>sus metadatos no se pueden cambiar sin perder datos (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>sus metadatos serían incorrectos después</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>sus datos EXIF, guardados como texto, están dañados</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>sus datos EXIF están dañados</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>sus datos XMP están dañados</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>su directorio TIFF está dañado</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>su formato de imagen es desconocido</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>su formato no se puede editar</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>las fotos de formato %1 no se pueden editar</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>su imagen cambiaría</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>está dañado: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>es mayor de 2 GiB</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>es mayor de 16 MiB</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>cambió mientras se leía</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>editarlo requiere más memoria de la que hay</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>sus datos JPEG están dañados</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>sus datos JPEG terminan antes de la imagen</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>sus datos JPEG se cortan antes de la imagen</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>no queda sitio en su bloque EXIF</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>sus datos PNG se cortan</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>sus datos PNG no empiezan con una imagen</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>tiene dos bloques EXIF</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>sus datos WebP se cortan</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>sus datos WebP no contienen ninguna imagen</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>su %1 no se puede cambiar en su sitio</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>su fecha no se puede cambiar en sus datos %1</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>su %1 no se puede cambiar en sus datos %2</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>se corta antes del final</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>su texto está dañado</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>tiene demasiadas propiedades</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 no ha cambiado: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 se editó, pero no se pudo actualizar el catálogo (%2). La próxima ejecución de lumidex lo actualiza</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 no se puede volver a leer tal como se escribió</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 se deja como está, porque pertenece a %2</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 falta por ahora, pero sus versiones están guardadas (%2). Libere espacio en su disco y ejecute «lumidex undo» otra vez</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 se deja como está: otro programa cambió %2, donde se guardaba su otra versión</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 se deja como está: en su disco no hay sitio para su otra versión (%2 bytes). Libere espacio allí e inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 se deja como está: su otra versión ya no está guardada</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 cambió después y se deja como está</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 ya no existe</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>no se puede acceder a %1: quizá su disco no esté conectado</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>no se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>El registro de deshacer %1 no se puede usar: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>otro programa está renombrando o editando fotos con él; inténtelo de nuevo cuando haya terminado</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>no se empieza ningún paso sin %1 MiB libres para terminarlo y deshacerlo (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>no hay sitio para deshacerlo (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>No se puede cambiar el destino del enlace %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>No se puede mover %1 a la papelera: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>no hay ningún nombre libre en la papelera</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>otro archivo tiene ese nombre</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>otro archivo tiene su nombre anterior</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>está en otro volumen</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>ya no es un archivo</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 se conservó, porque se conservó su foto</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 se conservó, porque la foto conservada en su lugar, %2, ya no existe</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 está en la papelera como %2, a la que no se puede acceder: quizá su disco no esté conectado</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1 quizá esté en la papelera como %2, que no se puede leer: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 ya no está en la papelera; otro archivo tiene su nombre</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 ya no está en la papelera y no se puede recuperar</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 sigue en la papelera como %2: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>El álbum «%1» se conserva, porque después se le añadieron fotos</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>El álbum «%1» ya no existe</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>Otro álbum se llama ahora «%1»</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 se conserva: %2.</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>ya está en una papelera</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>es un enlace a otro archivo</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>ya no existe</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>cambió después de analizarse</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>cambió después de compararse</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>es otro nombre de un archivo que se conserva</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>es de la misma toma que %1, que se conserva</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>se parece a otras de su grupo, pero no a la foto que conviene conservar, %1</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>tiene etiquetas o álbumes que la foto que conviene conservar, %1, no tiene</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>es un archivo RAW, y no se conserva ningún archivo RAW de su grupo</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>se perderían sus ajustes, %1: la foto que conviene conservar, %2, no los tiene</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>el enlace %1 lleva a ella</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>%1, a la que pertenece, se conserva</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>los ajustes de %1 han cambiado</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>la foto que conviene conservar, %1, ya no existe</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>la foto que conviene conservar, %1, cambió después de analizarse</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>la foto que conviene conservar, %1, ya no es un archivo</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>la foto que conviene conservar, %1, no se puede leer (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>la foto que conviene conservar, %1, está en una papelera</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>la foto que conviene conservar, %1, es un enlace a otro archivo</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>la foto que conviene conservar, %1, se corta antes del final de su imagen</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>la foto que conviene conservar, %1, está dañada: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>Se ha completado ahora el deshacer interrumpido de «%1».</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>Se ha completado ahora el rehacer interrumpido de «%1».</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Se ha completado ahora el deshacer interrumpido de «%1», salvo:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Se ha completado ahora el rehacer interrumpido de «%1», salvo:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>Se ha completado ahora el paso interrumpido «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>«%1» se interrumpió y se terminará en cuanto se pueda acceder a %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>«%1» se interrumpió y no se puede terminar (%2); los archivos tienen sus nombres anteriores.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>«%1» se interrumpió y no se puede terminar (%2) ni deshacer (%3).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>«%1» se interrumpió. Fotos editadas: %2; las demás no han cambiado.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>«%1» se interrumpió. Copias hechas: %2; repita la misma importación para copiar el resto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>«%1» se interrumpió. Archivos movidos: %2; los demás están donde estaban.</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>Los originales que este catálogo no conoce se movieron a %1.</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 y su archivo auxiliar no concuerdan, porque solo se editó uno de los dos (%2).</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>No se puede leer</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>Es una tubería o un dispositivo</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>No es un archivo normal</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Está vacío</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>Está dañado: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>Su formato de imagen es desconocido</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Su nombre no es un texto válido</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>Se llama como un archivo de gestión, pero puede ser una imagen o un vídeo</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>El enlace lleva a un archivo que falta</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>El enlace lleva a un archivo que no se puede leer</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>El enlace lleva de vuelta a sí mismo</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>El enlace lleva a una carpeta que no se puede leer</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>El enlace lleva de vuelta a una carpeta superior</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>El enlace lleva a una carpeta que ya se recorrió</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 está oculto</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>%1 no tiene nombre de foto</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 es un enlace a un archivo que falta</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>cambió mientras se copiaba</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>la copia difiere del original</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>no se puede escribir la copia: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>no se puede volver a leer la copia: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>no se puede registrar la copia</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>otro archivo obtuvo entretanto el nombre %1</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>es idéntico a %1, que no se pudo copiar</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>se interrumpió la importación</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>Puede ser cualquiera de %1 fotos que faltan</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>Falta, y %1 archivos pueden serlo</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>Cambió o fue sustituida, y un archivo tiene su contenido anterior</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -167,8 +750,8 @@
     <message numerus="yes">
         <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>La %1 foto del catálogo ya no estaba en la última exploración. ¿Falta algún disco?</numerusform>
-            <numerusform>Las %1 fotos del catálogo ya no estaban en la última exploración. ¿Falta algún disco?</numerusform>
+            <numerusform>La %1 foto del catálogo faltaba en la última exploración. ¿Hay algún disco sin conectar?</numerusform>
+            <numerusform>Las %1 fotos del catálogo faltaban en la última exploración. ¿Hay algún disco sin conectar?</numerusform>
         </translation>
     </message>
     <message>
@@ -241,7 +824,7 @@
     </message>
     <message>
         <source>%1 was accepted before, and there are no photos to add.</source>
-        <translation>No hay nada que cambiar en %1, aceptado anteriormente.</translation>
+        <translation>%1 ya estaba aceptado y no hay fotos que añadir.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -364,11 +947,11 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
     </message>
     <message>
         <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>El calendario de días festivos no se pudo leer hasta el final, por lo que faltan días festivos. Pruebe: lumidex calendar check o lumidex calendar update.</translation>
+        <translation>El calendario de días festivos no se pudo leer por completo, por lo que faltan días festivos. Ejecute: lumidex calendar check o lumidex calendar update.</translation>
     </message>
     <message>
         <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>El calendario de días festivos %1 no se pudo leer hasta el final, por lo que faltan días festivos. Pruebe: lumidex calendar check o lumidex calendar update.</translation>
+        <translation>El calendario de días festivos %1 no se pudo leer por completo, por lo que faltan días festivos. Ejecute: lumidex calendar check o lumidex calendar update.</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -405,7 +988,7 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
     </message>
     <message>
         <source>no problems found.</source>
-        <translation>no hay ningún obstáculo.</translation>
+        <translation>no se encontraron problemas.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -427,10 +1010,6 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
     <message>
         <source>Editing</source>
         <translation>Editando</translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>Interrumpido. Las fotos editadas hasta ahora quedan así.</translation>
     </message>
     <message>
         <source>upright</source>
@@ -509,7 +1088,7 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
     </message>
     <message>
         <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
-        <translation>Interrumpido. Lo copiado está completo y comparado; la misma orden copia el resto.</translation>
+        <translation>Interrumpido. Las copias hechas hasta ahora están completas y verificadas; ejecute la misma orden para copiar el resto.</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
@@ -517,15 +1096,15 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
     </message>
     <message>
         <source>Would be added to the catalogue without copying:</source>
-        <translation>Se incorporarían en su lugar actual:</translation>
+        <translation>Se incorporarían al catálogo sin copiarlas:</translation>
     </message>
     <message>
         <source>Copies of one shot would get different names:</source>
-        <translation>Los archivos de cada una de estas tomas van juntos, pero los nombres libres para ellos no:</translation>
+        <translation>Las copias de una misma toma tendrían nombres distintos:</translation>
     </message>
     <message>
         <source>Not copied:</source>
-        <translation>Faltan:</translation>
+        <translation>No copiados:</translation>
     </message>
     <message>
         <source>Not added to the catalogue:</source>
@@ -582,8 +1161,8 @@ de un mismo día festivo o de los fines de semana de un mes.</translation>
         <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>%1 foto se incorporaría en su lugar actual.</numerusform>
-            <numerusform>%1 fotos se incorporarían en su lugar actual.</numerusform>
+            <numerusform>%1 foto se incorporaría sin copiarla.</numerusform>
+            <numerusform>%1 fotos se incorporarían sin copiarlas.</numerusform>
         </translation>
     </message>
     <message>
@@ -595,22 +1174,22 @@ no se cambió nada.</translation>
     <message numerus="yes">
         <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>%1 archivo (%2) copiado en %3 y comparado.</numerusform>
-            <numerusform>%1 archivos (%2) copiados en %3, todos comparados.</numerusform>
+            <numerusform>%1 archivo (%2) copiado en %3 y verificado.</numerusform>
+            <numerusform>%1 archivos (%2) copiados en %3 y verificados.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>%1 foto nueva en el catálogo.</numerusform>
-            <numerusform>%1 fotos nuevas en el catálogo.</numerusform>
+            <numerusform>%1 foto incorporada al catálogo.</numerusform>
+            <numerusform>%1 fotos incorporadas al catálogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>Falta %1 archivo; la misma orden lo intenta de nuevo.</numerusform>
-            <numerusform>Faltan %1 archivos; la misma orden lo intenta de nuevo.</numerusform>
+            <numerusform>%1 archivo no se copió; ejecute la misma orden para volver a intentarlo.</numerusform>
+            <numerusform>%1 archivos no se copiaron; ejecute la misma orden para volver a intentarlo.</numerusform>
         </translation>
     </message>
     <message>
@@ -621,7 +1200,7 @@ no se cambió nada.</translation>
     <message>
         <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>No existe %1; se usa %2.</translation>
+        <translation>%1 no está disponible; se usa %2.</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -662,35 +1241,35 @@ no se cambió nada.</translation>
     <message numerus="yes">
         <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>%1 foto no tiene fecha propia; se usa la hora del archivo.</numerusform>
-            <numerusform>%1 fotos no tienen fecha propia; se usan las horas de los archivos.</numerusform>
+            <numerusform>%1 foto no tiene fecha; se usa la hora de su archivo.</numerusform>
+            <numerusform>%1 fotos no tienen fecha; se usan las horas de sus archivos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>%1 archivo ya tiene su nombre.</numerusform>
-            <numerusform>%1 archivos ya tienen su nombre.</numerusform>
+            <numerusform>%1 archivo ya tiene su nombre nuevo.</numerusform>
+            <numerusform>%1 archivos ya tienen sus nombres nuevos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>No se renombraría nada: el nombre nuevo es imposible para %1 de %2 foto. Con
---skip-problems se renombran las demás.</numerusform>
-            <numerusform>No se renombraría nada: el nombre nuevo es imposible para %1 de %2 fotos. Con
---skip-problems se renombran las demás.</numerusform>
+            <numerusform>No se renombraría nada: el nombre nuevo es imposible para %1 de %2 foto.
+Con --skip-problems se renombran las demás.</numerusform>
+            <numerusform>No se renombraría nada: el nombre nuevo es imposible para %1 de %2 fotos.
+Con --skip-problems se renombran las demás.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>No se renombró nada: el nombre nuevo es imposible para %1 de %2 foto. Con
---skip-problems se renombran las demás.</numerusform>
-            <numerusform>No se renombró nada: el nombre nuevo es imposible para %1 de %2 fotos. Con
---skip-problems se renombran las demás.</numerusform>
+            <numerusform>No se renombró nada: el nombre nuevo es imposible para %1 de %2 foto.
+Con --skip-problems se renombran las demás.</numerusform>
+            <numerusform>No se renombró nada: el nombre nuevo es imposible para %1 de %2 fotos.
+Con --skip-problems se renombran las demás.</numerusform>
         </translation>
     </message>
     <message>
@@ -734,7 +1313,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Problems</source>
-        <translation>Lo impide</translation>
+        <translation>Problemas</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -743,8 +1322,8 @@ Add --skip-problems to rename the others.</source>
     <message numerus="yes">
         <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
-            <numerusform>%1 imagen no se pudo leer y se sustituyó por un marcador.</numerusform>
-            <numerusform>%1 imágenes no se pudieron leer y se sustituyeron por un marcador.</numerusform>
+            <numerusform>%1 imagen no se pudo leer; en su lugar hay un marcador.</numerusform>
+            <numerusform>%1 imágenes no se pudieron leer; en su lugar hay marcadores.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -753,10 +1332,6 @@ Add --skip-problems to rename the others.</source>
             <numerusform>Creada %1 foto en %2</numerusform>
             <numerusform>Creadas %1 fotos en %2</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>Interrumpido. Las fotos creadas hasta ahora se conservan; borre la carpeta antes de volver a intentarlo.</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -849,8 +1424,8 @@ Add --skip-problems to rename the others.</source>
         <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
-            <numerusform>desaparecido, marcado ahora como perdido</numerusform>
-            <numerusform>desaparecidos, marcados ahora como perdidos</numerusform>
+            <numerusform>falta, marcado ahora como perdido</numerusform>
+            <numerusform>faltan, marcados ahora como perdidos</numerusform>
         </translation>
     </message>
     <message>
@@ -867,11 +1442,11 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
-        <translation>Interrumpido. Lo leído hasta ahora está en el catálogo; la misma orden continúa desde ahí.</translation>
+        <translation>Interrumpido. Lo leído hasta ahora está en el catálogo; ejecute la misma orden para continuar.</translation>
     </message>
     <message>
         <source>Analysing</source>
-        <translation>Examinando</translation>
+        <translation>Analizando</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -887,7 +1462,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. Run the same command to continue.</source>
-        <translation>Interrumpido. La misma orden continúa desde ahí.</translation>
+        <translation>Interrumpido. Ejecute la misma orden para continuar.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -1025,16 +1600,16 @@ Add --skip-problems to rename the others.</source>
     <message>
         <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
 mean of the photos in the group at that time; later photos move it.</source>
-        <translation>Una foto se une al primer grupo con cuyo centro, la media de sus fotos en ese momento, su
-similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
+        <translation>Una foto se une al primer grupo con cuyo centro su similitud supera %1. El centro es la media
+de las fotos que hay en el grupo en ese momento; las fotos posteriores lo desplazan.</translation>
     </message>
     <message>
         <source>Matching all photos again gives the same groups.</source>
-        <translation>Los grupos son los que resultan de volver a comparar todas las fotos.</translation>
+        <translation>Al comparar de nuevo todas las fotos resultan los mismos grupos.</translation>
     </message>
     <message>
         <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
-        <translation>«lumidex similar --anew» forma los grupos desde cero.</translation>
+        <translation>«lumidex similar --anew» vuelve a formar todos los grupos.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1062,7 +1637,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     </message>
     <message>
         <source>set dates to %1</source>
-        <translation>poner fechas en %1</translation>
+        <translation>poner las fechas en el %1</translation>
     </message>
     <message>
         <source>rotate left</source>
@@ -1209,26 +1784,18 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     </message>
     <message>
         <source>Interrupted. What was done so far stays done.</source>
-        <translation>Interrumpido. Lo hecho hasta ahora queda así.</translation>
+        <translation>Interrumpido. Lo hecho hasta ahora queda hecho.</translation>
     </message>
     <message numerus="yes">
         <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>Solo %1 paso de los %2 pedidos.</numerusform>
-            <numerusform>Solo %1 pasos de los %2 pedidos.</numerusform>
+            <numerusform>Solo %1 de los %2 pasos pedidos.</numerusform>
+            <numerusform>Solo %1 de los %2 pasos pedidos.</numerusform>
         </translation>
     </message>
     <message>
         <source>The setting %1 is invalid (%2); the default is used.</source>
-        <translation>El ajuste %1 no tiene sentido (%2); se usa el límite habitual.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1 día y %2</numerusform>
-            <numerusform>%1 días y %2</numerusform>
-        </translation>
+        <translation>El ajuste %1 no es válido (%2); se usa el valor predeterminado.</translation>
     </message>
     <message>
         <source>undone</source>
@@ -1236,13 +1803,8 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>deshecho</translation>
     </message>
     <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>abandonado</translation>
-    </message>
-    <message>
         <source>There is nothing to undo.</source>
-        <translation>No hay nada que se pueda deshacer.</translation>
+        <translation>No hay nada que deshacer.</translation>
     </message>
     <message>
         <source>WHAT</source>
@@ -1293,7 +1855,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     </message>
     <message>
         <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
-        <translation>Los pasos anteriores esperan por este; «lumidex undo --skip» lo deja como está para siempre.</translation>
+        <translation>Los pasos anteriores no se pueden deshacer antes que este; «lumidex undo --skip» lo omite para siempre.</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
@@ -1301,11 +1863,11 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     </message>
     <message>
         <source>Skipped: %1.</source>
-        <translation>Abandonado: %1.</translation>
+        <translation>Omitido: %1.</translation>
     </message>
     <message>
         <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
-        <translation>Lo que se guarda de él (%1) permanece hasta que sea demasiado antiguo o demasiado grande.</translation>
+        <translation>Sus originales (%1) se guardan hasta que superen los límites de «undo».</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1314,21 +1876,20 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
             <numerusform>%1 pasos anteriores ya no se pueden deshacer.</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>Los pasos se pueden deshacer dentro del límite de %1.</translation>
+        <translation>
+            <numerusform>Los pasos se pueden deshacer durante %1 día de uso, con hasta %2 de originales.</numerusform>
+            <numerusform>Los pasos se pueden deshacer durante %1 días de uso, con hasta %2 de originales.</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>No hay nada que rehacer.</translation>
     </message>
     <message>
-        <source>There is nothing to undo.</source>
-        <translation>No hay nada que deshacer.</translation>
-    </message>
-    <message>
         <source>Copies would share names with files of other shots:</source>
-        <translation>Estos archivos son de otras tomas que aquellos cuyos nombres comparten allí:</translation>
+        <translation>Las copias compartirían nombre con archivos de otras tomas:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1348,7 +1909,7 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     </message>
     <message>
         <source>FROM</source>
-        <translation>DE</translation>
+        <translation>ORIGEN</translation>
     </message>
     <message>
         <source>CAMERA</source>
@@ -1389,14 +1950,6 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     <message>
         <source>FILE</source>
         <translation>ARCHIVO</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>%1 de %2 foto, tomada %3.</numerusform>
-            <numerusform>%1 de %2 fotos, tomadas %3.</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1525,8 +2078,8 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     <message numerus="yes">
         <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>Se omitió %1 foto, porque solo la hora de su archivo le da fecha. Para incluirla, ejecute: lumidex albums --file-times</numerusform>
-            <numerusform>Se omitieron %1 fotos, porque solo las horas de sus archivos les dan fecha. Para incluirlas, ejecute: lumidex albums --file-times</numerusform>
+            <numerusform>Se omitió %1 foto, porque no tiene más fecha que la hora de su archivo. Para incluirla, ejecute: lumidex albums --file-times</numerusform>
+            <numerusform>Se omitieron %1 fotos, porque no tienen más fecha que la hora de sus archivos. Para incluirlas, ejecute: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1537,10 +2090,6 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     <message>
         <source>If all these photos are edited at once:</source>
         <translation>Si se editan todas estas fotos a la vez:</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Comprobando</translation>
     </message>
     <message>
         <source>its sidecar</source>
@@ -1565,22 +2114,6 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
         <translation>
             <numerusform>%1 foto editada; no se puede deshacer.</numerusform>
             <numerusform>%1 fotos editadas; no se puede deshacer.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 de %2 foto, tomada el %3 o después.</numerusform>
-            <numerusform>%1 de %2 fotos, tomadas el %3 o después.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 de %2 foto, tomada el %3 o antes.</numerusform>
-            <numerusform>%1 de %2 fotos, tomadas el %3 o antes.</numerusform>
         </translation>
     </message>
     <message>
@@ -1609,8 +2142,8 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     <message numerus="yes">
         <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>%1 archivo no se copia: no está en un soporte extraíble y se queda donde está. «--to CARPETA» lo copia.</numerusform>
-            <numerusform>%1 archivos no se copian: no están en un soporte extraíble y se quedan donde están. «--to CARPETA» los copia.</numerusform>
+            <numerusform>%1 archivo no se copia, porque no está en un soporte extraíble; «--to CARPETA» lo copia.</numerusform>
+            <numerusform>%1 archivos no se copian, porque no están en un soporte extraíble; «--to CARPETA» los copia.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1623,8 +2156,8 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     <message numerus="yes">
         <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>Se deja %1 archivo de gestión de cámaras y sistemas.</numerusform>
-            <numerusform>Se dejan %1 archivos de gestión de cámaras y sistemas.</numerusform>
+            <numerusform>No se copia %1 archivo de gestión de cámaras y sistemas.</numerusform>
+            <numerusform>No se copian %1 archivos de gestión de cámaras y sistemas.</numerusform>
         </translation>
     </message>
     <message>
@@ -1638,8 +2171,8 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>%1 paso ya no se puede deshacer: desde entonces han pasado más de %2 días de uso.</numerusform>
-            <numerusform>%1 pasos ya no se pueden deshacer: desde entonces han pasado más de %2 días de uso.</numerusform>
+            <numerusform>%1 paso ya no se puede deshacer, porque han pasado más de %2 días de uso.</numerusform>
+            <numerusform>%1 pasos ya no se pueden deshacer, porque han pasado más de %2 días de uso.</numerusform>
         </translation>
     </message>
     <message>
@@ -1671,8 +2204,8 @@ similitud superaba %1; las fotos posteriores desplazan el centro.</translation>
     <message>
         <source>These may be photos that were moved, but several files or photos come into question.
 The photos keep their tags and albums, the files are new:</source>
-        <translation>Quizá movidos, pero no se puede saber. Las fotos conservan sus etiquetas y
-álbumes, los archivos son nuevos:</translation>
+        <translation>Pueden ser fotos que se movieron, pero hay varios archivos o fotos posibles.
+Las fotos conservan sus etiquetas y álbumes; los archivos son nuevos:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1732,7 +2265,7 @@ The photos keep their tags and albums, the files are new:</source>
     <message>
         <source>undamaged</source>
         <comment>photo</comment>
-        <translation>íntegra</translation>
+        <translation>sin daños</translation>
     </message>
     <message>
         <source>the camera&apos;s own file</source>
@@ -1740,7 +2273,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>has maker notes</source>
-        <translation>con la nota del fabricante</translation>
+        <translation>con notas del fabricante</translation>
     </message>
     <message>
         <source>not written by another program</source>
@@ -1763,13 +2296,6 @@ The photos keep their tags and albums, the files are new:</source>
         <translation>
             <numerusform>%1 foto sigue sin poder compararse; «lumidex similar --not-compared» la enumera.</numerusform>
             <numerusform>%1 fotos siguen sin poder compararse; «lumidex similar --not-compared» las enumera.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>%1 de ellas (%2) es la misma imagen que la que conviene conservar; «lumidex similar --trash» la mueve a la papelera.</numerusform>
-            <numerusform>%1 de ellas (%2) son la misma imagen que la que conviene conservar; «lumidex similar --trash» las mueve a la papelera.</numerusform>
         </translation>
     </message>
     <message>
@@ -1818,11 +2344,11 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
-        <translation>Para poder deshacerlo hay que guardar %1 de originales, y el límite es %2.</translation>
+        <translation>Para poder deshacer la edición hay que guardar %1 de originales, pero el límite es %2.</translation>
     </message>
     <message>
         <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
-        <translation>«lumidex undo --keep-size %1» eleva el límite; con --no-undo no se guarda nada y no se puede deshacer.</translation>
+        <translation>«lumidex undo --keep-size %1» eleva el límite; con --no-undo no se guarda nada y la edición no se puede deshacer.</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1852,11 +2378,11 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>No originals would be kept, so the edit could not be undone.</source>
-        <translation>No se guardaría nada: no se podría deshacer.</translation>
+        <translation>No se guardarían originales, así que la edición no se podría deshacer.</translation>
     </message>
     <message>
         <source>The edit would be refused.</source>
-        <translation>Se rechazaría.</translation>
+        <translation>La edición se rechazaría.</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1881,10 +2407,6 @@ The photos keep their tags and albums, the files are new:</source>
         <comment>a photo is; a file</comment>
         <translation>parecida a %1</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>No son la misma imagen que la que conviene conservar, solo parecidas:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1902,12 +2424,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
-        <translation>¿Continuar sin lo que hace falta para rehacer? [s/N]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>en curso</translation>
+        <translation>¿Deshacer sin guardar lo que hace falta para rehacer? [s/N]</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -1918,7 +2435,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
-        <translation>No hay sitio para guardar lo que hace falta para rehacer; «lumidex undo --no-redo» prescinde de ello.</translation>
+        <translation>No hay sitio para guardar lo que hace falta para rehacer; «lumidex undo --no-redo» deshace sin guardarlo.</translation>
     </message>
     <message numerus="yes">
         <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
@@ -1942,17 +2459,17 @@ The photos keep their tags and albums, the files are new:</source>
     <message numerus="yes">
         <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>Una importación deja fuera %1 archivo más (--json lo enumera).</numerusform>
-            <numerusform>Una importación deja fuera %1 archivos más (--json los enumera).</numerusform>
+            <numerusform>Una importación omite %1 archivo más (--json lo enumera).</numerusform>
+            <numerusform>Una importación omite %1 archivos más (--json los enumera).</numerusform>
         </translation>
     </message>
     <message>
         <source>Every file in %1 has a verified copy elsewhere.</source>
-        <translation>No queda nada en %1: cada archivo tiene una copia comparada en otro lugar.</translation>
+        <translation>Cada archivo de %1 tiene una copia verificada en otro lugar.</translation>
     </message>
     <message>
         <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
-        <translation>En %1 solo quedan archivos de gestión: cada uno de los demás archivos tiene una copia comparada en otro lugar.</translation>
+        <translation>Cada archivo de %1, salvo los de gestión, tiene una copia verificada en otro lugar.</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
@@ -1960,8 +2477,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Por lo que toca a esta carpeta, se puede formatear sin riesgo; lo que hay junto
-a ella no se ha mirado.</translation>
+        <translation>Al formatear no se pierde nada de esta carpeta; lo que hay fuera de ella no se ha comprobado.</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -1969,7 +2485,7 @@ a ella no se ha mirado.</translation>
     </message>
     <message>
         <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
-        <translation>En el disco de %1 quedan %2 libres, y editar todas las fotos requiere %3: las últimas se dejarían como están.</translation>
+        <translation>El disco de %1 tiene %2 libres, pero editar todas las fotos requiere %3: las últimas no se editarían.</translation>
     </message>
     <message numerus="yes">
         <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
@@ -1977,6 +2493,110 @@ a ella no se ha mirado.</translation>
             <numerusform>El archivo de origen de %1 de ellas ha desaparecido o ha cambiado: no vacíe la papelera antes de tener otra copia.</numerusform>
             <numerusform>Los archivos de origen de %1 de ellas han desaparecido o han cambiado: no vacíe la papelera antes de tener otras copias.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>Interrumpido. Las fotos editadas hasta ahora quedan editadas.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>Interrumpido. Las fotos creadas hasta ahora se conservan; borre la carpeta antes de volver a intentarlo.</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1 GiB</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1 TiB</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1 PiB</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1 EiB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tomada el %3.</numerusform>
+            <numerusform>%1 de %2 fotos, tomadas el %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tomada del %3 al %4.</numerusform>
+            <numerusform>%1 de %2 fotos, tomadas del %3 al %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tomada el %3 o después.</numerusform>
+            <numerusform>%1 de %2 fotos, tomadas el %3 o después.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tomada el %3 o antes.</numerusform>
+            <numerusform>%1 de %2 fotos, tomadas el %3 o antes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>%1 de ellas (%2) es la misma imagen que la foto que conviene conservar; «lumidex similar --trash» la mueve a la papelera.</numerusform>
+            <numerusform>%1 de ellas (%2) son la misma imagen que la foto que conviene conservar; «lumidex similar --trash» las mueve a la papelera.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>No son la misma imagen que la foto que conviene conservar, solo parecidas:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>ya no se puede deshacer</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>en curso</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>MOMENTO</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>Impossible de modifier %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>Impossible de renommer %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>Impossible de renommer %1 en %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Impossible de lire %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>impossible d’écrire %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>il est impossible d’écrire dans son dossier&#xa0;; changez les droits de %1</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>son dossier n’accepte de changements que de son propriétaire&#xa0;; changez le propriétaire ou les droits de %1</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>il n’y a pas de place sur son disque pour une nouvelle version (%1 octets nécessaires, %2 libres)&#xa0;; libérez-y de la place</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>il est protégé en écriture&#xa0;; autorisez l’écriture ou utilisez --force</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>son fichier annexe %1 est protégé en écriture&#xa0;; autorisez l’écriture ou utilisez --force</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>son fichier annexe doit être modifié avec la photo. %1&#xa0;; réparez ou déplacez le fichier annexe</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>son fichier annexe %1 doit être modifié avec la photo, mais %2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>il n’y a pas de date à décaler</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>son année ne serait pas comprise entre 1 et 9999</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>ses métadonnées ne peuvent pas être modifiées sans perte (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>ses métadonnées seraient fausses ensuite</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>ses données EXIF, conservées sous forme de texte, sont endommagées</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>ses données EXIF sont endommagées</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>ses données XMP sont endommagées</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>son répertoire TIFF est endommagé</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>son format d’image est inconnu</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>son format ne peut pas être modifié</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>les photos au format %1 ne peuvent pas être modifiées</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>son image changerait</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>il est endommagé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>il dépasse 2&#xa0;Gio</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>il dépasse 16&#xa0;Mio</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>il a changé pendant la lecture</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>la modification demande plus de mémoire qu’il n’y en a</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>ses données JPEG sont endommagées</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>ses données JPEG se terminent avant l’image</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>ses données JPEG s’interrompent avant l’image</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>il n’y a plus de place dans son bloc EXIF</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>ses données PNG s’interrompent</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>ses données PNG ne commencent pas par une image</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>il a deux blocs EXIF</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>ses données WebP s’interrompent</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>ses données WebP ne contiennent pas d’image</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>%1 ne peut pas être modifié sur place</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>sa date ne peut pas être modifiée dans ses données %1</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>%1 ne peut pas être modifié dans ses données %2</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>il s’interrompt avant la fin</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>son texte est endommagé</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>il a trop de propriétés</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 est inchangé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 a été modifié, mais le catalogue n’a pas pu être mis à jour (%2). Le prochain lancement de lumidex s’en charge</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 ne peut pas être relu tel qu’il a été écrit</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 est laissé tel quel, car il accompagne %2</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 manque pour l’instant, mais ses versions sont conservées (%2). Libérez de la place sur son disque et relancez «&#xa0;lumidex undo&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 est laissé tel quel&#xa0;: un autre programme a modifié %2, où son autre version était conservée</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 est laissé tel quel&#xa0;: il n’y a pas de place sur son disque pour son autre version (%2 octets). Libérez-y de la place et réessayez</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 est laissé tel quel&#xa0;: son autre version n’est plus conservée</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 a changé depuis et est laissé tel quel</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 n’existe plus</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>%1 n’est pas accessible&#xa0;: son disque n’est peut-être pas connecté</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>Le journal d’annulation %1 ne peut pas être utilisé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>un autre programme l’utilise pour renommer ou modifier des photos&#xa0;; réessayez quand il aura terminé</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>aucune étape n’est commencée sans %1&#xa0;Mio libres pour la terminer et l’annuler (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>il n’y a pas de place pour l’annuler (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>Impossible de changer la cible du lien %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>Impossible de mettre %1 à la corbeille&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>aucun nom libre dans la corbeille</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>un autre fichier porte ce nom</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>un autre fichier porte son ancien nom</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>c’est sur un autre volume</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>ce n’est plus un fichier</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 a été gardé, car sa photo a été gardée</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 a été gardé, car la photo gardée à sa place, %2, n’existe plus</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 est dans la corbeille sous %2, qui n’est pas accessible&#xa0;: son disque n’est peut-être pas connecté</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1 est peut-être dans la corbeille sous %2, qui ne peut pas être lu&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 n’est plus dans la corbeille&#xa0;; un autre fichier porte son nom</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 n’est plus dans la corbeille et ne peut pas être récupéré</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 reste dans la corbeille sous %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>L’album «&#xa0;%1&#xa0;» est gardé, car des photos y ont été ajoutées depuis</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>L’album «&#xa0;%1&#xa0;» n’existe plus</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>Un autre album s’appelle maintenant «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 est gardé&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>il est déjà dans une corbeille</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>c’est un lien vers un autre fichier</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>il n’existe plus</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>il a changé après l’analyse</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>il a changé après la comparaison</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>c’est un autre nom d’un fichier gardé</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>il est de la même prise de vue que %1, qui est gardé</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>il ressemble à d’autres de son groupe, mais pas à la photo à garder, %1</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>il a des mots-clés ou des albums que la photo à garder, %1, n’a pas</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>c’est un fichier RAW, et aucun fichier RAW de son groupe n’est gardé</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>ses réglages, %1, seraient perdus&#xa0;: la photo à garder, %2, ne les a pas</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>le lien %1 y mène</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>%1, qu’il accompagne, est gardé</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>les réglages de %1 ont changé</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>la photo à garder, %1, n’existe plus</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>la photo à garder, %1, a changé après l’analyse</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>la photo à garder, %1, n’est plus un fichier</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>la photo à garder, %1, ne peut pas être lue (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>la photo à garder, %1, est dans une corbeille</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>la photo à garder, %1, est un lien vers un autre fichier</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>la photo à garder, %1, s’interrompt avant la fin de son image</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>la photo à garder, %1, est endommagée&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>L’annulation interrompue de «&#xa0;%1&#xa0;» est maintenant terminée.</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>Le rétablissement interrompu de «&#xa0;%1&#xa0;» est maintenant terminé.</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>L’annulation interrompue de «&#xa0;%1&#xa0;» est maintenant terminée, sauf pour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Le rétablissement interrompu de «&#xa0;%1&#xa0;» est maintenant terminé, sauf pour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>L’étape interrompue «&#xa0;%1&#xa0;» est maintenant terminée.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>«&#xa0;%1&#xa0;» a été interrompu et sera terminé dès que %2 sera accessible.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>«&#xa0;%1&#xa0;» a été interrompu et ne peut pas être terminé (%2)&#xa0;; les fichiers ont leurs anciens noms.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>«&#xa0;%1&#xa0;» a été interrompu et ne peut être ni terminé (%2) ni annulé (%3).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>«&#xa0;%1&#xa0;» a été interrompu. Photos modifiées&#xa0;: %2&#xa0;; les autres sont inchangées.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>«&#xa0;%1&#xa0;» a été interrompu. Copies faites&#xa0;: %2&#xa0;; relancez la même importation pour copier le reste.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>«&#xa0;%1&#xa0;» a été interrompu. Fichiers déplacés&#xa0;: %2&#xa0;; les autres sont là où ils étaient.</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>Les originaux que ce catalogue ne connaît pas ont été déplacés dans %1.</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 et son fichier annexe ne concordent pas, car un seul des deux a été modifié (%2).</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>Il ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>C’est un tube ou un périphérique</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Il est vide</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>Il est endommagé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>Son format d’image est inconnu</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Son nom n’est pas un texte valable</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>Il porte le nom d’un fichier de gestion, mais peut être une image ou une vidéo</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>Le lien mène à un fichier manquant</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>Le lien mène à un fichier qui ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>Le lien ramène à lui-même</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>Le lien mène à un dossier qui ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>Le lien ramène à un dossier parent</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>Le lien mène à un dossier déjà parcouru</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 est masqué</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>%1 n’a pas un nom de photo</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 est un lien vers un fichier manquant</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>il a changé pendant la copie</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>la copie diffère de l’original</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>la copie ne peut pas être écrite&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>la copie ne peut pas être relue&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>la copie ne peut pas être enregistrée</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>un autre fichier a reçu entre-temps le nom %1</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>il est identique à %1, qui n’a pas pu être copié</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>l’importation a été interrompue</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>Ce peut être n’importe laquelle de %1 photos manquantes</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>Elle manque, et %1 fichiers peuvent lui correspondre</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>Elle a été modifiée ou remplacée, et un fichier a son ancien contenu</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -167,8 +750,8 @@
     <message numerus="yes">
         <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>La %1 photo du catalogue avait disparu lors de la dernière analyse. Un disque manque-t-il&#xa0;?</numerusform>
-            <numerusform>Les %1 photos du catalogue avaient toutes disparu lors de la dernière analyse. Un disque manque-t-il&#xa0;?</numerusform>
+            <numerusform>La %1 photo du catalogue manquait lors de la dernière analyse. Un disque n’est-il pas connecté&#xa0;?</numerusform>
+            <numerusform>Les %1 photos du catalogue manquaient toutes lors de la dernière analyse. Un disque n’est-il pas connecté&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -241,7 +824,7 @@
     </message>
     <message>
         <source>%1 was accepted before, and there are no photos to add.</source>
-        <translation>Rien à changer dans %1, déjà accepté.</translation>
+        <translation>%1 était déjà accepté, et il n’y a pas de photos à ajouter.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -364,11 +947,11 @@ même jour de fête ou des week-ends d’un mois.</translation>
     </message>
     <message>
         <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>Le calendrier des fêtes n’a pas pu être lu jusqu’au bout, il manque donc des jours de fête. Essayez&#xa0;: lumidex calendar check ou lumidex calendar update.</translation>
+        <translation>Le calendrier des fêtes n’a pas pu être lu entièrement, il manque donc des jours de fête. Lancez&#xa0;: lumidex calendar check ou lumidex calendar update.</translation>
     </message>
     <message>
         <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>Le calendrier des fêtes %1 n’a pas pu être lu jusqu’au bout, il manque donc des jours de fête. Essayez&#xa0;: lumidex calendar check ou lumidex calendar update.</translation>
+        <translation>Le calendrier des fêtes %1 n’a pas pu être lu entièrement, il manque donc des jours de fête. Lancez&#xa0;: lumidex calendar check ou lumidex calendar update.</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -405,7 +988,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
     </message>
     <message>
         <source>no problems found.</source>
-        <translation>aucun obstacle.</translation>
+        <translation>aucun problème trouvé.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -427,10 +1010,6 @@ même jour de fête ou des week-ends d’un mois.</translation>
     <message>
         <source>Editing</source>
         <translation>Modification</translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>Interrompu. Les photos modifiées jusqu’ici le restent.</translation>
     </message>
     <message>
         <source>upright</source>
@@ -509,7 +1088,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
     </message>
     <message>
         <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
-        <translation>Interrompu. Ce qui a été copié est complet et comparé&#xa0;; la même commande copie le reste.</translation>
+        <translation>Interrompu. Les copies faites jusqu’ici sont complètes et vérifiées&#xa0;; relancez la même commande pour copier le reste.</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
@@ -517,15 +1096,15 @@ même jour de fête ou des week-ends d’un mois.</translation>
     </message>
     <message>
         <source>Would be added to the catalogue without copying:</source>
-        <translation>Seraient ajoutées sur place&#xa0;:</translation>
+        <translation>Seraient ajoutées au catalogue sans copie&#xa0;:</translation>
     </message>
     <message>
         <source>Copies of one shot would get different names:</source>
-        <translation>Les fichiers de chacune de ces prises de vue vont ensemble, mais pas les noms libres pour eux&#xa0;:</translation>
+        <translation>Les copies d’une même prise de vue auraient des noms différents&#xa0;:</translation>
     </message>
     <message>
         <source>Not copied:</source>
-        <translation>Manquants&#xa0;:</translation>
+        <translation>Non copiés&#xa0;:</translation>
     </message>
     <message>
         <source>Not added to the catalogue:</source>
@@ -533,7 +1112,7 @@ même jour de fête ou des week-ends d’un mois.</translation>
     </message>
     <message>
         <source>Skipped:</source>
-        <translation>Laissés de côté&#xa0;:</translation>
+        <translation>Ignorés&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>and %1 more (--json lists them)</source>
@@ -582,8 +1161,8 @@ même jour de fête ou des week-ends d’un mois.</translation>
         <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>%1 photo ajoutée sur place.</numerusform>
-            <numerusform>%1 photos ajoutées sur place.</numerusform>
+            <numerusform>%1 photo serait ajoutée sans copie.</numerusform>
+            <numerusform>%1 photos seraient ajoutées sans copie.</numerusform>
         </translation>
     </message>
     <message>
@@ -595,22 +1174,22 @@ rien n’a été modifié.</translation>
     <message numerus="yes">
         <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>%1 fichier (%2) copié dans %3 et comparé.</numerusform>
-            <numerusform>%1 fichiers (%2) copiés dans %3, tous comparés.</numerusform>
+            <numerusform>%1 fichier (%2) copié dans %3 et vérifié.</numerusform>
+            <numerusform>%1 fichiers (%2) copiés dans %3 et vérifiés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>%1 nouvelle photo dans le catalogue.</numerusform>
-            <numerusform>%1 nouvelles photos dans le catalogue.</numerusform>
+            <numerusform>%1 photo ajoutée au catalogue.</numerusform>
+            <numerusform>%1 photos ajoutées au catalogue.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>%1 fichier manque&#xa0;; la même commande réessaie.</numerusform>
-            <numerusform>%1 fichiers manquent&#xa0;; la même commande réessaie.</numerusform>
+            <numerusform>%1 fichier n’a pas été copié&#xa0;; relancez la même commande pour réessayer.</numerusform>
+            <numerusform>%1 fichiers n’ont pas été copiés&#xa0;; relancez la même commande pour réessayer.</numerusform>
         </translation>
     </message>
     <message>
@@ -621,7 +1200,7 @@ rien n’a été modifié.</translation>
     <message>
         <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>Il n’y a pas de %1&#xa0;; %2 est utilisé.</translation>
+        <translation>%1 n’est pas pris en charge&#xa0;; %2 est utilisé.</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -662,35 +1241,35 @@ rien n’a été modifié.</translation>
     <message numerus="yes">
         <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>%1 photo n’a pas de date propre&#xa0;; l’heure du fichier est utilisée.</numerusform>
-            <numerusform>%1 photos n’ont pas de date propre&#xa0;; l’heure des fichiers est utilisée.</numerusform>
+            <numerusform>%1 photo n’a pas de date&#xa0;; l’heure de son fichier est utilisée.</numerusform>
+            <numerusform>%1 photos n’ont pas de date&#xa0;; l’heure de leurs fichiers est utilisée.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>%1 fichier a déjà son nom.</numerusform>
-            <numerusform>%1 fichiers ont déjà leur nom.</numerusform>
+            <numerusform>%1 fichier a déjà son nouveau nom.</numerusform>
+            <numerusform>%1 fichiers ont déjà leur nouveau nom.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Rien ne serait renommé&#xa0;: le nouveau nom est impossible pour %1 photo sur %2. Avec
---skip-problems, les autres sont renommées.</numerusform>
-            <numerusform>Rien ne serait renommé&#xa0;: le nouveau nom est impossible pour %1 des %2 photos. Avec
---skip-problems, les autres sont renommées.</numerusform>
+            <numerusform>Rien ne serait renommé&#xa0;: le nouveau nom est impossible pour %1 photo sur %2.
+Avec --skip-problems, les autres sont renommées.</numerusform>
+            <numerusform>Rien ne serait renommé&#xa0;: le nouveau nom est impossible pour %1 des %2 photos.
+Avec --skip-problems, les autres sont renommées.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Rien n’a été renommé&#xa0;: le nouveau nom est impossible pour %1 photo sur %2. Avec
---skip-problems, les autres sont renommées.</numerusform>
-            <numerusform>Rien n’a été renommé&#xa0;: le nouveau nom est impossible pour %1 des %2 photos. Avec
---skip-problems, les autres sont renommées.</numerusform>
+            <numerusform>Rien n’a été renommé&#xa0;: le nouveau nom est impossible pour %1 photo sur %2.
+Avec --skip-problems, les autres sont renommées.</numerusform>
+            <numerusform>Rien n’a été renommé&#xa0;: le nouveau nom est impossible pour %1 des %2 photos.
+Avec --skip-problems, les autres sont renommées.</numerusform>
         </translation>
     </message>
     <message>
@@ -734,7 +1313,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Problems</source>
-        <translation>Ce qui l’empêche</translation>
+        <translation>Problèmes</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -743,8 +1322,8 @@ Add --skip-problems to rename the others.</source>
     <message numerus="yes">
         <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
-            <numerusform>%1 image n’a pas pu être lue et est remplacée par un emplacement vide.</numerusform>
-            <numerusform>%1 images n’ont pas pu être lues et sont remplacées par un emplacement vide.</numerusform>
+            <numerusform>%1 image n’a pas pu être lue&#xa0;; un emplacement vide la remplace.</numerusform>
+            <numerusform>%1 images n’ont pas pu être lues&#xa0;; des emplacements vides les remplacent.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -753,10 +1332,6 @@ Add --skip-problems to rename the others.</source>
             <numerusform>%1 photo créée dans %2</numerusform>
             <numerusform>%1 photos créées dans %2</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>Interrompu. Les photos créées jusqu’ici restent&#xa0;; supprimez le dossier avant un nouvel essai.</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -849,8 +1424,8 @@ Add --skip-problems to rename the others.</source>
         <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
-            <numerusform>disparu, désormais marqué comme perdu</numerusform>
-            <numerusform>disparus, désormais marqués comme perdus</numerusform>
+            <numerusform>manquant, désormais marqué comme perdu</numerusform>
+            <numerusform>manquants, désormais marqués comme perdus</numerusform>
         </translation>
     </message>
     <message>
@@ -867,11 +1442,11 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
-        <translation>Interrompu. Ce qui a été lu jusqu’ici est dans le catalogue&#xa0;; la même commande reprend à partir de là.</translation>
+        <translation>Interrompu. Ce qui a été lu jusqu’ici est dans le catalogue&#xa0;; relancez la même commande pour continuer.</translation>
     </message>
     <message>
         <source>Analysing</source>
-        <translation>Examen</translation>
+        <translation>Analyse</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -887,7 +1462,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. Run the same command to continue.</source>
-        <translation>Interrompu. La même commande reprend à partir de là.</translation>
+        <translation>Interrompu. Relancez la même commande pour continuer.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -1025,16 +1600,16 @@ Add --skip-problems to rename the others.</source>
     <message>
         <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
 mean of the photos in the group at that time; later photos move it.</source>
-        <translation>Une photo rejoint le premier groupe dont le centre, la moyenne de ses photos à ce moment-là, lui
-ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</translation>
+        <translation>Une photo rejoint le premier groupe dont le centre lui ressemble à plus de %1. Le centre est la
+moyenne des photos du groupe à ce moment-là&#xa0;; les photos suivantes le déplacent.</translation>
     </message>
     <message>
         <source>Matching all photos again gives the same groups.</source>
-        <translation>Les groupes sont tels qu’une nouvelle comparaison de toutes les photos les forme.</translation>
+        <translation>Une nouvelle comparaison de toutes les photos donne les mêmes groupes.</translation>
     </message>
     <message>
         <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
-        <translation>«&#xa0;lumidex similar --anew&#xa0;» refait les groupes à partir de rien.</translation>
+        <translation>«&#xa0;lumidex similar --anew&#xa0;» refait tous les groupes.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1062,7 +1637,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     </message>
     <message>
         <source>set dates to %1</source>
-        <translation>fixer les dates à %1</translation>
+        <translation>fixer les dates au %1</translation>
     </message>
     <message>
         <source>rotate left</source>
@@ -1209,26 +1784,18 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     </message>
     <message>
         <source>Interrupted. What was done so far stays done.</source>
-        <translation>Interrompu. Ce qui a été fait jusqu’ici le reste.</translation>
+        <translation>Interrompu. Ce qui a été fait jusqu’ici reste fait.</translation>
     </message>
     <message numerus="yes">
         <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>Seulement %1 étape sur les %2 demandées.</numerusform>
-            <numerusform>Seulement %1 étapes sur les %2 demandées.</numerusform>
+            <numerusform>Seulement %1 des %2 étapes demandées.</numerusform>
+            <numerusform>Seulement %1 des %2 étapes demandées.</numerusform>
         </translation>
     </message>
     <message>
         <source>The setting %1 is invalid (%2); the default is used.</source>
-        <translation>Le réglage %1 n’a pas de sens (%2)&#xa0;; la limite habituelle est utilisée.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1 jour et %2</numerusform>
-            <numerusform>%1 jours et %2</numerusform>
-        </translation>
+        <translation>Le réglage %1 n’est pas valable (%2)&#xa0;; la valeur par défaut est utilisée.</translation>
     </message>
     <message>
         <source>undone</source>
@@ -1236,13 +1803,8 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>annulée</translation>
     </message>
     <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>abandonnée</translation>
-    </message>
-    <message>
         <source>There is nothing to undo.</source>
-        <translation>Il n’y a rien qui puisse être annulé.</translation>
+        <translation>Il n’y a rien à annuler.</translation>
     </message>
     <message>
         <source>WHAT</source>
@@ -1293,7 +1855,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     </message>
     <message>
         <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
-        <translation>Des étapes plus anciennes en dépendent&#xa0;; «&#xa0;lumidex undo --skip&#xa0;» la laisse définitivement telle quelle.</translation>
+        <translation>Les étapes plus anciennes ne peuvent pas être annulées avant celle-ci&#xa0;; «&#xa0;lumidex undo --skip&#xa0;» l’ignore définitivement.</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
@@ -1301,11 +1863,11 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     </message>
     <message>
         <source>Skipped: %1.</source>
-        <translation>Abandonné&#xa0;: %1.</translation>
+        <translation>Ignoré&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
-        <translation>Ce qui en est conservé (%1) reste jusqu’à devenir trop ancien ou trop volumineux.</translation>
+        <translation>Ses originaux (%1) sont conservés jusqu’à ce qu’ils dépassent les limites d’«&#xa0;undo&#xa0;».</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1314,21 +1876,20 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
             <numerusform>%1 étapes plus anciennes ne peuvent plus être annulées.</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>Les étapes peuvent être annulées dans la limite de %1.</translation>
+        <translation>
+            <numerusform>Les étapes peuvent être annulées pendant %1 jour d’utilisation, avec au plus %2 d’originaux.</numerusform>
+            <numerusform>Les étapes peuvent être annulées pendant %1 jours d’utilisation, avec au plus %2 d’originaux.</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>Il n’y a rien à rétablir.</translation>
     </message>
     <message>
-        <source>There is nothing to undo.</source>
-        <translation>Il n’y a rien à annuler.</translation>
-    </message>
-    <message>
         <source>Copies would share names with files of other shots:</source>
-        <translation>Ces fichiers sont d’autres prises de vue que ceux dont ils partagent le nom à cet endroit&#xa0;:</translation>
+        <translation>Les copies partageraient leur nom avec des fichiers d’autres prises de vue&#xa0;:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1348,7 +1909,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     </message>
     <message>
         <source>FROM</source>
-        <translation>D’APRÈS</translation>
+        <translation>SOURCE</translation>
     </message>
     <message>
         <source>CAMERA</source>
@@ -1389,14 +1950,6 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     <message>
         <source>FILE</source>
         <translation>FICHIER</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>%1 sur %2 photo, prise %3.</numerusform>
-            <numerusform>%1 sur %2 photos, prises %3.</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1525,8 +2078,8 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     <message numerus="yes">
         <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>%1 photo a été laissée de côté, car seule l’heure de son fichier la date. Pour la prendre en compte, lancez&#xa0;: lumidex albums --file-times</numerusform>
-            <numerusform>%1 photos ont été laissées de côté, car seule l’heure de leurs fichiers les date. Pour les prendre en compte, lancez&#xa0;: lumidex albums --file-times</numerusform>
+            <numerusform>%1 photo a été laissée de côté, car elle n’a d’autre date que l’heure de son fichier. Pour l’inclure, lancez&#xa0;: lumidex albums --file-times</numerusform>
+            <numerusform>%1 photos ont été laissées de côté, car elles n’ont d’autre date que l’heure de leurs fichiers. Pour les inclure, lancez&#xa0;: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1536,11 +2089,7 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     </message>
     <message>
         <source>If all these photos are edited at once:</source>
-        <translation>Pour une modification de toutes ces photos à la fois&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Vérification</translation>
+        <translation>Si toutes ces photos sont modifiées à la fois&#xa0;:</translation>
     </message>
     <message>
         <source>its sidecar</source>
@@ -1565,22 +2114,6 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
         <translation>
             <numerusform>%1 photo modifiée&#xa0;; cela ne peut pas être annulé.</numerusform>
             <numerusform>%1 photos modifiées&#xa0;; cela ne peut pas être annulé.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 sur %2 photo, prise le %3 ou après.</numerusform>
-            <numerusform>%1 sur %2 photos, prises le %3 ou après.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 sur %2 photo, prise le %3 ou avant.</numerusform>
-            <numerusform>%1 sur %2 photos, prises le %3 ou avant.</numerusform>
         </translation>
     </message>
     <message>
@@ -1609,8 +2142,8 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     <message numerus="yes">
         <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>%1 fichier n’est pas copié&#xa0;: il ne se trouve pas sur un support amovible et reste où il est. «&#xa0;--to DOSSIER&#xa0;» le copie.</numerusform>
-            <numerusform>%1 fichiers ne sont pas copiés&#xa0;: ils ne se trouvent pas sur un support amovible et restent où ils sont. «&#xa0;--to DOSSIER&#xa0;» les copie.</numerusform>
+            <numerusform>%1 fichier n’est pas copié, car il ne se trouve pas sur un support amovible&#xa0;; «&#xa0;--to DOSSIER&#xa0;» le copie.</numerusform>
+            <numerusform>%1 fichiers ne sont pas copiés, car ils ne se trouvent pas sur un support amovible&#xa0;; «&#xa0;--to DOSSIER&#xa0;» les copie.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1623,8 +2156,8 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     <message numerus="yes">
         <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>%1 fichier de gestion des appareils et des systèmes est laissé.</numerusform>
-            <numerusform>%1 fichiers de gestion des appareils et des systèmes sont laissés.</numerusform>
+            <numerusform>%1 fichier de gestion des appareils et des systèmes n’est pas copié.</numerusform>
+            <numerusform>%1 fichiers de gestion des appareils et des systèmes ne sont pas copiés.</numerusform>
         </translation>
     </message>
     <message>
@@ -1638,8 +2171,8 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     <message numerus="yes">
         <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>%1 étape ne peut plus être annulée&#xa0;: plus de %2 jours d’utilisation se sont écoulés depuis.</numerusform>
-            <numerusform>%1 étapes ne peuvent plus être annulées&#xa0;: plus de %2 jours d’utilisation se sont écoulés depuis.</numerusform>
+            <numerusform>%1 étape ne peut plus être annulée, car plus de %2 jours d’utilisation se sont écoulés.</numerusform>
+            <numerusform>%1 étapes ne peuvent plus être annulées, car plus de %2 jours d’utilisation se sont écoulés.</numerusform>
         </translation>
     </message>
     <message>
@@ -1671,8 +2204,8 @@ ressemblait à plus de %1&#xa0;; les photos suivantes déplacent le centre.</tra
     <message>
         <source>These may be photos that were moved, but several files or photos come into question.
 The photos keep their tags and albums, the files are new:</source>
-        <translation>Peut-être déplacés, mais impossible de le savoir. Les photos gardent leurs
-mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
+        <translation>Ce sont peut-être des photos déplacées, mais plusieurs fichiers ou photos sont possibles.
+Les photos gardent leurs mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1740,7 +2273,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
     <message>
         <source>has maker notes</source>
-        <translation>avec la note du fabricant</translation>
+        <translation>avec les notes du fabricant</translation>
     </message>
     <message>
         <source>not written by another program</source>
@@ -1763,13 +2296,6 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         <translation>
             <numerusform>%1 photo ne peut toujours pas être comparée&#xa0;; «&#xa0;lumidex similar --not-compared&#xa0;» l’indique.</numerusform>
             <numerusform>%1 photos ne peuvent toujours pas être comparées&#xa0;; «&#xa0;lumidex similar --not-compared&#xa0;» en donne la liste.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>%1 d’entre elles (%2) est la même image que celle à garder&#xa0;; «&#xa0;lumidex similar --trash&#xa0;» la met à la corbeille.</numerusform>
-            <numerusform>%1 d’entre elles (%2) sont la même image que celle à garder&#xa0;; «&#xa0;lumidex similar --trash&#xa0;» les met à la corbeille.</numerusform>
         </translation>
     </message>
     <message>
@@ -1818,11 +2344,11 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
     <message>
         <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
-        <translation>Pour pouvoir être annulé, cela demande de conserver %1 d’originaux, et la limite est de %2.</translation>
+        <translation>Pour pouvoir annuler la modification, il faut conserver %1 d’originaux, mais la limite est de %2.</translation>
     </message>
     <message>
         <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
-        <translation>«&#xa0;lumidex undo --keep-size %1&#xa0;» relève la limite&#xa0;; avec --no-undo, rien n’est conservé et cela ne peut pas être annulé.</translation>
+        <translation>«&#xa0;lumidex undo --keep-size %1&#xa0;» relève la limite&#xa0;; avec --no-undo, rien n’est conservé et la modification ne peut pas être annulée.</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1852,11 +2378,11 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
     <message>
         <source>No originals would be kept, so the edit could not be undone.</source>
-        <translation>Rien ne serait conservé&#xa0;: cela ne pourrait pas être annulé.</translation>
+        <translation>Aucun original ne serait conservé, la modification ne pourrait donc pas être annulée.</translation>
     </message>
     <message>
         <source>The edit would be refused.</source>
-        <translation>Cela serait refusé.</translation>
+        <translation>La modification serait refusée.</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1881,10 +2407,6 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
         <comment>a photo is; a file</comment>
         <translation>ressemble à %1</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>Pas la même image que celle à garder, seulement ressemblantes&#xa0;:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1902,12 +2424,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
-        <translation>Continuer sans ce qu’il faut pour rétablir&#xa0;? [o/N]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>en cours</translation>
+        <translation>Annuler sans conserver ce qu’il faut pour rétablir&#xa0;? [o/N]</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -1918,7 +2435,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
     <message>
         <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
-        <translation>Il n’y a pas de place pour conserver ce qu’il faut pour rétablir&#xa0;; «&#xa0;lumidex undo --no-redo&#xa0;» s’en passe.</translation>
+        <translation>Il n’y a pas de place pour conserver ce qu’il faut pour rétablir&#xa0;; «&#xa0;lumidex undo --no-redo&#xa0;» annule sans cela.</translation>
     </message>
     <message numerus="yes">
         <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
@@ -1942,17 +2459,17 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     <message numerus="yes">
         <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>Une importation laisse de côté %1 autre fichier (--json l’indique).</numerusform>
-            <numerusform>Une importation laisse de côté %1 autres fichiers (--json en donne la liste).</numerusform>
+            <numerusform>Une importation ignore %1 autre fichier (--json l’indique).</numerusform>
+            <numerusform>Une importation ignore %1 autres fichiers (--json en donne la liste).</numerusform>
         </translation>
     </message>
     <message>
         <source>Every file in %1 has a verified copy elsewhere.</source>
-        <translation>Il ne reste rien dans %1&#xa0;: chaque fichier a ailleurs une copie comparée.</translation>
+        <translation>Chaque fichier de %1 a ailleurs une copie vérifiée.</translation>
     </message>
     <message>
         <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
-        <translation>Il ne reste que des fichiers de gestion dans %1&#xa0;: chaque autre fichier a ailleurs une copie comparée.</translation>
+        <translation>Chaque fichier de %1, sauf les fichiers de gestion, a ailleurs une copie vérifiée.</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
@@ -1960,8 +2477,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
     <message>
         <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Pour ce dossier, le formatage est sans risque&#xa0;; ce qui se trouve à côté n’a pas
-été examiné.</translation>
+        <translation>Le formatage ne fait rien perdre de ce dossier&#xa0;; ce qui se trouve en dehors n’a pas été vérifié.</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -1969,7 +2485,7 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
     </message>
     <message>
         <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
-        <translation>Il reste %2 de libre sur le disque de %1, et modifier toutes les photos demande %3&#xa0;: les dernières seraient laissées telles quelles.</translation>
+        <translation>Il reste %2 de libre sur le disque de %1, mais modifier toutes les photos demande %3&#xa0;: les dernières ne seraient pas modifiées.</translation>
     </message>
     <message numerus="yes">
         <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
@@ -1977,6 +2493,110 @@ mots-clés et leurs albums, les fichiers sont nouveaux&#xa0;:</translation>
             <numerusform>La source de %1 d’entre elles a disparu ou a été modifiée&#xa0;: ne videz pas la corbeille avant d’avoir une autre copie.</numerusform>
             <numerusform>Les sources de %1 d’entre elles ont disparu ou ont été modifiées&#xa0;: ne videz pas la corbeille avant d’avoir d’autres copies.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>Interrompu. Les photos modifiées jusqu’ici restent modifiées.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>Interrompu. Les photos créées jusqu’ici restent&#xa0;; supprimez le dossier avant de réessayer.</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>&#x202f;</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1&#xa0;o</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1&#xa0;Kio</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1&#xa0;Mio</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1&#xa0;Gio</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1&#xa0;Tio</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1&#xa0;Pio</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1&#xa0;Eio</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 sur %2 photo, prise le %3.</numerusform>
+            <numerusform>%1 sur %2 photos, prises le %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 sur %2 photo, prise du %3 au %4.</numerusform>
+            <numerusform>%1 sur %2 photos, prises du %3 au %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 sur %2 photo, prise le %3 ou après.</numerusform>
+            <numerusform>%1 sur %2 photos, prises le %3 ou après.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 sur %2 photo, prise le %3 ou avant.</numerusform>
+            <numerusform>%1 sur %2 photos, prises le %3 ou avant.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>%1 d’entre elles (%2) est la même image que la photo à garder&#xa0;; «&#xa0;lumidex similar --trash&#xa0;» la met à la corbeille.</numerusform>
+            <numerusform>%1 d’entre elles (%2) sont la même image que la photo à garder&#xa0;; «&#xa0;lumidex similar --trash&#xa0;» les met à la corbeille.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>Pas la même image que la photo à garder, seulement ressemblantes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>ne peut plus être annulée</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>en cours</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>MOMENT</translation>
     </message>
 </context>
 <context>

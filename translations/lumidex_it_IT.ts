@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>Impossibile modificare %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>Impossibile rinominare %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>Impossibile rinominare %1 in %2: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>impossibile scrivere %1: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>non si può scrivere nella sua cartella; cambi i permessi di %1</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>la sua cartella consente modifiche solo al proprietario; cambi il proprietario o i permessi di %1</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>sul suo disco non c’è spazio per una nuova versione (servono %1 byte, ne sono liberi %2); liberi spazio</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>è protetto da scrittura; consenta la scrittura o usi --force</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>il suo file collaterale %1 è protetto da scrittura; consenta la scrittura o usi --force</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>il suo file collaterale va modificato insieme alla foto. %1; ripari o sposti il file collaterale</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>il suo file collaterale %1 va modificato insieme alla foto, ma %2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>non ha date da spostare</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>il suo anno non sarebbe compreso tra 1 e 9999</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>i suoi metadati non si possono modificare senza perdite (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>i suoi metadati poi sarebbero sbagliati</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>i suoi dati EXIF, conservati come testo, sono danneggiati</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>i suoi dati EXIF sono danneggiati</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>i suoi dati XMP sono danneggiati</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>la sua directory TIFF è danneggiata</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>il suo formato d’immagine è sconosciuto</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>il suo formato non si può modificare</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>le foto in formato %1 non si possono modificare</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>la sua immagine cambierebbe</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>è danneggiato: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>supera 2 GiB</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>supera 16 MiB</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>è cambiato durante la lettura</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>la modifica richiede più memoria di quanta ce ne sia</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>i suoi dati JPEG sono danneggiati</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>i suoi dati JPEG finiscono prima dell’immagine</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>i suoi dati JPEG si interrompono prima dell’immagine</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>non c’è più spazio nel suo blocco EXIF</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>i suoi dati PNG si interrompono</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>i suoi dati PNG non iniziano con un’immagine</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>ha due blocchi EXIF</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>i suoi dati WebP si interrompono</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>i suoi dati WebP non contengono immagini</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>%1 non si può modificare sul posto</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>la sua data non si può modificare nei dati %1</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>%1 non si può modificare nei dati %2</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>si interrompe prima della fine</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>il suo testo è danneggiato</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>ha troppe proprietà</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 è invariato: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 è stato modificato, ma non è stato possibile aggiornare il catalogo (%2). La prossima esecuzione di lumidex lo aggiorna</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 non si rilegge come è stato scritto</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 è lasciato com’è, perché appartiene a %2</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 per ora manca, ma le sue versioni sono conservate (%2). Liberi spazio sul suo disco ed esegua di nuovo «lumidex undo»</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 è lasciato com’è: un altro programma ha modificato %2, dove era conservata l’altra versione</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 è lasciato com’è: sul suo disco non c’è spazio per l’altra versione (%2 byte). Liberi spazio e riprovi</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 è lasciato com’è: l’altra versione non è più conservata</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 è cambiato in seguito ed è lasciato com’è</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 non esiste più</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>%1 non è raggiungibile: forse il suo disco non è collegato</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 non si può leggere: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>Il registro di annullamento %1 non si può usare: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>un altro programma lo sta usando per rinominare o modificare foto; riprovi quando ha finito</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>nessun passo inizia senza %1 MiB liberi per completarlo e annullarlo (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>non c’è spazio per annullarlo (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>Impossibile cambiare la destinazione del collegamento %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>Impossibile spostare %1 nel cestino: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>nessun nome libero nel cestino</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>un altro file ha quel nome</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>un altro file ha il suo vecchio nome</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>si trova su un altro volume</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>non è più un file</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 è stato tenuto, perché la sua foto è stata tenuta</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 è stato tenuto, perché la foto tenuta al suo posto, %2, non esiste più</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 è nel cestino come %2, che non è raggiungibile: forse il suo disco non è collegato</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1 è forse nel cestino come %2, che non si può leggere: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 non è più nel cestino; un altro file ha il suo nome</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 non è più nel cestino e non si può recuperare</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 resta nel cestino come %2: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>L’album «%1» è tenuto, perché in seguito sono state aggiunte foto</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>L’album «%1» non esiste più</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>Un altro album ora si chiama «%1»</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 è tenuto: %2.</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>è già in un cestino</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>è un collegamento a un altro file</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>non esiste più</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>è cambiato dopo l’analisi</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>è cambiato dopo il confronto</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>è un altro nome di un file che si tiene</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>è dello stesso scatto di %1, che si tiene</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>somiglia ad altre del gruppo, ma non alla foto da tenere, %1</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>ha tag o album che la foto da tenere, %1, non ha</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>è un file RAW, e nessun file RAW del gruppo si tiene</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>le sue impostazioni, %1, andrebbero perse: la foto da tenere, %2, non le ha</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>il collegamento %1 porta a esso</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>%1, a cui appartiene, si tiene</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>le impostazioni in %1 sono cambiate</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>la foto da tenere, %1, non esiste più</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>la foto da tenere, %1, è cambiata dopo l’analisi</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>la foto da tenere, %1, non è più un file</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>la foto da tenere, %1, non si può leggere (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>la foto da tenere, %1, è in un cestino</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>la foto da tenere, %1, è un collegamento a un altro file</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>la foto da tenere, %1, si interrompe prima della fine dell’immagine</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>la foto da tenere, %1, è danneggiata: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>L’annullamento interrotto di «%1» è ora completato.</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>La ripetizione interrotta di «%1» è ora completata.</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>L’annullamento interrotto di «%1» è ora completato, tranne per:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>La ripetizione interrotta di «%1» è ora completata, tranne per:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>Il passo interrotto «%1» è ora completato.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>«%1» è stato interrotto e sarà completato appena %2 sarà raggiungibile.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>«%1» è stato interrotto e non si può completare (%2); i file hanno i loro vecchi nomi.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>«%1» è stato interrotto e non si può completare (%2) né annullare (%3).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>«%1» è stato interrotto. Foto modificate: %2; le altre sono invariate.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>«%1» è stato interrotto. Copie fatte: %2; ripeta la stessa importazione per copiare il resto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>«%1» è stato interrotto. File spostati: %2; gli altri sono dov’erano.</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>Gli originali che questo catalogo non conosce sono stati spostati in %1.</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 e il suo file collaterale non concordano, perché solo uno dei due è stato modificato (%2).</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>Non si può leggere</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>È una pipe o un dispositivo</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Non è un file normale</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>È vuoto</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>È danneggiato: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>Il suo formato d’immagine è sconosciuto</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Il suo nome non è un testo valido</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>Ha il nome di un file di servizio, ma può essere un’immagine o un video</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>Il collegamento porta a un file mancante</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>Il collegamento porta a un file che non si può leggere</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>Il collegamento riporta a sé stesso</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>Il collegamento porta a una cartella che non si può leggere</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>Il collegamento riporta a una cartella superiore</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>Il collegamento porta a una cartella già visitata</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 è nascosto</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>%1 non ha il nome di una foto</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 è un collegamento a un file mancante</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>è cambiato durante la copia</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>la copia è diversa dall’originale</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>non è possibile scrivere la copia: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>non è possibile rileggere la copia: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>non è possibile registrare la copia</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>nel frattempo un altro file ha preso il nome %1</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>è identico a %1, che non è stato possibile copiare</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>l’importazione è stata interrotta</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>Può essere una qualsiasi di %1 foto mancanti</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>Manca, e %1 file possono corrispondere</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>È stata modificata o sostituita, e un file ha il suo vecchio contenuto</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -167,8 +750,8 @@
     <message numerus="yes">
         <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>La %1 foto del catalogo non c’era più all’ultimo esame. Manca un disco?</numerusform>
-            <numerusform>Tutte le %1 foto del catalogo non c’erano più all’ultimo esame. Manca un disco?</numerusform>
+            <numerusform>La %1 foto del catalogo mancava all’ultimo esame. C’è un disco non collegato?</numerusform>
+            <numerusform>Tutte le %1 foto del catalogo mancavano all’ultimo esame. C’è un disco non collegato?</numerusform>
         </translation>
     </message>
     <message>
@@ -241,7 +824,7 @@
     </message>
     <message>
         <source>%1 was accepted before, and there are no photos to add.</source>
-        <translation>Nulla da cambiare in %1, già accettato.</translation>
+        <translation>%1 era già accettato e non ci sono foto da aggiungere.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -364,11 +947,11 @@ stessa festività o dei fine settimana di un mese.</translation>
     </message>
     <message>
         <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>Non è stato possibile leggere fino in fondo il calendario delle festività, perciò mancano delle festività. Provi: lumidex calendar check oppure lumidex calendar update.</translation>
+        <translation>Non è stato possibile leggere per intero il calendario delle festività, perciò mancano delle festività. Esegua: lumidex calendar check oppure lumidex calendar update.</translation>
     </message>
     <message>
         <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>Non è stato possibile leggere fino in fondo il calendario delle festività %1, perciò mancano delle festività. Provi: lumidex calendar check oppure lumidex calendar update.</translation>
+        <translation>Non è stato possibile leggere per intero il calendario delle festività %1, perciò mancano delle festività. Esegua: lumidex calendar check oppure lumidex calendar update.</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -405,7 +988,7 @@ stessa festività o dei fine settimana di un mese.</translation>
     </message>
     <message>
         <source>no problems found.</source>
-        <translation>nessun ostacolo.</translation>
+        <translation>nessun problema trovato.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -427,10 +1010,6 @@ stessa festività o dei fine settimana di un mese.</translation>
     <message>
         <source>Editing</source>
         <translation>Modifica</translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>Interrotto. Le foto modificate finora restano tali.</translation>
     </message>
     <message>
         <source>upright</source>
@@ -509,7 +1088,7 @@ stessa festività o dei fine settimana di un mese.</translation>
     </message>
     <message>
         <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
-        <translation>Interrotto. Ciò che è stato copiato è completo e confrontato; lo stesso comando copia il resto.</translation>
+        <translation>Interrotto. Le copie fatte finora sono complete e verificate; esegua di nuovo lo stesso comando per copiare il resto.</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
@@ -517,15 +1096,15 @@ stessa festività o dei fine settimana di un mese.</translation>
     </message>
     <message>
         <source>Would be added to the catalogue without copying:</source>
-        <translation>Sarebbero acquisite dove si trovano:</translation>
+        <translation>Sarebbero acquisite nel catalogo senza copiarle:</translation>
     </message>
     <message>
         <source>Copies of one shot would get different names:</source>
-        <translation>I file di ciascuno di questi scatti vanno insieme, ma i nomi liberi per loro no:</translation>
+        <translation>Le copie di uno stesso scatto avrebbero nomi diversi:</translation>
     </message>
     <message>
         <source>Not copied:</source>
-        <translation>Mancano:</translation>
+        <translation>Non copiati:</translation>
     </message>
     <message>
         <source>Not added to the catalogue:</source>
@@ -533,7 +1112,7 @@ stessa festività o dei fine settimana di un mese.</translation>
     </message>
     <message>
         <source>Skipped:</source>
-        <translation>Tralasciati:</translation>
+        <translation>Ignorati:</translation>
     </message>
     <message numerus="yes">
         <source>and %1 more (--json lists them)</source>
@@ -582,8 +1161,8 @@ stessa festività o dei fine settimana di un mese.</translation>
         <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>%1 foto acquisita dove si trova.</numerusform>
-            <numerusform>%1 foto acquisite dove si trovano.</numerusform>
+            <numerusform>%1 foto sarebbe acquisita senza copiarla.</numerusform>
+            <numerusform>%1 foto sarebbero acquisite senza copiarle.</numerusform>
         </translation>
     </message>
     <message>
@@ -595,22 +1174,22 @@ nulla è stato modificato.</translation>
     <message numerus="yes">
         <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>%1 file (%2) copiato in %3 e confrontato.</numerusform>
-            <numerusform>%1 file (%2) copiati in %3, tutti confrontati.</numerusform>
+            <numerusform>%1 file (%2) copiato in %3 e verificato.</numerusform>
+            <numerusform>%1 file (%2) copiati in %3 e verificati.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>%1 nuova foto nel catalogo.</numerusform>
-            <numerusform>%1 nuove foto nel catalogo.</numerusform>
+            <numerusform>%1 foto acquisita nel catalogo.</numerusform>
+            <numerusform>%1 foto acquisite nel catalogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>Manca %1 file; lo stesso comando riprova.</numerusform>
-            <numerusform>Mancano %1 file; lo stesso comando riprova.</numerusform>
+            <numerusform>%1 file non è stato copiato; esegua di nuovo lo stesso comando per riprovare.</numerusform>
+            <numerusform>%1 file non sono stati copiati; esegua di nuovo lo stesso comando per riprovare.</numerusform>
         </translation>
     </message>
     <message>
@@ -621,7 +1200,7 @@ nulla è stato modificato.</translation>
     <message>
         <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>%1 non esiste; si usa %2.</translation>
+        <translation>%1 non è disponibile; si usa %2.</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -662,35 +1241,35 @@ nulla è stato modificato.</translation>
     <message numerus="yes">
         <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>%1 foto non ha una data propria; si usa l’ora del file.</numerusform>
-            <numerusform>%1 foto non hanno una data propria; si usa l’ora dei file.</numerusform>
+            <numerusform>%1 foto non ha una data; si usa l’ora del suo file.</numerusform>
+            <numerusform>%1 foto non hanno una data; si usa l’ora dei loro file.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>%1 file ha già il suo nome.</numerusform>
-            <numerusform>%1 file hanno già il loro nome.</numerusform>
+            <numerusform>%1 file ha già il suo nuovo nome.</numerusform>
+            <numerusform>%1 file hanno già il loro nuovo nome.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Nulla sarebbe rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
---skip-problems si rinominano le altre.</numerusform>
-            <numerusform>Nulla sarebbe rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
---skip-problems si rinominano le altre.</numerusform>
+            <numerusform>Nulla sarebbe rinominato: il nuovo nome è impossibile per %1 foto su %2.
+Con --skip-problems si rinominano le altre.</numerusform>
+            <numerusform>Nulla sarebbe rinominato: il nuovo nome è impossibile per %1 foto su %2.
+Con --skip-problems si rinominano le altre.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Nulla è stato rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
---skip-problems si rinominano le altre.</numerusform>
-            <numerusform>Nulla è stato rinominato: il nuovo nome è impossibile per %1 foto su %2. Con
---skip-problems si rinominano le altre.</numerusform>
+            <numerusform>Nulla è stato rinominato: il nuovo nome è impossibile per %1 foto su %2.
+Con --skip-problems si rinominano le altre.</numerusform>
+            <numerusform>Nulla è stato rinominato: il nuovo nome è impossibile per %1 foto su %2.
+Con --skip-problems si rinominano le altre.</numerusform>
         </translation>
     </message>
     <message>
@@ -734,7 +1313,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Problems</source>
-        <translation>Ciò che lo impedisce</translation>
+        <translation>Problemi</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -743,8 +1322,8 @@ Add --skip-problems to rename the others.</source>
     <message numerus="yes">
         <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
-            <numerusform>%1 immagine non leggibile è stata sostituita da un segnaposto.</numerusform>
-            <numerusform>%1 immagini non leggibili sono state sostituite da un segnaposto.</numerusform>
+            <numerusform>Non è stato possibile leggere %1 immagine; al suo posto c’è un segnaposto.</numerusform>
+            <numerusform>Non è stato possibile leggere %1 immagini; al loro posto ci sono segnaposti.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -753,10 +1332,6 @@ Add --skip-problems to rename the others.</source>
             <numerusform>Creata %1 foto in %2</numerusform>
             <numerusform>Create %1 foto in %2</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>Interrotto. Le foto create finora restano; elimini la cartella prima di riprovare.</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -849,8 +1424,8 @@ Add --skip-problems to rename the others.</source>
         <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
-            <numerusform>scomparso, ora segnato come perduto</numerusform>
-            <numerusform>scomparsi, ora segnati come perduti</numerusform>
+            <numerusform>mancante, ora segnato come perduto</numerusform>
+            <numerusform>mancanti, ora segnati come perduti</numerusform>
         </translation>
     </message>
     <message>
@@ -867,11 +1442,11 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
-        <translation>Interrotto. Ciò che è stato letto finora è nel catalogo; lo stesso comando riprende da lì.</translation>
+        <translation>Interrotto. Ciò che è stato letto finora è nel catalogo; esegua di nuovo lo stesso comando per continuare.</translation>
     </message>
     <message>
         <source>Analysing</source>
-        <translation>Osservazione</translation>
+        <translation>Analisi</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -887,7 +1462,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. Run the same command to continue.</source>
-        <translation>Interrotto. Lo stesso comando riprende da lì.</translation>
+        <translation>Interrotto. Esegua di nuovo lo stesso comando per continuare.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -1025,16 +1600,16 @@ Add --skip-problems to rename the others.</source>
     <message>
         <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
 mean of the photos in the group at that time; later photos move it.</source>
-        <translation>Una foto entra nel primo gruppo al cui centro, la media delle sue foto in quel momento, somigliava
-più di %1; le foto successive spostano il centro.</translation>
+        <translation>Una foto entra nel primo gruppo il cui centro le somiglia più di %1. Il centro è la media delle
+foto che sono nel gruppo in quel momento; le foto successive lo spostano.</translation>
     </message>
     <message>
         <source>Matching all photos again gives the same groups.</source>
-        <translation>I gruppi sono come li forma un nuovo confronto di tutte le foto.</translation>
+        <translation>Un nuovo confronto di tutte le foto dà gli stessi gruppi.</translation>
     </message>
     <message>
         <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
-        <translation>«lumidex similar --anew» forma i gruppi da zero.</translation>
+        <translation>«lumidex similar --anew» forma di nuovo tutti i gruppi.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1062,7 +1637,7 @@ più di %1; le foto successive spostano il centro.</translation>
     </message>
     <message>
         <source>set dates to %1</source>
-        <translation>impostare le date a %1</translation>
+        <translation>impostare le date al %1</translation>
     </message>
     <message>
         <source>rotate left</source>
@@ -1209,26 +1784,18 @@ più di %1; le foto successive spostano il centro.</translation>
     </message>
     <message>
         <source>Interrupted. What was done so far stays done.</source>
-        <translation>Interrotto. Ciò che è stato fatto finora resta.</translation>
+        <translation>Interrotto. Ciò che è stato fatto finora resta fatto.</translation>
     </message>
     <message numerus="yes">
         <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>Solo %1 passo dei %2 richiesti.</numerusform>
-            <numerusform>Solo %1 passi dei %2 richiesti.</numerusform>
+            <numerusform>Solo %1 dei %2 passi richiesti.</numerusform>
+            <numerusform>Solo %1 dei %2 passi richiesti.</numerusform>
         </translation>
     </message>
     <message>
         <source>The setting %1 is invalid (%2); the default is used.</source>
-        <translation>L’impostazione %1 non ha senso (%2); si usa il limite consueto.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1 giorno e %2</numerusform>
-            <numerusform>%1 giorni e %2</numerusform>
-        </translation>
+        <translation>L’impostazione %1 non è valida (%2); si usa il valore predefinito.</translation>
     </message>
     <message>
         <source>undone</source>
@@ -1236,13 +1803,8 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>annullato</translation>
     </message>
     <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>abbandonato</translation>
-    </message>
-    <message>
         <source>There is nothing to undo.</source>
-        <translation>Non c’è nulla che si possa annullare.</translation>
+        <translation>Non c’è nulla da annullare.</translation>
     </message>
     <message>
         <source>WHAT</source>
@@ -1293,7 +1855,7 @@ più di %1; le foto successive spostano il centro.</translation>
     </message>
     <message>
         <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
-        <translation>I passi più vecchi lo attendono; «lumidex undo --skip» lo lascia definitivamente com’è.</translation>
+        <translation>I passi più vecchi non si possono annullare prima di questo; «lumidex undo --skip» lo salta definitivamente.</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
@@ -1301,11 +1863,11 @@ più di %1; le foto successive spostano il centro.</translation>
     </message>
     <message>
         <source>Skipped: %1.</source>
-        <translation>Abbandonato: %1.</translation>
+        <translation>Saltato: %1.</translation>
     </message>
     <message>
         <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
-        <translation>Ciò che ne è conservato (%1) resta finché non è troppo vecchio o troppo grande.</translation>
+        <translation>I suoi originali (%1) sono conservati finché non superano i limiti di «undo».</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1314,21 +1876,20 @@ più di %1; le foto successive spostano il centro.</translation>
             <numerusform>%1 passi più vecchi non si possono più annullare.</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>I passi si possono annullare entro %1.</translation>
+        <translation>
+            <numerusform>I passi si possono annullare per %1 giorno d’uso, con al massimo %2 di originali.</numerusform>
+            <numerusform>I passi si possono annullare per %1 giorni d’uso, con al massimo %2 di originali.</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>Non c’è nulla da ripetere.</translation>
     </message>
     <message>
-        <source>There is nothing to undo.</source>
-        <translation>Non c’è nulla da annullare.</translation>
-    </message>
-    <message>
         <source>Copies would share names with files of other shots:</source>
-        <translation>Questi file sono di scatti diversi da quelli di cui condividono lì il nome:</translation>
+        <translation>Le copie condividerebbero il nome con file di altri scatti:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1348,7 +1909,7 @@ più di %1; le foto successive spostano il centro.</translation>
     </message>
     <message>
         <source>FROM</source>
-        <translation>DA</translation>
+        <translation>FONTE</translation>
     </message>
     <message>
         <source>CAMERA</source>
@@ -1389,14 +1950,6 @@ più di %1; le foto successive spostano il centro.</translation>
     <message>
         <source>FILE</source>
         <translation>FILE</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>%1 di %2 foto, scattata %3.</numerusform>
-            <numerusform>%1 di %2 foto, scattate %3.</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1525,8 +2078,8 @@ più di %1; le foto successive spostano il centro.</translation>
     <message numerus="yes">
         <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>È stata tralasciata %1 foto, perché solo l’ora del suo file la data. Per includerla, esegua: lumidex albums --file-times</numerusform>
-            <numerusform>Sono state tralasciate %1 foto, perché solo l’ora dei loro file le data. Per includerle, esegua: lumidex albums --file-times</numerusform>
+            <numerusform>È stata tralasciata %1 foto, perché non ha altra data che l’ora del suo file. Per includerla, esegua: lumidex albums --file-times</numerusform>
+            <numerusform>Sono state tralasciate %1 foto, perché non hanno altra data che l’ora dei loro file. Per includerle, esegua: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1536,11 +2089,7 @@ più di %1; le foto successive spostano il centro.</translation>
     </message>
     <message>
         <source>If all these photos are edited at once:</source>
-        <translation>Per una modifica di tutte queste foto insieme:</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Controllo</translation>
+        <translation>Se tutte queste foto sono modificate insieme:</translation>
     </message>
     <message>
         <source>its sidecar</source>
@@ -1565,22 +2114,6 @@ più di %1; le foto successive spostano il centro.</translation>
         <translation>
             <numerusform>%1 foto modificata; la modifica non si può annullare.</numerusform>
             <numerusform>%1 foto modificate; la modifica non si può annullare.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 di %2 foto, scattata il %3 o dopo.</numerusform>
-            <numerusform>%1 di %2 foto, scattate il %3 o dopo.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 di %2 foto, scattata il %3 o prima.</numerusform>
-            <numerusform>%1 di %2 foto, scattate il %3 o prima.</numerusform>
         </translation>
     </message>
     <message>
@@ -1609,8 +2142,8 @@ più di %1; le foto successive spostano il centro.</translation>
     <message numerus="yes">
         <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>%1 file non viene copiato: non si trova su un supporto rimovibile e resta dov’è. «--to CARTELLA» lo copia.</numerusform>
-            <numerusform>%1 file non vengono copiati: non si trovano su un supporto rimovibile e restano dove sono. «--to CARTELLA» li copia.</numerusform>
+            <numerusform>%1 file non viene copiato, perché non si trova su un supporto rimovibile; «--to CARTELLA» lo copia.</numerusform>
+            <numerusform>%1 file non vengono copiati, perché non si trovano su un supporto rimovibile; «--to CARTELLA» li copia.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1623,8 +2156,8 @@ più di %1; le foto successive spostano il centro.</translation>
     <message numerus="yes">
         <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>Si lascia %1 file di servizio di fotocamere e sistemi.</numerusform>
-            <numerusform>Si lasciano %1 file di servizio di fotocamere e sistemi.</numerusform>
+            <numerusform>%1 file di servizio di fotocamere e sistemi non viene copiato.</numerusform>
+            <numerusform>%1 file di servizio di fotocamere e sistemi non vengono copiati.</numerusform>
         </translation>
     </message>
     <message>
@@ -1638,8 +2171,8 @@ più di %1; le foto successive spostano il centro.</translation>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>%1 passo non si può più annullare: da allora sono trascorsi più di %2 giorni d’uso.</numerusform>
-            <numerusform>%1 passi non si possono più annullare: da allora sono trascorsi più di %2 giorni d’uso.</numerusform>
+            <numerusform>%1 passo non si può più annullare, perché sono trascorsi più di %2 giorni d’uso.</numerusform>
+            <numerusform>%1 passi non si possono più annullare, perché sono trascorsi più di %2 giorni d’uso.</numerusform>
         </translation>
     </message>
     <message>
@@ -1671,8 +2204,8 @@ più di %1; le foto successive spostano il centro.</translation>
     <message>
         <source>These may be photos that were moved, but several files or photos come into question.
 The photos keep their tags and albums, the files are new:</source>
-        <translation>Forse spostati, ma non si può stabilire. Le foto mantengono i loro tag e album,
-i file sono nuovi:</translation>
+        <translation>Possono essere foto spostate, ma ci sono più file o più foto possibili.
+Le foto mantengono i loro tag e album, i file sono nuovi:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1740,7 +2273,7 @@ i file sono nuovi:</translation>
     </message>
     <message>
         <source>has maker notes</source>
-        <translation>con la nota del produttore</translation>
+        <translation>con le note del produttore</translation>
     </message>
     <message>
         <source>not written by another program</source>
@@ -1763,13 +2296,6 @@ i file sono nuovi:</translation>
         <translation>
             <numerusform>%1 foto continua a non essere confrontabile; «lumidex similar --not-compared» la elenca.</numerusform>
             <numerusform>%1 foto continuano a non essere confrontabili; «lumidex similar --not-compared» le elenca.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>%1 di esse (%2) è la stessa immagine di quella da tenere; «lumidex similar --trash» la sposta nel cestino.</numerusform>
-            <numerusform>%1 di esse (%2) sono la stessa immagine di quella da tenere; «lumidex similar --trash» le sposta nel cestino.</numerusform>
         </translation>
     </message>
     <message>
@@ -1818,11 +2344,11 @@ i file sono nuovi:</translation>
     </message>
     <message>
         <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
-        <translation>Per poterlo annullare occorre conservare %1 di originali, e il limite è %2.</translation>
+        <translation>Per poter annullare la modifica occorre conservare %1 di originali, ma il limite è %2.</translation>
     </message>
     <message>
         <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
-        <translation>«lumidex undo --keep-size %1» alza il limite; con --no-undo non si conserva nulla e non si può annullare.</translation>
+        <translation>«lumidex undo --keep-size %1» alza il limite; con --no-undo non si conserva nulla e la modifica non si può annullare.</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1852,11 +2378,11 @@ i file sono nuovi:</translation>
     </message>
     <message>
         <source>No originals would be kept, so the edit could not be undone.</source>
-        <translation>Nulla sarebbe conservato: non si potrebbe annullare.</translation>
+        <translation>Non si conserverebbero originali, quindi la modifica non si potrebbe annullare.</translation>
     </message>
     <message>
         <source>The edit would be refused.</source>
-        <translation>Sarebbe rifiutato.</translation>
+        <translation>La modifica sarebbe rifiutata.</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1881,10 +2407,6 @@ i file sono nuovi:</translation>
         <comment>a photo is; a file</comment>
         <translation>somiglia a %1</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>Non la stessa immagine di quella da tenere, solo somiglianti:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1902,12 +2424,7 @@ i file sono nuovi:</translation>
     </message>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
-        <translation>Continuare senza ciò che serve per ripetere? [s/N]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>in corso</translation>
+        <translation>Annullare senza conservare ciò che serve per ripetere? [s/N]</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -1918,7 +2435,7 @@ i file sono nuovi:</translation>
     </message>
     <message>
         <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
-        <translation>Non c’è spazio per conservare ciò che serve per ripetere; «lumidex undo --no-redo» ne fa a meno.</translation>
+        <translation>Non c’è spazio per conservare ciò che serve per ripetere; «lumidex undo --no-redo» annulla senza conservarlo.</translation>
     </message>
     <message numerus="yes">
         <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
@@ -1942,17 +2459,17 @@ i file sono nuovi:</translation>
     <message numerus="yes">
         <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>Un’importazione tralascia %1 altro file (--json lo elenca).</numerusform>
-            <numerusform>Un’importazione tralascia altri %1 file (--json li elenca).</numerusform>
+            <numerusform>Un’importazione ignora %1 altro file (--json lo elenca).</numerusform>
+            <numerusform>Un’importazione ignora altri %1 file (--json li elenca).</numerusform>
         </translation>
     </message>
     <message>
         <source>Every file in %1 has a verified copy elsewhere.</source>
-        <translation>Non resta nulla in %1: ogni file ha altrove una copia confrontata.</translation>
+        <translation>Ogni file in %1 ha altrove una copia verificata.</translation>
     </message>
     <message>
         <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
-        <translation>In %1 restano solo file di servizio: ogni altro file ha altrove una copia confrontata.</translation>
+        <translation>Ogni file in %1, tranne i file di servizio, ha altrove una copia verificata.</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
@@ -1960,8 +2477,7 @@ i file sono nuovi:</translation>
     </message>
     <message>
         <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Per quanto riguarda questa cartella si può formattare senza rischi; ciò che le
-sta accanto non è stato esaminato.</translation>
+        <translation>La formattazione non fa perdere nulla di questa cartella; ciò che ne sta fuori non è stato controllato.</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -1969,7 +2485,7 @@ sta accanto non è stato esaminato.</translation>
     </message>
     <message>
         <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
-        <translation>Sul disco di %1 restano liberi %2, e per modificare tutte le foto servono %3: le ultime sarebbero lasciate come sono.</translation>
+        <translation>Sul disco di %1 sono liberi %2, ma per modificare tutte le foto servono %3: le ultime non sarebbero modificate.</translation>
     </message>
     <message numerus="yes">
         <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
@@ -1977,6 +2493,110 @@ sta accanto non è stato esaminato.</translation>
             <numerusform>Di %1 di esse il file di origine non c’è più o è stato modificato: non svuoti il cestino prima di avere un’altra copia.</numerusform>
             <numerusform>Di %1 di esse i file di origine non ci sono più o sono stati modificati: non svuoti il cestino prima di avere altre copie.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>Interrotto. Le foto modificate finora restano modificate.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>Interrotto. Le foto create finora restano; elimini la cartella prima di riprovare.</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1 GiB</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1 TiB</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1 PiB</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1 EiB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 di %2 foto, scattata il %3.</numerusform>
+            <numerusform>%1 di %2 foto, scattate il %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 di %2 foto, scattata dal %3 al %4.</numerusform>
+            <numerusform>%1 di %2 foto, scattate dal %3 al %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 di %2 foto, scattata il %3 o dopo.</numerusform>
+            <numerusform>%1 di %2 foto, scattate il %3 o dopo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 di %2 foto, scattata il %3 o prima.</numerusform>
+            <numerusform>%1 di %2 foto, scattate il %3 o prima.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>%1 di esse (%2) è la stessa immagine della foto da tenere; «lumidex similar --trash» la sposta nel cestino.</numerusform>
+            <numerusform>%1 di esse (%2) sono la stessa immagine della foto da tenere; «lumidex similar --trash» le sposta nel cestino.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>Non la stessa immagine della foto da tenere, solo somiglianti:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>non più annullabile</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>in corso</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>MOMENTO</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>%1 を編集できません: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>%1 の名前を変更できません: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>%1 の名前を %2 に変更できません: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>フォルダーに書き込めません。%1 のアクセス権を変更してください</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>フォルダーを変更できるのは所有者だけです。%1 の所有者またはアクセス権を変更してください</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>ディスクに新しい版を書き込む空きがありません (必要 %1 バイト、空き %2 バイト)。空きを増やしてください</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>書き込みが禁止されています。書き込みを許可するか、--force を付けてください</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>サイドカー %1 は書き込みが禁止されています。書き込みを許可するか、--force を付けてください</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>サイドカーもあわせて編集する必要があります。%1。サイドカーを修復するか移動してください</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>サイドカー %1 もあわせて編集する必要がありますが、%2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>ずらす日付がありません</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>年が1から9999の範囲を外れます</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>メタデータを失わずに変更できません (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>変更後のメタデータが誤ったものになります</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>テキストとして保存されたEXIFデータが破損しています</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>EXIFデータが破損しています</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>XMPデータが破損しています</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>TIFFのディレクトリが破損しています</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>画像の形式が不明です</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>この形式は編集できません</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>%1 形式の写真は編集できません</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>画像そのものが変わってしまいます</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空のファイルです</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>破損しています: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>2 GiBを超えています</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>16 MiBを超えています</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>読み取り中に変更されました</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>編集に必要なメモリが足りません</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>JPEGデータが破損しています</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>JPEGデータが画像の前で終わっています</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>JPEGデータが画像の前で途切れています</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>EXIFブロックに空きがありません</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>PNGデータが途切れています</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>PNGデータが画像で始まっていません</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>EXIFブロックが2つあります</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>WebPデータが途切れています</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>WebPデータに画像がありません</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>%1 をその場で変更できません</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>%1データの中の日付を変更できません</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>%2データの中の %1 を変更できません</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>終わりの前で途切れています</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>テキストが破損しています</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>プロパティが多すぎます</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 は変更していません: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 を編集しましたが、カタログを更新できませんでした (%2)。次に lumidex を実行すると更新されます</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 を書き込んだとおりに読み戻せません</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 は %2 に付属するため、そのままにします</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 は今のところありませんが、各版は保管されています (%2)。ディスクの空きを増やして、「lumidex undo」をもう一度実行してください</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 はそのままにします: もう一方の版を保管していた %2 をほかのプログラムが変更しました</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 はそのままにします: ディスクにもう一方の版 (%2 バイト) を置く空きがありません。空きを増やして、もう一度試してください</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 はそのままにします: もう一方の版はもう保管されていません</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 は後から変更されたため、そのままにします</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 はもうありません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>%1 にアクセスできません: ディスクが接続されていない可能性があります</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>元に戻すための記録 %1 を使えません: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>ほかのプログラムがこれを使って写真の名前を変更または編集しています。終わってからもう一度試してください</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>完了と取り消しのための空き %1 MiBがないと、操作を始められません (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>元に戻すための空きがありません (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>リンク %1 の参照先を変更できません: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>%1 をごみ箱に移動できません: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>ごみ箱に空いている名前がありません</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>同じ名前の別のファイルがあります</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>元の名前の別のファイルがあります</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>別のボリュームにあります</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>もうファイルではありません</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 は、写真を残したため、残しました</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 は、代わりに残した写真 %2 がもうないため、残しました</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 はごみ箱に %2 としてありますが、アクセスできません: ディスクが接続されていない可能性があります</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1 はごみ箱に %2 としてあるかもしれませんが、読み取れません: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 はもうごみ箱にありません。同じ名前の別のファイルがあります</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 はもうごみ箱になく、元に戻せません</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 はごみ箱に %2 として残っています: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>アルバム「%1」は、後から写真が追加されたため、残します</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>アルバム「%1」はもうありません</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>別のアルバムの名前が「%1」になっています</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 は残します: %2。</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>すでにごみ箱にあります</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>別のファイルへのリンクです</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>もうありません</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>分析の後に変更されました</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>比較の後に変更されました</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>残すファイルの別名です</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>残す %1 と同じ撮影のものです</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>グループのほかの写真には似ていますが、残す写真 %1 には似ていません</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>残す写真 %1 にないタグまたはアルバムがあります</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>RAWファイルで、グループに残すRAWファイルがありません</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>設定 %1 が失われます: 残す写真 %2 にはこの設定がありません</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>リンク %1 がこれを指しています</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>付属元の %1 を残します</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>%1 の設定が変更されました</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>残す写真 %1 はもうありません</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>残す写真 %1 は分析の後に変更されました</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>残す写真 %1 はもうファイルではありません</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>残す写真 %1 を読み取れません (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>残す写真 %1 はごみ箱にあります</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>残す写真 %1 は別のファイルへのリンクです</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>残す写真 %1 は画像の終わりの前で途切れています</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>残す写真 %1 は破損しています: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>中断していた「%1」の取り消しが完了しました。</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>中断していた「%1」のやり直しが完了しました。</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>中断していた「%1」の取り消しが、次を除いて完了しました:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>中断していた「%1」のやり直しが、次を除いて完了しました:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>中断していた操作「%1」が完了しました。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>「%1」は中断しました。%2 にアクセスできるようになったら完了します。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>「%1」は中断し、完了できません (%2)。ファイルは元の名前です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>「%1」は中断し、完了することも (%2)、元に戻すこともできません (%3)。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>「%1」は中断しました。編集した写真: %2。残りは変更していません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>「%1」は中断しました。作成したコピー: %2。残りをコピーするには同じ取り込みを実行してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>「%1」は中断しました。移動したファイル: %2。残りは元の場所にあります。</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>このカタログにない元のファイルを %1 に移動しました。</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 とサイドカーの内容が一致しません。片方だけが編集されたためです (%2)。</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>読み取れません</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>パイプまたはデバイスです</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>空のファイルです</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>破損しています: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>画像の形式が不明です</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>名前が正しいテキストではありません</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>名前は管理用ファイルですが、画像または動画の可能性があります</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>リンク先のファイルがありません</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>リンク先のファイルを読み取れません</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>リンクが自分自身に戻っています</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>リンク先のフォルダーを読み取れません</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>リンクが上のフォルダーに戻っています</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>リンク先のフォルダーはすでに調べています</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 は隠しファイルです</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>%1 は写真の名前ではありません</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 は存在しないファイルへのリンクです</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>コピー中に変更されました</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>コピーが元のファイルと異なります</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>コピーを書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>コピーを読み戻せません: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>コピーを記録できません</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>その間に別のファイルの名前が %1 になりました</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>コピーできなかった %1 と同じ内容です</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>取り込みを中断しました</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>見つからない写真%1枚のどれかの可能性があります</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>見つかりません。候補のファイルが%1個あります</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>変更または置き換えられていて、以前の内容のファイルがあります</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -166,7 +749,7 @@
     <message numerus="yes">
         <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>前回の読み込みで、カタログの写真%1枚がすべて見つかりませんでした。ディスクが外れていませんか?</numerusform>
+            <numerusform>前回の読み込みで、カタログの写真%1枚がすべて見つかりませんでした。接続されていないディスクはありませんか?</numerusform>
         </translation>
     </message>
     <message>
@@ -235,7 +818,7 @@
     </message>
     <message>
         <source>%1 was accepted before, and there are no photos to add.</source>
-        <translation>採用済みの %1 に変更はありません。</translation>
+        <translation>%1 は採用済みで、追加する写真はありません。</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -351,11 +934,11 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>祝日カレンダーを最後まで読めなかったため、一部の祝日がありません。次をお試しください: lumidex calendar check または lumidex calendar update</translation>
+        <translation>祝日カレンダーを完全には読めなかったため、一部の祝日がありません。次を実行してください: lumidex calendar check または lumidex calendar update</translation>
     </message>
     <message>
         <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>祝日カレンダー %1 を最後まで読めなかったため、一部の祝日がありません。次をお試しください: lumidex calendar check または lumidex calendar update</translation>
+        <translation>祝日カレンダー %1 を完全には読めなかったため、一部の祝日がありません。次を実行してください: lumidex calendar check または lumidex calendar update</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -391,7 +974,7 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>no problems found.</source>
-        <translation>問題はありません。</translation>
+        <translation>問題は見つかりませんでした。</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -413,10 +996,6 @@ holiday, or of the weekends of one month.</source>
     <message>
         <source>Editing</source>
         <translation>編集中</translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>中断しました。それまでに編集した写真はそのままです。</translation>
     </message>
     <message>
         <source>upright</source>
@@ -493,7 +1072,7 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
-        <translation>中断しました。コピー済みのものは完全で、比較も済んでいます。同じコマンドで残りをコピーします。</translation>
+        <translation>中断しました。それまでのコピーは完全で、検証も済んでいます。残りをコピーするには同じコマンドを実行してください。</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
@@ -501,15 +1080,15 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>Would be added to the catalogue without copying:</source>
-        <translation>元の場所のまま取り込むもの:</translation>
+        <translation>コピーせずにカタログに追加するもの:</translation>
     </message>
     <message>
         <source>Copies of one shot would get different names:</source>
-        <translation>次のファイルはそれぞれ同じ撮影のものですが、空いている名前ではそうなりません:</translation>
+        <translation>同じ撮影のコピーが別々の名前になるもの:</translation>
     </message>
     <message>
         <source>Not copied:</source>
-        <translation>見つからないもの:</translation>
+        <translation>コピーしなかったもの:</translation>
     </message>
     <message>
         <source>Not added to the catalogue:</source>
@@ -517,7 +1096,7 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>Skipped:</source>
-        <translation>除外したもの:</translation>
+        <translation>省いたもの:</translation>
     </message>
     <message numerus="yes">
         <source>and %1 more (--json lists them)</source>
@@ -561,7 +1140,7 @@ holiday, or of the weekends of one month.</source>
         <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>写真%1枚を元の場所のまま取り込むことになります。</numerusform>
+            <numerusform>写真%1枚をコピーせずに追加することになります。</numerusform>
         </translation>
     </message>
     <message>
@@ -573,19 +1152,19 @@ nothing was changed.</source>
     <message numerus="yes">
         <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>ファイル%1個 (%2) を %3 へコピーし、すべて比較しました。</numerusform>
+            <numerusform>ファイル%1個 (%2) を %3 へコピーし、検証しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>カタログに新しい写真%1枚。</numerusform>
+            <numerusform>写真%1枚をカタログに追加しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>ファイル%1個がありません。同じコマンドでもう一度試します。</numerusform>
+            <numerusform>ファイル%1個をコピーできませんでした。もう一度試すには同じコマンドを実行してください。</numerusform>
         </translation>
     </message>
     <message>
@@ -596,7 +1175,7 @@ nothing was changed.</source>
     <message>
         <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>%1 はありません。%2 を使います。</translation>
+        <translation>%1 には対応していません。%2 を使います。</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -637,13 +1216,13 @@ nothing was changed.</source>
     <message numerus="yes">
         <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>写真%1枚には固有の日付がないため、ファイルの時刻を使います。</numerusform>
+            <numerusform>写真%1枚には日付がないため、ファイルの時刻を使います。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>ファイル%1個はすでにその名前です。</numerusform>
+            <numerusform>ファイル%1個はすでに新しい名前です。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -699,7 +1278,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Problems</source>
-        <translation>妨げになっているもの</translation>
+        <translation>問題</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -716,10 +1295,6 @@ Add --skip-problems to rename the others.</source>
         <translation>
             <numerusform>写真%1枚を %2 に作成しました</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>中断しました。それまでに作成した写真は残っています。もう一度試す前にフォルダーを削除してください。</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -820,11 +1395,11 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
-        <translation>中断しました。それまでに読み取ったものはカタログにあります。同じコマンドで続きから始めます。</translation>
+        <translation>中断しました。それまでに読み取ったものはカタログにあります。続けるには同じコマンドを実行してください。</translation>
     </message>
     <message>
         <source>Analysing</source>
-        <translation>確認中</translation>
+        <translation>分析中</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -840,7 +1415,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. Run the same command to continue.</source>
-        <translation>中断しました。同じコマンドで続きから始めます。</translation>
+        <translation>中断しました。続けるには同じコマンドを実行してください。</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -973,16 +1548,16 @@ Add --skip-problems to rename the others.</source>
     <message>
         <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
 mean of the photos in the group at that time; later photos move it.</source>
-        <translation>写真は、その時点の写真の平均であるグループの中心との類似度が %1 を
-超えた最初のグループに入ります。その後の写真は中心を動かします。</translation>
+        <translation>写真は、中心との類似度が %1 を超える最初のグループに入ります。中心とは、その時点で
+グループにある写真の平均です。その後の写真は中心を動かします。</translation>
     </message>
     <message>
         <source>Matching all photos again gives the same groups.</source>
-        <translation>グループは、すべての写真を比較し直した結果と同じです。</translation>
+        <translation>すべての写真を比較し直しても、同じグループになります。</translation>
     </message>
     <message>
         <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
-        <translation>「lumidex similar --anew」でグループを最初から作り直します。</translation>
+        <translation>「lumidex similar --anew」ですべてのグループを作り直します。</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1156,19 +1731,12 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>%2件のうち%1件だけです。</numerusform>
+            <numerusform>ご指定の%2件のうち%1件だけです。</numerusform>
         </translation>
     </message>
     <message>
         <source>The setting %1 is invalid (%2); the default is used.</source>
-        <translation>設定 %1 の値が正しくありません (%2)。通常の上限を使います。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1日間、%2まで</numerusform>
-        </translation>
+        <translation>設定 %1 の値が正しくありません (%2)。既定値を使います。</translation>
     </message>
     <message>
         <source>undone</source>
@@ -1176,13 +1744,8 @@ mean of the photos in the group at that time; later photos move it.</source>
         <translation>取り消し済み</translation>
     </message>
     <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>断念</translation>
-    </message>
-    <message>
         <source>There is nothing to undo.</source>
-        <translation>元に戻せるものはありません。</translation>
+        <translation>元に戻すものはありません。</translation>
     </message>
     <message>
         <source>WHAT</source>
@@ -1231,7 +1794,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
-        <translation>それより前の操作はこれを待っています。「lumidex undo --skip」で、これをこのまま確定します。</translation>
+        <translation>それより前の操作は、これを元に戻すまで元に戻せません。「lumidex undo --skip」で、これを今後ずっと飛ばします。</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
@@ -1239,11 +1802,11 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>Skipped: %1.</source>
-        <translation>断念しました: %1。</translation>
+        <translation>飛ばしました: %1。</translation>
     </message>
     <message>
         <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
-        <translation>保管しているもの (%1) は、古くなりすぎるか多くなりすぎるまで残ります。</translation>
+        <translation>元のファイル (%1) は、「undo」の上限を超えるまで保管されます。</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1251,21 +1814,19 @@ mean of the photos in the group at that time; later photos move it.</source>
             <numerusform>以前の操作%1件は、もう元に戻せません。</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>操作を元に戻せる範囲: %1。</translation>
+        <translation>
+            <numerusform>操作は使用日数%1日以内、元のファイルは%2まで、元に戻せます。</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>やり直すものはありません。</translation>
     </message>
     <message>
-        <source>There is nothing to undo.</source>
-        <translation>元に戻すものはありません。</translation>
-    </message>
-    <message>
         <source>Copies would share names with files of other shots:</source>
-        <translation>次のファイルは、そこで名前を共有するものとは別の撮影のものです:</translation>
+        <translation>コピーが別の撮影のファイルと同じ名前になるもの:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1325,13 +1886,6 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message>
         <source>FILE</source>
         <translation>ファイル</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>写真%2枚のうち%1枚、撮影 %3。</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1454,7 +2008,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>写真%1枚を除外しました。日付の手がかりがファイルの時刻しかないためです。含めるには、次を実行してください: lumidex albums --file-times</numerusform>
+            <numerusform>写真%1枚を除外しました。ファイルの時刻のほかに日付がないためです。含めるには、次を実行してください: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1465,10 +2019,6 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message>
         <source>If all these photos are edited at once:</source>
         <translation>これらの写真をすべて一度に編集する場合:</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>確認中</translation>
     </message>
     <message>
         <source>its sidecar</source>
@@ -1490,20 +2040,6 @@ mean of the photos in the group at that time; later photos move it.</source>
         <source>%1 photos edited; it cannot be undone.</source>
         <translation>
             <numerusform>写真%1枚を編集しました。元に戻すことはできません。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>写真%2枚のうち%1枚、撮影 %3 以降。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>写真%2枚のうち%1枚、撮影 %3 以前。</numerusform>
         </translation>
     </message>
     <message>
@@ -1531,7 +2067,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>ファイル%1個はコピーしません。リムーバブルストレージにないため、元の場所に残ります。「--to フォルダー」でコピーできます。</numerusform>
+            <numerusform>ファイル%1個はリムーバブルストレージにないため、コピーしません。「--to フォルダー」でコピーできます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1543,7 +2079,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>カメラやシステムの管理用ファイル%1個は残します。</numerusform>
+            <numerusform>カメラやシステムの管理用ファイル%1個はコピーしません。</numerusform>
         </translation>
     </message>
     <message>
@@ -1557,7 +2093,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>操作%1件は、もう元に戻せません。その後の使用日数が%2日を超えました。</numerusform>
+            <numerusform>操作%1件は、使用日数が%2日を超えたため、もう元に戻せません。</numerusform>
         </translation>
     </message>
     <message>
@@ -1586,8 +2122,8 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message>
         <source>These may be photos that were moved, but several files or photos come into question.
 The photos keep their tags and albums, the files are new:</source>
-        <translation>移動された可能性がありますが、判断できません。写真のタグとアルバムはそのままで、
-ファイルは新規として扱います:</translation>
+        <translation>移動された写真かもしれませんが、候補のファイルまたは写真が複数あります。
+写真のタグとアルバムはそのままで、ファイルは新規として扱います:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1675,12 +2211,6 @@ The photos keep their tags and albums, the files are new:</source>
             <numerusform>写真%1枚は、以前と同じく比較できません。「lumidex similar --not-compared」で一覧を表示します。</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>うち%1枚 (%2) は残すものと同じ画像です。「lumidex similar --trash」でごみ箱に移動できます。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>They are the same picture.</source>
         <translation>同じ画像です。</translation>
@@ -1727,11 +2257,11 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
-        <translation>元に戻せるようにするには、元のファイルを %1 保管する必要がありますが、上限は %2 です。</translation>
+        <translation>編集を元に戻せるようにするには、元のファイルを %1 保管する必要がありますが、上限は %2 です。</translation>
     </message>
     <message>
         <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
-        <translation>「lumidex undo --keep-size %1」で上限を上げられます。--no-undo を付けると何も保管せず、元に戻せません。</translation>
+        <translation>「lumidex undo --keep-size %1」で上限を上げられます。--no-undo を付けると何も保管せず、編集を元に戻せません。</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1759,11 +2289,11 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>No originals would be kept, so the edit could not be undone.</source>
-        <translation>何も保管されず、元に戻せなくなります。</translation>
+        <translation>元のファイルは保管されず、編集を元に戻せなくなります。</translation>
     </message>
     <message>
         <source>The edit would be refused.</source>
-        <translation>拒否されます。</translation>
+        <translation>編集は拒否されます。</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1786,10 +2316,6 @@ The photos keep their tags and albums, the files are new:</source>
         <comment>a photo is; a file</comment>
         <translation>%1 に似ている</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>残すものと同じ画像ではなく、似ているだけのもの:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1805,12 +2331,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
-        <translation>やり直しに必要なものを保管せずに続行しますか? [h/N]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>進行中</translation>
+        <translation>やり直しに必要なものを保管せずに元に戻しますか? [h/N]</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -1820,7 +2341,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
-        <translation>やり直しに必要なものを保管する空きがありません。「lumidex undo --no-redo」なら保管せずに実行します。</translation>
+        <translation>やり直しに必要なものを保管する空きがありません。「lumidex undo --no-redo」なら保管せずに元に戻します。</translation>
     </message>
     <message numerus="yes">
         <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
@@ -1842,16 +2363,16 @@ The photos keep their tags and albums, the files are new:</source>
     <message numerus="yes">
         <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>取り込みでは、ほかのファイル%1個が残ります (--json ですべて表示)。</numerusform>
+            <numerusform>取り込みでは、ほかのファイル%1個が省かれます (--json ですべて表示)。</numerusform>
         </translation>
     </message>
     <message>
         <source>Every file in %1 has a verified copy elsewhere.</source>
-        <translation>%1 に残りはありません。どのファイルも別の場所に比較済みのコピーがあります。</translation>
+        <translation>%1 のどのファイルも、別の場所に検証済みのコピーがあります。</translation>
     </message>
     <message>
         <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
-        <translation>%1 に残っているのは管理用ファイルだけです。ほかのどのファイルも別の場所に比較済みのコピーがあります。</translation>
+        <translation>%1 のファイルは、管理用ファイルを除き、どれも別の場所に検証済みのコピーがあります。</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
@@ -1859,8 +2380,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>このフォルダーに限れば安全にフォーマットできます。その隣にあるものは
-調べていません。</translation>
+        <translation>フォーマットしても、このフォルダーのものは失われません。フォルダーの外にあるものは調べていません。</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -1868,13 +2388,112 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
-        <translation>%1 があるディスクの空きは %2 ですが、すべての写真を編集するには %3 必要です。最後のほうの写真はそのまま残ります。</translation>
+        <translation>%1 があるディスクの空きは %2 ですが、すべての写真を編集するには %3 必要です。最後のほうの写真は編集されません。</translation>
     </message>
     <message numerus="yes">
         <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
         <translation>
             <numerusform>うち%1個はコピー元がなくなったか、変更されています。別のコピーを用意するまでごみ箱を空にしないでください。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>中断しました。それまでに編集した写真は編集済みのままです。</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>中断しました。それまでに作成した写真は残っています。もう一度試す前にフォルダーを削除してください。</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1 GiB</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1 TiB</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1 PiB</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1 EiB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>写真%2枚のうち%1枚、撮影日 %3。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>写真%2枚のうち%1枚、撮影日 %3 から %4 まで。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>写真%2枚のうち%1枚、撮影日 %3 以降。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>写真%2枚のうち%1枚、撮影日 %3 以前。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>うち%1枚 (%2) は残す写真と同じ画像です。「lumidex similar --trash」でごみ箱に移動できます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>残す写真と同じ画像ではなく、似ているだけのもの:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>元に戻せません</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>進行中</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>日時</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>%1 kan niet worden bewerkt: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>%1 kan niet worden hernoemd: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>%1 kan niet worden hernoemd naar %2: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>%1 kan niet worden gelezen: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kan niet worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>%1 kan niet worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>in de map kan niet worden geschreven; wijzig de rechten van %1</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>alleen de eigenaar mag in de map iets wijzigen; wijzig de eigenaar of de rechten van %1</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>op de schijf is geen ruimte voor een nieuwe versie (%1 bytes nodig, %2 vrij); maak daar ruimte vrij</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>het bestand is tegen schrijven beveiligd; sta schrijven toe of gebruik --force</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>het sidecarbestand %1 is tegen schrijven beveiligd; sta schrijven toe of gebruik --force</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>het sidecarbestand moet mee worden bewerkt. %1; repareer of verplaats het sidecarbestand</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>het sidecarbestand %1 moet mee worden bewerkt, maar %2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>er is geen datum om te verschuiven</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>het jaar zou niet tussen 1 en 9999 liggen</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>de metagegevens kunnen niet zonder verlies worden gewijzigd (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>de metagegevens zouden daarna onjuist zijn</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>de EXIF-gegevens, die als tekst zijn opgeslagen, zijn beschadigd</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>de EXIF-gegevens zijn beschadigd</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>de XMP-gegevens zijn beschadigd</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>de TIFF-directory is beschadigd</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>het afbeeldingsformaat is onbekend</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>het formaat kan niet worden bewerkt</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>foto’s in het formaat %1 kunnen niet worden bewerkt</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>de afbeelding zou veranderen</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>het bestand is leeg</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>het bestand is beschadigd: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>het bestand is groter dan 2 GiB</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>het bestand is groter dan 16 MiB</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>het bestand is tijdens het lezen gewijzigd</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>voor het bewerken is niet genoeg geheugen</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>de JPEG-gegevens zijn beschadigd</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>de JPEG-gegevens eindigen vóór de afbeelding</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>de JPEG-gegevens breken vóór de afbeelding af</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>er is geen ruimte meer in het EXIF-blok</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>de PNG-gegevens breken af</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>de PNG-gegevens beginnen niet met een afbeelding</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>er zijn twee EXIF-blokken</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>de WebP-gegevens breken af</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>de WebP-gegevens bevatten geen afbeelding</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>%1 kan niet ter plaatse worden gewijzigd</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>de datum kan niet in de %1-gegevens worden gewijzigd</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>%1 kan niet in de %2-gegevens worden gewijzigd</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>het bestand breekt vóór het einde af</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>de tekst is beschadigd</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>het bestand heeft te veel eigenschappen</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 is ongewijzigd: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 is bewerkt, maar de catalogus kon niet worden bijgewerkt (%2). De volgende keer werkt lumidex die bij</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 kan niet worden teruggelezen zoals het is geschreven</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 wordt gelaten zoals het is, omdat het bij %2 hoort</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 ontbreekt voorlopig, maar de versies zijn bewaard (%2). Maak ruimte vrij op de schijf en voer ‘lumidex undo’ opnieuw uit</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 wordt gelaten zoals het is: een ander programma heeft %2 gewijzigd, waar de andere versie was bewaard</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 wordt gelaten zoals het is: op de schijf is geen ruimte voor de andere versie (%2 bytes). Maak daar ruimte vrij en probeer het opnieuw</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 wordt gelaten zoals het is: de andere versie is niet meer bewaard</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 is later gewijzigd en wordt gelaten zoals het is</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 bestaat niet meer</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>%1 is niet bereikbaar: misschien is de schijf niet aangesloten</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kan niet worden gelezen: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>Het logboek %1 voor ongedaan maken kan niet worden gebruikt: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>een ander programma hernoemt of bewerkt er foto’s mee; probeer het opnieuw als dat klaar is</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>zonder %1 MiB vrije ruimte om een stap te voltooien en ongedaan te maken wordt er geen begonnen (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>er is geen ruimte om het ongedaan te maken (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>Het doel van de koppeling %1 kan niet worden gewijzigd: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>%1 kan niet naar de prullenbak worden verplaatst: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>geen vrije naam in de prullenbak</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>een ander bestand heeft die naam</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>een ander bestand heeft de vroegere naam</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>het staat op een ander volume</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>het is geen bestand meer</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 is bewaard, omdat de bijbehorende foto is bewaard</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 is bewaard, omdat de foto die in plaats ervan is bewaard, %2, niet meer bestaat</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 ligt in de prullenbak als %2, die niet bereikbaar is: misschien is de schijf niet aangesloten</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1 ligt misschien in de prullenbak als %2, dat niet kan worden gelezen: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 ligt niet meer in de prullenbak; een ander bestand heeft de naam</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 ligt niet meer in de prullenbak en kan niet worden teruggehaald</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 blijft in de prullenbak als %2: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>Het album ‘%1’ blijft, omdat er later foto’s aan zijn toegevoegd</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>Het album ‘%1’ bestaat niet meer</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>Een ander album heet nu ‘%1’</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 blijft: %2.</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>het ligt al in een prullenbak</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>het is een koppeling naar een ander bestand</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>het bestaat niet meer</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>het is na de analyse gewijzigd</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>het is na de vergelijking gewijzigd</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>het is een andere naam van een bestand dat blijft</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>het hoort bij dezelfde opname als %1, dat blijft</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>het lijkt op andere van de groep, maar niet op de foto om te bewaren, %1</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>het heeft tags of albums die de foto om te bewaren, %1, niet heeft</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>het is een raw-bestand, en geen raw-bestand van de groep blijft</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>de instellingen, %1, zouden verloren gaan: de foto om te bewaren, %2, heeft ze niet</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>de koppeling %1 leidt ernaartoe</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>%1, waar het bij hoort, blijft</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>de instellingen in %1 zijn gewijzigd</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>de foto om te bewaren, %1, bestaat niet meer</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>de foto om te bewaren, %1, is na de analyse gewijzigd</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>de foto om te bewaren, %1, is geen bestand meer</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>de foto om te bewaren, %1, kan niet worden gelezen (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>de foto om te bewaren, %1, ligt in een prullenbak</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>de foto om te bewaren, %1, is een koppeling naar een ander bestand</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>de foto om te bewaren, %1, breekt vóór het einde van de afbeelding af</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>de foto om te bewaren, %1, is beschadigd: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>Het afgebroken ongedaan maken van ‘%1’ is nu voltooid.</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>Het afgebroken opnieuw doen van ‘%1’ is nu voltooid.</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Het afgebroken ongedaan maken van ‘%1’ is nu voltooid, behalve voor:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Het afgebroken opnieuw doen van ‘%1’ is nu voltooid, behalve voor:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>De afgebroken stap ‘%1’ is nu voltooid.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>‘%1’ is afgebroken en wordt voltooid zodra %2 bereikbaar is.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>‘%1’ is afgebroken en kan niet worden voltooid (%2); de bestanden hebben hun vroegere namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>‘%1’ is afgebroken en kan niet worden voltooid (%2) en ook niet ongedaan worden gemaakt (%3).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>‘%1’ is afgebroken. Bewerkte foto’s: %2; de andere zijn ongewijzigd.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>‘%1’ is afgebroken. Gemaakte kopieën: %2; herhaal de import om de rest te kopiëren.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>‘%1’ is afgebroken. Verplaatste bestanden: %2; de andere staan waar ze stonden.</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>Originelen die deze catalogus niet kent, zijn verplaatst naar %1.</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 en het sidecarbestand komen niet overeen, omdat maar één van beide is bewerkt (%2).</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>Het kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>Het is een pipe of een apparaat</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Het is geen gewoon bestand</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Het is leeg</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>Het is beschadigd: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>Het afbeeldingsformaat is onbekend</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>De naam is geen geldige tekst</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>Het heeft de naam van een beheerbestand, maar kan een afbeelding of een video zijn</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>De koppeling leidt naar een bestand dat ontbreekt</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>De koppeling leidt naar een bestand dat niet kan worden gelezen</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>De koppeling leidt naar zichzelf terug</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>De koppeling leidt naar een map die niet kan worden gelezen</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>De koppeling leidt terug naar een bovenliggende map</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>De koppeling leidt naar een map die al is bezocht</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 is verborgen</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>%1 heeft geen naam van een foto</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 is een koppeling naar een bestand dat ontbreekt</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>het is tijdens het kopiëren gewijzigd</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>de kopie wijkt af van het origineel</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>de kopie kan niet worden geschreven: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>de kopie kan niet worden teruggelezen: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>de kopie kan niet worden geregistreerd</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>een ander bestand heeft intussen de naam %1 gekregen</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>het is identiek aan %1, dat niet kon worden gekopieerd</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>de import is afgebroken</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>Het kan elk van %1 ontbrekende foto’s zijn</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>De foto ontbreekt, en %1 bestanden kunnen het zijn</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>De foto is gewijzigd of vervangen, en een bestand heeft de vroegere inhoud</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -167,8 +750,8 @@
     <message numerus="yes">
         <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>De %1 foto van de catalogus was bij het laatste inlezen verdwenen. Ontbreekt er een schijf?</numerusform>
-            <numerusform>Alle %1 foto’s van de catalogus waren bij het laatste inlezen verdwenen. Ontbreekt er een schijf?</numerusform>
+            <numerusform>De %1 foto van de catalogus ontbrak bij het laatste inlezen. Is er een schijf niet aangesloten?</numerusform>
+            <numerusform>Alle %1 foto’s van de catalogus ontbraken bij het laatste inlezen. Is er een schijf niet aangesloten?</numerusform>
         </translation>
     </message>
     <message>
@@ -241,7 +824,7 @@
     </message>
     <message>
         <source>%1 was accepted before, and there are no photos to add.</source>
-        <translation>Niets te wijzigen in het al geaccepteerde %1.</translation>
+        <translation>%1 was al geaccepteerd en er zijn geen foto’s om toe te voegen.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -364,11 +947,11 @@ van één feestdag of van de weekenden van één maand.</translation>
     </message>
     <message>
         <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>De feestdagenkalender kon niet tot het einde worden gelezen, dus er ontbreken feestdagen. Probeer: lumidex calendar check of lumidex calendar update.</translation>
+        <translation>De feestdagenkalender kon niet volledig worden gelezen, dus er ontbreken feestdagen. Voer uit: lumidex calendar check of lumidex calendar update.</translation>
     </message>
     <message>
         <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>De feestdagenkalender %1 kon niet tot het einde worden gelezen, dus er ontbreken feestdagen. Probeer: lumidex calendar check of lumidex calendar update.</translation>
+        <translation>De feestdagenkalender %1 kon niet volledig worden gelezen, dus er ontbreken feestdagen. Voer uit: lumidex calendar check of lumidex calendar update.</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -405,7 +988,7 @@ van één feestdag of van de weekenden van één maand.</translation>
     </message>
     <message>
         <source>no problems found.</source>
-        <translation>niets staat in de weg.</translation>
+        <translation>geen problemen gevonden.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -427,10 +1010,6 @@ van één feestdag of van de weekenden van één maand.</translation>
     <message>
         <source>Editing</source>
         <translation>Bewerken</translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>Afgebroken. De tot nu toe bewerkte foto’s blijven bewerkt.</translation>
     </message>
     <message>
         <source>upright</source>
@@ -509,7 +1088,7 @@ van één feestdag of van de weekenden van één maand.</translation>
     </message>
     <message>
         <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
-        <translation>Afgebroken. Wat is gekopieerd, is volledig en vergeleken; dezelfde opdracht kopieert de rest.</translation>
+        <translation>Afgebroken. De tot nu toe gemaakte kopieën zijn volledig en gecontroleerd; voer dezelfde opdracht uit om de rest te kopiëren.</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
@@ -517,15 +1096,15 @@ van één feestdag of van de weekenden van één maand.</translation>
     </message>
     <message>
         <source>Would be added to the catalogue without copying:</source>
-        <translation>Zouden op hun plaats worden opgenomen:</translation>
+        <translation>Zouden zonder kopiëren in de catalogus worden opgenomen:</translation>
     </message>
     <message>
         <source>Copies of one shot would get different names:</source>
-        <translation>Deze bestanden horen telkens bij één opname, maar de vrije namen ervoor niet:</translation>
+        <translation>Kopieën van één opname zouden verschillende namen krijgen:</translation>
     </message>
     <message>
         <source>Not copied:</source>
-        <translation>Ontbreekt:</translation>
+        <translation>Niet gekopieerd:</translation>
     </message>
     <message>
         <source>Not added to the catalogue:</source>
@@ -533,7 +1112,7 @@ van één feestdag of van de weekenden van één maand.</translation>
     </message>
     <message>
         <source>Skipped:</source>
-        <translation>Weggelaten:</translation>
+        <translation>Overgeslagen:</translation>
     </message>
     <message numerus="yes">
         <source>and %1 more (--json lists them)</source>
@@ -582,8 +1161,8 @@ van één feestdag of van de weekenden van één maand.</translation>
         <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>%1 foto op zijn plaats opgenomen.</numerusform>
-            <numerusform>%1 foto’s op hun plaats opgenomen.</numerusform>
+            <numerusform>%1 foto zou zonder kopiëren worden opgenomen.</numerusform>
+            <numerusform>%1 foto’s zouden zonder kopiëren worden opgenomen.</numerusform>
         </translation>
     </message>
     <message>
@@ -595,22 +1174,22 @@ er is niets gewijzigd.</translation>
     <message numerus="yes">
         <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>%1 bestand (%2) gekopieerd naar %3 en vergeleken.</numerusform>
-            <numerusform>%1 bestanden (%2) gekopieerd naar %3, elk vergeleken.</numerusform>
+            <numerusform>%1 bestand (%2) gekopieerd naar %3 en gecontroleerd.</numerusform>
+            <numerusform>%1 bestanden (%2) gekopieerd naar %3 en gecontroleerd.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>%1 nieuwe foto in de catalogus.</numerusform>
-            <numerusform>%1 nieuwe foto’s in de catalogus.</numerusform>
+            <numerusform>%1 foto opgenomen in de catalogus.</numerusform>
+            <numerusform>%1 foto’s opgenomen in de catalogus.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>%1 bestand ontbreekt; dezelfde opdracht probeert het opnieuw.</numerusform>
-            <numerusform>%1 bestanden ontbreken; dezelfde opdracht probeert het opnieuw.</numerusform>
+            <numerusform>%1 bestand is niet gekopieerd; voer dezelfde opdracht uit om het opnieuw te proberen.</numerusform>
+            <numerusform>%1 bestanden zijn niet gekopieerd; voer dezelfde opdracht uit om het opnieuw te proberen.</numerusform>
         </translation>
     </message>
     <message>
@@ -621,7 +1200,7 @@ er is niets gewijzigd.</translation>
     <message>
         <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>%1 bestaat niet; %2 wordt gebruikt.</translation>
+        <translation>%1 wordt niet ondersteund; %2 wordt gebruikt.</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -662,35 +1241,35 @@ er is niets gewijzigd.</translation>
     <message numerus="yes">
         <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>%1 foto heeft geen eigen datum; de tijd van het bestand wordt gebruikt.</numerusform>
-            <numerusform>%1 foto’s hebben geen eigen datum; de tijden van de bestanden worden gebruikt.</numerusform>
+            <numerusform>%1 foto heeft geen datum; de tijd van het bestand wordt gebruikt.</numerusform>
+            <numerusform>%1 foto’s hebben geen datum; de tijden van de bestanden worden gebruikt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>%1 bestand heeft zijn naam al.</numerusform>
-            <numerusform>%1 bestanden hebben hun naam al.</numerusform>
+            <numerusform>%1 bestand heeft zijn nieuwe naam al.</numerusform>
+            <numerusform>%1 bestanden hebben hun nieuwe naam al.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Er zou niets worden hernoemd: de nieuwe naam kan niet bij %1 van %2 foto. Met
---skip-problems worden de andere hernoemd.</numerusform>
-            <numerusform>Er zou niets worden hernoemd: de nieuwe naam kan niet bij %1 van %2 foto’s. Met
---skip-problems worden de andere hernoemd.</numerusform>
+            <numerusform>Er zou niets worden hernoemd: de nieuwe naam kan niet bij %1 van %2 foto.
+Met --skip-problems worden de andere hernoemd.</numerusform>
+            <numerusform>Er zou niets worden hernoemd: de nieuwe naam kan niet bij %1 van %2 foto’s.
+Met --skip-problems worden de andere hernoemd.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Er is niets hernoemd: de nieuwe naam kan niet bij %1 van %2 foto. Met
---skip-problems worden de andere hernoemd.</numerusform>
-            <numerusform>Er is niets hernoemd: de nieuwe naam kan niet bij %1 van %2 foto’s. Met
---skip-problems worden de andere hernoemd.</numerusform>
+            <numerusform>Er is niets hernoemd: de nieuwe naam kan niet bij %1 van %2 foto.
+Met --skip-problems worden de andere hernoemd.</numerusform>
+            <numerusform>Er is niets hernoemd: de nieuwe naam kan niet bij %1 van %2 foto’s.
+Met --skip-problems worden de andere hernoemd.</numerusform>
         </translation>
     </message>
     <message>
@@ -734,7 +1313,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Problems</source>
-        <translation>In de weg</translation>
+        <translation>Problemen</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -743,8 +1322,8 @@ Add --skip-problems to rename the others.</source>
     <message numerus="yes">
         <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
-            <numerusform>%1 afbeelding kon niet worden gelezen en is vervangen door een leeg vak.</numerusform>
-            <numerusform>%1 afbeeldingen konden niet worden gelezen en zijn vervangen door een leeg vak.</numerusform>
+            <numerusform>%1 afbeelding kon niet worden gelezen; een leeg vak staat ervoor in de plaats.</numerusform>
+            <numerusform>%1 afbeeldingen konden niet worden gelezen; lege vakken staan ervoor in de plaats.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -753,10 +1332,6 @@ Add --skip-problems to rename the others.</source>
             <numerusform>%1 foto gemaakt in %2</numerusform>
             <numerusform>%1 foto’s gemaakt in %2</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>Afgebroken. De tot nu toe gemaakte foto’s blijven staan; verwijder de map voor een nieuwe poging.</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -849,8 +1424,8 @@ Add --skip-problems to rename the others.</source>
         <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
-            <numerusform>verdwenen, nu als verloren gemarkeerd</numerusform>
-            <numerusform>verdwenen, nu als verloren gemarkeerd</numerusform>
+            <numerusform>ontbreekt, nu als verloren gemarkeerd</numerusform>
+            <numerusform>ontbreken, nu als verloren gemarkeerd</numerusform>
         </translation>
     </message>
     <message>
@@ -867,11 +1442,11 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
-        <translation>Afgebroken. Wat tot nu toe is gelezen, staat in de catalogus; dezelfde opdracht gaat daar verder.</translation>
+        <translation>Afgebroken. Wat tot nu toe is gelezen, staat in de catalogus; voer dezelfde opdracht uit om door te gaan.</translation>
     </message>
     <message>
         <source>Analysing</source>
-        <translation>Bekijken</translation>
+        <translation>Analyseren</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -887,7 +1462,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. Run the same command to continue.</source>
-        <translation>Afgebroken. Dezelfde opdracht gaat daar verder.</translation>
+        <translation>Afgebroken. Voer dezelfde opdracht uit om door te gaan.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -1025,16 +1600,16 @@ Add --skip-problems to rename the others.</source>
     <message>
         <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
 mean of the photos in the group at that time; later photos move it.</source>
-        <translation>Een foto komt in de eerste groep waarvan het midden, het gemiddelde van de foto’s op dat moment,
-voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</translation>
+        <translation>Een foto komt in de eerste groep waarvan het midden er voor meer dan %1 op lijkt. Het midden is
+het gemiddelde van de foto’s die dan in de groep zitten; latere foto’s verschuiven het.</translation>
     </message>
     <message>
         <source>Matching all photos again gives the same groups.</source>
-        <translation>De groepen zijn zoals een nieuwe vergelijking van alle foto’s ze vormt.</translation>
+        <translation>Een nieuwe vergelijking van alle foto’s geeft dezelfde groepen.</translation>
     </message>
     <message>
         <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
-        <translation>‘lumidex similar --anew’ vormt de groepen helemaal opnieuw.</translation>
+        <translation>‘lumidex similar --anew’ vormt alle groepen opnieuw.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1209,26 +1784,18 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     </message>
     <message>
         <source>Interrupted. What was done so far stays done.</source>
-        <translation>Afgebroken. Wat tot nu toe is gedaan, blijft zo.</translation>
+        <translation>Afgebroken. Wat tot nu toe is gedaan, blijft gedaan.</translation>
     </message>
     <message numerus="yes">
         <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>Slechts %1 stap van de %2 gevraagde.</numerusform>
-            <numerusform>Slechts %1 stappen van de %2 gevraagde.</numerusform>
+            <numerusform>Slechts %1 van de %2 gevraagde stappen.</numerusform>
+            <numerusform>Slechts %1 van de %2 gevraagde stappen.</numerusform>
         </translation>
     </message>
     <message>
         <source>The setting %1 is invalid (%2); the default is used.</source>
-        <translation>De instelling %1 is onzinnig (%2); de gebruikelijke grens wordt gebruikt.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1 dag en %2</numerusform>
-            <numerusform>%1 dagen en %2</numerusform>
-        </translation>
+        <translation>De instelling %1 is ongeldig (%2); de standaardwaarde wordt gebruikt.</translation>
     </message>
     <message>
         <source>undone</source>
@@ -1236,13 +1803,8 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>ongedaan gemaakt</translation>
     </message>
     <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>losgelaten</translation>
-    </message>
-    <message>
         <source>There is nothing to undo.</source>
-        <translation>Er is niets dat ongedaan kan worden gemaakt.</translation>
+        <translation>Er is niets ongedaan te maken.</translation>
     </message>
     <message>
         <source>WHAT</source>
@@ -1293,7 +1855,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     </message>
     <message>
         <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
-        <translation>Oudere stappen wachten erop; ‘lumidex undo --skip’ laat het voorgoed zoals het is.</translation>
+        <translation>Oudere stappen kunnen niet vóór deze ongedaan worden gemaakt; ‘lumidex undo --skip’ slaat deze voorgoed over.</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
@@ -1301,11 +1863,11 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     </message>
     <message>
         <source>Skipped: %1.</source>
-        <translation>Losgelaten: %1.</translation>
+        <translation>Overgeslagen: %1.</translation>
     </message>
     <message>
         <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
-        <translation>Wat ervan is bewaard (%1), blijft tot het te oud of te veel is.</translation>
+        <translation>De originelen ervan (%1) blijven bewaard tot ze de grenzen van ‘undo’ overschrijden.</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1314,21 +1876,20 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
             <numerusform>%1 oudere stappen kunnen niet meer ongedaan worden gemaakt.</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>Stappen kunnen ongedaan worden gemaakt binnen %1.</translation>
+        <translation>
+            <numerusform>Stappen kunnen %1 gebruiksdag lang ongedaan worden gemaakt, met hoogstens %2 aan originelen.</numerusform>
+            <numerusform>Stappen kunnen %1 gebruiksdagen lang ongedaan worden gemaakt, met hoogstens %2 aan originelen.</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>Er is niets opnieuw te doen.</translation>
     </message>
     <message>
-        <source>There is nothing to undo.</source>
-        <translation>Er is niets ongedaan te maken.</translation>
-    </message>
-    <message>
         <source>Copies would share names with files of other shots:</source>
-        <translation>Deze bestanden zijn van andere opnamen dan die waarmee ze daar de naam delen:</translation>
+        <translation>Kopieën zouden een naam delen met bestanden van andere opnamen:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1348,7 +1909,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     </message>
     <message>
         <source>FROM</source>
-        <translation>UIT</translation>
+        <translation>BRON</translation>
     </message>
     <message>
         <source>CAMERA</source>
@@ -1389,14 +1950,6 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     <message>
         <source>FILE</source>
         <translation>BESTAND</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>%1 van %2 foto, genomen %3.</numerusform>
-            <numerusform>%1 van %2 foto’s, genomen %3.</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1525,8 +2078,8 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     <message numerus="yes">
         <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>%1 foto is weggelaten, want alleen de tijd van het bestand dateert deze. Voer uit om deze op te nemen: lumidex albums --file-times</numerusform>
-            <numerusform>%1 foto’s zijn weggelaten, want alleen de tijden van de bestanden dateren ze. Voer uit om ze op te nemen: lumidex albums --file-times</numerusform>
+            <numerusform>%1 foto is weggelaten, omdat deze geen andere datum heeft dan de tijd van het bestand. Voer uit om deze op te nemen: lumidex albums --file-times</numerusform>
+            <numerusform>%1 foto’s zijn weggelaten, omdat ze geen andere datum hebben dan de tijd van hun bestanden. Voer uit om ze op te nemen: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1536,11 +2089,7 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     </message>
     <message>
         <source>If all these photos are edited at once:</source>
-        <translation>Bij het bewerken van al deze foto’s tegelijk:</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Controleren</translation>
+        <translation>Als al deze foto’s tegelijk worden bewerkt:</translation>
     </message>
     <message>
         <source>its sidecar</source>
@@ -1565,22 +2114,6 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
         <translation>
             <numerusform>%1 foto bewerkt; dit kan niet ongedaan worden gemaakt.</numerusform>
             <numerusform>%1 foto’s bewerkt; dit kan niet ongedaan worden gemaakt.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 van %2 foto, genomen op %3 of later.</numerusform>
-            <numerusform>%1 van %2 foto’s, genomen op %3 of later.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 van %2 foto, genomen op %3 of eerder.</numerusform>
-            <numerusform>%1 van %2 foto’s, genomen op %3 of eerder.</numerusform>
         </translation>
     </message>
     <message>
@@ -1609,8 +2142,8 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     <message numerus="yes">
         <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>%1 bestand wordt niet gekopieerd: het staat niet op verwisselbare opslag en blijft waar het is. ‘--to MAP’ kopieert het.</numerusform>
-            <numerusform>%1 bestanden worden niet gekopieerd: ze staan niet op verwisselbare opslag en blijven waar ze zijn. ‘--to MAP’ kopieert ze.</numerusform>
+            <numerusform>%1 bestand wordt niet gekopieerd, omdat het niet op verwisselbare opslag staat; ‘--to MAP’ kopieert het.</numerusform>
+            <numerusform>%1 bestanden worden niet gekopieerd, omdat ze niet op verwisselbare opslag staan; ‘--to MAP’ kopieert ze.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1623,8 +2156,8 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     <message numerus="yes">
         <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>%1 beheerbestand van camera’s en systemen blijft achter.</numerusform>
-            <numerusform>%1 beheerbestanden van camera’s en systemen blijven achter.</numerusform>
+            <numerusform>%1 beheerbestand van camera’s en systemen wordt niet gekopieerd.</numerusform>
+            <numerusform>%1 beheerbestanden van camera’s en systemen worden niet gekopieerd.</numerusform>
         </translation>
     </message>
     <message>
@@ -1638,8 +2171,8 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     <message numerus="yes">
         <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>%1 stap kan niet meer ongedaan worden gemaakt: sindsdien zijn meer dan %2 gebruiksdagen verstreken.</numerusform>
-            <numerusform>%1 stappen kunnen niet meer ongedaan worden gemaakt: sindsdien zijn meer dan %2 gebruiksdagen verstreken.</numerusform>
+            <numerusform>%1 stap kan niet meer ongedaan worden gemaakt, omdat meer dan %2 gebruiksdagen zijn verstreken.</numerusform>
+            <numerusform>%1 stappen kunnen niet meer ongedaan worden gemaakt, omdat meer dan %2 gebruiksdagen zijn verstreken.</numerusform>
         </translation>
     </message>
     <message>
@@ -1671,8 +2204,8 @@ voor meer dan %1 op de foto leek; latere foto’s verschuiven het midden.</trans
     <message>
         <source>These may be photos that were moved, but several files or photos come into question.
 The photos keep their tags and albums, the files are new:</source>
-        <translation>Misschien verplaatst, maar dat is niet te zeggen. De foto’s houden hun tags en
-albums, de bestanden zijn nieuw:</translation>
+        <translation>Dit kunnen verplaatste foto’s zijn, maar er komen meer bestanden of foto’s in aanmerking.
+De foto’s houden hun tags en albums, de bestanden zijn nieuw:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1740,7 +2273,7 @@ albums, de bestanden zijn nieuw:</translation>
     </message>
     <message>
         <source>has maker notes</source>
-        <translation>met notitie van de fabrikant</translation>
+        <translation>met notities van de fabrikant</translation>
     </message>
     <message>
         <source>not written by another program</source>
@@ -1763,13 +2296,6 @@ albums, de bestanden zijn nieuw:</translation>
         <translation>
             <numerusform>%1 foto kan nog steeds niet worden vergeleken; ‘lumidex similar --not-compared’ somt deze op.</numerusform>
             <numerusform>%1 foto’s kunnen nog steeds niet worden vergeleken; ‘lumidex similar --not-compared’ somt ze op.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>%1 ervan (%2) is dezelfde afbeelding als die om te bewaren; ‘lumidex similar --trash’ verplaatst deze naar de prullenbak.</numerusform>
-            <numerusform>%1 ervan (%2) zijn dezelfde afbeelding als die om te bewaren; ‘lumidex similar --trash’ verplaatst ze naar de prullenbak.</numerusform>
         </translation>
     </message>
     <message>
@@ -1818,11 +2344,11 @@ albums, de bestanden zijn nieuw:</translation>
     </message>
     <message>
         <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
-        <translation>Om het ongedaan te kunnen maken moet %1 aan originelen worden bewaard, en de grens is %2.</translation>
+        <translation>Om de bewerking ongedaan te kunnen maken moet %1 aan originelen worden bewaard, maar de grens is %2.</translation>
     </message>
     <message>
         <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
-        <translation>‘lumidex undo --keep-size %1’ verhoogt de grens; met --no-undo wordt niets bewaard en kan het niet ongedaan worden gemaakt.</translation>
+        <translation>‘lumidex undo --keep-size %1’ verhoogt de grens; met --no-undo wordt niets bewaard en kan de bewerking niet ongedaan worden gemaakt.</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1852,11 +2378,11 @@ albums, de bestanden zijn nieuw:</translation>
     </message>
     <message>
         <source>No originals would be kept, so the edit could not be undone.</source>
-        <translation>Er zou niets worden bewaard: het zou niet ongedaan kunnen worden gemaakt.</translation>
+        <translation>Er zouden geen originelen worden bewaard, dus de bewerking zou niet ongedaan kunnen worden gemaakt.</translation>
     </message>
     <message>
         <source>The edit would be refused.</source>
-        <translation>Het zou worden geweigerd.</translation>
+        <translation>De bewerking zou worden geweigerd.</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1881,10 +2407,6 @@ albums, de bestanden zijn nieuw:</translation>
         <comment>a photo is; a file</comment>
         <translation>lijkt op %1</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>Niet dezelfde afbeelding als die om te bewaren, alleen gelijkend:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1902,12 +2424,7 @@ albums, de bestanden zijn nieuw:</translation>
     </message>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
-        <translation>Doorgaan zonder wat nodig is om het opnieuw te doen? [j/N]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>loopt nog</translation>
+        <translation>Ongedaan maken zonder te bewaren wat nodig is om het opnieuw te doen? [j/N]</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -1942,17 +2459,17 @@ albums, de bestanden zijn nieuw:</translation>
     <message numerus="yes">
         <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>Een import laat %1 ander bestand achter (--json somt het op).</numerusform>
-            <numerusform>Een import laat %1 andere bestanden achter (--json somt ze op).</numerusform>
+            <numerusform>Een import slaat %1 ander bestand over (--json somt het op).</numerusform>
+            <numerusform>Een import slaat %1 andere bestanden over (--json somt ze op).</numerusform>
         </translation>
     </message>
     <message>
         <source>Every file in %1 has a verified copy elsewhere.</source>
-        <translation>Er blijft niets achter in %1: elk bestand heeft elders een vergeleken kopie.</translation>
+        <translation>Elk bestand in %1 heeft elders een gecontroleerde kopie.</translation>
     </message>
     <message>
         <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
-        <translation>In %1 blijven alleen beheerbestanden achter: elk ander bestand heeft elders een vergeleken kopie.</translation>
+        <translation>Elk bestand in %1, behalve de beheerbestanden, heeft elders een gecontroleerde kopie.</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
@@ -1960,8 +2477,7 @@ albums, de bestanden zijn nieuw:</translation>
     </message>
     <message>
         <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Wat deze map betreft is formatteren veilig; wat ernaast staat, is niet
-bekeken.</translation>
+        <translation>Bij het formatteren gaat niets van deze map verloren; wat erbuiten staat, is niet gecontroleerd.</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -1969,7 +2485,7 @@ bekeken.</translation>
     </message>
     <message>
         <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
-        <translation>Op de schijf van %1 is nog %2 vrij, en het bewerken van alle foto’s vergt %3: de laatste zouden worden gelaten zoals ze zijn.</translation>
+        <translation>De schijf van %1 heeft %2 vrij, maar het bewerken van alle foto’s vergt %3: de laatste zouden niet worden bewerkt.</translation>
     </message>
     <message numerus="yes">
         <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
@@ -1977,6 +2493,110 @@ bekeken.</translation>
             <numerusform>Van %1 ervan is de bron verdwenen of gewijzigd: maak de prullenbak niet leeg voordat u een andere kopie hebt.</numerusform>
             <numerusform>Van %1 ervan zijn de bronnen verdwenen of gewijzigd: maak de prullenbak niet leeg voordat u andere kopieën hebt.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>Afgebroken. De tot nu toe bewerkte foto’s blijven bewerkt.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>Afgebroken. De tot nu toe gemaakte foto’s blijven staan; verwijder de map voordat u het opnieuw probeert.</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1 GiB</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1 TiB</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1 PiB</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1 EiB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 van %2 foto, genomen op %3.</numerusform>
+            <numerusform>%1 van %2 foto’s, genomen op %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 van %2 foto, genomen van %3 tot en met %4.</numerusform>
+            <numerusform>%1 van %2 foto’s, genomen van %3 tot en met %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 van %2 foto, genomen op %3 of later.</numerusform>
+            <numerusform>%1 van %2 foto’s, genomen op %3 of later.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 van %2 foto, genomen op %3 of eerder.</numerusform>
+            <numerusform>%1 van %2 foto’s, genomen op %3 of eerder.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>%1 ervan (%2) is dezelfde afbeelding als de foto om te bewaren; ‘lumidex similar --trash’ verplaatst deze naar de prullenbak.</numerusform>
+            <numerusform>%1 ervan (%2) zijn dezelfde afbeelding als de foto om te bewaren; ‘lumidex similar --trash’ verplaatst ze naar de prullenbak.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>Niet dezelfde afbeelding als de foto om te bewaren, alleen gelijkend:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>niet meer ongedaan te maken</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>loopt nog</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>TIJDSTIP</translation>
     </message>
 </context>
 <context>

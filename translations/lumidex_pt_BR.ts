@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>Não é possível editar %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>Não é possível renomear %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>Não é possível renomear %1 para %2: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Não é possível ler %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Não é possível gravar %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>não é possível gravar %1: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>não é possível gravar na pasta dele; mude as permissões de %1</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>a pasta dele só aceita mudanças do proprietário; mude o proprietário ou as permissões de %1</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>no disco dele não há espaço para uma nova versão (são necessários %1 bytes, há %2 livres); libere espaço lá</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>está protegido contra gravação; permita a gravação ou use --force</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>o arquivo auxiliar %1 está protegido contra gravação; permita a gravação ou use --force</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>o arquivo auxiliar precisa ser editado junto com a foto. %1; repare ou mova o arquivo auxiliar</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>o arquivo auxiliar %1 precisa ser editado junto com a foto, mas %2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>não tem data para deslocar</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>o ano não ficaria entre 1 e 9999</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>os metadados não podem ser alterados sem perda (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>os metadados ficariam errados depois</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>os dados EXIF, guardados como texto, estão danificados</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>os dados EXIF estão danificados</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>os dados XMP estão danificados</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>o diretório TIFF está danificado</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>o formato de imagem é desconhecido</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>o formato não pode ser editado</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>fotos no formato %1 não podem ser editadas</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>a imagem mudaria</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vazio</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>está danificado: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>é maior que 2 GiB</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>é maior que 16 MiB</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>foi alterado durante a leitura</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>a edição precisa de mais memória do que há</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>os dados JPEG estão danificados</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>os dados JPEG terminam antes da imagem</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>os dados JPEG são interrompidos antes da imagem</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>não há mais espaço no bloco EXIF</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>os dados PNG são interrompidos</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>os dados PNG não começam com uma imagem</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>há dois blocos EXIF</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>os dados WebP são interrompidos</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>os dados WebP não contêm imagem</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>%1 não pode ser alterado no lugar</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>a data não pode ser alterada nos dados %1</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>%1 não pode ser alterado nos dados %2</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>é interrompido antes do fim</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>o texto está danificado</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>há propriedades demais</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 não foi alterado: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 foi editado, mas o catálogo não pôde ser atualizado (%2). A próxima execução do lumidex o atualiza</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 não pode ser relido como foi gravado</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 fica como está, porque pertence a %2</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 está ausente por enquanto, mas as versões estão guardadas (%2). Libere espaço no disco e execute “lumidex undo” novamente</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 fica como está: outro programa alterou %2, onde a outra versão estava guardada</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 fica como está: no disco não há espaço para a outra versão (%2 bytes). Libere espaço lá e tente novamente</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 fica como está: a outra versão não está mais guardada</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 foi alterado depois e fica como está</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 não existe mais</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>%1 não está acessível: talvez o disco não esteja conectado</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 não pode ser lido: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>O registro de desfazer %1 não pode ser usado: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>outro programa o está usando para renomear ou editar fotos; tente novamente quando ele terminar</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>nenhuma etapa começa sem %1 MiB livres para concluí-la e desfazê-la (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>não há espaço para desfazer (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>Não é possível mudar o destino do link %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>Não é possível mover %1 para a lixeira: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>nenhum nome livre na lixeira</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>outro arquivo tem esse nome</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>outro arquivo tem o nome antigo</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>está em outro volume</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>não é mais um arquivo</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 foi mantido, porque a foto dele foi mantida</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 foi mantido, porque a foto mantida no lugar dele, %2, não existe mais</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 está na lixeira como %2, que não está acessível: talvez o disco não esteja conectado</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1 talvez esteja na lixeira como %2, que não pode ser lido: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 não está mais na lixeira; outro arquivo tem o nome dele</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 não está mais na lixeira e não pode ser recuperado</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 permanece na lixeira como %2: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>O álbum “%1” é mantido, porque fotos foram adicionadas a ele depois</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>O álbum “%1” não existe mais</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>Outro álbum agora se chama “%1”</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 é mantido: %2.</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>já está em uma lixeira</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>é um link para outro arquivo</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>não existe mais</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>foi alterado depois da análise</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>foi alterado depois da comparação</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>é outro nome de um arquivo que é mantido</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>é do mesmo disparo que %1, que é mantido</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>é parecido com outros do grupo, mas não com a foto que convém manter, %1</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>tem etiquetas ou álbuns que a foto que convém manter, %1, não tem</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>é um arquivo RAW, e nenhum arquivo RAW do grupo é mantido</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>os ajustes, %1, seriam perdidos: a foto que convém manter, %2, não os tem</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>o link %1 leva a ele</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>%1, a que pertence, é mantido</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>os ajustes em %1 foram alterados</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>a foto que convém manter, %1, não existe mais</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>a foto que convém manter, %1, foi alterada depois da análise</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>a foto que convém manter, %1, não é mais um arquivo</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>a foto que convém manter, %1, não pode ser lida (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>a foto que convém manter, %1, está em uma lixeira</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>a foto que convém manter, %1, é um link para outro arquivo</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>a foto que convém manter, %1, é interrompida antes do fim da imagem</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>a foto que convém manter, %1, está danificada: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>A ação interrompida de desfazer “%1” foi concluída agora.</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>A ação interrompida de refazer “%1” foi concluída agora.</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>A ação interrompida de desfazer “%1” foi concluída agora, exceto:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>A ação interrompida de refazer “%1” foi concluída agora, exceto:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>A etapa interrompida “%1” foi concluída agora.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>“%1” foi interrompido e será concluído assim que %2 estiver acessível.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>“%1” foi interrompido e não pode ser concluído (%2); os arquivos têm os nomes antigos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>“%1” foi interrompido e não pode ser concluído (%2) nem desfeito (%3).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>“%1” foi interrompido. Fotos editadas: %2; as outras não foram alteradas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>“%1” foi interrompido. Cópias feitas: %2; repita a mesma importação para copiar o resto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>“%1” foi interrompido. Arquivos movidos: %2; os outros estão onde estavam.</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>Originais que este catálogo não conhece foram movidos para %1.</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 e o arquivo auxiliar não concordam, porque só um dos dois foi editado (%2).</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>Não pode ser lido</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>É um pipe ou um dispositivo</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Não é um arquivo comum</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Está vazio</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>Está danificado: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>O formato de imagem é desconhecido</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>O nome não é um texto válido</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>Tem nome de arquivo de controle, mas pode ser uma imagem ou um vídeo</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>O link leva a um arquivo ausente</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>O link leva a um arquivo que não pode ser lido</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>O link leva de volta a si mesmo</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>O link leva a uma pasta que não pode ser lida</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>O link leva de volta a uma pasta superior</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>O link leva a uma pasta já visitada</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 está oculto</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>%1 não tem nome de foto</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 é um link para um arquivo ausente</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>foi alterado durante a cópia</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>a cópia difere do original</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>a cópia não pode ser gravada: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>a cópia não pode ser relida: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>a cópia não pode ser registrada</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>nesse meio-tempo outro arquivo recebeu o nome %1</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>é idêntico a %1, que não pôde ser copiado</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>a importação foi interrompida</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>Pode ser qualquer uma de %1 fotos ausentes</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>Está ausente, e %1 arquivos podem ser ela</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>Foi alterada ou substituída, e um arquivo tem o conteúdo antigo</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -167,8 +750,8 @@
     <message numerus="yes">
         <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>A %1 foto do catálogo não estava mais lá na última leitura. Falta algum disco?</numerusform>
-            <numerusform>Todas as %1 fotos do catálogo não estavam mais lá na última leitura. Falta algum disco?</numerusform>
+            <numerusform>A %1 foto do catálogo faltava na última leitura. Há algum disco não conectado?</numerusform>
+            <numerusform>Todas as %1 fotos do catálogo faltavam na última leitura. Há algum disco não conectado?</numerusform>
         </translation>
     </message>
     <message>
@@ -241,7 +824,7 @@
     </message>
     <message>
         <source>%1 was accepted before, and there are no photos to add.</source>
-        <translation>Nada a mudar em %1, aceito anteriormente.</translation>
+        <translation>%1 já estava aceito, e não há fotos a adicionar.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -364,11 +947,11 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
     </message>
     <message>
         <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>O calendário de feriados não pôde ser lido até o fim, por isso faltam feriados. Tente: lumidex calendar check ou lumidex calendar update.</translation>
+        <translation>O calendário de feriados não pôde ser lido por completo, por isso faltam feriados. Execute: lumidex calendar check ou lumidex calendar update.</translation>
     </message>
     <message>
         <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>O calendário de feriados %1 não pôde ser lido até o fim, por isso faltam feriados. Tente: lumidex calendar check ou lumidex calendar update.</translation>
+        <translation>O calendário de feriados %1 não pôde ser lido por completo, por isso faltam feriados. Execute: lumidex calendar check ou lumidex calendar update.</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -405,7 +988,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
     </message>
     <message>
         <source>no problems found.</source>
-        <translation>nada impede.</translation>
+        <translation>nenhum problema encontrado.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -427,10 +1010,6 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
     <message>
         <source>Editing</source>
         <translation>Editando</translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>Interrompido. As fotos editadas até agora permanecem assim.</translation>
     </message>
     <message>
         <source>upright</source>
@@ -509,7 +1088,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
     </message>
     <message>
         <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
-        <translation>Interrompido. O que foi copiado está completo e comparado; o mesmo comando copia o resto.</translation>
+        <translation>Interrompido. As cópias feitas até agora estão completas e verificadas; execute o mesmo comando para copiar o resto.</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
@@ -517,15 +1096,15 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
     </message>
     <message>
         <source>Would be added to the catalogue without copying:</source>
-        <translation>Seriam incluídas onde estão:</translation>
+        <translation>Seriam incluídas no catálogo sem copiar:</translation>
     </message>
     <message>
         <source>Copies of one shot would get different names:</source>
-        <translation>Os arquivos de cada um destes disparos andam juntos, mas os nomes livres para eles não:</translation>
+        <translation>Cópias de um mesmo disparo teriam nomes diferentes:</translation>
     </message>
     <message>
         <source>Not copied:</source>
-        <translation>Faltam:</translation>
+        <translation>Não copiados:</translation>
     </message>
     <message>
         <source>Not added to the catalogue:</source>
@@ -533,7 +1112,7 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
     </message>
     <message>
         <source>Skipped:</source>
-        <translation>Deixados de fora:</translation>
+        <translation>Ignorados:</translation>
     </message>
     <message numerus="yes">
         <source>and %1 more (--json lists them)</source>
@@ -582,8 +1161,8 @@ de um mesmo feriado ou dos fins de semana de um mês.</translation>
         <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>%1 foto incluída onde está.</numerusform>
-            <numerusform>%1 fotos incluídas onde estão.</numerusform>
+            <numerusform>%1 foto seria incluída sem copiar.</numerusform>
+            <numerusform>%1 fotos seriam incluídas sem copiar.</numerusform>
         </translation>
     </message>
     <message>
@@ -595,22 +1174,22 @@ nada foi alterado.</translation>
     <message numerus="yes">
         <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>%1 arquivo (%2) copiado para %3 e comparado.</numerusform>
-            <numerusform>%1 arquivos (%2) copiados para %3, todos comparados.</numerusform>
+            <numerusform>%1 arquivo (%2) copiado para %3 e verificado.</numerusform>
+            <numerusform>%1 arquivos (%2) copiados para %3 e verificados.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>%1 nova foto no catálogo.</numerusform>
-            <numerusform>%1 novas fotos no catálogo.</numerusform>
+            <numerusform>%1 foto incluída no catálogo.</numerusform>
+            <numerusform>%1 fotos incluídas no catálogo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>Falta %1 arquivo; o mesmo comando tenta novamente.</numerusform>
-            <numerusform>Faltam %1 arquivos; o mesmo comando tenta novamente.</numerusform>
+            <numerusform>%1 arquivo não foi copiado; execute o mesmo comando para tentar novamente.</numerusform>
+            <numerusform>%1 arquivos não foram copiados; execute o mesmo comando para tentar novamente.</numerusform>
         </translation>
     </message>
     <message>
@@ -621,7 +1200,7 @@ nada foi alterado.</translation>
     <message>
         <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>%1 não existe; %2 será usado.</translation>
+        <translation>%1 não está disponível; %2 será usado.</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -662,35 +1241,35 @@ nada foi alterado.</translation>
     <message numerus="yes">
         <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>%1 foto não tem data própria; a hora do arquivo é usada.</numerusform>
-            <numerusform>%1 fotos não têm data própria; as horas dos arquivos são usadas.</numerusform>
+            <numerusform>%1 foto não tem data; a hora do arquivo é usada.</numerusform>
+            <numerusform>%1 fotos não têm data; as horas dos arquivos são usadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>%1 arquivo já tem seu nome.</numerusform>
-            <numerusform>%1 arquivos já têm seus nomes.</numerusform>
+            <numerusform>%1 arquivo já tem o nome novo.</numerusform>
+            <numerusform>%1 arquivos já têm os nomes novos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing would be renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Nada seria renomeado: o novo nome é impossível para %1 de %2 foto. Com
---skip-problems, as outras são renomeadas.</numerusform>
-            <numerusform>Nada seria renomeado: o novo nome é impossível para %1 de %2 fotos. Com
---skip-problems, as outras são renomeadas.</numerusform>
+            <numerusform>Nada seria renomeado: o novo nome é impossível para %1 de %2 foto.
+Com --skip-problems, as outras são renomeadas.</numerusform>
+            <numerusform>Nada seria renomeado: o novo nome é impossível para %1 de %2 fotos.
+Com --skip-problems, as outras são renomeadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Nothing was renamed: %1 of %2 photos cannot get their new names.
 Add --skip-problems to rename the others.</source>
         <translation>
-            <numerusform>Nada foi renomeado: o novo nome é impossível para %1 de %2 foto. Com
---skip-problems, as outras são renomeadas.</numerusform>
-            <numerusform>Nada foi renomeado: o novo nome é impossível para %1 de %2 fotos. Com
---skip-problems, as outras são renomeadas.</numerusform>
+            <numerusform>Nada foi renomeado: o novo nome é impossível para %1 de %2 foto.
+Com --skip-problems, as outras são renomeadas.</numerusform>
+            <numerusform>Nada foi renomeado: o novo nome é impossível para %1 de %2 fotos.
+Com --skip-problems, as outras são renomeadas.</numerusform>
         </translation>
     </message>
     <message>
@@ -734,7 +1313,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Problems</source>
-        <translation>O que impede</translation>
+        <translation>Problemas</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -743,8 +1322,8 @@ Add --skip-problems to rename the others.</source>
     <message numerus="yes">
         <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
-            <numerusform>%1 imagem não pôde ser lida e foi substituída por um espaço reservado.</numerusform>
-            <numerusform>%1 imagens não puderam ser lidas e foram substituídas por um espaço reservado.</numerusform>
+            <numerusform>%1 imagem não pôde ser lida; há um espaço reservado no lugar dela.</numerusform>
+            <numerusform>%1 imagens não puderam ser lidas; há espaços reservados no lugar delas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -753,10 +1332,6 @@ Add --skip-problems to rename the others.</source>
             <numerusform>%1 foto criada em %2</numerusform>
             <numerusform>%1 fotos criadas em %2</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>Interrompido. As fotos criadas até agora permanecem; exclua a pasta antes de tentar novamente.</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -849,8 +1424,8 @@ Add --skip-problems to rename the others.</source>
         <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
-            <numerusform>desaparecido, agora marcado como perdido</numerusform>
-            <numerusform>desaparecidos, agora marcados como perdidos</numerusform>
+            <numerusform>ausente, agora marcado como perdido</numerusform>
+            <numerusform>ausentes, agora marcados como perdidos</numerusform>
         </translation>
     </message>
     <message>
@@ -867,11 +1442,11 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
-        <translation>Interrompido. O que foi lido até agora está no catálogo; o mesmo comando continua a partir daí.</translation>
+        <translation>Interrompido. O que foi lido até agora está no catálogo; execute o mesmo comando para continuar.</translation>
     </message>
     <message>
         <source>Analysing</source>
-        <translation>Examinando</translation>
+        <translation>Analisando</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -887,7 +1462,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. Run the same command to continue.</source>
-        <translation>Interrompido. O mesmo comando continua a partir daí.</translation>
+        <translation>Interrompido. Execute o mesmo comando para continuar.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -1025,16 +1600,16 @@ Add --skip-problems to rename the others.</source>
     <message>
         <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
 mean of the photos in the group at that time; later photos move it.</source>
-        <translation>Uma foto entra no primeiro grupo com cujo centro, a média das suas fotos naquele momento, a
-semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
+        <translation>Uma foto entra no primeiro grupo com cujo centro a semelhança passa de %1. O centro é a média
+das fotos que estão no grupo nesse momento; fotos posteriores o deslocam.</translation>
     </message>
     <message>
         <source>Matching all photos again gives the same groups.</source>
-        <translation>Os grupos são os que uma nova comparação de todas as fotos forma.</translation>
+        <translation>Uma nova comparação de todas as fotos dá os mesmos grupos.</translation>
     </message>
     <message>
         <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
-        <translation>“lumidex similar --anew” forma os grupos do zero.</translation>
+        <translation>“lumidex similar --anew” forma todos os grupos novamente.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1062,7 +1637,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     </message>
     <message>
         <source>set dates to %1</source>
-        <translation>definir datas como %1</translation>
+        <translation>definir as datas para %1</translation>
     </message>
     <message>
         <source>rotate left</source>
@@ -1209,26 +1784,18 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     </message>
     <message>
         <source>Interrupted. What was done so far stays done.</source>
-        <translation>Interrompido. O que foi feito até agora permanece assim.</translation>
+        <translation>Interrompido. O que foi feito até agora permanece feito.</translation>
     </message>
     <message numerus="yes">
         <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>Apenas %1 etapa das %2 pedidas.</numerusform>
-            <numerusform>Apenas %1 etapas das %2 pedidas.</numerusform>
+            <numerusform>Apenas %1 das %2 etapas pedidas.</numerusform>
+            <numerusform>Apenas %1 das %2 etapas pedidas.</numerusform>
         </translation>
     </message>
     <message>
         <source>The setting %1 is invalid (%2); the default is used.</source>
-        <translation>A configuração %1 não faz sentido (%2); o limite habitual é usado.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1 dia e %2</numerusform>
-            <numerusform>%1 dias e %2</numerusform>
-        </translation>
+        <translation>A configuração %1 é inválida (%2); o valor padrão é usado.</translation>
     </message>
     <message>
         <source>undone</source>
@@ -1236,13 +1803,8 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>desfeita</translation>
     </message>
     <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>abandonada</translation>
-    </message>
-    <message>
         <source>There is nothing to undo.</source>
-        <translation>Não há nada que possa ser desfeito.</translation>
+        <translation>Não há nada a desfazer.</translation>
     </message>
     <message>
         <source>WHAT</source>
@@ -1293,7 +1855,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     </message>
     <message>
         <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
-        <translation>Etapas mais antigas esperam por esta; “lumidex undo --skip” a deixa como está para sempre.</translation>
+        <translation>Etapas mais antigas não podem ser desfeitas antes desta; “lumidex undo --skip” a pula para sempre.</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
@@ -1301,11 +1863,11 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     </message>
     <message>
         <source>Skipped: %1.</source>
-        <translation>Abandonado: %1.</translation>
+        <translation>Etapa pulada: %1.</translation>
     </message>
     <message>
         <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
-        <translation>O que está guardado dela (%1) permanece até ficar antigo demais ou grande demais.</translation>
+        <translation>Os originais dela (%1) ficam guardados até passarem dos limites de “undo”.</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1314,21 +1876,20 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
             <numerusform>%1 etapas mais antigas não podem mais ser desfeitas.</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>As etapas podem ser desfeitas dentro de %1.</translation>
+        <translation>
+            <numerusform>As etapas podem ser desfeitas por %1 dia de uso, com até %2 de originais.</numerusform>
+            <numerusform>As etapas podem ser desfeitas por %1 dias de uso, com até %2 de originais.</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>Não há nada a refazer.</translation>
     </message>
     <message>
-        <source>There is nothing to undo.</source>
-        <translation>Não há nada a desfazer.</translation>
-    </message>
-    <message>
         <source>Copies would share names with files of other shots:</source>
-        <translation>Estes arquivos são de disparos diferentes daqueles cujos nomes compartilham ali:</translation>
+        <translation>Cópias teriam o mesmo nome que arquivos de outros disparos:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1348,7 +1909,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     </message>
     <message>
         <source>FROM</source>
-        <translation>DE</translation>
+        <translation>ORIGEM</translation>
     </message>
     <message>
         <source>CAMERA</source>
@@ -1389,14 +1950,6 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     <message>
         <source>FILE</source>
         <translation>ARQUIVO</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>%1 de %2 foto, tirada %3.</numerusform>
-            <numerusform>%1 de %2 fotos, tiradas %3.</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1525,8 +2078,8 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     <message numerus="yes">
         <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>%1 foto foi deixada de fora, pois só a hora do arquivo a data. Para incluí-la, execute: lumidex albums --file-times</numerusform>
-            <numerusform>%1 fotos foram deixadas de fora, pois só as horas dos arquivos as datam. Para incluí-las, execute: lumidex albums --file-times</numerusform>
+            <numerusform>%1 foto foi deixada de fora, porque não tem outra data além da hora do arquivo. Para incluí-la, execute: lumidex albums --file-times</numerusform>
+            <numerusform>%1 fotos foram deixadas de fora, porque não têm outra data além da hora dos arquivos. Para incluí-las, execute: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1536,11 +2089,7 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     </message>
     <message>
         <source>If all these photos are edited at once:</source>
-        <translation>Ao editar todas estas fotos de uma vez:</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Verificando</translation>
+        <translation>Se todas estas fotos forem editadas de uma vez:</translation>
     </message>
     <message>
         <source>its sidecar</source>
@@ -1565,22 +2114,6 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
         <translation>
             <numerusform>%1 foto editada; isso não pode ser desfeito.</numerusform>
             <numerusform>%1 fotos editadas; isso não pode ser desfeito.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 de %2 foto, tirada em %3 ou depois.</numerusform>
-            <numerusform>%1 de %2 fotos, tiradas em %3 ou depois.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 de %2 foto, tirada em %3 ou antes.</numerusform>
-            <numerusform>%1 de %2 fotos, tiradas em %3 ou antes.</numerusform>
         </translation>
     </message>
     <message>
@@ -1609,8 +2142,8 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     <message numerus="yes">
         <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>%1 arquivo não é copiado: não está em armazenamento removível e fica onde está. “--to PASTA” o copia.</numerusform>
-            <numerusform>%1 arquivos não são copiados: não estão em armazenamento removível e ficam onde estão. “--to PASTA” os copia.</numerusform>
+            <numerusform>%1 arquivo não é copiado, porque não está em armazenamento removível; “--to PASTA” o copia.</numerusform>
+            <numerusform>%1 arquivos não são copiados, porque não estão em armazenamento removível; “--to PASTA” os copia.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1623,8 +2156,8 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     <message numerus="yes">
         <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>%1 arquivo de controle de câmeras e sistemas é deixado.</numerusform>
-            <numerusform>%1 arquivos de controle de câmeras e sistemas são deixados.</numerusform>
+            <numerusform>%1 arquivo de controle de câmeras e sistemas não é copiado.</numerusform>
+            <numerusform>%1 arquivos de controle de câmeras e sistemas não são copiados.</numerusform>
         </translation>
     </message>
     <message>
@@ -1638,8 +2171,8 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>%1 etapa não pode mais ser desfeita: desde então passaram mais de %2 dias de uso.</numerusform>
-            <numerusform>%1 etapas não podem mais ser desfeitas: desde então passaram mais de %2 dias de uso.</numerusform>
+            <numerusform>%1 etapa não pode mais ser desfeita, porque passaram mais de %2 dias de uso.</numerusform>
+            <numerusform>%1 etapas não podem mais ser desfeitas, porque passaram mais de %2 dias de uso.</numerusform>
         </translation>
     </message>
     <message>
@@ -1671,8 +2204,8 @@ semelhança passava de %1; fotos posteriores deslocam o centro.</translation>
     <message>
         <source>These may be photos that were moved, but several files or photos come into question.
 The photos keep their tags and albums, the files are new:</source>
-        <translation>Talvez movidos, mas não dá para saber. As fotos mantêm suas etiquetas e álbuns,
-os arquivos são novos:</translation>
+        <translation>Podem ser fotos que foram movidas, mas há vários arquivos ou fotos possíveis.
+As fotos mantêm suas etiquetas e álbuns, os arquivos são novos:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1732,7 +2265,7 @@ os arquivos são novos:</translation>
     <message>
         <source>undamaged</source>
         <comment>photo</comment>
-        <translation>íntegra</translation>
+        <translation>sem danos</translation>
     </message>
     <message>
         <source>the camera&apos;s own file</source>
@@ -1740,7 +2273,7 @@ os arquivos são novos:</translation>
     </message>
     <message>
         <source>has maker notes</source>
-        <translation>com a nota do fabricante</translation>
+        <translation>com notas do fabricante</translation>
     </message>
     <message>
         <source>not written by another program</source>
@@ -1763,13 +2296,6 @@ os arquivos são novos:</translation>
         <translation>
             <numerusform>%1 foto continua sem poder ser comparada; “lumidex similar --not-compared” a mostra.</numerusform>
             <numerusform>%1 fotos continuam sem poder ser comparadas; “lumidex similar --not-compared” as mostra.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>%1 delas (%2) é a mesma imagem que a que convém manter; “lumidex similar --trash” a move para a lixeira.</numerusform>
-            <numerusform>%1 delas (%2) são a mesma imagem que a que convém manter; “lumidex similar --trash” as move para a lixeira.</numerusform>
         </translation>
     </message>
     <message>
@@ -1818,11 +2344,11 @@ os arquivos são novos:</translation>
     </message>
     <message>
         <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
-        <translation>Para poder ser desfeito, é preciso guardar %1 de originais, e o limite é %2.</translation>
+        <translation>Para poder desfazer a edição, é preciso guardar %1 de originais, mas o limite é %2.</translation>
     </message>
     <message>
         <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
-        <translation>“lumidex undo --keep-size %1” aumenta o limite; com --no-undo nada é guardado e isso não pode ser desfeito.</translation>
+        <translation>“lumidex undo --keep-size %1” aumenta o limite; com --no-undo nada é guardado e a edição não pode ser desfeita.</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1852,11 +2378,11 @@ os arquivos são novos:</translation>
     </message>
     <message>
         <source>No originals would be kept, so the edit could not be undone.</source>
-        <translation>Nada seria guardado: não poderia ser desfeito.</translation>
+        <translation>Nenhum original seria guardado, por isso a edição não poderia ser desfeita.</translation>
     </message>
     <message>
         <source>The edit would be refused.</source>
-        <translation>Seria recusado.</translation>
+        <translation>A edição seria recusada.</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1881,10 +2407,6 @@ os arquivos são novos:</translation>
         <comment>a photo is; a file</comment>
         <translation>parecida com %1</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>Não são a mesma imagem que a que convém manter, só parecidas:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1902,12 +2424,7 @@ os arquivos são novos:</translation>
     </message>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
-        <translation>Continuar sem o que é preciso para refazer? [s/N]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>em andamento</translation>
+        <translation>Desfazer sem guardar o que é preciso para refazer? [s/N]</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -1918,7 +2435,7 @@ os arquivos são novos:</translation>
     </message>
     <message>
         <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
-        <translation>Não há espaço para guardar o que é preciso para refazer; “lumidex undo --no-redo” dispensa isso.</translation>
+        <translation>Não há espaço para guardar o que é preciso para refazer; “lumidex undo --no-redo” desfaz sem isso.</translation>
     </message>
     <message numerus="yes">
         <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
@@ -1942,17 +2459,17 @@ os arquivos são novos:</translation>
     <message numerus="yes">
         <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>Uma importação deixa de fora %1 outro arquivo (--json mostra qual).</numerusform>
-            <numerusform>Uma importação deixa de fora %1 outros arquivos (--json mostra todos).</numerusform>
+            <numerusform>Uma importação ignora %1 outro arquivo (--json mostra qual).</numerusform>
+            <numerusform>Uma importação ignora %1 outros arquivos (--json mostra todos).</numerusform>
         </translation>
     </message>
     <message>
         <source>Every file in %1 has a verified copy elsewhere.</source>
-        <translation>Nada fica em %1: cada arquivo tem uma cópia comparada em outro lugar.</translation>
+        <translation>Cada arquivo em %1 tem uma cópia verificada em outro lugar.</translation>
     </message>
     <message>
         <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
-        <translation>Em %1 só ficam arquivos de controle: cada um dos outros arquivos tem uma cópia comparada em outro lugar.</translation>
+        <translation>Cada arquivo em %1, exceto os de controle, tem uma cópia verificada em outro lugar.</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
@@ -1960,8 +2477,7 @@ os arquivos são novos:</translation>
     </message>
     <message>
         <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>No que toca a esta pasta, é seguro formatar; o que está ao lado dela não foi
-examinado.</translation>
+        <translation>Formatar não faz perder nada desta pasta; o que está fora dela não foi verificado.</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -1969,7 +2485,7 @@ examinado.</translation>
     </message>
     <message>
         <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
-        <translation>O disco de %1 tem %2 livres, e editar todas as fotos precisa de %3: as últimas ficariam como estão.</translation>
+        <translation>O disco de %1 tem %2 livres, mas editar todas as fotos precisa de %3: as últimas não seriam editadas.</translation>
     </message>
     <message numerus="yes">
         <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
@@ -1977,6 +2493,110 @@ examinado.</translation>
             <numerusform>A origem de %1 delas desapareceu ou foi alterada: não esvazie a lixeira antes de ter outra cópia.</numerusform>
             <numerusform>As origens de %1 delas desapareceram ou foram alteradas: não esvazie a lixeira antes de ter outras cópias.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>Interrompido. As fotos editadas até agora permanecem editadas.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>Interrompido. As fotos criadas até agora permanecem; exclua a pasta antes de tentar novamente.</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1 GiB</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1 TiB</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1 PiB</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1 EiB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tirada em %3.</numerusform>
+            <numerusform>%1 de %2 fotos, tiradas em %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tirada de %3 a %4.</numerusform>
+            <numerusform>%1 de %2 fotos, tiradas de %3 a %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tirada em %3 ou depois.</numerusform>
+            <numerusform>%1 de %2 fotos, tiradas em %3 ou depois.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 de %2 foto, tirada em %3 ou antes.</numerusform>
+            <numerusform>%1 de %2 fotos, tiradas em %3 ou antes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>%1 delas (%2) é a mesma imagem que a foto que convém manter; “lumidex similar --trash” a move para a lixeira.</numerusform>
+            <numerusform>%1 delas (%2) são a mesma imagem que a foto que convém manter; “lumidex similar --trash” as move para a lixeira.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>Não são a mesma imagem que a foto que convém manter, só parecidas:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>não pode mais ser desfeita</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>em andamento</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>MOMENTO</translation>
     </message>
 </context>
 <context>

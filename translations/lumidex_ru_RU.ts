@@ -2,6 +2,589 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>Causes</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot edit %1: %2</source>
+        <translation>Нельзя изменить %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1: %2</source>
+        <translation>Нельзя переименовать %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot rename %1 to %2: %3</source>
+        <translation>Нельзя переименовать %1 в %2: %3</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Нельзя прочитать %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Нельзя записать %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>нельзя записать %1: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to; change the permissions of %1</source>
+        <translation>в его папку нельзя записывать; измените права %1</translation>
+    </message>
+    <message>
+        <source>its folder lets only its owner change it; change the owner, or the permissions of %1</source>
+        <translation>его папку может менять только владелец; измените владельца или права %1</translation>
+    </message>
+    <message>
+        <source>its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there</source>
+        <translation>на его диске нет места для новой версии (нужно %1 байт, свободно %2); освободите там место</translation>
+    </message>
+    <message>
+        <source>it is write-protected; allow writing to it, or use --force</source>
+        <translation>файл защищён от записи; разрешите запись или используйте --force</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 is write-protected; allow writing to it, or use --force</source>
+        <translation>его сопроводительный файл %1 защищён от записи; разрешите запись или используйте --force</translation>
+    </message>
+    <message>
+        <source>its sidecar must be edited with it. %1; repair or move the sidecar</source>
+        <translation>вместе с ним нужно изменить его сопроводительный файл. %1; исправьте или переместите сопроводительный файл</translation>
+    </message>
+    <message>
+        <source>its sidecar %1 must be edited with it, but %2</source>
+        <translation>вместе с ним нужно изменить его сопроводительный файл %1, но %2</translation>
+    </message>
+    <message>
+        <source>it has no date to shift</source>
+        <translation>нет даты, которую можно сдвинуть</translation>
+    </message>
+    <message>
+        <source>its year would not be 1 to 9999</source>
+        <translation>год вышел бы за пределы от 1 до 9999</translation>
+    </message>
+    <message>
+        <source>its metadata cannot be changed without losing data (%1)</source>
+        <translation>метаданные нельзя изменить без потерь (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata would be wrong afterwards</source>
+        <translation>метаданные после этого были бы неверными</translation>
+    </message>
+    <message>
+        <source>its EXIF data, which are kept as text, are damaged</source>
+        <translation>данные EXIF, сохранённые как текст, повреждены</translation>
+    </message>
+    <message>
+        <source>its EXIF data are damaged</source>
+        <translation>данные EXIF повреждены</translation>
+    </message>
+    <message>
+        <source>its XMP data are damaged</source>
+        <translation>данные XMP повреждены</translation>
+    </message>
+    <message>
+        <source>its TIFF directory is damaged</source>
+        <translation>каталог TIFF повреждён</translation>
+    </message>
+    <message>
+        <source>its picture format is not known</source>
+        <translation>формат изображения неизвестен</translation>
+    </message>
+    <message>
+        <source>its format cannot be edited</source>
+        <translation>этот формат нельзя изменять</translation>
+    </message>
+    <message>
+        <source>photos of the format %1 cannot be edited</source>
+        <translation>фотографии формата %1 нельзя изменять</translation>
+    </message>
+    <message>
+        <source>its picture would change</source>
+        <translation>изменилось бы само изображение</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>файл пуст</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>файл повреждён: %1</translation>
+    </message>
+    <message>
+        <source>it is larger than 2 GiB</source>
+        <translation>файл больше 2 ГиБ</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>файл больше 16 МиБ</translation>
+    </message>
+    <message>
+        <source>it was changed while it was read</source>
+        <translation>файл изменился во время чтения</translation>
+    </message>
+    <message>
+        <source>editing it takes more memory than there is</source>
+        <translation>для правки не хватает памяти</translation>
+    </message>
+    <message>
+        <source>its JPEG data is damaged</source>
+        <translation>данные JPEG повреждены</translation>
+    </message>
+    <message>
+        <source>its JPEG data ends before the picture</source>
+        <translation>данные JPEG кончаются до изображения</translation>
+    </message>
+    <message>
+        <source>its JPEG data breaks off before the picture</source>
+        <translation>данные JPEG обрываются до изображения</translation>
+    </message>
+    <message>
+        <source>there is no room left in its EXIF block</source>
+        <translation>в блоке EXIF не осталось места</translation>
+    </message>
+    <message>
+        <source>its PNG data breaks off</source>
+        <translation>данные PNG обрываются</translation>
+    </message>
+    <message>
+        <source>its PNG data does not begin with a picture</source>
+        <translation>данные PNG не начинаются с изображения</translation>
+    </message>
+    <message>
+        <source>it has two EXIF blocks</source>
+        <translation>в файле два блока EXIF</translation>
+    </message>
+    <message>
+        <source>its WebP data breaks off</source>
+        <translation>данные WebP обрываются</translation>
+    </message>
+    <message>
+        <source>its WebP data holds no picture</source>
+        <translation>в данных WebP нет изображения</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in place</source>
+        <translation>%1 нельзя изменить на месте</translation>
+    </message>
+    <message>
+        <source>its date cannot be changed in its %1 data</source>
+        <translation>дату нельзя изменить в данных %1</translation>
+    </message>
+    <message>
+        <source>its %1 cannot be changed in its %2 data</source>
+        <translation>%1 нельзя изменить в данных %2</translation>
+    </message>
+    <message>
+        <source>it breaks off before its end</source>
+        <translation>файл обрывается до конца</translation>
+    </message>
+    <message>
+        <source>its text is damaged</source>
+        <translation>текст повреждён</translation>
+    </message>
+    <message>
+        <source>it has too many properties</source>
+        <translation>слишком много свойств</translation>
+    </message>
+    <message>
+        <source>%1 is unchanged: %2</source>
+        <translation>%1 не изменён: %2</translation>
+    </message>
+    <message>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <translation>%1 изменён, но не удалось обновить каталог (%2). Следующий запуск lumidex обновит его</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read back as what was written</source>
+        <translation>%1 не читается так, как был записан</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is, because it belongs to %2</source>
+        <translation>%1 оставлен как есть, так как относится к %2</translation>
+    </message>
+    <message>
+        <source>%1 is missing for now, but its versions are kept (%2). Free space on its disk and run &quot;lumidex undo&quot; again</source>
+        <translation>%1 пока отсутствует, но его версии сохранены (%2). Освободите место на его диске и снова выполните «lumidex undo»</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: another program changed %2, where its other version was kept</source>
+        <translation>%1 оставлен как есть: другая программа изменила %2, где хранилась его другая версия</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its disk has no room for its other version (%2 bytes). Free space there and try again</source>
+        <translation>%1 оставлен как есть: на его диске нет места для другой версии (%2 байт). Освободите там место и попробуйте снова</translation>
+    </message>
+    <message>
+        <source>%1 is left as it is: its other version is no longer kept</source>
+        <translation>%1 оставлен как есть: его другая версия больше не хранится</translation>
+    </message>
+    <message>
+        <source>%1 was changed later and is left as it is</source>
+        <translation>%1 изменён позже и оставлен как есть</translation>
+    </message>
+    <message>
+        <source>%1 no longer exists</source>
+        <translation>%1 больше не существует</translation>
+    </message>
+    <message>
+        <source>%1 cannot be reached: its disk may not be connected</source>
+        <translation>%1 недоступен: возможно, его диск не подключён</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 не читается: %2</translation>
+    </message>
+    <message>
+        <source>The undo journal %1 cannot be used: %2</source>
+        <translation>Журнал отмены %1 нельзя использовать: %2</translation>
+    </message>
+    <message>
+        <source>another program is renaming or editing photos with it; try again when that has finished</source>
+        <translation>другая программа переименовывает или изменяет с ним фотографии; попробуйте снова, когда она закончит</translation>
+    </message>
+    <message>
+        <source>no step is started without %1 MiB free for finishing and undoing it (%2)</source>
+        <translation>шаг не начинается без %1 МиБ свободного места для его завершения и отмены (%2)</translation>
+    </message>
+    <message>
+        <source>there is no room for undoing it (%1)</source>
+        <translation>нет места для отмены (%1)</translation>
+    </message>
+    <message>
+        <source>Cannot change the target of the link %1: %2</source>
+        <translation>Нельзя изменить цель ссылки %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>Нельзя переместить %1 в корзину: %2</translation>
+    </message>
+    <message>
+        <source>no free name in the trash</source>
+        <translation>в корзине нет свободного имени</translation>
+    </message>
+    <message>
+        <source>another file has that name</source>
+        <translation>это имя носит другой файл</translation>
+    </message>
+    <message>
+        <source>another file has its former name</source>
+        <translation>прежнее имя носит другой файл</translation>
+    </message>
+    <message>
+        <source>it is on another volume</source>
+        <translation>это на другом томе</translation>
+    </message>
+    <message>
+        <source>it is no longer a file</source>
+        <translation>это больше не файл</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because its photo was kept</source>
+        <translation>%1 оставлен, так как оставлена его фотография</translation>
+    </message>
+    <message>
+        <source>%1 was kept, because the photo kept in its place, %2, no longer exists</source>
+        <translation>%1 оставлен, так как фотография, оставленная вместо него, %2, больше не существует</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash as %2, which cannot be reached: its disk may not be connected</source>
+        <translation>%1 находится в корзине как %2, но недоступен: возможно, его диск не подключён</translation>
+    </message>
+    <message>
+        <source>%1 may be in the trash as %2, which cannot be read: %3</source>
+        <translation>%1, возможно, находится в корзине как %2, но это не читается: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash; another file has its name</source>
+        <translation>%1 больше нет в корзине; его имя носит другой файл</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the trash and cannot be brought back</source>
+        <translation>%1 больше нет в корзине, вернуть его нельзя</translation>
+    </message>
+    <message>
+        <source>%1 remains in the trash as %2: %3</source>
+        <translation>%1 остаётся в корзине как %2: %3</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is kept, because photos were added to it later</source>
+        <translation>Альбом «%1» оставлен, так как позже в него добавлены фотографии</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; no longer exists</source>
+        <translation>Альбома «%1» больше нет</translation>
+    </message>
+    <message>
+        <source>Another album has the name &quot;%1&quot; now</source>
+        <translation>Имя «%1» теперь носит другой альбом</translation>
+    </message>
+    <message>
+        <source>%1 is kept: %2.</source>
+        <translation>%1 остаётся: %2.</translation>
+    </message>
+    <message>
+        <source>it is already in a trash</source>
+        <translation>файл уже в корзине</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>это ссылка на другой файл</translation>
+    </message>
+    <message>
+        <source>it no longer exists</source>
+        <translation>файл больше не существует</translation>
+    </message>
+    <message>
+        <source>it was changed after it was analysed</source>
+        <translation>файл изменён после анализа</translation>
+    </message>
+    <message>
+        <source>it was changed after it was compared</source>
+        <translation>файл изменён после сравнения</translation>
+    </message>
+    <message>
+        <source>it is another name of a file that is kept</source>
+        <translation>это другое имя файла, который остаётся</translation>
+    </message>
+    <message>
+        <source>it is of the same shot as %1, which is kept</source>
+        <translation>это тот же снимок, что и %1, который остаётся</translation>
+    </message>
+    <message>
+        <source>it is like others of its group, but not like the photo to keep, %1</source>
+        <translation>файл похож на другие в группе, но не на оставляемую фотографию, %1</translation>
+    </message>
+    <message>
+        <source>it has tags or albums that the photo to keep, %1, does not have</source>
+        <translation>у него есть метки или альбомы, которых нет у оставляемой фотографии, %1</translation>
+    </message>
+    <message>
+        <source>it is a raw file, and no raw file of its group is kept</source>
+        <translation>это файл RAW, а в группе не остаётся ни одного файла RAW</translation>
+    </message>
+    <message>
+        <source>its settings, %1, would be lost: the photo to keep, %2, does not have them</source>
+        <translation>пропали бы его настройки, %1: у оставляемой фотографии, %2, их нет</translation>
+    </message>
+    <message>
+        <source>the link %1 leads to it</source>
+        <translation>к нему ведёт ссылка %1</translation>
+    </message>
+    <message>
+        <source>%1, to which it belongs, is kept</source>
+        <translation>%1, к которому он относится, остаётся</translation>
+    </message>
+    <message>
+        <source>the settings in %1 were changed</source>
+        <translation>настройки в %1 изменились</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, no longer exists</source>
+        <translation>оставляемая фотография, %1, больше не существует</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, was changed after it was analysed</source>
+        <translation>оставляемая фотография, %1, изменена после анализа</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is no longer a file</source>
+        <translation>оставляемая фотография, %1, больше не файл</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, cannot be read (%2)</source>
+        <translation>оставляемая фотография, %1, не читается (%2)</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is in a trash</source>
+        <translation>оставляемая фотография, %1, находится в корзине</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is a link to another file</source>
+        <translation>оставляемая фотография, %1, — ссылка на другой файл</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, breaks off before the end of its picture</source>
+        <translation>оставляемая фотография, %1, обрывается до конца изображения</translation>
+    </message>
+    <message>
+        <source>the photo to keep, %1, is damaged: %2</source>
+        <translation>оставляемая фотография, %1, повреждена: %2</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete.</source>
+        <translation>Прерванная отмена «%1» теперь завершена.</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete.</source>
+        <translation>Прерванный повтор «%1» теперь завершён.</translation>
+    </message>
+    <message>
+        <source>Interrupted undo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Прерванная отмена «%1» теперь завершена, кроме:</translation>
+    </message>
+    <message>
+        <source>Interrupted redo of &quot;%1&quot; is now complete, except for:</source>
+        <translation>Прерванный повтор «%1» теперь завершён, кроме:</translation>
+    </message>
+    <message>
+        <source>Interrupted step &quot;%1&quot; is now complete.</source>
+        <translation>Прерванный шаг «%1» теперь завершён.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and will be finished once %2 can be reached.</source>
+        <translation>Шаг «%1» был прерван и завершится, как только станет доступна папка %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2); the files have their former names.</source>
+        <translation>Шаг «%1» был прерван, завершить его нельзя (%2); файлы носят прежние имена.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted and cannot be finished (%2), nor undone (%3).</source>
+        <translation>Шаг «%1» был прерван, его нельзя ни завершить (%2), ни отменить (%3).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Photos edited: %2; the others are unchanged.</source>
+        <translation>Шаг «%1» был прерван. Изменено фотографий: %2; остальные не изменены.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Copies made: %2; run the same import to copy the rest.</source>
+        <translation>Шаг «%1» был прерван. Сделано копий: %2; чтобы скопировать остальное, повторите тот же импорт.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was interrupted. Files moved: %2; the others are where they were.</source>
+        <translation>Шаг «%1» был прерван. Перемещено файлов: %2; остальные там, где были.</translation>
+    </message>
+    <message>
+        <source>Originals that this catalogue does not know were moved to %1.</source>
+        <translation>Исходные файлы, которых этот каталог не знает, перемещены в %1.</translation>
+    </message>
+    <message>
+        <source>%1 and its sidecar disagree, because only one of them was edited (%2).</source>
+        <translation>%1 и его сопроводительный файл расходятся, так как изменён только один из них (%2).</translation>
+    </message>
+    <message>
+        <source>It cannot be read</source>
+        <translation>Файл не читается</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>Это канал или устройство</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Это не обычный файл</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Файл пуст</translation>
+    </message>
+    <message>
+        <source>It is damaged: %1</source>
+        <translation>Файл повреждён: %1</translation>
+    </message>
+    <message>
+        <source>Its picture format is not known</source>
+        <translation>Формат изображения неизвестен</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Имя не является правильным текстом</translation>
+    </message>
+    <message>
+        <source>It is named like a housekeeping file, but may be a picture or a video</source>
+        <translation>Файл назван как служебный, но может быть изображением или видео</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that is missing</source>
+        <translation>Ссылка ведёт к отсутствующему файлу</translation>
+    </message>
+    <message>
+        <source>The link leads to a file that cannot be read</source>
+        <translation>Ссылка ведёт к файлу, который не читается</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself</source>
+        <translation>Ссылка ведёт к самой себе</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that cannot be read</source>
+        <translation>Ссылка ведёт к папке, которая не читается</translation>
+    </message>
+    <message>
+        <source>The link leads back to a folder above it</source>
+        <translation>Ссылка ведёт назад к папке выше</translation>
+    </message>
+    <message>
+        <source>The link leads to a folder that was already visited</source>
+        <translation>Ссылка ведёт к уже пройденной папке</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 скрыт</translation>
+    </message>
+    <message>
+        <source>%1 is not named like a photo</source>
+        <translation>имя %1 не похоже на имя фотографии</translation>
+    </message>
+    <message>
+        <source>%1 is a link to a file that is missing</source>
+        <translation>%1 — ссылка на отсутствующий файл</translation>
+    </message>
+    <message>
+        <source>it was changed while it was copied</source>
+        <translation>файл изменился во время копирования</translation>
+    </message>
+    <message>
+        <source>the copy differs from the original</source>
+        <translation>копия отличается от исходного файла</translation>
+    </message>
+    <message>
+        <source>the copy cannot be written: %1</source>
+        <translation>копию нельзя записать: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be read back: %1</source>
+        <translation>копию нельзя прочитать обратно: %1</translation>
+    </message>
+    <message>
+        <source>the copy cannot be recorded</source>
+        <translation>копию нельзя внести в каталог</translation>
+    </message>
+    <message>
+        <source>another file got the name %1 meanwhile</source>
+        <translation>имя %1 тем временем получил другой файл</translation>
+    </message>
+    <message>
+        <source>it is identical to %1, which could not be copied</source>
+        <translation>файл совпадает с %1, который не удалось скопировать</translation>
+    </message>
+    <message>
+        <source>the import was interrupted</source>
+        <translation>импорт прерван</translation>
+    </message>
+    <message>
+        <source>It may be any of %1 photos that are missing</source>
+        <translation>Это может быть любая из отсутствующих фотографий (%1)</translation>
+    </message>
+    <message>
+        <source>It is missing, and %1 files may be it</source>
+        <translation>Фотография отсутствует, подходящих файлов: %1</translation>
+    </message>
+    <message>
+        <source>It was changed or replaced, and a file has its former content</source>
+        <translation>Фотография изменена или заменена, а её прежнее содержимое есть в другом файле</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Select folder</source>
@@ -168,9 +751,9 @@
     <message numerus="yes">
         <source>All %1 photos of the catalogue were missing at the last scan. Is a disk not connected?</source>
         <translation>
-            <numerusform>При последнем сканировании не нашлась ни одна фотография каталога (всего %1). Не отключён ли диск?</numerusform>
-            <numerusform>При последнем сканировании не нашлась ни одна фотография каталога (всего %1). Не отключён ли диск?</numerusform>
-            <numerusform>При последнем сканировании не нашлась ни одна фотография каталога (всего %1). Не отключён ли диск?</numerusform>
+            <numerusform>При последнем сканировании не нашлась ни одна фотография каталога (всего %1). Все ли диски подключены?</numerusform>
+            <numerusform>При последнем сканировании не нашлась ни одна фотография каталога (всего %1). Все ли диски подключены?</numerusform>
+            <numerusform>При последнем сканировании не нашлась ни одна фотография каталога (всего %1). Все ли диски подключены?</numerusform>
         </translation>
     </message>
     <message>
@@ -247,7 +830,7 @@
     </message>
     <message>
         <source>%1 was accepted before, and there are no photos to add.</source>
-        <translation>В принятом ранее альбоме %1 менять нечего.</translation>
+        <translation>Альбом %1 уже принят, добавлять в него нечего.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -377,11 +960,11 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>The holiday calendar could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>Календарь праздников не удалось прочитать до конца, поэтому часть праздников отсутствует. Попробуйте: lumidex calendar check или lumidex calendar update.</translation>
+        <translation>Календарь праздников не удалось прочитать полностью, поэтому часть праздников отсутствует. Выполните: lumidex calendar check или lumidex calendar update.</translation>
     </message>
     <message>
         <source>The holiday calendar %1 could not be read completely, so holidays are missing. Run: lumidex calendar check, or lumidex calendar update.</source>
-        <translation>Календарь праздников %1 не удалось прочитать до конца, поэтому часть праздников отсутствует. Попробуйте: lumidex calendar check или lumidex calendar update.</translation>
+        <translation>Календарь праздников %1 не удалось прочитать полностью, поэтому часть праздников отсутствует. Выполните: lumidex calendar check или lumidex calendar update.</translation>
     </message>
     <message>
         <source>unreadable</source>
@@ -419,7 +1002,7 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>no problems found.</source>
-        <translation>препятствий нет.</translation>
+        <translation>проблем не найдено.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was changed.</source>
@@ -441,10 +1024,6 @@ holiday, or of the weekends of one month.</source>
     <message>
         <source>Editing</source>
         <translation>Правка</translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos edited so far stay so.</source>
-        <translation>Прервано. Уже изменённые фотографии останутся такими.</translation>
     </message>
     <message>
         <source>upright</source>
@@ -525,7 +1104,7 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>Interrupted. The copies made so far are complete and verified; run the same command to copy the rest.</source>
-        <translation>Прервано. Скопированное сохранено полностью и сверено; та же команда скопирует остальное.</translation>
+        <translation>Прервано. Сделанные копии полны и проверены; чтобы скопировать остальное, выполните ту же команду.</translation>
     </message>
     <message>
         <source>Would be copied to %1:</source>
@@ -533,15 +1112,15 @@ holiday, or of the weekends of one month.</source>
     </message>
     <message>
         <source>Would be added to the catalogue without copying:</source>
-        <translation>Было бы добавлено на месте:</translation>
+        <translation>Было бы добавлено в каталог без копирования:</translation>
     </message>
     <message>
         <source>Copies of one shot would get different names:</source>
-        <translation>Файлы каждого из этих снимков относятся друг к другу, а свободные имена для них — нет:</translation>
+        <translation>Копии одного снимка получили бы разные имена:</translation>
     </message>
     <message>
         <source>Not copied:</source>
-        <translation>Отсутствуют:</translation>
+        <translation>Не скопированы:</translation>
     </message>
     <message>
         <source>Not added to the catalogue:</source>
@@ -603,9 +1182,9 @@ holiday, or of the weekends of one month.</source>
         <source>%1 photos added without copying.</source>
         <comment>would be</comment>
         <translation>
-            <numerusform>добавлена на месте %1 фотография.</numerusform>
-            <numerusform>добавлено на месте %1 фотографии.</numerusform>
-            <numerusform>добавлено на месте %1 фотографий.</numerusform>
+            <numerusform>добавлена без копирования %1 фотография.</numerusform>
+            <numerusform>добавлено без копирования %1 фотографии.</numerusform>
+            <numerusform>добавлено без копирования %1 фотографий.</numerusform>
         </translation>
     </message>
     <message>
@@ -617,25 +1196,25 @@ nothing was changed.</source>
     <message numerus="yes">
         <source>%1 files (%2) copied to %3 and verified.</source>
         <translation>
-            <numerusform>%1 файл (%2) скопирован в %3 и сверен.</numerusform>
-            <numerusform>%1 файла (%2) скопировано в %3, каждый сверен.</numerusform>
-            <numerusform>%1 файлов (%2) скопировано в %3, каждый сверен.</numerusform>
+            <numerusform>%1 файл (%2) скопирован в %3 и проверен.</numerusform>
+            <numerusform>%1 файла (%2) скопировано в %3 и проверено.</numerusform>
+            <numerusform>%1 файлов (%2) скопировано в %3 и проверено.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 photos added to the catalogue.</source>
         <translation>
-            <numerusform>%1 новая фотография в каталоге.</numerusform>
-            <numerusform>%1 новые фотографии в каталоге.</numerusform>
-            <numerusform>%1 новых фотографий в каталоге.</numerusform>
+            <numerusform>В каталог добавлена %1 фотография.</numerusform>
+            <numerusform>В каталог добавлено %1 фотографии.</numerusform>
+            <numerusform>В каталог добавлено %1 фотографий.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files were not copied; run the same command to try again.</source>
         <translation>
-            <numerusform>Отсутствует %1 файл; та же команда попробует снова.</numerusform>
-            <numerusform>Отсутствует %1 файла; та же команда попробует снова.</numerusform>
-            <numerusform>Отсутствует %1 файлов; та же команда попробует снова.</numerusform>
+            <numerusform>Не скопирован %1 файл; чтобы попробовать снова, выполните ту же команду.</numerusform>
+            <numerusform>Не скопировано %1 файла; чтобы попробовать снова, выполните ту же команду.</numerusform>
+            <numerusform>Не скопировано %1 файлов; чтобы попробовать снова, выполните ту же команду.</numerusform>
         </translation>
     </message>
     <message>
@@ -646,7 +1225,7 @@ nothing was changed.</source>
     <message>
         <source>%1 is not supported; %2 is used.</source>
         <comment>languages</comment>
-        <translation>Языка %1 нет; используется %2.</translation>
+        <translation>%1 не поддерживается; используется %2.</translation>
     </message>
     <message>
         <source>%1 of %2 %3</source>
@@ -687,17 +1266,17 @@ nothing was changed.</source>
     <message numerus="yes">
         <source>%1 photos have no date; the times of their files are used.</source>
         <translation>
-            <numerusform>У %1 фотографии нет своей даты; используется время файла.</numerusform>
-            <numerusform>У %1 фотографий нет своей даты; используется время файлов.</numerusform>
-            <numerusform>У %1 фотографий нет своей даты; используется время файлов.</numerusform>
+            <numerusform>У %1 фотографии нет даты; используется время её файла.</numerusform>
+            <numerusform>У %1 фотографий нет даты; используется время их файлов.</numerusform>
+            <numerusform>У %1 фотографий нет даты; используется время их файлов.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 files have their new names already.</source>
         <translation>
-            <numerusform>%1 файл уже носит своё имя.</numerusform>
-            <numerusform>%1 файла уже носят свои имена.</numerusform>
-            <numerusform>%1 файлов уже носят свои имена.</numerusform>
+            <numerusform>%1 файл уже носит новое имя.</numerusform>
+            <numerusform>%1 файла уже носят новые имена.</numerusform>
+            <numerusform>%1 файлов уже носят новые имена.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -769,7 +1348,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Problems</source>
-        <translation>Мешает</translation>
+        <translation>Проблемы</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -778,9 +1357,9 @@ Add --skip-problems to rename the others.</source>
     <message numerus="yes">
         <source>%1 pictures could not be read; placeholders stand for them.</source>
         <translation>
-            <numerusform>%1 изображение не удалось прочитать, вместо него показана заглушка.</numerusform>
-            <numerusform>%1 изображения не удалось прочитать, вместо них показаны заглушки.</numerusform>
-            <numerusform>%1 изображений не удалось прочитать, вместо них показаны заглушки.</numerusform>
+            <numerusform>%1 изображение не удалось прочитать; вместо него показана заглушка.</numerusform>
+            <numerusform>%1 изображения не удалось прочитать; вместо них показаны заглушки.</numerusform>
+            <numerusform>%1 изображений не удалось прочитать; вместо них показаны заглушки.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -790,10 +1369,6 @@ Add --skip-problems to rename the others.</source>
             <numerusform>Создано %1 фотографии в %2</numerusform>
             <numerusform>Создано %1 фотографий в %2</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Interrupted. The photos made so far stay; delete the folder before another try.</source>
-        <translation>Прервано. Уже созданные фотографии остаются; удалите папку перед новой попыткой.</translation>
     </message>
     <message>
         <source>not an image</source>
@@ -895,9 +1470,9 @@ Add --skip-problems to rename the others.</source>
         <source>missing, now marked as lost</source>
         <comment>files</comment>
         <translation>
-            <numerusform>исчез, помечен как утраченный</numerusform>
-            <numerusform>исчезли, помечены как утраченные</numerusform>
-            <numerusform>исчезли, помечены как утраченные</numerusform>
+            <numerusform>отсутствует, помечен как утраченный</numerusform>
+            <numerusform>отсутствуют, помечены как утраченные</numerusform>
+            <numerusform>отсутствуют, помечены как утраченные</numerusform>
         </translation>
     </message>
     <message>
@@ -914,11 +1489,11 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. What was read so far is in the catalogue; run the same command to continue.</source>
-        <translation>Прервано. Прочитанное сохранено в каталоге; та же команда продолжит с этого места.</translation>
+        <translation>Прервано. Прочитанное сохранено в каталоге; чтобы продолжить, выполните ту же команду.</translation>
     </message>
     <message>
         <source>Analysing</source>
-        <translation>Просмотр</translation>
+        <translation>Анализ</translation>
     </message>
     <message>
         <source>Grouping</source>
@@ -934,7 +1509,7 @@ Add --skip-problems to rename the others.</source>
     </message>
     <message>
         <source>Interrupted. Run the same command to continue.</source>
-        <translation>Прервано. Та же команда продолжит с этого места.</translation>
+        <translation>Прервано. Чтобы продолжить, выполните ту же команду.</translation>
     </message>
     <message>
         <source>Interrupted. Nothing was moved.</source>
@@ -1077,16 +1652,16 @@ Add --skip-problems to rename the others.</source>
     <message>
         <source>A photo joins the first group whose centre scores above %1 against it. The centre is the
 mean of the photos in the group at that time; later photos move it.</source>
-        <translation>Фотография попадает в первую группу, сходство с центром которой (средним её фотографий на тот
-момент) превышало %1; следующие фотографии сдвигают центр.</translation>
+        <translation>Фотография попадает в первую группу, сходство с центром которой превышает %1. Центр — это
+среднее фотографий, которые есть в группе в этот момент; следующие фотографии сдвигают его.</translation>
     </message>
     <message>
         <source>Matching all photos again gives the same groups.</source>
-        <translation>Группы таковы, какими их даёт новое сравнение всех фотографий.</translation>
+        <translation>Новое сравнение всех фотографий даёт те же группы.</translation>
     </message>
     <message>
         <source>&quot;lumidex similar --anew&quot; makes all groups again.</source>
-        <translation>«lumidex similar --anew» составит группы с нуля.</translation>
+        <translation>«lumidex similar --anew» составит все группы заново.</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
@@ -1272,33 +1847,19 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>Only %1 of the %2 steps that you asked for.</source>
         <translation>
-            <numerusform>Только %1 шаг из %2 запрошенных.</numerusform>
-            <numerusform>Только %1 шага из %2 запрошенных.</numerusform>
-            <numerusform>Только %1 шагов из %2 запрошенных.</numerusform>
+            <numerusform>Только %1 из %2 запрошенных шагов.</numerusform>
+            <numerusform>Только %1 из %2 запрошенных шагов.</numerusform>
+            <numerusform>Только %1 из %2 запрошенных шагов.</numerusform>
         </translation>
     </message>
     <message>
         <source>The setting %1 is invalid (%2); the default is used.</source>
-        <translation>Параметр %1 не имеет смысла (%2); используется обычное ограничение.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 days and %2</source>
-        <comment>within so many</comment>
-        <translation>
-            <numerusform>%1 день и %2</numerusform>
-            <numerusform>%1 дня и %2</numerusform>
-            <numerusform>%1 дней и %2</numerusform>
-        </translation>
+        <translation>Параметр %1 недопустим (%2); используется значение по умолчанию.</translation>
     </message>
     <message>
         <source>undone</source>
         <comment>a step</comment>
         <translation>отменён</translation>
-    </message>
-    <message>
-        <source>given up</source>
-        <comment>a step</comment>
-        <translation>оставлен как есть</translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
@@ -1355,7 +1916,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>Older steps cannot be undone before this one; &quot;lumidex undo --skip&quot; skips it for good.</source>
-        <translation>Более ранние шаги ждут его; «lumidex undo --skip» навсегда оставит его как есть.</translation>
+        <translation>Более ранние шаги нельзя отменить раньше этого; «lumidex undo --skip» навсегда пропустит его.</translation>
     </message>
     <message>
         <source>There is nothing to skip.</source>
@@ -1363,11 +1924,11 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>Skipped: %1.</source>
-        <translation>Оставлено как есть: %1.</translation>
+        <translation>Пропущено: %1.</translation>
     </message>
     <message>
         <source>Its originals (%1) are kept until they exceed the limits of undo.</source>
-        <translation>Хранимое для него (%1) останется, пока не станет слишком старым или слишком большим.</translation>
+        <translation>Исходные файлы этого шага (%1) хранятся, пока не превысят ограничения «undo».</translation>
     </message>
     <message numerus="yes">
         <source>%1 older steps cannot be undone any more.</source>
@@ -1377,21 +1938,21 @@ mean of the photos in the group at that time; later photos move it.</source>
             <numerusform>%1 более ранних шагов больше нельзя отменить.</numerusform>
         </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Steps can be undone for %1 days of use, with up to %2 of originals.</source>
-        <translation>Шаги можно отменить в пределах: %1.</translation>
+        <translation>
+            <numerusform>Шаги можно отменить в течение %1 дня использования, исходных файлов хранится до %2.</numerusform>
+            <numerusform>Шаги можно отменить в течение %1 дней использования, исходных файлов хранится до %2.</numerusform>
+            <numerusform>Шаги можно отменить в течение %1 дней использования, исходных файлов хранится до %2.</numerusform>
+        </translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
         <translation>Повторять нечего.</translation>
     </message>
     <message>
-        <source>There is nothing to undo.</source>
-        <translation>Отменять нечего.</translation>
-    </message>
-    <message>
         <source>Copies would share names with files of other shots:</source>
-        <translation>Эти файлы относятся к другим снимкам, чем те, с чьими именами они там совпадают:</translation>
+        <translation>Копии получили бы имена файлов других снимков:</translation>
     </message>
     <message>
         <source>file time</source>
@@ -1412,7 +1973,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>FROM</source>
-        <translation>ИЗ</translation>
+        <translation>ИСТОЧНИК</translation>
     </message>
     <message>
         <source>CAMERA</source>
@@ -1453,15 +2014,6 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message>
         <source>FILE</source>
         <translation>ФАЙЛ</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3.</source>
-        <comment>found, searched, dates</comment>
-        <translation>
-            <numerusform>%1 из %2 фотографии, снято %3.</numerusform>
-            <numerusform>%1 из %2 фотографий, снято %3.</numerusform>
-            <numerusform>%1 из %2 фотографий, снято %3.</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 photos.</source>
@@ -1596,9 +2148,9 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 photos were left out, because they have no date but the times of their files. To include them, run: lumidex albums --file-times</source>
         <translation>
-            <numerusform>Пропущена %1 фотография: её дата известна только по времени файла. Чтобы включить её, выполните: lumidex albums --file-times</numerusform>
-            <numerusform>Пропущено %1 фотографии: их даты известны только по времени файлов. Чтобы включить их, выполните: lumidex albums --file-times</numerusform>
-            <numerusform>Пропущено %1 фотографий: их даты известны только по времени файлов. Чтобы включить их, выполните: lumidex albums --file-times</numerusform>
+            <numerusform>Пропущена %1 фотография: у неё нет другой даты, кроме времени файла. Чтобы включить её, выполните: lumidex albums --file-times</numerusform>
+            <numerusform>Пропущено %1 фотографии: у них нет другой даты, кроме времени файлов. Чтобы включить их, выполните: lumidex albums --file-times</numerusform>
+            <numerusform>Пропущено %1 фотографий: у них нет другой даты, кроме времени файлов. Чтобы включить их, выполните: lumidex albums --file-times</numerusform>
         </translation>
     </message>
     <message>
@@ -1608,11 +2160,7 @@ mean of the photos in the group at that time; later photos move it.</source>
     </message>
     <message>
         <source>If all these photos are edited at once:</source>
-        <translation>Об изменении всех этих фотографий сразу:</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Проверка</translation>
+        <translation>Если изменить все эти фотографии сразу:</translation>
     </message>
     <message>
         <source>its sidecar</source>
@@ -1642,24 +2190,6 @@ mean of the photos in the group at that time; later photos move it.</source>
             <numerusform>Изменено %1 фотографий; отменить это нельзя.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or later.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 из %2 фотографии, снято %3 или позже.</numerusform>
-            <numerusform>%1 из %2 фотографий, снято %3 или позже.</numerusform>
-            <numerusform>%1 из %2 фотографий, снято %3 или позже.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %2 photos, taken %3 or earlier.</source>
-        <comment>found, searched, date</comment>
-        <translation>
-            <numerusform>%1 из %2 фотографии, снято %3 или раньше.</numerusform>
-            <numerusform>%1 из %2 фотографий, снято %3 или раньше.</numerusform>
-            <numerusform>%1 из %2 фотографий, снято %3 или раньше.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There are no photos or videos in the given folders.</source>
         <translation>В указанных папках нет ни фотографий, ни видео.</translation>
@@ -1687,9 +2217,9 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 files are not copied, because they are not on removable storage; &quot;--to DIR&quot; copies them.</source>
         <translation>
-            <numerusform>%1 файл не копируется: он находится не на съёмном носителе и остаётся на месте. «--to ПАПКА» скопирует его.</numerusform>
-            <numerusform>%1 файла не копируются: они находятся не на съёмном носителе и остаются на месте. «--to ПАПКА» скопирует их.</numerusform>
-            <numerusform>%1 файлов не копируются: они находятся не на съёмном носителе и остаются на месте. «--to ПАПКА» скопирует их.</numerusform>
+            <numerusform>%1 файл не копируется, так как он находится не на съёмном носителе; «--to ПАПКА» скопирует его.</numerusform>
+            <numerusform>%1 файла не копируются, так как они находятся не на съёмном носителе; «--to ПАПКА» скопирует их.</numerusform>
+            <numerusform>%1 файлов не копируются, так как они находятся не на съёмном носителе; «--to ПАПКА» скопирует их.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1703,9 +2233,9 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 housekeeping files of cameras and systems are not copied.</source>
         <translation>
-            <numerusform>Оставлен %1 служебный файл камер и систем.</numerusform>
-            <numerusform>Оставлено %1 служебных файла камер и систем.</numerusform>
-            <numerusform>Оставлено %1 служебных файлов камер и систем.</numerusform>
+            <numerusform>%1 служебный файл камер и систем не копируется.</numerusform>
+            <numerusform>%1 служебных файла камер и систем не копируются.</numerusform>
+            <numerusform>%1 служебных файлов камер и систем не копируются.</numerusform>
         </translation>
     </message>
     <message>
@@ -1719,9 +2249,9 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message numerus="yes">
         <source>%1 steps cannot be undone any more, because more than %2 days of use have passed.</source>
         <translation>
-            <numerusform>%1 шаг больше нельзя отменить: число дней использования с тех пор превысило %2.</numerusform>
-            <numerusform>%1 шага больше нельзя отменить: число дней использования с тех пор превысило %2.</numerusform>
-            <numerusform>%1 шагов больше нельзя отменить: число дней использования с тех пор превысило %2.</numerusform>
+            <numerusform>%1 шаг больше нельзя отменить: прошло более %2 дней использования.</numerusform>
+            <numerusform>%1 шага больше нельзя отменить: прошло более %2 дней использования.</numerusform>
+            <numerusform>%1 шагов больше нельзя отменить: прошло более %2 дней использования.</numerusform>
         </translation>
     </message>
     <message>
@@ -1756,8 +2286,8 @@ mean of the photos in the group at that time; later photos move it.</source>
     <message>
         <source>These may be photos that were moved, but several files or photos come into question.
 The photos keep their tags and albums, the files are new:</source>
-        <translation>Возможно, перемещены, но определить это нельзя. Фотографии сохраняют метки и
-альбомы, файлы считаются новыми:</translation>
+        <translation>Возможно, это перемещённые фотографии, но подходят несколько файлов или фотографий.
+Фотографии сохраняют метки и альбомы, файлы считаются новыми:</translation>
     </message>
     <message numerus="yes">
         <source>%1 XMP</source>
@@ -1829,7 +2359,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>has maker notes</source>
-        <translation>с заметкой производителя</translation>
+        <translation>с заметками производителя</translation>
     </message>
     <message>
         <source>not written by another program</source>
@@ -1853,14 +2383,6 @@ The photos keep their tags and albums, the files are new:</source>
             <numerusform>%1 фотографию по-прежнему нельзя сравнить; «lumidex similar --not-compared» покажет её.</numerusform>
             <numerusform>%1 фотографии по-прежнему нельзя сравнить; «lumidex similar --not-compared» покажет их.</numerusform>
             <numerusform>%1 фотографий по-прежнему нельзя сравнить; «lumidex similar --not-compared» покажет их.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of them (%2) are the same picture as the one to keep; &quot;lumidex similar --trash&quot; moves those to the trash.</source>
-        <translation>
-            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемое; «lumidex similar --trash» переместит его в корзину.</numerusform>
-            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемое; «lumidex similar --trash» переместит их в корзину.</numerusform>
-            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемое; «lumidex similar --trash» переместит их в корзину.</numerusform>
         </translation>
     </message>
     <message>
@@ -1909,11 +2431,11 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>To undo the edit, %1 of originals must be kept, but the limit is %2.</source>
-        <translation>Чтобы это можно было отменить, нужно хранить %1 исходных файлов, а ограничение — %2.</translation>
+        <translation>Чтобы правку можно было отменить, нужно хранить %1 исходных файлов, но ограничение — %2.</translation>
     </message>
     <message>
         <source>&quot;lumidex undo --keep-size %1&quot; raises the limit; with --no-undo nothing is kept, and the edit cannot be undone.</source>
-        <translation>«lumidex undo --keep-size %1» повысит ограничение; с --no-undo ничего не сохраняется, и отменить это будет нельзя.</translation>
+        <translation>«lumidex undo --keep-size %1» повысит ограничение; с --no-undo ничего не сохраняется, и правку нельзя будет отменить.</translation>
     </message>
     <message numerus="yes">
         <source>To keep %1 of originals within the limit of %2, undo would have to forget %3 older steps:</source>
@@ -1945,11 +2467,11 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>No originals would be kept, so the edit could not be undone.</source>
-        <translation>Ничего не было бы сохранено: отменить это было бы нельзя.</translation>
+        <translation>Исходные файлы не сохранились бы, и правку нельзя было бы отменить.</translation>
     </message>
     <message>
         <source>The edit would be refused.</source>
-        <translation>Это было бы отклонено.</translation>
+        <translation>Правка была бы отклонена.</translation>
     </message>
     <message numerus="yes">
         <source>import %1 files to %2</source>
@@ -1976,10 +2498,6 @@ The photos keep their tags and albums, the files are new:</source>
         <comment>a photo is; a file</comment>
         <translation>похожа на %1</translation>
     </message>
-    <message>
-        <source>Not the same picture as the one to keep, only alike:</source>
-        <translation>Не то же изображение, что и оставляемое, а только похожие:</translation>
-    </message>
     <message numerus="yes">
         <source>%1 photos are alike and not the same picture; they stay unless --alike is given.</source>
         <translation>
@@ -1999,12 +2517,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>Undo without keeping what redo needs? [y/N]</source>
-        <translation>Продолжить без того, что нужно для повтора? [д/Н]</translation>
-    </message>
-    <message>
-        <source>goes on</source>
-        <comment>a step</comment>
-        <translation>выполняется</translation>
+        <translation>Отменить, не сохраняя нужное для повтора? [д/Н]</translation>
     </message>
     <message numerus="yes">
         <source>%1 copies are in the trash now.</source>
@@ -2016,7 +2529,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>There is no room to keep what redo needs; &quot;lumidex undo --no-redo&quot; undoes without it.</source>
-        <translation>Нет места, чтобы сохранить нужное для повтора; «lumidex undo --no-redo» обойдётся без этого.</translation>
+        <translation>Нет места, чтобы сохранить нужное для повтора; «lumidex undo --no-redo» отменит без этого.</translation>
     </message>
     <message numerus="yes">
         <source>Undo of &quot;%1&quot; (%2) will leave %3 files as they are, because this step changed them later:</source>
@@ -2042,18 +2555,18 @@ The photos keep their tags and albums, the files are new:</source>
     <message numerus="yes">
         <source>An import skips %1 other files (--json lists them).</source>
         <translation>
-            <numerusform>При импорте останется ещё %1 файл (--json покажет его).</numerusform>
-            <numerusform>При импорте останется ещё %1 файла (--json покажет их).</numerusform>
-            <numerusform>При импорте останется ещё %1 файлов (--json покажет их).</numerusform>
+            <numerusform>При импорте пропускается ещё %1 файл (--json покажет его).</numerusform>
+            <numerusform>При импорте пропускается ещё %1 файла (--json покажет их).</numerusform>
+            <numerusform>При импорте пропускается ещё %1 файлов (--json покажет их).</numerusform>
         </translation>
     </message>
     <message>
         <source>Every file in %1 has a verified copy elsewhere.</source>
-        <translation>В %1 ничего не осталось: у каждого файла есть сверенная копия в другом месте.</translation>
+        <translation>У каждого файла в %1 есть проверенная копия в другом месте.</translation>
     </message>
     <message>
         <source>Every file in %1, except for housekeeping files, has a verified copy elsewhere.</source>
-        <translation>В %1 остались только служебные файлы: у каждого другого файла есть сверенная копия в другом месте.</translation>
+        <translation>У каждого файла в %1, кроме служебных, есть проверенная копия в другом месте.</translation>
     </message>
     <message>
         <source>It is safe to format.</source>
@@ -2061,8 +2574,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Что касается этой папки, можно безопасно форматировать; то, что лежит рядом,
-не проверялось.</translation>
+        <translation>При форматировании из этой папки ничего не пропадёт; то, что вне её, не проверялось.</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -2070,7 +2582,7 @@ The photos keep their tags and albums, the files are new:</source>
     </message>
     <message>
         <source>The disk of %1 has %2 free, but editing all photos needs %3: the last ones would not be edited.</source>
-        <translation>На диске папки %1 свободно %2, а для изменения всех фотографий нужно %3: последние остались бы как есть.</translation>
+        <translation>На диске папки %1 свободно %2, но для изменения всех фотографий нужно %3: последние не были бы изменены.</translation>
     </message>
     <message numerus="yes">
         <source>The sources of %1 of them are gone or changed: do not empty the trash before you have another copy.</source>
@@ -2079,6 +2591,115 @@ The photos keep their tags and albums, the files are new:</source>
             <numerusform>Для %1 из них исходные файлы исчезли или были изменены: не очищайте корзину, пока у вас нет других копий.</numerusform>
             <numerusform>Для %1 из них исходные файлы исчезли или были изменены: не очищайте корзину, пока у вас нет других копий.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos edited so far stay edited.</source>
+        <translation>Прервано. Уже изменённые фотографии останутся изменёнными.</translation>
+    </message>
+    <message>
+        <source>Interrupted. The photos made so far stay; delete the folder before you try again.</source>
+        <translation>Прервано. Уже созданные фотографии остаются; удалите папку, прежде чем пробовать снова.</translation>
+    </message>
+    <message>
+        <source>,</source>
+        <comment>between thousands</comment>
+        <translation>&#xa0;</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>before decimals</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 Б</translation>
+    </message>
+    <message>
+        <source>%1 KiB</source>
+        <translation>%1 КиБ</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 МиБ</translation>
+    </message>
+    <message>
+        <source>%1 GiB</source>
+        <translation>%1 ГиБ</translation>
+    </message>
+    <message>
+        <source>%1 TiB</source>
+        <translation>%1 ТиБ</translation>
+    </message>
+    <message>
+        <source>%1 PiB</source>
+        <translation>%1 ПиБ</translation>
+    </message>
+    <message>
+        <source>%1 EiB</source>
+        <translation>%1 ЭиБ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 из %2 фотографии, снято %3.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken from %3 to %4.</source>
+        <comment>found, searched, dates</comment>
+        <translation>
+            <numerusform>%1 из %2 фотографии, снято с %3 по %4.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято с %3 по %4.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято с %3 по %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or later.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 из %2 фотографии, снято %3 или позже.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3 или позже.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3 или позже.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 photos, taken on %3 or earlier.</source>
+        <comment>found, searched, date</comment>
+        <translation>
+            <numerusform>%1 из %2 фотографии, снято %3 или раньше.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3 или раньше.</numerusform>
+            <numerusform>%1 из %2 фотографий, снято %3 или раньше.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of them (%2) are the same picture as the photo to keep; &quot;lumidex similar --trash&quot; moves them to the trash.</source>
+        <translation>
+            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемая фотография; «lumidex similar --trash» переместит его в корзину.</numerusform>
+            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемая фотография; «lumidex similar --trash» переместит их в корзину.</numerusform>
+            <numerusform>Из них %1 (%2) — то же изображение, что и оставляемая фотография; «lumidex similar --trash» переместит их в корзину.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not the same picture as the photo to keep, only alike:</source>
+        <translation>Не то же изображение, что и оставляемая фотография, а только похожие:</translation>
+    </message>
+    <message>
+        <source>cannot be undone</source>
+        <comment>a step</comment>
+        <translation>больше нельзя отменить</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <comment>a step</comment>
+        <translation>выполняется</translation>
+    </message>
+    <message>
+        <source>WHEN</source>
+        <comment>a step</comment>
+        <translation>ВРЕМЯ</translation>
     </message>
 </context>
 <context>

@@ -106,8 +106,7 @@ std::string SameText(const SimilarView& view) {
   if (same.photos == 0) {
     return {};
   }
-  return Say(Words::tr("%1 of them (%2) are the same picture as the one to keep; \"lumidex similar --trash\" "
-                       "moves them to the trash.",
+  return Say(Words::tr("%1 of them (%2) are the same picture as the photo to keep; \"lumidex similar --trash\" moves them to the trash.",
                        nullptr, Amount(same.photos)),
              {GroupDigits(same.photos), SizeText(same.bytes)}) +
          '\n';
