@@ -67,8 +67,34 @@ def texts_of(file):
     return texts
 
 
-def check(target):
+def literals_of(folders):
+    """What the string literals of the sources say, those side by side as one."""
+    pattern = re.compile(r'"((?:[^"\\\n]|\\.)*)"(?:\s*"((?:[^"\\\n]|\\.)*)")*')
+    texts = []
+    for folder in folders:
+        for source in sorted((ROOT / folder).rglob("*.cpp")) + sorted((ROOT / folder).rglob("*.h")):
+            for found in pattern.finditer(source.read_text(encoding="utf-8")):
+                texts.append("".join(re.findall(r'"((?:[^"\\\n]|\\.)*)"', found.group())).replace('\\"', '"'))
+    return "\n".join(texts)
+
+
+def check_causes(target):
+    """The command recognises causes of the host by their English: each piece must still be said somewhere."""
+    said = literals_of(["host", "platform"])
     faults = 0
+    for context, source, _, _ in sorted(texts_of(target / "translations/lumidex_en_US.ts")):
+        pieces = re.split(r"%\d", source) if context == "Causes" else []
+        for piece in pieces:
+            # A sentence may be put together of two literals.
+            halves = [(piece[:at], piece[at:]) for at in range(len(piece) + 1)]
+            if not any(left in said and right in said for left, right in halves):
+                print(f"Causes: no longer said by the host: {piece!r} of {source!r}")
+                faults += 1
+    return faults
+
+
+def check(target):
+    faults = check_causes(target)
     for language in LANGUAGES:
         name = f"translations/lumidex_{language}.ts"
         wanted, there = texts_of(target / name), texts_of(ROOT / name)

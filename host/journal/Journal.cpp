@@ -296,8 +296,9 @@ void Journal::Recover() {
 
 void Journal::NoteReversal(const StepRow& step, const UndoResult& result, bool namesFiles) {
   const std::size_t left = result.findings.size();
-  const std::string note = std::string("Interrupted ") + (step.state == State::Redoing ? "redo" : "undo") +
-                           " of \"" + step.name.toStdString() + "\" is now complete";
+  const std::string note =
+      (step.state == State::Redoing ? "Interrupted redo of \"" : "Interrupted undo of \"") +
+      step.name.toStdString() + "\" is now complete";
   Note(left == 0 ? note + '.' : note + ", except for:");
   for (const FileFinding& finding : result.findings) {
     Note(namesFiles ? finding.file.utf8string() + ": " + finding.cause : finding.cause + ".");

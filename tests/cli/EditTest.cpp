@@ -96,7 +96,7 @@ TEST_F(EditCommands, RefuseWhatMakesNoSense) {
       {{"rotate"}, "DIRECTION"},
       {{"shift-date", "2h", "photos"}, "OFFSET needs a sign: +2h"},
       {{"shift-date", "+2x", "photos"}, "OFFSET needs a time such as +1h"},
-      {{"shift-date", "+0h", "photos"}, "OFFSET needs a time that moves something"},
+      {{"shift-date", "+0h", "photos"}, "OFFSET needs a time other than 0"},
       {{"shift-date", "-x", "photos", "photos"}, "There is no option -x"},
       {{"set-date", "17.05.2024", "photos"}, "DATE needs a date such as 2024-05-17"},
       {{"set-date", "2024-02-30", "photos"}, "DATE needs"},

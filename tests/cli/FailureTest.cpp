@@ -72,15 +72,15 @@ TEST_F(FailingCommand, SuggestsWhatMayHaveBeenMeant) {
 
 TEST_F(FailingCommand, SaysWhereAnOptionBelongs) {
   EXPECT_THAT(Run({"--locale", "ja_JP", "albums"}).err,
-              HasSubstr("The option --locale belongs behind its command: lumidex albums --locale (see"));
+              HasSubstr("The option --locale must follow its command: lumidex albums --locale (see"));
   EXPECT_THAT(Run({"--locale=ja_JP", "calendar", "show"}).err,
-              HasSubstr("belongs behind its command: lumidex calendar show --locale (see"));
+              HasSubstr("must follow its command: lumidex calendar show --locale (see"));
   EXPECT_THAT(
       Run({"similar", "--locale", "ja_JP"}).err,
       HasSubstr("There is no option --locale of \"similar\"; it belongs to: albums, calendar show (see"));
   EXPECT_THAT(
       Run({"--locale", "ja_JP"}).err,
-      HasSubstr("There is no option --locale in front of a command; it belongs to: albums, calendar show"));
+      HasSubstr("There is no option --locale before a command; it belongs to: albums, calendar show"));
 }
 
 TEST_F(FailingCommand, SaysHowATagOfOneLetterIsTakenAway) {

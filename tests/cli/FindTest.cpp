@@ -55,10 +55,10 @@ TEST_F(FindCommand, GoesByDatesInBothForms) {
   EXPECT_THAT(Found({"--date", "- 2023-06-01"}), ElementsAre("c.jpg", "a.jpg"));
   EXPECT_THAT(Found({"--date=- 2022"}), ElementsAre("c.jpg"));
   // How it was understood.
-  EXPECT_THAT(Run({"find", "--date", "2023"}).out, HasSubstr(", taken 2023-01-01 - 2023-12-31.\n"));
-  EXPECT_THAT(Run({"find", "--date", "2023-06 -"}).out, HasSubstr(", taken 2023-06-01 or later.\n"));
-  EXPECT_THAT(Run({"find", "--date", "- 2023-06"}).out, HasSubstr(", taken 2023-06-30 or earlier.\n"));
-  EXPECT_THAT(Run({"find", "--date", "3/1/15"}).out, HasSubstr(", taken 2015-03-01.\n"));
+  EXPECT_THAT(Run({"find", "--date", "2023"}).out, HasSubstr(", taken from 2023-01-01 to 2023-12-31.\n"));
+  EXPECT_THAT(Run({"find", "--date", "2023-06 -"}).out, HasSubstr(", taken on 2023-06-01 or later.\n"));
+  EXPECT_THAT(Run({"find", "--date", "- 2023-06"}).out, HasSubstr(", taken on 2023-06-30 or earlier.\n"));
+  EXPECT_THAT(Run({"find", "--date", "3/1/15"}).out, HasSubstr(", taken on 2015-03-01.\n"));
 }
 
 TEST_F(FindCommand, GoesByPlaceAlsoSouthOfTheEquator) {

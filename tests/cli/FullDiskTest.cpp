@@ -74,10 +74,10 @@ TEST_F(FullPhotoDisk, IsSeenBeforeItIsFull) {
   FillBut(900'000);
   const Ran dry = Run({"--catalogue", catalogue, "rotate", "--dry-run", "right", "photos"});
   EXPECT_EQ(dry.exitCode, 3);
-  EXPECT_THAT(dry.out, HasSubstr("of room left, and editing all of them takes"));
+  EXPECT_THAT(dry.out, HasSubstr("free, but editing all photos needs"));
   const Ran check = Run({"--catalogue", catalogue, "check", "--for", "rotate", "photos"});
   EXPECT_EQ(check.exitCode, 1);
-  EXPECT_THAT(check.out, HasSubstr("of room left, and editing all of them takes"));
+  EXPECT_THAT(check.out, HasSubstr("free, but editing all photos needs"));
 }
 #endif
 

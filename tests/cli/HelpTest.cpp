@@ -75,6 +75,16 @@ TEST_F(HelpPages, ComeWithOptionsOfTheProgram) {
   EXPECT_EQ(Run({"help", "help"}).out, Run({"help"}).out);
 }
 
+TEST_F(HelpPages, ExplainGlobalOptionsOnceAndNameThemElsewhere) {
+  const std::string first = Run({"--help"}).out;
+  EXPECT_THAT(first, HasSubstr("\nGlobal options:\n"));
+  EXPECT_THAT(first, HasSubstr("The language of messages"));
+  const std::string page = Run({"help", "albums"}).out;
+  EXPECT_THAT(page, HasSubstr("\nGlobal options (see: lumidex --help):\n  --help, "));
+  EXPECT_THAT(page, HasSubstr("--lang"));
+  EXPECT_THAT(page, Not(HasSubstr("The language of messages")));
+}
+
 TEST_F(HelpPages, AreNotThereForCommandsThatDoNotExist) {
   for (const QStringList& line : std::vector<QStringList>{
            {"help", "calendr"}, {"--help", "calendr"}, {"calendr", "--help"}, {"-q", "help", "calendr"}}) {

@@ -41,8 +41,8 @@ TEST_F(ImportCommand, CopiesAndTellsWhatItDid) {
   const Ran ran = Run({"import", Text(Photos()), "--to", Text(Copies())});
   EXPECT_EQ(ran.exitCode, 0) << ran.err;
   EXPECT_THAT(ran.out, HasSubstr("3 files"));
-  EXPECT_THAT(ran.out, HasSubstr("each compared"));
-  EXPECT_THAT(ran.out, HasSubstr("3 photos new in the catalogue"));
+  EXPECT_THAT(ran.out, HasSubstr("and verified"));
+  EXPECT_THAT(ran.out, HasSubstr("3 photos added to the catalogue"));
   EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 3);
 }
 
@@ -153,8 +153,8 @@ TEST_F(ImportCommand, IsSafeToFormatWhenNothingIsLeft) {
   EXPECT_THAT(ran.out, HasSubstr("safe to format"));
   EXPECT_THAT(ran.out, HasSubstr("what lies beside it was not")) << "it is no whole volume";
   EXPECT_THAT(ran.out, HasSubstr("2 housekeeping files"));
-  EXPECT_THAT(ran.out, HasSubstr("Nothing but housekeeping files is left"));
-  EXPECT_THAT(ran.out, HasSubstr("each other file has a compared copy"));
+  EXPECT_THAT(ran.out, HasSubstr("Every file in "));
+  EXPECT_THAT(ran.out, HasSubstr("except for housekeeping files, has a verified copy"));
   EXPECT_THAT(ran.out, Not(HasSubstr(": each file has")));
 }
 
@@ -197,11 +197,11 @@ TEST_F(ImportCommand, SaysWhyNothingIsCopied) {
   tree.Write("photos/card/clip.mov", "x");
   const Ran ran = Run({"import", Text(Photos())});
   EXPECT_EQ(ran.exitCode, 0) << ran.err;
-  EXPECT_THAT(ran.out, HasSubstr("4 files are not copied: they do not lie on removable storage"));
+  EXPECT_THAT(ran.out, HasSubstr("4 files are not copied, because they are not on removable storage"));
   EXPECT_THAT(ran.out, HasSubstr("--to DIR"));
   EXPECT_THAT(ran.out, Not(HasSubstr("safe to format")));
   EXPECT_THAT(Run({"import", "--no-copy", Text(Photos())}).out,
-              HasSubstr("4 files are not copied, as you said"));
+              HasSubstr("4 files are not copied, as you chose"));
 }
 
 TEST_F(ImportCommand, CanBeTakenBack) {

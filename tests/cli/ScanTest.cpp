@@ -160,7 +160,7 @@ TEST_F(ScanCommand, NamesPhotosThatMovedNobodyKnowsWhere) {
               HasSubstr("  " + photo.utf8string() +
                         "\n    It is missing, and 2 files may be it: " + (Photos() / "one.jpg").utf8string() +
                         ", " + (Photos() / "two.jpg").utf8string() + '\n'));
-  EXPECT_THAT(shown.out, Not(HasSubstr("Not taken in")));
+  EXPECT_THAT(shown.out, Not(HasSubstr("Not added")));
   const QJsonObject document = Run({"--json", "scan", Text(Photos())}).Json();
   EXPECT_EQ(Number(document, "added"), 2);
   EXPECT_EQ(Number(document, "lost"), 1);

@@ -214,7 +214,7 @@ TEST_F(SimilarCommand, SaysWhatEachPhotoIsToTheOneToKeep) {
   EXPECT_THAT(ran.out, HasLike("\n  same +[0-9.]+ +240x180 "));
   EXPECT_THAT(ran.out, HasLike("\n  alike +[0-9.]+ +456x342 "));
   EXPECT_THAT(ran.out, HasSubstr("3 of them ("));
-  EXPECT_THAT(ran.out, HasSubstr(") are the same picture as the one to keep; \"lumidex similar --trash\""));
+  EXPECT_THAT(ran.out, HasSubstr(") are the same picture as the photo to keep; \"lumidex similar --trash\""));
   std::map<std::string, std::string> verdicts;
   const QJsonArray groups = Run({"similar", "--json"}).Json()["groups"].toArray();
   ASSERT_EQ(groups.size(), 2);
@@ -273,7 +273,7 @@ TEST_F(SimilarCommand, ExplainsTwoPhotosNoMoreAndNoLess) {
   EXPECT_THAT(Run({"similar", "--explain", "a.jpg"}).err, HasSubstr("--explain needs 2 values"));
   EXPECT_THAT(Run({"similar", "--explain", "a.jpg", "b.jpg", "c.jpg"}).err,
               HasSubstr("--explain needs 2 values"));
-  EXPECT_THAT(Run({"similar", "--min", "2", "--min", "3"}).err, HasSubstr("can be given once only"));
+  EXPECT_THAT(Run({"similar", "--min", "2", "--min", "3"}).err, HasSubstr("can be given only once"));
   EXPECT_THAT(Run({"similar", "--check=3"}).err, HasSubstr("--check takes no value"));
 }
 
@@ -327,7 +327,7 @@ TEST_F(SimilarCommand, ChecksWhatTheCatalogueHolds) {
   Run({"similar"});
   const Ran sound = Run({"similar", "--check"});
   EXPECT_EQ(sound.exitCode, 0);
-  EXPECT_THAT(sound.out, HasSubstr("as matching all photos again makes them"));
+  EXPECT_THAT(sound.out, HasSubstr("Matching all photos again gives the same groups"));
   ChangeCatalogue(DefaultCatalogue(), "UPDATE clusters SET count = 9 WHERE count = 3");
   const Ran wrong = Run({"similar", "--check"});
   EXPECT_EQ(wrong.exitCode, 1);

@@ -50,7 +50,7 @@ TEST_F(TagCommand, IsUndoneAndDoneAgain) {
   ASSERT_EQ(Run({"tag", "photos", "-Beach", "+Trip"}).exitCode, 0);
   EXPECT_EQ(Run({"undo"}).out, "Taken back: tag +Trip -Beach.\n");
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("own Beach"));
-  EXPECT_EQ(Run({"redo"}).out, "Done again: tag +Trip -Beach.\n");
+  EXPECT_EQ(Run({"redo"}).out, "Redone: tag +Trip -Beach.\n");
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("own Trip"));
   ASSERT_EQ(Run({"undo", "--last", "2"}).exitCode, 0);
   EXPECT_THAT(TagsOf("a.jpg"), IsEmpty());

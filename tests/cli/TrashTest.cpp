@@ -142,8 +142,8 @@ TEST_F(TrashCommand, TellsWhatAnEmptiedTrashDoesNotGiveBack) {
   EXPECT_EQ(part.exitCode, 3);
   EXPECT_THAT(part.out, HasSubstr((Photos() / "a2.jpg").utf8string() +
                                   " is no longer in the trash and cannot be brought back\n"));
-  EXPECT_THAT(part.out, HasSubstr("Taken back: move similar photos to the trash, but for 1 file."));
-  EXPECT_THAT(part.out, Not(HasSubstr("wait for it")));
+  EXPECT_THAT(part.out, HasSubstr("Undone: move similar photos to the trash, except for 1 file."));
+  EXPECT_THAT(part.out, Not(HasSubstr("Older steps")));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "b1.jpg", "b2.jpg", "c.jpg", "sub/a3.jpg"));
 }
 
@@ -211,7 +211,7 @@ TEST_F(TrashCommand, WritesOneDocumentWithAllItsMembers) {
 TEST_F(TrashCommand, MovesNothingWithoutAnAnswer) {
   const Ran nobody = Run({"similar", "--trash"});
   EXPECT_EQ(nobody.exitCode, 4);
-  EXPECT_THAT(nobody.err, HasSubstr("Nothing was moved: --trash asks first, and this is no terminal."));
+  EXPECT_THAT(nobody.err, HasSubstr("Nothing was moved: --trash asks first, and this is not a terminal."));
   EXPECT_THAT(nobody.out, IsEmpty());
   EXPECT_EQ(Run({"similar", "--trash", "--json"}).exitCode, 2);
   EXPECT_EQ(Run({"similar", "--trash", "--json"}).Json()["kind"].toString(), QStringLiteral("usage"));
@@ -298,7 +298,7 @@ TEST_F(TrashCommand, LeavesWhatWasChangedSinceTheScan) {
   EXPECT_EQ(ran.exitCode, 3);
   EXPECT_THAT(ran.out, HasSubstr("\n  stay   "));
   EXPECT_THAT(ran.out, HasSubstr("Not moved:\n  " + (Photos() / "a2.jpg").utf8string() +
-                                 " stays: it was changed after it was analysed.\n"));
+                                 " is kept: it was changed after it was analysed.\n"));
   EXPECT_THAT(ran.out, HasSubstr("2 photos moved to the trash"));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "a2.jpg", "b2.jpg", "c.jpg"));
 }
@@ -309,7 +309,7 @@ TEST_F(TrashCommand, FailsWhenNothingCouldBeMoved) {
   tree.Write("photos/b2.jpg", "x");
   const Ran ran = Run({"similar", "--trash", "--yes"});
   EXPECT_EQ(ran.exitCode, 4);
-  EXPECT_THAT(ran.out, HasSubstr("stays: the photo to keep, "));
+  EXPECT_THAT(ran.out, HasSubstr("is kept: the photo to keep, "));
   EXPECT_THAT(ran.out, HasSubstr("Nothing to move to the trash.\n"));
   EXPECT_EQ(Run({"similar", "--trash", "--dry-run"}).exitCode, 4);
   EXPECT_THAT(Names(), ::testing::SizeIs(6));
@@ -333,7 +333,7 @@ TEST_F(TrashCommand, LetsWhatWasDoneBeforeBeTakenBack) {
   Run({"similar", "--trash", "--yes"});
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "b2.jpg", "c.jpg"));
   const Ran ran = Run({"undo", "--last", "3"});
-  EXPECT_THAT(ran.out, HasSubstr("Taken back: move similar photos to the trash."));
+  EXPECT_THAT(ran.out, HasSubstr("Undone: move similar photos to the trash."));
   EXPECT_EQ(State(), before_);
 }
 
@@ -442,8 +442,8 @@ TEST_F(TrashQuestion, LeavesWhatWasChangedWhileItWasAsked) {
   terminal_.Type("yes\n");
   const Ran ran = Finish(process);
   EXPECT_EQ(ran.exitCode, 3);
-  EXPECT_THAT(ran.out, HasSubstr("a2.jpg stays: it was changed after it was analysed."));
-  EXPECT_THAT(ran.out, HasSubstr("b1.jpg stays: the photo to keep, "));
+  EXPECT_THAT(ran.out, HasSubstr("a2.jpg is kept: it was changed after it was analysed."));
+  EXPECT_THAT(ran.out, HasSubstr("b1.jpg is kept: the photo to keep, "));
   EXPECT_THAT(Names(), ElementsAre("a1.jpg", "a2.jpg", "b1.jpg", "c.jpg"));
 }
 

@@ -38,9 +38,9 @@ TEST_F(UndoLimits, RefuseWhatDoesNotFitAlone) {
   EXPECT_EQ(ran.exitCode, 4);
   EXPECT_EQ(
       ran.err,
-      "lumidex: error: Nothing was changed. To be taken back it needs 39 KiB of originals kept, and the "
+      "lumidex: error: Nothing was changed. To undo the edit, 39 KiB of originals must be kept, but the "
       "limit is 30 KiB. \"lumidex undo --keep-size 40K\" raises the limit; with --no-undo nothing is "
-      "kept, and it cannot be taken back.\n");
+      "kept, and the edit cannot be undone.\n");
   EXPECT_EQ(ReadFile(Photos() / "a.jpg"), before);
   EXPECT_EQ(Steps().size(), 1);
   const QJsonObject error = Run({"rotate", "--json", "right", "photos/a.jpg"}).Json();
@@ -103,7 +103,7 @@ TEST_F(UndoLimits, AreTakenForWhatTheyAreByADryRun) {
   const Ran dry = Run({"rotate", "--dry-run", "left", "photos"});
   EXPECT_EQ(dry.exitCode, 4);
   EXPECT_THAT(dry.out,
-              HasSubstr("The edit would be refused. To be taken back it needs 39 KiB of originals kept"));
+              HasSubstr("The edit would be refused. To undo the edit, 39 KiB of originals must be kept"));
   EXPECT_FALSE(Run({"rotate", "--dry-run", "--json", "left", "photos"})
                    .Json()["undo"]
                    .toObject()["fits"]
@@ -121,7 +121,7 @@ TEST_F(UndoLimits, DoNotMatterForWhatNeedsNoUndo) {
   EXPECT_THAT(ran.out, HasSubstr("edited; it cannot be undone."));
   EXPECT_NE(ReadFile(photo), before);
   EXPECT_EQ(Run({"undo"}).exitCode, 1);
-  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("given up"));
+  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("cannot be undone"));
   EXPECT_EQ(Run({"rotate", "--no-undo", "--forget-older", "right", "photos"}).exitCode, 2);
 }
 
@@ -130,7 +130,7 @@ TEST_F(UndoLimits, LeaveStepsThatKeepNothingAlone) {
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
   tree.Write("config/lumidex/lumidex.ini", "[Undo]\nSize=1K\n");
   // Nobody was asked, so nothing goes.
-  EXPECT_THAT(Rename("x").out, HasSubstr("takes it back"));
+  EXPECT_THAT(Rename("x").out, HasSubstr("undoes it"));
   EXPECT_EQ(Steps().size(), 2);
   const Ran both = Run({"undo", "--last", "2"});
   EXPECT_EQ(both.exitCode, 0) << both.out;
@@ -163,7 +163,7 @@ TEST_F(UndoLimits, LetUndoDoWithoutRedo) {
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
   const Ran undo = Run({"undo", "--no-redo"});
   EXPECT_EQ(undo.exitCode, 0);
-  EXPECT_EQ(undo.out, "Taken back: rotate right.\n");
+  EXPECT_EQ(undo.out, "Undone: rotate right.\n");
   EXPECT_EQ(ReadFile(Photos() / "a.jpg"), before);
   EXPECT_EQ(Run({"redo"}).exitCode, 1);
   EXPECT_EQ(Steps().size(), 0);

@@ -38,13 +38,13 @@ TEST_F(UndoCommand, TakesStepsBackInTheirOrderAndDoesThemAgain) {
   const Ran undo = Run({"undo", "--last", "3"});
   EXPECT_EQ(undo.exitCode, 0);
   EXPECT_EQ(undo.out,
-            "Taken back: rename 1 photo.\n"
-            "Taken back: shift dates by +1h.\n"
-            "Taken back: rotate right.\n");
+            "Undone: rename 1 photo.\n"
+            "Undone: shift dates by +1h.\n"
+            "Undone: rotate right.\n");
   EXPECT_EQ(ReadFile(photo), before);
   const Ran redo = Run({"redo", "--last", "2"});
   EXPECT_EQ(redo.exitCode, 0);
-  EXPECT_EQ(redo.out, "Done again: rotate right.\nDone again: shift dates by +1h.\n");
+  EXPECT_EQ(redo.out, "Redone: rotate right.\nRedone: shift dates by +1h.\n");
   EXPECT_EQ(ReadFile(photo), after);
   EXPECT_EQ(Run({"redo"}).exitCode, 0);
   EXPECT_THAT(Names(), ElementsAre("x1.jpg"));
@@ -113,8 +113,8 @@ TEST_F(UndoCommand, TellsWhenThereIsNothingToTakeBack) {
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
   const Ran fewer = Run({"undo", "--last", "3"});
   EXPECT_EQ(fewer.exitCode, 1);
-  EXPECT_THAT(fewer.out, HasSubstr("Taken back: rotate right"));
-  EXPECT_THAT(fewer.err, HasSubstr("Only 1 step of the 3 asked for."));
+  EXPECT_THAT(fewer.out, HasSubstr("Undone: rotate right"));
+  EXPECT_THAT(fewer.err, HasSubstr("Only 1 of the 3 steps that you asked for."));
   EXPECT_EQ(Run({"undo"}).exitCode, 1);
 }
 
@@ -136,12 +136,12 @@ TEST_F(UndoCommand, LeavesWhatOthersHaveChangedSince) {
   const Ran partly = Run({"undo", "--last", "2"});
   EXPECT_EQ(partly.exitCode, 3) << partly.out;
   EXPECT_THAT(partly.out, HasSubstr("Left as they are:\n  " + (Photos() / "b.jpg").utf8string()));
-  EXPECT_THAT(partly.out, HasSubstr("Taken back: rotate right, but for 1 file.\n"));
+  EXPECT_THAT(partly.out, HasSubstr("Undone: rotate right, except for 1 file.\n"));
   EXPECT_EQ(ReadFile(photo), before);
   EXPECT_EQ(ReadFile(Photos() / "b.jpg"), "changed by others");
   const Ran failed = Run({"undo"});
   EXPECT_EQ(failed.exitCode, 4);
-  EXPECT_THAT(failed.out, HasSubstr("Nothing of \"rotate right\" was taken back."));
+  EXPECT_THAT(failed.out, HasSubstr("Nothing of \"rotate right\" was undone."));
 }
 
 TEST_F(UndoCommand, SkipsWhatCannotBeTakenBack) {
@@ -159,11 +159,12 @@ TEST_F(UndoCommand, SkipsWhatCannotBeTakenBack) {
   const Ran skip = Run({"undo", "--skip"});
   EXPECT_EQ(skip.exitCode, 0);
   const QRegularExpression text(QStringLiteral(
-      "^Given up: rotate left. What is kept of it \\([0-9.]+ [KM]?i?B\\) stays until it is too "
-      "old or too much.\n$"));
+      "^Skipped: rotate left. Its originals \\([0-9.]+ [KM]?i?B\\) are kept until they exceed the "
+      "limits of undo.\n$"));
   EXPECT_TRUE(text.match(QString::fromStdString(skip.out)).hasMatch()) << skip.out;
   EXPECT_EQ(ReadFile(Photos() / "a.jpg"), "changed by others");
-  const QRegularExpression table(QStringLiteral("rotate left .*  given up\n.*rotate right [^a-z]*\n$"));
+  const QRegularExpression table(
+      QStringLiteral("rotate left .*  cannot be undone\n.*rotate right [^a-z]*\n$"));
   const Ran list = Run({"undo", "--list"});
   EXPECT_TRUE(table.match(QString::fromStdString(list.out)).hasMatch()) << list.out;
 
@@ -172,7 +173,7 @@ TEST_F(UndoCommand, SkipsWhatCannotBeTakenBack) {
   EXPECT_THAT(older.out, Not(HasSubstr(hint)));
   EXPECT_EQ(ReadFile(Photos() / "b.jpg"), before);
   EXPECT_EQ(Run({"undo"}).exitCode, 1);
-  EXPECT_EQ(Run({"redo"}).out, "Done again: rotate right.\n");
+  EXPECT_EQ(Run({"redo"}).out, "Redone: rotate right.\n");
   EXPECT_EQ(Run({"redo"}).exitCode, 1);
 }
 
@@ -203,7 +204,7 @@ TEST_F(UndoCommand, WritesWhatWasSkipped) {
   EXPECT_THAT(Names(), ElementsAre("x.jpg"));
   // A step that keeps nothing has nothing to tell of that.
   ASSERT_EQ(Rename("y").exitCode, 0);
-  EXPECT_EQ(Run({"undo", "--skip"}).out, "Given up: rename 1 photo.\n");
+  EXPECT_EQ(Run({"undo", "--skip"}).out, "Skipped: rename 1 photo.\n");
 }
 
 TEST_F(UndoCommand, TellsWhatWaitsInVainForASkippedStep) {
@@ -213,7 +214,7 @@ TEST_F(UndoCommand, TellsWhatWaitsInVainForASkippedStep) {
   ASSERT_EQ(Run({"rotate", "left", "photos"}).exitCode, 0);
   const Ran text = Run({"undo", "--skip"});
   EXPECT_EQ(text.exitCode, 0);
-  EXPECT_THAT(text.out, HasSubstr("Given up: rotate left."));
+  EXPECT_THAT(text.out, HasSubstr("Skipped: rotate left."));
   EXPECT_THAT(text.out, HasSubstr("Undo of \"shift dates by +1h\" ("));
   EXPECT_THAT(text.out, HasSubstr("Undo of \"rotate right\" ("));
   EXPECT_THAT(text.out, HasSubstr("\n  " + photo.utf8string() + "\n"));
@@ -269,7 +270,7 @@ TEST_F(UndoCommand, KeepsNoMoreThanTheLimits) {
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
   const Ran set = Run({"undo", "--keep-size", "1K", "--keep-days", "10"});
   EXPECT_EQ(set.exitCode, 0);
-  EXPECT_THAT(set.out, HasSubstr("Steps can be undone within 10 days and 1 KiB."));
+  EXPECT_THAT(set.out, HasSubstr("Steps can be undone for 10 days of use, with up to 1 KiB of originals."));
   EXPECT_THAT(Settings(), HasSubstr("Days=10"));
   EXPECT_THAT(Settings(), HasSubstr("Size=1K"));
 
@@ -283,7 +284,7 @@ TEST_F(UndoCommand, KeepsNoMoreThanTheLimits) {
 
   // Then an edit cannot be undone, but a rename can: it keeps nothing.
   EXPECT_EQ(Run({"rotate", "right", "photos"}).exitCode, 4);
-  EXPECT_THAT(Rename("x").out, HasSubstr("takes it back"));
+  EXPECT_THAT(Rename("x").out, HasSubstr("undoes it"));
   EXPECT_EQ(Run({"undo"}).exitCode, 0);
 }
 
@@ -296,7 +297,8 @@ TEST_F(UndoCommand, ForgetsOldSteps) {
   const Ran ran = Run({"undo", "--keep-days", "365"});
   EXPECT_EQ(ran.exitCode, 0);
   EXPECT_EQ(ran.out,
-            "Steps can be undone within 365 days and 5 GiB. 1 older step cannot be undone any more.\n");
+            "Steps can be undone for 365 days of use, with up to 5 GiB of originals. 1 older step cannot be "
+            "undone any more.\n");
   EXPECT_EQ(Run({"undo"}).exitCode, 1);
 }
 
@@ -338,8 +340,8 @@ TEST_F(UndoCommand, TakesLimitsThatMakeNoSenseForTheUsualOnes) {
   Photo("a.jpg");
   const Ran ran = Run({"rotate", "right", "photos"});
   EXPECT_EQ(ran.exitCode, 0);
-  EXPECT_THAT(ran.err, HasSubstr("Undo/Days makes no sense (soon)"));
-  EXPECT_THAT(ran.err, HasSubstr("Undo/Size makes no sense (lots)"));
+  EXPECT_THAT(ran.err, HasSubstr("Undo/Days is invalid (soon)"));
+  EXPECT_THAT(ran.err, HasSubstr("Undo/Size is invalid (lots)"));
   EXPECT_EQ(Run({"undo"}).exitCode, 0);
 }
 
@@ -355,13 +357,13 @@ TEST_F(UndoCommand, FinishesWhatWasBrokenOffBeforeAnythingElse) {
     }
     BreakOffARename();
     const Ran ran = Run(command);
-    EXPECT_THAT(ran.err, HasSubstr("\"rename 2 photos\" had been broken off and is finished now."))
+    EXPECT_THAT(ran.err, HasSubstr("Interrupted step \"rename 2 photos\" is now complete."))
         << command[0].toStdString();
     EXPECT_FALSE((Photos() / "b.jpg").exists());
     if (command.contains(QStringLiteral("--json"))) {
       EXPECT_EQ(ran.Json()["recovered"].toArray().size(), 1);
     }
-    EXPECT_THAT(Run(command).err, Not(HasSubstr("broken off")));
+    EXPECT_THAT(Run(command).err, Not(HasSubstr("nterrupted")));
     ChangeCatalogue(DefaultCatalogue(), "DELETE FROM steps");
   }
 }

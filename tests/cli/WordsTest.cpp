@@ -4,6 +4,7 @@
 #include <cli/session/TerminalQuestions.h>
 #include <cli/terminal/Question.h>
 #include <cli/terminal/TerminalText.h>
+#include <cli/terminal/ValueTexts.h>
 #include <cli/terminal/Words.h>
 #include <cli/views/AlbumsView.h>
 #include <host/settings/InterfaceTexts.h>
@@ -30,6 +31,23 @@ TEST(Say, PutsEachValueInItsPlaceAsItIs) {
   EXPECT_EQ(Say(QStringLiteral("100% %3 %0 %"), {"a", "b"}), "100% %3 %0 %") << "no value, no place";
   EXPECT_EQ(Say(QStringLiteral("\u5199\u771F%1\u679A"), {"3"}), "\u5199\u771F3\u679A");
   EXPECT_EQ(Say(QString()), "");
+}
+
+TEST(Numbers, AreWrittenAsTheLanguageDoes) {
+  struct Row {
+    const char* locale;
+    const char* number;
+    const char* size;
+  };
+  for (const Row& row :
+       {Row{"en_US", "1,234,567", "1.5 KiB"}, Row{"de_DE", "1.234.567", "1,5 KiB"},
+        Row{"fr_FR", "1\u202F234\u202F567", "1,5\u00A0Kio"}, Row{"ja_JP", "1,234,567", "1.5 KiB"},
+        Row{"ru_RU", "1\u00A0234\u00A0567", "1,5 \u041A\u0438\u0411"}}) {
+    const InterfaceTexts texts(row.locale);
+    EXPECT_EQ(GroupDigits(1'234'567), row.number);
+    EXPECT_EQ(SizeText(1'536), row.size);
+    EXPECT_EQ(Counted(1'234, "photo"), "1,234 photos") << "what is stored is in English";
+  }
 }
 
 TEST(Amount, KeepsTheGrammaticalNumberOfWhatIsTooLarge) {

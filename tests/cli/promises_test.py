@@ -158,7 +158,7 @@ def safe_only_when_nothing_is_left(room):
     os.remove(room.path("photos/letter.txt"))
     room.write("photos/.DS_Store", "views of the folder")
     told = room.run("import", "photos", "--to", "target", code=0)
-    require("safe to format" in told and "each other file" in told, "housekeeping is told to have a copy")
+    require("safe to format" in told and "except for housekeeping files" in told, "housekeeping is told to have a copy")
 
 
 def albums_are_undone(room):
@@ -311,32 +311,32 @@ def statistics_hold_nothing_of_photos(room):
 
 PROMISES = [
     ("scan", "Your files are only read.", scan_only_reads),
-    ("scan", "are marked lost, not forgotten.", lost_is_not_forgotten),
-    ("scan", "Only tell what would be done; make and change no catalogue.", dry_scan_makes_nothing),
+    ("scan", "are marked as lost, but stay in the catalogue.", lost_is_not_forgotten),
+    ("scan", "Show what would be done; do not change the catalogue.", dry_scan_makes_nothing),
     ("import", "Your files are only read.", import_only_reads),
-    ("import", "What is there already is left alone", import_only_reads),
+    ("import", "Files that were copied before are skipped", import_only_reads),
     ("import", "\"lumidex undo\" moves the copies of a run to the trash.", import_is_undone),
-    ("import", "is said only when nothing else is left.", safe_only_when_nothing_is_left),
-    ("undo", "copies that are what they were go to the trash, others stay", import_is_undone),
-    ("undo", "the albums that were made, or the photos that were added", albums_are_undone),
-    ("check", "hanges nothing.", check_changes_nothing),
-    ("albums", "your files stay as they are.", albums_leave_files),
-    ("albums", "when one name does not, nothing is accepted.", one_unknown_album_accepts_none),
-    ("albums", "A report replaces an older page of its name, but never a photo", report_replaces_pages_only),
-    ("info", "The catalogue is not looked at, and nothing is changed.", info_changes_nothing),
-    ("tag", "your files stay as they are, and renames, the trash and undo do not lose them.", tags_stay_with_photos),
+    ("import", "is said only if no other file remains.", safe_only_when_nothing_is_left),
+    ("undo", "unchanged copies go to the trash, changed copies stay", import_is_undone),
+    ("undo", "new albums are removed, added photos are removed from albums", albums_are_undone),
+    ("check", "Nothing is changed.", check_changes_nothing),
+    ("albums", "Your files do not change.", albums_leave_files),
+    ("albums", "if one name does not, nothing is accepted.", one_unknown_album_accepts_none),
+    ("albums", "A report replaces an older report of the same name, but never a photo", report_replaces_pages_only),
+    ("info", "The catalogue is not used, and nothing is changed.", info_changes_nothing),
+    ("tag", "your files do not change, and photos keep their tags through renames, the trash and undo.", tags_stay_with_photos),
     ("rename", "No file is ever replaced", rename_replaces_nothing),
     ("rename", "nothing is renamed and every such photo is listed.", rename_replaces_nothing),
-    ("rename", "\"lumidex undo\" takes all of it back.", rename_is_undone),
-    ("rotate", "\"lumidex undo\" takes it back.", edits_are_undone),
-    ("rotate", "the picture in them stays as it is, bit for bit.", rotation_keeps_the_picture),
-    ("rotate", "Only tell what would be changed in which photo, and how.", dry_edits_change_nothing),
-    ("undo", "The photos get back their names and every byte of what they were.", edits_are_undone),
+    ("rename", "\"lumidex undo\" undoes all renames.", rename_is_undone),
+    ("rotate", "\"lumidex undo\" undoes it.", edits_are_undone),
+    ("rotate", "their pictures stay the same, bit for bit.", rotation_keeps_the_picture),
+    ("rotate", "Show what would be changed; change nothing.", dry_edits_change_nothing),
+    ("undo", "Photos get back their names and every byte of their files.", edits_are_undone),
     ("sample", "nothing of yours is ever overwritten.", sample_overwrites_nothing),
     ("sample", "The same seed and number of photos give the same files.", sample_is_the_same_again),
-    ("calendar update", "The calendar in use stays when the server gives none.", update_leaves_the_calendar),
+    ("calendar update", "If the server has no calendar, the one in use stays.", update_leaves_the_calendar),
     ("stats", "Statistics are off until you turn them on.", statistics_hold_nothing_of_photos),
-    ("stats", "They hold no names, no paths, nothing of your photos.", statistics_hold_nothing_of_photos),
+    ("stats", "They hold no names, no paths and nothing of your photos.", statistics_hold_nothing_of_photos),
 ]
 
 

@@ -106,7 +106,7 @@ TEST_F(CatalogueFile, IsNeverWaitedForWhenItIsAPipe) {
   const Pipe pipe(file_);
   for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
     EXPECT_THAT(OpeningError(pipe.Path(), mode),
-                AllOf(HasSubstr(pipe.Path().utf8string()), HasSubstr("no regular file")));
+                AllOf(HasSubstr(pipe.Path().utf8string()), HasSubstr("not a regular file")));
   }
 }
 

@@ -155,7 +155,7 @@ TEST_F(SetAsidePhoto, ComesBackWhereverTheWorkWasBrokenOff) {
     EXPECT_EQ(ReadFile(photo_), "the original of the photo");
     EXPECT_FALSE(side_.exists());
     ASSERT_EQ(journal_->RecoveryNotes().size(), 1U);
-    EXPECT_THAT(journal_->RecoveryNotes()[0], HasSubstr("while it was taken back; now it is."));
+    EXPECT_THAT(journal_->RecoveryNotes()[0], HasSubstr("Interrupted undo of "));
     EXPECT_EQ(Redo().files, 1U);
     EXPECT_EQ(ReadFile(photo_), "edited photo");
     Close();

@@ -88,7 +88,7 @@ TEST_F(SidecarJournal, ReplacesTheOtherWhenItStoppedBetweenThem) {
     ExpectBoth("after");
     EXPECT_EQ(journal_->Steps()[0].files, 2U);
     EXPECT_EQ(journal_->RecoveryNotes().front(),
-              "\"edit\" had been broken off after 1 photo. The others are as they were.");
+              "\"edit\" was interrupted. Photos edited: 1; the others are unchanged.");
     EXPECT_THAT(Undo().findings, IsEmpty());
     ExpectBoth("before");
   }
@@ -142,7 +142,7 @@ TEST_F(SidecarJournal, LeavesBothWhenOthersChangedOneSince) {
   EXPECT_EQ(result.findings[0].cause,
             photo_.utf8string() + " is left as it is, because it belongs to " + sidecar_.utf8string());
   EXPECT_EQ(result.findings[1].file, sidecar_);
-  EXPECT_THAT(result.findings[1].cause, HasSubstr("has been changed since"));
+  EXPECT_THAT(result.findings[1].cause, HasSubstr("was changed later"));
   EXPECT_TRUE(result.stands);
   EXPECT_EQ(ReadFile(photo_), "photo after");
   EXPECT_EQ(ReadFile(sidecar_), "sidecar of others");

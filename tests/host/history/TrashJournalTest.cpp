@@ -202,7 +202,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToSeveralPhotosWhileOneStays) {
   EXPECT_EQ(result.files, 1U);
   ASSERT_THAT(result.findings, SizeIs(2));
   EXPECT_EQ(result.findings[1].cause,
-            Photo("a.xmp").utf8string() + " stays: a.jpg, to which it belongs, is kept.");
+            Photo("a.xmp").utf8string() + " is kept: a.jpg, to which it belongs, is kept.");
   EXPECT_EQ(ReadFile(Photo("a.xmp")), "settings");
 }
 
@@ -232,7 +232,8 @@ TEST_F(TrashJournal, LeavesWhatIsNotAsItWas) {
   const TrashResult touched = Move({going});
   EXPECT_EQ(touched.files, 0U);
   ASSERT_THAT(touched.findings, SizeIs(1));
-  EXPECT_EQ(touched.findings[0].cause, photo.utf8string() + " stays: it was changed after it was analysed.");
+  EXPECT_EQ(touched.findings[0].cause,
+            photo.utf8string() + " is kept: it was changed after it was analysed.");
   photo.remove();
   EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("it no longer exists"));
   std::filesystem::create_directory(photo.native());
@@ -247,7 +248,7 @@ TEST_F(TrashJournal, LeavesThePhotosOfOneThatIsNotKeptAfterAll) {
   const TrashPhoto going = Going("a.jpg");
   Make("keep.jpg", "something else");
   EXPECT_THAT(Move({going}).findings[0].cause,
-              AllOf(HasSubstr("a.jpg stays: the one to keep"), HasSubstr("has been changed")));
+              AllOf(HasSubstr("a.jpg is kept: the photo to keep"), HasSubstr("was changed")));
   Photo("keep.jpg").remove();
   EXPECT_THAT(Move({going}).findings[0].cause, HasSubstr("no longer exists"));
   EXPECT_EQ(Photos(), (Files{{"a.jpg", "A"}}));
@@ -441,7 +442,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoAndIsNotAsItWas) {
   const TrashResult result = Move({photo});
   EXPECT_EQ(result.files, 1U);
   ASSERT_THAT(result.findings, SizeIs(2));
-  EXPECT_THAT(result.findings[0].cause, HasSubstr("a.xmp stays: it has been changed"));
+  EXPECT_THAT(result.findings[0].cause, HasSubstr("a.xmp is kept: it has been changed"));
   EXPECT_TRUE(std::filesystem::is_directory(Photo("a.thm").native()));
 }
 
@@ -569,7 +570,7 @@ TEST_F(TrashJournal, DoesNotDoAgainWhatWouldLoseAPhoto) {
   ASSERT_THAT(result.findings, SizeIs(3));
   EXPECT_THAT(result.findings[0].cause, HasSubstr("a.jpg was changed later and is left as it is"));
   EXPECT_THAT(result.findings[1].cause, HasSubstr("b.jpg no longer exists"));
-  EXPECT_THAT(result.findings[2].cause, HasSubstr("c.jpg stays: the photo that was kept in its stead"));
+  EXPECT_THAT(result.findings[2].cause, HasSubstr("c.jpg is kept: the photo that was kept in its stead"));
   EXPECT_EQ(Photos(), (Files{{"keep.jpg", "keep.jpg"}, {"a.jpg", "changed since"}, {"c.jpg", "c.jpg"}}));
   EXPECT_TRUE(journal_->Steps().front().undone);
 }

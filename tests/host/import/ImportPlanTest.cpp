@@ -293,7 +293,7 @@ TEST_F(ImportPlanning, KnowsSideFilesBesideTheKnownPhoto) {
 TEST_F(ImportPlanning, SaysThatAFileIsInTheWayOfTheFolder) {
   MakePhotos("card", 1);
   tree.Write("copies", "a file");
-  EXPECT_THAT(PlanTo({Card()}).obstacle, HasSubstr("is no folder"));
+  EXPECT_THAT(PlanTo({Card()}).obstacle, HasSubstr("is not a folder"));
   EXPECT_THAT(PlanTo({Card()}, tree.Path("copies/below")).obstacle, testing::Not(IsEmpty()));
 }
 

@@ -367,7 +367,7 @@ TEST_F(ImportRunning, LetsOneImportWorkInAFolderAtATime) {
   tree.MakeFolder("copies/.lumidex-import");
   ProcessLock lock;
   ASSERT_FALSE(lock.Take(Copies() / ".lumidex-import" / "lock"));
-  EXPECT_THAT(ErrorOf([&] { Carry(plan); }), HasSubstr("Another import is at work"));
+  EXPECT_THAT(ErrorOf([&] { Carry(plan); }), HasSubstr("Another import is running"));
   EXPECT_THAT(NamesIn(Copies()), IsEmpty());
 }
 

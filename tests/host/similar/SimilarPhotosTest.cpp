@@ -322,7 +322,7 @@ TEST_F(SimilarPhotosTest, CheckFindsWhatIsNotAsItWasMatched) {
       {"UPDATE cluster_photos SET cluster = 2 WHERE arrival = 3",
        "UPDATE cluster_photos SET cluster = 1 WHERE arrival = 3", "belongs to cluster 1"},
       {"UPDATE cluster_photos SET cluster = 1 WHERE arrival IN (2, 4)",
-       "UPDATE cluster_photos SET cluster = 2 WHERE arrival IN (2, 4)", "ought to be two"},
+       "UPDATE cluster_photos SET cluster = 2 WHERE arrival IN (2, 4)", "should be split"},
   };
   RunSql(file_, {"CREATE TABLE saved AS SELECT * FROM clusters"});
   for (const Row& row : rows) {
