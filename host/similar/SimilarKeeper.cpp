@@ -127,13 +127,13 @@ void WeighOrigins(Candidates& candidates) {
 const char* KeeperReasonName(KeeperReason reason) {
   switch (reason) {
     case KeeperReason::Whole:
-      return "undamaged";
+      return "whole";
     case KeeperReason::CameraFile:
       return "the camera's own file";
     case KeeperReason::CameraData:
       return "has camera data";
     case KeeperReason::MakerNote:
-      return "has maker notes";
+      return "has the maker's note";
     case KeeperReason::NotEnlarged:
       return "not enlarged";
     case KeeperReason::Largest:
@@ -145,7 +145,7 @@ const char* KeeperReasonName(KeeperReason reason) {
     case KeeperReason::Sharpest:
       return "sharpest";
     case KeeperReason::MoreBytes:
-      return "more bytes per pixel";
+      return "more bytes a pixel";
     case KeeperReason::CameraName:
       return "named by the camera";
     case KeeperReason::Earliest:

@@ -239,13 +239,13 @@ TEST(SimilarKeeper, NamesItsReasons) {
   EXPECT_STREQ(KeeperReasonName(KeeperReason::Whole), "whole");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraFile), "the camera's own file");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraData), "has camera data");
-  EXPECT_STREQ(KeeperReasonName(KeeperReason::MakerNote), "has maker notes");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::MakerNote), "has the maker's note");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::NotEnlarged), "not enlarged");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::Largest), "largest");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::LeastTouched), "not written by another program");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::Finer), "compressed less");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::Sharpest), "sharpest");
-  EXPECT_STREQ(KeeperReasonName(KeeperReason::MoreBytes), "more bytes per pixel");
+  EXPECT_STREQ(KeeperReasonName(KeeperReason::MoreBytes), "more bytes a pixel");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::CameraName), "named by the camera");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::Earliest), "earliest");
   EXPECT_STREQ(KeeperReasonName(KeeperReason::FirstName), "first by name");
