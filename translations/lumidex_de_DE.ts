@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>Das Foto wurde geändert oder ersetzt, und eine Datei hat seinen früheren Inhalt</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>identische Dateien</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>dieselben Pixel</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>dasselbe Bild, kleiner</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>dasselbe Bild, größer</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>dasselbe Bild, erneut komprimiert oder in einem anderen Format</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>dasselbe Bild, gespiegelt</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>dasselbe Bild, heller</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>dasselbe Bild, dunkler</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>dasselbe Bild, mit mehr Kontrast</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>dasselbe Bild, mit weniger Kontrast</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>dasselbe Bild, geschärft</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>dasselbe Bild, überall verändert</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>dasselbe Bild, größer und mit mehr Einzelheiten</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>dasselbe Bild mit einem Rand oder einer Beschriftung</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>dasselbe Bild ohne Farben</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>dasselbe Bild mit Farben</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>dasselbe Bild, soweit eine Vorschau es zeigt</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>dasselbe Bild, soweit so wenige Pixel es zeigen</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>dasselbe Bild, soweit es sich verkleinert zeigt</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>dasselbe Bild bis auf etwas Kleines %1</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>fast dieselbe Ansicht</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>dieselbe Ansicht, leicht gedreht</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>dieselbe Ansicht, beschnitten</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>dieselbe Ansicht mit mehr ringsherum</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>dieselbe Ansicht, heller</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>dieselbe Ansicht, dunkler</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>eine andere einheitliche Farbe</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>zeigt etwas anderes</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>unterscheidet sich an einigen Stellen</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>unterscheidet sich %1</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>oben links</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>oben rechts</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>in der Mitte</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>unten links</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>unten rechts</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>nicht vergleichbar: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>das Foto, das zu behalten ist, lässt sich nicht vergleichen: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>zu wenige Pixel</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>teilweise durchsichtig</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>die Datei bricht vor dem Ende des Bildes ab</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>hinter dem Bild steht noch mehr</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>von mehreren Bildern in einer Datei lässt sich nur das erste vergleichen</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>der Arbeitsspeicher reicht zum Vergleichen nicht aus</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>nichts vom Bild lässt sich entschlüsseln</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>der Anfang des Bildes ist beschädigt</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>ein Teil des Bildes ist beschädigt</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>der Inhalt ist kein Bild in einem bekannten Format</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

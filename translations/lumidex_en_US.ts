@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>It was changed or replaced, and a file has its former content</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>identical files</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>the same pixels</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>the same picture, smaller</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>the same picture, larger</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>the same picture, compressed again or in another format</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>the same picture, mirrored</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>the same picture, brighter</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>the same picture, darker</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>the same picture, with more contrast</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>the same picture, with less contrast</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>the same picture, sharpened</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>the same picture, changed all over</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>the same picture, larger and with more detail</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>the same picture with a border or a caption</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>the same picture without colours</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>the same picture with colours</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>the same picture as far as a preview shows</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>the same picture as far as so few pixels show</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>the same picture as far as it shows when it is made smaller</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>the same picture, but for something small at %1</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>nearly the same view</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>the same view, turned a little</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>the same view, cropped</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>the same view with more around it</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>the same view, brighter</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>the same view, darker</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>another plain colour</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>shows something else</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>differs in some places</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>differs at %1</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>the upper left</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>the top</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>the upper right</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>the left</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>the middle</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>the right</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>the lower left</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>the bottom</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>the lower right</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>it cannot be compared: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>the photo to keep cannot be compared: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>it has too few pixels</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>it is partly transparent</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>it breaks off before the end of its picture</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>it holds more behind its picture</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>of several pictures in a file only the first can be compared</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>there is not enough memory to compare it</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>nothing of the picture can be decoded</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>the head of the picture is damaged</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>a part of the picture is damaged</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>its content is not a picture of a known format</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>the file is empty</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

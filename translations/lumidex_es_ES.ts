@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>Cambió o fue sustituida, y un archivo tiene su contenido anterior</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>archivos idénticos</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>los mismos píxeles</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>la misma imagen, más pequeña</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>la misma imagen, más grande</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>la misma imagen, comprimida de nuevo o en otro formato</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>la misma imagen, reflejada</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>la misma imagen, más clara</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>la misma imagen, más oscura</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>la misma imagen, con más contraste</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>la misma imagen, con menos contraste</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>la misma imagen, enfocada</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>la misma imagen, cambiada por completo</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>la misma imagen, más grande y con más detalle</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>la misma imagen con un borde o un texto</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>la misma imagen sin colores</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>la misma imagen con colores</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>la misma imagen, por lo que muestra una vista previa</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>la misma imagen, por lo que muestran tan pocos píxeles</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>la misma imagen, por lo que se ve al reducirla</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>la misma imagen, salvo algo pequeño %1</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>casi la misma vista</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>la misma vista, algo girada</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>la misma vista, recortada</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>la misma vista con más alrededor</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>la misma vista, más clara</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>la misma vista, más oscura</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>otro color liso</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>muestra otra cosa</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>difiere en algunos sitios</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>difiere %1</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>arriba</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>a la izquierda</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>en el centro</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>a la derecha</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>abajo</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>no se puede comparar: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>la foto que conviene conservar no se puede comparar: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>tiene muy pocos píxeles</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>es transparente en parte</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>se corta antes del final de su imagen</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>contiene más datos después de su imagen</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>de varias imágenes en un archivo solo se puede comparar la primera</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>no hay suficiente memoria para compararla</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>no se puede decodificar nada de la imagen</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>el principio de la imagen está dañado</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>una parte de la imagen está dañada</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>su contenido no es una imagen de formato conocido</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>el archivo está vacío</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>Elle a été modifiée ou remplacée, et un fichier a son ancien contenu</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>fichiers identiques</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>les mêmes pixels</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>la même image, plus petite</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>la même image, plus grande</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>la même image, compressée à nouveau ou dans un autre format</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>la même image, en miroir</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>la même image, plus claire</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>la même image, plus sombre</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>la même image, avec plus de contraste</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>la même image, avec moins de contraste</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>la même image, accentuée</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>la même image, modifiée partout</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>la même image, plus grande et plus détaillée</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>la même image avec un cadre ou une légende</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>la même image sans couleurs</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>la même image avec des couleurs</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>la même image, autant qu’un aperçu le montre</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>la même image, autant que si peu de pixels le montrent</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>la même image, autant qu’on le voit une fois réduite</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>la même image, sauf un détail %1</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>presque la même vue</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>la même vue, légèrement tournée</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>la même vue, recadrée</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>la même vue avec plus autour</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>la même vue, plus claire</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>la même vue, plus sombre</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>une autre couleur unie</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>montre autre chose</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>diffère par endroits</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>diffère %1</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>en haut à gauche</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>en haut</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>en haut à droite</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>à gauche</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>au milieu</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>à droite</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>en bas à gauche</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>en bas</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>en bas à droite</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>comparaison impossible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>la photo à garder ne peut pas être comparée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>trop peu de pixels</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>en partie transparente</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>s’interrompt avant la fin de son image</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>contient autre chose après son image</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>de plusieurs images dans un fichier, seule la première peut être comparée</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>pas assez de mémoire pour la comparaison</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>rien de l’image ne peut être décodé</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>le début de l’image est endommagé</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>une partie de l’image est endommagée</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>son contenu n’est pas une image d’un format connu</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>È stata modificata o sostituita, e un file ha il suo vecchio contenuto</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>file identici</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>gli stessi pixel</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>la stessa immagine, più piccola</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>la stessa immagine, più grande</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>la stessa immagine, compressa di nuovo o in un altro formato</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>la stessa immagine, specchiata</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>la stessa immagine, più chiara</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>la stessa immagine, più scura</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>la stessa immagine, con più contrasto</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>la stessa immagine, con meno contrasto</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>la stessa immagine, più nitida</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>la stessa immagine, modificata ovunque</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>la stessa immagine, più grande e più dettagliata</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>la stessa immagine con una cornice o una didascalia</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>la stessa immagine senza colori</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>la stessa immagine con i colori</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>la stessa immagine, per quanto mostra un’anteprima</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>la stessa immagine, per quanto mostrano così pochi pixel</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>la stessa immagine, per quanto si vede riducendola</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>la stessa immagine, tranne qualcosa di piccolo %1</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>quasi la stessa veduta</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>la stessa veduta, un po’ ruotata</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>la stessa veduta, ritagliata</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>la stessa veduta con più spazio intorno</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>la stessa veduta, più chiara</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>la stessa veduta, più scura</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>un altro colore uniforme</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>mostra qualcos’altro</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>differisce in alcuni punti</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>differisce %1</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>in alto a sinistra</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>in alto</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>in alto a destra</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>a sinistra</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>al centro</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>a destra</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>in basso a sinistra</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>in basso</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>in basso a destra</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>non confrontabile: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>la foto da tenere non si può confrontare: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>ha troppo pochi pixel</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>è in parte trasparente</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>si interrompe prima della fine dell’immagine</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>contiene altro dopo l’immagine</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>di più immagini in un file si può confrontare solo la prima</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>non c’è abbastanza memoria per confrontarla</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>nulla dell’immagine si può decodificare</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>l’inizio dell’immagine è danneggiato</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>una parte dell’immagine è danneggiata</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>il suo contenuto non è un’immagine di formato conosciuto</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>il file è vuoto</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>変更または置き換えられていて、以前の内容のファイルがあります</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>同一のファイル</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>画素が同じ</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>同じ画像、縮小</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>同じ画像、拡大</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>同じ画像、再圧縮または別の形式</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>同じ画像、左右反転</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>同じ画像、明るい</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>同じ画像、暗い</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>同じ画像、コントラストが強い</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>同じ画像、コントラストが弱い</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>同じ画像、シャープ化</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>同じ画像、全体に変更あり</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>同じ画像、大きくて詳細</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>同じ画像に枠または文字を追加</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>同じ画像、色なし</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>同じ画像、色あり</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>プレビューで見るかぎり同じ画像</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>少ない画素で見るかぎり同じ画像</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>縮小して見るかぎり同じ画像</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>同じ画像、ただし%1に小さな違い</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>ほぼ同じ眺め</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>同じ眺め、少し回転</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>同じ眺め、切り抜き</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>同じ眺め、周囲が広い</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>同じ眺め、明るい</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>同じ眺め、暗い</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>別の単色</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>別のものが写っている</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>ところどころ異なる</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>%1が異なる</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>比較できません: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>残す写真を比較できません: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>画素が少なすぎます</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>一部が透明です</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>画像の終わりの前で途切れています</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>画像の後ろに別のデータがあります</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>1つのファイルに複数の画像がある場合、比較できるのは最初の画像だけです</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>比較に必要なメモリが足りません</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>画像をまったくデコードできません</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>画像の先頭が破損しています</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>画像の一部が破損しています</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>内容が既知の形式の画像ではありません</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>ファイルが空です</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

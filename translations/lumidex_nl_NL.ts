@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>De foto is gewijzigd of vervangen, en een bestand heeft de vroegere inhoud</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>identieke bestanden</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>dezelfde pixels</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>dezelfde afbeelding, kleiner</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>dezelfde afbeelding, groter</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>dezelfde afbeelding, opnieuw gecomprimeerd of in een ander formaat</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>dezelfde afbeelding, gespiegeld</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>dezelfde afbeelding, lichter</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>dezelfde afbeelding, donkerder</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>dezelfde afbeelding, met meer contrast</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>dezelfde afbeelding, met minder contrast</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>dezelfde afbeelding, verscherpt</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>dezelfde afbeelding, overal gewijzigd</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>dezelfde afbeelding, groter en met meer details</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>dezelfde afbeelding met een rand of een bijschrift</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>dezelfde afbeelding zonder kleuren</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>dezelfde afbeelding met kleuren</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>dezelfde afbeelding, voor zover een voorbeeld dat toont</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>dezelfde afbeelding, voor zover zo weinig pixels dat tonen</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>dezelfde afbeelding, voor zover dat verkleind te zien is</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>dezelfde afbeelding, op iets kleins %1 na</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>bijna hetzelfde beeld</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>hetzelfde beeld, een beetje gedraaid</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>hetzelfde beeld, bijgesneden</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>hetzelfde beeld met meer eromheen</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>hetzelfde beeld, lichter</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>hetzelfde beeld, donkerder</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>een andere effen kleur</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>toont iets anders</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>verschilt op sommige plaatsen</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>verschilt %1</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>linksboven</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>bovenaan</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>rechtsboven</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>in het midden</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>linksonder</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>onderaan</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>rechtsonder</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>niet te vergelijken: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>de foto om te bewaren kan niet worden vergeleken: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>te weinig pixels</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>gedeeltelijk doorzichtig</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>breekt vóór het einde van de afbeelding af</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>bevat nog meer achter de afbeelding</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>van meer afbeeldingen in een bestand kan alleen de eerste worden vergeleken</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>er is niet genoeg geheugen om te vergelijken</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>niets van de afbeelding kan worden gedecodeerd</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>het begin van de afbeelding is beschadigd</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>een deel van de afbeelding is beschadigd</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>de inhoud is geen afbeelding in een bekend formaat</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>het bestand is leeg</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>Foi alterada ou substituída, e um arquivo tem o conteúdo antigo</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>arquivos idênticos</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>os mesmos pixels</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>a mesma imagem, menor</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>a mesma imagem, maior</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>a mesma imagem, comprimida de novo ou em outro formato</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>a mesma imagem, espelhada</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>a mesma imagem, mais clara</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>a mesma imagem, mais escura</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>a mesma imagem, com mais contraste</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>a mesma imagem, com menos contraste</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>a mesma imagem, com mais nitidez</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>a mesma imagem, alterada por inteiro</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>a mesma imagem, maior e com mais detalhes</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>a mesma imagem com uma borda ou uma legenda</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>a mesma imagem sem cores</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>a mesma imagem com cores</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>a mesma imagem, até onde uma prévia mostra</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>a mesma imagem, até onde tão poucos pixels mostram</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>a mesma imagem, até onde se vê quando reduzida</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>a mesma imagem, exceto algo pequeno %1</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>quase a mesma vista</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>a mesma vista, um pouco girada</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>a mesma vista, recortada</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>a mesma vista com mais em volta</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>a mesma vista, mais clara</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>a mesma vista, mais escura</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>outra cor uniforme</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>mostra outra coisa</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>difere em alguns lugares</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>difere %1</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>no alto à esquerda</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>no alto</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>no alto à direita</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>à esquerda</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>no meio</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>à direita</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>embaixo à esquerda</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>embaixo</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>embaixo à direita</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>não pode ser comparada: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>a foto que convém manter não pode ser comparada: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>tem pixels de menos</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>é transparente em parte</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>é interrompida antes do fim da imagem</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>contém mais dados depois da imagem</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>de várias imagens em um arquivo só a primeira pode ser comparada</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>não há memória suficiente para comparar</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>nada da imagem pode ser decodificado</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>o início da imagem está danificado</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>uma parte da imagem está danificada</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>o conteúdo não é uma imagem de formato conhecido</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>o arquivo está vazio</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -583,6 +583,214 @@
         <source>It was changed or replaced, and a file has its former content</source>
         <translation>Фотография изменена или заменена, а её прежнее содержимое есть в другом файле</translation>
     </message>
+    <message>
+        <source>identical files</source>
+        <translation>одинаковые файлы</translation>
+    </message>
+    <message>
+        <source>the same pixels</source>
+        <translation>те же пиксели</translation>
+    </message>
+    <message>
+        <source>the same picture, smaller</source>
+        <translation>то же изображение, меньше</translation>
+    </message>
+    <message>
+        <source>the same picture, larger</source>
+        <translation>то же изображение, больше</translation>
+    </message>
+    <message>
+        <source>the same picture, compressed again or in another format</source>
+        <translation>то же изображение, сжатое заново или в другом формате</translation>
+    </message>
+    <message>
+        <source>the same picture, mirrored</source>
+        <translation>то же изображение, отражённое</translation>
+    </message>
+    <message>
+        <source>the same picture, brighter</source>
+        <translation>то же изображение, светлее</translation>
+    </message>
+    <message>
+        <source>the same picture, darker</source>
+        <translation>то же изображение, темнее</translation>
+    </message>
+    <message>
+        <source>the same picture, with more contrast</source>
+        <translation>то же изображение, контрастнее</translation>
+    </message>
+    <message>
+        <source>the same picture, with less contrast</source>
+        <translation>то же изображение, менее контрастное</translation>
+    </message>
+    <message>
+        <source>the same picture, sharpened</source>
+        <translation>то же изображение, с повышенной резкостью</translation>
+    </message>
+    <message>
+        <source>the same picture, changed all over</source>
+        <translation>то же изображение, изменённое целиком</translation>
+    </message>
+    <message>
+        <source>the same picture, larger and with more detail</source>
+        <translation>то же изображение, больше и подробнее</translation>
+    </message>
+    <message>
+        <source>the same picture with a border or a caption</source>
+        <translation>то же изображение с рамкой или подписью</translation>
+    </message>
+    <message>
+        <source>the same picture without colours</source>
+        <translation>то же изображение без цветов</translation>
+    </message>
+    <message>
+        <source>the same picture with colours</source>
+        <translation>то же изображение с цветами</translation>
+    </message>
+    <message>
+        <source>the same picture as far as a preview shows</source>
+        <translation>то же изображение, насколько видно по эскизу</translation>
+    </message>
+    <message>
+        <source>the same picture as far as so few pixels show</source>
+        <translation>то же изображение, насколько видно по столь немногим пикселям</translation>
+    </message>
+    <message>
+        <source>the same picture as far as it shows when it is made smaller</source>
+        <translation>то же изображение, насколько видно в уменьшенном виде</translation>
+    </message>
+    <message>
+        <source>the same picture, but for something small at %1</source>
+        <translation>то же изображение, кроме мелочи %1</translation>
+    </message>
+    <message>
+        <source>nearly the same view</source>
+        <translation>почти тот же вид</translation>
+    </message>
+    <message>
+        <source>the same view, turned a little</source>
+        <translation>тот же вид, слегка повёрнут</translation>
+    </message>
+    <message>
+        <source>the same view, cropped</source>
+        <translation>тот же вид, кадрирован</translation>
+    </message>
+    <message>
+        <source>the same view with more around it</source>
+        <translation>тот же вид, вокруг больше</translation>
+    </message>
+    <message>
+        <source>the same view, brighter</source>
+        <translation>тот же вид, светлее</translation>
+    </message>
+    <message>
+        <source>the same view, darker</source>
+        <translation>тот же вид, темнее</translation>
+    </message>
+    <message>
+        <source>another plain colour</source>
+        <translation>другой сплошной цвет</translation>
+    </message>
+    <message>
+        <source>shows something else</source>
+        <translation>показывает другое</translation>
+    </message>
+    <message>
+        <source>differs in some places</source>
+        <translation>местами отличается</translation>
+    </message>
+    <message>
+        <source>differs at %1</source>
+        <translation>отличается %1</translation>
+    </message>
+    <message>
+        <source>the upper left</source>
+        <translation>вверху слева</translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>вверху</translation>
+    </message>
+    <message>
+        <source>the upper right</source>
+        <translation>вверху справа</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>слева</translation>
+    </message>
+    <message>
+        <source>the middle</source>
+        <translation>посередине</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>справа</translation>
+    </message>
+    <message>
+        <source>the lower left</source>
+        <translation>внизу слева</translation>
+    </message>
+    <message>
+        <source>the bottom</source>
+        <translation>внизу</translation>
+    </message>
+    <message>
+        <source>the lower right</source>
+        <translation>внизу справа</translation>
+    </message>
+    <message>
+        <source>it cannot be compared: %1</source>
+        <translation>нельзя сравнить: %1</translation>
+    </message>
+    <message>
+        <source>the photo to keep cannot be compared: %1</source>
+        <translation>оставляемую фотографию нельзя сравнить: %1</translation>
+    </message>
+    <message>
+        <source>it has too few pixels</source>
+        <translation>слишком мало пикселей</translation>
+    </message>
+    <message>
+        <source>it is partly transparent</source>
+        <translation>частично прозрачно</translation>
+    </message>
+    <message>
+        <source>it breaks off before the end of its picture</source>
+        <translation>обрывается до конца изображения</translation>
+    </message>
+    <message>
+        <source>it holds more behind its picture</source>
+        <translation>после изображения есть ещё данные</translation>
+    </message>
+    <message>
+        <source>of several pictures in a file only the first can be compared</source>
+        <translation>из нескольких изображений в файле можно сравнить только первое</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to compare it</source>
+        <translation>для сравнения не хватает памяти</translation>
+    </message>
+    <message>
+        <source>nothing of the picture can be decoded</source>
+        <translation>ничего из изображения нельзя декодировать</translation>
+    </message>
+    <message>
+        <source>the head of the picture is damaged</source>
+        <translation>начало изображения повреждено</translation>
+    </message>
+    <message>
+        <source>a part of the picture is damaged</source>
+        <translation>часть изображения повреждена</translation>
+    </message>
+    <message>
+        <source>its content is not a picture of a known format</source>
+        <translation>содержимое не является изображением известного формата</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>файл пуст</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -98,7 +98,7 @@ std::optional<std::string> FindDayFault(const std::string& text, const QDate& da
     return ", \"" + text + "\", is not in the form dd.MM";
   }
   if (!day.isValid()) {
-    return ", \"" + text + "\", is no day of the year";
+    return ", \"" + text + "\", is not a day of the year";
   }
   return std::nullopt;
 }

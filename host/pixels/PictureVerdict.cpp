@@ -109,7 +109,7 @@ namespace {
 
 PictureVerdict Unknown(bool isKept, const std::string& cause) {
   return {Verdict::Unknown,
-          (isKept ? "the one to keep cannot be compared: " : "it cannot be compared: ") + cause, 0};
+          (isKept ? "the photo to keep cannot be compared: " : "it cannot be compared: ") + cause, 0};
 }
 
 QImage Scaled(const QImage& picture, const QSize& size) {

@@ -68,7 +68,7 @@ ResourceStore::Lookup ResourceStore::Read() const {
   }
   // Opening a pipe would wait for its writer.
   if (!info.isFile()) {
-    return {std::nullopt, QStringLiteral("it is no file")};
+    return {std::nullopt, QStringLiteral("it is not a file")};
   }
   QFile file(file_);
   if (!Patiently([&file] { return file.open(QIODevice::ReadOnly); })) {

@@ -98,7 +98,7 @@ TEST_F(StatsCommand, SaysThatTheFileIsNone) {
   for (const char* const command : {"show", "clear"}) {
     const Ran ran = Run({"stats", command});
     EXPECT_EQ(ran.exitCode, 4);
-    EXPECT_THAT(ran.err, HasSubstr("is no regular file"));
+    EXPECT_THAT(ran.err, HasSubstr("is not a regular file"));
   }
   // What cannot be kept is no reason for a command to fail.
   ASSERT_EQ(Run({"stats", "on", "-q"}).exitCode, 0);

@@ -130,9 +130,9 @@ TEST_F(StatisticsFiles, LogWhatCannotBeNoted) {
   tree_.MakeFolder("data/lumidex/statistics.jsonl");
   const Zenvora::Test::LogCapture log;
   Note("scan");
-  EXPECT_THAT(Text(log), HasSubstr("statistics.jsonl is no regular file"));
-  EXPECT_THAT(ReadStatistics(file_).fault, HasSubstr("is no regular file"));
-  EXPECT_THAT(ClearStatistics(file_), HasSubstr("is no regular file"));
+  EXPECT_THAT(Text(log), HasSubstr("statistics.jsonl is not a regular file"));
+  EXPECT_THAT(ReadStatistics(file_).fault, HasSubstr("is not a regular file"));
+  EXPECT_THAT(ClearStatistics(file_), HasSubstr("is not a regular file"));
   EXPECT_TRUE(file_.exists());
 }
 

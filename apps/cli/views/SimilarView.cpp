@@ -106,7 +106,8 @@ std::string SameText(const SimilarView& view) {
   if (same.photos == 0) {
     return {};
   }
-  return Say(Words::tr("%1 of them (%2) are the same picture as the photo to keep; \"lumidex similar --trash\" moves them to the trash.",
+  return Say(Words::tr("%1 of them (%2) are the same picture as the photo to keep; \"lumidex similar "
+                       "--trash\" moves them to the trash.",
                        nullptr, Amount(same.photos)),
              {GroupDigits(same.photos), SizeText(same.bytes)}) +
          '\n';
@@ -147,7 +148,7 @@ std::string JudgedText(const Host::PictureVerdict& judged) {
       sentence = Words::tr("Their pictures could not be compared.");
       break;
   }
-  return Say(sentence) + (judged.why.empty() ? "" : " (" + EscapeForTerminal(judged.why) + ")");
+  return Say(sentence) + (judged.why.empty() ? "" : " (" + EscapeForTerminal(CauseText(judged.why)) + ")");
 }
 
 }  // namespace
@@ -194,7 +195,7 @@ std::string GroupText(const Host::SuggestedGroup& shown, const TrashView* trash)
                                                    : std::string();
     add(fate, {verdict, ScoreText(member.score), PixelsText(member.features), SizeText(member.photo.size),
                TakenText(member), member.photo.path.utf8string(),
-               isKeeper ? ReasonsText(shown.keeper) : shown.verdicts[i].why});
+               isKeeper ? ReasonsText(shown.keeper) : CauseText(shown.verdicts[i].why)});
     for (std::size_t j = 0; going != nullptr && j < going->appendix.size(); ++j) {
       const Host::SeenFile& file = going->appendix[j];
       add(fate, {"", "", "", SizeText(file.size), "", file.path.utf8string(), ""});

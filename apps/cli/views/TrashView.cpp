@@ -78,7 +78,7 @@ std::string AlikeText(const TrashView& view) {
       table.AddRow(
           {photo.photo.path.utf8string(),
            Say(Words::tr("alike to %1", "a photo is; a file"), {photo.kept.path.filename().utf8string()}),
-           photo.verdict.why});
+           CauseText(photo.verdict.why)});
     }
   }
   const std::string rows = table.Text(2);

@@ -58,7 +58,7 @@ std::string FindFault(const ioPath& file) {
     case FileState::Kind::Folder:
     case FileState::Kind::Other:
       // Opening a pipe would wait for whoever reads it.
-      return file.utf8string() + " is no regular file";
+      return file.utf8string() + " is not a regular file";
     case FileState::Kind::Loop:
     case FileState::Kind::Unknown:
       break;
@@ -155,7 +155,7 @@ std::string ClearStatistics(const ioPath& file) {
     if (isOurs && (each.remove() || kind == FileState::Kind::Missing)) {
       continue;
     }
-    return each.utf8string() + (isOurs ? " cannot be deleted" : " is no regular file");
+    return each.utf8string() + (isOurs ? " cannot be deleted" : " is not a regular file");
   }
   return {};
 }

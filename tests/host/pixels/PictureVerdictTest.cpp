@@ -301,7 +301,7 @@ TEST(PictureVerdict, IsUnknownWithoutPixels) {
   none.cause = "the file is empty";
   const JudgedPicture photo = Judged(Photo());
   EXPECT_EQ(JudgePictures(none, photo).why, "it cannot be compared: the file is empty");
-  EXPECT_EQ(JudgePictures(photo, none).why, "the one to keep cannot be compared: the file is empty");
+  EXPECT_EQ(JudgePictures(photo, none).why, "the photo to keep cannot be compared: the file is empty");
   JudgedPicture degraded = photo;
   degraded.degradation = "it breaks off";
   EXPECT_EQ(JudgePictures(photo, degraded).verdict, Verdict::Unknown);

@@ -45,7 +45,7 @@ TEST(UnseenContent, DoesNotTakeDifferentThingsOnNothingForTheSame) {
   const ioPath first = Save(tree, "a.png", Signature(20));
   const PictureVerdict verdict = JudgePicture(Save(tree, "b.png", Signature(300)), first);
   EXPECT_EQ(verdict.verdict, Verdict::Unknown);
-  EXPECT_EQ(verdict.why, "the one to keep cannot be compared: it is partly transparent");
+  EXPECT_EQ(verdict.why, "the photo to keep cannot be compared: it is partly transparent");
   EXPECT_EQ(JudgePicture(Save(tree, "c.png", Signature(20)), first).verdict, Verdict::Same)
       << "the same bytes";
 }
