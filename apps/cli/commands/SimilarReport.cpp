@@ -1,5 +1,6 @@
 #include "SimilarReport.h"
 
+#include <cli/session/CauseText.h>
 #include <cli/session/ReportTarget.h>
 #include <cli/terminal/Progress.h>
 #include <cli/terminal/TerminalText.h>
@@ -78,7 +79,7 @@ Host::ReportAlbum OnPage(const Host::SuggestedGroup& shown) {
     const std::string facts =
         Say(Words::tr("%1, %2, score %3", "pixels, size, number"),
             {PixelsText(member.features), SizeText(member.photo.size), ScoreText(member.score)});
-    const std::string& why = shown.verdicts[index].why;
+    const std::string why = CauseText(shown.verdicts[index].why);
     group.captions.push_back(
         QString::fromStdString(FileName(member) + '\n' + facts + (why.empty() ? "" : '\n' + why)));
     group.marks.push_back(MarkOf(shown, index));
