@@ -2806,6 +2806,11 @@ Die Fotos behalten Schlagwörter und Alben, die Dateien sind neu:</translation>
         <comment>a step</comment>
         <translation>ZEITPUNKT</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1; %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2806,6 +2806,11 @@ The photos keep their tags and albums, the files are new:</translation>
         <comment>a step</comment>
         <translation>WHEN</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1; %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2806,6 +2806,11 @@ Las fotos conservan sus etiquetas y álbumes; los archivos son nuevos:</translat
         <comment>a step</comment>
         <translation>MOMENTO</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1; %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2806,6 +2806,11 @@ Les photos gardent leurs mots-clés et leurs albums, les fichiers sont nouveaux&
         <comment>a step</comment>
         <translation>MOMENT</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1&#xa0;; %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

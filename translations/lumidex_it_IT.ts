@@ -2806,6 +2806,11 @@ Le foto mantengono i loro tag e album, i file sono nuovi:</translation>
         <comment>a step</comment>
         <translation>MOMENTO</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1; %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2703,6 +2703,11 @@ The photos keep their tags and albums, the files are new:</source>
         <comment>a step</comment>
         <translation>日時</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2806,6 +2806,11 @@ De foto’s houden hun tags en albums, de bestanden zijn nieuw:</translation>
         <comment>a step</comment>
         <translation>TIJDSTIP</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1; %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

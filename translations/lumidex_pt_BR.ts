@@ -2806,6 +2806,11 @@ As fotos mantêm suas etiquetas e álbuns, os arquivos são novos:</translation>
         <comment>a step</comment>
         <translation>MOMENTO</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1; %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2909,6 +2909,11 @@ The photos keep their tags and albums, the files are new:</source>
         <comment>a step</comment>
         <translation>ВРЕМЯ</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>files checked; outcome</comment>
+        <translation>%1; %2</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -241,14 +241,13 @@ std::string ReportText(const CheckReport& report, const Host::JournalRoom& room)
     refused.insert(finding.path);
   }
   const std::string checked =
-      Say(Words::tr("%1 files checked", nullptr, Amount(report.files)), {GroupDigits(report.files)}) + "; ";
+      Say(Words::tr("%1 files checked", nullptr, Amount(report.files)), {GroupDigits(report.files)});
   const std::string roomText = EditRoomText(room);
   const std::string outcome =
       (refused.empty() && roomText.empty()
            ? Say(Words::tr("no problems found."))
            : Say(Words::tr("%1 files or folders would be refused.", nullptr, Amount(refused.size())),
-                 {GroupDigits(refused.size())})) +
-      '\n';
+                 {GroupDigits(refused.size())}));
   const std::string left = report.left.empty()
                                ? std::string()
                                : Say(Words::tr("An import skips %1 other files (--json lists them).", nullptr,
@@ -256,7 +255,7 @@ std::string ReportText(const CheckReport& report, const Host::JournalRoom& room)
                                      {GroupDigits(report.left.size())}) +
                                      '\n';
   return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + roomText + left +
-         checked + outcome;
+         Say(Words::tr("%1; %2", "files checked; outcome"), {checked, outcome}) + '\n';
 }
 
 ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
