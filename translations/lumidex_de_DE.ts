@@ -200,7 +200,7 @@
         <translation>%1 ist unverändert: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
         <translation>%1 wurde bearbeitet, aber der Katalog konnte nicht aktualisiert werden (%2). Der nächste Aufruf von lumidex holt das nach</translation>
     </message>
     <message>

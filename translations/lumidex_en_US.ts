@@ -200,8 +200,8 @@
         <translation>%1 is unchanged: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
-        <translation>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</translation>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
+        <translation>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</translation>
     </message>
     <message>
         <source>%1 cannot be read back as what was written</source>

@@ -200,7 +200,7 @@
         <translation>%1 no ha cambiado: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
         <translation>%1 se editó, pero no se pudo actualizar el catálogo (%2). La próxima ejecución de lumidex lo actualiza</translation>
     </message>
     <message>

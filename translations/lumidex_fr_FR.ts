@@ -200,7 +200,7 @@
         <translation>%1 est inchangé&#xa0;: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
         <translation>%1 a été modifié, mais le catalogue n’a pas pu être mis à jour (%2). Le prochain lancement de lumidex s’en charge</translation>
     </message>
     <message>

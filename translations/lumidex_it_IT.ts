@@ -200,7 +200,7 @@
         <translation>%1 è invariato: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
         <translation>%1 è stato modificato, ma non è stato possibile aggiornare il catalogo (%2). La prossima esecuzione di lumidex lo aggiorna</translation>
     </message>
     <message>

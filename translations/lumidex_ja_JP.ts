@@ -200,7 +200,7 @@
         <translation>%1 は変更していません: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
         <translation>%1 を編集しましたが、カタログを更新できませんでした (%2)。次に lumidex を実行すると更新されます</translation>
     </message>
     <message>

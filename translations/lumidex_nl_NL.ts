@@ -200,7 +200,7 @@
         <translation>%1 is ongewijzigd: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
         <translation>%1 is bewerkt, maar de catalogus kon niet worden bijgewerkt (%2). De volgende keer werkt lumidex die bij</translation>
     </message>
     <message>

@@ -200,7 +200,7 @@
         <translation>%1 não foi alterado: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
         <translation>%1 foi editado, mas o catálogo não pôde ser atualizado (%2). A próxima execução do lumidex o atualiza</translation>
     </message>
     <message>

@@ -200,7 +200,7 @@
         <translation>%1 не изменён: %2</translation>
     </message>
     <message>
-        <source>%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it</source>
+        <source>%1 was edited, but the catalogue could not be updated (%2). The next run updates it</source>
         <translation>%1 изменён, но не удалось обновить каталог (%2). Следующий запуск lumidex обновит его</translation>
     </message>
     <message>

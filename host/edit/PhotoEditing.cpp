@@ -124,7 +124,7 @@ class EditRunner {
 
   void TellLater(const EditTask& task, const HostError& failure) {
     Find(task, task.photo.utf8string() + " was edited, but the catalogue could not be updated (" +
-                   failure.what() + "). The next run of lumidex updates it");
+                   failure.what() + "). The next run updates it");
   }
 
   void End(const std::vector<EditTask>& tasks) {

@@ -180,7 +180,8 @@ TEST(CountedSentences, AgreeWithTheRulesOfEachLanguage) {
     std::map<std::string, std::string> forms;
     for (int number = 0; number <= kMost; ++number) {
       const std::string text =
-          QCoreApplication::translate("Terminal", "%1 files", nullptr, number).toStdString();
+          QCoreApplication::translate("Terminal", "%1 groups of similar photos", nullptr, number)
+              .toStdString();
       const auto [form, isNew] = forms.emplace(rules.CategoryOf(number), text);
       EXPECT_EQ(text, form->second) << locale << ' ' << number << ' ' << form->first;
     }

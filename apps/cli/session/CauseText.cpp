@@ -74,9 +74,8 @@ constexpr Sentence kSentences[] = {
     {QT_TRANSLATE_NOOP("Causes", "its text is damaged")},
     {QT_TRANSLATE_NOOP("Causes", "it has too many properties")},
     {QT_TRANSLATE_NOOP("Causes", "%1 is unchanged: %2"), 2},
-    {QT_TRANSLATE_NOOP(
-         "Causes",
-         "%1 was edited, but the catalogue could not be updated (%2). The next run of lumidex updates it"),
+    {QT_TRANSLATE_NOOP("Causes",
+                       "%1 was edited, but the catalogue could not be updated (%2). The next run updates it"),
      2},
     {QT_TRANSLATE_NOOP("Causes", "%1 cannot be read back as what was written")},
     {QT_TRANSLATE_NOOP("Causes", "%1 is left as it is, because it belongs to %2")},
