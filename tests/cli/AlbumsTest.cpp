@@ -115,7 +115,7 @@ TEST_F(AlbumsCommand, AcceptsAnAlbumOnce) {
 
   const Ran second = Run({"albums", "--accept", "Christmas, December 2023"});
   EXPECT_EQ(second.exitCode, 0);
-  EXPECT_THAT(second.out, HasSubstr("Nothing to change in Christmas, December 2023"));
+  EXPECT_THAT(second.out, HasSubstr("Christmas, December 2023 was accepted before"));
   EXPECT_EQ(Run({"albums", "--accepted", "--json"}).Json()["albums"].toArray().size(), 1);
 }
 
@@ -150,7 +150,7 @@ TEST_F(AlbumsCommand, AcceptsNothingWhenOneNameIsUnknown) {
   EXPECT_THAT(ran.out, IsEmpty());
   EXPECT_THAT(ran.err, HasSubstr("\"christmas\""));
   EXPECT_THAT(ran.err, HasSubstr("  Christmas, December 2023\n"));
-  EXPECT_THAT(Run({"albums", "--accepted"}).out, HasSubstr("No album is accepted yet"));
+  EXPECT_THAT(Run({"albums", "--accepted"}).out, HasSubstr("No album has been accepted yet"));
 
   const QJsonObject error = Run({"albums", "--json", "--accept", "Easter"}).Json();
   EXPECT_EQ(error["format"].toString(), QStringLiteral("lumidex.error"));
@@ -296,7 +296,7 @@ TEST_F(AlbumsCommand, ReplacesPagesAndNothingElseByAReport) {
     EXPECT_THAT(ReadFile(tree.Path("page")), HasSubstr("Christmas"));
   }
   EXPECT_EQ(Run({"albums", "--report", "page"}).exitCode, 0);
-  EXPECT_THAT(Run({"albums", "--accepted"}).out, HasSubstr("No album is accepted yet"));
+  EXPECT_THAT(Run({"albums", "--accepted"}).out, HasSubstr("No album has been accepted yet"));
 }
 
 TEST_F(AlbumsCommand, AcceptsNothingWhenTheReportCannotBeWritten) {
@@ -305,7 +305,7 @@ TEST_F(AlbumsCommand, AcceptsNothingWhenTheReportCannotBeWritten) {
   for (const QStringList& form : {QStringList{}, QStringList{"--json"}}) {
     const Ran ran = Run(QStringList{"albums", "--accept", "all", "--report", "file/page.html"} + form);
     EXPECT_EQ(ran.exitCode, 4);
-    EXPECT_THAT(Run({"albums", "--accepted"}).out, HasSubstr("No album is accepted yet"));
+    EXPECT_THAT(Run({"albums", "--accepted"}).out, HasSubstr("No album has been accepted yet"));
   }
 }
 
@@ -398,7 +398,7 @@ TEST_F(AlbumsCommand, SaysWhenAllPhotosAreGone) {
   Run({"scan", Text(Photos())});
   const Ran ran = Run({"albums"});
   EXPECT_EQ(ran.exitCode, 1);
-  EXPECT_THAT(ran.out, HasSubstr("All 2 photos of the catalogue were gone"));
+  EXPECT_THAT(ran.out, HasSubstr("All 2 photos of the catalogue were missing"));
 }
 
 TEST_F(AlbumsCommand, SaysWhyThereAreNoProposals) {

@@ -140,7 +140,7 @@ TEST_F(CalendarCommand, KeepsTheCalendarInUseWhenTheServerFails) {
   Serve("<html>maintenance</html>");
   const Ran broken = Run({"calendar", "update"});
   EXPECT_EQ(broken.exitCode, 3);
-  EXPECT_THAT(broken.out, HasSubstr("In use as before: "));
+  EXPECT_THAT(broken.out, HasSubstr("Still in use: "));
   EXPECT_FALSE(Stored().exists());
 }
 

@@ -79,7 +79,7 @@ TEST_F(CheckTruth, TakesNothingForWhatItIsNotAskedFor) {
   EXPECT_EQ(wrong.exitCode, 2);
   EXPECT_THAT(
       wrong.err,
-      HasSubstr("--for must be of import, rename, rotate, shift-date, set-date, trash, not \"turn\""));
+      HasSubstr("--for must name some of import, rename, rotate, shift-date, set-date, trash, not \"turn\""));
 }
 
 TEST_F(CheckTruth, NeverSpeaksOfWhatNoCommandDoes) {

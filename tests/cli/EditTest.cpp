@@ -184,7 +184,7 @@ TEST_F(EditCommands, ListWhatTheyCannotEditWithTheCause) {
     EXPECT_THAT(ran.out, HasSubstr(row.cause));
     EXPECT_THAT(ran.out, HasSubstr("Nothing was changed."));
   }
-  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("nothing that could be undone"));
+  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("nothing to undo"));
 }
 
 TEST_F(EditCommands, TakeThePhotosOfAFolderAndNothingBelow) {

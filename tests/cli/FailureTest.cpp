@@ -85,7 +85,7 @@ TEST_F(FailingCommand, SaysWhereAnOptionBelongs) {
 
 TEST_F(FailingCommand, SaysHowATagOfOneLetterIsTakenAway) {
   EXPECT_THAT(Run({"tag", "photos", "-x"}).err,
-              HasSubstr("There is no option -x; to take away the tag x, write --remove x (see"));
+              HasSubstr("There is no option -x; to remove the tag x, write --remove x (see"));
 }
 
 TEST_F(FailingCommand, NamesAMistypedOptionBeforeTheOneThatIsMissing) {

@@ -103,7 +103,7 @@ TEST_F(OddFiles, AreToldWithTheirFormatAndWhatIsMissing) {
                              "KImageFormats") != std::string::npos ||
                 similar.find("damaged") != std::string::npos || similar.find("decoded") != std::string::npos)
         << similar;
-    EXPECT_THAT(similar, Not(HasSubstr("no picture of a known format")));
+    EXPECT_THAT(similar, Not(HasSubstr("not a picture of a known format")));
     EXPECT_THAT(Run({"rotate", "right", QStringLiteral("photos/") + QLatin1String(rows[i].name)}).out +
                     Run({"rotate", "right", QStringLiteral("photos/") + QLatin1String(rows[i].name)}).err,
                 HasSubstr("photos of the format " + format + " cannot be edited"));

@@ -215,7 +215,7 @@ TEST_F(RenameCommand, UsesTheTimesOfFilesThatSayNothingAndTellsSo) {
   Photo("dated.jpg");
   const Ran ran = Rename("{datetime}");
   EXPECT_EQ(ran.exitCode, 0);
-  EXPECT_THAT(ran.out, HasSubstr("1 photo has no date of its own; its file's time is used."));
+  EXPECT_THAT(ran.out, HasSubstr("1 photo has no date; the time of its file is used."));
   EXPECT_TRUE((Photos() / "2024-05-17_10-00-00.jpg").exists());
 }
 

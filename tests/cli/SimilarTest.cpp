@@ -457,7 +457,7 @@ TEST_F(SimilarCommand, SaysWhenThisBuildRunsNoModels) {
     EXPECT_THAT(Run({"--version"}).out, HasSubstr("\nmodels: ONNX, run by " + runtime + "\n"));
     return;
   }
-  EXPECT_THAT(page, HasSubstr("without support for that"));
+  EXPECT_THAT(page, HasSubstr("without support for models"));
   EXPECT_THAT(Run({"--version"}).out, HasSubstr("\nmodels: none"));
   MakeGroups();
   Scan();

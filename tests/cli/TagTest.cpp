@@ -162,7 +162,7 @@ TEST_F(TagCommand, RefusesLinesThatMakeNoSense) {
   ASSERT_EQ(Run({"tag", "photos", "+Beach"}).exitCode, 0);
   const Ran both = Run({"tag", "photos", "+Beach", "-beach"});
   EXPECT_EQ(both.exitCode, 2);
-  EXPECT_THAT(both.err, HasSubstr("given and taken away at once"));
+  EXPECT_THAT(both.err, HasSubstr("added and removed at once"));
 }
 
 TEST_F(TagCommand, NeedsACatalogueAndMakesNone) {

@@ -173,7 +173,7 @@ TEST_F(TrashCommand, ShowsWhatWouldGoInADryRun) {
               HasSubstr(") would be moved to the trash. This was a dry run: nothing was changed.\n"));
   EXPECT_EQ(State(), before_);
   EXPECT_EQ(QueryFile(Trash()).kind, FileState::Kind::Missing);
-  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("nothing that could be undone"));
+  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("nothing to undo"));
 }
 
 TEST_F(TrashCommand, WritesOneDocumentWithAllItsMembers) {
@@ -407,7 +407,7 @@ TEST_F(TrashQuestion, IsAnsweredWithNoByAnythingElse) {
     EXPECT_EQ(ran.out, "Nothing was moved.\n") << answer;
     EXPECT_EQ(State(), before_) << answer;
   }
-  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("nothing that could be undone"));
+  EXPECT_THAT(Run({"undo", "--list"}).out, HasSubstr("nothing to undo"));
 }
 
 TEST_F(TrashQuestion, IsAnsweredInTheLanguageOrInEnglish) {

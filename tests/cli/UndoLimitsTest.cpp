@@ -146,7 +146,7 @@ TEST_F(UndoLimits, CountDaysOfUse) {
   const Ran later = Run({"rename", "--pattern", "y", "photos"});
   EXPECT_EQ(later.exitCode, 0);
   EXPECT_THAT(later.err,
-              HasSubstr("2 steps cannot be undone any more: more than 2 days of use have passed since."));
+              HasSubstr("2 steps cannot be undone any more, because more than 2 days of use have passed."));
   EXPECT_EQ(Steps().size(), 1);
 }
 

@@ -145,7 +145,7 @@ TEST_F(UndoCommand, LeavesWhatOthersHaveChangedSince) {
 }
 
 TEST_F(UndoCommand, SkipsWhatCannotBeTakenBack) {
-  const std::string hint = "\"lumidex undo --skip\" leaves it as it is for good.";
+  const std::string hint = "\"lumidex undo --skip\" skips it for good.";
   const std::string before = ReadFile(Photo("b.jpg"));
   ASSERT_EQ(Run({"rotate", "right", "photos/b.jpg"}).exitCode, 0);
   Photo("a.jpg");

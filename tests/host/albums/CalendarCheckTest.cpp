@@ -81,9 +81,9 @@ TEST_F(CheckingACalendar, FindsDaysThatAreNone) {
   };
   for (const Row& row :
        {Row{"1.5", "not in the form"}, Row{"01-05", "not in the form"}, Row{"01.05.", "not in the form"},
-        Row{"May 1", "not in the form"}, Row{"31.04", "no day of the year"},
-        Row{"32.01", "no day of the year"}, Row{"00.01", "no day of the year"},
-        Row{"01.13", "no day of the year"}, Row{"", "is missing"}, Row{"29.02", "29.02"}}) {
+        Row{"May 1", "not in the form"}, Row{"31.04", "not a day of the year"},
+        Row{"32.01", "not a day of the year"}, Row{"00.01", "not a day of the year"},
+        Row{"01.13", "not a day of the year"}, Row{"", "is missing"}, Row{"29.02", "29.02"}}) {
     EXPECT_THAT(Findings({{"A", row.day, "31.12"}}), ElementsAre(HasSubstr(row.complaint))) << row.day;
     EXPECT_THAT(Findings({{"A", "01.01", row.day}}), ElementsAre(HasSubstr(row.complaint))) << row.day;
   }

@@ -130,7 +130,7 @@ TEST_F(SidecarJournal, SaysSoWhenTheyCannotBeBroughtTogether) {
   for (const std::string& note : journal_->RecoveryNotes()) {
     notes += note + '\n';
   }
-  EXPECT_THAT(notes, HasSubstr(photo_.utf8string() + " and its sidecar do not agree any more"));
+  EXPECT_THAT(notes, HasSubstr(photo_.utf8string() + " and its sidecar disagree"));
 }
 
 TEST_F(SidecarJournal, LeavesBothWhenOthersChangedOneSince) {

@@ -442,7 +442,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoAndIsNotAsItWas) {
   const TrashResult result = Move({photo});
   EXPECT_EQ(result.files, 1U);
   ASSERT_THAT(result.findings, SizeIs(2));
-  EXPECT_THAT(result.findings[0].cause, HasSubstr("a.xmp is kept: it has been changed"));
+  EXPECT_THAT(result.findings[0].cause, HasSubstr("a.xmp is kept: it was changed"));
   EXPECT_TRUE(std::filesystem::is_directory(Photo("a.thm").native()));
 }
 
@@ -496,7 +496,7 @@ TEST_F(TrashJournal, LeavesAPhotoInTheTrashWhoseFolderCannotBeMade) {
   const UndoResult result = Undo();
   EXPECT_EQ(result.files, 0U);
   EXPECT_TRUE(result.stands);
-  EXPECT_THAT(result.findings[0].cause, HasSubstr("stays in the trash as"));
+  EXPECT_THAT(result.findings[0].cause, HasSubstr("remains in the trash as"));
   Photo("trip").remove();
   EXPECT_EQ(Undo().files, 1U);
 }
@@ -562,7 +562,7 @@ TEST_F(TrashJournal, DoesNotDoAgainWhatWouldLoseAPhoto) {
   Make("other.jpg", "O");
   Move({Going("a.jpg"), Going("b.jpg"), Going("c.jpg", "other.jpg")});
   Undo();
-  Make("a.jpg", "changed since");
+  Make("a.jpg", "changed later");
   Photo("b.jpg").remove();
   Photo("other.jpg").remove();
   const UndoResult result = Redo();
@@ -570,8 +570,8 @@ TEST_F(TrashJournal, DoesNotDoAgainWhatWouldLoseAPhoto) {
   ASSERT_THAT(result.findings, SizeIs(3));
   EXPECT_THAT(result.findings[0].cause, HasSubstr("a.jpg was changed later and is left as it is"));
   EXPECT_THAT(result.findings[1].cause, HasSubstr("b.jpg no longer exists"));
-  EXPECT_THAT(result.findings[2].cause, HasSubstr("c.jpg is kept: the photo that was kept in its stead"));
-  EXPECT_EQ(Photos(), (Files{{"keep.jpg", "keep.jpg"}, {"a.jpg", "changed since"}, {"c.jpg", "c.jpg"}}));
+  EXPECT_THAT(result.findings[2].cause, HasSubstr("c.jpg was kept, because the photo kept in its place"));
+  EXPECT_EQ(Photos(), (Files{{"keep.jpg", "keep.jpg"}, {"a.jpg", "changed later"}, {"c.jpg", "c.jpg"}}));
   EXPECT_TRUE(journal_->Steps().front().undone);
 }
 
@@ -845,7 +845,7 @@ TEST_F(KilledTrashJournal, WaitsForTheVolumeOfWhatWasBrokenOff) {
   trash_.inReach = false;
   Open();
   ASSERT_THAT(journal_->RecoveryNotes(), SizeIs(1));
-  EXPECT_THAT(journal_->RecoveryNotes()[0], HasSubstr("is finished once"));
+  EXPECT_THAT(journal_->RecoveryNotes()[0], HasSubstr("will be finished once"));
   EXPECT_TRUE(NeedsRecovery(catalogue_));
   ASSERT_TRUE(awayTrash.rename(bin_));
   ASSERT_TRUE(awayPhotos.rename(photos_));

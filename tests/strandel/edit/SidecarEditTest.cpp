@@ -200,7 +200,7 @@ TEST_F(SidecarEdits, RefuseWhatTheyCannotChange) {
               HasSubstr("its xmp:CreateDate cannot be changed in place"));
   EXPECT_THAT(Refusal(dated + std::string(kMostSidecarBytes, ' '), SetTo()), HasSubstr("larger than 16 MiB"));
   EXPECT_THAT(Refusal(Packet("xmp:CreateDate=\"9999-12-31T23:59:59\""), ShiftedBy(seconds(1))),
-              HasSubstr("years 1 to 9999"));
+              HasSubstr("year would not be 1 to 9999"));
   tree.MakeFolder("folder.xmp");
   EXPECT_THROW(TryEditSidecar(tree.Path("folder.xmp"), photo, SetTo()), PhotoEditError);
   EXPECT_THROW(TryEditSidecar(tree.Path("gone.xmp"), photo, SetTo()), PhotoEditError);
