@@ -2684,8 +2684,8 @@ Die Fotos behalten Schlagwörter und Alben, die Dateien sind neu:</translation>
         <translation>Es kann gefahrlos formatiert werden.</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Beim Formatieren geht nichts aus diesem Ordner verloren; was außerhalb liegt, wurde nicht geprüft.</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>Was diesen Ordner betrifft, kann gefahrlos formatiert werden; was außerhalb liegt, wurde nicht geprüft.</translation>
     </message>
     <message>
         <source>not enlarged</source>

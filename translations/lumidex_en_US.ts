@@ -2684,8 +2684,8 @@ The photos keep their tags and albums, the files are new:</translation>
         <translation>It is safe to format.</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Formatting loses nothing of this folder; what is outside it was not checked.</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>It is safe to format as far as this folder is concerned; what is outside it was not checked.</translation>
     </message>
     <message>
         <source>not enlarged</source>

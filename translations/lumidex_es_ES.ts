@@ -2684,8 +2684,8 @@ Las fotos conservan sus etiquetas y álbumes; los archivos son nuevos:</translat
         <translation>Se puede formatear sin riesgo.</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Al formatear no se pierde nada de esta carpeta; lo que hay fuera de ella no se ha comprobado.</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>Por lo que toca a esta carpeta, se puede formatear sin riesgo; lo que hay fuera de ella no se ha comprobado.</translation>
     </message>
     <message>
         <source>not enlarged</source>

@@ -2684,8 +2684,8 @@ Les photos gardent leurs mots-clés et leurs albums, les fichiers sont nouveaux&
         <translation>Le formatage est sans risque.</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Le formatage ne fait rien perdre de ce dossier&#xa0;; ce qui se trouve en dehors n’a pas été vérifié.</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>Pour ce dossier, le formatage est sans risque ; ce qui se trouve en dehors n’a pas été vérifié.</translation>
     </message>
     <message>
         <source>not enlarged</source>

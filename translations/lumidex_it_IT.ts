@@ -2684,8 +2684,8 @@ Le foto mantengono i loro tag e album, i file sono nuovi:</translation>
         <translation>Si può formattare senza rischi.</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>La formattazione non fa perdere nulla di questa cartella; ciò che ne sta fuori non è stato controllato.</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>Per quanto riguarda questa cartella si può formattare senza rischi; ciò che ne sta fuori non è stato controllato.</translation>
     </message>
     <message>
         <source>not enlarged</source>

@@ -2587,8 +2587,8 @@ The photos keep their tags and albums, the files are new:</source>
         <translation>安全にフォーマットできます。</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>フォーマットしても、このフォルダーのものは失われません。フォルダーの外にあるものは調べていません。</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>このフォルダーに限れば安全にフォーマットできます。フォルダーの外にあるものは調べていません。</translation>
     </message>
     <message>
         <source>not enlarged</source>

@@ -2684,8 +2684,8 @@ De foto’s houden hun tags en albums, de bestanden zijn nieuw:</translation>
         <translation>Formatteren is veilig.</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Bij het formatteren gaat niets van deze map verloren; wat erbuiten staat, is niet gecontroleerd.</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>Wat deze map betreft is formatteren veilig; wat erbuiten staat, is niet gecontroleerd.</translation>
     </message>
     <message>
         <source>not enlarged</source>

@@ -2684,8 +2684,8 @@ As fotos mantêm suas etiquetas e álbuns, os arquivos são novos:</translation>
         <translation>É seguro formatar.</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>Formatar não faz perder nada desta pasta; o que está fora dela não foi verificado.</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>No que toca a esta pasta, é seguro formatar; o que está fora dela não foi verificado.</translation>
     </message>
     <message>
         <source>not enlarged</source>

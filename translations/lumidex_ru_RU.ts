@@ -2781,8 +2781,8 @@ The photos keep their tags and albums, the files are new:</source>
         <translation>Можно безопасно форматировать.</translation>
     </message>
     <message>
-        <source>Formatting loses nothing of this folder; what is outside it was not checked.</source>
-        <translation>При форматировании из этой папки ничего не пропадёт; то, что вне её, не проверялось.</translation>
+        <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
+        <translation>Что касается этой папки, можно безопасно форматировать; то, что вне её, не проверялось.</translation>
     </message>
     <message>
         <source>not enlarged</source>

@@ -410,10 +410,9 @@ std::string VerdictText(const ImportView& view) {
           : Say(Words::tr("Every file in %1, except for housekeeping files, has a verified copy elsewhere."),
                 {sources});
   return left + '\n' +
-         Say(view.verdict.wholeVolumes
-                 ? Words::tr("It is safe to format.")
-                 : Words::tr(
-                       "Formatting loses nothing of this folder; what is outside it was not checked.")) +
+         Say(view.verdict.wholeVolumes ? Words::tr("It is safe to format.")
+                                       : Words::tr("It is safe to format as far as this folder is concerned; "
+                                                   "what is outside it was not checked.")) +
          '\n';
 }
 
