@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Fuzz::Demand(!endsTooSoon || !Lumidex::Host::EndsTooSoon(file.Path()),
                  "an end that is put behind is the end");
   }
-  Lumidex::Host::HoldsFirstPicture(content);
+  Lumidex::Host::HoldsFirstPicture(Strandel::ByteView(content));
   Lumidex::Host::ReadJpegTables(content);
   Lumidex::Host::HasBrokenJpegData(content);
   QByteArray bytes = QByteArray::fromStdString(content);

@@ -57,11 +57,6 @@ bool IsHeldWhole(QIODevice& device) {
   return true;
 }
 
-bool IsCutTiff(QIODevice& device) {
-  DeviceBytes bytes(device);
-  return !HoldsFirstPicture(bytes);
-}
-
 bool IsTooLarge(QImageReader& reader, QIODevice& device, std::int64_t pixels) {
   if (IsJpeg(reader.format())) {
     if (pixels <= kMostPixels) {
@@ -156,7 +151,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
     result.cause = TooLargeText(size);
     return result;
   }
-  if (IsCutTiff(device)) {
+  if (!HoldsFirstPicture(device)) {
     result.cause = kCutText;
     return result;
   }

@@ -1,6 +1,7 @@
 #include "PictureDetail.h"
 
 #include "PicturePlane.h"
+#include "TiffParts.h"
 
 #include <host/pixels/PhotoPixels.h>
 
@@ -40,7 +41,7 @@ QImage ReadMiddle(const ioPath& file, int side) {
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
   const QSize size = reader.size();
-  if (size.isEmpty() || side < 1) {
+  if (size.isEmpty() || side < 1 || !HoldsFirstPicture(device)) {
     return {};
   }
   const int fitting = std::min({side, size.width(), size.height()});

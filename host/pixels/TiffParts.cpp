@@ -1,5 +1,7 @@
 #include "TiffParts.h"
 
+#include "DeviceBytes.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -147,6 +149,11 @@ bool HoldsFirstPicture(const ByteSource& file) {
   };
   return std::all_of(kParts.begin(), kParts.end(), isSaid) && HoldsAllParts(tiff, *directory) &&
          picture.HasRoom();
+}
+
+bool HoldsFirstPicture(QIODevice& device) {
+  DeviceBytes bytes(device);
+  return HoldsFirstPicture(ByteSource(bytes));
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -2,6 +2,8 @@
 
 #include <zenvora/strandel/TiffDirectories.h>
 
+#include <QIODevice>
+
 namespace Zenvora::Lumidex::Host {
 
 /// Whether all strips and tiles that a directory tells of lie within the file. Pure.
@@ -11,5 +13,7 @@ bool HoldsAllParts(const Strandel::TiffStructure& tiff, const Strandel::TiffDire
 /// file, with as many bytes as its size calls for where it is not compressed. For others libtiff 4.5 writes
 /// beyond its memory. True for what is no TIFF file.
 bool HoldsFirstPicture(const Strandel::ByteSource& file);
+/// The same of an open device that can seek, which is left where it was. Blocks on a disk.
+bool HoldsFirstPicture(QIODevice& device);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -1,7 +1,9 @@
+#include "PictureDetail.h"
 #include "TiffParts.h"
 
 #include <host/pixels/PhotoPixels.h>
 #include <support/PhotoMaker.h>
+#include <support/TempTree.h>
 
 #include <gtest/gtest.h>
 
@@ -101,6 +103,11 @@ TEST(HoldsFirstPicture, IsTrueOfOtherFormats) {
   EXPECT_TRUE(Holds(""));
   EXPECT_TRUE(Holds("II"));
   EXPECT_TRUE(Holds(Zenvora::Test::MakeJpeg({})));
+}
+
+TEST(ReadMiddle, GivesNothingOfTiffFilesThatEndBeforeTheirPicture) {
+  const Zenvora::Test::TempTree tree;
+  EXPECT_TRUE(ReadMiddle(tree.Write("cut.tif", Tiff(Grey(1, 12), 11)), 100).isNull());
 }
 
 TEST(DecodePicture, RefusesTiffFilesThatEndBeforeTheirPicture) {
