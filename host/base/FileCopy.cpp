@@ -80,7 +80,7 @@ std::error_code WritePiece(std::string_view piece, NewFile& copy) {
   return copy.Write(piece.data(), piece.size());
 }
 
-CopyOutcome CopyContent(FileReader& reader, std::uint64_t size, NewFile& copy, const CopyGoesOn& goesOn) {
+CopyOutcome CopyContent(FileReader& reader, std::uint64_t size, NewFile& copy, const KeepGoing& keepGoing) {
   CopyOutcome outcome;
   ContentHash hash;
   for (;;) {
@@ -100,7 +100,7 @@ CopyOutcome CopyContent(FileReader& reader, std::uint64_t size, NewFile& copy, c
     if (outcome.size > size) {
       return outcome;
     }
-    if (goesOn && !goesOn(outcome.size)) {
+    if (keepGoing && !keepGoing(outcome.size)) {
       return Failed(Status::GivenUp, "given up");
     }
   }
@@ -109,7 +109,7 @@ CopyOutcome CopyContent(FileReader& reader, std::uint64_t size, NewFile& copy, c
 }
 
 CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expected,
-                     const CopyGoesOn& goesOn) {
+                     const KeepGoing& keepGoing) {
   FileReader reader;
   if (const std::error_code error = reader.Open(source)) {
     return Failed(Status::Unreadable,
@@ -124,7 +124,7 @@ CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expect
   if (const std::error_code error = written.Create(copy)) {
     return Failed(Status::NoRoom, "no file can be created in the target folder: " + ErrorText(error));
   }
-  CopyOutcome outcome = CopyContent(reader, before.size, written, goesOn);
+  CopyOutcome outcome = CopyContent(reader, before.size, written, keepGoing);
   if (outcome.status != Status::Copied) {
     return outcome;
   }
@@ -135,7 +135,7 @@ CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expect
     expected = QueryFile(source);
     return Failed(Status::Changed, "it was changed while it was copied");
   }
-  written.TakeRightsOf(source);
+  written.CopyRightsOf(source);
   std::error_code error = written.SetModified(before.modifiedNs);
   if (!error) {
     error = written.Close(false);
@@ -152,11 +152,11 @@ CopyOutcome CopyOnce(const ioPath& source, const ioPath& copy, FileState& expect
 }  // namespace
 
 CopyOutcome CopyToNew(const ioPath& source, const FileState& expected, const ioPath& copy,
-                      const CopyGoesOn& goesOn) {
+                      const KeepGoing& keepGoing) {
   FileState state = expected;
   CopyOutcome outcome;
   for (int reading = 0; reading < kReadings; ++reading) {
-    outcome = CopyOnce(source, copy, state, goesOn);
+    outcome = CopyOnce(source, copy, state, keepGoing);
     if (outcome.status != Status::Changed) {
       break;
     }
@@ -201,7 +201,7 @@ std::string SketchOf(const ioPath& file) {
   return std::to_string(size) + '-' + hash.Finish().toHex().toStdString();
 }
 
-bool SameContent(const ioPath& left, const ioPath& right, const CopyGoesOn& goesOn) {
+bool SameContent(const ioPath& left, const ioPath& right, const KeepGoing& keepGoing) {
   FileReader one;
   FileReader other;
   if (one.Open(left) || other.Open(right)) {
@@ -219,7 +219,7 @@ bool SameContent(const ioPath& left, const ioPath& right, const CopyGoesOn& goes
       return true;
     }
     done += first.size();
-    if (goesOn && !goesOn(done)) {
+    if (keepGoing && !keepGoing(done)) {
       return false;
     }
   }

@@ -50,7 +50,7 @@ WholeFile::WholeFile(const ioPath& file) : named_(file), target_(file) {
   Check(error);
   if (kind == FileState::Kind::File) {
     // Whoever could read the old file can read the new one.
-    written_.TakeRightsOf(target_);
+    written_.CopyRightsOf(target_);
   }
 }
 

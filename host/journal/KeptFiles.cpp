@@ -80,7 +80,7 @@ bool ShareBlocks(const ioPath& from, const ioPath& to) {
   if (twin.Create(to)) {
     return false;
   }
-  twin.TakeRightsOf(from);
+  twin.CopyRightsOf(from);
   return twin.ShareBlocksOf(from) && !Finish(twin, state.modifiedNs);
 }
 
@@ -93,7 +93,7 @@ void RequireWritten(const std::error_code& error, const ioPath& to) {
 /// `copy` is `to`, open and to be written from its beginning.
 void Fill(NewFile& copy, const ioPath& from, const ioPath& to) {
   const FileState state = QueryFile(from);
-  copy.TakeRightsOf(from);
+  copy.CopyRightsOf(from);
   ReadAll(from, [&](const char* bytes, std::size_t count) { RequireWritten(copy.Write(bytes, count), to); });
   RequireWritten(Finish(copy, state.modifiedNs), to);
 }

@@ -326,7 +326,7 @@ std::string ShapeText(const Value& value) {
   return '[' + text + ']';
 }
 
-void TakeInput(const Graph& graph, ModelHead& head) {
+void ReadInput(const Graph& graph, ModelHead& head) {
   if (graph.inputs.size() != 1) {
     throw ModelFault("it has " + std::to_string(graph.inputs.size()) + " inputs, and a photo is one");
   }
@@ -353,7 +353,7 @@ void TakeInput(const Graph& graph, ModelHead& head) {
 }
 
 /// The names are those that the format's authors gave out for models that take pictures.
-void TakeWish(std::string_view entry, ModelHead& head) {
+void ReadWish(std::string_view entry, ModelHead& head) {
   std::string key;
   std::string value;
   WireReader reader(entry);
@@ -401,13 +401,13 @@ ModelHead ReadModelHead(std::string_view model) {
       }
       graph = ReadGraph(field->bytes);
     } else if (field->Is(kMetadata, Type::Bytes)) {
-      TakeWish(field->bytes, head);
+      ReadWish(field->bytes, head);
     }
   }
   if (!isModel || !graph) {
     throw ModelFault("it is not an ONNX model, or it is damaged");
   }
-  TakeInput(*graph, head);
+  ReadInput(*graph, head);
   if (graph->outputs.empty() || graph->outputs.front().name.empty()) {
     throw ModelFault("it has no output");
   }

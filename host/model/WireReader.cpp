@@ -39,13 +39,13 @@ std::optional<WireReader::Field> WireReader::Next() {
       field.number = Number();
       return field;
     case Type::Eight:
-      field.bytes = Take(8);
+      field.bytes = ReadBytes(8);
       return field;
     case Type::Bytes:
-      field.bytes = Take(Number());
+      field.bytes = ReadBytes(Number());
       return field;
     case Type::Four:
-      field.bytes = Take(4);
+      field.bytes = ReadBytes(4);
       return field;
   }
   ThrowDamaged();
@@ -57,7 +57,7 @@ std::uint64_t WireReader::Number() {
   constexpr unsigned kMore = 0x80;
   std::uint64_t number = 0;
   for (unsigned shift = 0; shift < kMostBits; shift += kBits) {
-    const auto byte = static_cast<unsigned char>(Take(1).front());
+    const auto byte = static_cast<unsigned char>(ReadBytes(1).front());
     number |= std::uint64_t{byte & (kMore - 1)} << shift;
     if ((byte & kMore) == 0) {
       return number;
@@ -66,7 +66,7 @@ std::uint64_t WireReader::Number() {
   ThrowDamaged();
 }
 
-std::string_view WireReader::Take(std::uint64_t count) {
+std::string_view WireReader::ReadBytes(std::uint64_t count) {
   if (count > left_.size()) {
     ThrowDamaged();
   }

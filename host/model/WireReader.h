@@ -33,7 +33,7 @@ class WireReader {
   bool AtEnd() const { return left_.empty(); }
 
  private:
-  std::string_view Take(std::uint64_t count);
+  std::string_view ReadBytes(std::uint64_t count);
 
   std::string_view left_;
 };

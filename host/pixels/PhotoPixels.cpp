@@ -132,7 +132,7 @@ std::string TooLargeText(const QSize& size) {
 }
 
 DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
-  Quillet::TakeDecoderNotes();
+  Quillet::WatchDecoderNotes();
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);
   if (!reader.canRead() || !IsPhotoFormat(reader.format())) {
@@ -183,7 +183,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
 }
 
 QSize PictureSize(QIODevice& device) {
-  Quillet::TakeDecoderNotes();
+  Quillet::WatchDecoderNotes();
   const qint64 before = device.pos();
   QSize size;
   {

@@ -35,7 +35,7 @@ double LostAt(const QSize& size, const QImage& picture) {
 
 QImage ReadMiddle(const ioPath& file, int side) {
   const FileNotes notes(file);
-  Quillet::TakeDecoderNotes();
+  Quillet::WatchDecoderNotes();
   Quillet::FileDevice device(file);
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);

@@ -64,7 +64,7 @@ QByteArray TailOf(const ioPath& file) {
 
 int PicturesIn(const ioPath& file) {
   const FileNotes notes(file);
-  Quillet::TakeDecoderNotes();
+  Quillet::WatchDecoderNotes();
   Quillet::FileDevice device(file);
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);

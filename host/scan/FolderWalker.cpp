@@ -85,11 +85,11 @@ bool FolderWalker::Advance() {
   } else if (!folderLinks_.empty()) {
     const ioPath link = std::move(folderLinks_.front());
     folderLinks_.pop_front();
-    TakeFolderLink(link);
+    FollowFolderLink(link);
   } else if (!fileLinks_.empty()) {
     const ioPath link = std::move(fileLinks_.front());
     fileLinks_.pop_front();
-    TakeFileLink(link);
+    FollowFileLink(link);
   } else {
     return false;
   }
@@ -112,7 +112,7 @@ void FolderWalker::ReadFolder(const Folder& folder) {
   }
   std::vector<std::string> folders;
   std::vector<std::string> files;
-  TakeEntries(folder, folders, files);
+  ReadEntries(folder, folders, files);
   std::sort(files.begin(), files.end());
   for (const std::string& name : files) {
     files_.push_back(folder.path / name);
@@ -123,7 +123,7 @@ void FolderWalker::ReadFolder(const Folder& folder) {
   }
 }
 
-void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& folders,
+void FolderWalker::ReadEntries(const Folder& folder, std::vector<std::string>& folders,
                                std::vector<std::string>& files) {
   std::error_code error;
   std::vector<ioPath> links;
@@ -161,11 +161,11 @@ void FolderWalker::TakeEntries(const Folder& folder, std::vector<std::string>& f
   }
   std::sort(links.begin(), links.end());
   for (const ioPath& name : links) {
-    TakeLink(folder.path / name);
+    AddLink(folder.path / name);
   }
 }
 
-void FolderWalker::TakeLink(const ioPath& link) {
+void FolderWalker::AddLink(const ioPath& link) {
   const FileState state = QueryFile(link);
   switch (state.kind) {
     case FileState::Kind::Folder:
@@ -193,7 +193,7 @@ void FolderWalker::TakeLink(const ioPath& link) {
   }
 }
 
-void FolderWalker::TakeFolderLink(const ioPath& link) {
+void FolderWalker::FollowFolderLink(const ioPath& link) {
   const ioPath target = Canonical(link);
   const ioPath home = Canonical(link.parent_path());
   const FileState state = QueryFile(link);
@@ -208,7 +208,7 @@ void FolderWalker::TakeFolderLink(const ioPath& link) {
   }
 }
 
-void FolderWalker::TakeFileLink(const ioPath& link) {
+void FolderWalker::FollowFileLink(const ioPath& link) {
   const ioPath target = Canonical(link);
   if (target.empty()) {
     Report(ScanFinding::Kind::Unreadable, link, "The link leads to a file that cannot be read");

@@ -54,11 +54,11 @@ class FolderWalker {
   bool IsWanted(const ioPath& file) const;
   bool Advance();
   void ReadFolder(const Folder& folder);
-  void TakeEntries(const Folder& folder, std::vector<std::string>& folders, std::vector<std::string>& files);
+  void ReadEntries(const Folder& folder, std::vector<std::string>& folders, std::vector<std::string>& files);
   bool BeginFolder(const Folder& folder);
-  void TakeLink(const ioPath& link);
-  void TakeFolderLink(const ioPath& link);
-  void TakeFileLink(const ioPath& link);
+  void AddLink(const ioPath& link);
+  void FollowFolderLink(const ioPath& link);
+  void FollowFileLink(const ioPath& link);
   bool IsFoundWithoutLink(const ioPath& target) const;
   void Report(ScanFinding::Kind kind, const ioPath& path, const std::string& cause);
   void ReportOther(const ioPath& path);

@@ -158,18 +158,18 @@ class Checker {
       if (LeadsElsewhere(left.path)) {
         const std::string fault = IsPhotoName(left.path) ? FindEditLinkFault(left.path) : std::string();
         if (!fault.empty()) {
-          TakeForEdits(left.path, Refusal(Kind::Unreadable, name + ' ' + fault + '.'));
+          AddForEdits(left.path, Refusal(Kind::Unreadable, name + ' ' + fault + '.'));
         }
       } else if (left.kind == LeftFile::Kind::Unreadable) {
         const std::string text = name + " cannot be read: " + left.cause + '.';
-        TakeForEdits(left.path, Refusal(Kind::Unreadable, text));
+        AddForEdits(left.path, Refusal(Kind::Unreadable, text));
         Take(FileAct::Rename, left.path, Refusal(Kind::Unreadable, "Nothing was renamed: " + text));
         Take(FileAct::Trash, left.path, Refusal(Kind::Unreadable, text));
       }
     }
   }
 
-  void TakeForEdits(const ioPath& file, const FileVerdict& verdict) {
+  void AddForEdits(const ioPath& file, const FileVerdict& verdict) {
     for (const FileAct act : Edits()) {
       Take(act, file, verdict);
     }

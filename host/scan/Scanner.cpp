@@ -106,7 +106,7 @@ class ScanRun {
   void Take(const FolderWalker::Found& found);
   void CollectAll();
   void Collect(bool wait);
-  void TakeResult(PhotoRead& result);
+  void AddResult(PhotoRead& result);
   void CommitWhenDue();
   void Commit();
   void Follow();
@@ -195,13 +195,13 @@ void ScanRun::CollectAll() {
 
 void ScanRun::Collect(bool wait) {
   for (PhotoRead& result : readers_.Collect(wait)) {
-    TakeResult(result);
+    AddResult(result);
   }
   CommitWhenDue();
   ReportProgress(false);
 }
 
-void ScanRun::TakeResult(PhotoRead& result) {
+void ScanRun::AddResult(PhotoRead& result) {
   ++progress_.done;
   if (!result.ok) {
     result_.findings.push_back(std::move(result.finding));

@@ -76,7 +76,7 @@ TagDictionary::TagDictionary() {
   Read(TagType::System, Util::Resource::GetName(Util::Resource::SysTagTr));
   Read(TagType::Icon, Util::Resource::GetName(QStringLiteral("IconTag")));
   Read(TagType::Automatic, Util::Resource::GetName(Util::Resource::AutoTag));
-  TakeSynonyms();
+  LoadSynonyms();
 }
 
 void TagDictionary::Read(TagType type, const QString& name) {
@@ -93,7 +93,7 @@ void TagDictionary::Read(TagType type, const QString& name) {
   }
 }
 
-void TagDictionary::TakeSynonyms() {
+void TagDictionary::LoadSynonyms() {
   for (const TagSynonym& synonym : TagSynonyms()) {
     Entry entry;
     for (std::size_t i = 0; i < kLocales.size(); ++i) {

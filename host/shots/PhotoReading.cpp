@@ -10,7 +10,7 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 /// The one place that says which camera and place a photo has.
-void TakeCameraAndPlace(const Strandel::PhotoFacts& facts, PhotoRecord& record) {
+void ReadCameraAndPlace(const Strandel::PhotoFacts& facts, PhotoRecord& record) {
   record.camera = facts.cameraModel;
   if (facts.metadata != nullptr) {
     using Proc::IImageMetadata;
@@ -41,7 +41,7 @@ bool ReadPhoto(const ioPath& file, PhotoRecord& record, ScanFinding& finding) {
   record.path = file;
   record.size = state.size;
   record.modifiedNs = state.modifiedNs;
-  TakeCameraAndPlace(facts, record);
+  ReadCameraAndPlace(facts, record);
   const PhotoDate date = DateOf(facts, state.modifiedNs);
   record.taken = date.taken;
   record.takenSource = date.source;

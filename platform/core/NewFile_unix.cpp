@@ -21,7 +21,7 @@ bool IsWorthTaking(const std::string& attribute) {
   return attribute.rfind("user.", 0) == 0 || attribute == "system.posix_acl_access";
 }
 
-void TakeAttributes(const char* from, int to) {
+void CopyAttributes(const char* from, int to) {
   constexpr std::size_t kMostBytes = std::size_t{64} * 1024;  // As the system's own limit
   std::string names(kMostBytes, '\0');
   const ssize_t length = listxattr(from, names.data(), names.size());
@@ -92,7 +92,7 @@ std::error_code SetModifiedOf(std::FILE* stream, std::int64_t ns) {
   return futimens(fileno(stream), times) == 0 ? std::error_code() : LastSystemError();
 }
 
-void NewFile::TakeRightsOf(const ioPath& file) {
+void NewFile::CopyRightsOf(const ioPath& file) {
   struct stat facts = {};
   if (stat(file.native().c_str(), &facts) != 0) {
     return;
@@ -101,7 +101,7 @@ void NewFile::TakeRightsOf(const ioPath& file) {
   // Each for itself: who may not give a file away may still give it to a group of their own.
   static_cast<void>(fchown(handle, facts.st_uid, static_cast<gid_t>(-1)));
   static_cast<void>(fchown(handle, static_cast<uid_t>(-1), facts.st_gid));
-  TakeAttributes(file.native().c_str(), handle);
+  CopyAttributes(file.native().c_str(), handle);
   static_cast<void>(fchmod(handle, facts.st_mode & 0777U));
 }
 

@@ -77,7 +77,7 @@ std::error_code SetModifiedOf(std::FILE* stream, std::int64_t ns) {
   return SetFileTime(handle, nullptr, nullptr, &time) ? std::error_code() : LastSystemError();
 }
 
-void NewFile::TakeRightsOf(const ioPath& file) {
+void NewFile::CopyRightsOf(const ioPath& file) {
   const DWORD from = GetFileAttributesW(file.for_system().c_str());
   const DWORD own = GetFileAttributesW(file_.for_system().c_str());
   if (from != INVALID_FILE_ATTRIBUTES && own != INVALID_FILE_ATTRIBUTES) {

@@ -9,7 +9,7 @@ namespace Zenvora::Core {
 namespace {
 
 /// Takes a number off the beginning; false when there is none or it is out of range.
-bool TakeNumber(const char*& at, const char* end, std::int64_t& number) {
+bool ParseNumber(const char*& at, const char* end, std::int64_t& number) {
   const auto [behind, error] = std::from_chars(at, end, number);
   at = behind;
   // The least number has no opposite, which the lowest terms may need.
@@ -23,10 +23,10 @@ bool RatioFromString(const std::string& text, boost::rational<std::int64_t>& rat
   const char* const end = at + text.size();
   std::int64_t numerator = 0;
   std::int64_t denominator = 1;
-  if (!TakeNumber(at, end, numerator)) {
+  if (!ParseNumber(at, end, numerator)) {
     return false;
   }
-  if (at != end && (*at++ != '/' || !TakeNumber(at, end, denominator) || at != end)) {
+  if (at != end && (*at++ != '/' || !ParseNumber(at, end, denominator) || at != end)) {
     return false;
   }
   if (numerator == 0 && denominator == 0) {

@@ -63,7 +63,7 @@ ioPath NearestThere(ioPath folder) {
 }
 
 /// A folder of this user that nobody put a link in the place of. Made when it is missing.
-std::error_code TakeOwnFolder(const ioPath& folder) {
+std::error_code MakeOwnFolder(const ioPath& folder) {
   if (mkdir(folder.native().c_str(), kPrivate) == 0) {
     return {};
   }
@@ -80,7 +80,7 @@ std::error_code TakeOwnFolder(const ioPath& folder) {
 }
 
 /// In their own home people may put links.
-std::error_code TakeHomeFolder(const ioPath& folder) {
+std::error_code MakeHomeFolder(const ioPath& folder) {
   if (mkdir(folder.native().c_str(), kPrivate) == 0) {
     return {};
   }
@@ -154,47 +154,47 @@ class Search {
   ioPath Run() const {
     const ioPath home = HomeTrash();
     if (!home.empty() && IsOn(NearestThere(home), volume_)) {
-      TakeHome(home);
+      MakeInHome(home);
       // A link may lead out of the volume.
       if (IsOn(FilesOf(home), volume_)) {
         return home;
       }
     }
-    return TakeTop();
+    return MakeOnVolume();
   }
 
  private:
-  void TakeHome(const ioPath& trash) const {
+  void MakeInHome(const ioPath& trash) const {
     std::error_code error = MakeFolders(trash.parent_path());
     for (const ioPath& folder : {trash, FilesOf(trash), NotesOf(trash)}) {
-      error = error ? error : TakeHomeFolder(folder);
+      error = error ? error : MakeHomeFolder(folder);
     }
     if (error) {
       Refuse(file_, trash.utf8string() + " cannot be used: " + ErrorText(error));
     }
   }
 
-  ioPath TakeTop() const {
+  ioPath MakeOnVolume() const {
     ioPath top = folder_;
     while (top != top.parent_path() && IsOn(top.parent_path(), volume_)) {
       top = top.parent_path();
     }
     const std::string user = std::to_string(geteuid());
     const ioPath shared = top / ".Trash";
-    if (IsSharedSafely(shared) && !TakeWhole(shared / ioPath(user))) {
+    if (IsSharedSafely(shared) && !MakeWhole(shared / ioPath(user))) {
       return shared / ioPath(user);
     }
     const ioPath own = top / ioPath(".Trash-" + user);
-    if (const std::error_code error = TakeWhole(own)) {
+    if (const std::error_code error = MakeWhole(own)) {
       RefuseFolder(file_, own, error);
     }
     return own;
   }
 
-  static std::error_code TakeWhole(const ioPath& trash) {
-    std::error_code error = TakeOwnFolder(trash);
+  static std::error_code MakeWhole(const ioPath& trash) {
+    std::error_code error = MakeOwnFolder(trash);
     for (const ioPath& folder : {FilesOf(trash), NotesOf(trash)}) {
-      error = error ? error : TakeOwnFolder(folder);
+      error = error ? error : MakeOwnFolder(folder);
     }
     return error;
   }

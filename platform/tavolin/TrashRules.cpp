@@ -74,8 +74,8 @@ std::string Decoded(std::string_view text) {
   return bytes;
 }
 
-/// The next line, taken off the text.
-std::string_view TakeLine(std::string_view& text) {
+/// The next line, which is taken off the text.
+std::string_view ReadLine(std::string_view& text) {
   const std::size_t end = std::min(text.find('\n'), text.size());
   const std::string_view line = text.substr(0, end);
   text.remove_prefix(std::min(end + 1, text.size()));
@@ -94,7 +94,7 @@ void Put(std::string& bytes, std::uint64_t value, int count) {
   }
 }
 
-std::uint64_t Take(const std::string& bytes, std::size_t at, int count) {
+std::uint64_t ReadNumber(const std::string& bytes, std::size_t at, int count) {
   std::uint64_t value = 0;
   for (int i = count - 1; i >= 0; --i) {
     value = value << 8U | static_cast<unsigned char>(bytes[at + static_cast<std::size_t>(i)]);
@@ -121,11 +121,11 @@ std::string TrashNoteText(const std::string& path, const QDateTime& deleted) {
 
 std::optional<std::string> PathInTrashNote(const std::string& text) {
   std::string_view rest(text);
-  if (TakeLine(rest) != kHead) {
+  if (ReadLine(rest) != kHead) {
     return std::nullopt;
   }
   while (!rest.empty()) {
-    const std::string_view line = TakeLine(rest);
+    const std::string_view line = ReadLine(rest);
     if (line.substr(0, std::strlen(kPathKey)) == kPathKey) {
       return Decoded(line.substr(std::strlen(kPathKey)));
     }
@@ -148,19 +148,20 @@ std::string RecycleNoteBytes(const RecycleNote& note) {
 }
 
 std::optional<RecycleNote> ParseRecycleNote(const std::string& bytes) {
-  if (bytes.size() < kRecycleHead || Take(bytes, 0, 8) != kRecycleVersion) {
+  if (bytes.size() < kRecycleHead || ReadNumber(bytes, 0, 8) != kRecycleVersion) {
     return std::nullopt;
   }
-  const std::uint64_t length = Take(bytes, 24, 4);
+  const std::uint64_t length = ReadNumber(bytes, 24, 4);
   if (length == 0 || bytes.size() - kRecycleHead < length * 2) {
     return std::nullopt;
   }
   RecycleNote note;
-  note.size = Take(bytes, 8, 8);
+  note.size = ReadNumber(bytes, 8, 8);
   note.deleted = QDateTime::fromMSecsSinceEpoch(
-      static_cast<std::int64_t>(Take(bytes, 16, 8)) / kStepsPerMillisecond - kMillisecondsTo1970, Qt::UTC);
+      static_cast<std::int64_t>(ReadNumber(bytes, 16, 8)) / kStepsPerMillisecond - kMillisecondsTo1970,
+      Qt::UTC);
   for (std::size_t i = 0; i + 1 < length; ++i) {
-    note.path += static_cast<char16_t>(Take(bytes, kRecycleHead + i * 2, 2));
+    note.path += static_cast<char16_t>(ReadNumber(bytes, kRecycleHead + i * 2, 2));
   }
   return note;
 }

@@ -134,7 +134,7 @@ TEST(NewFile, TakesTheRightsOfAnother) {
     ASSERT_EQ(chmod(model.native().c_str(), mode), 0);
     NewFile file;
     ASSERT_FALSE(file.Create(tree.Path("a")));
-    file.TakeRightsOf(model);
+    file.CopyRightsOf(model);
     struct stat facts = {};
     ASSERT_EQ(stat(tree.Path("a").native().c_str(), &facts), 0);
     EXPECT_EQ(facts.st_mode & 07777U, mode);
@@ -150,7 +150,7 @@ TEST(NewFile, TakesTheOwnerOfAnotherWhereAllowed) {
   ASSERT_EQ(chown(model.native().c_str(), 1234, 2345), 0);
   NewFile file;
   ASSERT_FALSE(file.Create(tree.Path("a")));
-  file.TakeRightsOf(model);
+  file.CopyRightsOf(model);
   struct stat facts = {};
   ASSERT_EQ(stat(tree.Path("a").native().c_str(), &facts), 0);
   EXPECT_EQ(facts.st_uid, 1234U);
@@ -166,7 +166,7 @@ TEST(NewFile, TakesWhatPeopleNotedOfAnother) {
   }
   NewFile file;
   ASSERT_FALSE(file.Create(tree.Path("a")));
-  file.TakeRightsOf(model);
+  file.CopyRightsOf(model);
   std::string value(20, '\0');
   const ioPath made = tree.Path("a");
   EXPECT_EQ(getxattr(made.native().c_str(), "user.tags", value.data(), value.size()), 7);

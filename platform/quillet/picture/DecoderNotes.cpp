@@ -18,7 +18,7 @@ namespace {
 using TiffHandler = void (*)(const char* where, const char* format, va_list values);
 using SetTiffHandler = TiffHandler (*)(TiffHandler handler);
 
-__attribute__((format(printf, 2, 0))) void TakeFromTiff(const char* where, const char* format,
+__attribute__((format(printf, 2, 0))) void NoteFromTiff(const char* where, const char* format,
                                                         va_list values) {
   char text[512];
   if (std::vsnprintf(text, sizeof text, format, values) < 0) {
@@ -42,14 +42,14 @@ void SetUp() {
   // Qt leaves libtiff its own handlers, which print to the standard error.
   for (const char* setter : {"TIFFSetWarningHandler", "TIFFSetErrorHandler"}) {
     for (void* const function : FindLoadedFunctions("tiff", setter)) {
-      reinterpret_cast<SetTiffHandler>(function)(TakeFromTiff);
+      reinterpret_cast<SetTiffHandler>(function)(NoteFromTiff);
     }
   }
 }
 
 }  // namespace
 
-void TakeDecoderNotes() {
+void WatchDecoderNotes() {
   static std::once_flag once;
   std::call_once(once, SetUp);
 }

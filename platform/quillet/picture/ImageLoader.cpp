@@ -62,7 +62,7 @@ void AskReader(const ioPath& file, Conf::FrameInfo& info) {
       !QImageReader::supportedImageFormats().contains(name)) {
     return;
   }
-  TakeDecoderNotes();
+  WatchDecoderNotes();
   const FileNotes notes(file);
   FileDevice device(file);
   QImageReader reader(&device, name);

@@ -8,7 +8,7 @@ namespace Zenvora::Quillet {
 
 namespace {
 
-int TakeName(dl_phdr_info* info, std::size_t /*size*/, void* names) {
+int AddName(dl_phdr_info* info, std::size_t /*size*/, void* names) {
   static_cast<std::vector<std::string>*>(names)->emplace_back(info->dlpi_name);
   return 0;
 }
@@ -17,7 +17,7 @@ int TakeName(dl_phdr_info* info, std::size_t /*size*/, void* names) {
 
 std::vector<void*> FindLoadedFunctions(const char* library, const char* name) {
   std::vector<std::string> names;
-  dl_iterate_phdr(TakeName, &names);
+  dl_iterate_phdr(AddName, &names);
   std::vector<void*> functions;
   for (const std::string& path : names) {
     if (path.find(library, path.rfind('/') + 1) == std::string::npos) {

@@ -18,7 +18,7 @@ void WriteSideFile(const ioPath& side, const ioPath& original, std::int64_t modi
   };
   NewFile file;
   check(file.Create(side));
-  file.TakeRightsOf(original);
+  file.CopyRightsOf(original);
   check(file.Write(bytes.data(), bytes.size()));
   check(file.SetModified(modifiedNs));
   check(file.Close(true));

@@ -26,13 +26,13 @@ using Zenvora::Test::TempTree;
 
 constexpr std::size_t kPiece = FileReader::kPiece;
 
-const CopyGoesOn kGoesOn = [](std::uint64_t) { return true; };
+const KeepGoing kKeepGoing = [](std::uint64_t) { return true; };
 
 TEST(CopyToNew, KeepsContentAndTime) {
   const TempTree tree;
   const std::string content = std::string(3'000'000, 'x') + "end";
   const ioPath source = tree.Write("a", content);
-  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), tree.Path("b"), kGoesOn);
+  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), tree.Path("b"), kKeepGoing);
   ASSERT_EQ(outcome.status, Status::Copied) << outcome.cause;
   EXPECT_TRUE(ReadFile(tree.Path("b")) == content);
   EXPECT_EQ(outcome.size, content.size());
@@ -44,7 +44,7 @@ TEST(CopyToNew, ReplacesNothing) {
   const TempTree tree;
   const ioPath source = tree.Write("a", "new");
   tree.Write("b", "old");
-  EXPECT_NE(CopyToNew(source, QueryFile(source), tree.Path("b"), kGoesOn).status, Status::Copied);
+  EXPECT_NE(CopyToNew(source, QueryFile(source), tree.Path("b"), kKeepGoing).status, Status::Copied);
   EXPECT_EQ(ReadFile(tree.Path("b")), "old");
 }
 
@@ -86,7 +86,7 @@ TEST(CopyToNew, SaysThatTheSourceIsGone) {
   const ioPath source = tree.Write("a", "content");
   const FileState state = QueryFile(source);
   ASSERT_TRUE(source.remove());
-  EXPECT_EQ(CopyToNew(source, state, tree.Path("b"), kGoesOn).status, Status::Unreadable);
+  EXPECT_EQ(CopyToNew(source, state, tree.Path("b"), kKeepGoing).status, Status::Unreadable);
   EXPECT_FALSE(tree.Path("b").exists());
 }
 
@@ -94,7 +94,7 @@ TEST(VerifyCopy, FindsEveryByteThatDiffers) {
   const TempTree tree;
   const ioPath source = tree.Write("a", std::string(2'000'000, 'x'));
   const ioPath copy = tree.Path("b");
-  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), copy, kGoesOn);
+  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), copy, kKeepGoing);
   for (const std::streamoff at : {0, 1'000'000, 1'999'999}) {
     const std::string whole = ReadFile(copy);
     {
@@ -111,7 +111,7 @@ TEST(VerifyCopy, FindsEveryByteThatDiffers) {
 TEST(VerifyCopy, FindsACopyThatIsShorter) {
   const TempTree tree;
   const ioPath source = tree.Write("a", "content");
-  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), tree.Path("b"), kGoesOn);
+  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), tree.Path("b"), kKeepGoing);
   std::filesystem::resize_file(tree.Path("b").native(), 3);
   EXPECT_EQ(VerifyCopy(tree.Path("b"), outcome).status, Status::Different);
 }
@@ -120,11 +120,11 @@ TEST(SameContent, ComparesByBytes) {
   const TempTree tree;
   const std::string large(3 * kPiece, 'x');
   const ioPath one = tree.Write("one", large);
-  EXPECT_TRUE(SameContent(one, tree.Write("same", large), kGoesOn));
-  EXPECT_FALSE(SameContent(one, tree.Write("last", large.substr(1) + 'y'), kGoesOn));
-  EXPECT_FALSE(SameContent(one, tree.Write("shorter", large.substr(1)), kGoesOn));
-  EXPECT_FALSE(SameContent(one, tree.Path("missing"), kGoesOn));
-  EXPECT_TRUE(SameContent(tree.Write("empty", ""), tree.Write("void", ""), kGoesOn));
+  EXPECT_TRUE(SameContent(one, tree.Write("same", large), kKeepGoing));
+  EXPECT_FALSE(SameContent(one, tree.Write("last", large.substr(1) + 'y'), kKeepGoing));
+  EXPECT_FALSE(SameContent(one, tree.Write("shorter", large.substr(1)), kKeepGoing));
+  EXPECT_FALSE(SameContent(one, tree.Path("missing"), kKeepGoing));
+  EXPECT_TRUE(SameContent(tree.Write("empty", ""), tree.Write("void", ""), kKeepGoing));
 }
 
 #ifdef _WIN32
@@ -158,9 +158,9 @@ TEST(CopyToNew, KeepsHolesPermissionsAndNotes) {
   std::ofstream(source.native(), std::ios::binary | std::ios::app) << "end";
   const bool noted = setxattr(source.native().c_str(), "user.rating", "5", 1, 0) == 0;
   chmod(source.native().c_str(), 0440);
-  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), tree.Path("b"), kGoesOn);
+  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), tree.Path("b"), kKeepGoing);
   ASSERT_EQ(outcome.status, Status::Copied) << outcome.cause;
-  EXPECT_TRUE(SameContent(source, tree.Path("b"), kGoesOn));
+  EXPECT_TRUE(SameContent(source, tree.Path("b"), kKeepGoing));
   struct stat facts = {};
   ASSERT_EQ(stat(tree.Path("b").native().c_str(), &facts), 0);
   EXPECT_EQ(facts.st_mode & 0777U, 0440U);
@@ -176,7 +176,7 @@ TEST(CopyToNew, ReportsReadErrors) {
   const TempTree tree;
   // Nothing is mapped at the beginning of a process's memory: reading it is an error of input.
   const ioPath source("/proc/self/mem");
-  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), tree.Path("b"), kGoesOn);
+  const CopyOutcome outcome = CopyToNew(source, QueryFile(source), tree.Path("b"), kKeepGoing);
   EXPECT_EQ(outcome.status, Status::Unreadable);
   EXPECT_THAT(outcome.cause, testing::HasSubstr("nput"));
   EXPECT_FALSE(tree.Path("b").exists());
@@ -186,7 +186,7 @@ TEST(CopyToNew, SaysThatTheCopyCannotGrow) {
   const TempTree tree;
   const ioPath source = tree.Write("a", std::string(100'000, 'x'));
   const Zenvora::Test::WriteLimit limit(50'000);
-  EXPECT_EQ(CopyToNew(source, QueryFile(source), tree.Path("b"), kGoesOn).status, Status::NotWritten);
+  EXPECT_EQ(CopyToNew(source, QueryFile(source), tree.Path("b"), kKeepGoing).status, Status::NotWritten);
   EXPECT_FALSE(tree.Path("b").exists());
 }
 

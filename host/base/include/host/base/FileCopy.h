@@ -39,7 +39,7 @@ using CopyGoesOn = KeepGoing;
 /// have been changed meanwhile, once more from its beginning. It must be the file `expected`, whatever bears
 /// its name by now. Never waits for pipes. Blocks on the disk; any thread.
 CopyOutcome CopyToNew(const ioPath& source, const FileState& expected, const ioPath& copy,
-                      const CopyGoesOn& goesOn);
+                      const KeepGoing& keepGoing);
 
 /// Waits until the copy is on the disk, reads it back from there, past what the system remembers of it as far
 /// as it lets us, and compares it with what was read from the source. Blocks on the disk; any thread.
@@ -49,7 +49,8 @@ CopyOutcome VerifyCopy(const ioPath& copy, const CopyOutcome& copied);
 /// in them, so that it is found quickly. Empty when the file cannot be read.
 std::string SketchOf(const ioPath& file);
 
-/// True when both are readable and hold the same bytes. Stops at the first that differ. `goesOn` may be null.
-bool SameContent(const ioPath& left, const ioPath& right, const CopyGoesOn& goesOn);
+/// True when both are readable and hold the same bytes. Stops at the first that differ. `keepGoing` may be
+/// null.
+bool SameContent(const ioPath& left, const ioPath& right, const KeepGoing& keepGoing);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -27,7 +27,7 @@ class KeptFiles {
 
   ioPath PathOf(const std::string& name) const { return folder_ / ioPath(name); }
   /// Keeps what `file` holds now, with its time and, as far as the system lets us, its rights, its owner and
-  /// what people noted of it (`NewFile::TakeRightsOf`), safe on the disk when this returns: its blocks are
+  /// what people noted of it (`NewFile::CopyRightsOf`), safe on the disk when this returns: its blocks are
   /// shared where the file system can, or the file gets a second name, else it is copied. What was kept under
   /// the name before is replaced. True when it is a copy, and
   /// putting it back makes another one.

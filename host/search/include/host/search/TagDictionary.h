@@ -57,7 +57,7 @@ class TagDictionary {
 
   TagDictionary();
   void Read(TagType type, const QString& name);
-  void TakeSynonyms();
+  void LoadSynonyms();
   const Entry* Find(const Tag& tag) const;
 
   std::vector<Entry> entries_;

@@ -29,7 +29,7 @@ class ZENVORA_CORE_EXPORT NewFile {
   /// Gives it the permissions of another file and, as far as this user may and the file system can, its
   /// owner, its group and the further attributes that people and programs gave it. On Windows its hidden
   /// attribute; who may use it is up to the folder there.
-  void TakeRightsOf(const ioPath& file);
+  void CopyRightsOf(const ioPath& file);
 
   /// Gives the file, while nothing is written, the content of another by sharing its blocks, which takes
   /// neither room nor time. False where the file system cannot do it; then nothing has changed. Never on

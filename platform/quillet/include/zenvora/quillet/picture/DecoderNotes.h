@@ -8,6 +8,6 @@ namespace Zenvora::Quillet {
 /// To be called before a picture is read. Cheap when repeated; safe from any thread. Qt's own messages are
 /// the application's matter (`qInstallMessageHandler`). A decoder that keeps its handlers to itself, as when
 /// it is linked into Qt's plug-in, goes on printing.
-ZENVORA_QUILLET_EXPORT void TakeDecoderNotes();
+ZENVORA_QUILLET_EXPORT void WatchDecoderNotes();
 
 }  // namespace Zenvora::Quillet
