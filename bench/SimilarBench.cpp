@@ -118,7 +118,7 @@ const Template& CentreOf(const std::unique_ptr<Cluster>& cluster) {
 void ReportMemory(benchmark::State& state, Library& library) {
   const auto clusters = static_cast<double>(library.Clusters().size());
   state.counters["clusters"] = clusters;
-  state.counters["mirror/centres"] =
+  state.counters["rows/centres"] =
       static_cast<double>(library.Index().MemoryBytes()) / (clusters * kSize * sizeof(float));
 }
 

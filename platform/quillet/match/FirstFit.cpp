@@ -22,18 +22,18 @@ constexpr std::size_t kLeastSample = 16;
 FirstFit::FirstFit(float threshold, const FirstFitTuning& tuning) : threshold_(threshold), tuning_(tuning) {}
 
 void FirstFit::Append(const Template& vector) {
-  mirror_.Append({&vector, tuning_.kernel->dot(vector.data(), vector.data(), vector.size())});
+  rows_.Append({&vector, tuning_.kernel->dot(vector.data(), vector.data(), vector.size())});
 }
 
 void FirstFit::Replace(std::size_t position, const Template& vector) noexcept {
-  mirror_[position].vector = &vector;
+  rows_[position].vector = &vector;
   Updated(position);
 }
 
 void FirstFit::Updated(std::size_t position) noexcept {
-  TemplateMirror::Row& row = mirror_[position];
+  QuantisedRows::Row& row = rows_[position];
   row.squares = tuning_.kernel->dot(row.vector->data(), row.vector->data(), row.vector->size());
-  mirror_.MarkChanged(position);
+  rows_.MarkChanged(position);
   if (block_.next < block_.end && position < block_.size) {
     const auto place = std::lower_bound(block_.changed.begin(), block_.changed.end(), position);
     if (place == block_.changed.end() || *place != position) {
@@ -60,7 +60,7 @@ void FirstFit::Forget(std::uint64_t announcement) noexcept {
 }
 
 std::size_t FirstFit::MemoryBytes() const noexcept {
-  return sizeof(*this) - sizeof(mirror_) + mirror_.MemoryBytes() + (code_ ? code_->MemoryBytes() : 0) +
+  return sizeof(*this) - sizeof(rows_) + rows_.MemoryBytes() + (code_ ? code_->MemoryBytes() : 0) +
          coming_.capacity() * sizeof(const Template*) + block_.found.capacity() * sizeof(Position) +
          block_.known.capacity() + block_.values.capacity() * sizeof(float) +
          (block_.valueEnds.capacity() + block_.changed.capacity() + active_.capacity()) *
@@ -71,7 +71,7 @@ std::size_t FirstFit::MemoryBytes() const noexcept {
 }
 
 bool FirstFit::Matches(const Query& query, std::size_t position) noexcept {
-  const TemplateMirror::Row& row = mirror_[position];
+  const QuantisedRows::Row& row = rows_[position];
   const std::size_t size = query.vector->size();
   if (row.vector->size() != size) {
     return 0.0F > threshold_;
@@ -91,36 +91,36 @@ FirstFit::Position FirstFit::Scan(const Query& query, std::size_t from, std::siz
 }
 
 /// Only what cannot match below 0 may be ruled out by a bound.
-bool FirstFit::CanMirror(std::size_t vectorSize) const noexcept {
+bool FirstFit::CanQuantise(std::size_t vectorSize) const noexcept {
   return threshold_ >= 0 && vectorSize >= tuning_.leastSize && vectorSize <= tuning_.mostSize &&
-         mirror_.Size() >= tuning_.mirrorFrom;
+         rows_.Size() >= tuning_.quantisedFrom;
 }
 
-/// Brings the mirror up to date. False when there is none.
+/// Brings the quantised rows up to date. False when there are none.
 bool FirstFit::Prepare() noexcept {
   try {
-    if (mirror_.Size() >= 2 * learntAt_) {
+    if (rows_.Size() >= 2 * learntAt_) {
       Learn();
     }
     if (!code_) {
       return false;
     }
-    mirror_.CodeMissing(*code_);
+    rows_.CodeMissing(*code_);
     return true;
   } catch (const std::bad_alloc&) {
-    return code_ && mirror_.Coded() > 0;
+    return code_ && rows_.Coded() > 0;
   }
 }
 
 /// Anew each time the vectors have doubled: they may have become others.
 void FirstFit::Learn() {
-  learntAt_ = std::max<std::size_t>(mirror_.Size(), 1);
-  mirror_.Uncode();
+  learntAt_ = std::max<std::size_t>(rows_.Size(), 1);
+  rows_.Uncode();
   code_.reset();
   std::map<std::size_t, std::vector<TemplateCode::Vector>> samples;
-  const std::size_t count = std::min(kSample, mirror_.Size());
+  const std::size_t count = std::min(kSample, rows_.Size());
   for (std::size_t i = 0; i < count; ++i) {
-    const TemplateMirror::Row& row = mirror_[i * mirror_.Size() / count];
+    const QuantisedRows::Row& row = rows_[i * rows_.Size() / count];
     const std::size_t size = row.vector->size();
     if (HasDirection(row.squares) && size >= tuning_.leastSize && size <= tuning_.mostSize) {
       samples[size].push_back({row.vector->data(), row.squares});
@@ -150,7 +150,7 @@ bool FirstFit::Ask(Query* queries, std::size_t count, std::size_t from) noexcept
     const std::size_t most = count + tuning_.kernel->group;
     activePairs_.resize(most * code_->Parts()[0].pairCount);
     activeRests_.resize(most);
-    masks_.resize(most * TemplateMirror::kTiles);
+    masks_.resize(most * QuantisedRows::kTiles);
     active_.resize(count);
   } catch (const std::bad_alloc&) {
     return false;
@@ -170,7 +170,7 @@ bool FirstFit::Ask(Query* queries, std::size_t count, std::size_t from) noexcept
   Sift(queries, from);
   for (std::size_t i = 0; i < count; ++i) {
     if (!queries[i].found) {
-      queries[i].found = Scan(queries[i], std::max(from, mirror_.Coded()), mirror_.Size());
+      queries[i].found = Scan(queries[i], std::max(from, rows_.Coded()), rows_.Size());
     }
   }
   return true;
@@ -193,8 +193,8 @@ void FirstFit::Pack() {
 }
 
 void FirstFit::Sift(Query* queries, std::size_t from) {
-  constexpr std::size_t kTiles = TemplateMirror::kTiles;
-  const std::size_t tileEnd = (mirror_.Coded() + kTile - 1) / kTile;
+  constexpr std::size_t kTiles = QuantisedRows::kTiles;
+  const std::size_t tileEnd = (rows_.Coded() + kTile - 1) / kTile;
   const std::size_t group = tuning_.kernel->group;
   bool packed = false;
   for (std::size_t tile = from / kTile; tile < tileEnd && !active_.empty();) {
@@ -204,8 +204,8 @@ void FirstFit::Sift(Query* queries, std::size_t from) {
     }
     SiftTask task;
     task.tiles = std::min(tileEnd, (tile / kTiles + 1) * kTiles) - tile;
-    task.rows = mirror_.Halves(*code_, tile, 0);
-    task.rests = mirror_.Rests(tile, 0);
+    task.rows = rows_.Halves(*code_, tile, 0);
+    task.rests = rows_.Rests(tile, 0);
     task.wideCount = code_->Parts()[0].wideCount;
     task.pairCount = code_->Parts()[0].pairCount;
     task.shift = code_->Shift();
@@ -249,7 +249,7 @@ bool FirstFit::TryTile(Query* queries, std::size_t tile, const std::uint32_t* ma
       for (std::size_t part = 0; part < parts && !known; ++part) {
         const TemplateCode::Part& place = code_->Parts()[part];
         segments[part] = {place.wideCount, place.pairCount, place.pairsBegin,
-                          mirror_.Halves(*code_, tile, part), mirror_.Rests(tile, part)};
+                          rows_.Halves(*code_, tile, part), rows_.Rests(tile, part)};
       }
       known = true;
       ++statistics_.refined;
@@ -269,7 +269,7 @@ bool FirstFit::TryTile(Query* queries, std::size_t tile, const std::uint32_t* ma
 void FirstFit::TryRow(Query& query, std::size_t tile, std::uint32_t mask) {
   for (; mask != 0; mask &= mask - 1) {
     const std::size_t position = tile * kTile + static_cast<std::size_t>(__builtin_ctz(mask));
-    if (position >= mirror_.Coded()) {
+    if (position >= rows_.Coded()) {
       return;
     }
     if (Matches(query, position)) {
@@ -282,11 +282,11 @@ void FirstFit::TryRow(Query& query, std::size_t tile, std::uint32_t mask) {
 FirstFit::Position FirstFit::FindAlone(const Query& query, std::size_t from) noexcept {
   Query asked = query;
   asked.found.reset();
-  if (CanMirror(query.vector->size()) && Prepare() && code_->Size() == query.vector->size() &&
+  if (CanQuantise(query.vector->size()) && Prepare() && code_->Size() == query.vector->size() &&
       Ask(&asked, 1, from)) {
     return asked.found;
   }
-  return Scan(query, from, mirror_.Size());
+  return Scan(query, from, rows_.Size());
 }
 
 FirstFit::Position FirstFit::FindFirst(const Template& vector) noexcept {
@@ -321,7 +321,7 @@ std::optional<std::size_t> FirstFit::Announced(const Query& query) noexcept {
   const std::size_t to = std::min(coming_.size(), block_.end + tuning_.block);
   for (std::size_t item = block_.end; item < to; ++item) {
     if (coming_[item] == query.vector) {
-      if (CanMirror(query.vector->size()) && BeginBlock(item) && IsInBlock(item, *query.vector)) {
+      if (CanQuantise(query.vector->size()) && BeginBlock(item) && IsInBlock(item, *query.vector)) {
         block_.next = item + 1;
         return 0;
       }
@@ -341,7 +341,7 @@ bool FirstFit::BeginBlock(std::size_t begin) noexcept {
   try {
     block_.begin = block_.next = begin;
     block_.end = std::min(coming_.size(), begin + tuning_.block);
-    block_.size = mirror_.Size();
+    block_.size = rows_.Size();
     const std::size_t count = block_.end - begin;
     block_.found.assign(count, std::nullopt);
     block_.known.assign(count, 0);
@@ -390,7 +390,7 @@ FirstFit::Position FirstFit::Repaired(const Query& query, Position found) noexce
       return FindAlone(query, position + 1);
     }
   }
-  return found ? found : Scan(query, block_.size, mirror_.Size());
+  return found ? found : Scan(query, block_.size, rows_.Size());
 }
 
 }  // namespace Zenvora::Quillet

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "MatchKernel.h"
+#include "QuantisedRows.h"
 #include "TemplateCode.h"
-#include "TemplateMirror.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -16,8 +16,8 @@ namespace Zenvora::Quillet {
 struct FirstFitTuning {
   const MatchKernel* kernel = &BestKernel();
   /// Fewer vectors are scanned.
-  std::size_t mirrorFrom = 1000;
-  /// Shorter vectors are scanned: beside them a mirror would not be small.
+  std::size_t quantisedFrom = 1000;
+  /// Shorter vectors are scanned: beside them quantised rows would not be small.
   std::size_t leastSize = 96;
   /// Longer vectors are scanned: learning would take long.
   std::size_t mostSize = 4096;
@@ -30,7 +30,7 @@ struct FirstFitTuning {
 /// What was done so far.
 struct FirstFitStatistics {
   std::uint64_t compared = 0;  ///< pairs of vectors whose true score was found out
-  std::uint64_t sifted = 0;    ///< pairs that the mirror was asked about
+  std::uint64_t sifted = 0;    ///< pairs that the quantised rows were asked about
   std::uint64_t refined = 0;   ///< tiles of pairs that took more than the first segment
   std::uint64_t learnt = 0;
   std::uint64_t blocks = 0;
@@ -55,7 +55,7 @@ class FirstFit {
   /// Ends that announcement, unless it has been replaced.
   void Forget(std::uint64_t announcement) noexcept;
 
-  std::size_t Size() const noexcept { return mirror_.Size(); }
+  std::size_t Size() const noexcept { return rows_.Size(); }
   float Threshold() const noexcept { return threshold_; }
   std::size_t MemoryBytes() const noexcept;
   const FirstFitStatistics& Statistics() const noexcept { return statistics_; }
@@ -84,7 +84,7 @@ class FirstFit {
 
   bool Matches(const Query& query, std::size_t position) noexcept;
   Position Scan(const Query& query, std::size_t from, std::size_t to) noexcept;
-  bool CanMirror(std::size_t vectorSize) const noexcept;
+  bool CanQuantise(std::size_t vectorSize) const noexcept;
   bool Prepare() noexcept;
   void Learn();
   bool Ask(Query* queries, std::size_t count, std::size_t from) noexcept;
@@ -101,7 +101,7 @@ class FirstFit {
 
   float threshold_;
   FirstFitTuning tuning_;
-  TemplateMirror mirror_;
+  QuantisedRows rows_;
   std::unique_ptr<TemplateCode> code_;
   std::size_t learntAt_ = 0;
   std::vector<const Template*> coming_;

@@ -28,7 +28,7 @@ TEST(FirstFit, AnswersRightlyWithoutMemory) {
   int refusals = 0;
   for (long allocations = 0; allocations < 60; ++allocations) {
     FirstFitTuning tuning;
-    tuning.mirrorFrom = 32;
+    tuning.quantisedFrom = 32;
     tuning.leastSize = 1;
     tuning.block = 20;
     Clustering clusters;

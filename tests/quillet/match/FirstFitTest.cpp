@@ -38,11 +38,11 @@ std::vector<const MatchKernel*> Kernels() {
   return {list.kernels, list.kernels + list.count};
 }
 
-/// A mirror for as few and as short vectors as there may be.
+/// Quantised rows for as few and as short vectors as there may be.
 FirstFitTuning Eager(const MatchKernel& kernel) {
   FirstFitTuning tuning;
   tuning.kernel = &kernel;
-  tuning.mirrorFrom = 32;
+  tuning.quantisedFrom = 32;
   tuning.leastSize = 1;
   return tuning;
 }
@@ -167,7 +167,7 @@ TEST_P(FirstFitWith, AnswersLikeThePlainScan) {
       const auto vectors = MakeVectors(Kind(), count, size, kThreshold, seed);
       FirstFitTuning tuning = Eager(Kernel());
       tuning.block = seed % 3 == 0 ? 5 : 96;
-      tuning.mirrorFrom = size <= 100 ? 20 : count / 4;
+      tuning.quantisedFrom = size <= 100 ? 20 : count / 4;
       const std::size_t prepared = Kind() == VectorKind::Edge || seed % 4 == 0 ? count / 2 : 0;
       const Outcome outcome =
           Trial(vectors, kThreshold, tuning, seed)
@@ -205,7 +205,7 @@ TEST_P(FirstFitOn, IsWrongWithoutItsMargin) {
   for (const std::size_t size : {20U, 64U, 256U}) {
     const auto vectors = MakeVectors(VectorKind::Edge, 400, size, kThreshold, static_cast<unsigned>(size));
     FirstFitTuning tuning = Eager(Kernel());
-    tuning.mirrorFrom = 200;
+    tuning.quantisedFrom = 200;
     wrongWithMargin += Trial(vectors, kThreshold, tuning, 1).Run(96, 200).wrong;
     tuning.marginScale = 0;
     const int without = Trial(vectors, kThreshold, tuning, 1).Run(96, 200).wrong;
@@ -219,7 +219,7 @@ TEST_P(FirstFitOn, IsWrongWithoutItsMargin) {
 TEST_P(FirstFitOn, NeverNeedsTheExactScoreOfWhatIsFarOff) {
   const auto vectors = MakeVectors(VectorKind::Mixed, 900, 128, kThreshold, 3);
   FirstFitTuning tuning = Eager(Kernel());
-  tuning.mirrorFrom = 100;
+  tuning.quantisedFrom = 100;
   const Outcome outcome = Trial(vectors, kThreshold, tuning, 3).Run(900);
   EXPECT_EQ(outcome.wrong, 0);
   EXPECT_GT(outcome.statistics.blocks, 4U);
@@ -242,7 +242,7 @@ TEST_P(FirstFitOn, AnswersWithAnyThreshold) {
 TEST(FirstFit, ContinuesBehindAMatchThatMovedAway) {
   // Each of a block matches the same centre until the first of them is told that it changed.
   FirstFitTuning tuning = Eager(BestKernel());
-  tuning.mirrorFrom = 40;
+  tuning.quantisedFrom = 40;
   auto centres = MakeVectors(VectorKind::Random, 60, 64, kThreshold, 1);
   centres[50] = centres[10];
   const std::vector<Template> queries(5, centres[10]);
@@ -332,7 +332,7 @@ TEST(FirstFit, LearnsTheLengthThatMostVectorsHave) {
   EXPECT_GT(index.Statistics().sifted, 0U);
 }
 
-TEST(FirstFit, HasNoMirrorWhereNothingCanBeLearnt) {
+TEST(FirstFit, HasNoQuantisedRowsWhereNothingCanBeLearnt) {
   FirstFitTuning tuning = Eager(BestKernel());
   const std::vector<Template> zeros(300, Template(64, 0.0F));
   FirstFit index(kThreshold, tuning);

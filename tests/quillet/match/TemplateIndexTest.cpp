@@ -73,7 +73,8 @@ TEST(TemplateIndex, SeesWhatIsSaidToHaveChanged) {
   EXPECT_EQ(index.Size(), 2U);
 }
 
-/// Clusters `vectors` through the exported interface, at the sizes at which the mirror comes in by itself.
+/// Clusters `vectors` through the exported interface, at the sizes at which quantised rows come in by
+/// themselves.
 void ExpectPlainAnswers(const std::vector<Template>& vectors, std::size_t opened, std::size_t batch) {
   Clustering clusters;
   TemplateIndex index(kThreshold);
@@ -103,7 +104,7 @@ void ExpectPlainAnswers(const std::vector<Template>& vectors, std::size_t opened
   EXPECT_EQ(wrong, 0);
 }
 
-TEST(TemplateIndex, AnswersLikeThePlainScanWhereTheMirrorServes) {
+TEST(TemplateIndex, AnswersLikeThePlainScanWhereQuantisedRowsServe) {
   ExpectPlainAnswers(MakeVectors(VectorKind::Mixed, 2600, 128, kThreshold, 1), 1500, 500);
   ExpectPlainAnswers(MakeVectors(VectorKind::Edge, 2400, 256, kThreshold, 2), 1200, 300);
   ExpectPlainAnswers(MakeVectors(VectorKind::Broken, 2300, 100, kThreshold, 3), 1500, 1);
@@ -142,7 +143,7 @@ TEST(TemplateIndex, TellsWhatItHolds) {
   EXPECT_GE(appended, empty + 1000 * sizeof(void*));
   EXPECT_LT(appended, empty + 1000 * 40);
   EXPECT_EQ(index.FindFirst(vectors[7]), 7U);
-  EXPECT_GT(index.MemoryBytes(), appended + 1000 * 128 * 2) << "with the mirror";
+  EXPECT_GT(index.MemoryBytes(), appended + 1000 * 128 * 2) << "with the quantised rows";
 }
 
 }  // namespace

@@ -18,9 +18,9 @@ class FirstFit;
 ///
 /// It refers to the caller's vectors and owns none: every appended vector must keep its address while the
 /// index is asked or changed, and whoever changes one says so with `Updated` before the next question. From a
-/// thousand vectors up it keeps a mirror beside them, of at most 0.6 times their bytes, and with it a basis
-/// of four bytes for the square of their length (at most 512 directions). The mirror is made when it is first
-/// asked for. Lack of memory for it makes the index slower, never wrong.
+/// thousand vectors up it keeps quantised rows beside them, of at most 0.6 times their bytes, and with them a
+/// basis of four bytes for the square of their length (at most 512 directions). The rows are made when they
+/// are first asked for. Lack of memory for them makes the index slower, never wrong.
 ///
 /// It starts no thread and is not for several at once: calls must be serialised by the caller.
 class ZENVORA_QUILLET_EXPORT TemplateIndex {

@@ -11,7 +11,7 @@
 namespace Zenvora::Quillet {
 
 /// The vectors that an index refers to, and the codes of the first of them, side by side in tiles.
-class TemplateMirror {
+class QuantisedRows {
  public:
   using Template = std::vector<float>;
 

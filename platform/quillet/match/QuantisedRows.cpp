@@ -1,4 +1,4 @@
-#include "TemplateMirror.h"
+#include "QuantisedRows.h"
 
 #include "MatchScore.h"
 
@@ -14,13 +14,13 @@ constexpr float kEndless = 1e30F;
 }  // namespace
 
 template <typename T>
-TemplateMirror::Lines<T> TemplateMirror::MakeLines(std::size_t count) {
+QuantisedRows::Lines<T> QuantisedRows::MakeLines(std::size_t count) {
   auto* const memory = static_cast<T*>(::operator new (count * sizeof(T), std::align_val_t{kLine}));
   std::fill_n(memory, count, T{});
   return Lines<T>(memory);
 }
 
-void TemplateMirror::Append(const Row& row) {
+void QuantisedRows::Append(const Row& row) {
   if (size_ == chunks_.size() * kRows) {
     auto chunk = std::make_unique<Chunk>();
     chunks_.push_back(std::move(chunk));
@@ -29,7 +29,7 @@ void TemplateMirror::Append(const Row& row) {
   ++size_;
 }
 
-void TemplateMirror::Uncode() noexcept {
+void QuantisedRows::Uncode() noexcept {
   for (const auto& chunk : chunks_) {
     chunk->halves.reset();
     chunk->rests.reset();
@@ -38,7 +38,7 @@ void TemplateMirror::Uncode() noexcept {
   changed_.clear();
 }
 
-void TemplateMirror::MakeRoom(const TemplateCode& code, Chunk& chunk) {
+void QuantisedRows::MakeRoom(const TemplateCode& code, Chunk& chunk) {
   if (!chunk.rests) {
     auto halves = MakeLines<std::int16_t>(kRows * code.HalfCount());
     chunk.rests = MakeLines<float>(kRows * code.Parts().size());
@@ -46,7 +46,7 @@ void TemplateMirror::MakeRoom(const TemplateCode& code, Chunk& chunk) {
   }
 }
 
-void TemplateMirror::CodeMissing(TemplateCode& code) {
+void QuantisedRows::CodeMissing(TemplateCode& code) {
   parts_ = code.Parts().size();
   halfCount_ = code.HalfCount();
   codedHalves_.resize(TemplateCode::kTogether * halfCount_);
@@ -68,7 +68,7 @@ void TemplateMirror::CodeMissing(TemplateCode& code) {
   }
 }
 
-void TemplateMirror::CodeRows(TemplateCode& code, const std::size_t* positions, std::size_t count) {
+void QuantisedRows::CodeRows(TemplateCode& code, const std::size_t* positions, std::size_t count) {
   TemplateCode::Vector vectors[TemplateCode::kTogether];
   for (std::size_t i = 0; i < count; ++i) {
     const Row& row = (*this)[positions[i]];
@@ -82,8 +82,8 @@ void TemplateMirror::CodeRows(TemplateCode& code, const std::size_t* positions, 
   }
 }
 
-void TemplateMirror::Place(const TemplateCode& code, std::size_t position, const std::int16_t* halves,
-                           const float* rests) {
+void QuantisedRows::Place(const TemplateCode& code, std::size_t position, const std::int16_t* halves,
+                          const float* rests) {
   const Chunk& chunk = *chunks_[position / kRows];
   const std::size_t tile = position % kRows / kTile;
   const std::size_t lane = position % kTile;
@@ -102,7 +102,7 @@ void TemplateMirror::Place(const TemplateCode& code, std::size_t position, const
   }
 }
 
-void TemplateMirror::MarkChanged(std::size_t position) noexcept {
+void QuantisedRows::MarkChanged(std::size_t position) noexcept {
   if (position >= coded_) {
     return;
   }
@@ -114,7 +114,7 @@ void TemplateMirror::MarkChanged(std::size_t position) noexcept {
   try {
     changed_.push_back(position);
   } catch (const std::bad_alloc&) {
-    // Without a note of it the mirror would be wrong for ever.
+    // Without a note of it the row would be wrong for ever.
     Uncode();
     return;
   }
@@ -123,18 +123,18 @@ void TemplateMirror::MarkChanged(std::size_t position) noexcept {
   }
 }
 
-const std::int16_t* TemplateMirror::Halves(const TemplateCode& code, std::size_t tile,
-                                           std::size_t part) const noexcept {
+const std::int16_t* QuantisedRows::Halves(const TemplateCode& code, std::size_t tile,
+                                          std::size_t part) const noexcept {
   const TemplateCode::Part& place = code.Parts()[part];
   return chunks_[tile / kTiles]->halves.get() + kRows * place.halvesBegin +
          tile % kTiles * place.HalfCount() * kTile;
 }
 
-const float* TemplateMirror::Rests(std::size_t tile, std::size_t part) const noexcept {
+const float* QuantisedRows::Rests(std::size_t tile, std::size_t part) const noexcept {
   return chunks_[tile / kTiles]->rests.get() + (part * kTiles + tile % kTiles) * kTile;
 }
 
-std::size_t TemplateMirror::MemoryBytes() const noexcept {
+std::size_t QuantisedRows::MemoryBytes() const noexcept {
   std::size_t bytes = sizeof(*this) + chunks_.capacity() * sizeof(chunks_[0]) +
                       chunks_.size() * sizeof(Chunk) + changed_.capacity() * sizeof(std::size_t) +
                       codedHalves_.capacity() * sizeof(std::int16_t) + codedRests_.capacity() * sizeof(float);
