@@ -11,7 +11,7 @@ namespace Zenvora::Quillet {
 /// In rising order.
 enum class InstructionSet { Plain, Sse2, Avx2, Avx512, Avx512Vnni };
 
-/// Vectors that are mirrored side by side.
+/// Vectors whose quantised rows lie side by side.
 constexpr std::size_t kTile = 32;
 
 /// Whole numbers come in pairs of coordinates. A tile has a row of `kTile` pairs for each: first the wide
