@@ -203,7 +203,7 @@ std::vector<PhotoRecord> CatalogueMoves::SomeBelow(const ioPath& folder, int mos
 }
 
 CatalogueMoves::Outcome CatalogueMoves::Follow(const std::vector<FollowedPhoto>& photos,
-                                               const std::vector<MovedName>& companions,
+                                               const std::vector<MovedName>& shotFiles,
                                                const std::vector<PhotoRecord>& others) const {
   Outcome outcome;
   WriteTransaction transaction(database_);
@@ -237,7 +237,7 @@ CatalogueMoves::Outcome CatalogueMoves::Follow(const std::vector<FollowedPhoto>&
     for (const FollowedPhoto* const photo : moving) {
       journal.Add(photo->from, photo->record.path);
     }
-    for (const auto& [from, to] : companions) {
+    for (const auto& [from, to] : shotFiles) {
       journal.Add(from, to);
     }
     journal.Rewrite(database_);

@@ -134,7 +134,7 @@ class Walk {
     struct Change {
       qlonglong number;
       ioPath path;
-      ioPath side;
+      ioPath staging;
       bool adopted;
     };
     QSqlQuery query = database_.Prepare("SELECT number, path, side, adopted FROM changes WHERE step = ?");
@@ -153,14 +153,14 @@ class Walk {
       // What is kept was named by it, and stays where it is.
       const QString ending = QString::fromStdString(change.path.extension().utf8string());
       if (change.adopted) {
-        changed = backwards_ ? Pass(change.side, change.path) : Pass(change.path, change.side);
+        changed = backwards_ ? Pass(change.staging, change.path) : Pass(change.path, change.staging);
       } else if (const auto moved = moved_.find(BytesOf(change.path)); moved != moved_.end()) {
         change.path = PathOfBytes(moved->second);
         changed = true;
       }
       if (changed) {
         store.addBindValue(PathBytes(change.path));
-        store.addBindValue(PathBytes(change.side));
+        store.addBindValue(PathBytes(change.staging));
         store.addBindValue(NotNull(ending));
         store.addBindValue(change.number);
         database_.Run(store);

@@ -56,7 +56,7 @@ void LinkRows::Follow(qlonglong step, const LinkChange& change, const ioPath& li
   QSqlQuery query =
       database_.Prepare("UPDATE link_changes SET path = ?, side = ? WHERE step = ? AND path = ?");
   query.addBindValue(PathBytes(link));
-  query.addBindValue(PathBytes(link.parent_path() / change.side.filename()));
+  query.addBindValue(PathBytes(link.parent_path() / change.staging.filename()));
   query.addBindValue(step);
   query.addBindValue(PathBytes(change.link));
   database_.Run(query);

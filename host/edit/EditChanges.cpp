@@ -7,7 +7,7 @@
 
 namespace Zenvora::Lumidex::Host {
 
-ioPath SideName(const ioPath& photo) {
+ioPath StagingName(const ioPath& photo) {
   const std::string token = Tavolin::GenerateUuid().left(13).toStdString();
   return photo.parent_path() / ioPath(".lumidex-" + token + photo.extension().utf8string());
 }
@@ -22,7 +22,7 @@ std::vector<ChangeRow> ReadRows(const CatalogueDatabase& database, QSqlQuery que
     change.number = query.value(0).toLongLong();
     change.state = static_cast<State>(query.value(1).toInt());
     change.path = PathOf(query.value(2));
-    change.side = PathOf(query.value(3));
+    change.staging = PathOf(query.value(3));
     change.adopted = query.value(4).toBool();
     change.digestBefore = query.value(5).toByteArray();
     change.digestAfter = query.value(6).toByteArray();
@@ -77,7 +77,7 @@ void StoreChange(const CatalogueDatabase& database, const ChangeRow& change, std
       "?"
       " WHERE number = ?");
   query.addBindValue(static_cast<int>(change.state));
-  query.addBindValue(PathBytes(change.side));
+  query.addBindValue(PathBytes(change.staging));
   query.addBindValue(change.adopted ? 1 : 0);
   query.addBindValue(static_cast<qlonglong>(keptSize));
   query.addBindValue(change.digestBefore);

@@ -42,10 +42,10 @@ std::string WhyAway(const ChangeRow& change, const std::string& cause) {
 void EditReversal::Exchange(ChangeRow& change, bool redo) {
   const std::string incoming = redo ? change.KeptAfter() : change.KeptBefore();
   const std::string outgoing = redo ? change.KeptBefore() : change.KeptAfter();
-  if (!change.side.empty()) {
-    change.side.remove();
+  if (!change.staging.empty()) {
+    change.staging.remove();
   }
-  change.side = SideName(change.path);
+  change.staging = StagingName(change.path);
   change.state = redo ? State::Redoing : State::Undoing;
   StoreChange(journal_.Database(), change, journal_.Kept().PathOf(incoming).file_size());
   if (redo || keepsForRedo_) {
@@ -57,15 +57,15 @@ void EditReversal::Exchange(ChangeRow& change, bool redo) {
     }
   }
   try {
-    journal_.Kept().PutBeside(incoming, change.side);
+    journal_.Kept().PutBeside(incoming, change.staging);
   } catch (const NoRoomError&) {
     ExchangeInItsRoom(change, redo);
     return;
   }
   DataModel item;
   item.SetPath(change.path);
-  UndoFileHolder holder(nullptr, locker_, item, change.side, false);
-  if (DigestOf(change.side) != (redo ? change.digestAfter : change.digestBefore)) {
+  UndoFileHolder holder(nullptr, locker_, item, change.staging, false);
+  if (DigestOf(change.staging) != (redo ? change.digestAfter : change.digestBefore)) {
     ThrowHostError(change.path.utf8string(),
                    change.path.utf8string() + " is left as it is: another program changed " +
                        journal_.Kept().PathOf(incoming).utf8string() + ", where its other version was kept");
@@ -94,10 +94,10 @@ void EditReversal::FinishReversal(ChangeRow& change, bool redo) {
   WriteTransaction transaction(journal_.Database());
   if (change.adopted) {
     PhotoPathUpdate(journal_.Database())
-        .Move(redo ? change.path : change.side, redo ? change.side : change.path);
+        .Move(redo ? change.path : change.staging, redo ? change.staging : change.path);
     SetChangeState(journal_.Database(), change.number, change.state);
   } else {
-    change.side.clear();
+    change.staging.clear();
     StoreChange(journal_.Database(), change, journal_.Kept().PathOf(outgoing).file_size());
     if (photo) {
       UpdatePhotoRow(journal_.Database(), *photo);
@@ -155,8 +155,8 @@ void EditReversal::PutBack(ChangeRow& change, bool redo) {
   const QByteArray now = DigestOf(change.path);
   if (now == wanted && (IsUnderWay(change.state) || now != current)) {
     // Broken off after the exchange, or others were faster: only the last notes are missing.
-    if (!change.side.empty()) {
-      change.side.remove();
+    if (!change.staging.empty()) {
+      change.staging.remove();
     }
     return;
   }
@@ -175,8 +175,8 @@ void EditReversal::PutBack(ChangeRow& change, bool redo) {
     }
     if (then == current) {
       journal_.Kept().Remove(redo ? change.KeptBefore() : change.KeptAfter());
-      if (!change.side.empty()) {
-        change.side.remove();
+      if (!change.staging.empty()) {
+        change.staging.remove();
       }
       SetChangeState(journal_.Database(), change.number, redo ? State::Undone : State::Done);
     }

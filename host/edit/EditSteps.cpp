@@ -25,19 +25,19 @@ ioPath EditSteps::InsertChange(const ioPath& file, qlonglong goesWith) {
   journal_.RequireRoom();
   ChangeRow change;
   change.path = file;
-  change.side = SideName(file);
+  change.staging = StagingName(file);
   change.goesWith = goesWith;
   QSqlQuery query = journal_.Database().Prepare(
       "INSERT INTO changes (step, state, path, side, goes_with) VALUES (?, ?, ?, ?, ?)");
   query.addBindValue(step_);
   query.addBindValue(static_cast<int>(State::Planned));
   query.addBindValue(PathBytes(change.path));
-  query.addBindValue(PathBytes(change.side));
+  query.addBindValue(PathBytes(change.staging));
   query.addBindValue(goesWith == 0 ? QVariant(QVariant::LongLong) : QVariant(goesWith));
   journal_.Database().Run(query);
   change.number = query.lastInsertId().toLongLong();
   edits_.push_back(std::move(change));
-  return edits_.back().side;
+  return edits_.back().staging;
 }
 
 ioPath EditSteps::PlanEdit(const ioPath& photo) {
@@ -59,13 +59,13 @@ void EditSteps::RegisterFileChange(DataModel& item, const ioPath& newPath) {
   if (planned == edits_.end()) {
     PlanEdit(item.GetPath());
     planned = edits_.begin();
-    planned->side.clear();
+    planned->staging.clear();
   }
   ChangeRow& change = *planned;
   if (newPath != change.path) {
     change.state = State::Doing;
     change.adopted = true;
-    change.side = newPath;
+    change.staging = newPath;
     StoreChange(journal_.Database(), change, 0);
     return;
   }
@@ -76,8 +76,8 @@ void EditSteps::RegisterFileChange(DataModel& item, const ioPath& newPath) {
     journal_.Folder().HoldForCopy(QueryFile(change.path).size * (isHere ? 2 : 1));
   }
   change.digestBefore = DigestOf(keeps_ ? journal_.Kept().PathOf(change.KeptBefore()) : change.path);
-  if (!change.side.empty()) {
-    change.digestAfter = DigestOf(change.side);
+  if (!change.staging.empty()) {
+    change.digestAfter = DigestOf(change.staging);
   }
   change.state = State::Doing;
   StoreChange(journal_.Database(), change, journal_.Kept().PathOf(change.KeptBefore()).file_size());
@@ -188,12 +188,12 @@ void EditSteps::BringTogether(std::vector<ChangeRow>& group) {
 /// False when it could not be done; then the file is as it was.
 bool EditSteps::FinishReplacing(const ChangeRow& change) {
   try {
-    if (DigestOf(change.side) != change.digestAfter) {
+    if (DigestOf(change.staging) != change.digestAfter) {
       return false;
     }
     DataModel item;
     item.SetPath(change.path);
-    UndoFileHolder holder(nullptr, locker_, item, change.side, false);
+    UndoFileHolder holder(nullptr, locker_, item, change.staging, false);
     holder.Process();
     SyncFolderOf(change.path);
     return true;
@@ -207,11 +207,11 @@ void EditSteps::ReplaceBack(const ChangeRow& change) {
   if (DigestOf(change.path) != change.digestAfter) {
     return;
   }
-  change.side.remove();
+  change.staging.remove();
   DataModel item;
   item.SetPath(change.path);
-  UndoFileHolder holder(nullptr, locker_, item, change.side, false);
-  journal_.Kept().PutBeside(change.KeptBefore(), change.side);
+  UndoFileHolder holder(nullptr, locker_, item, change.staging, false);
+  journal_.Kept().PutBeside(change.KeptBefore(), change.staging);
   holder.Process();
   SyncFolderOf(change.path);
 }
@@ -222,8 +222,8 @@ bool EditSteps::SettleChange(ChangeRow& change) {
     SetChangeState(journal_.Database(), change.number, State::Done);
     return true;
   }
-  if (!change.adopted && !change.side.empty()) {
-    change.side.remove();
+  if (!change.adopted && !change.staging.empty()) {
+    change.staging.remove();
   }
   if (change.state == State::Doing) {
     QByteArray now;
@@ -293,8 +293,8 @@ std::optional<FileFinding> EditSteps::WhyHeld(qlonglong step) const {
 void EditSteps::GiveUp(qlonglong step) {
   for (const ChangeRow& change : ReadChanges(journal_.Database(), step)) {
     // Of an exchange that was broken off out of reach. What it was made from is kept.
-    if (!change.adopted && !change.side.empty()) {
-      change.side.remove();
+    if (!change.adopted && !change.staging.empty()) {
+      change.staging.remove();
     }
   }
 }

@@ -15,7 +15,7 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 /// An edited file that waits beside the one whose place it takes.
-struct Side {
+struct Staged {
   DataModel item;
   ioPath path;
 };
@@ -32,7 +32,7 @@ ioPath FileOf(const ioPath& photo) {
 
 class EditRunner {
  public:
-  EditRunner(EditSteps& steps, IFileAccessLocker& locker, const EditOrder& order, const WriteSide& write)
+  EditRunner(EditSteps& steps, IFileAccessLocker& locker, const EditOrder& order, const WriteStaging& write)
       : steps_(steps), locker_(locker), order_(order), write_(write) {}
 
   EditResult Run(const std::vector<EditTask>& tasks, const std::atomic<bool>& cancelled,
@@ -69,11 +69,11 @@ class EditRunner {
       Find(task, verdict.text);
       return;
     }
-    std::vector<Side> sides;
+    std::vector<Staged> staged;
     bool isFound = false;
     try {
-      const ioPath side = steps_.PlanEdit(task.photo);
-      const FileVerdict failure = Edit(task, side, sides);
+      const ioPath staging = steps_.PlanEdit(task.photo);
+      const FileVerdict failure = Edit(task, staging, staged);
       if (failure.IsRefused()) {
         Find(task, failure.text);
         isFound = true;
@@ -89,24 +89,24 @@ class EditRunner {
       return;
     }
     ++result_.photos;
-    result_.sidecars += sides.size() - 1;
-    result_.files += sides.size();
+    result_.sidecars += staged.size() - 1;
+    result_.files += staged.size();
     Finish(task);
   }
 
   /// What stands against it; then nothing of the photo and its sidecars has changed, or the journal knows.
-  FileVerdict Edit(const EditTask& task, const ioPath& side, std::vector<Side>& sides) {
+  FileVerdict Edit(const EditTask& task, const ioPath& staging, std::vector<Staged>& staged) {
     try {
-      write_ ? write_(task.photo, side) : Strandel::WriteEdited(task.photo, side, order_.edit);
-      sides.push_back(SideOf(task.photo, side));
-      FileVerdict verdict = WriteSidecars(task, sides);
+      write_ ? write_(task.photo, staging) : Strandel::WriteEdited(task.photo, staging, order_.edit);
+      staged.push_back(StagedOf(task.photo, staging));
+      FileVerdict verdict = WriteSidecars(task, staged);
       if (!verdict.IsRefused()) {
-        Replace(sides);
+        Replace(staged);
       }
       return verdict;
     } catch (const std::exception& failure) {
       // In the words in which it would have been told beforehand, where it would have been.
-      sides.clear();
+      staged.clear();
       FileVerdict told = write_ ? FileVerdict() : JudgeEdit(task, order_.edit, order_.force);
       return told.IsRefused() ? told : JudgeFailure(task.photo, failure.what());
     }
@@ -137,15 +137,15 @@ class EditRunner {
     }
   }
 
-  static Side SideOf(const ioPath& file, const ioPath& path) {
-    Side side;
-    side.item.SetPath(file);
-    side.item.SetSize(file.file_size());
-    side.path = path;
-    return side;
+  static Staged StagedOf(const ioPath& file, const ioPath& path) {
+    Staged staging;
+    staging.item.SetPath(file);
+    staging.item.SetSize(file.file_size());
+    staging.path = path;
+    return staging;
   }
 
-  FileVerdict WriteSidecars(const EditTask& task, std::vector<Side>& sides) {
+  FileVerdict WriteSidecars(const EditTask& task, std::vector<Staged>& staged) {
     for (const ioPath& sidecar : task.sidecars) {
       bool changes = false;
       FileVerdict verdict = JudgeSidecar(sidecar, task.photo, order_.edit, order_.force, changes);
@@ -153,21 +153,21 @@ class EditRunner {
         return verdict;
       }
       if (changes) {
-        const ioPath side = steps_.PlanSidecar(sidecar);
-        Strandel::WriteEditedSidecar(sidecar, side, task.photo, order_.edit);
-        sides.push_back(SideOf(sidecar, side));
+        const ioPath staging = steps_.PlanSidecar(sidecar);
+        Strandel::WriteEditedSidecar(sidecar, staging, task.photo, order_.edit);
+        staged.push_back(StagedOf(sidecar, staging));
       }
     }
     return {};
   }
 
   /// The journal knows of all of them before the first takes its place.
-  void Replace(std::vector<Side>& sides) {
-    for (Side& side : sides) {
-      steps_.RegisterFileChange(side.item, side.item.GetPath());
+  void Replace(std::vector<Staged>& staged) {
+    for (Staged& staging : staged) {
+      steps_.RegisterFileChange(staging.item, staging.item.GetPath());
     }
-    for (const Side& side : sides) {
-      UndoFileHolder holder(nullptr, locker_, side.item, side.path, false);
+    for (const Staged& staging : staged) {
+      UndoFileHolder holder(nullptr, locker_, staging.item, staging.path, false);
       holder.Process();
     }
   }
@@ -175,7 +175,7 @@ class EditRunner {
   EditSteps& steps_;
   IFileAccessLocker& locker_;
   const EditOrder& order_;
-  const WriteSide& write_;
+  const WriteStaging& write_;
   EditResult result_;
   /// Where nothing can be written down any more, nothing more is changed: what was done is told.
   std::string stopped_;
@@ -186,12 +186,12 @@ class EditRunner {
 EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const EditOrder& order,
                       const std::vector<EditTask>& tasks, const std::atomic<bool>& cancelled,
                       const UndoProgress& progress) {
-  const WriteSide none;
+  const WriteStaging none;
   return EditRunner(steps, locker, order, none).Run(tasks, cancelled, progress);
 }
 
 EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const QString& name,
-                      const std::vector<ioPath>& photos, const WriteSide& write,
+                      const std::vector<ioPath>& photos, const WriteStaging& write,
                       const std::atomic<bool>& cancelled, const UndoProgress& progress) {
   EditOrder order;
   order.name = name;

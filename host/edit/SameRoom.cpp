@@ -25,16 +25,16 @@ Versions VersionsOf(const ChangeRow& change, bool redo) {
 }
 
 void GiveName(IFileAccessLocker& locker, const ChangeRow& change) {
-  MoveFile(locker, change.side, change.path);
+  MoveFile(locker, change.staging, change.path);
   SyncFolderOf(change.path);
 }
 
 void WriteAndGiveName(IFileAccessLocker& locker, const KeptFiles& kept, const ChangeRow& change,
                       const Versions& versions) {
-  kept.WriteOver(versions.incoming, change.side);
-  if (DigestOf(change.side) != versions.wanted) {
-    ThrowHostError(change.side.utf8string(),
-                   change.side.utf8string() + " cannot be read back as what was written");
+  kept.WriteOver(versions.incoming, change.staging);
+  if (DigestOf(change.staging) != versions.wanted) {
+    ThrowHostError(change.staging.utf8string(),
+                   change.staging.utf8string() + " cannot be read back as what was written");
   }
   GiveName(locker, change);
 }
@@ -55,8 +55,8 @@ bool IsAlone(const ioPath& file) {
 
 bool IsSetAside(const ChangeRow& change) {
   return (change.state == State::Undoing || change.state == State::Redoing) && !change.adopted &&
-         !change.side.empty() && QueryFile(change.path).kind == FileState::Kind::Missing &&
-         QueryFile(change.side).kind == FileState::Kind::File;
+         !change.staging.empty() && QueryFile(change.path).kind == FileState::Kind::Missing &&
+         QueryFile(change.staging).kind == FileState::Kind::File;
 }
 
 void ReplaceInItsRoom(IFileAccessLocker& locker, const KeptFiles& kept, const ChangeRow& change, bool redo) {
@@ -68,13 +68,13 @@ void ReplaceInItsRoom(IFileAccessLocker& locker, const KeptFiles& kept, const Ch
     ThrowHostError(change.path.utf8string(), kept.PathOf(versions.incoming).utf8string() +
                                                  " is not what was kept: others have changed it");
   }
-  MoveFile(locker, change.path, change.side);
+  MoveFile(locker, change.path, change.staging);
   // Before anything is written: half a version must never have the photo's name.
   SyncFolderOf(change.path);
   try {
     WriteAndGiveName(locker, kept, change, versions);
   } catch (const NoRoomError&) {
-    if (DigestOf(change.side) != versions.current) {
+    if (DigestOf(change.staging) != versions.current) {
       throw HostError() << TagFilename(change.path.utf8string())
                         << TagDescription("the disk gave no room for what it had promised room for");
     }
@@ -85,7 +85,7 @@ void ReplaceInItsRoom(IFileAccessLocker& locker, const KeptFiles& kept, const Ch
 
 void BringBack(IFileAccessLocker& locker, const KeptFiles& kept, const ChangeRow& change, bool redo) {
   const Versions versions = VersionsOf(change, redo);
-  const QByteArray now = DigestOf(change.side);
+  const QByteArray now = DigestOf(change.staging);
   if (now == versions.current || now == versions.wanted) {
     GiveName(locker, change);
   } else {

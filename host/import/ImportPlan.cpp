@@ -112,7 +112,7 @@ class Planner {
       if (IsCancelled()) {
         return Stop(Outcome::Interrupted);
       }
-      if (!(source.leads ? IsKnownPhoto(content, source) : IsKnownSideFile(source))) {
+      if (!(source.leads ? IsKnownPhoto(content, source) : IsKnownBeside(source))) {
         fresh.push_back(i);
       }
       if (progress_) {
@@ -138,7 +138,7 @@ class Planner {
   }
 
   /// Beside the photo or film that is there already, under its name.
-  bool IsKnownSideFile(const ImportSource& source) {
+  bool IsKnownBeside(const ImportSource& source) {
     const auto leaders = leadersThere_.find(source.shot);
     if (leaders == leadersThere_.end()) {
       return false;
@@ -193,7 +193,7 @@ class Planner {
     }
     const KnownCopies copies(Tavolin::FromNative(folder), GoesOn());
     std::unordered_set<std::size_t> dropped;
-    // Photos and films first: by them it is known whose the side files are.
+    // Photos and films first: by them it is known whose the files beside them are.
     for (const bool leaders : {true, false}) {
       for (const std::size_t i : chosen_) {
         const ImportSource& source = sources_[i];

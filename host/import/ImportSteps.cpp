@@ -148,7 +148,7 @@ State ImportSteps::TakeBack(qlonglong step, const std::atomic<bool>& cancelled, 
   std::vector<ImportedCopy> copies = rows_.Copies(step);
   // What stays beside a photo is known when the photos have gone.
   std::stable_partition(copies.begin(), copies.end(), [](const ImportedCopy& copy) {
-    return !IsAppendixName(copy.path.filename().utf8string());
+    return !IsAttachedName(copy.path.filename().utf8string());
   });
   std::unordered_set<std::string> staying;
   bool anyHope = false;
@@ -159,17 +159,17 @@ State ImportSteps::TakeBack(qlonglong step, const std::atomic<bool>& cancelled, 
       anyHope = true;
       break;
     }
-    const bool isAppendix = IsAppendixName(copy.path.filename().utf8string());
+    const bool isAttached = IsAttachedName(copy.path.filename().utf8string());
     const auto stays = [&](const std::string& cause, bool mayPass) {
       result.findings.push_back({copy.path, cause});
       anyHope = anyHope || mayPass;
-      if (!isAppendix && QueryFile(copy.path).kind != FileState::Kind::Missing) {
+      if (!isAttached && QueryFile(copy.path).kind != FileState::Kind::Missing) {
         staying.insert(ShotKey(copy.path));
       }
     };
     if (gone.count(copy.path) > 0) {
       // Since an undo that was broken off.
-    } else if (isAppendix && staying.count(ShotKey(copy.path)) > 0) {
+    } else if (isAttached && staying.count(ShotKey(copy.path)) > 0) {
       stays(copy.path.utf8string() + " was kept, because its photo was kept", false);
     } else if (const std::optional<Fault> fault = FindFault(copy)) {
       stays(fault->cause, fault->mayPass);

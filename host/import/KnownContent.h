@@ -68,7 +68,7 @@ class KnownCopies {
  public:
   KnownCopies(const ioPath& folder, CopyGoesOn goesOn);
 
-  /// The copy of the file under its own name or one made of it, if there is one. Side files of different
+  /// The copy of the file under its own name or one made of it, if there is one. Sidecars of different
   /// shots may be alike: a copy counts that lies beside one of `own`, the photos or films of its shot that
   /// are there already, or came from the same path and lies beside no photo or film of another shot.
   std::optional<ioPath> Find(const ImportSource& source, const std::vector<ioPath>& own) const;

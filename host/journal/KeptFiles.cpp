@@ -168,8 +168,8 @@ bool KeptFiles::Keep(const ioPath& file, const std::string& name) const {
   return Reproduce(file, PathOf(name));
 }
 
-void KeptFiles::PutBeside(const std::string& name, const ioPath& side) const {
-  Reproduce(PathOf(name), side);
+void KeptFiles::PutBeside(const std::string& name, const ioPath& staging) const {
+  Reproduce(PathOf(name), staging);
 }
 
 void KeptFiles::WriteOver(const std::string& name, const ioPath& file) const {

@@ -19,10 +19,10 @@ void Check(const LinkChange& link, const std::error_code& error) {
   }
 }
 
-void MakeSide(const LinkChange& link, const std::string& target) {
-  if (ReadSymbolicLink(link.side) != target) {
-    RemoveSymbolicLink(link.side);
-    Check(link, MakeSymbolicLink(link.side, target));
+void MakeStaging(const LinkChange& link, const std::string& target) {
+  if (ReadSymbolicLink(link.staging) != target) {
+    RemoveSymbolicLink(link.staging);
+    Check(link, MakeSymbolicLink(link.staging, target));
   }
 }
 
@@ -30,15 +30,15 @@ void MakeSide(const LinkChange& link, const std::string& target) {
 
 void PrepareLinks(const std::vector<LinkChange>& links) {
   for (const LinkChange& link : links) {
-    MakeSide(link, link.after);
+    MakeStaging(link, link.after);
   }
 }
 
 void PointLinks(const std::vector<LinkChange>& links, bool toNew) {
   for (const LinkChange& link : links) {
     if (ReadSymbolicLink(link.link) == (toNew ? link.before : link.after)) {
-      MakeSide(link, toNew ? link.after : link.before);
-      Check(link, ReplaceSymbolicLink(link.side, link.link));
+      MakeStaging(link, toNew ? link.after : link.before);
+      Check(link, ReplaceSymbolicLink(link.staging, link.link));
     }
   }
   ClearLinks(links);
@@ -52,7 +52,7 @@ void PointLinks(const std::vector<LinkChange>& links, bool toNew) {
 
 void ClearLinks(const std::vector<LinkChange>& links) {
   for (const LinkChange& link : links) {
-    RemoveSymbolicLink(link.side);
+    RemoveSymbolicLink(link.staging);
   }
 }
 

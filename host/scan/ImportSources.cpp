@@ -52,7 +52,7 @@ class Gatherer {
       }
     }
     Walk(roots);
-    AddSideFilesOfNamed();
+    AddShotFilesOfNamed();
     Group();
     return std::move(result_);
   }
@@ -124,7 +124,7 @@ class Gatherer {
   }
 
   /// Each folder is read once, however many of its files were named.
-  void AddSideFilesOfNamed() {
+  void AddShotFilesOfNamed() {
     std::unordered_set<ioPath> folders;
     for (const ioPath& file : named_) {
       const ioPath folder = file.parent_path();

@@ -197,8 +197,8 @@ class EditChooser {
       Refuse(argument, "is hidden");
     } else if (IsPhotoName(argument)) {
       Take(argument);
-    } else if (IsAppendixName(argument.filename().utf8string())) {
-      appendices_.push_back(argument);
+    } else if (IsAttachedName(argument.filename().utf8string())) {
+      attached_.push_back(argument);
     } else {
       RefuseName(argument);
     }
@@ -210,7 +210,7 @@ class EditChooser {
     for (const ioPath& photo : choice_.photos) {
       shots.insert(ShotKey(photo));
     }
-    for (const ioPath& file : appendices_) {
+    for (const ioPath& file : attached_) {
       std::error_code error;
       const ioPath path = file.canonical(error);
       if (error || shots.count(ShotKey(path)) == 0) {
@@ -266,7 +266,7 @@ class EditChooser {
   void RefuseName(const ioPath& file) { Refuse(file, "is not named like a photo"); }
 
   std::unordered_set<ioPath> known_;
-  std::vector<ioPath> appendices_;
+  std::vector<ioPath> attached_;
   EditChoice choice_;
 };
 

@@ -1,6 +1,6 @@
 #include "FolderWalker.h"
-#include "MovedCompanions.h"
 #include "MovedPhotos.h"
+#include "MovedShotFiles.h"
 
 #include <host/base/TaskThreads.h>
 #include <host/catalogue/JournalLock.h>
@@ -247,7 +247,7 @@ void ScanRun::Follow() {
     for (const FollowedPhoto& photo : verdict.moved) {
       names.emplace_back(photo.from, photo.record.path);
     }
-    outcome = moves_.Follow(verdict.moved, FindMovedCompanions(names), verdict.others);
+    outcome = moves_.Follow(verdict.moved, FindMovedShotFiles(names), verdict.others);
   } else if (!options_.dryRun) {
     catalogue_.Store(verdict.others);
   }

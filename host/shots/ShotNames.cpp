@@ -41,7 +41,7 @@ bool IsFilm(std::string_view name) {
   return HasOneOf(name, kExtensions);
 }
 
-bool IsCompanion(std::string_view name) {
+bool IsOtherShotFile(std::string_view name) {
   // Settings of raw developers and of cameras, thumbnails, spoken notes and layered pictures. Films are short
   // ones that are part of a photo, and those whose thumbnails lie beside them.
   static constexpr std::array<std::string_view, 23> kExtensions = {
@@ -85,7 +85,7 @@ ShotName SplitShotName(std::string_view name) {
     return ShotName{std::string(base), std::string(name.substr(base.size()))};
   };
   const std::string_view base = name.substr(0, name.size() - ExtensionOf(name).size());
-  if (!IsCompanion(name) || !IsShotFile(base)) {
+  if (!IsOtherShotFile(name) || !IsShotFile(base)) {
     return split(base);
   }
   return split(base.substr(0, base.size() - ExtensionOf(base).size()));
@@ -96,7 +96,7 @@ bool IsPhotoName(const ioPath& file) {
 }
 
 bool IsShotFile(std::string_view name) {
-  return IsPhotoName(ioPath(std::string(name))) || IsCompanion(name);
+  return IsPhotoName(ioPath(std::string(name))) || IsOtherShotFile(name);
 }
 
 bool IsRawName(std::string_view name) {
@@ -107,7 +107,7 @@ bool IsFilmName(std::string_view name) {
   return IsFilm(name);
 }
 
-bool IsAppendixName(std::string_view name) {
+bool IsAttachedName(std::string_view name) {
   static constexpr std::array<std::string_view, 1> kThumbnails = {".thm"};
   return IsSettingsName(name) || HasOneOf(name, kThumbnails);
 }

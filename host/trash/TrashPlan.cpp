@@ -76,7 +76,7 @@ class Planner {
     const std::vector<Beside> beside = FindBeside();
     SpareSettings(beside);
     for (const Beside& file : beside) {
-      AddAppendix(file);
+      AddAttached(file);
     }
     return std::move(plan_);
   }
@@ -278,12 +278,12 @@ class Planner {
       if (IsPhotoName(file.path)) {
         all.owners.push_back(file.path);
         byExtension[NameKey(file.suffix)].push_back(file.path);
-      } else if (!IsAppendixName(file.path.filename().utf8string())) {
+      } else if (!IsAttachedName(file.path.filename().utf8string())) {
         all.isOthersToo = true;
       }
     }
     for (const ShotFile& file : set.files) {
-      if (!IsPhotoName(file.path) && IsAppendixName(file.path.filename().utf8string()) &&
+      if (!IsPhotoName(file.path) && IsAttachedName(file.path.filename().utf8string()) &&
           !IsLink(file.path)) {
         const auto owners = byExtension.find(NameKey(OwnerExtension(file.suffix)));
         beside.push_back(owners != byExtension.end() ? Beside{{}, owners->second, false} : all);
@@ -353,7 +353,7 @@ class Planner {
     return {};
   }
 
-  void AddAppendix(const Beside& beside) {
+  void AddAttached(const Beside& beside) {
     const FileState state = QueryFile(beside.file);
     if (!GoesAlong(beside) || state.kind != FileState::Kind::File || !LinkTo(state.identity).empty()) {
       return;
@@ -363,11 +363,11 @@ class Planner {
     for (const ioPath& photo : beside.owners) {
       last = std::max(last, going_.at(photo));
     }
-    TrashAppendix appendix = {{beside.file, state.size, state.modifiedNs}, beside.owners};
+    AttachedFile attached = {{beside.file, state.size, state.modifiedNs}, beside.owners};
     if (IsSettingsName(beside.file.filename().utf8string()) && state.size > 0) {
-      appendix.equal = FindEqual(beside.file, plan_.photos[last].kept.path);
+      attached.equal = FindEqual(beside.file, plan_.photos[last].kept.path);
     }
-    plan_.photos[last].appendix.push_back(std::move(appendix));
+    plan_.photos[last].attached.push_back(std::move(attached));
   }
 
   const std::vector<SuggestedGroup>& groups_;
@@ -391,7 +391,7 @@ std::size_t TrashPlan::CountAlike() const {
 std::size_t TrashPlan::CountFiles() const {
   std::size_t files = 0;
   for (const TrashPhoto& photo : photos) {
-    files += 1 + photo.appendix.size();
+    files += 1 + photo.attached.size();
   }
   return files;
 }
@@ -400,7 +400,7 @@ std::uint64_t TrashPlan::CountBytes() const {
   std::uint64_t bytes = 0;
   for (const TrashPhoto& photo : photos) {
     bytes += photo.photo.size;
-    for (const SeenFile& file : photo.appendix) {
+    for (const SeenFile& file : photo.attached) {
       bytes += file.size;
     }
   }
@@ -436,21 +436,21 @@ std::string FindTrashFault(const TrashPhoto& photo) {
   return fault;
 }
 
-std::string FindTrashFault(const TrashAppendix& appendix) {
-  for (const ioPath& photo : appendix.photos) {
+std::string FindTrashFault(const AttachedFile& attached) {
+  for (const ioPath& photo : attached.photos) {
     if (QueryFile(photo).kind != FileState::Kind::Missing) {
-      return Stays(appendix.path, photo.filename().utf8string() + ", to which it belongs, is kept");
+      return Stays(attached.path, photo.filename().utf8string() + ", to which it belongs, is kept");
     }
   }
-  const FileState state = QueryFile(appendix.path);
-  if (!IsAsKnown(state, appendix)) {
-    return Stays(appendix.path, "it " + WhatIsWrong(state));
+  const FileState state = QueryFile(attached.path);
+  if (!IsAsKnown(state, attached)) {
+    return Stays(attached.path, "it " + WhatIsWrong(state));
   }
-  if (!appendix.equal.path.empty() && (!IsAsKnown(QueryFile(appendix.equal.path), appendix.equal) ||
-                                       !HoldTheSameBytes(appendix.path, appendix.equal.path))) {
-    return Stays(appendix.path, "the settings in " + appendix.equal.path.utf8string() + " were changed");
+  if (!attached.equal.path.empty() && (!IsAsKnown(QueryFile(attached.equal.path), attached.equal) ||
+                                       !HoldTheSameBytes(attached.path, attached.equal.path))) {
+    return Stays(attached.path, "the settings in " + attached.equal.path.utf8string() + " were changed");
   }
-  return IsLink(appendix.path) ? Stays(appendix.path, "it is a link to another file") : std::string();
+  return IsLink(attached.path) ? Stays(attached.path, "it is a link to another file") : std::string();
 }
 
 }  // namespace Zenvora::Lumidex::Host

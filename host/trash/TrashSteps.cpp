@@ -29,7 +29,7 @@ State StateOfTrash(const std::vector<TrashedFile>& files, State goal, bool anyHo
 
 /// Settings whose photo was to go with them and stays.
 bool BelongsToWhatStays(const ioPath& file, const std::vector<FileFinding>& findings) {
-  return IsAppendixName(file.filename().utf8string()) &&
+  return IsAttachedName(file.filename().utf8string()) &&
          std::any_of(findings.begin(), findings.end(), [shot = ShotKey(file)](const FileFinding& finding) {
            return ShotKey(finding.file) == shot;
          });
@@ -67,10 +67,10 @@ TrashResult TrashSteps::Run(const QString& name, const std::vector<TrashPhoto>& 
       result.findings.push_back({photo.photo.path, fault});
     } else if (MoveOne(step, photo.photo, photo.kept.path, result)) {
       ++result.photos;
-      for (const TrashAppendix& file : photo.appendix) {
-        const std::string appendixFault = FindTrashFault(file);
-        if (!appendixFault.empty()) {
-          result.findings.push_back({file.path, appendixFault});
+      for (const AttachedFile& file : photo.attached) {
+        const std::string attachedFault = FindTrashFault(file);
+        if (!attachedFault.empty()) {
+          result.findings.push_back({file.path, attachedFault});
         } else {
           MoveOne(step, file, photo.kept.path, result);
         }

@@ -7,7 +7,7 @@ lumidex recovers. Then
   - the catalogue of a first scan is not there yet, or sound,
   - a rename is done as a whole or not at all,
   - a photo and its sidecar are both edited or neither,
-  - no side file is left, neither among the photos nor in the undo folder,
+  - no staging file is left, neither among the photos nor in the undo folder,
   - symbolic links lead to the photos that they led to before, or to where undo brings them back,
   - a scan that finds photos moved by others knows each again: its tag is where the photo is,
   - journal and disk agree: taking the step back, if the journal has it, gives the very files from before: their names,
@@ -176,7 +176,7 @@ def restore(catalogue, state):
 
 
 def check(before, now, expected, is_rename, what):
-    require(not any(name.startswith(".") for name in now), f"{what}: a side file is left: {list(now)}")
+    require(not any(name.startswith(".") for name in now), f"{what}: a staging file is left: {list(now)}")
     require(sorted(entry[2] for entry in now.values()) == sorted(entry[2] for entry in before.values()),
             f"{what}: a picture is missing or there twice")
     if is_rename:

@@ -27,13 +27,13 @@ class UndoFileHolderTest : public ::testing::Test {
     item_.SetSize(3);
   }
 
-  UndoFileHolder Hold(bool adopt = false) { return {&undo_, locker_, item_, side_, adopt}; }
+  UndoFileHolder Hold(bool adopt = false) { return {&undo_, locker_, item_, staging_, adopt}; }
 
   const Zenvora::Test::TempTree tree_;
   const std::shared_ptr<Zenvora::Test::FakeClock> clock_ = std::make_shared<Zenvora::Test::FakeClock>();
   const App::ServiceScope<App::IClock> scope_{clock_};
   const ioPath photo_ = tree_.Write("photo.jpg", "old");
-  const ioPath side_ = tree_.Write(".side.jpg", "edited");
+  const ioPath staging_ = tree_.Write(".staging.jpg", "edited");
   DataModel item_{QStringLiteral("photo"), QStringLiteral("id"), ItemType::Photo};
   Zenvora::Test::FakeLocker locker_;
   Zenvora::Test::FakeUndo undo_;
@@ -44,7 +44,7 @@ TEST_F(UndoFileHolderTest, DeletesAnAbandonedFile) {
     const UndoFileHolder holder = Hold();
     EXPECT_FALSE(holder.IsEmpty());
   }
-  EXPECT_FALSE(side_.exists());
+  EXPECT_FALSE(staging_.exists());
   EXPECT_EQ(ReadFile(photo_), "old");
   // Not a rename: nobody is kept out.
   EXPECT_TRUE(locker_.calls.empty());
@@ -52,13 +52,13 @@ TEST_F(UndoFileHolderTest, DeletesAnAbandonedFile) {
 
 TEST_F(UndoFileHolderTest, DeletesAnAbandonedFileThatWasToBeAdopted) {
   { const UndoFileHolder holder = Hold(true); }
-  EXPECT_FALSE(side_.exists());
+  EXPECT_FALSE(staging_.exists());
 }
 
 TEST_F(UndoFileHolderTest, BearsThatAnAbandonedFileIsGone) {
   {
     const UndoFileHolder holder = Hold();
-    side_.remove();
+    staging_.remove();
   }
   EXPECT_EQ(ReadFile(photo_), "old");
 }
@@ -75,9 +75,9 @@ TEST_F(UndoFileHolderTest, LeavesTheFileToItsCallerWhenCleared) {
     UndoFileHolder holder = Hold();
     holder.Clear();
     EXPECT_TRUE(holder.IsEmpty());
-    EXPECT_TRUE(side_.exists());
+    EXPECT_TRUE(staging_.exists());
   }
-  EXPECT_TRUE(side_.exists());
+  EXPECT_TRUE(staging_.exists());
 }
 
 TEST_F(UndoFileHolderTest, IsEmptyWithoutAPath) {
@@ -92,9 +92,9 @@ TEST_F(UndoFileHolderTest, PutsTheFileInPlace) {
     EXPECT_TRUE(holder.IsEmpty());
   }
   EXPECT_EQ(ReadFile(photo_), "edited");
-  EXPECT_FALSE(side_.exists());
+  EXPECT_FALSE(staging_.exists());
   EXPECT_EQ(locker_.calls,
-            (std::vector<std::string>{"lock " + side_.utf8string(), "unlock " + side_.utf8string()}));
+            (std::vector<std::string>{"lock " + staging_.utf8string(), "unlock " + staging_.utf8string()}));
 }
 
 TEST_F(UndoFileHolderTest, TellsOfTheChangeBeforeItHappens) {
@@ -104,7 +104,7 @@ TEST_F(UndoFileHolderTest, TellsOfTheChangeBeforeItHappens) {
     EXPECT_EQ(item.GetSize(), 3U);
     EXPECT_EQ(newPath, photo_);
     EXPECT_EQ(ReadFile(photo_), "old");
-    EXPECT_EQ(ReadFile(side_), "edited");
+    EXPECT_EQ(ReadFile(staging_), "edited");
     EXPECT_TRUE(locker_.calls.empty());
   };
   UndoFileHolder holder = Hold();
@@ -117,24 +117,24 @@ TEST_F(UndoFileHolderTest, AdoptsTheFileWhereItLies) {
   DataModel* shown = nullptr;
   undo_.onChange = [&](DataModel& item, const ioPath& newPath) {
     EXPECT_EQ(item.GetPath(), photo_);
-    EXPECT_EQ(newPath, side_);
+    EXPECT_EQ(newPath, staging_);
     shown = &item;
   };
   UndoFileHolder holder = Hold(true);
   holder.Process();
   EXPECT_TRUE(holder.IsEmpty());
   EXPECT_EQ(ReadFile(photo_), "old");
-  EXPECT_EQ(ReadFile(side_), "edited");
+  EXPECT_EQ(ReadFile(staging_), "edited");
   EXPECT_TRUE(locker_.calls.empty());
   // The item still belongs to the holder.
   ASSERT_NE(shown, nullptr);
-  EXPECT_EQ(shown->GetPath(), side_);
+  EXPECT_EQ(shown->GetPath(), staging_);
   EXPECT_EQ(shown->GetSize(), 6U);
 }
 
 TEST_F(UndoFileHolderTest, LeavesAnAdoptedFileAtItsEnd) {
   { Hold(true).Process(); }
-  EXPECT_EQ(ReadFile(side_), "edited");
+  EXPECT_EQ(ReadFile(staging_), "edited");
 }
 
 TEST_F(UndoFileHolderTest, GivesTheItemTheSizeOfItsNewFile) {
@@ -151,7 +151,7 @@ TEST_F(UndoFileHolderTest, CountsNothingWhereTheAdoptedFileIsMissing) {
   DataModel* shown = nullptr;
   undo_.onChange = [&](DataModel& item, const ioPath&) { shown = &item; };
   UndoFileHolder holder = Hold(true);
-  side_.remove();
+  staging_.remove();
   holder.Process();
   EXPECT_EQ(shown->GetSize(), 0U);
 }
@@ -166,10 +166,10 @@ TEST_F(UndoFileHolderTest, WorksOnACopyOfTheItem) {
 
 TEST_F(UndoFileHolderTest, NeedsNoUndoReceiver) {
   for (const bool adopt : {true, false}) {
-    UndoFileHolder holder(nullptr, locker_, item_, side_, adopt);
+    UndoFileHolder holder(nullptr, locker_, item_, staging_, adopt);
     holder.Process();
     EXPECT_TRUE(holder.IsEmpty());
-    EXPECT_EQ(side_.exists(), adopt);
+    EXPECT_EQ(staging_.exists(), adopt);
   }
   EXPECT_EQ(ReadFile(photo_), "edited");
 }
@@ -181,10 +181,10 @@ TEST_F(UndoFileHolderTest, ChangesNothingWhenTheReceiverThrows) {
     EXPECT_THROW(holder.Process(), std::runtime_error);
     EXPECT_FALSE(holder.IsEmpty());
     EXPECT_EQ(ReadFile(photo_), "old");
-    EXPECT_EQ(ReadFile(side_), "edited");
+    EXPECT_EQ(ReadFile(staging_), "edited");
     EXPECT_TRUE(locker_.calls.empty());
   }
-  EXPECT_FALSE(side_.exists());
+  EXPECT_FALSE(staging_.exists());
 }
 
 TEST_F(UndoFileHolderTest, StillHoldsTheFileWhenItCannotBeMoved) {
@@ -194,10 +194,10 @@ TEST_F(UndoFileHolderTest, StillHoldsTheFileWhenItCannotBeMoved) {
     EXPECT_THROW(holder.Process(), Util::ExceptionRename);
     EXPECT_EQ(undo_.changes.size(), 1U);
     EXPECT_FALSE(holder.IsEmpty());
-    EXPECT_EQ(ReadFile(side_), "edited");
+    EXPECT_EQ(ReadFile(staging_), "edited");
     EXPECT_TRUE(locker_.held.empty());
   }
-  EXPECT_FALSE(side_.exists());
+  EXPECT_FALSE(staging_.exists());
   EXPECT_EQ(ReadFile(photo_), "old");
 }
 
@@ -215,7 +215,7 @@ TEST_F(UndoFileHolderTest, HandsEverythingOverWhenMoved) {
   UndoFileHolder target(std::move(*source));
   EXPECT_TRUE(source->IsEmpty());
   source.reset();
-  EXPECT_TRUE(side_.exists());
+  EXPECT_TRUE(staging_.exists());
   EXPECT_FALSE(target.IsEmpty());
   target.Process();
   EXPECT_EQ(undo_.changes.size(), 1U);
@@ -227,7 +227,7 @@ TEST_F(UndoFileHolderTest, KeepsItsWayOfWorkingWhenMoved) {
   UndoFileHolder target(std::move(source));
   target.Process();
   EXPECT_EQ(ReadFile(photo_), "old");
-  EXPECT_TRUE(side_.exists());
+  EXPECT_TRUE(staging_.exists());
 }
 
 TEST_F(UndoFileHolderTest, TakesItemPathAndWayByAssignmentButKeepsItsPartners) {
@@ -245,7 +245,7 @@ TEST_F(UndoFileHolderTest, TakesItemPathAndWayByAssignmentButKeepsItsPartners) {
     }
     // What it held before is nobody's business now.
     EXPECT_EQ(ReadFile(other), "other");
-    EXPECT_EQ(ReadFile(side_), "edited");
+    EXPECT_EQ(ReadFile(staging_), "edited");
     target.Process();
   }
   EXPECT_EQ(ReadFile(photo_), "edited");
@@ -276,9 +276,9 @@ TEST_F(UndoFileHolderTest, CanBeFilledAgain) {
 }
 
 TEST_F(UndoFileHolderTest, SpellsThePathInTheOneWay) {
-  const ioPath spelled(tree_.Path().utf8string() + "//./.side.jpg");
+  const ioPath spelled(tree_.Path().utf8string() + "//./.staging.jpg");
   undo_.onChange = [&](DataModel&, const ioPath& newPath) {
-    EXPECT_EQ(newPath.native().native(), side_.native().native());
+    EXPECT_EQ(newPath.native().native(), staging_.native().native());
   };
   UndoFileHolder holder(&undo_, locker_, item_, spelled, true);
   holder.Process();
@@ -287,7 +287,7 @@ TEST_F(UndoFileHolderTest, SpellsThePathInTheOneWay) {
 
 TEST_F(UndoFileHolderTest, WorksWithTheRealLocker) {
   const auto locker = FileAccessLocker::Create();
-  UndoFileHolder holder(&undo_, *locker, item_, side_, false);
+  UndoFileHolder holder(&undo_, *locker, item_, staging_, false);
   holder.Process();
   EXPECT_EQ(ReadFile(photo_), "edited");
 }
@@ -315,10 +315,10 @@ TEST_F(UndoFileHolderTest, WaitsForWhoeverKeepsThePhotoOpen) {
 }
 
 TEST_F(UndoFileHolderTest, DeletesNothingThatIsHeldOpenAndDoesNotThrow) {
-  const auto viewer = Zenvora::Test::HoldInAThread(side_);
+  const auto viewer = Zenvora::Test::HoldInAThread(staging_);
   { const UndoFileHolder holder = Hold(); }
   viewer->LetGo();
-  EXPECT_EQ(ReadFile(side_), "edited");
+  EXPECT_EQ(ReadFile(staging_), "edited");
 }
 #endif
 

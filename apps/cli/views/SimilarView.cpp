@@ -196,8 +196,8 @@ std::string GroupText(const Host::SuggestedGroup& shown, const TrashView* trash)
     add(fate, {verdict, ScoreText(member.score), PixelsText(member.features), SizeText(member.photo.size),
                TakenText(member), member.photo.path.utf8string(),
                isKeeper ? ReasonsText(shown.keeper) : CauseText(shown.verdicts[i].why)});
-    for (std::size_t j = 0; going != nullptr && j < going->appendix.size(); ++j) {
-      const Host::SeenFile& file = going->appendix[j];
+    for (std::size_t j = 0; going != nullptr && j < going->attached.size(); ++j) {
+      const Host::SeenFile& file = going->attached[j];
       add(fate, {"", "", "", SizeText(file.size), "", file.path.utf8string(), ""});
     }
   }

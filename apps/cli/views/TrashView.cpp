@@ -132,7 +132,7 @@ void WriteTrash(JsonWriter& json, const TrashView& view) {
   json.BeginArray("planned");
   for (const Host::TrashPhoto& photo : view.plan.photos) {
     WriteFile(json, photo.photo, photo);
-    for (const Host::SeenFile& file : photo.appendix) {
+    for (const Host::SeenFile& file : photo.attached) {
       WriteFile(json, file, photo);
     }
   }

@@ -6,7 +6,7 @@
 #include "OtherDates.h"
 #include "PlanCheck.h"
 #include "PngRescue.h"
-#include "SideFile.h"
+#include "StagingFile.h"
 #include "TextsInPlace.h"
 #include "TiffEdit.h"
 
@@ -314,11 +314,11 @@ std::string WhyNotEditable(const ioPath& photo) {
   return cause;
 }
 
-void WriteEdited(const ioPath& photo, const ioPath& side, const PhotoEdit& edit) {
+void WriteEdited(const ioPath& photo, const ioPath& staging, const PhotoEdit& edit) {
   Explaining(photo, [&] {
     CheckEdit(edit);
     const Content content = ReadWhole(photo);
-    WriteSideFile(side, photo, content.modifiedNs, Edited(content, edit));
+    WriteStagingFile(staging, photo, content.modifiedNs, Edited(content, edit));
   });
 }
 

@@ -3,7 +3,7 @@
 #include "ExivLock.h"
 #include "MetadataPlan.h"
 #include "PlanCheck.h"
-#include "SideFile.h"
+#include "StagingFile.h"
 #include "XmpPlaces.h"
 
 #include <zenvora/core/FileState.h>
@@ -250,13 +250,13 @@ bool TryEditSidecar(const ioPath& sidecar, const ioPath& photo, const PhotoEdit&
   return Explaining(sidecar, [&] { return Edited(ReadWhole(sidecar), photo, edit).has_value(); });
 }
 
-bool WriteEditedSidecar(const ioPath& sidecar, const ioPath& side, const ioPath& photo,
+bool WriteEditedSidecar(const ioPath& sidecar, const ioPath& staging, const ioPath& photo,
                         const PhotoEdit& edit) {
   return Explaining(sidecar, [&] {
     const std::int64_t modifiedNs = QueryFile(sidecar).modifiedNs;
     const std::optional<std::string> bytes = Edited(ReadWhole(sidecar), photo, edit);
     if (bytes) {
-      WriteSideFile(side, sidecar, modifiedNs, *bytes);
+      WriteStagingFile(staging, sidecar, modifiedNs, *bytes);
     }
     return bytes.has_value();
   });

@@ -78,9 +78,9 @@ class FullDisk : public Zenvora::Test::JournalTest {
   UndoResult EditWith(const std::vector<ioPath>& photos, const std::function<void(const ioPath&)>& before) {
     return EditPhotos(
         journal_->Edits(), *locker_, QStringLiteral("edit"), photos,
-        [&before](const ioPath& photo, const ioPath& side) {
+        [&before](const ioPath& photo, const ioPath& staging) {
           before(photo);
-          std::ofstream(side.native(), std::ios::binary) << "edited";
+          std::ofstream(staging.native(), std::ios::binary) << "edited";
         },
         never_, nullptr);
   }

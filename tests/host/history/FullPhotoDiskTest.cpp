@@ -136,14 +136,14 @@ class SetAsidePhoto : public Zenvora::Test::JournalTest {
     std::filesystem::copy_file((keptFolder_ / "1-before.jpg").for_system(),
                                (keptFolder_ / "1-spare").for_system());
     std::ofstream((keptFolder_ / "1-after.jpg").for_system()) << "edited photo";
-    RunSql(catalogue_, {"UPDATE steps SET state = 3",
-                        "UPDATE changes SET state = 3, side = CAST('" + side_.utf8string() + "' AS BLOB)"});
-    std::filesystem::rename(photo_.for_system(), side_.for_system());
-    std::ofstream(side_.for_system(), std::ios::binary) << content;
+    RunSql(catalogue_, {"UPDATE steps SET state = 3", "UPDATE changes SET state = 3, side = CAST('" +
+                                                          staging_.utf8string() + "' AS BLOB)"});
+    std::filesystem::rename(photo_.for_system(), staging_.for_system());
+    std::ofstream(staging_.for_system(), std::ios::binary) << content;
   }
 
   const ioPath photo_ = Make("a.jpg", "the original of the photo");
-  const ioPath side_ = tree_.Path("photos/.lumidex-side.jpg");
+  const ioPath staging_ = tree_.Path("photos/.lumidex-staging.jpg");
 };
 
 TEST_F(SetAsidePhoto, ComesBackWhereverTheWorkWasBrokenOff) {
@@ -153,7 +153,7 @@ TEST_F(SetAsidePhoto, ComesBackWhereverTheWorkWasBrokenOff) {
     Kill(content);
     Open();
     EXPECT_EQ(ReadFile(photo_), "the original of the photo");
-    EXPECT_FALSE(side_.exists());
+    EXPECT_FALSE(staging_.exists());
     ASSERT_EQ(journal_->RecoveryNotes().size(), 1U);
     EXPECT_THAT(journal_->RecoveryNotes()[0], HasSubstr("Interrupted undo of "));
     EXPECT_EQ(Redo().files, 1U);
@@ -179,17 +179,17 @@ TEST_F(SetAsidePhoto, IsNotSkippedNorForgottenWhileItIsAway) {
                           (keptFolder_ / "elsewhere").for_system());
   Open();
   EXPECT_FALSE(photo_.exists());
-  EXPECT_TRUE(side_.exists());
+  EXPECT_TRUE(staging_.exists());
   EXPECT_THROW(journal_->SkipLast(), HostError);
   UndoLimits none;
   none.bytes = 0;
   EXPECT_EQ(journal_->Prune(none), 0U);
-  EXPECT_TRUE(side_.exists());
+  EXPECT_TRUE(staging_.exists());
   std::filesystem::rename((keptFolder_ / "elsewhere").for_system(),
                           (keptFolder_ / "1-before.jpg").for_system());
   EXPECT_EQ(Undo().files, 1U);
   EXPECT_EQ(ReadFile(photo_), "the original of the photo");
-  EXPECT_FALSE(side_.exists());
+  EXPECT_FALSE(staging_.exists());
 }
 
 TEST_F(SetAsidePhoto, ComesBackWithItsSidecar) {
@@ -200,27 +200,27 @@ TEST_F(SetAsidePhoto, ComesBackWithItsSidecar) {
   journal_->BeginStep(QStringLiteral("edit"));
   std::vector<std::pair<ioPath, ioPath>> both = {{photo_, journal_->Edits().PlanEdit(photo_)},
                                                  {sidecar, journal_->Edits().PlanSidecar(sidecar)}};
-  for (const auto& [file, side] : both) {
-    std::ofstream(side.for_system()) << "new";
+  for (const auto& [file, staging] : both) {
+    std::ofstream(staging.for_system()) << "new";
     DataModel item;
     item.SetPath(file);
     journal_->RegisterFileChange(item, file);
   }
-  for (const auto& [file, side] : both) {
-    std::filesystem::rename(side.for_system(), file.for_system());
+  for (const auto& [file, staging] : both) {
+    std::filesystem::rename(staging.for_system(), file.for_system());
   }
   journal_->Edits().FinishEdit();
   journal_->EndStep();
   Close();
   RunSql(catalogue_,
-         {"UPDATE steps SET state = 3", "UPDATE changes SET state = 3, side = CAST('" + side_.utf8string() +
-                                            "' AS BLOB) WHERE goes_with IS NULL"});
-  std::filesystem::rename(photo_.for_system(), side_.for_system());
-  std::ofstream(side_.for_system(), std::ios::binary) << "ed";
+         {"UPDATE steps SET state = 3", "UPDATE changes SET state = 3, side = CAST('" +
+                                            staging_.utf8string() + "' AS BLOB) WHERE goes_with IS NULL"});
+  std::filesystem::rename(photo_.for_system(), staging_.for_system());
+  std::ofstream(staging_.for_system(), std::ios::binary) << "ed";
   Open();
   EXPECT_EQ(ReadFile(photo_), "edited photo");
   EXPECT_EQ(ReadFile(sidecar), "old sidecar");
-  EXPECT_FALSE(side_.exists());
+  EXPECT_FALSE(staging_.exists());
 }
 
 }  // namespace

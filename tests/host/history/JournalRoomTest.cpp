@@ -147,8 +147,8 @@ TEST_F(JournalRoomTest, SettlesAStepWithoutOriginalsThatWasBrokenOff) {
   const ioPath photo = Make("a.jpg", "old");
   journal_->KeepOriginals(false);
   journal_->BeginStep(QStringLiteral("edit"));
-  const ioPath side = journal_->Edits().PlanEdit(photo);
-  std::ofstream(side.for_system()) << "new";
+  const ioPath staging = journal_->Edits().PlanEdit(photo);
+  std::ofstream(staging.for_system()) << "new";
   DataModel item;
   item.SetPath(photo);
   journal_->RegisterFileChange(item, photo);
@@ -158,7 +158,7 @@ TEST_F(JournalRoomTest, SettlesAStepWithoutOriginalsThatWasBrokenOff) {
     tree_.Write("photos/a.jpg", content);
     Open();
     EXPECT_EQ(ReadFile(photo), content);
-    EXPECT_FALSE(side.exists());
+    EXPECT_FALSE(staging.exists());
   }
 }
 

@@ -25,8 +25,8 @@ TEST_F(KeptOriginal, PromisesNoOriginalThatWasNotKept) {
   const ioPath photo = Make("a.jpg", "old");
   journal_->KeepOriginals(false);
   journal_->BeginStep(QStringLiteral("edit"));
-  const ioPath side = journal_->Edits().PlanEdit(photo);
-  std::ofstream(side.for_system()) << "new";
+  const ioPath staging = journal_->Edits().PlanEdit(photo);
+  std::ofstream(staging.for_system()) << "new";
   DataModel item;
   item.SetPath(photo);
   journal_->RegisterFileChange(item, photo);

@@ -52,7 +52,7 @@ class SidecarJournal : public JournalTest {
     for (const auto& entry : std::filesystem::directory_iterator(tree_.Path("photos").for_system())) {
       files += entry.exists() ? 1 : 0;
     }
-    EXPECT_EQ(files, 2U) << "a side file is left";
+    EXPECT_EQ(files, 2U) << "a staging file is left";
   }
 
   const ioPath photo_ = Make("a.jpg", "photo before");

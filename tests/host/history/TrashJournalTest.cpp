@@ -62,7 +62,7 @@ class TrashJournal : public ::testing::Test {
     return {file, state.size, state.modifiedNs};
   }
 
-  static TrashAppendix Appendix(const ioPath& file) { return {Known(file), {}}; }
+  static AttachedFile Attached(const ioPath& file) { return {Known(file), {}}; }
 
   TrashPhoto Going(const std::string& name, const std::string& kept = "keep.jpg") const {
     return {Known(Photo(name)), Known(Photo(kept)), {}};
@@ -170,7 +170,7 @@ TEST_F(TrashJournal, TakesAlongWhatBelongsToAPhoto) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Appendix(Make("a.xmp", "settings"))};
+  photo.attached = {Attached(Make("a.xmp", "settings"))};
   const TrashResult result = Move({photo});
   EXPECT_EQ(result.photos, 1U);
   EXPECT_EQ(result.files, 2U);
@@ -184,7 +184,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoThatStays) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Appendix(Make("a.xmp", "settings"))};
+  photo.attached = {Attached(Make("a.xmp", "settings"))};
   Make("a.jpg", "other content");
   EXPECT_EQ(Move({photo}).files, 0U);
   EXPECT_THAT(Photos(), SizeIs(3));
@@ -196,7 +196,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToSeveralPhotosWhileOneStays) {
   }
   const TrashPhoto first = Going("a.jpg");
   TrashPhoto last = Going("a.png");
-  last.appendix = {{Known(Make("a.xmp", "settings")), {first.photo.path, last.photo.path}}};
+  last.attached = {{Known(Make("a.xmp", "settings")), {first.photo.path, last.photo.path}}};
   Make("a.jpg", "edited meanwhile");
   const TrashResult result = Move({first, last});
   EXPECT_EQ(result.files, 1U);
@@ -435,7 +435,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoAndIsNotAsItWas) {
   Make("keep.jpg", "K");
   Make("a.jpg", "A");
   TrashPhoto photo = Going("a.jpg");
-  photo.appendix = {Appendix(Make("a.xmp", "settings")), Appendix(Make("a.thm", "thumbnail"))};
+  photo.attached = {Attached(Make("a.xmp", "settings")), Attached(Make("a.thm", "thumbnail"))};
   Make("a.xmp", "changed while somebody was asked");
   Photo("a.thm").remove();
   std::filesystem::create_directory(Photo("a.thm").native());
@@ -580,7 +580,7 @@ TEST_F(TrashJournal, LeavesWhatBelongsToAPhotoThatIsNotMovedAgain) {
     Make(name, name);
   }
   TrashPhoto first = Going("a.jpg");
-  first.appendix = {Appendix(Make("a.xmp", "settings"))};
+  first.attached = {Attached(Make("a.xmp", "settings"))};
   ASSERT_EQ(Move({first, Going("b.jpg")}).files, 3U);
   ASSERT_EQ(Undo().files, 3U);
   Make("a.jpg", "edited meanwhile");
@@ -598,7 +598,7 @@ TEST_F(TrashJournal, LetsEditsBeforeBeTakenBack) {
   const ioPath photo = Make("a.jpg", "old");
   EditPhotos(
       journal_->Edits(), *locker_, QStringLiteral("edit"), {photo},
-      [](const ioPath&, const ioPath& side) { WriteBytes(side, "edited"); }, never_, nullptr);
+      [](const ioPath&, const ioPath& staging) { WriteBytes(staging, "edited"); }, never_, nullptr);
   MoveNames({"a.jpg"});
   EXPECT_EQ(Undo().files, 1U);
   EXPECT_EQ(ReadFile(photo), "edited");

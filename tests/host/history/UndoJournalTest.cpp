@@ -75,14 +75,14 @@ class UndoJournalTest : public ::testing::Test {
 
   /// Puts new content into the photos, as an edit does.
   UndoResult Edit(const std::vector<ioPath>& photos, const std::string& content) {
-    return Edit(photos, [&](const ioPath& photo, const ioPath& side) {
-      EXPECT_EQ(side.parent_path(), photo.parent_path());
-      EXPECT_EQ(side.filename().utf8string().front(), '.');
-      WriteBytes(side, content);
+    return Edit(photos, [&](const ioPath& photo, const ioPath& staging) {
+      EXPECT_EQ(staging.parent_path(), photo.parent_path());
+      EXPECT_EQ(staging.filename().utf8string().front(), '.');
+      WriteBytes(staging, content);
     });
   }
   UndoResult Edit(const std::vector<ioPath>& photos,
-                  const std::function<void(const ioPath& photo, const ioPath& side)>& write) {
+                  const std::function<void(const ioPath& photo, const ioPath& staging)>& write) {
     return EditPhotos(journal_->Edits(), *locker_, QStringLiteral("edit"), photos, write, never_, nullptr);
   }
 
@@ -97,12 +97,12 @@ class UndoJournalTest : public ::testing::Test {
     journal_->RegisterFileChange(item, to);
   }
 
-  /// An edit up to the moment before the side file replaces the photo. Returns the side file.
+  /// An edit up to the moment before the staging file replaces the photo. Returns the staging file.
   ioPath BeginEdit(const ioPath& photo, const std::string& content) {
     journal_->BeginStep(QStringLiteral("edit"));
-    ioPath side = journal_->Edits().PlanEdit(photo);
-    WriteBytes(side, content);
-    return side;
+    ioPath staging = journal_->Edits().PlanEdit(photo);
+    WriteBytes(staging, content);
+    return staging;
   }
 
   static void WriteBytes(const ioPath& file, const std::string& content) {
@@ -429,15 +429,15 @@ TEST_F(UndoJournalTest, KeepsWhatIsKeptOfASkippedStepUntilItIsPruned) {
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
 }
 
-TEST_F(UndoJournalTest, LeavesNoSideFileOfASkippedStep) {
+TEST_F(UndoJournalTest, LeavesNoStagingFileOfASkippedStep) {
   const ioPath photo = Make("a.jpg", "1");
   Edit({photo}, "2");
   // An exchange that was broken off, while another program put something else there.
-  const ioPath side = Make(".lumidex-side.jpg", "1");
+  const ioPath staging = Make(".lumidex-staging.jpg", "1");
   WriteBytes(AfterOf(OnlyKeptFile()), "2");
   WriteBytes(photo, "by others");
   StopIn(3);
-  Sql("UPDATE changes SET state = 3, side = CAST('" + side.utf8string() + "' AS BLOB)");
+  Sql("UPDATE changes SET state = 3, side = CAST('" + staging.utf8string() + "' AS BLOB)");
   Open();
   EXPECT_EQ(journal_->RecoveryNotes().size(), 2U);
   ASSERT_TRUE(journal_->SkipLast());
@@ -449,10 +449,10 @@ TEST_F(UndoJournalTest, LeavesNoSideFileOfASkippedStep) {
 TEST_F(UndoJournalTest, EditsTheOthersWhenOneFails) {
   const ioPath photo = Make("a.jpg", "1");
   const ioPath second = Make("b.jpg", "1");
-  const UndoResult result = Edit({photo, second}, [&](const ioPath& file, const ioPath& side) {
-    WriteBytes(side, "2");
+  const UndoResult result = Edit({photo, second}, [&](const ioPath& file, const ioPath& staging) {
+    WriteBytes(staging, "2");
     if (file == photo) {
-      side.remove();
+      staging.remove();
       throw std::runtime_error("a.jpg is damaged");
     }
   });
@@ -507,8 +507,8 @@ TEST_F(UndoJournalTest, PointsAnAdoptedPhotoBack) {
 TEST_F(UndoJournalTest, SeesToAChangeThatNobodyAnnounced) {
   const ioPath photo = Make("a.jpg", "1");
   Register(photo, photo);
-  WriteBytes(Photo("side"), "2");
-  ASSERT_TRUE(Photo("side").rename(photo));
+  WriteBytes(Photo("staging"), "2");
+  ASSERT_TRUE(Photo("staging").rename(photo));
   EXPECT_TRUE(journal_->Undo());
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
 }
@@ -602,9 +602,9 @@ TEST_F(UndoJournalTest, FinishesWhatItBrokeOffWithPhotosThatOthersReplacedBefore
       Files replaced;
       for (const auto& [name, content] : before) {
         // As programs do that keep the photo until the new one is whole.
-        const ioPath side = Make("side", content + " of another program");
+        const ioPath staging = Make("staging", content + " of another program");
         Photo(name).remove();
-        ASSERT_TRUE(side.rename(Photo(name)));
+        ASSERT_TRUE(staging.rename(Photo(name)));
         replaced[name] = content + " of another program";
       }
       ASSERT_NE(replaced, before);
@@ -728,9 +728,9 @@ TEST_F(UndoJournalTest, ForgetsAnEditThatHadNotReplacedYet) {
 
 TEST_F(UndoJournalTest, KnowsAnEditThatHadReplaced) {
   const ioPath photo = Make("a.jpg", "1");
-  const ioPath side = BeginEdit(photo, "2");
+  const ioPath staging = BeginEdit(photo, "2");
   Register(photo, photo);
-  ASSERT_TRUE(side.rename(photo));
+  ASSERT_TRUE(staging.rename(photo));
   Open();
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
   EXPECT_EQ(journal_->Steps().size(), 1U);
@@ -859,17 +859,17 @@ TEST_F(UndoJournalTest, KeepsTheOriginalWhenAReplacementOnlySeemsToFail) {
   MovingLocker locker(photo);
   const UndoResult result = EditPhotos(
       journal_->Edits(), locker, QStringLiteral("edit"), {photo},
-      [](const ioPath&, const ioPath& side) { WriteBytes(side, "2"); }, never_, nullptr);
+      [](const ioPath&, const ioPath& staging) { WriteBytes(staging, "2"); }, never_, nullptr);
   EXPECT_EQ(result.findings.size(), 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "2"}}));
   EXPECT_EQ(journal_->UndoLast(never_, nullptr).files, 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
 }
 
-TEST_F(UndoJournalTest, RemovesTheSideFileOfAFailedEdit) {
+TEST_F(UndoJournalTest, RemovesTheStagingFileOfAFailedEdit) {
   const ioPath photo = Make("a.jpg", "1");
-  Edit({photo}, [](const ioPath&, const ioPath& side) {
-    WriteBytes(side, "half");
+  Edit({photo}, [](const ioPath&, const ioPath& staging) {
+    WriteBytes(staging, "half");
     throw std::runtime_error("no");
   });
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "1"}}));
@@ -985,10 +985,10 @@ constexpr std::size_t kSmall = std::size_t{1} << 20U;
   }                                                                \
   static_assert(true)
 
-/// Writes the side file as an edit does, and fails as one.
-void WriteSide(const ioPath& side, const std::string& content) {
+/// Writes the staging file as an edit does, and fails as one.
+void WriteStaging(const ioPath& staging, const std::string& content) {
   NewFile file;
-  std::error_code error = file.Create(side);
+  std::error_code error = file.Create(staging);
   error = error ? error : file.Write(content.data(), content.size());
   error = error ? error : file.Close(true);
   if (error) {
@@ -1003,8 +1003,8 @@ TEST_F(UndoJournalTest, LosesNothingWhenThePhotosDiskIsFull) {
   const std::string old(kSmall / 2, 'x');
   const ioPath photo = Make("a.jpg", old);
   const ioPath small = Make("b.jpg", "small");
-  const UndoResult result = Edit({photo, small}, [&](const ioPath& file, const ioPath& side) {
-    WriteSide(side, file == photo ? std::string(kSmall, 'y') : "other");
+  const UndoResult result = Edit({photo, small}, [&](const ioPath& file, const ioPath& staging) {
+    WriteStaging(staging, file == photo ? std::string(kSmall, 'y') : "other");
   });
   EXPECT_EQ(result.files, 1U);
   ASSERT_EQ(result.findings.size(), 1U);
@@ -1022,7 +1022,7 @@ TEST_F(UndoJournalTest, LosesNothingWhenTheJournalsDiskIsFull) {
   UndoJournal journal(place / "catalogue.sqlite", *locker_);
   const UndoResult result = EditPhotos(
       journal.Edits(), *locker_, QStringLiteral("edit"), {photo},
-      [](const ioPath&, const ioPath& side) { WriteSide(side, "edited"); }, never_, nullptr);
+      [](const ioPath&, const ioPath& staging) { WriteStaging(staging, "edited"); }, never_, nullptr);
   EXPECT_EQ(result.files, 0U);
   EXPECT_EQ(result.findings.size(), 1U);
   EXPECT_EQ(Folder(), (Files{{"a.jpg", std::string(4 * kSmall, 'x')}}));
@@ -1098,11 +1098,11 @@ void ExpectRightsGoAlong(UndoJournal& journal, IFileAccessLocker& locker, const 
   Rights after;
   EditPhotos(
       journal.Edits(), locker, QStringLiteral("edit"), {photo},
-      [&after](const ioPath&, const ioPath& side) {
-        std::ofstream(side.native()) << "edited";
+      [&after](const ioPath&, const ioPath& staging) {
+        std::ofstream(staging.native()) << "edited";
         Rights others;
         others.mode = 0604;
-        after = Give(side, others);
+        after = Give(staging, others);
       },
       never, nullptr);
   ASSERT_EQ(RightsOf(photo), after);

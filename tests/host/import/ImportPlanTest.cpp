@@ -270,7 +270,7 @@ TEST_F(ImportPlanning, CopiesOneOfTwoSourcesOfOneContent) {
   EXPECT_EQ(plan.known[0].kind, KnownFile::Kind::Repeated);
 }
 
-TEST_F(ImportPlanning, CopiesSideFilesOfOneContentAll) {
+TEST_F(ImportPlanning, CopiesSidecarsOfOneContentAll) {
   for (const char* const name : {"card/a.xmp", "card/b.xmp"}) {
     tree.Write(name, "the same");
   }
@@ -279,7 +279,7 @@ TEST_F(ImportPlanning, CopiesSideFilesOfOneContentAll) {
   EXPECT_THAT(PlanTo({Card()}).copies, SizeIs(4));
 }
 
-TEST_F(ImportPlanning, KnowsSideFilesBesideTheKnownPhoto) {
+TEST_F(ImportPlanning, KnowsSidecarsBesideTheKnownPhoto) {
   MakePhoto("pictures/Trip 1.jpg", 1);
   tree.Write("pictures/Trip 1.xmp", "stars");
   Scan(Stored(), {tree.Path("pictures")}, {}, nullptr);

@@ -121,7 +121,7 @@ TEST_F(ImportRunning, HasNothingToDoTheSecondTime) {
   EXPECT_EQ(Snapshot(Copies()), before);
 }
 
-TEST_F(ImportRunning, KnowsCopiesOfSideFilesByAnotherPathToo) {
+TEST_F(ImportRunning, KnowsCopiesOfSidecarsByAnotherPathToo) {
   MakePhoto("card/a.jpg", 1);
   tree.Write("card/a.xmp", "stars");
   Carry(PlanTo({Card()}));
@@ -179,7 +179,7 @@ TEST_F(ImportRunning, KnowsCopiesWhoseTimeADiskToldInAnotherWayLater) {
   EXPECT_THAT(again.known, SizeIs(2));
 }
 
-TEST_F(ImportRunning, CopiesASideFileWithItsPhotoAlsoWhenOneOfAnotherShotIsLikeIt) {
+TEST_F(ImportRunning, CopiesASidecarWithItsPhotoAlsoWhenOneOfAnotherShotIsLikeIt) {
   MakePhoto("card/IMG.JPG", 1);
   tree.Write("card/IMG.xmp", "five stars");
   Carry(PlanTo({Card()}));
@@ -192,7 +192,7 @@ TEST_F(ImportRunning, CopiesASideFileWithItsPhotoAlsoWhenOneOfAnotherShotIsLikeI
   EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
 }
 
-TEST_F(ImportRunning, TakesASideFileWhosePhotoIsStillMissingForTheOneOfItsOwnShotOnly) {
+TEST_F(ImportRunning, TakesASidecarWhosePhotoIsStillMissingForTheOneOfItsOwnShotOnly) {
   for (const char* const folder : {"card/1", "card/2"}) {
     tree.Write(std::string(folder) + "/IMG.xmp", "five stars");
   }
@@ -209,7 +209,7 @@ TEST_F(ImportRunning, TakesASideFileWhosePhotoIsStillMissingForTheOneOfItsOwnSho
   EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
 }
 
-TEST_F(ImportRunning, KnowsASideFileWhosePhotoIsStillMissing) {
+TEST_F(ImportRunning, KnowsASidecarWhosePhotoIsStillMissing) {
   const ioPath photo = MakePhoto("card/IMG.JPG", 1);
   tree.Write("card/IMG.xmp", "five stars");
   const ImportPlan plan = PlanTo({Card()});

@@ -135,7 +135,7 @@ TEST_F(ImportSources, PicturesAndFilmsUnderNamesOfHousekeepingAreTold) {
   EXPECT_EQ(found_.housekeeping, 2U);
 }
 
-TEST_F(ImportSources, BringTheirSideFilesButNoOtherPhotosWhenNamedThemselves) {
+TEST_F(ImportSources, BringTheirSidecarsButNoOtherPhotosWhenNamedThemselves) {
   for (const char* const name : {"card/IMG_1.CR2", "card/IMG_1.JPG", "card/IMG_1.xmp", "card/IMG_2.xmp"}) {
     tree.Write(name, name);
   }

@@ -51,7 +51,7 @@ class TrashPlanTest : public ::testing::Test {
     std::vector<std::string> names;
     for (const TrashPhoto& photo : plan.photos) {
       std::string name = Name(photo.photo.path);
-      for (const SeenFile& file : photo.appendix) {
+      for (const SeenFile& file : photo.attached) {
         name += " +" + Name(file.path);
       }
       names.push_back(name);
@@ -229,7 +229,7 @@ TEST_F(TrashPlanTest, LeavesWhatALinkLeadsTo) {
   LUMIDEX_LINK_OR_SKIP("../other.xmp", best / "settings.xmp");
   const TrashPlan plan = PlanTrash({Group({"keep.jpg", "chosen.jpg", "other.jpg"})});
   EXPECT_THAT(Going(plan), ElementsAre("other.jpg"));
-  EXPECT_THAT(plan.photos[0].appendix, IsEmpty());
+  EXPECT_THAT(plan.photos[0].attached, IsEmpty());
   ASSERT_EQ(Staying(plan), std::vector<std::string>{"chosen.jpg"});
   EXPECT_THAT(plan.stays[0].cause,
               HasSubstr("the link " + (best / "first.jpg").utf8string() + " leads to it"));
@@ -322,11 +322,11 @@ TEST_F(TrashPlanTest, LooksOnceMoreWhetherTheKeptSettingsAreTheSame) {
   tree_.Write("photos/keep.xmp", "settings");
   const TrashPlan plan = PlanTrash({Group({"keep.jpg", "a.jpg"})});
   ASSERT_EQ(plan.photos.size(), 1U);
-  ASSERT_EQ(plan.photos[0].appendix.size(), 1U);
+  ASSERT_EQ(plan.photos[0].attached.size(), 1U);
   tree_.Path("photos/a.jpg").remove();
-  EXPECT_EQ(FindTrashFault(plan.photos[0].appendix[0]), "");
+  EXPECT_EQ(FindTrashFault(plan.photos[0].attached[0]), "");
   tree_.Write("photos/keep.xmp", "something else");
-  EXPECT_THAT(FindTrashFault(plan.photos[0].appendix[0]), HasSubstr("were changed"));
+  EXPECT_THAT(FindTrashFault(plan.photos[0].attached[0]), HasSubstr("were changed"));
 }
 
 TEST_F(TrashPlanTest, LeavesSettingsOfAShotOfWhichAPhotoStays) {
@@ -383,13 +383,13 @@ TEST(RawNames, AreThoseOfPhotos) {
   }
 }
 
-TEST(AppendixNames, AreThoseOfWhatSaysNothingAlone) {
+TEST(AttachedNames, AreThoseOfWhatSaysNothingAlone) {
   for (const char* const name : {"a.xmp", "a.CR2.XMP", "a.thm", "a.dop"}) {
-    EXPECT_TRUE(IsAppendixName(name)) << name;
+    EXPECT_TRUE(IsAttachedName(name)) << name;
     EXPECT_TRUE(IsShotFile(name)) << name;
   }
   for (const char* const name : {"a.mov", "a.psd", "a.wav", "a.jpg", "a.txt"}) {
-    EXPECT_FALSE(IsAppendixName(name)) << name;
+    EXPECT_FALSE(IsAttachedName(name)) << name;
   }
 }
 

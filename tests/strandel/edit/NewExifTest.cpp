@@ -42,8 +42,8 @@ std::string Turned(const std::string& bytes) {
   const TempTree tree;
   PhotoEdit edit;
   edit.turn = Turn::Right;
-  WriteEdited(tree.Write("photo", bytes), tree.Path("side"), edit);
-  return ReadFile(tree.Path("side"));
+  WriteEdited(tree.Write("photo", bytes), tree.Path("staging"), edit);
+  return ReadFile(tree.Path("staging"));
 }
 
 /// A JPEG segment right behind the start of the picture.

@@ -85,20 +85,20 @@ std::string With(const std::string& bytes, const std::function<void(Exiv2::Image
 std::string Edited(const std::string& bytes, const PhotoEdit& edit) {
   const TempTree tree;
   const ioPath photo = tree.Write("photo", bytes);
-  WriteEdited(photo, tree.Path("side"), edit);
+  WriteEdited(photo, tree.Path("staging"), edit);
   EXPECT_EQ(ReadFile(photo), bytes) << "the photo itself";
-  return ReadFile(tree.Path("side"));
+  return ReadFile(tree.Path("staging"));
 }
 
 /// Why it is not edited; empty: it is.
 std::string Refusal(const std::string& bytes, const PhotoEdit& edit) {
   const TempTree tree;
   const ioPath photo = tree.Write("photo", bytes);
-  const ioPath side = tree.Path("side");
+  const ioPath staging = tree.Path("staging");
   try {
-    WriteEdited(photo, side, edit);
+    WriteEdited(photo, staging, edit);
   } catch (const PhotoEditError& error) {
-    EXPECT_FALSE(side.exists());
+    EXPECT_FALSE(staging.exists());
     EXPECT_EQ(ReadFile(photo), bytes);
     const std::string* const name = boost::get_error_info<TagFilename>(error);
     EXPECT_TRUE(name != nullptr && *name == photo.utf8string());
@@ -535,12 +535,12 @@ TEST(PhotoEdit, SetsMilliseconds) {
 TEST(PhotoEdit, SetsTheDateOfPhotosThatHadNone) {
   for (const Bare& bare : PhotosWithoutExif()) {
     const TempTree tree;
-    const ioPath side = tree.Path("side");
-    WriteEdited(tree.Write("photo", bare.bytes), side, SetTo(123));
-    const PhotoFacts facts = ReadPhotoFacts(side);
+    const ioPath staging = tree.Path("staging");
+    WriteEdited(tree.Write("photo", bare.bytes), staging, SetTo(123));
+    const PhotoFacts facts = ReadPhotoFacts(staging);
     EXPECT_EQ(facts.original, SetTo(123).date) << bare.name;
     EXPECT_EQ(facts.digitised, SetTo(123).date) << bare.name;
-    EXPECT_EQ(Text(ReadFile(side), "Exif.Image.DateTime"), "2003:02:01 04:05:06") << bare.name;
+    EXPECT_EQ(Text(ReadFile(staging), "Exif.Image.DateTime"), "2003:02:01 04:05:06") << bare.name;
   }
 }
 
@@ -721,16 +721,16 @@ TEST(PhotoEdit, RefusesWhatIsNoPicture) {
 
 TEST(PhotoEdit, RefusesWhatIsNoFile) {
   const TempTree tree;
-  const ioPath side = tree.Path("side");
+  const ioPath staging = tree.Path("staging");
   std::vector<ioPath> photos = {tree.Path("missing"), tree.MakeFolder("folder"), ioPath()};
 #ifndef _WIN32
   ASSERT_EQ(mkfifo(tree.Path("pipe").native().c_str(), 0600), 0);
   photos.push_back(tree.Path("pipe"));
 #endif
   for (const ioPath& photo : photos) {
-    EXPECT_THROW(WriteEdited(photo, side, Turned(Turn::Half)), PhotoEditError) << photo;
+    EXPECT_THROW(WriteEdited(photo, staging, Turned(Turn::Half)), PhotoEditError) << photo;
     EXPECT_NE(WhyNotEditable(photo), "") << photo;
-    EXPECT_FALSE(side.exists());
+    EXPECT_FALSE(staging.exists());
   }
 }
 
@@ -740,7 +740,7 @@ TEST(PhotoEdit, RefusesWhatIsLargerThanTwoGiB) {
   // A hole: it takes no room on the disk.
   std::filesystem::resize_file(photo.native(), std::uintmax_t{1} << 31U);
   try {
-    WriteEdited(photo, tree.Path("side"), Turned(Turn::Half));
+    WriteEdited(photo, tree.Path("staging"), Turned(Turn::Half));
     ADD_FAILURE() << "it was edited";
   } catch (const PhotoEditError& error) {
     EXPECT_NE(std::string(error.what()).find("it is larger than 2 GiB"), std::string::npos);
@@ -796,17 +796,17 @@ std::vector<std::string> SmallPhotos() {
 
 bool IsEditedOrRefused(const TempTree& tree, const std::string& bytes, const PhotoEdit& edit) {
   const ioPath photo = tree.Path("photo");
-  const ioPath side = tree.Path("side");
+  const ioPath staging = tree.Path("staging");
   photo.remove();
-  side.remove();
+  staging.remove();
   tree.Write("photo", bytes);
   try {
-    WriteEdited(photo, side, edit);
+    WriteEdited(photo, staging, edit);
   } catch (const PhotoEditError&) {
-    EXPECT_FALSE(side.exists());
+    EXPECT_FALSE(staging.exists());
     return false;
   }
-  const std::string edited = ReadFile(side);
+  const std::string edited = ReadFile(staging);
   const std::size_t scan = bytes.rfind("\xFF\xDA");
   if (bytes.compare(0, 2, "\xFF\xD8") == 0 && scan != std::string::npos) {
     EXPECT_EQ(edited.substr(edited.rfind("\xFF\xDA")), bytes.substr(scan));
@@ -871,18 +871,18 @@ TEST(PhotoEdit, RefusesDirectoriesThatMakeNoSense) {
   Refusal(loop.Finish(self), SetTo());
 }
 
-// --- The side file ---
+// --- The staging file ---
 
 TEST(PhotoEdit, NeverOverwrites) {
   const TempTree tree;
   const ioPath photo = tree.Write("photo", MakeJpeg(Tags(1)));
-  const ioPath side = tree.Write("side", "precious");
-  for (const ioPath& taken : {side, photo, tree.MakeFolder("folder")}) {
+  const ioPath staging = tree.Write("staging", "precious");
+  for (const ioPath& taken : {staging, photo, tree.MakeFolder("folder")}) {
     EXPECT_THROW(WriteEdited(photo, taken, Turned(Turn::Half)), PhotoEditError);
   }
-  EXPECT_EQ(ReadFile(side), "precious");
+  EXPECT_EQ(ReadFile(staging), "precious");
   EXPECT_EQ(ReadFile(photo), MakeJpeg(Tags(1)));
-  EXPECT_THROW(WriteEdited(photo, tree.Path("missing/side"), Turned(Turn::Half)), PhotoEditError);
+  EXPECT_THROW(WriteEdited(photo, tree.Path("missing/staging"), Turned(Turn::Half)), PhotoEditError);
 }
 
 TEST(PhotoEdit, KeepsTheTimeOfChange) {
@@ -892,8 +892,8 @@ TEST(PhotoEdit, KeepsTheTimeOfChange) {
                                    std::filesystem::last_write_time(photo.native()) -
                                        std::chrono::duration_cast<std::filesystem::file_time_type::duration>(
                                            std::chrono::nanoseconds(98'765'432'198'700)));
-  WriteEdited(photo, tree.Path("side"), Turned(Turn::Half));
-  EXPECT_EQ(QueryFile(tree.Path("side")).modifiedNs, QueryFile(photo).modifiedNs);
+  WriteEdited(photo, tree.Path("staging"), Turned(Turn::Half));
+  EXPECT_EQ(QueryFile(tree.Path("staging")).modifiedNs, QueryFile(photo).modifiedNs);
 }
 
 #ifndef _WIN32
@@ -903,11 +903,11 @@ TEST(PhotoEdit, KeepsThePermissions) {
   const ioPath photo = tree.Write("photo", MakeJpeg(Tags(1)));
   for (const mode_t mode : {mode_t{0400}, mode_t{0664}}) {
     ASSERT_EQ(chmod(photo.native().c_str(), mode), 0);
-    const ioPath side = tree.Path("side");
-    side.remove();
-    WriteEdited(photo, side, Turned(Turn::Half));
+    const ioPath staging = tree.Path("staging");
+    staging.remove();
+    WriteEdited(photo, staging, Turned(Turn::Half));
     struct stat facts = {};
-    ASSERT_EQ(stat(side.native().c_str(), &facts), 0);
+    ASSERT_EQ(stat(staging.native().c_str(), &facts), 0);
     EXPECT_EQ(facts.st_mode & 0777U, mode);
   }
 }
@@ -915,14 +915,14 @@ TEST(PhotoEdit, KeepsThePermissions) {
 TEST(PhotoEdit, LeavesNothingOnAFullDisk) {
   const TempTree tree;
   const ioPath photo = tree.Write("photo", MakeJpeg(Tags(1)));
-  const ioPath side = tree.Path("side");
+  const ioPath staging = tree.Path("staging");
   for (const rlim_t room : {rlim_t{0}, rlim_t{1}, rlim_t{photo.file_size() - 1}}) {
     const WriteLimit limit(room);
-    EXPECT_THROW(WriteEdited(photo, side, Turned(Turn::Half)), PhotoEditError) << room;
-    EXPECT_FALSE(side.exists());
+    EXPECT_THROW(WriteEdited(photo, staging, Turned(Turn::Half)), PhotoEditError) << room;
+    EXPECT_FALSE(staging.exists());
   }
-  WriteEdited(photo, side, Turned(Turn::Half));
-  EXPECT_TRUE(side.exists());
+  WriteEdited(photo, staging, Turned(Turn::Half));
+  EXPECT_TRUE(staging.exists());
 }
 
 TEST(PhotoEdit, TakesNamesThatAreNoText) {

@@ -79,17 +79,17 @@ class SidecarEdits : public testing::Test {
   /// What the edit makes of the bytes; the same bytes where it changes nothing.
   std::string Edited(const std::string& bytes, const PhotoEdit& edit) const {
     const ioPath sidecar = tree.Write("a.xmp", bytes);
-    const ioPath side = tree.Path(".side.xmp");
+    const ioPath staging = tree.Path(".staging.xmp");
     const bool tried = TryEditSidecar(sidecar, photo, edit);
-    EXPECT_EQ(WriteEditedSidecar(sidecar, side, photo, edit), tried);
+    EXPECT_EQ(WriteEditedSidecar(sidecar, staging, photo, edit), tried);
     EXPECT_EQ(Zenvora::Test::ReadFile(sidecar), bytes);
-    EXPECT_EQ(side.exists(), tried);
+    EXPECT_EQ(staging.exists(), tried);
     if (!tried) {
       return bytes;
     }
-    EXPECT_EQ(QueryFile(side).modifiedNs, QueryFile(sidecar).modifiedNs);
-    std::string result = Zenvora::Test::ReadFile(side);
-    side.remove();
+    EXPECT_EQ(QueryFile(staging).modifiedNs, QueryFile(sidecar).modifiedNs);
+    std::string result = Zenvora::Test::ReadFile(staging);
+    staging.remove();
     return result;
   }
   /// Why it is refused; both ways say the same.
@@ -103,12 +103,12 @@ class SidecarEdits : public testing::Test {
       tried = error.what();
     }
     try {
-      WriteEditedSidecar(sidecar, tree.Path(".side.xmp"), photo, edit);
+      WriteEditedSidecar(sidecar, tree.Path(".staging.xmp"), photo, edit);
     } catch (const PhotoEditError& error) {
       written = error.what();
     }
     EXPECT_EQ(tried, written);
-    EXPECT_FALSE(tree.Path(".side.xmp").exists());
+    EXPECT_FALSE(tree.Path(".staging.xmp").exists());
     return tried;
   }
 

@@ -93,10 +93,10 @@ TEST(PngWithABadText, IsEditedLikeAnyOther) {
   edit.shift = std::chrono::hours(1);
   const std::string bad = BadChunks().front();
   const std::string bytes = PngWith(bad + ExifChunk() + XmpChunk("2019-07-14T11:22:33"));
-  const ioPath side = tree.Path("side");
-  WriteEdited(tree.Write("a.png", bytes), side, edit);
-  EXPECT_NE(ReadFile(side).find(bad), std::string::npos);
-  const PhotoFacts facts = ReadPhotoFacts(side);
+  const ioPath staging = tree.Path("staging");
+  WriteEdited(tree.Write("a.png", bytes), staging, edit);
+  EXPECT_NE(ReadFile(staging).find(bad), std::string::npos);
+  const PhotoFacts facts = ReadPhotoFacts(staging);
   EXPECT_EQ(facts.original, QDateTime(QDate(2019, 7, 14), QTime(12, 22, 33, 250)));
   EXPECT_EQ(facts.xmp, QDateTime(QDate(2019, 7, 14), QTime(12, 22, 33)));
 }

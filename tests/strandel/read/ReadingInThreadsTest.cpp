@@ -124,10 +124,10 @@ TEST(Editing, WorksWhileOthersReadAndEdit) {
     int right = 0;
     for (std::size_t i = 0; i < files.size(); ++i) {
       const ioPath& file = files[(own + i) % files.size()];
-      const ioPath side = tree.Path("side" + std::to_string(own) + "-" + std::to_string(i));
-      WriteEdited(file, side, edit);
+      const ioPath staging = tree.Path("staging" + std::to_string(own) + "-" + std::to_string(i));
+      WriteEdited(file, staging, edit);
       right += ReadPhotoFacts(file).original == QDateTime(QDate(2021, 5, 1), QTime(10, 20, 30)) ? 1 : 0;
-      right += ReadPhotoFacts(side).original == QDateTime(QDate(2021, 5, 1), QTime(11, 20, 30)) ? 1 : 0;
+      right += ReadPhotoFacts(staging).original == QDateTime(QDate(2021, 5, 1), QTime(11, 20, 30)) ? 1 : 0;
     }
     return right;
   };

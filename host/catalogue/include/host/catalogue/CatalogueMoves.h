@@ -60,8 +60,8 @@ class CatalogueMoves {
   /// of it or, when it throws, nothing. A photo that the catalogue has under one of the new names and that is
   /// not given another is lost, under a name that no file has. What another process changed meanwhile is
   /// passed over.
-  /// Steps of the journal follow the photos, and `companions`, which moved along with them.
-  Outcome Follow(const std::vector<FollowedPhoto>& photos, const std::vector<MovedName>& companions,
+  /// Steps of the journal follow the photos, and `shotFiles`, which moved along with them.
+  Outcome Follow(const std::vector<FollowedPhoto>& photos, const std::vector<MovedName>& shotFiles,
                  const std::vector<PhotoRecord>& others) const;
 
   /// Notes where volumes are.

@@ -14,7 +14,7 @@ namespace Zenvora::Lumidex::Host {
 struct LinkChange {
   ioPath link;
   /// Under which its successor waits, hidden, in the same folder.
-  ioPath side;
+  ioPath staging;
   std::string before;
   std::string after;
 };

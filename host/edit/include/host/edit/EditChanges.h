@@ -19,7 +19,7 @@ struct ChangeRow {
   qlonglong number = 0;
   State state = State::Planned;
   ioPath path;
-  ioPath side;
+  ioPath staging;
   bool adopted = false;
   QByteArray digestBefore;
   QByteArray digestAfter;
@@ -37,7 +37,7 @@ struct ChangeRow {
 
 /// A name for the staging file of a photo: short, whatever the length of the photo's own, and hidden from
 /// scans.
-ioPath SideName(const ioPath& photo);
+ioPath StagingName(const ioPath& photo);
 
 /// Of a step, in the order in which they were made.
 std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong step);

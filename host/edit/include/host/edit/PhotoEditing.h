@@ -24,7 +24,7 @@ struct EditOrder {
 };
 
 /// Makes the staging file with the edited photo; throws what derives from `std::exception` when it cannot.
-using WriteSide = std::function<void(const ioPath& photo, const ioPath& side)>;
+using WriteStaging = std::function<void(const ioPath& photo, const ioPath& staging)>;
 
 struct EditResult : UndoResult {
   std::size_t photos = 0;
@@ -42,7 +42,7 @@ EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const EditOrd
 /// The same in another way than `Strandel::WriteEdited`, without sidecars and without asking beforehand; of a
 /// link it is the file that it leads to.
 EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const QString& name,
-                      const std::vector<ioPath>& photos, const WriteSide& write,
+                      const std::vector<ioPath>& photos, const WriteStaging& write,
                       const std::atomic<bool>& cancelled, const UndoProgress& progress);
 
 }  // namespace Zenvora::Lumidex::Host

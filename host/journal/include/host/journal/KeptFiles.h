@@ -32,8 +32,8 @@ class KeptFiles {
   /// the name before is replaced. True when it is a copy, and
   /// putting it back makes another one.
   bool Keep(const ioPath& file, const std::string& name) const;
-  /// Makes the new file `side` of what is kept, likewise.
-  void PutBeside(const std::string& name, const ioPath& side) const;
+  /// Makes the new file `staging` of what is kept, likewise.
+  void PutBeside(const std::string& name, const ioPath& staging) const;
   /// Writes what is kept over the content of `file`, which has no other name, in the room that it has: safe
   /// on the disk when this returns. Throws `NoRoomError` where that is too small, as a rule before anything
   /// is written; whether something was, only the content tells.

@@ -53,7 +53,7 @@ bool IsFilmName(std::string_view name);
 
 /// True for names of what says nothing without the photo that it lies beside: settings and thumbnails. Films,
 /// spoken notes and layered pictures are worth something by themselves.
-bool IsAppendixName(std::string_view name);
+bool IsAttachedName(std::string_view name);
 
 /// True for names of what people did to a photo: settings, ratings, texts; thumbnails are none of it.
 bool IsSettingsName(std::string_view name);

@@ -16,7 +16,7 @@
 namespace Zenvora::Lumidex::Host {
 
 /// What lies beside photos and says nothing without them.
-struct TrashAppendix : SeenFile {
+struct AttachedFile : SeenFile {
   std::vector<ioPath> photos;  ///< It stays while one of them is there.
   /// Of settings those of the same bytes beside the photo that is kept, without which they stay; a path that
   /// is empty: none are needed.
@@ -26,9 +26,9 @@ struct TrashAppendix : SeenFile {
 /// A photo that is to go to the trash.
 struct TrashPhoto {
   SeenFile photo;
-  SeenFile kept;                        ///< The one that is kept in its stead.
-  std::vector<TrashAppendix> appendix;  ///< Goes after it.
-  PictureVerdict verdict = {};          ///< What it is to that one.
+  SeenFile kept;                       ///< The one that is kept in its stead.
+  std::vector<AttachedFile> attached;  ///< Goes after it.
+  PictureVerdict verdict = {};         ///< What it is to that one.
 };
 
 /// A photo besides the one to keep that stays.
@@ -85,6 +85,6 @@ std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept);
 /// The same, and where both were identical files, whether they still are.
 std::string FindTrashFault(const TrashPhoto& photo);
 /// The same for what goes along with a photo.
-std::string FindTrashFault(const TrashAppendix& appendix);
+std::string FindTrashFault(const AttachedFile& attached);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -55,16 +55,16 @@ struct EditEffect {
 /// file. Blocks on the disk; safe from any thread.
 ZENVORA_STRANDEL_EXPORT std::string WhyNotEditable(const ioPath& photo);
 
-/// Writes a copy of the photo with other metadata to the new file `side`: the same picture, bit for bit, with
-/// the same permissions and time of change, on the disk when this returns. The photo is only read. What is
-/// changed, and how it is checked, is in docs/decisions/metadata.md.
+/// Writes a copy of the photo with other metadata to the new file `staging`: the same picture, bit for bit,
+/// with the same permissions and time of change, on the disk when this returns. The photo is only read. What
+/// is changed, and how it is checked, is in docs/decisions/metadata.md.
 ///
 /// Throws `PhotoEditError` when the edit asks for nothing or for both kinds of dates; when the photo is no
 /// regular file, cannot be read, is larger than 2 GiB - 1, of a format that is not edited or damaged; when it
-/// has no date to shift, or one that would leave the years 1..9999; when `side` exists or cannot be written.
-/// Then there is no new file. Blocks on the disk; takes memory of a few times the photo's size. Safe from any
-/// thread, but one photo at a time is edited.
-ZENVORA_STRANDEL_EXPORT void WriteEdited(const ioPath& photo, const ioPath& side, const PhotoEdit& edit);
+/// has no date to shift, or one that would leave the years 1..9999; when `staging` exists or cannot be
+/// written. Then there is no new file. Blocks on the disk; takes memory of a few times the photo's size. Safe
+/// from any thread, but one photo at a time is edited.
+ZENVORA_STRANDEL_EXPORT void WriteEdited(const ioPath& photo, const ioPath& staging, const PhotoEdit& edit);
 
 /// What `WriteEdited` would change, found by doing all of its work but the writing. Throws `PhotoEditError`
 /// for every photo that `WriteEdited` would refuse. Blocks on the disk, takes as much memory; safe from any

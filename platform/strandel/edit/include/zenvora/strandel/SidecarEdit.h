@@ -20,10 +20,10 @@ constexpr std::size_t kMostSidecarBytes = std::size_t{4} << 20U;
 ZENVORA_STRANDEL_EXPORT bool TryEditSidecar(const ioPath& sidecar, const ioPath& photo,
                                             const PhotoEdit& edit);
 
-/// Writes the edited sidecar to the new file `side`, with the same permissions and time of change, on the
+/// Writes the edited sidecar to the new file `staging`, with the same permissions and time of change, on the
 /// disk when this returns. Returns false, and makes no file, when the edit changes nothing in it. Throws also
-/// when `side` exists or cannot be written; then there is no new file.
-ZENVORA_STRANDEL_EXPORT bool WriteEditedSidecar(const ioPath& sidecar, const ioPath& side,
+/// when `staging` exists or cannot be written; then there is no new file.
+ZENVORA_STRANDEL_EXPORT bool WriteEditedSidecar(const ioPath& sidecar, const ioPath& staging,
                                                 const ioPath& photo, const PhotoEdit& edit);
 
 }  // namespace Zenvora::Strandel

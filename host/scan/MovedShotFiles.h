@@ -12,6 +12,6 @@ namespace Zenvora::Lumidex::Host {
 /// like of the same shot that are not where they were. What stayed behind, or was left a copy there, is not
 /// among it; nor is what got another name than its photo. Where photos exchanged their names, so did these.
 /// Each present name once. Blocks on the disk.
-std::vector<MovedName> FindMovedCompanions(const std::vector<MovedName>& photos);
+std::vector<MovedName> FindMovedShotFiles(const std::vector<MovedName>& photos);
 
 }  // namespace Zenvora::Lumidex::Host

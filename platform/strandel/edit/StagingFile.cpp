@@ -1,4 +1,4 @@
-#include "SideFile.h"
+#include "StagingFile.h"
 
 #include "EditRefusal.h"
 
@@ -9,15 +9,15 @@
 
 namespace Zenvora::Strandel {
 
-void WriteSideFile(const ioPath& side, const ioPath& original, std::int64_t modifiedNs,
-                   const std::string& bytes) {
-  const auto check = [&side](const std::error_code& error) {
+void WriteStagingFile(const ioPath& staging, const ioPath& original, std::int64_t modifiedNs,
+                      const std::string& bytes) {
+  const auto check = [&staging](const std::error_code& error) {
     if (error) {
-      throw EditRefusal("cannot write " + side.utf8string() + ": " + ErrorText(error));
+      throw EditRefusal("cannot write " + staging.utf8string() + ": " + ErrorText(error));
     }
   };
   NewFile file;
-  check(file.Create(side));
+  check(file.Create(staging));
   file.CopyRightsOf(original);
   check(file.Write(bytes.data(), bytes.size()));
   check(file.SetModified(modifiedNs));

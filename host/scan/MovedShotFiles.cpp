@@ -1,4 +1,4 @@
-#include "MovedCompanions.h"
+#include "MovedShotFiles.h"
 
 #include <host/base/FolderEntries.h>
 #include <host/shots/ShotNames.h>
@@ -34,18 +34,18 @@ ioPath FormerName(const ShotFile& file, const ioPath& photo) {
 }
 
 /// A file that still is under the former name has not moved, unless another one that moved has that name now.
-void DropStaying(std::vector<MovedName>& companions) {
+void DropStaying(std::vector<MovedName>& files) {
   const auto isThere = [](const MovedName& name) {
     return QueryFile(name.first).kind != FileState::Kind::Missing;
   };
-  const auto doubtful = std::stable_partition(companions.begin(), companions.end(),
+  const auto doubtful = std::stable_partition(files.begin(), files.end(),
                                               [&isThere](const MovedName& name) { return !isThere(name); });
-  std::vector<MovedName> open(doubtful, companions.end());
-  companions.erase(doubtful, companions.end());
+  std::vector<MovedName> open(doubtful, files.end());
+  files.erase(doubtful, files.end());
   for (std::size_t before = 0; before != open.size();) {
     before = open.size();
     std::unordered_set<ioPath> present;
-    for (const std::vector<MovedName>* const names : {&std::as_const(companions), &std::as_const(open)}) {
+    for (const std::vector<MovedName>* const names : {&std::as_const(files), &std::as_const(open)}) {
       for (const MovedName& name : *names) {
         present.insert(name.second);
       }
@@ -54,19 +54,19 @@ void DropStaying(std::vector<MovedName>& companions) {
                               [&present](const MovedName& name) { return present.count(name.first) == 0; }),
                open.end());
   }
-  companions.insert(companions.end(), open.begin(), open.end());
+  files.insert(files.end(), open.begin(), open.end());
 }
 
 }  // namespace
 
-std::vector<MovedName> FindMovedCompanions(const std::vector<MovedName>& photos) {
+std::vector<MovedName> FindMovedShotFiles(const std::vector<MovedName>& photos) {
   std::map<ioPath, std::vector<ioPath>> folders;
   std::unordered_map<ioPath, ioPath> former;
   for (const auto& [from, to] : photos) {
     folders[to.parent_path()].push_back(to);
     former.emplace(to, from);
   }
-  std::vector<MovedName> companions;
+  std::vector<MovedName> files;
   for (auto& [folder, named] : folders) {
     for (const ShotSet& set : GroupShots(std::move(named), FilesOf(folder))) {
       for (const ShotFile& file : set.files) {
@@ -77,15 +77,15 @@ std::vector<MovedName> FindMovedCompanions(const std::vector<MovedName>& photos)
           const auto from = former.find(photo.path);
           const ioPath name = from == former.end() ? ioPath() : FormerName(file, from->second);
           if (!name.empty() && name != file.path) {
-            companions.emplace_back(name, file.path);
+            files.emplace_back(name, file.path);
             break;
           }
         }
       }
     }
   }
-  DropStaying(companions);
-  return companions;
+  DropStaying(files);
+  return files;
 }
 
 }  // namespace Zenvora::Lumidex::Host
