@@ -178,9 +178,7 @@ std::string Document(const CheckReport& report, const std::set<FileAct>& acts,
   json.BeginArray("left");
   for (const Host::LeftFile& left : report.left) {
     json.BeginObject();
-    json.Text("kind", LeftKindName(left.kind));
-    json.Path("path", left.path);
-    json.Text("cause", left.cause);
+    WriteLeft(json, left);
     json.EndObject();
   }
   json.EndArray();

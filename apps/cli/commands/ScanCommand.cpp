@@ -1,14 +1,11 @@
 #include <cli/commands/Commands.h>
-#include <cli/session/CauseText.h>
 #include <cli/session/OpenJournal.h>
 #include <cli/session/Options.h>
 #include <cli/terminal/Failure.h>
 #include <cli/terminal/Interrupt.h>
-#include <cli/terminal/JsonWriter.h>
 #include <cli/terminal/Progress.h>
-#include <cli/terminal/TerminalText.h>
-#include <cli/terminal/TextTable.h>
 #include <cli/terminal/Words.h>
+#include <cli/views/ScanView.h>
 #include <host/catalogue/Catalogue.h>
 #include <host/scan/Scanner.h>
 
@@ -20,8 +17,6 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <algorithm>
-#include <array>
 #include <filesystem>
 #include <memory>
 #include <system_error>
@@ -31,7 +26,6 @@ namespace Zenvora::Lumidex::Cli {
 namespace {
 
 using Host::Catalogue;
-using Host::DateSource;
 using Host::ScanFinding;
 using Host::ScanResult;
 
@@ -104,34 +98,6 @@ class OpenCatalogue {
   std::unique_ptr<Catalogue> catalogue_;
 };
 
-const char* KindName(ScanFinding::Kind kind) {
-  switch (kind) {
-    case ScanFinding::Kind::NotAnImage:
-      return "not an image";
-    case ScanFinding::Kind::Unreadable:
-      return "unreadable";
-    case ScanFinding::Kind::Loop:
-      return "loop";
-    case ScanFinding::Kind::Ambiguous:
-      return "ambiguous";
-  }
-  return "";
-}
-
-std::string KindText(ScanFinding::Kind kind) {
-  switch (kind) {
-    case ScanFinding::Kind::NotAnImage:
-      return Say(Words::tr("not an image"));
-    case ScanFinding::Kind::Unreadable:
-      return Say(Words::tr("unreadable"));
-    case ScanFinding::Kind::Loop:
-      return Say(Words::tr("loop"));
-    case ScanFinding::Kind::Ambiguous:
-      break;
-  }
-  return "";
-}
-
 ExitCode Judge(const ScanResult& result) {
   if (result.cancelled) {
     return ExitCode::Interrupted;
@@ -142,148 +108,6 @@ ExitCode Judge(const ScanResult& result) {
         Graver(code, finding.kind == ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
   }
   return code;
-}
-
-constexpr std::array kDateSources = {DateSource::Original, DateSource::Digitised, DateSource::Xmp,
-                                     DateSource::Iptc,     DateSource::FileTime,  DateSource::None};
-
-std::string ResultDocument(const ScanArguments& arguments, const ioPath& catalogue,
-                           const ScanResult& result) {
-  JsonWriter json("lumidex.scan", 1);
-  json.Path("catalogue", catalogue);
-  json.Truth("dryRun", arguments.dryRun);
-  json.Truth("interrupted", result.cancelled);
-  json.BeginArray("folders");
-  for (const std::string& folder : arguments.folders) {
-    json.BeginObject();
-    json.Path("path", AbsolutePath(folder));
-    json.EndObject();
-  }
-  json.EndArray();
-  json.Number("found", static_cast<long long>(result.found));
-  json.Number("added", static_cast<long long>(result.added));
-  json.Number("updated", static_cast<long long>(result.updated));
-  json.Number("unchanged", static_cast<long long>(result.unchanged));
-  json.Number("moved", static_cast<long long>(result.moved));
-  json.Number("lost", static_cast<long long>(result.lost));
-  json.BeginObject("dated");
-  for (const DateSource source : kDateSources) {
-    json.Number(Host::DateSourceName(source), static_cast<long long>(result.dated[static_cast<int>(source)]));
-  }
-  json.EndObject();
-  json.BeginArray("findings");
-  for (const ScanFinding& finding : result.findings) {
-    json.BeginObject();
-    std::string kind = KindName(finding.kind);
-    std::replace(kind.begin(), kind.end(), ' ', '-');
-    json.Text("kind", kind);
-    json.Path("path", finding.path);
-    json.Text("cause", finding.cause);
-    if (!finding.candidates.empty()) {
-      json.BeginArray("candidates");
-      for (const ioPath& candidate : finding.candidates) {
-        json.BeginObject();
-        json.Path("path", candidate);
-        json.EndObject();
-      }
-      json.EndArray();
-    }
-    json.EndObject();
-  }
-  json.EndArray();
-  return json.Finish();
-}
-
-/// "a.jpg, b.jpg and 22 more", by whole paths.
-std::string SomeOf(const std::vector<ioPath>& files) {
-  constexpr std::size_t kMost = 5;
-  std::string text;
-  for (std::size_t i = 0; i < files.size() && i < kMost; ++i) {
-    text += (i == 0 ? "" : ", ") + EscapeForTerminal(files[i].utf8string());
-  }
-  return files.size() <= kMost ? text
-                               : Say(Words::tr("%1 and %2 more", "files", Amount(files.size() - kMost)),
-                                     {text, GroupDigits(files.size() - kMost)});
-}
-
-/// Photos that were moved to nobody knows where.
-std::string AmbiguousText(const ScanResult& result) {
-  std::string text;
-  for (const ScanFinding& finding : result.findings) {
-    if (finding.kind == ScanFinding::Kind::Ambiguous) {
-      text += "  " + EscapeForTerminal(finding.path.utf8string()) + "\n    " + CauseText(finding.cause) +
-              ": " + SomeOf(finding.candidates) + '\n';
-    }
-  }
-  return text.empty()
-             ? text
-             : Say(Words::tr(
-                   "These may be photos that were moved, but several files or photos come into question.\n"
-                   "The photos keep their tags and albums, the files are new:")) +
-                   '\n' + text + '\n';
-}
-
-std::string FindingsText(const ScanResult& result) {
-  TextTable table({{}, {}, {}});
-  bool isEmpty = true;
-  for (const ScanFinding& finding : result.findings) {
-    if (finding.kind != ScanFinding::Kind::Ambiguous) {
-      table.AddRow({KindText(finding.kind), finding.path.utf8string(), CauseText(finding.cause)});
-      isEmpty = false;
-    }
-  }
-  return (isEmpty ? std::string() : Say(Words::tr("Not added:")) + '\n' + table.Text(2) + '\n') +
-         AmbiguousText(result);
-}
-
-/// "12 original".
-QString DatesOf(DateSource source, int amount) {
-  switch (source) {
-    case DateSource::Original:
-      return Words::tr("%1 original", "dates read", amount);
-    case DateSource::Digitised:
-      return Words::tr("%1 digitised", "dates read", amount);
-    case DateSource::Xmp:
-      return Words::tr("%1 XMP", "dates read", amount);
-    case DateSource::Iptc:
-      return Words::tr("%1 IPTC", "dates read", amount);
-    case DateSource::FileTime:
-      return Words::tr("%1 file time", "dates read", amount);
-    case DateSource::None:
-      return Words::tr("%1 none", "dates read", amount);
-  }
-  return {};
-}
-
-std::string DatesText(const ScanResult& result) {
-  std::string text;
-  for (const DateSource source : kDateSources) {
-    const auto count = result.dated[static_cast<int>(source)];
-    if (count > 0) {
-      text += (text.empty() ? "" : ", ") + Say(DatesOf(source, Amount(count)), {GroupDigits(count)});
-    }
-  }
-  return text.empty() ? "" : Say(Words::tr("Dates read: %1"), {text}) + '\n';
-}
-
-std::string ResultText(const ScanArguments& arguments, const ioPath& catalogue, const ScanResult& result) {
-  TextTable table({{"", TextTable::Align::Right}, {}});
-  const int updated = Amount(result.updated);
-  table.AddRow({GroupDigits(result.found), Say(Words::tr("files found", nullptr, Amount(result.found)))});
-  table.AddRow({GroupDigits(result.added), Say(Words::tr("new", "files", Amount(result.added)))});
-  table.AddRow({GroupDigits(result.updated), Say(arguments.full ? Words::tr("read again", "files", updated)
-                                                                : Words::tr("changed", "files", updated))});
-  table.AddRow(
-      {GroupDigits(result.unchanged), Say(Words::tr("unchanged", "files", Amount(result.unchanged)))});
-  table.AddRow(
-      {GroupDigits(result.moved), Say(Words::tr("moved or renamed", "files", Amount(result.moved)))});
-  table.AddRow({GroupDigits(result.lost),
-                Say(Words::tr("missing, now marked as lost", "files", Amount(result.lost)))});
-  const std::string text = FindingsText(result) + table.Text(2) + DatesText(result);
-  return text +
-         (arguments.dryRun ? Say(Words::tr("This was a dry run: nothing was stored."))
-                           : Say(Words::tr("Catalogue: %1"), {EscapeForTerminal(catalogue.utf8string())})) +
-         '\n';
 }
 
 // Asked before the catalogue is made: a slip of the pen leaves none behind.
@@ -325,16 +149,16 @@ ExitCode RunScan(const ScanArguments& arguments, Session& session) {
   }
 
   session.Count(ItemType::Photo, result.found, result.added + result.updated);
-  session.output.Print(session.globals.json ? ResultDocument(arguments, file, result)
-                                            : ResultText(arguments, file, result));
-  if (result.cancelled) {
+  const ScanView view{file, roots, arguments.full, arguments.dryRun, std::move(result)};
+  session.output.Print(session.globals.json ? ScanDocument(view) : ScanText(view));
+  if (view.result.cancelled) {
     session.console.Note(Say(arguments.dryRun ? Words::tr("Interrupted.")
                                               : Words::tr("Interrupted. What was read so far is in the "
                                                           "catalogue; run the same command to continue.")));
-  } else if (result.found == 0) {
+  } else if (view.result.found == 0) {
     session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }
-  return Judge(result);
+  return Judge(view.result);
 }
 
 }  // namespace

@@ -153,6 +153,16 @@ void JsonWriter::Path(std::string_view name, const ioPath& path) {
   }
 }
 
+void JsonWriter::Paths(std::string_view name, const std::vector<ioPath>& paths) {
+  BeginArray(name);
+  for (const ioPath& path : paths) {
+    BeginObject();
+    Path("path", path);
+    EndObject();
+  }
+  EndArray();
+}
+
 void JsonWriter::Open(std::string_view name, char bracket) {
   Next(name);
   text_ += bracket;

@@ -72,13 +72,7 @@ void WriteTried(JsonWriter& json, const std::vector<TriedEdit>& tried) {
     json.Number("orientationAfter", edit.effect.orientationAfter);
     json.Moment("takenBefore", edit.effect.takenBefore);
     json.Moment("takenAfter", edit.effect.takenAfter);
-    json.BeginArray("sidecars");
-    for (const ioPath& sidecar : edit.sidecars) {
-      json.BeginObject();
-      json.Path("path", sidecar);
-      json.EndObject();
-    }
-    json.EndArray();
+    json.Paths("sidecars", edit.sidecars);
     json.EndObject();
   }
   json.EndArray();

@@ -190,13 +190,7 @@ void WriteBlocked(JsonWriter& json, const std::vector<BlockedStep>& steps) {
   for (const BlockedStep& blocked : steps) {
     json.BeginObject();
     WriteFacts(json, blocked.step);
-    json.BeginArray("left");
-    for (const ioPath& file : blocked.files) {
-      json.BeginObject();
-      json.Path("path", file);
-      json.EndObject();
-    }
-    json.EndArray();
+    json.Paths("left", blocked.files);
     json.EndObject();
   }
   json.EndArray();

@@ -35,6 +35,8 @@ class JsonWriter {
   void Moment(std::string_view name, const QDateTime& moment);
   /// The path as text; where its bytes are not UTF-8 a second member, `name` + "Bytes", holds them in base64.
   void Path(std::string_view name, const ioPath& path);
+  /// An array of objects with a member "path" each.
+  void Paths(std::string_view name, const std::vector<ioPath>& paths);
 
   /// In an array the name is empty.
   void BeginObject(std::string_view name = {});

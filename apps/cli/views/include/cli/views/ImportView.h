@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cli/terminal/JsonWriter.h>
 #include <host/import/Import.h>
 #include <host/import/ImportPlan.h>
 #include <host/import/ImportVerdict.h>
@@ -29,7 +30,7 @@ struct ImportView {
 std::string ImportDocument(const ImportView& view);
 std::string ImportText(const ImportView& view);
 
-/// "not-a-photo", "hidden", "no-file", "unreadable", "loop".
-const char* LeftKindName(Host::LeftFile::Kind kind);
+/// Members of the object that is begun: what an import leaves.
+void WriteLeft(JsonWriter& json, const Host::LeftFile& left);
 
 }  // namespace Zenvora::Lumidex::Cli
