@@ -1,13 +1,10 @@
 #include "CopyVerifiers.h"
-#include "ImportManifest.h"
+#include "ImportRecords.h"
+#include "StagingFolder.h"
 
 #include <host/base/FileCopy.h>
-#include <host/base/FolderEntries.h>
-#include <host/base/ProcessLock.h>
-#include <host/catalogue/CatalogueDatabase.h>
-#include <host/catalogue/VolumesSeen.h>
+#include <host/base/HostError.h>
 #include <host/import/Import.h>
-#include <host/import/ImportRows.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/app/ISettingsManager.h>
@@ -43,9 +40,6 @@ constexpr int kMostThreads = 16;
 /// Copies that get their names together: each such step waits for the disk a few times.
 constexpr std::size_t kBatchSize = 64;
 constexpr auto kBatchAge = std::chrono::seconds(1);
-/// Somebody may only be looking whether an import is at work.
-constexpr int kLockAttempts = 10;
-constexpr std::chrono::milliseconds kLockPause(20);
 
 int ThreadCount(const ImportOptions& options) {
   const int cores = static_cast<int>(std::thread::hardware_concurrency());
@@ -53,86 +47,6 @@ int ThreadCount(const ImportOptions& options) {
       options.threads > 0 ? options.threads : std::min(cores * kThreadsPerCore, kMostAutomaticThreads);
   return std::clamp(wanted, 1, kMostThreads);
 }
-
-/// The folder of copies while an import works in it: nobody else does, and what a killed one left is gone.
-class Workshop {
- public:
-  explicit Workshop(const ioPath& folder) : copies_(folder), folder_(ImportFolder(folder)) {
-    RefuseLinks();
-    MakeSafely(folder_);
-    RefuseLinks();
-    if (const std::error_code error = TakeLock()) {
-      const bool busy = error == std::errc::resource_unavailable_try_again;
-      ThrowHostError(folder.utf8string(), busy ? "Another import is running in " + folder.utf8string() + "."
-                                               : "Nothing can be copied to " + folder.utf8string() + ": " +
-                                                     ErrorText(error) + ".");
-    }
-    RemoveParts();
-    manifest_ = std::make_unique<ImportManifest>(folder);
-  }
-  ~Workshop() {
-    // Those that were not compared any more.
-    RemoveParts();
-  }
-  Workshop(const Workshop&) = delete;
-  Workshop& operator=(const Workshop&) = delete;
-
-  /// With the extension of the photo, by which some readers go.
-  ioPath NextPart(const ioPath& target) {
-    ioPath part = folder_ / ioPath(kPartStart + std::to_string(++parts_));
-    return ioPath(part.utf8string() + target.extension().utf8string());
-  }
-
-  ImportManifest& Manifest() { return *manifest_; }
-
- private:
-  void RefuseLinks() const {
-    if (const std::string fault = FindLinkFault(copies_); !fault.empty()) {
-      ThrowHostError(copies_.utf8string(), fault);
-    }
-  }
-
-  std::error_code TakeLock() {
-    std::error_code error = lock_.Take(folder_ / "lock");
-    for (int i = 1; error == std::errc::resource_unavailable_try_again && i < kLockAttempts; ++i) {
-      App::SleepFor(kLockPause);
-      error = lock_.Take(folder_ / "lock");
-    }
-    return error;
-  }
-
-  /// With their names on the disk: what is in a folder is lost with it.
-  void MakeSafely(const ioPath& folder) const {
-    std::vector<ioPath> made;
-    for (ioPath place = folder;
-         QueryFile(place).kind == FileState::Kind::Missing && place.parent_path() != place;) {
-      made.push_back(place);
-      place = place.parent_path();
-    }
-    if (const std::error_code error = MakeFolders(folder)) {
-      ThrowHostError(copies_.utf8string(),
-                     "Nothing can be copied to " + copies_.utf8string() + ": " + ErrorText(error) + ".");
-    }
-    for (const ioPath& place : made) {
-      SyncFolderOf(place);
-    }
-  }
-
-  void RemoveParts() const {
-    std::error_code ignored;
-    for (const FolderEntry& entry : ReadFolderEntries(folder_, EntryChoice::All, ignored)) {
-      if (entry.name.utf8string().rfind(kPartStart, 0) == 0) {
-        (folder_ / entry.name).remove();
-      }
-    }
-  }
-
-  const ioPath copies_;
-  const ioPath folder_;
-  ProcessLock lock_;
-  std::unique_ptr<ImportManifest> manifest_;
-  std::uint64_t parts_ = 0;
-};
 
 Missing KindOf(Status status) {
   switch (status) {
@@ -176,14 +90,10 @@ class ImportRun {
   bool Goes() const { return !IsCancelled() && result_.stopped.empty(); }
 
   void CopyAll() {
-    workshop_.emplace(plan_.folder);
-    journal_.emplace(catalogue_.File());
-    // Canonical, so that a photo has one path however its folder is named.
+    staging_.emplace(plan_.folder);
     std::error_code error;
-    folder_ = plan_.folder.canonical(error);
-    if (error) {
-      folder_ = plan_.folder;
-    }
+    const ioPath folder = plan_.folder.canonical(error);
+    records_.emplace(catalogue_, error ? plan_.folder : folder);
     Remember();
     verifiers_.emplace(ThreadCount(options_));
     std::size_t next = 0;
@@ -201,29 +111,15 @@ class ImportRun {
       Collect(true);
     }
     Settle();
-    CloseStep();
+    Tell([this] { records_->Close(); });
+    result_.step = records_->Step();
     for (; next < plan_.copies.size(); ++next) {
       Miss(next, Missing::NotReached,
            IsCancelled() ? "the import was interrupted" : "the import ended before");
     }
     verifiers_.reset();
-    journal_.reset();
-    workshop_.reset();
-  }
-
-  /// While the folder of copies is still locked: a step whose import is not at work was broken off.
-  void CloseStep() {
-    if (result_.step == 0) {
-      return;
-    }
-    try {
-      if (journal_->rows.Close(result_.step) == 0) {
-        result_.step = 0;
-      }
-    } catch (const HostError& error) {
-      // The next opening of the journal closes it.
-      Stop(error.what());
-    }
+    records_.reset();
+    staging_.reset();
   }
 
   /// As the library does when it is told to copy: the next import begins there.
@@ -246,7 +142,7 @@ class ImportRun {
   bool CopyOne(std::size_t index) {
     const ImportCopy& copy = plan_.copies[index];
     const std::uint64_t before = progressNow_.bytes;
-    CopyVerifiers::Task task{index, workshop_->NextPart(copy.target), copy.isPhoto, {}};
+    CopyVerifiers::Task task{index, staging_->NextPart(copy.target), copy.isPhoto, {}};
     task.copied = CopyToNew(copy.source, copy.state, task.copy, [this, before](std::uint64_t bytes) {
       progressNow_.bytes = before + bytes;
       Report(false);
@@ -310,8 +206,8 @@ class ImportRun {
     try {
       // Before the names: a copy under its name is always in the journal and in the list, also after a kill
       // in between.
-      NoteStep(records);
-      workshop_->Manifest().Append(records);
+      records_->Note(records);
+      staging_->Manifest().Append(records);
     } catch (const HostError& error) {
       GiveUpBatch(error.what());
       return;
@@ -322,29 +218,18 @@ class ImportRun {
     }
     batch_.clear();
     SyncFolderOf(plan_.copies.front().target);
-    try {
-      catalogue_.Store(photos);
-      NoteVolumesOf(catalogue_, photos);
+    // What has its name stays, and the next run takes it in where this fails.
+    Tell([this, &photos] {
+      records_->Store(photos);
       result_.added += photos.size();
-    } catch (const HostError& error) {
-      // What has its name stays, and the next run takes it in.
-      Stop(error.what());
-    }
+    });
   }
 
-  void NoteStep(const std::vector<ManifestRecord>& records) {
-    std::vector<ImportedCopy> copies;
-    copies.reserve(records.size());
-    for (const ManifestRecord& record : records) {
-      copies.push_back({folder_ / record.file, record.source, record.size, record.modifiedNs, record.sha256});
-    }
-    result_.step = journal_->rows.Note(result_.step, folder_, copies);
-  }
-
-  /// A copy that the journal has and that did not get its name.
-  void DropFromStep(const ImportCopy& copy) {
+  /// Without what is told there is no going on.
+  template <class Act>
+  void Tell(const Act& act) {
     try {
-      journal_->rows.Drop(result_.step, folder_ / copy.target.filename());
+      act();
     } catch (const HostError& error) {
       Stop(error.what());
     }
@@ -366,7 +251,7 @@ class ImportRun {
     });
     if (error) {
       result.task.copy.remove();
-      DropFromStep(copy);
+      Tell([this, &copy] { records_->Drop(copy.target); });
       const bool taken = error == std::errc::file_exists;
       Miss(result.task.index, taken ? Missing::NameTaken : Missing::NotWritten,
            taken ? "another file got the name " + copy.target.filename().utf8string() + " meanwhile"
@@ -377,7 +262,7 @@ class ImportRun {
     ++progressNow_.files;
     result_.bytes += result.verified.size;
     if (result.isRead) {
-      result.record.path = folder_ / copy.target.filename();
+      result.record.path = records_->PathOf(copy.target);
       photos.push_back(std::move(result.record));
     } else if (copy.isPhoto) {
       result.finding.path = copy.target;
@@ -389,9 +274,7 @@ class ImportRun {
     Stop(cause);
     for (const CopyVerifiers::Result& result : batch_) {
       result.task.copy.remove();
-      if (result_.step != 0) {
-        DropFromStep(plan_.copies[result.task.index]);
-      }
+      Tell([this, &result] { records_->Drop(plan_.copies[result.task.index].target); });
       Miss(result.task.index, Missing::NotWritten, "the copy cannot be recorded");
     }
     batch_.clear();
@@ -462,20 +345,8 @@ class ImportRun {
   const ImportOptions& options_;
   const ImportProgressHandler& progress_;
 
-  /// A connection of its own: what it says must be on the disk before copies get their names.
-  struct Journal {
-    explicit Journal(const ioPath& catalogue)
-        : database(catalogue, CatalogueDatabase::Access::ReadWrite, Catalogue::kBusyTimeoutMs),
-          rows(database) {
-      database.Execute("PRAGMA synchronous = FULL");
-    }
-    const CatalogueDatabase database;
-    const ImportRows rows;
-  };
-
-  std::optional<Workshop> workshop_;
-  std::optional<Journal> journal_;
-  ioPath folder_;
+  std::optional<StagingFolder> staging_;
+  std::optional<ImportRecords> records_;
   std::vector<CopyVerifiers::Result> batch_;
   SteadyClock::time_point batchBegun_;
   std::unordered_set<ioPath> missed_;
