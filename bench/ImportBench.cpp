@@ -4,10 +4,8 @@
 #include <host/catalogue/Catalogue.h>
 #include <host/import/Import.h>
 #include <host/import/ImportPlan.h>
+#include <host/import/ImportQuestions.h>
 #include <host/scan/ImportSources.h>
-
-#include <zenvora/app/IFolderDialog.h>
-#include <zenvora/app/Services.h>
 
 #include <benchmark/benchmark.h>
 
@@ -35,15 +33,6 @@ namespace fs = std::filesystem;
 
 constexpr int kFiles = 2000;
 constexpr std::size_t kFileBytes = 2'000'000;
-
-class GivenFolder : public App::IFolderDialog {
- public:
-  explicit GivenFolder(const ioPath& folder) : folder_(folder) {}
-  QString Ask(const App::FolderQuestion&) override { return folder_.qstring(); }
-
- private:
-  const ioPath folder_;
-};
 
 /// Files such as a camera writes, no two alike: a head that says JPEG, and noise.
 class Card {
@@ -127,21 +116,32 @@ void PlainCopyAndHash(benchmark::State& state) {
 }
 BENCHMARK(PlainCopyAndHash)->ArgName("synced")->Arg(0)->Arg(1)->Unit(benchmark::kSecond)->UseRealTime();
 
+/// As when everything is to be copied.
+ImportPlan PlanOf(Catalogue& catalogue, const ioPath& folder) {
+  ImportFacts facts;
+  facts.sources = GatherSources({TheCard().Folder()});
+  facts.copyAll = true;
+  ImportAnswers answers;
+  AskReadable(facts, answers);
+  LookAtSources(facts, catalogue.Photos(), nullptr, nullptr);
+  answers.folder = folder;
+  for (const std::size_t source : facts.fresh) {
+    answers.files.push_back({source, true});
+  }
+  LookAtFolder(facts, answers, nullptr);
+  return PlanImport(facts, answers);
+}
+
 void VerifiedImport(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
     Settle();
     {
       const QTemporaryDir place;
-      const App::ServiceScope<App::IFolderDialog> answer(
-          std::make_shared<GivenFolder>(ioPath(place.path()) / "copies"));
       state.ResumeTiming();
       Catalogue catalogue(ioPath(place.path()) / "catalogue.sqlite", Catalogue::Mode::ReadWrite);
-      ImportPlanOptions options;
-      options.copyAll = true;
-      const ImportPlan plan =
-          PlanImport(GatherSources({TheCard().Folder()}), catalogue.Photos(), options, nullptr);
-      const ImportResult result = RunImport(plan, catalogue, {}, nullptr);
+      const ImportResult result =
+          RunImport(PlanOf(catalogue, ioPath(place.path()) / "copies"), catalogue, {}, nullptr);
       if (result.copied != kFiles) {
         state.SkipWithError("not all was copied");
       }

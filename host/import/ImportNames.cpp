@@ -39,45 +39,9 @@ std::string Fitting(std::string base, const std::string& end) {
   return base + end;
 }
 
-class Names {
- public:
-  explicit Names(const std::vector<ioPath>& entries) {
-    for (const ioPath& entry : entries) {
-      const std::string name = entry.utf8string();
-      entries_.insert(name);
-      Take(name);
-    }
-  }
-
-  void Take(const std::string& name) { keys_.insert(NameKey(name)); }
-
-  /// False for names that the library could not see to be taken, or to be too long.
-  bool Serves(const ioPath& target) const {
-    const std::string name = target.filename().utf8string();
-    return !IsTooLong(name) && (IsText(target.filename()) || entries_.count(name) == 0);
-  }
-
-  /// Free, and taken from now on.
-  std::string Next(const ioPath& file) {
-    const std::string name = file.filename().utf8string();
-    const std::size_t dot = name.rfind('.');
-    const std::string base = name.substr(0, dot);
-    const std::string extension = dot == std::string::npos ? "." : name.substr(dot);
-    std::string marks;
-    std::string candidate = name;
-    for (int mark = kFirstMark; IsTooLong(candidate) || keys_.count(NameKey(candidate)) > 0;
-         mark += kMarkStep) {
-      marks += '(' + std::to_string(mark) + ')';
-      candidate = Fitting(base, marks + extension);
-    }
-    Take(candidate);
-    return candidate;
-  }
-
- private:
-  std::unordered_set<std::string> entries_;
-  std::unordered_set<std::string> keys_;
-};
+QString WithoutCase(const ioPath& name) {
+  return ReversibleText(name).toLower();
+}
 
 /// The files of one set by the shots that they come from.
 class Mixture {
@@ -144,18 +108,36 @@ std::string BaseOf(const ioPath& file) {
 
 }  // namespace
 
-void MakeNamesServe(std::vector<ImportCopy>& copies, const std::vector<ioPath>& entries) {
-  Names names(entries);
-  for (const ImportCopy& copy : copies) {
-    if (names.Serves(copy.target)) {
-      names.Take(copy.target.filename().utf8string());
+FreeNames::FreeNames(const CopyFolder& folder) {
+  for (const ioPath& name : folder.names) {
+    there_.insert(name);
+    if (folder.ignoresCase) {
+      Take(name);
     }
   }
-  for (ImportCopy& copy : copies) {
-    if (!names.Serves(copy.target)) {
-      copy.target = Sibling(copy.target, names.Next(copy.source));
-    }
+}
+
+void FreeNames::Take(const ioPath& name) {
+  taken_.insert(WithoutCase(name));
+}
+
+bool FreeNames::IsTaken(const ioPath& name) const {
+  return there_.count(name) > 0 || taken_.contains(WithoutCase(name));
+}
+
+ioPath FreeNames::Give(const ioPath& name) {
+  const std::string whole = name.utf8string();
+  const std::size_t dot = whole.rfind('.');
+  const std::string base = whole.substr(0, dot);
+  const std::string extension = dot == std::string::npos ? "." : whole.substr(dot);
+  std::string marks;
+  ioPath candidate = name;
+  for (int mark = kFirstMark; IsTooLong(candidate.utf8string()) || IsTaken(candidate); mark += kMarkStep) {
+    marks += '(' + std::to_string(mark) + ')';
+    candidate = ioPath(Fitting(base, marks + extension));
   }
+  Take(candidate);
+  return candidate;
 }
 
 std::vector<SplitShot> FindSplits(const std::vector<ImportCopy>& copies,

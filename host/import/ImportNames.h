@@ -4,7 +4,10 @@
 
 #include <zenvora/core/ioPath.h>
 
-#include <string>
+#include <QSet>
+#include <QString>
+
+#include <cstddef>
 #include <unordered_set>
 #include <vector>
 
@@ -18,10 +21,25 @@ struct PlacedFile {
   std::size_t shot = 0;
 };
 
-/// Gives the copies names that can be had where the library's cannot: it sees no file whose name is no text,
-/// and knows no longest name. Marks are put as it does; before them the name is cut where it is too long. The
-/// other copies keep their names. `entries`: the names in the folder of copies. Pure.
-void MakeNamesServe(std::vector<ImportCopy>& copies, const std::vector<ioPath>& entries);
+/// Gives files names in the folder of copies that nothing has, by the rule of
+/// `CheckFilesToCopyBeforeAddDialog`: a taken name gets "(1)" behind its base, that name, if taken too,
+/// "(3)", and so on. A base is cut between two characters where the name would be too long. Pure.
+class FreeNames {
+ public:
+  explicit FreeNames(const CopyFolder& folder);
+
+  /// Nothing else gets the name from now on, in whichever case.
+  void Take(const ioPath& name);
+  /// The name that the file gets, which is taken from now on.
+  ioPath Give(const ioPath& name);
+
+ private:
+  bool IsTaken(const ioPath& name) const;
+
+  std::unordered_set<ioPath> there_;
+  /// Without their case.
+  QSet<QString> taken_;
+};
 
 /// The shots whose files would get different names. `shots`: of each copy. `placed`: what is in the folder of
 /// them. Pure.

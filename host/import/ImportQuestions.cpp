@@ -1,17 +1,24 @@
-#include "ImportQuestions.h"
-
+#include <LumidexUtil/CheckFilesReadable.h>
+#include <LumidexUtil/CheckFilesToCopyBeforeAdd.h>
 #include <host/base/PathText.h>
+#include <host/import/ImportQuestions.h>
 
+#include <zenvora/app/IFolderAccess.h>
+#include <zenvora/app/IRemovableStorage.h>
+#include <zenvora/app/ISettingsManager.h>
+#include <zenvora/app/Services.h>
+#include <zenvora/core/FileProbes.h>
 #include <zenvora/qtutility/SystemDisk.h>
+#include <zenvora/tavolin/NativePath.h>
 #include <zenvora/tavolin/RemovableStorage.h>
 
-#include <QDir>
+#include <QHash>
+#include <QSet>
 #include <QString>
 
 #include <algorithm>
-#include <map>
+#include <memory>
 #include <string>
-#include <system_error>
 #include <utility>
 
 namespace Zenvora::Lumidex::Host {
@@ -19,138 +26,53 @@ namespace Zenvora::Lumidex::Host {
 namespace {
 
 template <class Service>
-std::shared_ptr<Service> InForce() {
-  return App::Services::Current().Get<Service>();
+std::shared_ptr<Service> InForce(const std::shared_ptr<Service>& otherwise) {
+  auto service = App::Services::Current().Get<Service>();
+  return service != nullptr ? service : otherwise;
 }
 
-/// Without links, as the sources are named: what lies in the folder is then seen to. It need not exist.
-QString RealFolder(const QString& answer) {
-  QString rest;
-  for (ioPath place(answer); !place.empty(); place = place.parent_path()) {
-    std::error_code error;
-    const ioPath real = place.canonical(error);
-    if (!error) {
-      return IsText(real) ? QDir::cleanPath(real.qstring() + rest) : answer;
-    }
-    if (place.parent_path() == place) {
-      break;
-    }
-    rest.prepend(QLatin1Char('/') + place.filename().qstring());
-  }
-  return answer;
-}
-
-}  // namespace
-
-class ImportQuestions::Alerts : public App::IAlerts {
+class SettingsAsTheyAre : public App::ISettingsManager {
  public:
-  explicit Alerts(bool copyWanted) : copyWanted_(copyWanted), real_(InForce<App::IAlerts>()) {}
-
-  App::AlertButton Show(const App::Alert& alert) override {
-    using App::AlertButton;
-    // Whether to copy, the user said before.
-    if (copyWanted_ && alert.buttons.testFlag(AlertButton::Yes) && alert.buttons.testFlag(AlertButton::No)) {
-      return AlertButton::Yes;
-    }
-    const auto known = answers_.find(alert.text);
-    if (known != answers_.end()) {
-      return known->second;
-    }
-    const AlertButton answer = real_ != nullptr ? real_->Show(alert) : App::UnansweredButton(alert.buttons);
-    // A refusal may come twice; only questions have one answer.
-    if (alert.buttons.testFlag(AlertButton::Cancel)) {
-      answers_[alert.text] = answer;
-    }
-    return answer;
-  }
-
- private:
-  const bool copyWanted_;
-  const std::shared_ptr<App::IAlerts> real_;
-  std::map<QString, App::AlertButton> answers_;
-};
-
-class ImportQuestions::FolderDialog : public App::IFolderDialog {
- public:
-  FolderDialog() : real_(InForce<App::IFolderDialog>()) {}
-
-  QString Ask(const App::FolderQuestion& question) override {
-    // Asked again within one round it was refused; in the next round it is as good as it was.
-    if (!asked_ && !chosen_.isEmpty()) {
-      return chosen_;
-    }
-    asked_ = true;
-    chosen_ = real_ != nullptr ? RealFolder(real_->Ask(question)) : QString();
-    return chosen_;
-  }
-
-  void BeginRound() { asked_ = false; }
-  const QString& Chosen() const { return chosen_; }
-
- private:
-  const std::shared_ptr<App::IFolderDialog> real_;
-  QString chosen_;
-  bool asked_ = false;
-};
-
-class ImportQuestions::Settings : public App::ISettingsManager {
- public:
-  Settings() : real_(InForce<App::ISettingsManager>()) {}
-
   std::string GetString(const std::string& key, const std::string& defaultValue) const override {
     return real_->GetString(key, defaultValue);
   }
   void SetString(const std::string& /*key*/, const std::string& /*value*/) override {}
 
  private:
-  const std::shared_ptr<App::ISettingsManager> real_;
+  const std::shared_ptr<App::ISettingsManager> real_ = InForce<App::ISettingsManager>(nullptr);
 };
 
-class ImportQuestions::NoFolders : public App::IFolderAccess {
+class FoldersAsTheyAre : public App::IFolderAccess {
  public:
-  NoFolders() : real_(InForce<App::IFolderAccess>()) {
-    if (real_ == nullptr) {
-      real_ = Util::MakeSystemFolderAccess();
-    }
-  }
-
   bool CanCreateFileIn(const ioPath& folder) const override { return real_->CanCreateFileIn(folder); }
   bool CanReadFileIn(const ioPath& folder) const override { return real_->CanReadFileIn(folder); }
   bool MakeFolder(const ioPath& /*folder*/) const override { return false; }
 
  private:
-  std::shared_ptr<App::IFolderAccess> real_;
+  const std::shared_ptr<App::IFolderAccess> real_ =
+      InForce<App::IFolderAccess>(Util::MakeSystemFolderAccess());
 };
 
-class ImportQuestions::Storage : public App::IRemovableStorage {
+/// The check asks for the folders of all sources first, and then for each that is chosen for the copies.
+class SourceStorage : public App::IRemovableStorage {
  public:
-  Storage(bool all, std::vector<ioPath> nameless, std::shared_ptr<FolderDialog> dialog)
-      : all_(all),
-        nameless_(std::move(nameless)),
-        dialog_(std::move(dialog)),
-        real_(InForce<App::IRemovableStorage>()) {
-    if (real_ == nullptr) {
-      real_ = Tavolin::MakeSystemRemovableStorage();
-    }
-  }
+  /// `nameless`: the folders of sources that the check cannot find by their names. It takes them for lying in
+  /// one folder, named by a separator alone.
+  SourceStorage(bool all, std::vector<ioPath> nameless) : all_(all), nameless_(std::move(nameless)) {}
 
   std::vector<ioPath> Removable(const std::vector<ioPath>& folders) const override {
-    // The folder of the copies is asked for by itself.
-    const bool isChoice =
-        folders.size() == 1 && !dialog_->Chosen().isEmpty() && folders.front() == ioPath(dialog_->Chosen());
-    if (isChoice) {
+    if (std::exchange(sourcesSeen_, true)) {
       return real_->Removable(folders);
     }
     if (all_) {
       return folders;
     }
-    const std::vector<ioPath> found = real_->Removable(folders);
-    std::vector<ioPath> removable;
-    for (const ioPath& folder : folders) {
-      const bool isNameless = !nameless_.empty() && folder == ioPath("/");
-      if (isNameless ? !real_->Removable(nameless_).empty()
-                     : std::find(found.begin(), found.end(), folder) != found.end()) {
-        removable.push_back(folder);
+    std::vector<ioPath> removable = real_->Removable(folders);
+    if (!nameless_.empty()) {
+      const ioPath shared("/");
+      removable.erase(std::remove(removable.begin(), removable.end(), shared), removable.end());
+      if (!real_->Removable(nameless_).empty()) {
+        removable.push_back(shared);
       }
     }
     return removable;
@@ -159,26 +81,66 @@ class ImportQuestions::Storage : public App::IRemovableStorage {
  private:
   const bool all_;
   const std::vector<ioPath> nameless_;
-  const std::shared_ptr<FolderDialog> dialog_;
-  std::shared_ptr<App::IRemovableStorage> real_;
+  mutable bool sourcesSeen_ = false;
+  const std::shared_ptr<App::IRemovableStorage> real_ =
+      InForce<App::IRemovableStorage>(Tavolin::MakeSystemRemovableStorage());
 };
 
-ImportQuestions::ImportQuestions(bool allRemovable, std::vector<ioPath> nameless)
-    : dialog_(std::make_shared<FolderDialog>()),
-      alertsScope_(std::make_shared<Alerts>(allRemovable)),
-      dialogScope_(dialog_),
-      settingsScope_(std::make_shared<Settings>()),
-      accessScope_(std::make_shared<NoFolders>()),
-      removableScope_(std::make_shared<Storage>(allRemovable, std::move(nameless), dialog_)) {}
+}  // namespace
 
-ImportQuestions::~ImportQuestions() = default;
-
-void ImportQuestions::BeginRound() {
-  dialog_->BeginRound();
+bool AskReadable(ImportFacts& facts, ImportAnswers& answers) {
+  const std::vector<ImportSource>& sources = facts.sources.files;
+  QList<QString> asked;
+  for (const ImportSource& source : sources) {
+    if (IsText(source.path)) {
+      asked.append(ReversibleText(source.path));
+    }
+  }
+  const QList<QString> readable = asked.isEmpty() ? asked : Util::CheckFilesReadableDialog(asked);
+  // None at all is no answer when there are none.
+  if (readable.isEmpty() && !Util::CheckFilesReadable(asked).isEmpty()) {
+    answers.declined = true;
+    return false;
+  }
+  const QSet<QString> taken(readable.begin(), readable.end());
+  for (std::size_t i = 0; i < sources.size(); ++i) {
+    const ioPath& path = sources[i].path;
+    // The check finds no file whose name is no text.
+    const bool isReadable = IsText(path) ? taken.contains(ReversibleText(path)) : OpensForReading(path);
+    (isReadable ? facts.readable : facts.unreadable).push_back(i);
+  }
+  return true;
 }
 
-ioPath ImportQuestions::ChosenFolder() const {
-  return ioPath(dialog_->Chosen());
+bool AskCopies(const ImportFacts& facts, ImportAnswers& answers) {
+  if (facts.fresh.empty() || facts.interrupted) {
+    return false;
+  }
+  QList<QString> asked;
+  QHash<QString, std::size_t> places;
+  std::vector<ioPath> nameless;
+  for (const std::size_t i : facts.fresh) {
+    const ioPath& path = facts.sources.files[i].path;
+    asked.append(ReversibleText(path));
+    places.insert(asked.back(), i);
+    if (!IsText(path)) {
+      nameless.push_back(path.parent_path());
+    }
+  }
+  const App::ServiceScope<App::ISettingsManager> settings(std::make_shared<SettingsAsTheyAre>());
+  const App::ServiceScope<App::IFolderAccess> folders(std::make_shared<FoldersAsTheyAre>());
+  const App::ServiceScope<App::IRemovableStorage> storage(
+      std::make_shared<SourceStorage>(facts.copyAll, std::move(nameless)));
+  const auto pairs = Util::CheckFilesToCopyBeforeAddDialog(asked);
+  answers.declined = pairs.isEmpty();
+  for (const auto& [source, target] : pairs) {
+    const bool copy = !source.isEmpty();
+    answers.files.push_back({places.value(copy ? source : target), copy});
+    if (copy && answers.folder.empty()) {
+      answers.folder = Tavolin::FromNative(RealFolder(PathOfReversible(target).parent_path()));
+    }
+  }
+  return !answers.folder.empty();
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -101,6 +101,13 @@ TEST_F(GivenInAdvance, WithoutAnswersTheCautiousOneCounts) {
   EXPECT_EQ(unanswered_, "Really?");
 }
 
+TEST_F(GivenInAdvance, AFolderSaysThatThereIsToBeCopied) {
+  GivenAnswers given;
+  given.folder = QStringLiteral("/copies");
+  EXPECT_EQ(Answer(given, YesNoCancel()), AlertButton::Yes);
+  EXPECT_EQ(unanswered_, "");
+}
+
 TEST_F(GivenInAdvance, AFolderAnswersOnce) {
   GivenAnswers given;
   given.folder = QStringLiteral("/copies");

@@ -3,6 +3,7 @@
 #include <host/catalogue/Catalogue.h>
 #include <host/import/Import.h>
 #include <host/import/ImportPlan.h>
+#include <host/import/ImportQuestions.h>
 #include <host/scan/ImportSources.h>
 #include <support/Doubles.h>
 #include <support/PhotoMaker.h>
@@ -15,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <string>
@@ -32,6 +34,31 @@ class OneFolder : public App::IFolderDialog {
  private:
   const ioPath folder_;
 };
+
+/// A user who wants everything copied, and closes whatever else is asked.
+class SaysYes : public App::IAlerts {
+ public:
+  App::AlertButton Show(const App::Alert& alert) override {
+    return alert.buttons.testFlag(App::AlertButton::Yes) ? App::AlertButton::Yes
+                                                         : App::UnansweredButton(alert.buttons);
+  }
+};
+
+/// Looks, asks and plans as programs do.
+inline ImportPlan PlanOf(GatheredSources sources, const std::vector<PhotoRecord>& photos, bool copyAll,
+                         const std::atomic<bool>* cancel = nullptr) {
+  ImportFacts facts;
+  facts.sources = std::move(sources);
+  facts.copyAll = copyAll;
+  ImportAnswers answers;
+  if (AskReadable(facts, answers)) {
+    LookAtSources(facts, photos, cancel, nullptr);
+    if (AskCopies(facts, answers)) {
+      LookAtFolder(facts, answers, cancel);
+    }
+  }
+  return PlanImport(facts, answers);
+}
 
 /// A card with photos, a folder for copies and a catalogue, with settings of their own.
 class ImportTest : public testing::Test {
@@ -62,14 +89,13 @@ class ImportTest : public testing::Test {
 
   /// Plans as `lumidex import SOURCES --to copies` does.
   ImportPlan PlanTo(const std::vector<ioPath>& sources, const ioPath& folder) {
-    const App::ServiceScope<App::IFolderDialog> scope(std::make_shared<OneFolder>(folder));
-    ImportPlanOptions options;
-    options.copyAll = true;
-    return PlanImport(GatherSources(sources, Gathered::Everything), Stored().Photos(), options, nullptr);
+    const App::ServiceScope<App::IFolderDialog> dialog(std::make_shared<OneFolder>(folder));
+    const App::ServiceScope<App::IAlerts> alerts(std::make_shared<SaysYes>());
+    return PlanOf(GatherSources(sources, Gathered::Everything), Stored().Photos(), true);
   }
   ImportPlan PlanTo(const std::vector<ioPath>& sources) { return PlanTo(sources, Copies()); }
   ImportPlan Plan(const std::vector<ioPath>& sources) {
-    return PlanImport(GatherSources(sources, Gathered::Everything), Stored().Photos(), {}, nullptr);
+    return PlanOf(GatherSources(sources, Gathered::Everything), Stored().Photos(), false);
   }
   ImportResult Carry(const ImportPlan& plan, const ImportOptions& options = {}) {
     return RunImport(plan, Stored(), options, nullptr);

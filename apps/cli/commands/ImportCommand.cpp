@@ -11,7 +11,9 @@
 #include <host/base/PathText.h>
 #include <host/catalogue/Catalogue.h>
 #include <host/import/Import.h>
+#include <host/import/ImportFacts.h>
 #include <host/import/ImportPlan.h>
+#include <host/import/ImportQuestions.h>
 #include <host/scan/ImportSources.h>
 
 #include <glog/logging.h>
@@ -107,9 +109,9 @@ class ImportCommand {
       RecoverIfNeeded(session_);
     }
     view_.sources = roots;
-    const Host::GatheredSources sources = Host::GatherSources(roots, Host::Gathered::Everything);
+    Host::GatheredSources sources = Host::GatherSources(roots, Host::Gathered::Everything);
     view_.found = sources.files.size();
-    Plan(sources, given);
+    Plan(std::move(sources), given);
     if (!arguments_.dryRun && view_.plan.outcome == Outcome::Ready && view_.plan.obstacle.empty() &&
         !(view_.plan.copies.empty() && view_.plan.stays.empty())) {
       Import();
@@ -125,32 +127,42 @@ class ImportCommand {
   }
 
  private:
-  void Plan(const Host::GatheredSources& sources, const GivenAnswers& given) {
-    // A dry run, and one that is declined, makes none.
-    std::vector<Host::PhotoRecord> photos;
-    if (view_.catalogue.exists()) {
-      const auto mode =
-          arguments_.dryRun ? Host::Catalogue::Mode::ReadOnly : Host::Catalogue::Mode::ReadWrite;
-      catalogue_.emplace(view_.catalogue, mode);
-      photos = catalogue_->Photos();
-    }
-    Host::ImportPlanOptions options;
-    options.copyAll = !arguments_.to.empty();
-    options.cancel = &session_.interrupted;
+  void Plan(Host::GatheredSources sources, const GivenAnswers& given) {
+    Host::ImportFacts facts;
+    facts.sources = std::move(sources);
+    facts.copyAll = !arguments_.to.empty();
+    Host::ImportAnswers answers;
+    const std::vector<Host::PhotoRecord> photos = CataloguedPhotos();
     const TerminalQuestions questions(session_, given);
-    {
-      Progress progress(session_.console, Say(Words::tr("Comparing")), Say(Words::tr("files", "of so many")));
-      view_.plan = Host::PlanImport(
-          sources, photos, options,
-          [&progress](std::uint64_t done, std::uint64_t total) { progress.Update(done, total); });
+    if (Host::AskReadable(facts, answers)) {
+      Compare(facts, photos);
+      if (Host::AskCopies(facts, answers)) {
+        Host::LookAtFolder(facts, answers, &session_.interrupted);
+      }
     }
-    if (view_.plan.outcome == Outcome::Declined && !session_.interrupted && !questions.Unanswered().empty()) {
+    if (answers.declined && !session_.interrupted && !questions.Unanswered().empty()) {
       throw Failure("needs-answer", "Nothing was imported, because this question could not be asked: " +
                                         questions.Unanswered() + " Add --yes, --to DIR or --no-copy.");
     }
-    if (session_.interrupted) {
-      view_.plan.outcome = Outcome::Interrupted;
+    facts.interrupted = session_.interrupted;
+    view_.plan = Host::PlanImport(facts, answers);
+  }
+
+  /// None where there is no catalogue: a dry run, and one that is declined, makes none.
+  std::vector<Host::PhotoRecord> CataloguedPhotos() {
+    if (!view_.catalogue.exists()) {
+      return {};
     }
+    const auto mode = arguments_.dryRun ? Host::Catalogue::Mode::ReadOnly : Host::Catalogue::Mode::ReadWrite;
+    catalogue_.emplace(view_.catalogue, mode);
+    return catalogue_->Photos();
+  }
+
+  void Compare(Host::ImportFacts& facts, const std::vector<Host::PhotoRecord>& photos) {
+    Progress progress(session_.console, Say(Words::tr("Comparing")), Say(Words::tr("files", "of so many")));
+    Host::LookAtSources(
+        facts, photos, &session_.interrupted,
+        [&progress](std::uint64_t done, std::uint64_t total) { progress.Update(done, total); });
   }
 
   void Import() {

@@ -2,6 +2,7 @@
 #include <cli/terminal/Question.h>
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/Words.h>
+#include <host/base/PathText.h>
 
 #include <QDir>
 
@@ -143,6 +144,9 @@ class TerminalQuestions::Alerts : public App::IAlerts {
     if (asker_->Given().noCopy && buttons.testFlag(AlertButton::No)) {
       return AlertButton::No;
     }
+    if (!asker_->Given().folder.isEmpty() && buttons.testFlag(AlertButton::Yes)) {
+      return AlertButton::Yes;
+    }
     const AlertButton first =
         alert.defaultButton != AlertButton::None ? alert.defaultButton : App::DefaultButton(buttons);
     if (asker_->Given().yes) {
@@ -169,6 +173,11 @@ class TerminalQuestions::FolderDialog : public App::IFolderDialog {
   explicit FolderDialog(std::shared_ptr<Asker> asker) : asker_(std::move(asker)) {}
 
   QString Ask(const App::FolderQuestion& question) override {
+    return Host::RealFolder(ioPath(Choose(question))).qstring();
+  }
+
+ private:
+  QString Choose(const App::FolderQuestion& question) {
     const QString given = std::exchange(asker_->Given().folder, QString());
     if (!given.isEmpty() || wasGiven_) {
       // Asked again, the given one was refused.
@@ -192,7 +201,6 @@ class TerminalQuestions::FolderDialog : public App::IFolderDialog {
     }
   }
 
- private:
   const std::shared_ptr<Asker> asker_;
   bool wasGiven_ = false;
 };

@@ -1,113 +1,263 @@
 #include "ImportFixture.h"
+#include "ImportNames.h"
 
+#include <LumidexUtil/CheckFilesToCopyBeforeAdd.h>
+#include <host/base/PathText.h>
+#include <host/shots/ShotNames.h>
 #include <support/LeftOut.h>
-#include <support/Unprivileged.h>
-
-#ifndef _WIN32
-#include "BlockDevices.h"
-
-#include <sys/stat.h>
-#endif
 
 namespace Zenvora::Lumidex::Host {
 namespace {
 
-using App::AlertButton;
 using Outcome = ImportPlan::Outcome;
+using LeftKind = LeftFile::Kind;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
-using Zenvora::Test::FakeRemovableStorage;
-using Zenvora::Test::ScriptedAlerts;
-using Zenvora::Test::ScriptedFolderDialog;
 
-class ImportPlanning : public ImportTest {
+/// An import of /card to /copies, of which no disk knows.
+class PurePlan : public testing::Test {
  protected:
-  /// Plans with the card being removable and a user who gives the answers.
-  ImportPlan PlanWith(const std::vector<AlertButton>& answers, const std::vector<QString>& folders) {
-    const auto storage = std::make_shared<FakeRemovableStorage>();
-    storage->roots = {Card()};
-    const App::ServiceScope<App::IRemovableStorage> storageScope(storage);
-    const App::ServiceScope<App::IAlerts> alerts(std::make_shared<ScriptedAlerts>(answers));
-    const App::ServiceScope<App::IFolderDialog> dialog(std::make_shared<ScriptedFolderDialog>(folders));
-    return Plan({Card()});
+  /// Returns the source. `shot`: 0: one of its own.
+  std::size_t Add(const std::string& path, std::size_t shot = 0) {
+    ImportSource source;
+    source.path = ioPath(path);
+    source.state.kind = FileState::Kind::File;
+    source.state.size = 100;
+    source.isPhoto = IsPhotoName(source.path);
+    source.leads = source.isPhoto || IsFilmName(source.path.filename().utf8string());
+    source.shot = shot != 0 ? shot : 1000 + facts_.sources.files.size();
+    facts_.sources.files.push_back(source);
+    return facts_.sources.files.size() - 1;
   }
-  QString CopiesText() const { return Copies().qstring(); }
+  std::size_t Copy(const std::string& path, std::size_t shot = 0) {
+    answers_.folder = ioPath("/copies");
+    answers_.files.push_back({Add(path, shot), true});
+    return answers_.files.back().source;
+  }
+  void Stay(const std::string& path) { answers_.files.push_back({Add(path), false}); }
+  void Know(KnownKind kind, const std::string& path, const std::string& other) {
+    facts_.known.push_back({kind, Add(path), ioPath(other)});
+  }
+  void Leave(LeftKind kind, const std::string& path) {
+    facts_.sources.left.push_back({kind, ioPath(path), "", false});
+  }
+  ImportPlan Plan() const { return PlanImport(facts_, answers_); }
+
+  static std::vector<ioPath> Targets(const ImportPlan& plan) {
+    std::vector<ioPath> targets;
+    for (const ImportCopy& copy : plan.copies) {
+      targets.push_back(copy.target);
+    }
+    return targets;
+  }
+
+  ImportFacts facts_;
+  ImportAnswers answers_;
 };
 
-TEST_F(ImportPlanning, LeavesWhatLiesOnAFixedDiskAndAsksNobody) {
-  const auto photos = MakePhotos("card", 3);
-  const App::ServiceScope<App::IAlerts> nobody(std::make_shared<ScriptedAlerts>());
-  const App::ServiceScope<App::IRemovableStorage> fixed(std::make_shared<FakeRemovableStorage>());
-  const ImportPlan plan = Plan({Card()});
+TEST_F(PurePlan, IsEmptyWithoutSources) {
+  const ImportPlan plan = Plan();
   EXPECT_EQ(plan.outcome, Outcome::Ready);
-  EXPECT_THAT(plan.copies, IsEmpty());
-  EXPECT_EQ(plan.stays, photos);
+  EXPECT_TRUE(plan.folder.empty());
+  EXPECT_FALSE(plan.copiesOff);
 }
 
-TEST_F(ImportPlanning, CopiesFromRemovableStorageWhenTheUserWantsIt) {
-  MakePhotos("card", 3);
-  const ImportPlan plan = PlanWith({AlertButton::Yes}, {CopiesText()});
-  EXPECT_EQ(plan.outcome, Outcome::Ready);
-  EXPECT_EQ(plan.folder, Copies());
-  EXPECT_THAT(TargetNames(plan), ElementsAre("IMG_1000.JPG", "IMG_1001.JPG", "IMG_1002.JPG"));
+TEST_F(PurePlan, CopiesAndLeavesAsTheAnswersSay) {
+  Copy("/card/b.jpg");
+  Stay("/home/c.jpg");
+  Copy("/card/a.mp4");
+  Stay("/home/d.mp4");
+  Stay("/home/d.xmp");
+  const ImportPlan plan = Plan();
+  EXPECT_EQ(plan.folder, ioPath("/copies"));
+  EXPECT_THAT(Targets(plan), ElementsAre(ioPath("/copies/b.jpg"), ioPath("/copies/a.mp4")))
+      << "in the order of the answers";
+  EXPECT_THAT(plan.stays, ElementsAre(ioPath("/home/c.jpg"))) << "the catalogue takes photos only";
+  EXPECT_EQ(plan.bytes, 200U);
+  EXPECT_EQ(plan.photosInPlace, 1U);
+  EXPECT_EQ(plan.filmsInPlace, 1U);
+}
+
+TEST_F(PurePlan, HoldsNothingThatWasDeclinedOrNotLookedAt) {
+  const struct {
+    bool declined;
+    bool interrupted;
+    Outcome outcome;
+  } kCases[] = {{true, false, Outcome::Declined},
+                {false, true, Outcome::Interrupted},
+                {true, true, Outcome::Interrupted},
+                {false, false, Outcome::Ready}};
+  Copy("/card/a.jpg");
+  Leave(LeftKind::Hidden, "/card/.b.jpg");
+  for (const auto& [declined, interrupted, outcome] : kCases) {
+    answers_.declined = declined;
+    facts_.interrupted = interrupted;
+    const ImportPlan plan = Plan();
+    EXPECT_EQ(plan.outcome, outcome);
+    EXPECT_EQ(plan.copies.empty(), outcome != Outcome::Ready);
+    EXPECT_EQ(plan.left.empty(), outcome == Outcome::Ready);
+  }
+}
+
+TEST_F(PurePlan, LeavesWhatIsKnown) {
+  Know(KnownKind::Catalogued, "/card/a.jpg", "/home/a.jpg");
+  Know(KnownKind::Repeated, "/card/b.jpg", "/card/c.jpg");
+  answers_.files.push_back({Copy("/card/d.jpg"), true});
+  facts_.known.push_back({KnownKind::Copied, answers_.files.back().source, ioPath("/copies/d.jpg")});
+  const ImportPlan plan = Plan();
+  EXPECT_THAT(plan.copies, IsEmpty());
+  EXPECT_TRUE(plan.folder.empty());
+  ASSERT_THAT(plan.known, SizeIs(3));
+  EXPECT_EQ(plan.known[2].path, ioPath("/card/d.jpg"));
+  EXPECT_THAT(plan.stays, ElementsAre(ioPath("/copies/d.jpg"))) << "a killed run may not have taken it in";
+}
+
+TEST_F(PurePlan, TellsWhatOfTheLeftFilesMatters) {
+  const struct {
+    const char* what;
+    bool removable;
+    bool copyAll;
+    bool copied;
+    bool copiesOff;
+    bool declined;
+    std::size_t left;  ///< The hidden one is named only where the source is copied off.
+  } kCases[] = {{"fixed", false, false, false, false, false, 1},
+                {"a card", true, false, true, true, false, 2},
+                {"a card, and the user wants no copies", true, false, false, false, true, 1},
+                {"told to copy all", false, true, true, true, false, 2},
+                {"lies in the folder that all is copied to", false, true, false, false, true, 1}};
+  for (const auto& [what, removable, copyAll, copied, copiesOff, declined, left] : kCases) {
+    facts_ = {};
+    answers_ = {};
+    if (copied) {
+      Copy("/card/a.jpg");
+    } else {
+      Stay("/card/a.jpg");
+    }
+    Leave(LeftKind::Hidden, "/card/.b.jpg");
+    Leave(LeftKind::NotAPhoto, "/card/notes.txt");
+    facts_.copyAll = copyAll;
+    if (removable) {
+      facts_.removable = {ioPath("/card")};
+    }
+    const ImportPlan plan = Plan();
+    EXPECT_EQ(plan.copiesOff, copiesOff) << what;
+    EXPECT_EQ(plan.copyDeclined, declined) << what;
+    ASSERT_THAT(plan.left, SizeIs(left)) << what;
+    EXPECT_EQ(plan.left.back().copiedOff, copiesOff) << what;
+  }
+}
+
+TEST_F(PurePlan, NamesWhatCannotBeRead) {
+  facts_.unreadable = {Add("/card/a.jpg")};
+  const ImportPlan plan = Plan();
+  ASSERT_THAT(plan.left, SizeIs(1));
+  EXPECT_EQ(plan.left[0].kind, LeftKind::Unreadable);
   EXPECT_THAT(plan.stays, IsEmpty());
 }
 
-TEST_F(ImportPlanning, TakesPhotosInWhereTheyLieWhenTheUserWantsNoCopies) {
-  const auto photos = MakePhotos("card", 3);
-  const ImportPlan plan = PlanWith({AlertButton::No}, {});
+TEST_F(PurePlan, TakesInWhatLiesInTheFolderOfCopiesByWhicheverWay) {
+  facts_.folder.holds = {Copy("/card/link/a.jpg")};
+  facts_.copyAll = true;
+  const ImportPlan plan = Plan();
   EXPECT_THAT(plan.copies, IsEmpty());
-  EXPECT_EQ(plan.stays, photos);
+  EXPECT_THAT(plan.stays, ElementsAre(ioPath("/card/link/a.jpg")));
+  EXPECT_TRUE(plan.copiesOff) << "nobody declined anything";
 }
 
-TEST_F(ImportPlanning, DoesNothingWhenTheUserCancels) {
-  MakePhotos("card", 3);
-  EXPECT_EQ(PlanWith({AlertButton::Cancel}, {}).outcome, Outcome::Declined);
-  EXPECT_EQ(PlanWith({AlertButton::Yes}, {QString()}).outcome, Outcome::Declined);
+TEST_F(PurePlan, NeedsRoomAndAFolder) {
+  const struct {
+    std::int64_t free;
+    const char* obstacle;
+    const char* told;
+  } kCases[] = {{-1, "", ""},
+                {200, "", ""},
+                {199, "", "not enough space in /copies: 200 bytes are needed, 199 are free."},
+                {0, "", "0 are free"},
+                {0, "/copies is not a folder.", "/copies is not a folder."}};
+  Copy("/card/a.jpg");
+  Copy("/card/b.jpg");
+  for (const auto& [free, obstacle, told] : kCases) {
+    facts_.folder.freeBytes = free;
+    facts_.folder.obstacle = obstacle;
+    EXPECT_THAT(Plan().obstacle, HasSubstr(told)) << free;
+    EXPECT_EQ(Plan().obstacle.empty(), *told == '\0') << free;
+  }
 }
 
-TEST_F(ImportPlanning, DoesNothingWhereNobodyCanBeAsked) {
-  MakePhotos("card", 1);
-  const auto storage = std::make_shared<FakeRemovableStorage>();
+TEST(FreeNames, AreTakenByNothing) {
+  const struct {
+    std::vector<ioPath> there;
+    bool ignoresCase;
+    const char* name;
+    const char* given;
+  } kCases[] = {{{}, false, "IMG.jpg", "IMG.jpg"},
+                {{ioPath("IMG.jpg")}, false, "IMG.jpg", "IMG(1).jpg"},
+                {{ioPath("IMG.jpg"), ioPath("IMG(1).jpg")}, false, "IMG.jpg", "IMG(1)(3).jpg"},
+                {{ioPath("img.JPG")}, false, "IMG.jpg", "IMG.jpg"},
+                {{ioPath("img.JPG")}, true, "IMG.jpg", "IMG(1).jpg"},
+                {{ioPath("IMG")}, false, "IMG", "IMG(1)."},
+                {{ioPath("a.b.jpg")}, false, "a.b.jpg", "a.b(1).jpg"},
+                {{ioPath(".jpg")}, false, ".jpg", "(1).jpg"}};
+  for (const auto& [there, ignoresCase, name, given] : kCases) {
+    CopyFolder folder;
+    folder.names = there;
+    folder.ignoresCase = ignoresCase;
+    FreeNames names(folder);
+    EXPECT_EQ(names.Give(ioPath(name)), ioPath(given));
+    EXPECT_NE(names.Give(ioPath(name)), ioPath(given)) << "it is taken now";
+  }
+}
+
+TEST(FreeNames, AreTakenInWhicheverCaseOnceGiven) {
+  FreeNames names({});
+  EXPECT_EQ(names.Give(ioPath("IMG.jpg")), ioPath("IMG.jpg"));
+  EXPECT_EQ(names.Give(ioPath("img.JPG")), ioPath("img(1).JPG"));
+  names.Take(ioPath("OTHER.jpg"));
+  EXPECT_EQ(names.Give(ioPath("other.jpg")), ioPath("other(1).jpg"));
+}
+
+class ImportPlanTest : public ImportTest {};
+
+TEST_F(ImportPlanTest, GivesTheNamesThatTheLibraryGives) {
+  const char* const kNames[] = {"IMG.jpg", "img.JPG",    "README",   "a.b.jpg",
+                                ".jpg",    "\u00C4.jpg", "x(1).jpg", "x.jpg"};
+  for (const char* const folder : {"card/1/", "card/2/", "card/3/", "copies/"}) {
+    for (const char* const name : kNames) {
+      tree.Write(folder + std::string(name), folder + std::string(name));
+    }
+  }
+  QList<QString> asked;
+  for (const char* const folder : {"card/1/", "card/2/", "card/3/"}) {
+    for (const char* const name : kNames) {
+      asked.append(ReversibleText(tree.Path(folder + std::string(name))));
+    }
+  }
+  const auto storage = std::make_shared<Zenvora::Test::FakeRemovableStorage>();
   storage->roots = {Card()};
-  const App::ServiceScope<App::IRemovableStorage> scope(storage);
-  EXPECT_EQ(Plan({Card()}).outcome, Outcome::Declined);
+  const App::ServiceScope<App::IRemovableStorage> storageScope(storage);
+  const App::ServiceScope<App::IAlerts> alerts(std::make_shared<SaysYes>());
+  const App::ServiceScope<App::IFolderDialog> dialog(std::make_shared<OneFolder>(Copies()));
+  const auto pairs = Util::CheckFilesToCopyBeforeAddDialog(asked);
+  ASSERT_EQ(pairs.size(), asked.size());
+  CopyFolder folder;
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(Copies().for_system(), error)) {
+    folder.names.emplace_back(entry.path().filename());
+  }
+  ASSERT_FALSE(error);
+#ifdef _WIN32
+  folder.ignoresCase = true;
+#endif
+  FreeNames names(folder);
+  for (const auto& [source, target] : pairs) {
+    EXPECT_EQ(names.Give(ioPath(source).filename()), ioPath(target).filename());
+  }
 }
 
-TEST_F(ImportPlanning, RefusesAFolderThatCanBePulledOut) {
-  MakePhotos("card", 1);
-  tree.MakeFolder("card/more");
-  const ImportPlan plan =
-      PlanWith({AlertButton::Yes, AlertButton::Ok}, {tree.Path("card/more").qstring(), CopiesText()});
-  EXPECT_EQ(plan.folder, Copies());
-}
-
-TEST_F(ImportPlanning, MakesAndRemembersNothing) {
-  MakePhotos("card", 1);
-  PlanWith({AlertButton::Yes}, {CopiesText()});
-  EXPECT_FALSE(Copies().exists());
-  EXPECT_EQ(App::Services::Current().Get<App::ISettingsManager>()->GetString(
-                App::SettingsKey::kLastUsedCopyDirectory, "nothing"),
-            "nothing");
-}
-
-TEST_F(ImportPlanning, CopiesEverythingWhenToldWithoutAsking) {
-  MakePhotos("card", 2);
-  const App::ServiceScope<App::IAlerts> nobody(std::make_shared<ScriptedAlerts>());
-  EXPECT_THAT(PlanTo({Card()}).copies, SizeIs(2));
-}
-
-TEST_F(ImportPlanning, LeavesWhatLiesInTheFolderOfCopies) {
-  MakePhoto("copies/a.jpg", 1);
-  MakePhoto("card/b.jpg", 2);
-  const ImportPlan plan = PlanTo({Card(), Copies()});
-  EXPECT_THAT(TargetNames(plan), ElementsAre("b.jpg"));
-  EXPECT_THAT(plan.stays, ElementsAre(tree.Path("copies/a.jpg")));
-}
-
-TEST_F(ImportPlanning, NamesAsTheLibraryDoes) {
+TEST_F(ImportPlanTest, NamesAsTheLibraryDoes) {
   MakePhoto("card/a/IMG.jpg", 3);
   MakePhoto("card/b/img.JPG", 4);
   EXPECT_THAT(TargetNames(PlanTo({Card()})), ElementsAre("IMG.jpg", "img(1).JPG"));
@@ -116,7 +266,7 @@ TEST_F(ImportPlanning, NamesAsTheLibraryDoes) {
   EXPECT_THAT(TargetNames(PlanTo({tree.Path("card/a")})), ElementsAre("IMG(1)(3).jpg"));
 }
 
-TEST_F(ImportPlanning, TellsOfShotsThatWouldFallApart) {
+TEST_F(ImportPlanTest, TellsOfShotsThatWouldFallApart) {
   for (const char* const name : {"card/IMG.CR2", "card/IMG.JPG", "card/IMG.xmp"}) {
     tree.Write(name, name);
   }
@@ -127,7 +277,7 @@ TEST_F(ImportPlanning, TellsOfShotsThatWouldFallApart) {
   EXPECT_THAT(TargetNames(plan), testing::UnorderedElementsAre("IMG.CR2", "IMG(1).JPG", "IMG.xmp"));
 }
 
-TEST_F(ImportPlanning, TellsNothingOfShotsThatStayTogether) {
+TEST_F(ImportPlanTest, TellsNothingOfShotsThatStayTogether) {
   for (const char* const name : {"card/IMG.CR2", "card/IMG.JPG"}) {
     tree.Write(name, name);
     tree.Write(std::string("copies") + (name + 4), "of another shot");
@@ -137,76 +287,7 @@ TEST_F(ImportPlanning, TellsNothingOfShotsThatStayTogether) {
   EXPECT_THAT(plan.splits, IsEmpty());
 }
 
-TEST_F(ImportPlanning, KnowsTheContentOfTheCatalogueUnderAnyName) {
-  MakePhoto("pictures/trip.jpg", 7);
-  Scan(Stored(), {tree.Path("pictures")}, {}, nullptr);
-  MakePhoto("card/IMG_0007.JPG", 7);
-  MakePhoto("card/IMG_0008.JPG", 8);
-  const ImportPlan plan = PlanTo({Card()});
-  EXPECT_THAT(TargetNames(plan), ElementsAre("IMG_0008.JPG"));
-  ASSERT_THAT(plan.known, SizeIs(1));
-  EXPECT_EQ(plan.known[0].kind, KnownFile::Kind::Catalogued);
-  EXPECT_EQ(plan.known[0].other, tree.Path("pictures/trip.jpg"));
-}
-
-TEST_F(ImportPlanning, DoesNotTrustACatalogueWhosePhotosAreGoneOrChanged) {
-  MakePhoto("pictures/gone.jpg", 1);
-  const ioPath damaged = MakePhoto("pictures/damaged.jpg", 2);
-  Scan(Stored(), {tree.Path("pictures")}, {}, nullptr);
-  ASSERT_TRUE(tree.Path("pictures/gone.jpg").remove());
-  std::string content = Zenvora::Test::ReadFile(damaged);
-  content.back() = static_cast<char>(content.back() + 1);
-  tree.Write("pictures/damaged.jpg", content);
-  MakePhoto("card/a.jpg", 1);
-  MakePhoto("card/b.jpg", 2);
-  EXPECT_THAT(PlanTo({Card()}).copies, SizeIs(2));
-}
-
-TEST_F(ImportPlanning, TakesACataloguedPhotoOnTheCardForNoCopy) {
-  MakePhotos("card", 1);
-  Scan(Stored(), {Card()}, {}, nullptr);
-  EXPECT_THAT(PlanWith({AlertButton::Yes}, {CopiesText()}).copies, SizeIs(1));
-}
-
-TEST_F(ImportPlanning, CopiesOneOfTwoSourcesOfOneContentAlsoWhenBothAreCatalogued) {
-  MakePhoto("card/1/a.jpg", 1);
-  MakePhoto("card/2/b.jpg", 1);
-  Scan(Stored(), {Card()}, {}, nullptr);
-  const ImportPlan plan = PlanTo({Card()});
-  EXPECT_THAT(TargetNames(plan), ElementsAre("a.jpg"));
-  ASSERT_THAT(plan.known, SizeIs(1));
-  EXPECT_EQ(plan.known[0].kind, KnownFile::Kind::Repeated);
-}
-
-TEST_F(ImportPlanning, TakesALinkToAnotherCardForNoCopy) {
-  MakePhoto("card/a.jpg", 1);
-  const ioPath other = MakePhoto("other/a.jpg", 1);
-  tree.MakeFolder("pictures");
-  LUMIDEX_LINK_OR_SKIP(other, tree.Path("pictures/link.jpg"));
-  Scan(Stored(), {tree.Path("pictures")}, {}, nullptr);
-  ASSERT_THAT(Stored().Photos(), SizeIs(1));
-  const auto storage = std::make_shared<FakeRemovableStorage>();
-  storage->roots = {tree.Path("other")};
-  const App::ServiceScope<App::IRemovableStorage> scope(storage);
-  EXPECT_THAT(PlanTo({Card()}).copies, SizeIs(1));
-}
-
-TEST_F(ImportPlanning, LeavesWhatLiesInTheFolderOfCopiesByWhicheverWay) {
-  const ioPath photo = MakePhoto("copies/a.jpg", 1);
-  tree.MakeFolder("card");
-  LUMIDEX_LINK_OR_SKIP(Copies(), tree.Path("link"));
-  LUMIDEX_LINK_OR_SKIP(Copies(), tree.Path("card/below"));
-  const ImportPlan throughTarget = PlanTo({Copies()}, tree.Path("link"));
-  EXPECT_THAT(throughTarget.copies, IsEmpty());
-  EXPECT_THAT(throughTarget.stays, ElementsAre(photo));
-  const ImportPlan throughSource = PlanTo({Card()});
-  EXPECT_THAT(throughSource.copies, IsEmpty());
-  EXPECT_THAT(throughSource.stays, SizeIs(1));
-  const ImportPlan below = PlanTo({Copies()}, tree.Path("link/new/../new2"));
-  EXPECT_EQ(below.folder, tree.Path("copies/new2"));
-}
-
-TEST_F(ImportPlanning, ShortensNamesThatTheCountMakesTooLong) {
+TEST_F(ImportPlanTest, ShortensNamesThatTheCountMakesTooLong) {
   const auto nameOf = [](int letters, const char* end) {
     return std::string(static_cast<std::size_t>(letters), 'x') + end;
   };
@@ -220,7 +301,7 @@ TEST_F(ImportPlanning, ShortensNamesThatTheCountMakesTooLong) {
   EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
 }
 
-TEST_F(ImportPlanning, TellsOfFilesThatWouldJoinAnotherShot) {
+TEST_F(ImportPlanTest, TellsOfFilesThatWouldJoinAnotherShot) {
   tree.Write("copies/IMG.CR2", "of another shot");
   tree.Write("card/IMG.jpg", "one");
   tree.Write("card/IMG.xmp", "its settings");
@@ -231,7 +312,7 @@ TEST_F(ImportPlanning, TellsOfFilesThatWouldJoinAnotherShot) {
   EXPECT_THAT(plan.joins[0].others, ElementsAre(Copies() / "IMG.CR2"));
 }
 
-TEST_F(ImportPlanning, TellsOfShotsOfTwoFoldersThatWouldBecomeOne) {
+TEST_F(ImportPlanTest, TellsOfShotsOfTwoFoldersThatWouldBecomeOne) {
   tree.Write("card/1/IMG.CR2", "one");
   tree.Write("card/2/img.jpg", "two");
   const ImportPlan plan = PlanTo({Card()});
@@ -240,7 +321,7 @@ TEST_F(ImportPlanning, TellsOfShotsOfTwoFoldersThatWouldBecomeOne) {
   EXPECT_THAT(plan.joins[0].others, ElementsAre(Copies() / "IMG.CR2"));
 }
 
-TEST_F(ImportPlanning, TellsNothingOfFilesThatJoinTheirOwnShot) {
+TEST_F(ImportPlanTest, TellsNothingOfFilesThatJoinTheirOwnShot) {
   MakePhoto("card/IMG.jpg", 1);
   tree.Write("card/IMG.xmp", "settings");
   Carry(PlanTo({Card()}));
@@ -251,146 +332,15 @@ TEST_F(ImportPlanning, TellsNothingOfFilesThatJoinTheirOwnShot) {
   EXPECT_THAT(plan.joins, IsEmpty());
 }
 
-TEST_F(ImportPlanning, TakesAPhotoOnAnotherCardForNoCopy) {
-  MakePhoto("card/a.jpg", 1);
-  MakePhoto("other/a.jpg", 1);
-  Scan(Stored(), {tree.Path("other")}, {}, nullptr);
-  const auto storage = std::make_shared<FakeRemovableStorage>();
-  storage->roots = {tree.Path("other")};
-  const App::ServiceScope<App::IRemovableStorage> scope(storage);
-  EXPECT_THAT(PlanTo({Card()}).copies, SizeIs(1));
-}
-
-TEST_F(ImportPlanning, CopiesOneOfTwoSourcesOfOneContent) {
-  MakePhoto("card/a.jpg", 1);
-  MakePhoto("card/b.jpg", 1);
-  const ImportPlan plan = PlanTo({Card()});
-  EXPECT_THAT(TargetNames(plan), ElementsAre("a.jpg"));
-  ASSERT_THAT(plan.known, SizeIs(1));
-  EXPECT_EQ(plan.known[0].kind, KnownFile::Kind::Repeated);
-}
-
-TEST_F(ImportPlanning, CopiesSidecarsOfOneContentAll) {
-  for (const char* const name : {"card/a.xmp", "card/b.xmp"}) {
-    tree.Write(name, "the same");
-  }
-  MakePhoto("card/a.jpg", 1);
-  MakePhoto("card/b.jpg", 2);
-  EXPECT_THAT(PlanTo({Card()}).copies, SizeIs(4));
-}
-
-TEST_F(ImportPlanning, KnowsSidecarsBesideTheKnownPhoto) {
-  MakePhoto("pictures/Trip 1.jpg", 1);
-  tree.Write("pictures/Trip 1.xmp", "stars");
-  Scan(Stored(), {tree.Path("pictures")}, {}, nullptr);
-  MakePhoto("card/IMG.jpg", 1);
-  tree.Write("card/IMG.xmp", "stars");
-  EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
-  tree.Write("card/IMG.xmp", "STARS");
-  EXPECT_THAT(TargetNames(PlanTo({Card()})), ElementsAre("IMG.xmp"));
-}
-
-TEST_F(ImportPlanning, SaysThatAFileIsInTheWayOfTheFolder) {
-  MakePhotos("card", 1);
-  tree.Write("copies", "a file");
-  EXPECT_THAT(PlanTo({Card()}).obstacle, HasSubstr("is not a folder"));
-  EXPECT_THAT(PlanTo({Card()}, tree.Path("copies/below")).obstacle, testing::Not(IsEmpty()));
-}
-
-TEST_F(ImportPlanning, SaysThatThereIsNoRoom) {
-  MakePhotos("card", 2);
-  const auto disk = std::make_shared<Zenvora::Test::FakeDiskSpace>();
-  disk->otherwise = 100;
-  const App::ServiceScope<App::IDiskSpace> scope(disk);
-  const ImportPlan plan = PlanTo({Card()});
-  EXPECT_THAT(plan.obstacle, HasSubstr("not enough space"));
-  disk->otherwise = static_cast<std::int64_t>(plan.bytes);
-  EXPECT_EQ(PlanTo({Card()}).obstacle, "") << "what just fits fits";
-}
-
-TEST_F(ImportPlanning, SaysThatNothingMayBeMadeInTheFolderAlsoWhenAnotherDiskIsFull) {
-  MakePhotos("card", 2);
-  tree.MakeFolder("copies");
-  const auto disk = std::make_shared<Zenvora::Test::FakeDiskSpace>();
-  disk->free[Copies()] = 1'000'000'000;
-  disk->otherwise = 100;
-  const App::ServiceScope<App::IDiskSpace> diskScope(disk);
-  const auto access = std::make_shared<Zenvora::Test::FakeFolderAccess>();
-  access->closed = {Copies()};
-  const App::ServiceScope<App::IFolderAccess> accessScope(access);
-  EXPECT_THAT(PlanTo({Card()}).obstacle, HasSubstr("permission"));
-}
-
-TEST_F(ImportPlanning, StopsWhenInterrupted) {
-  MakePhotos("card", 2);
-  const std::atomic<bool> cancel{true};
-  ImportPlanOptions options;
-  options.cancel = &cancel;
-  EXPECT_EQ(PlanImport(GatherSources({Card()}), {}, options, nullptr).outcome, Outcome::Interrupted);
-}
-
-TEST_F(ImportPlanning, HasNothingToDoWithoutPhotos) {
-  tree.Write("card/notes.txt", "x");
-  const ImportPlan plan = Plan({Card()});
-  EXPECT_EQ(plan.outcome, Outcome::Ready);
-  EXPECT_THAT(plan.copies, IsEmpty());
-  EXPECT_THAT(plan.stays, IsEmpty());
-}
-
 #ifdef _WIN32
 
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, AsksAboutFilesThatCannotBeRead, Zenvora::Test::kAccessLists);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, KeepsNamesThatAreNoText, Zenvora::Test::kNamesAreText);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, CutsNamesBetweenCharacters,
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanTest, CutsNamesBetweenCharacters,
                               "lengths count in characters there, but for rare ones");
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, FindsFreeNamesThatAreNoTextToo, Zenvora::Test::kNamesAreText);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanning, SeesADeviceByWhatTheKernelTells,
-                              "devices are told there by themselves");
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportPlanTest, FindsFreeNamesThatAreNoTextToo, Zenvora::Test::kNamesAreText);
 
 #else
 
-TEST_F(ImportPlanning, AsksAboutFilesThatCannotBeRead) {
-  const auto photos = MakePhotos("card", 3);
-  chmod(photos[1].native().c_str(), 0);
-  Zenvora::Test::LetEverybodyIn(tree.Path());
-  const GatheredSources sources = GatherSources({Card()});
-  const auto planAs = [&](AlertButton answer) {
-    return [&, answer] {
-      const auto alerts = std::make_shared<ScriptedAlerts>(std::vector<AlertButton>{answer});
-      const App::ServiceScope<App::IAlerts> scope(alerts);
-      const ImportPlan plan = PlanImport(sources, {}, {}, nullptr);
-      const bool asked = alerts->shown.size() == 1;
-      return asked && (answer == AlertButton::Ok
-                           ? plan.stays.size() == 2 && plan.left.size() == 1 && plan.left[0].path == photos[1]
-                           : plan.outcome == Outcome::Declined);
-    };
-  };
-  EXPECT_TRUE(Zenvora::Test::AskAsNobody(planAs(AlertButton::Ok)));
-  EXPECT_TRUE(Zenvora::Test::AskAsNobody(planAs(AlertButton::Cancel)));
-}
-
-TEST_F(ImportPlanning, KeepsNamesThatAreNoText) {
-  for (const char* const name :
-       {"card/a\xFF.jpg", "card/a\x80.jpg", "card/\xD0\xB1.jpg", "card/two\nlines.jpg"}) {
-    tree.Write(name, name);
-  }
-  const auto storage = std::make_shared<FakeRemovableStorage>();
-  storage->roots = {Card()};
-  for (const bool all : {false, true}) {
-    const App::ServiceScope<App::IRemovableStorage> scope(storage);
-    const App::ServiceScope<App::IAlerts> alerts(std::make_shared<ScriptedAlerts>(
-        all ? std::vector<AlertButton>{} : std::vector<AlertButton>{AlertButton::Yes}));
-    const App::ServiceScope<App::IFolderDialog> dialog(
-        std::make_shared<ScriptedFolderDialog>(std::vector<QString>{CopiesText()}));
-    ImportPlanOptions options;
-    options.copyAll = all;
-    const ImportPlan plan = PlanImport(GatherSources({Card()}), {}, options, nullptr);
-    EXPECT_THAT(TargetNames(plan),
-                testing::UnorderedElementsAre("a\xFF.jpg", "a\x80.jpg", "\xD0\xB1.jpg", "two\nlines.jpg"));
-  }
-}
-
-TEST_F(ImportPlanning, CutsNamesBetweenCharacters) {
+TEST_F(ImportPlanTest, CutsNamesBetweenCharacters) {
   std::string base;
   for (int i = 0; i < 125; ++i) {
     base += "\xD0\xB1";
@@ -404,69 +354,13 @@ TEST_F(ImportPlanning, CutsNamesBetweenCharacters) {
   EXPECT_EQ(Carry(plan).copied, 3U);
 }
 
-TEST_F(ImportPlanning, FindsFreeNamesThatAreNoTextToo) {
+TEST_F(ImportPlanTest, FindsFreeNamesThatAreNoTextToo) {
   tree.Write("copies/a\xFF.jpg", "of another photo");
   tree.Write("copies/a\xFF(1).jpg", "of a third");
   tree.Write("card/a\xFF.jpg", "one");
   const ImportPlan plan = PlanTo({Card()});
   EXPECT_THAT(TargetNames(plan), ElementsAre("a\xFF(1)(3).jpg"));
   EXPECT_EQ(Carry(plan).copied, 1U);
-}
-
-/// What the kernel tells of a stick on USB that is mounted where the card is.
-class DescribedStorage : public App::IRemovableStorage {
- public:
-  explicit DescribedStorage(const Zenvora::Test::TempTree& tree) : tree_(tree) {
-    Device("pci0/ata1/host0/block/sda", "8:0", "scsi");
-    Device("pci0/usb1/1-1/host2/block/sdb", "8:16", "scsi");
-    Link("sys/devices/pci0/usb1/1-1/subsystem", "sys/bus/usb");
-    tree_.Write("sys/devices/pci0/usb1/1-1/removable", "removable\n");
-    mounts_ = Tavolin::ReadMounts("21 1 8:0 / / rw - ext4 /dev/sda rw\n22 21 8:16 / " +
-                                  tree_.Path("card").utf8string() + " rw - vfat /dev/sdb rw\n");
-  }
-  std::vector<ioPath> Removable(const std::vector<ioPath>& folders) const override {
-    Tavolin::BlockDevices devices(tree_.Path("sys"), tree_.Path("udev"));
-    std::vector<ioPath> removable;
-    for (const ioPath& folder : folders) {
-      const std::string place = folder.utf8string();
-      const Tavolin::Mount* const mount = Tavolin::FindMount(mounts_, place);
-      if (mount != nullptr && devices.IsRemovable(*mount, place, Tavolin::FindMount(mounts_, "/"))) {
-        removable.push_back(folder);
-      }
-    }
-    return removable;
-  }
-
- private:
-  void Device(const std::string& place, const std::string& numbers, const std::string& bus) {
-    const ioPath folder = ioPath("sys/devices") / ioPath(place);
-    tree_.Write(folder / "dev", numbers + "\n");
-    tree_.Write(folder / "removable", "0\n");
-    Link("sys/dev/block/" + numbers, folder);
-    Link(ioPath("sys/class/block") / folder.filename(), folder);
-    Link(folder.parent_path().parent_path() / "subsystem", ioPath("sys/bus") / ioPath(bus));
-  }
-  void Link(const ioPath& link, const ioPath& target) {
-    tree_.MakeFolder(link.parent_path());
-    tree_.MakeFolder(target);
-    EXPECT_TRUE(Zenvora::Test::MakeLink(tree_.Path(target), tree_.Path(link)));
-  }
-
-  const Zenvora::Test::TempTree& tree_;
-  std::vector<Tavolin::Mount> mounts_;
-};
-
-TEST_F(ImportPlanning, SeesADeviceByWhatTheKernelTells) {
-  MakePhoto("card/DCIM/a.jpg", 1);
-  MakePhoto("pictures/b.jpg", 2);
-  const App::ServiceScope<App::IRemovableStorage> storage(std::make_shared<DescribedStorage>(tree));
-  const App::ServiceScope<App::IAlerts> alerts(
-      std::make_shared<ScriptedAlerts>(std::vector<AlertButton>{AlertButton::Yes, AlertButton::Ok}));
-  const App::ServiceScope<App::IFolderDialog> dialog(std::make_shared<ScriptedFolderDialog>(
-      std::vector<QString>{tree.Path("card/copies").qstring(), CopiesText()}));
-  const ImportPlan plan = Plan({Card(), tree.Path("pictures")});
-  EXPECT_THAT(TargetNames(plan), ElementsAre("a.jpg"));
-  EXPECT_THAT(plan.stays, ElementsAre(tree.Path("pictures/b.jpg")));
 }
 
 #endif

@@ -527,9 +527,8 @@ TEST_F(ImportRunning, SaysWhoMayNotWriteInTheFolder) {
   const bool told = Zenvora::Test::AskAsNobody([&] {
     const App::ServiceScope<App::IFolderDialog> dialog(
         std::make_shared<Zenvora::Test::ScriptedFolderDialog>(std::vector<QString>{Copies().qstring()}));
-    ImportPlanOptions options;
-    options.copyAll = true;
-    return PlanImport(sources, {}, options, nullptr).obstacle.find("permission") != std::string::npos;
+    const App::ServiceScope<App::IAlerts> alerts(std::make_shared<SaysYes>());
+    return PlanOf(sources, {}, true).obstacle.find("permission") != std::string::npos;
   });
   if (!Zenvora::Test::IsSuperuser()) {
     GTEST_SKIP() << "the folder belongs to this user";

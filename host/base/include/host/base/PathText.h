@@ -29,6 +29,10 @@ ioPath PathOfReversible(const QString& text);
 /// True when the path is text, so that Qt can find its file.
 bool IsText(const ioPath& path);
 
+/// The folder without symbolic links, in one spelling; it need not exist. As it is where its real name is no
+/// text. Blocks on the disk.
+ioPath RealFolder(const ioPath& folder);
+
 /// True when `path` is `folder` or lies below it, by its elements. Pure.
 bool IsAtOrBelow(const ioPath& path, const ioPath& folder);
 

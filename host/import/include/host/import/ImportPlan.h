@@ -1,42 +1,29 @@
 #pragma once
 
-#include <host/catalogue/Catalogue.h>
+#include <host/import/ImportFacts.h>
 #include <host/scan/ImportSources.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/ioPath.h>
 
-#include <atomic>
+#include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
 
-struct ImportPlanOptions {
-  /// Copies every file, whatever it lies on, as if all of it could be pulled out; without it only what can
-  /// be.
-  bool copyAll = false;
-  /// Set from any thread to stop soon.
-  const std::atomic<bool>* cancel = nullptr;
-};
-
 /// One file that is to be copied.
 struct ImportCopy {
   ioPath source;
-  FileState state;  ///< Of the source, when it was planned.
-  ioPath target;    ///< In the folder of copies; free when it was planned.
+  FileState state;  ///< Of the source, when it was looked at.
+  ioPath target;    ///< In the folder of copies; free when that was looked at.
   bool isPhoto = false;
 };
 
 /// A file whose content is there already.
 struct KnownFile {
-  enum class Kind {
-    Catalogued,  ///< The catalogue has a photo of that content.
-    Copied,      ///< It was copied before, and the copy is whole.
-    Repeated,    ///< Another one of the sources has that content.
-  };
+  using Kind = KnownKind;
   Kind kind = Kind::Catalogued;
   ioPath path;
   ioPath other;
@@ -60,7 +47,7 @@ struct ImportPlan {
   enum class Outcome {
     Ready,
     Declined,     ///< The user wants nothing to be added, or nobody could be asked.
-    Interrupted,  ///< Planning was given up; nothing of the plan counts.
+    Interrupted,  ///< Not all was looked at; nothing of the plan counts.
   };
   Outcome outcome = Outcome::Ready;
   /// Where the copies go, absolute; empty when there are none. It may not exist yet.
@@ -81,24 +68,13 @@ struct ImportPlan {
   std::size_t filmsInPlace = 0;
   std::vector<SplitShot> splits;
   std::vector<JoinedShot> joins;
-  std::uint64_t bytes = 0;      ///< Of the copies.
-  std::int64_t freeBytes = -1;  ///< Where they go; negative: unknown.
+  std::uint64_t bytes = 0;  ///< Of the copies.
   /// Why the copies cannot be made there at all, in one sentence; empty: nothing is in the way.
   std::string obstacle;
 };
 
-/// Files looked at so far, of all.
-using ImportPlanProgress = std::function<void(std::uint64_t done, std::uint64_t total)>;
-
-/// Plans what an import of the sources does, by the library's own checks: which files can be read
-/// (`CheckFilesReadableDialog`), and which are copied, where to and under which names
-/// (`CheckFilesToCopyBeforeAddDialog`). Their questions go to the services in force (`App::IAlerts`,
-/// `App::IFolderDialog`). Nothing is made, written or remembered: carrying out the plan does all of that.
-///
-/// `photos`: what the catalogue has. What is there already is neither copied nor added again; that reads
-/// files of equal size. Files whose names are no text are told apart and keep their bytes. Throws
-/// `HostError`. Blocks on the disk and on the user; main thread only.
-ImportPlan PlanImport(const GatheredSources& sources, const std::vector<PhotoRecord>& photos,
-                      const ImportPlanOptions& options, const ImportPlanProgress& progress);
+/// Plans what an import does. Copies get the names that `CheckFilesToCopyBeforeAddDialog` would give them,
+/// shortened where they are too long; names that are no text keep their bytes. Pure.
+ImportPlan PlanImport(const ImportFacts& facts, const ImportAnswers& answers);
 
 }  // namespace Zenvora::Lumidex::Host

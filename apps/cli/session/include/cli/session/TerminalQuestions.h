@@ -17,12 +17,14 @@ namespace Zenvora::Lumidex::Cli {
 struct GivenAnswers {
   bool yes = false;     ///< To every question what goes on.
   bool noCopy = false;  ///< No to whoever can be told so.
-  QString folder;       ///< To the question for a folder, once; empty: not said.
+  /// To the question for a folder, once, and Yes to whether to copy anything there; empty: not said.
+  QString folder;
 };
 
 /// Puts the library's questions to whoever sits at the terminal while it lives: each answer is a button of
 /// the window's own box, Enter the one that it has in front. At the end of the input, and where nobody sits,
-/// the answer is the cautious one. A folder is asked for as a line. Belongs to the main thread.
+/// the answer is the cautious one. A folder is asked for as a line, and given without links. Belongs to the
+/// main thread.
 class TerminalQuestions {
  public:
   TerminalQuestions(Session& session, const GivenAnswers& given);
