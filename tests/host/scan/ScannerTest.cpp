@@ -152,8 +152,8 @@ TEST(PhotoDates, AreTheFirstThatThereIs) {
   }
 }
 
-/// A catalogue may lie among the photos. Its originals were taken for photos, and would have gone to the trash
-/// as copies of what was edited.
+/// A catalogue may lie among the photos. Its originals were taken for photos, and would have gone to the
+/// trash as copies of what was edited.
 TEST_F(Scanner, LeavesAloneWhatUndoKeeps) {
   WriteJpeg(root_ / "a.jpg", Taken("2021:05:01 10:20:30"));
   WriteJpeg(root_ / "c.sqlite.undo/1-before.jpg", Taken("2021:05:01 10:20:31"));
