@@ -28,7 +28,7 @@ bool IsCancelled(const std::atomic<bool>* cancel) {
   return cancel != nullptr && *cancel;
 }
 
-CopyGoesOn GoesOn(const std::atomic<bool>* cancel) {
+KeepGoing UntilCancelled(const std::atomic<bool>* cancel) {
   return [cancel](std::uint64_t) { return !IsCancelled(cancel); };
 }
 
@@ -51,7 +51,7 @@ std::optional<KnownSource> FindContent(KnownContent& content, const ImportFacts&
 
 /// Beside the photo or film that is there already, under its name.
 std::optional<KnownSource> FindBeside(const LeadersThere& leaders, const ImportFacts& facts,
-                                      std::size_t index, const CopyGoesOn& goesOn) {
+                                      std::size_t index, const KeepGoing& keepGoing) {
   const ImportSource& source = facts.sources.files[index];
   const auto found = leaders.find(source.shot);
   if (found == leaders.end()) {
@@ -62,7 +62,7 @@ std::optional<KnownSource> FindBeside(const LeadersThere& leaders, const ImportF
   const ioPath other = Sibling(photo, split(photo).base + split(source.path).suffix);
   const FileState state = QueryFile(other);
   if (state.kind != FileState::Kind::File || state.size != source.state.size ||
-      state.identity == source.state.identity || !SameContent(source.path, other, goesOn)) {
+      state.identity == source.state.identity || !SameContent(source.path, other, keepGoing)) {
     return std::nullopt;
   }
   return KnownSource{KnownKind::Copied, index, other};
@@ -82,7 +82,7 @@ void FindRemovable(ImportFacts& facts) {
 }
 
 void FindFormerCopies(ImportFacts& facts, const ioPath& folder, const std::unordered_set<std::size_t>& toCopy,
-                      const CopyGoesOn& goesOn) {
+                      const KeepGoing& keepGoing) {
   LeadersThere leaders;
   for (const KnownSource& known : facts.known) {
     const ImportSource& source = facts.sources.files[known.source];
@@ -90,7 +90,7 @@ void FindFormerCopies(ImportFacts& facts, const ioPath& folder, const std::unord
       leaders[source.shot].push_back(known.other);
     }
   }
-  const KnownCopies copies(folder, goesOn);
+  const KnownCopies copies(folder, keepGoing);
   // Photos and films first: by them it is known whose the files beside them are.
   for (const bool leading : {true, false}) {
     for (const std::size_t i : facts.fresh) {
@@ -167,7 +167,7 @@ void LookAtSources(ImportFacts& facts, const std::vector<PhotoRecord>& photos,
   }
   // Told to copy everything, what is catalogued among the sources is no copy of the others.
   KnownContent content(photos, facts.copyAll ? facts.sources.files : std::vector<ImportSource>(),
-                       GoesOn(cancel));
+                       UntilCancelled(cancel));
   LeadersThere leaders;
   std::uint64_t done = 0;
   // Photos and films come first in their shots: what lies beside them is known by them.
@@ -176,7 +176,7 @@ void LookAtSources(ImportFacts& facts, const std::vector<PhotoRecord>& photos,
       break;
     }
     auto known = facts.sources.files[i].leads ? FindContent(content, facts, i)
-                                              : FindBeside(leaders, facts, i, GoesOn(cancel));
+                                              : FindBeside(leaders, facts, i, UntilCancelled(cancel));
     if (known) {
       AddKnown(facts, leaders, std::move(*known));
     } else {
@@ -196,7 +196,7 @@ void LookAtFolder(ImportFacts& facts, const ImportAnswers& answers, const std::a
       toCopy.insert(file.source);
     }
   }
-  FindFormerCopies(facts, answers.folder, toCopy, GoesOn(cancel));
+  FindFormerCopies(facts, answers.folder, toCopy, UntilCancelled(cancel));
   for (const KnownSource& known : facts.known) {
     toCopy.erase(known.source);
   }

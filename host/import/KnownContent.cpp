@@ -48,8 +48,8 @@ std::vector<ioPath> ContentIndex::Alike(std::uint64_t size, const ioPath& file) 
 }
 
 KnownContent::KnownContent(const std::vector<PhotoRecord>& photos, const std::vector<ImportSource>& leaving,
-                           CopyGoesOn goesOn)
-    : goesOn_(std::move(goesOn)) {
+                           KeepGoing keepGoing)
+    : keepGoing_(std::move(keepGoing)) {
   for (const ImportSource& source : leaving) {
     leaving_.insert(source.state.identity);
   }
@@ -60,12 +60,12 @@ KnownContent::KnownContent(const std::vector<PhotoRecord>& photos, const std::ve
 
 std::optional<KnownContent::Known> KnownContent::FindPhoto(const ImportSource& source) {
   for (const ioPath& other : sources_.Alike(source.state.size, source.path)) {
-    if (SameContent(source.path, other, goesOn_)) {
+    if (SameContent(source.path, other, keepGoing_)) {
       return Known{other, true};
     }
   }
   for (const ioPath& other : catalogued_.Alike(source.state.size, source.path)) {
-    if (Counts(other, source) && SameContent(source.path, other, goesOn_)) {
+    if (Counts(other, source) && SameContent(source.path, other, keepGoing_)) {
       return Known{other, false};
     }
   }
@@ -87,8 +87,8 @@ bool KnownContent::IsOnRemovable(const ioPath& folder) {
   return removable_[folder] = !Tavolin::GetRemovable({folder}).empty();
 }
 
-KnownCopies::KnownCopies(const ioPath& folder, CopyGoesOn goesOn)
-    : folder_(folder), goesOn_(std::move(goesOn)), records_(ImportManifest::Read(folder)) {
+KnownCopies::KnownCopies(const ioPath& folder, KeepGoing keepGoing)
+    : folder_(folder), keepGoing_(std::move(keepGoing)), records_(ImportManifest::Read(folder)) {
   for (std::size_t i = 0; i < records_.size(); ++i) {
     byName_.emplace(records_[i].source.filename(), i);
   }
@@ -109,7 +109,7 @@ std::optional<ioPath> KnownCopies::Find(const ImportSource& source, const std::v
     }
     const FileState state = QueryFile(copy);
     if (state.kind == FileState::Kind::File && state.size == source.state.size &&
-        state.identity != source.state.identity && SameContent(source.path, copy, goesOn_)) {
+        state.identity != source.state.identity && SameContent(source.path, copy, keepGoing_)) {
       return copy;
     }
   }

@@ -44,7 +44,7 @@ class KnownContent {
   /// pulled out with a device: whoever has a photo only there wants a copy. Neither do `leaving`, since they
   /// are to be copied themselves.
   KnownContent(const std::vector<PhotoRecord>& photos, const std::vector<ImportSource>& leaving,
-               CopyGoesOn goesOn);
+               KeepGoing keepGoing);
 
   /// Where the content of the photo is already, other than in the file itself.
   std::optional<Known> FindPhoto(const ImportSource& source);
@@ -55,7 +55,7 @@ class KnownContent {
   bool Counts(const ioPath& candidate, const ImportSource& source);
   bool IsOnRemovable(const ioPath& folder);
 
-  const CopyGoesOn goesOn_;
+  const KeepGoing keepGoing_;
   std::set<std::pair<std::uint64_t, std::uint64_t>> leaving_;
   ContentIndex catalogued_;
   ContentIndex sources_;
@@ -66,7 +66,7 @@ class KnownContent {
 /// those of the file now: a name, a size and a time come again, and disks forget.
 class KnownCopies {
  public:
-  KnownCopies(const ioPath& folder, CopyGoesOn goesOn);
+  KnownCopies(const ioPath& folder, KeepGoing keepGoing);
 
   /// The copy of the file under its own name or one made of it, if there is one. Sidecars of different
   /// shots may be alike: a copy counts that lies beside one of `own`, the photos or films of its shot that
@@ -77,7 +77,7 @@ class KnownCopies {
   bool IsOf(const ManifestRecord& record, const ImportSource& source, const std::vector<ioPath>& own) const;
 
   const ioPath folder_;
-  const CopyGoesOn goesOn_;
+  const KeepGoing keepGoing_;
   std::vector<ManifestRecord> records_;
   /// By the names of the sources.
   std::unordered_multimap<ioPath, std::size_t> byName_;

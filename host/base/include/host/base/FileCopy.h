@@ -31,8 +31,6 @@ struct CopyOutcome {
   std::int64_t modifiedNs = 0;
 };
 
-using CopyGoesOn = KeepGoing;
-
 /// Copies the content of `source`, its time, its permissions and what people noted of it (`NewFile`) into the
 /// new file `copy`, which stays only when that went well: not yet safe on the disk, and not compared. Blocks
 /// of zeros take no room where the file system can do without. The source is read once; where it turns out to
