@@ -305,7 +305,7 @@ void TurnOnWriteAheadLog(const CatalogueDatabase& database) {
   LOG(WARNING) << "The catalogue " << database.File() << " works without a write-ahead log for now";
 }
 
-/// True when a first transaction was broken off on what was empty before: opening the file for writing takes
+/// True when a first transaction was interrupted on what was empty before: opening the file for writing takes
 /// it back, and until then its pages are nobody's. SQLite's journal file says so.
 bool IsMadeFromNothing(const ioPath& file) {
   constexpr std::array<unsigned char, 8> kMagic = {0xd9, 0xd5, 0x05, 0xf9, 0x20, 0xa1, 0x63, 0xd7};

@@ -112,7 +112,7 @@ std::optional<std::pair<QDate, QDate>> ReadDates(const QString& text, const std:
   const Days days(ReadTime(first, shown).first, ReadTime(last, shown).second);
   const bool areSound =
       (first.isEmpty() || days.first.isValid()) && (last.isEmpty() || days.second.isValid());
-  // A filter has two dates at most: what stands between them is not to be passed over.
+  // A filter has two dates at most: what stands between them is not to be skipped.
   if (parts.size() > 2 || !areSound || (first.isEmpty() && last.isEmpty())) {
     const QString example =
         QLocale(QString::fromStdString(locale)).toString(QDate(2015, 3, 1), QLocale::ShortFormat);

@@ -12,7 +12,7 @@ namespace Zenvora::Lumidex::Host {
 struct FileMove;
 
 /// Lets the steps of the journal follow photos that others moved, and what went along with them: what a step
-/// did to a photo is to be taken back where the photo is now.
+/// did to a photo is to be undone where the photo is now.
 ///
 /// A name in a step is the photo's of that time. From the present on, each step is told what its photos are
 /// called after it; a rename then tells the steps before it what they were called before. The names that a

@@ -200,14 +200,14 @@ bool EditReversal::BringBackAll(const std::vector<ChangeRow>& group, bool redo, 
   return areAllBack;
 }
 
-/// Of a step of which something could not be taken back or done again.
+/// Of a step of which something could not be undone or redone.
 State EditReversal::StateInPart(qlonglong step, bool anyHope) const {
   if (!anyHope) {
-    // Else no older step could ever be taken back.
+    // Else no older step could ever be undone.
     return State::GivenUp;
   }
   const std::vector<ChangeRow> changes = ReadChanges(journal_.Database(), step);
-  // What was taken back goes with the next step: only where no photo needs its original.
+  // What was undone goes with the next step: only where no photo needs its original.
   const bool allUndone = std::all_of(changes.begin(), changes.end(),
                                      [](const ChangeRow& change) { return change.state == State::Undone; });
   return allUndone ? State::Undone : State::Done;
@@ -289,7 +289,7 @@ UndoResult EditReversal::Run(const StepRow& step, bool redo, bool keepsForRedo,
   const State state = anyLeft ? StateInPart(step.number, anyHope) : goal;
   try {
     if (state == State::Undone && !keepsForRedo_) {
-      // Neither can it be done again.
+      // Neither can it be redone.
       journal_.Drop(step.number);
     } else {
       journal_.SetState(step.number, state);

@@ -292,7 +292,7 @@ std::optional<FileFinding> EditSteps::WhyHeld(qlonglong step) const {
 
 void EditSteps::GiveUp(qlonglong step) {
   for (const ChangeRow& change : ReadChanges(journal_.Database(), step)) {
-    // Of an exchange that was broken off out of reach. What it was made from is kept.
+    // Of an exchange that was interrupted out of reach. What it was made from is kept.
     if (!change.adopted && !change.staging.empty()) {
       change.staging.remove();
     }

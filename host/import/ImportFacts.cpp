@@ -21,7 +21,7 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-/// By shot, its photos whose content is there already; of shots without photos their films.
+/// By shot, its photos whose content is there already; of shots without photos their videos.
 using LeadersThere = std::unordered_map<std::size_t, std::vector<ioPath>>;
 
 bool IsCancelled(const std::atomic<bool>* cancel) {
@@ -91,7 +91,7 @@ void FindFormerCopies(ImportFacts& facts, const ioPath& folder, const std::unord
     }
   }
   const KnownCopies copies(folder, keepGoing);
-  // Photos and films first: by them it is known whose the files beside them are.
+  // Photos and videos first: by them it is known whose the files beside them are.
   for (const bool leading : {true, false}) {
     for (const std::size_t i : facts.fresh) {
       const ImportSource& source = facts.sources.files[i];
@@ -170,7 +170,7 @@ void LookAtSources(ImportFacts& facts, const std::vector<PhotoRecord>& photos,
                        UntilCancelled(cancel));
   LeadersThere leaders;
   std::uint64_t done = 0;
-  // Photos and films come first in their shots: what lies beside them is known by them.
+  // Photos and videos come first in their shots: what lies beside them is known by them.
   for (const std::size_t i : facts.readable) {
     if (IsCancelled(cancel)) {
       break;

@@ -31,7 +31,7 @@ class ImportRecords {
   void Drop(const ioPath& target) const;
   void Store(const std::vector<PhotoRecord>& photos) const;
   /// Closes the step while the folder of copies is still locked: a step whose import is not at work was
-  /// broken off. A step without a copy is gone.
+  /// interrupted. A step without a copy is gone.
   void Close();
 
  private:

@@ -76,7 +76,7 @@ std::optional<Fault> FindFault(const ImportedCopy& copy) {
 
 }  // namespace
 
-// --- What was broken off
+// --- What was interrupted
 
 bool ImportSteps::IsAtWork(qlonglong step) const {
   const std::set<ioPath> folders = FoldersOf(rows_.Copies(step));
@@ -124,7 +124,7 @@ std::size_t ImportSteps::Settle(qlonglong step) const {
 
 // --- There and back
 
-/// Of moves that stand; the rows of those that were taken back, or never came about, go.
+/// Of moves that stand; the rows of those that were undone, or never came about, go.
 std::vector<TrashedFile> ImportSteps::InTrash(qlonglong step) const {
   std::vector<TrashedFile> there;
   for (TrashedFile& file : trash_.Files(step)) {
@@ -168,7 +168,7 @@ State ImportSteps::TakeBack(qlonglong step, const std::atomic<bool>& cancelled, 
       }
     };
     if (gone.count(copy.path) > 0) {
-      // Since an undo that was broken off.
+      // Since an undo that was interrupted.
     } else if (isAttached && staying.count(ShotKey(copy.path)) > 0) {
       stays(copy.path.utf8string() + " was kept, because its photo was kept", false);
     } else if (const std::optional<Fault> fault = FindFault(copy)) {

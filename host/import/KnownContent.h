@@ -31,7 +31,7 @@ class ContentIndex {
   std::unordered_map<std::uint64_t, std::unordered_multimap<std::string, ioPath>> sketched_;
 };
 
-/// Tells which photos and films are there already, under whatever name: by their bytes, which are only read
+/// Tells which photos and videos are there already, under whatever name: by their bytes, which are only read
 /// where sizes agree. Blocks on the disk; belongs to one thread.
 class KnownContent {
  public:
@@ -69,7 +69,7 @@ class KnownCopies {
   KnownCopies(const ioPath& folder, KeepGoing keepGoing);
 
   /// The copy of the file under its own name or one made of it, if there is one. Sidecars of different
-  /// shots may be alike: a copy counts that lies beside one of `own`, the photos or films of its shot that
+  /// shots may be alike: a copy counts that lies beside one of `own`, the photos or videos of its shot that
   /// are there already, or came from the same path and lies beside no photo or film of another shot.
   std::optional<ioPath> Find(const ImportSource& source, const std::vector<ioPath>& own) const;
 
@@ -81,7 +81,7 @@ class KnownCopies {
   std::vector<ManifestRecord> records_;
   /// By the names of the sources.
   std::unordered_multimap<ioPath, std::size_t> byName_;
-  /// Of the photos and films in the folder.
+  /// Of the photos and videos in the folder.
   std::unordered_set<std::string> shots_;
 };
 

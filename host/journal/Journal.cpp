@@ -194,7 +194,7 @@ UndoResult Journal::Reverse(bool redo, bool keepsForRedo, const std::atomic<bool
     return {};
   }
   if (!redo && !keepsForRedo) {
-    // What could be done again gives its room.
+    // What could be redone gives its room.
     DropUndone();
   }
   StepRow& step = steps.front();
@@ -283,7 +283,7 @@ void Journal::Recover() {
       kind->Recover(step);
     }
   }
-  // Done while an import went on beside it: what was taken back before cannot be done again any more.
+  // Done while an import went on beside it: what was undone before cannot be redone any more.
   for (const StepRow& step :
        ReadSteps("state = 4 AND number < (SELECT coalesce(max(number), 0) FROM steps WHERE state = 2)")) {
     Drop(step.number);

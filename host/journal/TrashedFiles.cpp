@@ -317,7 +317,7 @@ bool TrashedFiles::Settle(TrashedFile& file) const {
     Drop(file);
     return false;
   }
-  // Or it is gone from both: taking it back will say so.
+  // Or it is gone from both: undoing it will say so.
   NoteMoved(file);
   return true;
 }
@@ -340,7 +340,7 @@ void TrashedFiles::TakeBack(TrashedFile& file, bool& isHopeless) const {
   const std::string name = file.file.path.utf8string();
   if (!IsInTrash(file)) {
     if (IsIt(file.file.path, file)) {
-      // Others were faster, or it was broken off: only the last notes are missing.
+      // Others were faster, or it was interrupted: only the last notes are missing.
       RemoveLeftNote(file);
       return NoteBack(file);
     }

@@ -96,7 +96,7 @@ JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, 
   if (!database) {
     return room;
   }
-  // What was taken back goes when something new is done.
+  // What was undone goes when something new is done.
   const std::vector<UndoStep> steps = QuerySteps(*database, "s.state <> 4 ORDER BY s.number DESC");
   for (const UndoStep& step : steps) {
     room.total += step.givenUp || IsTooOld(step, limits) ? 0 : step.keptBytes;

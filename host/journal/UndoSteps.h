@@ -15,7 +15,7 @@ std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database,
                                  const char* condition = "1 ORDER BY s.number DESC");
 
 /// Which of `steps` (the latest first) the limits leave no place for beside `needed` bytes: the oldest that
-/// can be taken back, and before any of those what was given up. Where one goes that can be taken back, all
+/// can be undone, and before any of those what was given up. Where one goes that can be undone, all
 /// before it go, since they could not be reached any more.
 std::vector<UndoStep> StepsBeyond(const std::vector<UndoStep>& steps, const UndoLimits& limits,
                                   std::uint64_t needed);

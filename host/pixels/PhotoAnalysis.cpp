@@ -50,7 +50,7 @@ PhotoDescription DescribePhoto(const ioPath& file, const PhotoAnalyser& analyser
       result.source = found.source;
     }
   } catch (const std::bad_alloc&) {
-    // This photo is passed over, and the work goes on.
+    // This photo is skipped, and the work goes on.
     result = PhotoDescription();
     result.cause = "there is not enough memory";
     result.mayPass = true;

@@ -163,7 +163,7 @@ std::size_t RenameSteps::DriveOrReturn(Batch& batch, std::size_t begin, std::siz
   return drive.at;
 }
 
-/// Which links lead to files of the step right before its renames are taken back or done again: beside the
+/// Which links lead to files of the step right before its renames are undone or redone: beside the
 /// files, below their folders, and where the step knew some.
 std::vector<RenameLink> RenameSteps::FindLinksAgain(qlonglong step,
                                                     const std::vector<RenameMove>& renames) const {

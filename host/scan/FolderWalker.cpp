@@ -25,7 +25,7 @@ ioPath Canonical(const ioPath& path) {
   return path.canonical(ignored);
 }
 
-/// Windows keeps names that it does not take back: other programs made them, past its rules.
+/// Windows keeps names that it does not undo: other programs made them, past its rules.
 std::string FaultOfEntry(const ioPath& name) {
   const std::string fault = name.name_fault();
   if (!fault.empty()) {

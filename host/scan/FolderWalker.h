@@ -31,7 +31,7 @@ class FolderWalker {
     Photos,  ///< Files that are named like photos.
     Files,   ///< All of them, hidden ones too; pipes and devices are findings then.
   };
-  /// Asked for each entry of a folder, links too; true: it is passed over, a folder with all below it.
+  /// Asked for each entry of a folder, links too; true: it is skipped, a folder with all below it.
   using PassOver = std::function<bool(const ioPath& path, const FolderEntry& entry)>;
 
   /// `roots`: existing files and folders by their canonical paths. Files are taken whatever their names.

@@ -43,7 +43,7 @@ constexpr std::array<Rule, 34> kFiles = {{
     // Nikon: marks of the card and the list of its folders.
     {"nikon001.dsc", ""},
     {"nc_fllst.dat", ""},
-    // Sony: marks of the card; indexes of pictures and of films.
+    // Sony: marks of the card; indexes of pictures and of videos.
     {"memstick.ind", ""},
     {"mstk_pro.ind", ""},
     {"sonycard.ind", ""},

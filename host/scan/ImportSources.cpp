@@ -161,7 +161,7 @@ class Gatherer {
               [](const LeftFile& left, const LeftFile& right) { return left.path < right.path; });
   }
 
-  /// Photos first in their shots, then films: what lies beside them is known by them.
+  /// Photos first in their shots, then videos: what lies beside them is known by them.
   void AddShots(std::vector<ShotSet> shots) {
     for (ShotSet& set : shots) {
       const auto rank = [](const ShotFile& file) {
@@ -189,7 +189,7 @@ class Gatherer {
   std::unordered_set<ioPath> hidden_;
   /// By their names housekeeping, by what is in them none.
   std::unordered_set<ioPath> misnamed_;
-  /// Photos and films.
+  /// Photos and videos.
   std::vector<ioPath> leaders_;
   std::vector<ioPath> others_;
   std::unordered_set<ioPath> taken_;

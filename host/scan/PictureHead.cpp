@@ -17,7 +17,7 @@ struct FilmMark {
   std::string_view bytes;
 };
 
-/// Of the containers in which cameras write films.
+/// Of the containers in which cameras write videos.
 constexpr std::array<FilmMark, 9> kFilms = {{
     {4, "ftyp"},                                   // MP4, QuickTime, 3GP
     {4, "moov"},                                   // QuickTime of older cameras

@@ -55,7 +55,7 @@ PhotoRead ReadOne(const PhotoToRead& photo) {
   try {
     result.ok = ReadPhoto(photo.path, result.record, result.finding);
   } catch (const std::exception& error) {
-    // Memory has run out: this file is passed over, and the scan goes on.
+    // Memory has run out: this file is skipped, and the scan goes on.
     result.finding = {ScanFinding::Kind::Unreadable, photo.path, error.what()};
   }
   return result;
@@ -273,7 +273,7 @@ void ScanRun::MarkLost() {
     if (stamp.lost || walker_.IsHidden(path)) {
       continue;
     }
-    // Asked again: what the walk passed over, such as a folder that is hidden by now, is not lost.
+    // Asked again: what the walk skipped, such as a folder that is hidden by now, is not lost.
     const FileState::Kind kind = QueryFile(path).kind;
     const bool isThere = kind == FileState::Kind::File || kind == FileState::Kind::Unknown;
     // Former scans took in what undo keeps.

@@ -42,8 +42,8 @@ bool IsFilm(std::string_view name) {
 }
 
 bool IsOtherShotFile(std::string_view name) {
-  // Settings of raw developers and of cameras, thumbnails, spoken notes and layered pictures. Films are short
-  // ones that are part of a photo, and those whose thumbnails lie beside them.
+  // Settings of raw developers and of cameras, thumbnails, spoken notes and layered pictures. Videos are
+  // short ones that are part of a photo, and those whose thumbnails lie beside them.
   static constexpr std::array<std::string_view, 23> kExtensions = {
       ".xmp", ".pp3", ".arp", ".dop", ".on1", ".vrd", ".dr4", ".nksc", ".cos", ".json", ".aae", ".thm",
       ".lrv", ".wav", ".m4a", ".mp3", ".aac", ".amr", ".srt", ".xml",  ".psd", ".psb",  ".xcf"};

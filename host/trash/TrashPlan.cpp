@@ -239,7 +239,7 @@ class Planner {
   struct Beside {
     ioPath file;
     std::vector<ioPath> owners;
-    /// A film's thumbnail, or the settings of a layered picture.
+    /// A video's thumbnail, or the settings of a layered picture.
     bool isOthersToo = false;
   };
 

@@ -23,7 +23,7 @@ State StateOfTrash(const std::vector<TrashedFile>& files, State goal, bool anyHo
   if (areAll(State::Undone)) {
     return State::Undone;
   }
-  // What is gone for good must not keep older steps from being taken back.
+  // What is gone for good must not keep older steps from being undone.
   return anyHope ? State::Done : State::GivenUp;
 }
 

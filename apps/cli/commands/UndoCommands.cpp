@@ -107,7 +107,7 @@ class UndoRun {
     }
     // Without a catalogue nothing was ever done, and none is made for finding that out.
     if (view_.steps) {
-      // Looking needs no right to write. What was broken off is finished where it can be.
+      // Looking needs no right to write. What was interrupted is finished where it can be.
       RecoverIfNeeded(session_);
       view_.steps = Host::ReadUndoSteps(view_.catalogue);
     } else if (view_.catalogue.exists()) {

@@ -7,7 +7,7 @@
 namespace Zenvora::Lumidex::Host {
 
 /// All symbolic links in folders and, where the names of folders are in `deep`, below them; links are not
-/// followed, folders that cannot be read are passed over. Blocks on the disk.
+/// followed, folders that cannot be read are skipped. Blocks on the disk.
 std::vector<ioPath> FindLinks(const std::vector<ioPath>& flat, const std::vector<ioPath>& deep);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -59,7 +59,7 @@ class CatalogueMoves {
   /// Gives photos the new names of their files, with all that belongs to them, and stores other photos: all
   /// of it or, when it throws, nothing. A photo that the catalogue has under one of the new names and that is
   /// not given another is lost, under a name that no file has. What another process changed meanwhile is
-  /// passed over.
+  /// skipped.
   /// Steps of the journal follow the photos, and `shotFiles`, which moved along with them.
   Outcome Follow(const std::vector<FollowedPhoto>& photos, const std::vector<MovedName>& shotFiles,
                  const std::vector<PhotoRecord>& others) const;

@@ -42,7 +42,7 @@ constexpr int kPhotoColumnCount = 9;
 PhotoRecord PhotoOf(const QSqlQuery& row);
 
 /// Gives photos new paths, one after the other, within the caller's transaction. What is not in the catalogue
-/// is passed over; a folder of which it has nothing, at one look. A lost photo that the catalogue has under a
+/// is skipped; a folder of which it has nothing, at one look. A lost photo that the catalogue has under a
 /// new path gets the path that became free.
 class PhotoPathUpdate {
  public:

@@ -28,7 +28,7 @@ class LinkRows {
   /// Notes what a step is about to do, within the caller's transaction.
   void Insert(qlonglong step, const std::vector<RenameLink>& links) const;
   std::vector<LinkChange> Links(qlonglong step) const;
-  /// Notes links that lead to the step's files right before it is taken back, or done again (`redo`), within
+  /// Notes links that lead to the step's files right before it is undone or redone (`redo`), within
   /// the caller's transaction. Those that the step knew and that lead elsewhere by now stay as they are.
   void Renew(qlonglong step, const std::vector<RenameLink>& links, bool redo) const;
   /// Others moved a link of the step, within the caller's transaction.

@@ -40,7 +40,7 @@ class EditReversal {
   Journal& journal_;
   IFileAccessLocker& locker_;
   bool keepsForRedo_ = true;
-  /// What is taken back lacks the room for the version that redo would need.
+  /// What is undone lacks the room for the version that redo would need.
   bool lacksRoomForRedo_ = false;
 };
 

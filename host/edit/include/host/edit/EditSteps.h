@@ -32,7 +32,7 @@ class EditSteps final : public StepKind {
       : journal_(journal), locker_(locker), reversal_(journal, locker) {}
 
   /// Whether the originals of edits to come are kept, as they are at first. A step without them is given up
-  /// from its beginning: it cannot be taken back.
+  /// from its beginning: it cannot be undone.
   void KeepOriginals(bool keep) { keeps_ = keep; }
   /// Whether what undo replaces is kept for redo, as it is at first.
   void KeepForRedo(bool keep) { keepsForRedo_ = keep; }

@@ -31,10 +31,10 @@ namespace Zenvora::Lumidex::Host {
 /// The history of what was done to photo files and in the catalogue, with all kinds of steps: what programs
 /// open. What is to be done is on the disk before it is done, and the originals lie in a folder beside the
 /// catalogue (its name with ".undo") until they are too old or too many. Room for finishing a step and for
-/// taking it back is held there before the step begins: both work when the disk is full.
+/// undoing it is held there before the step begins: both work when the disk is full.
 /// docs/decisions/undo.md tells how, docs/formats/catalogue.md has the tables.
 ///
-/// Whatever was under way when the program or the machine stopped is finished or taken back when the next
+/// Whatever was under way when the program or the machine stopped is finished or undone when the next
 /// journal is opened, as soon as its photos can be reached. One journal of a catalogue can be open at a time,
 /// in all processes: it is opened for a step, and closed after it.
 ///
@@ -61,7 +61,7 @@ class UndoJournal : public IUndo {
   /// Whether the originals of edits to come are kept (`EditSteps::KeepOriginals`).
   void KeepOriginals(bool keep);
   /// Whether what undo replaces is kept for redo, as it is at first. Without, undo needs no new room beside
-  /// the catalogue, but what was taken back, now and before, cannot be done again.
+  /// the catalogue, but what was undone, now and before, cannot be redone.
   void KeepForRedo(bool keep);
 
   void BeginStep(const QString& name) override { edits_.BeginStep(name); }
@@ -73,26 +73,26 @@ class UndoJournal : public IUndo {
     edits_.RegisterFileChange(item, newPath);
   }
 
-  /// Takes back the last step that stands. A photo that others changed since is left as it is, with a
+  /// Undoes the last step that stands. A photo that others changed since is left as it is, with a
   /// finding, and can be tried again; a step of which no other version is kept is given up, with findings.
   UndoResult UndoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
   /// Gives the last step that stands up: it stays as it is for good, and the next undo takes the one before.
   /// What is kept of it goes when `Prune` forgets it. Returns the step; empty: there was none.
   std::optional<SkippedStep> SkipLast();
-  /// Steps that stand and could not be taken back, or not whole, if these files were changed for good. The
+  /// Steps that stand and could not be undone, or not whole, if these files were changed for good. The
   /// latest first.
   std::vector<BlockedStep> BlockedBy(const std::vector<ioPath>& files) const {
     return journal_.BlockedBy(files);
   }
-  /// Does again what was taken back last.
+  /// Redoes what was undone last.
   UndoResult RedoLast(const std::atomic<bool>& cancelled, const UndoProgress& progress);
 
   /// All steps, the latest first.
   std::vector<UndoStep> Steps() const { return journal_.Steps(); }
   /// Forgets the oldest steps that are beyond the limits, with their originals. Returns how many of them
-  /// could have been taken back.
+  /// could have been undone.
   std::size_t Prune(const UndoLimits& limits) { return journal_.Prune(limits, nullptr); }
-  /// The same, but of what could be taken back only what is too old, and those that were announced
+  /// The same, but of what could be undone only what is too old, and those that were announced
   /// (`PlanRoom`): the others stay, whatever the limits say.
   std::size_t Prune(const UndoLimits& limits, const std::vector<UndoStep>& announced) {
     return journal_.Prune(limits, &announced);

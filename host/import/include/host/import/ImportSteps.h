@@ -14,7 +14,7 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// Imports as steps of the journal: taken back, copies that are what they were go to the trash. Their places
+/// Imports as steps of the journal: undone, copies that are what they were go to the trash. Their places
 /// there are rows of `trashed`, so that `TrashedFiles` does all that moves a file. What begins and closes
 /// such a step is `ImportRows`.
 class ImportSteps final : public StepKind {

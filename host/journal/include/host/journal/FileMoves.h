@@ -16,16 +16,16 @@ namespace Zenvora::Lumidex::Host {
 /// Looks at the files of a plan. Throws `HostError` when one of them is gone.
 std::vector<FileMove> IdentifyMoves(const std::vector<RenameMove>& steps);
 
-/// Looks at them again, before all moves are taken back (`standing`) or done again: others may have changed
+/// Looks at them again, before all moves are undone (`standing`) or done again: others may have changed
 /// or replaced them since, and `CountDone` would not know them any more. Those that are gone stay as they
 /// were.
 void IdentifyAgain(std::vector<FileMove>& moves, bool standing);
 
-/// What becomes of each file when all moves are done, or taken back (`backwards`).
+/// What becomes of each file when all moves are done, or undone (`backwards`).
 std::vector<RenameMove> NetRenames(const std::vector<FileMove>& moves, bool backwards);
 
-/// How many of the moves, from the first on, stand after the work on them was broken off: the number that
-/// agrees best with what is on the disk. `backwards`: they were being taken back.
+/// How many of the moves, from the first on, stand after the work on them was interrupted: the number that
+/// agrees best with what is on the disk. `backwards`: they were being undone.
 std::size_t CountDone(const std::vector<FileMove>& moves, bool backwards);
 
 /// A folder that is missing or empty although photos of the moves must be there: its volume is not mounted.

@@ -19,7 +19,7 @@
 namespace Zenvora::Lumidex::Host {
 
 /// The engine of undo: the table of steps, the room that is held for them, and the order in which they are
-/// recovered, taken back, done again, given up and forgotten. What a step does is known to its `StepKind`
+/// recovered, undone, redone, given up and forgotten. What a step does is known to its `StepKind`
 /// alone; `UndoJournal` (room history) puts all kinds together and is what programs open.
 ///
 /// One journal of a catalogue can be open at a time, in all processes. All functions block on the disk and
@@ -43,7 +43,7 @@ class Journal {
   const KeptFiles& Kept() const { return kept_; }
   JournalFolder& Folder() { return folder_; }
 
-  /// Before anything is begun: holds room for writing down what happens, for taking it back, and `more`
+  /// Before anything is begun: holds room for writing down what happens, for undoing it, and `more`
   /// bytes.
   void HoldRoom(std::uint64_t more = 0);
   /// Throws when the room that was held is in use: then nothing more is begun.
@@ -62,33 +62,33 @@ class Journal {
   /// A step whose first doing is over.
   void Close(qlonglong step, std::size_t files, State state = State::Done) const;
   void SetFiles(qlonglong step, std::size_t files) const;
-  /// A step was taken back or done again, as far as it could; what fails now is a finding.
+  /// A step was undone or redone, as far as it could; what fails now is a finding.
   void EndReversal(qlonglong step, State state, UndoResult& result) const;
   /// Forgets a step and removes what is kept for it.
   void Drop(qlonglong step) const;
-  /// Something new was done: what was taken back cannot be done again any more. Not within a transaction:
+  /// Something new was done: what was undone cannot be redone any more. Not within a transaction:
   /// what is kept goes at once.
   void DropUndone() const;
   /// A sentence for a person.
   void Note(const std::string& note) { notes_.push_back(note); }
-  /// Tells of a step that was being taken back, or done again, and what became of that now.
+  /// Tells of a step that was being undone or redone, and what became of that now.
   void NoteReversal(const StepRow& step, const UndoResult& result, bool namesFiles);
 
   // For who opened the journal.
 
   const std::vector<std::string>& Notes() const { return notes_; }
-  /// Takes the last step that stands back, or does the one again that was taken back last. `keepsForRedo`:
-  /// false: what was taken back, now and before, cannot be done again.
+  /// Undoes the last step that stands, or redoes the one that was undone last. `keepsForRedo`:
+  /// false: what was undone, now and before, cannot be redone.
   UndoResult Reverse(bool redo, bool keepsForRedo, const std::atomic<bool>& cancelled,
                      const UndoProgress& progress);
   /// Gives the last step that stands up.
   std::optional<SkippedStep> SkipLast();
-  /// Steps that stand and could not be taken back, or not whole, if these files were changed for good. The
+  /// Steps that stand and could not be undone, or not whole, if these files were changed for good. The
   /// latest first.
   std::vector<BlockedStep> BlockedBy(const std::vector<ioPath>& files) const;
   std::vector<UndoStep> Steps() const;
-  /// Forgets the oldest steps beyond the limits. With `announced`, of what could be taken back only what is
-  /// too old, and those. Returns how many could have been taken back.
+  /// Forgets the oldest steps beyond the limits. With `announced`, of what could be undone only what is
+  /// too old, and those. Returns how many could have been undone.
   std::size_t Prune(const UndoLimits& limits, const std::vector<UndoStep>* announced);
 
  private:

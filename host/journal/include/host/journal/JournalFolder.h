@@ -10,14 +10,14 @@
 namespace Zenvora::Lumidex::Host {
 
 /// The folder beside a catalogue where its journal keeps the versions of photos, its lock, and a reserve of
-/// room: what was begun can be finished and taken back also when the disk is full. Nobody but its owner may
+/// room: what was begun can be finished and undone also when the disk is full. Nobody but its owner may
 /// look into it. All functions block on the disk.
 class JournalFolder {
  public:
   /// Where the folder is there already, takes the lock and gives the reserve back, so that the catalogue can
   /// be opened on a full disk. Throws `HostError` when another program holds it for longer than a moment.
   explicit JournalFolder(const ioPath& catalogue);
-  /// Where there are steps that can be taken back, holds the reserve again as far as there is room; else
+  /// Where there are steps that can be undone, holds the reserve again as far as there is room; else
   /// removes it. To be called when the catalogue is closed.
   ~JournalFolder();
   JournalFolder(const JournalFolder&) = delete;
@@ -36,7 +36,7 @@ class JournalFolder {
   void HoldForCopy(std::uint64_t bytes);
   /// Gives the reserve back for what is to be finished. False when there was none.
   bool Release();
-  /// Whether anything can be taken back, for the reserve to stay.
+  /// Whether anything can be undone, for the reserve to stay.
   void SetNeeded(bool needed) { needed_ = needed; }
 
  private:

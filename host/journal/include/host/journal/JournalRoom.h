@@ -23,14 +23,14 @@ struct JournalRoom {
   std::uint64_t limit = 0;   ///< `UndoLimits::bytes`
   /// What is kept when the step is done and no older one is forgotten, `needed` counted.
   std::uint64_t total = 0;
-  /// Steps that could be taken back and cannot any more when the step is done, the latest first. Those that
+  /// Steps that could be undone and cannot any more when the step is done, the latest first. Those that
   /// are too old anyway are not among them.
   std::vector<UndoStep> forgotten;
   /// Of the files with their new versions, and of the journal with what it keeps. Volumes that share blocks
   /// may need less.
   std::vector<TightVolume> tight;
 
-  /// False when the step alone is beyond the limit: it could not be taken back.
+  /// False when the step alone is beyond the limit: it could not be undone.
   bool Fits() const { return needed <= limit; }
 };
 

@@ -7,7 +7,7 @@
 namespace Zenvora::Lumidex::Host {
 
 /// Symbolic links to renamed files: each gets a successor, which takes its name in one step when the files
-/// have theirs. However far that came, what a link says tells it, so that all can be done again. Links that
+/// have theirs. However far that came, what a link says tells it, so that all can be redone. Links that
 /// others changed since stay as they are. All throw `HostError`.
 
 /// Makes the successors, so that what stands in the way shows before any file is renamed.

@@ -34,7 +34,7 @@ struct StepTraces {
 };
 
 /// What one kind of undoable act brings to the journal, which knows none of them itself: how its steps are
-/// recovered, taken back and done again. What begins such a step, and plans it, is the kind's own affair.
+/// recovered, undone and redone. What begins such a step, and plans it, is the kind's own affair.
 ///
 /// All functions block on the disk, are called on the thread that opened the journal, and throw `HostError`.
 class StepKind {

@@ -51,8 +51,8 @@ class TrashedFiles {
   /// Moves it back, and notes that also when others did. Sets `isHopeless` when it throws because the file is
   /// gone for good.
   void TakeBack(TrashedFile& file, bool& isHopeless) const;
-  /// After a move was broken off: true when the file is in the trash, or nowhere. Else nothing is left of the
-  /// move.
+  /// After a move was interrupted: true when the file is in the trash, or nowhere. Else nothing is left of
+  /// the move.
   bool Settle(TrashedFile& file) const;
 
   /// A file that may be there, were its volume.

@@ -22,15 +22,15 @@ struct UndoStep {
   StepType type = StepType::Unknown;
   QString name;                 ///< What the person did.
   QDateTime begun;              ///< UTC; invalid: the clock showed no year from 1 to 9999.
-  bool undone = false;          ///< Taken back; it can be done again.
-  bool givenUp = false;         ///< Can be neither taken back nor done again.
+  bool undone = false;          ///< Undone; it can be redone.
+  bool givenUp = false;         ///< Can be neither undone nor redone.
   bool underWay = false;        ///< An import that goes on now.
   std::size_t files = 0;        ///< Files that it changed or moved.
   std::uint64_t keptBytes = 0;  ///< What is kept for it, as if nothing were shared with the photos.
   std::int64_t daysOfUse = 0;   ///< How many days the journal was used on since.
 };
 
-/// A step that cannot be taken back, or not whole, for what was done since.
+/// A step that cannot be undone, or not whole, for what was done since.
 struct BlockedStep {
   UndoStep step;
   std::vector<ioPath> files;  ///< That stand in another way than it left them.
@@ -50,7 +50,7 @@ struct UndoResult {
   QString name;           ///< Of the step; empty: there was none.
   std::size_t files = 0;  ///< Changed or renamed.
   bool cancelled = false;
-  bool stands = false;  ///< Of an undo: not all of the step could be taken back, and older ones wait for it.
+  bool stands = false;  ///< Of an undo: not all of the step could be undone, and older ones wait for it.
   /// Of an undo: something was left for want of the room that redo needs (`UndoJournal::KeepForRedo`).
   bool lacksRoomForRedo = false;
   /// Of the undo of an import: copies in the trash now whose sources are not to be found.

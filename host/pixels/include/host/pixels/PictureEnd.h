@@ -4,7 +4,7 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// True when a file ends before its picture does, as after a copy that was broken off: such a picture can
+/// True when a file ends before its picture does, as after a copy that was interrupted: such a picture can
 /// often be decoded all the same, with grey in the place of what is missing. Known of JPEG, PNG, WebP, TIFF
 /// and raw formats like it, and of what is made of boxes (HEIC, CR3). False for all that it cannot tell.
 /// Reads the file piece by piece, and all of it only when its last bytes do not tell.

@@ -9,7 +9,7 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// A photo or a film, or what belongs to one: thumbnails, spoken notes, settings.
+/// A photo or a video, or what belongs to one: thumbnails, spoken notes, settings.
 struct ImportSource {
   ioPath path;  ///< Absolute; a link to a file keeps its own name.
   FileState state;
@@ -17,7 +17,7 @@ struct ImportSource {
   /// What the others of its shot are known by: each photo, or of a shot without one each film. All of a shot
   /// without either is told by itself.
   bool leads = false;
-  bool isAlone = false;  ///< Its shot has neither a photo nor a film.
+  bool isAlone = false;  ///< Its shot has neither a photo nor a video.
   /// Equal for the files of one press of the shutter.
   std::size_t shot = 0;
 };
@@ -25,7 +25,7 @@ struct ImportSource {
 /// Something among the sources that is not taken.
 struct LeftFile {
   enum class Kind {
-    NotAPhoto,   ///< Neither a photo nor a film, nor what belongs to one.
+    NotAPhoto,   ///< Neither a photo nor a video, nor what belongs to one.
     Hidden,      ///< Hidden itself, or below a hidden folder.
     NoFile,      ///< A pipe or a device: it is never opened.
     Unreadable,  ///< A file or folder that could not be read.
@@ -49,15 +49,15 @@ struct GatheredSources {
 };
 
 enum class Gathered {
-  Photos,      ///< Photos with what belongs to them; hidden things are passed over.
-  Everything,  ///< Films, too, and what belongs to nothing; the rest is left, hidden things among it.
+  Photos,      ///< Photos with what belongs to them; hidden things are skipped.
+  Everything,  ///< Videos, too, and what belongs to nothing; the rest is left, hidden things among it.
 };
 
-/// Finds the photos and the films that `sources` (absolute paths) hold, and what belongs to such: folders
+/// Finds the photos and the videos that `sources` (absolute paths) hold, and what belongs to such: folders
 /// with all below them, as a scan goes through them. What cameras and systems keep for themselves is passed
-/// over with `Everything`, unless it begins like a picture or a film. A photo or a film that is named itself
-/// brings what lies beside it along, but none of another name. Nothing is opened but folders and what is
-/// named like housekeeping. Throws `HostError` when a source does not exist. Blocks on the disk.
+/// over with `Everything`, unless it begins like a picture or a video. A photo or a video that is named
+/// itself brings what lies beside it along, but none of another name. Nothing is opened but folders and what
+/// is named like housekeeping. Throws `HostError` when a source does not exist. Blocks on the disk.
 GatheredSources GatherSources(const std::vector<ioPath>& sources, Gathered wanted = Gathered::Photos);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -47,7 +47,7 @@ std::string FindEditLinkFault(const ioPath& link);
 /// As above, but what cannot be taken is refused with its cause instead: what is missing, hidden, no file,
 /// not named like a photo, in a folder that cannot be read, or a link in a folder that is named like
 /// a photo and leads to none. Sidecars and thumbnails that are named along
-/// with their photo are passed over. Does not look into the files. Blocks on the disk.
+/// with their photo are skipped. Does not look into the files. Blocks on the disk.
 EditChoice ChooseForEdit(const std::vector<ioPath>& arguments);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -39,7 +39,7 @@ struct CheckReport {
   /// Ordered by path, then by kind.
   std::vector<CheckFinding> findings;
   std::vector<CheckedVolume> volumes;
-  /// What an import leaves since it is neither a photo nor a film or is hidden, where that lies on storage
+  /// What an import leaves since it is neither a photo nor a video or is hidden, where that lies on storage
   /// from which an import copies only when told so. Elsewhere it is among the findings. Ordered by path.
   std::vector<LeftFile> left;
   /// What edits of all of the photos would replace: those that are not refused, with their sidecars.

@@ -48,7 +48,7 @@ struct ScanResult {
 /// threads, and commits them in batches, so that a kill loses at most the last batch. A folder that cannot be
 /// read is a finding, and no photo below it is marked lost; nor is any after a cancelled scan. Files reached
 /// twice (nested roots, links) count once. Photos whose files others moved or renamed are known again by
-/// their content; steps of the journal follow them. Hidden files and folders (leading dot) are passed over.
+/// their content; steps of the journal follow them. Hidden files and folders (leading dot) are skipped.
 /// Throws `HostError` when a root does not exist, the catalogue fails, or photos were moved while another
 /// program is at work with the journal.
 ScanResult Scan(Catalogue& catalogue, const std::vector<ioPath>& roots, const ScanOptions& options,

@@ -48,11 +48,11 @@ bool IsShotFile(std::string_view name);
 /// True for names of raw files, from which all other pictures of a shot can be made again.
 bool IsRawName(std::string_view name);
 
-/// True for names of films, those included that are part of a photo.
+/// True for names of videos, those included that are part of a photo.
 bool IsFilmName(std::string_view name);
 
-/// True for names of what says nothing without the photo that it lies beside: settings and thumbnails. Films,
-/// spoken notes and layered pictures are worth something by themselves.
+/// True for names of what says nothing without the photo that it lies beside: settings and thumbnails.
+/// Videos, spoken notes and layered pictures are worth something by themselves.
 bool IsAttachedName(std::string_view name);
 
 /// True for names of what people did to a photo: settings, ratings, texts; thumbnails are none of it.

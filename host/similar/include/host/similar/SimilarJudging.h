@@ -19,7 +19,7 @@ struct JudgingResult {
 /// stored. One to keep that turns out to be enlarged from another is remembered as such, and its group judged
 /// anew. Works in several threads; what was found out
 /// is stored every few photos, so that a run which was stopped goes on where it was. What changed on the disk
-/// since it was taken in is passed over. `store` must be of the catalogue of `similar`. Throws `HostError`
+/// since it was taken in is skipped. `store` must be of the catalogue of `similar`. Throws `HostError`
 /// when the catalogue fails.
 JudgingResult JudgeSimilar(SimilarPhotos& similar, VerdictStore& store, const AnalysisOptions& options,
                            const SimilarProgressHandler& progress);

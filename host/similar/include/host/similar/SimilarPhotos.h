@@ -105,7 +105,7 @@ class SimilarPhotos {
   /// Stores what was found out, in one transaction. Vectors must have the analyser's length.
   void Store(const std::vector<AnalysedPhoto>& photos);
   /// Stores how much detail photos have, by their ids, in one transaction. A photo that was never analysed is
-  /// passed over.
+  /// skipped.
   void StoreSharpness(const std::vector<std::pair<QString, double>>& photos);
   /// Photos that cannot be analysed, and why, by path.
   std::vector<std::pair<PhotoRecord, std::string>> Problems() const;

@@ -32,7 +32,7 @@ class VerdictStore {
   VerdictStore& operator=(const VerdictStore&) = delete;
 
   std::optional<PhotoOrigin> Origin(const PhotoRecord& photo) const;
-  /// A photo that the catalogue does not have is passed over.
+  /// A photo that the catalogue does not have is skipped.
   void StoreOrigins(const std::vector<std::pair<PhotoRecord, PhotoOrigin>>& origins);
 
   std::optional<PictureVerdict> Verdict(const PhotoRecord& photo, const PhotoRecord& kept) const;

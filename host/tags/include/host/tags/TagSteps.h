@@ -29,7 +29,7 @@ class TagSteps final : public StepKind {
   explicit TagSteps(Journal& journal) : journal_(journal), database_(journal.Database()) {}
 
   /// Gives photos tags and takes some from them, as one step: all or, when it throws, none. The files are not
-  /// touched; what is in the catalogue under none of the paths is passed over. `files` of the result: photos
+  /// touched; what is in the catalogue under none of the paths is skipped. `files` of the result: photos
   /// that have other tags now; 0: there is no step.
   UndoResult Run(const QString& name, const TagWishes& wishes);
 

@@ -26,7 +26,7 @@ class OpenJournal {
   /// it, and those that are too old, which is noted. A failure is only worth a warning: what was asked for is
   /// done. Returns how many of those announced are forgotten.
   std::size_t Prune(const std::vector<Host::UndoStep>& announced = {});
-  /// Forgets all that is beyond the limits. Returns how many steps cannot be taken back any more.
+  /// Forgets all that is beyond the limits. Returns how many steps cannot be undone any more.
   std::size_t ApplyLimits();
   /// True when the step done last can be undone.
   bool CanUndoLast() const;
@@ -37,7 +37,7 @@ class OpenJournal {
   std::unique_ptr<Host::UndoJournal> journal_;
 };
 
-/// For commands that use the catalogue but not its journal: finishes or takes back what a former run left
+/// For commands that use the catalogue but not its journal: finishes or undoes what a former run left
 /// half done. When another program has the journal open, it is at work, and this goes on without.
 void RecoverIfNeeded(Session& session);
 

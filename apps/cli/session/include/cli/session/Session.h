@@ -31,7 +31,7 @@ struct Session {
   Output& output;
   Console& console;
   const std::atomic<bool>& interrupted;
-  /// What was finished or taken back of former runs that stopped half way, in sentences.
+  /// What was finished or undone of former runs that stopped half way, in sentences.
   std::vector<std::string> recovered;
   /// What usage statistics, if the user wants any, tell of this run besides the command: see `UpdateStat`.
   std::map<std::string, std::string> usage;

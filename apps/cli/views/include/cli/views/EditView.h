@@ -36,9 +36,9 @@ struct EditView {
   RoomWish roomWish;
   bool declined = false;  ///< The person did not want older steps forgotten.
   bool canBeUndone = false;
-  /// With `--no-undo`: older steps that cannot be taken back whole any more.
+  /// With `--no-undo`: older steps that cannot be undone whole any more.
   std::vector<Host::BlockedStep> blocked;
-  std::size_t forgotten = 0;  ///< Older steps that cannot be taken back any more.
+  std::size_t forgotten = 0;  ///< Older steps that cannot be undone any more.
   std::vector<std::string> recovered;
 };
 

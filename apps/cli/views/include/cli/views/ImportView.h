@@ -18,7 +18,7 @@ struct ImportView {
   std::vector<ioPath> sources;  ///< As they were given, absolute.
   bool dryRun = false;
   bool noCopy = false;    ///< The user said so.
-  std::size_t found = 0;  ///< Photos and films, and what belongs to them.
+  std::size_t found = 0;  ///< Photos and videos, and what belongs to them.
   Host::ImportPlan plan;
   Host::ImportResult result;  ///< Of the run; of a dry run empty.
   Host::ImportVerdict verdict;

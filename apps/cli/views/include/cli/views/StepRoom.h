@@ -13,7 +13,7 @@ namespace Zenvora::Lumidex::Cli {
 /// What the person said beforehand about a step that undo has no room for.
 struct RoomWish {
   bool forgetOlder = false;  ///< Older steps may be forgotten for it.
-  bool noUndo = false;       ///< Nothing is to be kept for it: it cannot be taken back.
+  bool noUndo = false;       ///< Nothing is to be kept for it: it cannot be undone.
 };
 
 /// `--forget-older` and `--no-undo`.
