@@ -2811,6 +2811,11 @@ Las fotos conservan sus etiquetas y álbumes; los archivos son nuevos:</translat
         <comment>files checked; outcome</comment>
         <translation>%1; %2</translation>
     </message>
+    <message>
+        <source>%1, %2 %3</source>
+        <comment>copies; photos added; dry run</comment>
+        <translation>%1, %2 %3</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

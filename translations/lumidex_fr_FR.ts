@@ -2685,7 +2685,7 @@ Les photos gardent leurs mots-clés et leurs albums, les fichiers sont nouveaux&
     </message>
     <message>
         <source>It is safe to format as far as this folder is concerned; what is outside it was not checked.</source>
-        <translation>Pour ce dossier, le formatage est sans risque ; ce qui se trouve en dehors n’a pas été vérifié.</translation>
+        <translation>Pour ce dossier, le formatage est sans risque&#xa0;; ce qui se trouve en dehors n’a pas été vérifié.</translation>
     </message>
     <message>
         <source>not enlarged</source>
@@ -2810,6 +2810,11 @@ Les photos gardent leurs mots-clés et leurs albums, les fichiers sont nouveaux&
         <source>%1; %2</source>
         <comment>files checked; outcome</comment>
         <translation>%1&#xa0;; %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 %3</source>
+        <comment>copies; photos added; dry run</comment>
+        <translation>%1, %2 %3</translation>
     </message>
 </context>
 <context>

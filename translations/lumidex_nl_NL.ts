@@ -2811,6 +2811,11 @@ De foto’s houden hun tags en albums, de bestanden zijn nieuw:</translation>
         <comment>files checked; outcome</comment>
         <translation>%1; %2</translation>
     </message>
+    <message>
+        <source>%1, %2 %3</source>
+        <comment>copies; photos added; dry run</comment>
+        <translation>%1, %2 %3</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2914,6 +2914,11 @@ The photos keep their tags and albums, the files are new:</source>
         <comment>files checked; outcome</comment>
         <translation>%1; %2</translation>
     </message>
+    <message>
+        <source>%1, %2 %3</source>
+        <comment>copies; photos added; dry run</comment>
+        <translation>%1, %2 %3</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -161,12 +161,15 @@ std::string OutcomeText(const ImportView& view) {
            '\n';
   }
   if (view.dryRun) {
-    return Say(Words::tr("%1 files (%2) would be copied", nullptr, Amount(plan.copies.size())),
-               {GroupDigits(plan.copies.size()), SizeText(plan.bytes)}) +
-           ", " +
-           Say(Words::tr("%1 photos added without copying.", "would be", Amount(plan.stays.size())),
-               {GroupDigits(plan.stays.size())}) +
-           ' ' + Say(Words::tr("This was a dry run:\nnothing was changed.")) + '\n';
+    const std::string copies =
+        Say(Words::tr("%1 files (%2) would be copied", nullptr, Amount(plan.copies.size())),
+            {GroupDigits(plan.copies.size()), SizeText(plan.bytes)});
+    const std::string added =
+        Say(Words::tr("%1 photos added without copying.", "would be", Amount(plan.stays.size())),
+            {GroupDigits(plan.stays.size())});
+    return Say(Words::tr("%1, %2 %3", "copies; photos added; dry run"),
+               {copies, added, Say(Words::tr("This was a dry run:\nnothing was changed."))}) +
+           '\n';
   }
   std::string text;
   if (!plan.copies.empty()) {
