@@ -1,13 +1,17 @@
 # The documented way in. Everything is built through the presets of CMakePresets.json.
 
 .DEFAULT_GOAL := help
-.PHONY: help translations setup setup-onnx setup-gallery gallery gallery-pictures run test test-dev test-sanitizers test-asan test-tsan lint lint-format format bench fuzz clean \
+.PHONY: help translations setup setup-onnx setup-gallery gallery gallery-pictures run test test-sanitizers test-asan test-tsan lint \
+  lint-format lint-tidy format bench fuzz clean \
   windows-toolchain test-windows windows-package soak
 
 # Where ccache is installed it serves every build, wherever the tree lies.
 export CMAKE_CXX_COMPILER_LAUNCHER ?= $(shell command -v ccache)
 export CCACHE_BASEDIR := $(CURDIR)
 export CCACHE_NOHASHDIR := 1
+
+# How many tests run at a time.
+JOBS ?= $(shell nproc)
 
 help:
 	@echo "make run [PHOTOS=folder]  install what is missing, build, find the albums of the photos (or of a sample)"
@@ -40,28 +44,26 @@ run: setup
 	cmake --build --preset release --target lumidex_cli_program
 	tools/run.sh $(if $(PHOTOS),"$(PHOTOS)")
 
-test: setup test-dev
+test-sanitizers: test-tsan test-asan
 
-test-sanitizers: setup test-tsan test-asan
+# What is off by default is tested all the same, in one of the builds.
+test soak: setup-onnx setup-gallery
 
-# What is off by default is tested and linted all the same, in one of the builds.
-OPTIONS_dev = -DLUMIDEX_ONNX=ON
-test-dev lint: setup-onnx
-test-dev: setup-gallery
-
-test-dev test-asan: test-%: setup
-	cmake --preset $* $(OPTIONS_$*)
-	cmake --build --preset $*
-	ctest --preset $* -j 2 --no-tests=error
-	@tools/skipped.sh build/$*
+test test-asan: setup
+	cmake --preset $(PRESET)
+	cmake --build --preset $(PRESET)
+	ctest --preset $(PRESET) -j $(JOBS) --no-tests=error
+	@tools/skipped.sh build/$(PRESET)
+test: PRESET = test
+test-asan: PRESET = asan
 
 # With a short form of each in the other tests.
 ROUNDS ?= 200
-KILLED = build/dev/bin/lumidex
-soak: setup setup-onnx setup-gallery
-	cmake --preset dev $(OPTIONS_dev)
-	cmake --build --preset dev
-	LUMIDEX_TEST_SOAK=1 ctest --preset dev -j 2 --no-tests=error --timeout 7200 -R 'host_(import|history)'
+KILLED = build/test/bin/lumidex
+soak: setup
+	cmake --preset test
+	cmake --build --preset test
+	LUMIDEX_TEST_SOAK=1 ctest --preset test -j $(JOBS) --no-tests=error --timeout 7200 -R 'host_(import|history)'
 	tests/cli/kill_test.py --lumidex $(KILLED) --rounds $(ROUNDS) --photos 60
 	tests/cli/import_kill_test.py --lumidex $(KILLED) --rounds $(ROUNDS) --photos 250
 	tests/cli/similar_kill_test.py --lumidex $(KILLED) --rounds $(ROUNDS)
@@ -70,16 +72,18 @@ soak: setup setup-onnx setup-gallery
 test-tsan: setup
 	cmake --preset tsan
 	cmake --build --preset tsan --target concurrent_tests
-	ctest --preset tsan -j 2 --no-tests=error
+	ctest --preset tsan -j $(JOBS) --no-tests=error
 	@tools/skipped.sh build/tsan
 
-lint: setup lint-format
-	cmake --preset dev $(OPTIONS_dev)
-	cmake --build --preset dev
-	tools/lint.sh tidy
+lint: lint-format lint-tidy
 
 lint-format: setup
 	tools/lint.sh format
+
+# Nothing is compiled for it.
+lint-tidy: setup-onnx
+	cmake --preset lint
+	tools/lint.sh tidy
 
 translations: setup
 	@tools/translations.py
@@ -113,11 +117,10 @@ WITH_TOOLCHAIN = export LUMIDEX_WINDOWS_TOOLCHAIN="$$(tools/windows/toolchain.sh
   [ -n "$$LUMIDEX_WINDOWS_TOOLCHAIN" ] || { echo "the Windows toolchain is missing: make windows-toolchain" >&2; exit 1; }; \
   fresh() { grep -qsF "$$LUMIDEX_WINDOWS_TOOLCHAIN" "build/$$1/CMakeCache.txt" || echo --fresh; };
 
-# Once in thousands of starts Wine runs a program without its libraries: what fails twice is a fault of ours.
 test-windows: setup
 	@tools/setup.sh windows
 	$(WITH_TOOLCHAIN) cmake --preset windows $$(fresh windows) && cmake --build --preset windows
-	tools/windows/with-wine.sh ctest --preset windows -j 2 --no-tests=error --timeout 60 --repeat until-pass:2
+	tools/windows/with-wine.sh ctest --preset windows -j $(JOBS) --no-tests=error
 	@tools/skipped.sh build/windows
 
 windows-package: setup

@@ -20,6 +20,12 @@ target_compile_options(lumidex_compiler INTERFACE
   "-fmacro-prefix-map=${way_to_sources}/LumidexUtil/="
   "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
   "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/LumidexUtil/=")
+if(CMAKE_UNITY_BUILD)
+  set(CMAKE_UNITY_BUILD_UNIQUE_ID LUMIDEX_UNIT)
+  target_compile_options(lumidex_compiler INTERFACE "SHELL:-include \"${PROJECT_SOURCE_DIR}/cmake/OwnNames.h\""
+    # Between sources that are compiled together these mean nothing; builds of single sources and clang-tidy have them.
+    -Wno-shadow -Wno-subobject-linkage)
+endif()
 if(WIN32)
   # Wide calls only; nothing of the system's header that takes names from the language.
   target_compile_definitions(lumidex_compiler INTERFACE
@@ -42,6 +48,8 @@ if(LUMIDEX_FUZZ)
 endif()
 
 if(LUMIDEX_SANITIZE)
+  # What the sanitizers add makes compilers warn of what is not there; without them warnings are errors.
+  target_compile_options(lumidex_compiler INTERFACE -Wno-error)
   add_compile_options(-fsanitize=${LUMIDEX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${LUMIDEX_SANITIZE})
 endif()

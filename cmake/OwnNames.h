@@ -1,0 +1,17 @@
+// Sources of one target that are compiled together each keep their own constants of these names.
+#define LUMIDEX_JOIN_NAMES(name, unit) name##_##unit
+#define LUMIDEX_OWN_NAME(name, unit) LUMIDEX_JOIN_NAMES(name, unit)
+#define kBatch LUMIDEX_OWN_NAME(kBatch, LUMIDEX_UNIT)
+#define kCell LUMIDEX_OWN_NAME(kCell, LUMIDEX_UNIT)
+#define kCells LUMIDEX_OWN_NAME(kCells, LUMIDEX_UNIT)
+#define kDescription LUMIDEX_OWN_NAME(kDescription, LUMIDEX_UNIT)
+#define kEnd LUMIDEX_OWN_NAME(kEnd, LUMIDEX_UNIT)
+#define kFooter LUMIDEX_OWN_NAME(kFooter, LUMIDEX_UNIT)
+#define kMostNames LUMIDEX_OWN_NAME(kMostNames, LUMIDEX_UNIT)
+#define kNone LUMIDEX_OWN_NAME(kNone, LUMIDEX_UNIT)
+#define kPi LUMIDEX_OWN_NAME(kPi, LUMIDEX_UNIT)
+#define kShowDescription LUMIDEX_OWN_NAME(kShowDescription, LUMIDEX_UNIT)
+#define kShowFooter LUMIDEX_OWN_NAME(kShowFooter, LUMIDEX_UNIT)
+#define kWorthLooking LUMIDEX_OWN_NAME(kWorthLooking, LUMIDEX_UNIT)
+#define IsAsKnown LUMIDEX_OWN_NAME(IsAsKnown, LUMIDEX_UNIT)
+#define RoundUp LUMIDEX_OWN_NAME(RoundUp, LUMIDEX_UNIT)
