@@ -6,7 +6,6 @@
 
 #include <chrono>
 #include <memory>
-#include <thread>
 #include <windows.h>
 
 namespace Zenvora::Test {
@@ -97,7 +96,7 @@ class OnATerminal : public CliTest {
       StartOn(page, process, arguments, false);
       const auto end = std::chrono::steady_clock::now() + kHang;
       do {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        process.waitForFinished(10);
         seen.during = page.Lines();
       } while (seen.during[0].find("Scanning") == std::string::npos &&
                std::chrono::steady_clock::now() < end);

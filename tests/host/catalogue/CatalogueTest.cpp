@@ -3,6 +3,7 @@
 
 #include <host/albums/Albums.h>
 #include <host/catalogue/Catalogue.h>
+#include <support/Soak.h>
 #include <support/TempTree.h>
 
 #include <gmock/gmock.h>
@@ -10,7 +11,6 @@
 
 #include <QUuid>
 
-#include <chrono>
 #include <map>
 #include <set>
 #include <string>
@@ -221,16 +221,15 @@ TEST_F(CatalogueContent, KeepsNamesThatAreNoText) {
   EXPECT_THAT(Paths(), testing::UnorderedElementsAreArray(stored));
 }
 
-TEST_F(CatalogueContent, StoresAHundredThousandPhotosInBatches) {
-  constexpr int kBatches = 200;
-  const auto begun = std::chrono::steady_clock::now();
-  for (int i = 0; i < kBatches; ++i) {
+TEST_F(CatalogueContent, StoresManyPhotosInBatches) {
+  const int batches = Zenvora::Test::SoakOr(200, 10);
+  for (int i = 0; i < batches; ++i) {
     catalogue_.Store(Photos("/p/" + std::to_string(i) + "/", 500));
   }
-  EXPECT_EQ(catalogue_.CountPhotos(), 100'000U);
-  EXPECT_EQ(catalogue_.Photos().size(), 100'000U);
+  const std::size_t photos = static_cast<std::size_t>(batches) * 500U;
+  EXPECT_EQ(catalogue_.CountPhotos(), photos);
+  EXPECT_EQ(catalogue_.Photos().size(), photos);
   EXPECT_EQ(catalogue_.Stamps("/p/7").size(), 500U);
-  EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::minutes(4));
 }
 
 TEST_F(CatalogueContent, StoresAnAcceptedAlbum) {

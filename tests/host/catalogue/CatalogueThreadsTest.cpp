@@ -10,7 +10,6 @@
 #include <QSqlQuery>
 
 #include <atomic>
-#include <chrono>
 #include <functional>
 #include <set>
 #include <string>
@@ -125,6 +124,7 @@ TEST(CataloguesInThreads, WaitForAnothersWrite) {
   const ioPath file = tree.Path("c.sqlite");
   Catalogue catalogue(file, Mode::ReadWrite);
   std::atomic<bool> locked{false};
+  std::atomic<bool> waits{false};
   std::thread other([&] {
     {
       QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("other"));
@@ -133,7 +133,13 @@ TEST(CataloguesInThreads, WaitForAnothersWrite) {
       QSqlQuery query(database);
       query.exec(QStringLiteral("BEGIN IMMEDIATE"));
       locked = true;
-      std::this_thread::sleep_for(std::chrono::milliseconds(300));
+      while (!waits) {
+        std::this_thread::yield();
+      }
+      // Long enough for the other to find the catalogue locked.
+      for (int i = 0; i < 5000; ++i) {
+        query.exec(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+      }
       query.exec(QStringLiteral("COMMIT"));
     }
     QSqlDatabase::removeDatabase(QStringLiteral("other"));
@@ -141,6 +147,7 @@ TEST(CataloguesInThreads, WaitForAnothersWrite) {
   while (!locked) {
     std::this_thread::yield();
   }
+  waits = true;
   EXPECT_NO_THROW(catalogue.Store({Photo("/p/a")}));
   other.join();
   EXPECT_EQ(catalogue.CountPhotos(), 1U);

@@ -43,11 +43,18 @@ TEST(CopyVerifiers, CompareInSeveralThreads) {
 TEST(CopyVerifiers, LeaveWhatNobodyWaitsFor) {
   const Zenvora::Test::TempTree tree;
   const ioPath source = tree.Write("source", "content");
-  CopyVerifiers verifiers(2);
-  for (int i = 0; i < 50; ++i) {
-    CopyVerifiers::Task task{0, tree.Path("copy" + std::to_string(i)), false, {}};
-    task.copied = CopyToNew(source, QueryFile(source), task.copy, nullptr);
-    verifiers.Submit(std::move(task));
+  constexpr int kFiles = 50;
+  const auto copy = [&tree](int i) { return tree.Path("copy" + std::to_string(i)); };
+  {
+    CopyVerifiers verifiers(2);
+    for (int i = 0; i < kFiles; ++i) {
+      CopyVerifiers::Task task{0, copy(i), false, {}};
+      task.copied = CopyToNew(source, QueryFile(source), task.copy, nullptr);
+      verifiers.Submit(std::move(task));
+    }
+  }
+  for (int i = 0; i < kFiles; ++i) {
+    EXPECT_EQ(Zenvora::Test::ReadFile(copy(i)), "content") << i;
   }
 }
 

@@ -90,13 +90,21 @@ TEST(FormatHelper, NamesEveryExtensionOnce) {
   }
 }
 
-TEST(FormatHelper, CallsWritableWhatThisBuildWrites) {
+// What else a desktop can write makes no difference: the list is what the packages of this program bring
+// along.
+TEST(FormatHelper, CallsWritableWhatThePackageWrites) {
+#ifdef _WIN32
+  const std::set<std::string> packaged = {"JPEG", "PNG", "BMP"};
+#else
+  const std::set<std::string> packaged = {"JPEG", "PNG", "BMP", "TIFF", "WebP"};
+#endif
   const QList<QByteArray> writers = QImageWriter::supportedImageFormats();
   for (const auto& [name, record] : FormatHelper::GetFormats()) {
+    EXPECT_EQ(!record.readOnly, packaged.count(name) == 1) << name;
     const bool isWritten = std::any_of(
         record.extensions.begin(), record.extensions.end(),
         [&](const std::string& extension) { return writers.contains(QByteArray::fromStdString(extension)); });
-    EXPECT_EQ(!record.readOnly, isWritten) << name;
+    EXPECT_TRUE(record.readOnly || isWritten) << name;
   }
 }
 

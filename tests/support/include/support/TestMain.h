@@ -1,5 +1,7 @@
 #pragma once
 
+#include <support/Surroundings.h>
+
 #include <zenvora/app/Application.h>
 
 #include <glog/logging.h>
@@ -14,6 +16,7 @@ namespace Zenvora::Test {
 /// that no machine changes. A test program brings a main function of its own only to choose another class.
 template <class QtApplication>
 int RunTests(int argc, char** argv) {
+  LeaveMark();
   ::testing::InitGoogleTest(&argc, argv);
   // The build asks for the names, in surroundings of its own.
   if (::testing::GTEST_FLAG(list_tests)) {
@@ -30,6 +33,7 @@ int RunTests(int argc, char** argv) {
   // Without a screen, unless the tests are run on one on purpose.
   const QByteArray screen = qgetenv("LUMIDEX_TEST_SCREEN");
   qputenv("QT_QPA_PLATFORM", screen.isEmpty() ? QByteArray("offscreen") : screen);
+  KeepDesktopOut();
   QLocale::setDefault(QLocale(QStringLiteral("en_US")));
 
   FLAGS_logtostderr = true;
