@@ -29,7 +29,7 @@ set(LUMIDEX_WIDGET_ROOMS qtutility alerts widgets Presenter LumidexUtil gui)
 set(LUMIDEX_ALONE
   DownloadableResource JpegTables MovedPhotos PhotoChoice PictureAligner PictureVerdict PixelSources Program Question
   RecycleBin
-  SaveChecks ScanCommand TerminalQuestions TiffParts TrashedFiles UnseenContent)
+  SaveChecks ScanCommand ScanView TerminalQuestions TiffParts TrashedFiles UnseenContent)
 set(LUMIDEX_ALONE_ROOMS strandel strandel_read strandel_edit)
 
 # lumidex_compile_apart(<target> <room> <sources>...)
