@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>die Datei ist leer</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>das System lässt es von niemandem verschieben; nehmen Sie ihm das Attribut „immutable“</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>the file is empty</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>the system lets nobody move it; take its attribute &quot;immutable&quot; away</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>el archivo está vacío</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>el sistema no deja que nadie lo mueva; quítele el atributo «immutable»</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>le fichier est vide</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>le système ne laisse personne le déplacer ; retirez-lui l’attribut « immutable »</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>il file è vuoto</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>il sistema non permette a nessuno di spostarlo; tolga l’attributo «immutable»</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>ファイルが空です</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>システムがだれにも移動を許していません。属性「immutable」を外してください</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

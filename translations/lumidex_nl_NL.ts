@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>het bestand is leeg</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>het systeem laat niemand het verplaatsen; verwijder het kenmerk ‘immutable’</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>o arquivo está vazio</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>o sistema não permite que ninguém o mova; remova o atributo “immutable”</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -791,6 +791,10 @@
         <source>the file is empty</source>
         <translation>файл пуст</translation>
     </message>
+    <message>
+        <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
+        <translation>система никому не разрешает его перемещать; снимите атрибут «immutable»</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

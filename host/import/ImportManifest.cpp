@@ -127,6 +127,11 @@ std::string FindLinkFault(const ioPath& copies) {
   for (const char* const name : {kManifestName, kLockName}) {
     // Whatever is added to it would be added to the other one.
     const FileState state = QueryFile(folder / name);
+    if (state.kind == FileState::Kind::Folder || state.kind == FileState::Kind::Other) {
+      // Opening a pipe would wait for whoever writes to it.
+      return (folder / name).utf8string() +
+             " is no file, and imports keep one there. Remove it, then import again.";
+    }
     if (state.kind == FileState::Kind::File && state.names > 1) {
       return (folder / name).utf8string() +
              " is a second name of another file (a hard link), and imports do not write to such. Put a copy "

@@ -1,5 +1,6 @@
 #include "DeviceBytes.h"
 #include "JpegMending.h"
+#include "PngParts.h"
 #include "TiffParts.h"
 
 #include <host/pixels/PhotoPixels.h>
@@ -31,6 +32,8 @@ constexpr std::int64_t kMostBytes = 400'000'000;
 constexpr std::int64_t kMostJpegPixels = 300'000'000;
 /// From here on one picture at a time, whatever the number of threads.
 constexpr std::int64_t kLargePixels = 40'000'000;
+constexpr const char* kDamagedHead = "the head of the picture is damaged";
+constexpr const char* kDamagedPicture = "nothing of the picture can be decoded";
 
 bool IsJpeg(const QByteArray& format) {
   return format == "jpeg" || format == "jpg";
@@ -114,6 +117,13 @@ QImage ReadDamagedJpeg(QIODevice& device, const QSize& size, bool upright) {
   return reader.read();
 }
 
+DecodedPicture DecodeWithoutExtras(QIODevice& device, int longerSide, bool upright) {
+  QByteArray bytes = WithoutDamagedExtras(device);
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::ReadOnly);
+  return DecodePicture(buffer, longerSide, upright);
+}
+
 }  // namespace
 
 QSize FittedSize(const QSize& size, int longerSide) {
@@ -133,6 +143,13 @@ std::string TooLargeText(const QSize& size) {
 
 DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   Quillet::WatchDecoderNotes();
+  const PngState head = StateOfPng(device, PngPart::Head);
+  if (head == PngState::Damaged) {
+    return {{}, {}, kDamagedPicture};
+  }
+  if (head == PngState::DamagedExtras) {
+    return DecodeWithoutExtras(device, longerSide, upright);
+  }
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);
   if (!reader.canRead() || !IsPhotoFormat(reader.format())) {
@@ -140,7 +157,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   }
   const QSize size = reader.size();
   if (size.isEmpty()) {
-    return {{}, {}, "the head of the picture is damaged"};
+    return {{}, {}, kDamagedHead};
   }
   const bool jpeg = IsJpeg(reader.format());
   const bool turned = upright && reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
@@ -154,6 +171,14 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   if (!HoldsFirstPicture(device)) {
     result.cause = kCutText;
     return result;
+  }
+  const PngState whole = StateOfPng(device, PngPart::Whole);
+  if (whole == PngState::Damaged) {
+    result.cause = kDamagedPicture;
+    return result;
+  }
+  if (whole == PngState::DamagedExtras) {
+    return DecodeWithoutExtras(device, longerSide, upright);
   }
   static std::mutex largeOnes;
   std::unique_lock<std::mutex> oneAtATime(largeOnes, std::defer_lock);
@@ -171,7 +196,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
     result.isDamaged = !image.isNull();
   }
   if (image.isNull()) {
-    result.cause = "nothing of the picture can be decoded";
+    result.cause = kDamagedPicture;
     return result;
   }
   const QSize fitted = FittedSize(image.size(), longerSide);
@@ -186,7 +211,7 @@ QSize PictureSize(QIODevice& device) {
   Quillet::WatchDecoderNotes();
   const qint64 before = device.pos();
   QSize size;
-  {
+  if (StateOfPng(device, PngPart::Head) != PngState::Damaged) {
     QImageReader reader(&device);
     reader.setDecideFormatFromContent(true);
     if (reader.canRead() && IsPhotoFormat(reader.format())) {

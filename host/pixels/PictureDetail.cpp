@@ -1,6 +1,7 @@
 #include "PictureDetail.h"
 
 #include "PicturePlane.h"
+#include "PngParts.h"
 #include "TiffParts.h"
 
 #include <host/pixels/PhotoPixels.h>
@@ -37,6 +38,9 @@ QImage ReadMiddle(const ioPath& file, int side) {
   const FileNotes notes(file);
   Quillet::WatchDecoderNotes();
   Quillet::FileDevice device(file);
+  if (StateOfPng(device, PngPart::Whole) != PngState::Sound) {
+    return {};
+  }
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);

@@ -2,6 +2,7 @@
 
 #include "DeviceBytes.h"
 #include "PixelSources.h"
+#include "PngParts.h"
 
 #include <zenvora/core/FileNotes.h>
 #include <zenvora/quillet/picture/DecoderNotes.h>
@@ -66,9 +67,12 @@ int PicturesIn(const ioPath& file) {
   const FileNotes notes(file);
   Quillet::WatchDecoderNotes();
   Quillet::FileDevice device(file);
+  if (!device.isOpen() || StateOfPng(device, PngPart::Head) == PngState::Damaged) {
+    return 0;
+  }
   QImageReader reader(&device);
   reader.setDecideFormatFromContent(true);
-  return device.isOpen() && reader.canRead() ? reader.imageCount() : 0;
+  return reader.canRead() ? reader.imageCount() : 0;
 }
 
 bool KeepsEveryPixel(const std::string& format) {

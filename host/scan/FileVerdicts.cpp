@@ -47,6 +47,12 @@ std::string FolderFault(const ioPath& file) {
   return {};
 }
 
+/// The same for a file that goes elsewhere as it is.
+std::string MovingFault(const ioPath& file) {
+  return IsImmutable(file) ? "the system lets nobody move it; take its attribute \"immutable\" away"
+                           : FolderFault(file);
+}
+
 /// The new version of `file`, a photo or its sidecar, is written before the old one goes.
 FileVerdict JudgeRoom(const ioPath& photo, const ioPath& file) {
   const std::int64_t free = Util::GetAvailableDiskSpace(file.parent_path());
@@ -152,7 +158,7 @@ EditVerdict JudgeEdit(const EditTask& task, const Strandel::PhotoEdit& edit, boo
 }
 
 FileVerdict JudgeRename(const ioPath& file) {
-  const std::string fault = FolderFault(file);
+  const std::string fault = MovingFault(file);
   return fault.empty() ? FileVerdict()
                        : Refusal(Kind::Folder, "Cannot rename " + file.utf8string() + ": " + fault);
 }
@@ -167,7 +173,7 @@ FileVerdict JudgeTrash(const ioPath& photo) {
   if (IsLink(photo)) {
     return stays(Kind::Kept, "it is a link to another file");
   }
-  if (const std::string fault = FolderFault(photo); !fault.empty()) {
+  if (const std::string fault = MovingFault(photo); !fault.empty()) {
     return stays(Kind::Folder, fault);
   }
   return {};

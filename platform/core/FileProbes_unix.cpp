@@ -61,6 +61,13 @@ bool IsWriteProtected(const ioPath& file) noexcept {
   return !HasWritePermission(file) || (geteuid() == 0 && (facts.st_mode & kAnybodyWrites) == 0);
 }
 
+bool IsImmutable(const ioPath& file) noexcept {
+  struct statx facts = {};
+  return file.name_fault().empty() &&
+         statx(AT_FDCWD, file.native().c_str(), AT_SYMLINK_NOFOLLOW, STATX_TYPE, &facts) == 0 &&
+         (facts.stx_attributes & (STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND)) != 0;
+}
+
 bool IsOursToMove(const ioPath& file) noexcept {
   struct stat facts = {};
   struct stat folder = {};

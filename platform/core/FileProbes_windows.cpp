@@ -41,6 +41,10 @@ bool IsWriteProtected(const ioPath& file) noexcept {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
+bool IsImmutable(const ioPath&) noexcept {
+  return false;
+}
+
 bool IsOursToMove(const ioPath&) noexcept {
   return true;
 }

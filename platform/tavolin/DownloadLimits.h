@@ -22,12 +22,9 @@ inline constexpr std::chrono::seconds kStallTimeout{15};
 /// 300 kbit/s.
 inline constexpr std::chrono::minutes kTotalTimeout{2};
 
-/// For a request that nobody asked for, without a copy that could serve. Thirteen kilobytes need a second of
-/// it on a slow line.
-inline constexpr std::chrono::seconds kTotalTimeoutWithoutCopy{20};
-
-/// The same with a copy that serves anyhow. As long as a person bears a command that says nothing.
-inline constexpr std::chrono::seconds kTotalTimeoutWithCopy{5};
+/// For a request that nobody asked for: what is stored, or ships with the program, serves anyhow. As long as a
+/// person bears a command that says nothing; thirteen kilobytes need a second of it on a slow line.
+inline constexpr std::chrono::seconds kTotalTimeoutUnasked{5};
 
 /// Some three hundred times the calendar shipped today, and still harmless to hold in memory twice.
 inline constexpr qint64 kSizeLimit = qint64{4} * 1024 * 1024;

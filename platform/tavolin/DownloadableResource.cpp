@@ -90,7 +90,7 @@ App::DownloadRequest DownloadableResource::Impl::MakeRequest(const QUrl& url,
   request.etag = copy ? store.ReadEtag(url, copy->body) : QByteArray();
   request.sizeLimit = kSizeLimit;
   request.stallTimeout = kStallTimeout;
-  request.totalTimeout = isWanted ? kTotalTimeout : copy ? kTotalTimeoutWithCopy : kTotalTimeoutWithoutCopy;
+  request.totalTimeout = isWanted ? kTotalTimeout : kTotalTimeoutUnasked;
   request.redirectLimit = kRedirectLimit;
   return request;
 }

@@ -174,7 +174,7 @@ TEST_F(ResourceTest, AsksForTheResourceWithinTheLimits) {
   EXPECT_EQ(request.etag, QByteArray());
   EXPECT_EQ(request.sizeLimit, 4 * 1024 * 1024);
   EXPECT_EQ(request.stallTimeout, 15s);
-  EXPECT_EQ(request.totalTimeout, 20s);
+  EXPECT_EQ(request.totalTimeout, 5s);
   EXPECT_EQ(request.redirectLimit, 5);
 }
 

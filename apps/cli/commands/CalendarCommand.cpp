@@ -61,8 +61,8 @@ constexpr char kUpdateDescription[] =
     "\n"
     "Set the server in lumidex.ini: BaseUrl in the group Download. If the server has\n"
     "no calendar, the one in use stays. \"lumidex albums\" asks the server once a\n"
-    "week, and after a failure once a day, and waits at most 5 seconds if there is a\n"
-    "downloaded calendar; this command asks now, and waits.";
+    "week, and after a failure once a day, and waits at most 5 seconds; this command\n"
+    "asks now, and waits up to two minutes.";
 
 constexpr char kUpdateFooter[] =
     R"(Examples:

@@ -33,6 +33,7 @@ constexpr Sentence kSentences[] = {
     {QT_TRANSLATE_NOOP("Causes", "its folder cannot be written to; change the permissions of %1")},
     {QT_TRANSLATE_NOOP(
         "Causes", "its folder lets only its owner change it; change the owner, or the permissions of %1")},
+    {QT_TRANSLATE_NOOP("Causes", "the system lets nobody move it; take its attribute \"immutable\" away")},
     {QT_TRANSLATE_NOOP(
         "Causes",
         "its disk has no room for a new version of it (%1 bytes are needed, %2 are free); free space there")},

@@ -2,6 +2,7 @@
 #include "Records.h"
 
 #include <support/LeftOut.h>
+#include <support/Obstacles.h>
 #include <support/TempTree.h>
 #include <support/WriteLimit.h>
 
@@ -166,6 +167,28 @@ TEST(ImportManifest, IsNotOpenedThroughALink) {
   EXPECT_EQ(Zenvora::Test::ReadFile(victim), "untouched");
   EXPECT_TRUE(ImportManifest::Read(tree.Path("copies")).empty());
 }
+
+/// A pipe in its place kept imports waiting for ever, dry ones too.
+TEST(ImportManifest, IsAFile) {
+  for (const char* const name : {"manifest.jsonl", "lock"}) {
+    const Zenvora::Test::TempTree tree;
+    tree.MakeFolder(std::string("copies/.lumidex-import/") + name);
+    const std::string fault = FindLinkFault(tree.Path("copies"));
+    EXPECT_NE(fault.find(std::string(name) + " is no file, and imports keep one there."), std::string::npos)
+        << fault;
+    EXPECT_TRUE(ImportManifest::Read(tree.Path("copies")).empty());
+  }
+}
+
+#ifndef _WIN32
+TEST(ImportManifest, IsNoPipe) {
+  const Zenvora::Test::TempTree tree;
+  tree.MakeFolder("copies/.lumidex-import");
+  const Zenvora::Test::Pipe pipe(tree.Path("copies/.lumidex-import/manifest.jsonl"));
+  EXPECT_NE(FindLinkFault(tree.Path("copies")), "");
+  EXPECT_TRUE(ImportManifest::Read(tree.Path("copies")).empty());
+}
+#endif
 
 TEST(ImportManifest, IsNotOpenedUnderASecondName) {
   const Zenvora::Test::TempTree tree;

@@ -24,6 +24,11 @@ ZENVORA_CORE_EXPORT bool HasWritePermission(const ioPath& file) noexcept;
 /// all the same, is told what they say to everybody: true when nobody may write. False for what is not there.
 ZENVORA_CORE_EXPORT bool IsWriteProtected(const ioPath& file) noexcept;
 
+/// True when the system lets nobody rename, replace or remove the file, whatever its folder allows: on Linux
+/// the attributes "immutable" and "append only" of file systems that have them. False elsewhere, and for what
+/// is not there.
+ZENVORA_CORE_EXPORT bool IsImmutable(const ioPath& file) noexcept;
+
 /// False where the folder lets only owners rename, replace or remove what is in it, as the folder for
 /// temporary files does, and this user is not the owner. Says nothing of the folder's other permissions.
 ZENVORA_CORE_EXPORT bool IsOursToMove(const ioPath& file) noexcept;
