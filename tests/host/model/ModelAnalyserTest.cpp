@@ -355,7 +355,8 @@ TEST_F(PhotosByModel, AreNeverComparedByWhatAnotherModelSays) {
   EXPECT_EQ(Groups(*first), byFirst);
   EXPECT_EQ(Groups(layout), byLayout);
   for (const PhotoAnalyser* const analyser :
-       {static_cast<const PhotoAnalyser*>(&layout), first.get(), second.get()}) {
+       {static_cast<const PhotoAnalyser*>(&layout), static_cast<const PhotoAnalyser*>(first.get()),
+        static_cast<const PhotoAnalyser*>(second.get())}) {
     EXPECT_THAT(Check(*analyser), IsEmpty());
   }
 }
