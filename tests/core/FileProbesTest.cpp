@@ -16,6 +16,8 @@
 #ifndef _WIN32
 #include <csignal>
 #include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -145,6 +147,25 @@ TEST(FileProbes, GoByTheRightsOfTheUser) {
   EXPECT_FALSE(Zenvora::Test::AskAsNobody([&] { return OpensForAppending(open); }));
   EXPECT_FALSE(Zenvora::Test::AskAsNobody([&] { return HasWritePermission(open); }));
   EXPECT_FALSE(Zenvora::Test::AskAsNobody([&] { return OpensForReading(closed); }));
+}
+
+TEST(FileProbes, SeeWhatNobodyMayMove) {
+  const TempTree tree;
+  const ioPath file = tree.Write("a.jpg", "x");
+  EXPECT_FALSE(IsImmutable(file));
+  EXPECT_FALSE(IsImmutable(tree.Path("gone.jpg")));
+  const int handle = open(file.native().c_str(), O_RDONLY);
+  int flags = 0;
+  const bool readable = ioctl(handle, FS_IOC_GETFLAGS, &flags) == 0;
+  int closed = flags | FS_IMMUTABLE_FL;
+  if (!readable || ioctl(handle, FS_IOC_SETFLAGS, &closed) != 0) {
+    close(handle);
+    GTEST_SKIP() << "this user, or this file system, makes nothing immutable";
+  }
+  EXPECT_TRUE(IsImmutable(file));
+  EXPECT_EQ(ioctl(handle, FS_IOC_SETFLAGS, &flags), 0);
+  EXPECT_FALSE(IsImmutable(file));
+  close(handle);
 }
 
 TEST(FileProbes, AskForAFileThatAServerLent) {
