@@ -352,9 +352,7 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Saving, WorksOnADiskThatIsFull, "a small disk is m
 #else
 TEST_F(Saving, FailsOnVolumesMountedForReading) {
   const Zenvora::Test::SmallDisk disk(tree_.Path(), 1 << 20);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   const ioPath file = tree_.Write("a.jpg", "x");
   ExpectPassed({Item(file)}, kAll);
   ASSERT_TRUE(disk.MakeReadOnly());
@@ -364,9 +362,7 @@ TEST_F(Saving, FailsOnVolumesMountedForReading) {
 
 TEST_F(Saving, WorksOnADiskThatIsFull) {
   const Zenvora::Test::SmallDisk disk(tree_.Path(), 1 << 20);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   // Each file is there and may be written: whether there is room is the first check's question.
   const ioPath file = tree_.Write("a.jpg", std::string(1 << 20, 'x'));
   ExpectPassed({Item(file)}, Mode::FolderPermission | Mode::FilePermission);

@@ -5,7 +5,6 @@
 
 #include <QJsonArray>
 
-#include <filesystem>
 #include <fstream>
 
 namespace Zenvora::Test {
@@ -14,30 +13,21 @@ namespace {
 using testing::HasSubstr;
 
 #ifdef _WIN32
-constexpr char kNoDisk[] = "nobody can make a small disk here";
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenByCheckDryRunAndRunAlike, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenBeforeItIsFull, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenByCheckDryRunAndRunAlike, kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenBeforeItIsFull, kNoSmallDisk);
 #else
 /// Photos on a disk of their own with little room.
 class FullPhotoDisk : public ChangeTest {
  protected:
-  void FillBut(std::uintmax_t bytes) const {
-    const std::uintmax_t free = std::filesystem::space(place_.native()).available;
-    std::ofstream((place_ / "filler").native(), std::ios::binary) << std::string(free - bytes, 'f');
-    ASSERT_LE(std::filesystem::space(place_.native()).available, bytes);
-  }
-
-  const ioPath place_ = tree.MakeFolder("photos");
-  const SmallDisk disk_{place_, std::size_t{8} << 20U};
+  SmallDisk disk_{tree.MakeFolder("photos"), std::size_t{8} << 20U};
 };
 
 TEST_F(FullPhotoDisk, IsSeenByCheckDryRunAndRunAlike) {
-  if (!disk_.IsThere()) {
-    GTEST_SKIP() << "this user cannot make a small disk";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const ioPath photo = Photo("a.jpg");
   const std::string before = ReadFile(photo);
-  FillBut(0);
+  disk_.Fill();
+  ASSERT_EQ(disk_.Free(), 0U);
   const std::string sentence = "Cannot edit " + photo.utf8string() +
                                ": its disk has no room for a new version of it (" +
                                std::to_string(before.size()) + " bytes are needed, 0 are free)";
@@ -60,9 +50,7 @@ TEST_F(FullPhotoDisk, IsSeenByCheckDryRunAndRunAlike) {
 }
 
 TEST_F(FullPhotoDisk, IsSeenBeforeItIsFull) {
-  if (!disk_.IsThere()) {
-    GTEST_SKIP() << "this user cannot make a small disk";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk_);
   for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) {
     const ioPath photo = Photo(name);
     // Behind the end of the picture: an edit takes it along.
@@ -71,7 +59,7 @@ TEST_F(FullPhotoDisk, IsSeenBeforeItIsFull) {
   // The catalogue lies there too, and with it the originals.
   const QString catalogue = Text(tree.MakeFolder("photos/.mine") / "my.sqlite");
   ASSERT_EQ(Run({"--catalogue", catalogue, "rotate", "right", "photos/a.jpg"}).exitCode, 0);
-  FillBut(900'000);
+  disk_.Fill(900'000);
   const Ran dry = Run({"--catalogue", catalogue, "rotate", "--dry-run", "right", "photos"});
   EXPECT_EQ(dry.exitCode, 3);
   EXPECT_THAT(dry.out, HasSubstr("free, but editing all photos needs"));

@@ -321,9 +321,7 @@ TEST_F(CheckCommand, NeverWaitsForPipes) {
 
 TEST_F(ImportCommand, StopsOnAFullDiskAndGoesOnLater) {
   const SmallDisk disk(tree.MakeFolder("copies"), std::size_t{2} << 20U);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a small volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   for (int i = 0; i < 6; ++i) {
     tree.Write("photos/big" + std::to_string(i) + ".jpg", std::to_string(i) + std::string(300'000, 'x'));
   }

@@ -6,9 +6,6 @@
 
 #include <QJsonArray>
 
-#include <filesystem>
-#include <fstream>
-
 namespace Zenvora::Test {
 namespace {
 
@@ -184,7 +181,7 @@ TEST_F(UndoLimits, NameWhatNoUndoLeavesBehind) {
 
 #ifdef _WIN32
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoLimits, AreAskedAboutAtATerminal, "terminals are made otherwise there");
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoLimits, TellWhatWasDoneOnAFullDisk, "nobody can make a small disk here");
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoLimits, TellWhatWasDoneOnAFullDisk, kNoSmallDisk);
 #else
 TEST_F(UndoLimits, AreAskedAboutAtATerminal) {
   PhotoOf("a.jpg", kBytes);
@@ -217,22 +214,16 @@ TEST_F(UndoLimits, AreAskedAboutAtATerminal) {
 
 TEST_F(UndoLimits, TellWhatWasDoneOnAFullDisk) {
   const ioPath place = tree.MakeFolder("disk");
-  const SmallDisk disk(place, std::size_t{8} << 20U);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "this user cannot make a small disk";
-  }
+  SmallDisk disk(place, std::size_t{8} << 20U);
+  LUMIDEX_DISK_OR_SKIP(disk);
   std::vector<std::string> before;
   for (int i = 0; i < 8; ++i) {
     before.push_back(ReadFile(PhotoOf("p" + std::to_string(i) + ".jpg", 400'000)));
   }
   const QString catalogue = Text(place / "c.sqlite");
   ASSERT_EQ(Run({"--catalogue", catalogue, "scan", "photos"}).exitCode, 0);
-  const auto fill = [&place](const char* name, std::uintmax_t but) {
-    const std::uintmax_t free = std::filesystem::space(place.native()).available;
-    std::ofstream((place / name).native(), std::ios::binary) << std::string(free > but ? free - but : 0, 'f');
-  };
   // For the reserve, and then not for all originals.
-  fill("filler", 4'000'000);
+  disk.Fill(4'000'000);
   const Ran ran = Run({"--catalogue", catalogue, "rotate", "right", "photos"});
   EXPECT_EQ(ran.exitCode, 3) << ran.out << ran.err;
   EXPECT_THAT(ran.out, HasSubstr("Not edited:\n"));
@@ -246,7 +237,7 @@ TEST_F(UndoLimits, TellWhatWasDoneOnAFullDisk) {
   EXPECT_LT(edited, 8);
   EXPECT_THAT(ran.out, HasSubstr("\n" + std::to_string(edited) + " photos edited"));
 
-  fill("rest", 0);
+  disk.Fill();
   const Ran undo = Run({"--catalogue", catalogue, "undo"});
   EXPECT_EQ(undo.exitCode, 0) << undo.out << undo.err;
   for (int i = 0; i < 8; ++i) {

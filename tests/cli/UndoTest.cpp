@@ -227,14 +227,11 @@ TEST_F(UndoCommand, TellsWhatWaitsInVainForASkippedStep) {
 }
 
 #ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoCommand, ListsWhatIsInACatalogueThatCannotBeWritten,
-                              "nobody can make a small disk here");
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoCommand, ListsWhatIsInACatalogueThatCannotBeWritten, kNoSmallDisk);
 #else
 TEST_F(UndoCommand, ListsWhatIsInACatalogueThatCannotBeWritten) {
   const SmallDisk disk(tree.MakeFolder("disk"), std::size_t{16} << 20U);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "this user cannot make a small disk";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   Photo("a.jpg");
   const QString catalogue = Text(tree.Path("disk/c.sqlite"));
   ASSERT_EQ(Run({"--catalogue", catalogue, "rotate", "right", "photos"}).exitCode, 0);

@@ -152,9 +152,7 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS(SystemFolders, ThatOnlyShowThingsTakeNoFiles,
 TEST(SystemDisk, CountsWhatIsLeft) {
   const TempTree tree;
   const Zenvora::Test::SmallDisk disk(tree.Path(), 1 << 20);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   EXPECT_EQ(GetAvailableDiskSpace(tree.Path()), 1 << 20);
   tree.Write("a", std::string(512 << 10, 'x'));
   EXPECT_EQ(GetAvailableDiskSpace(tree.Path("sub/missing")), 512 << 10);
@@ -163,9 +161,7 @@ TEST(SystemDisk, CountsWhatIsLeft) {
 TEST(SystemDisk, IsFullToTheLastByte) {
   const TempTree tree;
   const Zenvora::Test::SmallDisk disk(tree.Path(), 1 << 20);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   tree.Write("a", std::string(1 << 20, 'x'));
   EXPECT_EQ(GetAvailableDiskSpace(tree.Path()), 0);
 }
@@ -177,9 +173,7 @@ TEST(SystemDisk, DoesNotTellWhereThereIsNoSize) {
 TEST(SystemFolders, MountedForReadingTakeNoFiles) {
   const TempTree tree;
   const Zenvora::Test::SmallDisk disk(tree.Path(), 1 << 20);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   EXPECT_TRUE(CanCreateFileIn(tree.Path().qstring()));
   ASSERT_TRUE(disk.MakeReadOnly());
   EXPECT_FALSE(CanCreateFileIn(tree.Path().qstring()));
@@ -271,9 +265,7 @@ TEST(SystemFolders, WithLittleRoomOrUnderLinksTakeFiles) {
     EXPECT_TRUE(Zenvora::Test::AskAsNobody([&] { return CanCreateFileIn(real.qstring()); }));
   }
   const Zenvora::Test::SmallDisk disk(real, 1 << 16);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   tree.Write("real/a", std::string(1 << 16, 'x'));
   EXPECT_TRUE(CanCreateFileIn(real.qstring())) << "room is another question";
 }

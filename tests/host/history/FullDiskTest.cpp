@@ -31,13 +31,12 @@ TEST(DiskReserveTest, HoldsRoomAndGivesItBack) {
 }
 
 #ifdef _WIN32
-constexpr char kNoDisk[] = "nobody can make a small disk here";
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, EditsWhatItCanAndTakesItBack, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, TakesBackPhotosOfAnotherVolume, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, GoesOnWithoutRedoWhereOthersTookTheRoom, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, BeginsNothingWithoutRoomToFinishIt, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, RenamesAndTakesItBack, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, HoldsItsRoomBetweenRuns, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, EditsWhatItCanAndTakesItBack, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, TakesBackPhotosOfAnotherVolume, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, GoesOnWithoutRedoWhereOthersTookTheRoom, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, BeginsNothingWithoutRoomToFinishIt, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, RenamesAndTakesItBack, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, HoldsItsRoomBetweenRuns, Zenvora::Test::kNoSmallDisk);
 #else
 /// The catalogue on a disk of its own, with little room; photos somewhere else, so that originals are copied.
 class FullDisk : public Zenvora::Test::JournalTest {
@@ -53,17 +52,6 @@ class FullDisk : public Zenvora::Test::JournalTest {
     Close();
     journal_ = std::make_unique<UndoJournal>(catalogueHere_, *locker_);
   }
-
-  /// Takes the rest of the disk, but for so many bytes.
-  void Fill(std::uintmax_t but = 0) {
-    std::error_code error;
-    const std::uintmax_t free = std::filesystem::space(place_.native(), error).available;
-    if (free > but) {
-      std::ofstream stream((place_ / ("filler" + std::to_string(++fillers_))).native(), std::ios::binary);
-      stream << std::string(free - but, 'f');
-    }
-  }
-  std::uintmax_t Free() const { return std::filesystem::space(place_.native()).available; }
 
   std::vector<ioPath> MakeMany(int count, std::size_t bytes) const {
     std::vector<ioPath> photos;
@@ -88,24 +76,17 @@ class FullDisk : public Zenvora::Test::JournalTest {
   static constexpr std::size_t kBytes = std::size_t{8} << 20U;
 
   const ioPath place_ = tree_.MakeFolder("small");
-  const Zenvora::Test::SmallDisk disk_{place_, kBytes};
+  Zenvora::Test::SmallDisk disk_{place_, kBytes};
   const ioPath catalogueHere_ = place_ / "catalogue.sqlite";
-  int fillers_ = 0;
 };
 
-#define LUMIDEX_DISK_OR_SKIP()                            \
-  if (!disk_.IsThere()) {                                 \
-    GTEST_SKIP() << "this user cannot make a small disk"; \
-  }                                                       \
-  static_assert(true)
-
 TEST_F(FullDisk, EditsWhatItCanAndTakesItBack) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = MakeMany(12, 100'000);
   // Five are done when the last byte is taken.
   const UndoResult result = EditWith(photos, [&](const ioPath& photo) {
     if (photo == photos[5]) {
-      Fill();
+      disk_.Fill();
     }
   });
   EXPECT_EQ(result.files, 5U);
@@ -126,12 +107,12 @@ TEST_F(FullDisk, EditsWhatItCanAndTakesItBack) {
 }
 
 TEST_F(FullDisk, TakesBackPhotosOfAnotherVolume) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = MakeMany(3, 300'000);
   // As large as the originals: for redo it takes as much.
   ASSERT_EQ(Edit(photos, std::string(300'000, 'e')).files, 3U);
   Close();
-  Fill();
+  disk_.Fill();
   OpenHere();
   const UndoResult undone = Undo();
   EXPECT_EQ(undone.files, 3U);
@@ -139,25 +120,25 @@ TEST_F(FullDisk, TakesBackPhotosOfAnotherVolume) {
   EXPECT_EQ(ReadFile(photos[0]), std::string(300'000, 'a'));
   // And done again, and taken back once more.
   Close();
-  Fill();
+  disk_.Fill();
   OpenHere();
   EXPECT_EQ(Redo().files, 3U);
   EXPECT_EQ(ReadFile(photos[0]), std::string(300'000, 'e'));
   Close();
-  Fill();
+  disk_.Fill();
   OpenHere();
   EXPECT_EQ(Undo().files, 3U);
 }
 
 TEST_F(FullDisk, GoesOnWithoutRedoWhereOthersTookTheRoom) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = MakeMany(2, 300'000);
   ASSERT_EQ(Edit(photos, std::string(300'000, 'e')).files, 2U);
   const ioPath earlier = Make("earlier.jpg", std::string(50'000, 'o'));
   ASSERT_EQ(Edit({earlier}, "edited").files, 1U);
   ASSERT_EQ(Undo().files, 1U);
   // The room that was held is free now, and taken, but for what SQLite needs.
-  Fill(200'000);
+  disk_.Fill(200'000);
   const UndoResult refused = Undo();
   EXPECT_EQ(refused.files, 0U);
   EXPECT_EQ(refused.findings.size(), 2U);
@@ -175,16 +156,16 @@ TEST_F(FullDisk, GoesOnWithoutRedoWhereOthersTookTheRoom) {
 }
 
 TEST_F(FullDisk, BeginsNothingWithoutRoomToFinishIt) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = MakeMany(1, 1000);
-  Fill(500'000);
+  disk_.Fill(500'000);
   EXPECT_THROW(Edit(photos, "edited"), HostError);
   EXPECT_EQ(ReadFile(photos[0]), std::string(1000, 'a'));
   EXPECT_TRUE(journal_->Steps().empty());
 }
 
 TEST_F(FullDisk, RenamesAndTakesItBack) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = MakeMany(3, 10);
   RenamePlan plan;
   for (const ioPath& photo : photos) {
@@ -194,7 +175,7 @@ TEST_F(FullDisk, RenamesAndTakesItBack) {
   const UndoResult result =
       journal_->Renames().Run(QStringLiteral("rename"), plan, never_, [this](std::size_t done, std::size_t) {
         if (done == 2) {
-          Fill();
+          disk_.Fill();
         }
       });
   EXPECT_EQ(result.files, 3U);
@@ -206,7 +187,7 @@ TEST_F(FullDisk, RenamesAndTakesItBack) {
 }
 
 TEST_F(FullDisk, HoldsItsRoomBetweenRuns) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const ioPath reserve = place_ / "catalogue.sqlite.undo" / "reserve";
   Close();
   // Nothing can be taken back.
@@ -214,12 +195,12 @@ TEST_F(FullDisk, HoldsItsRoomBetweenRuns) {
   OpenHere();
   Edit(MakeMany(1, 10), "edited");
   Close();
-  const std::uintmax_t before = Free();
+  const std::uintmax_t before = disk_.Free();
   EXPECT_GE(reserve.file_size(), std::uint64_t{1} << 20U);
   OpenHere();
-  EXPECT_GT(Free(), before);
+  EXPECT_GT(disk_.Free(), before);
   Close();
-  EXPECT_LE(Free(), before + 65536);
+  EXPECT_LE(disk_.Free(), before + 65536);
 }
 #endif
 

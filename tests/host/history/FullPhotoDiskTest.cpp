@@ -14,11 +14,10 @@ using Zenvora::Test::ReadFile;
 using Zenvora::Test::RunSql;
 
 #ifdef _WIN32
-constexpr char kNoDisk[] = "nobody can make a small disk here";
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, TakesBackAndDoesAgain, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, TakesBackWithoutRedo, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, LeavesWhatWouldGrowBeyondTheDisk, kNoDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, DoesNotWriteIntoAPhotoWithOtherNames, kNoDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, TakesBackAndDoesAgain, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, TakesBackWithoutRedo, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, LeavesWhatWouldGrowBeyondTheDisk, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, DoesNotWriteIntoAPhotoWithOtherNames, Zenvora::Test::kNoSmallDisk);
 #else
 /// Photos on a full disk of their own; what undo keeps lies somewhere else.
 class FullPhotoDisk : public Zenvora::Test::JournalTest {
@@ -35,11 +34,9 @@ class FullPhotoDisk : public Zenvora::Test::JournalTest {
     return photos;
   }
 
-  void Fill() const {
-    std::ofstream stream((place_ / "filler").native(), std::ios::binary);
-    stream << std::string(std::filesystem::space(place_.native()).available, 'f');
-    ASSERT_TRUE(stream.flush());
-    ASSERT_EQ(std::filesystem::space(place_.native()).available, 0U);
+  void Fill() {
+    disk_.Fill();
+    ASSERT_EQ(disk_.Free(), 0U);
   }
 
   /// No staging file: the photos and the filler alone.
@@ -52,17 +49,11 @@ class FullPhotoDisk : public Zenvora::Test::JournalTest {
   }
 
   const ioPath place_ = tree_.MakeFolder("photos");
-  const Zenvora::Test::SmallDisk disk_{place_, std::size_t{1} << 20U};
+  Zenvora::Test::SmallDisk disk_{place_, std::size_t{1} << 20U};
 };
 
-#define LUMIDEX_DISK_OR_SKIP()                            \
-  if (!disk_.IsThere()) {                                 \
-    GTEST_SKIP() << "this user cannot make a small disk"; \
-  }                                                       \
-  static_assert(true)
-
 TEST_F(FullPhotoDisk, TakesBackAndDoesAgain) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = EditThree(100'000, 99'000);
   const std::int64_t edited = QueryFile(photos[0]).modifiedNs;
   Fill();
@@ -80,7 +71,7 @@ TEST_F(FullPhotoDisk, TakesBackAndDoesAgain) {
 }
 
 TEST_F(FullPhotoDisk, TakesBackWithoutRedo) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = EditThree(100'000, 100'000);
   Fill();
   journal_->KeepForRedo(false);
@@ -92,7 +83,7 @@ TEST_F(FullPhotoDisk, TakesBackWithoutRedo) {
 }
 
 TEST_F(FullPhotoDisk, LeavesWhatWouldGrowBeyondTheDisk) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = EditThree(300'000, 1000);
   Fill();
   const UndoResult undone = Undo();
@@ -103,13 +94,13 @@ TEST_F(FullPhotoDisk, LeavesWhatWouldGrowBeyondTheDisk) {
   EXPECT_TRUE(undone.stands);
   EXPECT_EQ(ReadFile(photos[0]), std::string(1000, 'e'));
   EXPECT_EQ(FilesOnDisk(), 4U);
-  (place_ / "filler").remove();
+  disk_.Clear();
   EXPECT_EQ(Undo().files, 3U);
   EXPECT_EQ(ReadFile(photos[0]), std::string(300'000, 'a'));
 }
 
 TEST_F(FullPhotoDisk, DoesNotWriteIntoAPhotoWithOtherNames) {
-  LUMIDEX_DISK_OR_SKIP();
+  LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = EditThree(100'000, 100'000);
   std::filesystem::create_hard_link(photos[1].native(), (place_ / "other").native());
   Fill();

@@ -346,9 +346,7 @@ TEST_F(ImportJournal, UndoSurvivesKills) {
 
 TEST_F(ImportJournal, UndoNeedsNoRoomWhereTheCopiesLie) {
   const Zenvora::Test::SmallDisk disk(tree.MakeFolder("disk"), std::size_t{4} << 20U);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a small volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   MakePhotos("card", 3);
   Carry(PlanTo({Card()}, tree.Path("disk/copies")));
   {
@@ -370,9 +368,7 @@ TEST_F(ImportJournal, UndoNeedsNoRoomWhereTheCopiesLie) {
 
 TEST_F(ImportJournal, NothingIsCopiedThatCannotBeNoted) {
   const Zenvora::Test::SmallDisk disk(tree.MakeFolder("data"), std::size_t{4} << 20U);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a small volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   MakePhotos("card", 3);
   const ImportPlan plan = PlanTo({Card()});
   {

@@ -979,12 +979,6 @@ TEST_F(UndoJournalTest, DoesNotWaitForThePartnerOfAPipe) {
 
 constexpr std::size_t kSmall = std::size_t{1} << 20U;
 
-#define LUMIDEX_DISK_OR_SKIP(disk)                                 \
-  if (!(disk).IsThere()) {                                         \
-    GTEST_SKIP() << "only the superuser can mount a small volume"; \
-  }                                                                \
-  static_assert(true)
-
 /// Writes the staging file as an edit does, and fails as one.
 void WriteStaging(const ioPath& staging, const std::string& content) {
   NewFile file;

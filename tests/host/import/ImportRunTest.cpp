@@ -469,9 +469,7 @@ TEST_F(ImportRunning, KeepsNamesOfEveryKind) {
 
 TEST_F(ImportRunning, StopsCleanlyOnAFullDisk) {
   const Zenvora::Test::SmallDisk disk(tree.MakeFolder("copies"), std::size_t{4} << 20U);
-  if (!disk.IsThere()) {
-    GTEST_SKIP() << "only the superuser can mount a small volume";
-  }
+  LUMIDEX_DISK_OR_SKIP(disk);
   for (int i = 0; i < 10; ++i) {
     tree.Write("card/" + std::to_string(i) + ".jpg", std::to_string(i) + std::string(300'000, 'x'));
   }

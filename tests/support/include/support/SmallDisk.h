@@ -3,8 +3,14 @@
 #ifndef _WIN32
 #include <zenvora/core/ioPath.h>
 
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <sys/mount.h>
+#include <vector>
 
 namespace Zenvora::Test {
 
@@ -25,6 +31,21 @@ class SmallDisk {
   SmallDisk& operator=(const SmallDisk&) = delete;
 
   bool IsThere() const { return mounted_; }
+  std::uintmax_t Free() const { return std::filesystem::space(folder_.native()).available; }
+  /// Takes the room that is left, but for so many bytes.
+  void Fill(std::uintmax_t but = 0) {
+    if (const std::uintmax_t free = Free(); free > but) {
+      fillers_.push_back(folder_ / ("filler" + std::to_string(fillers_.size())));
+      std::ofstream(fillers_.back().native(), std::ios::binary) << std::string(free - but, 'f');
+    }
+  }
+  /// Gives back what was taken.
+  void Clear() {
+    for (const ioPath& filler : fillers_) {
+      filler.remove();
+    }
+    fillers_.clear();
+  }
   /// From now on nothing can be written on it.
   bool MakeReadOnly() const {
     return mounted_ &&
@@ -34,7 +55,14 @@ class SmallDisk {
  private:
   const ioPath folder_;
   bool mounted_ = false;
+  std::vector<ioPath> fillers_;
 };
 
 }  // namespace Zenvora::Test
+
+#define LUMIDEX_DISK_OR_SKIP(disk)                        \
+  if (!(disk).IsThere()) {                                \
+    GTEST_SKIP() << "this user cannot make a small disk"; \
+  }                                                       \
+  static_assert(true)
 #endif
