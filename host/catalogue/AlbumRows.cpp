@@ -32,9 +32,7 @@ std::vector<qlonglong> NumbersOf(const CatalogueDatabase& database, const Album&
 }  // namespace
 
 std::optional<qlonglong> FindAlbum(const CatalogueDatabase& database, const char* sql, const QString& text) {
-  QSqlQuery query = database.Prepare(sql);
-  query.addBindValue(text);
-  database.Run(query);
+  QSqlQuery query = database.Run(sql, {text});
   return database.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
 }
 
@@ -48,39 +46,27 @@ QVariant DayText(const QDate& day) {
 
 qlonglong InsertAlbum(const CatalogueDatabase& database, const QString& id, const QString& name,
                       const QVariant& firstDay) {
-  QSqlQuery query = database.Prepare("INSERT INTO albums (id, name, first_day) VALUES (?, ?, ?)");
-  query.addBindValue(id);
-  query.addBindValue(NotNull(name));
-  query.addBindValue(firstDay);
-  database.Run(query);
+  QSqlQuery query = database.Run("INSERT INTO albums (id, name, first_day) VALUES (?, ?, ?)",
+                                 {id, NotNull(name), firstDay});
   return query.lastInsertId().toLongLong();
 }
 
 void StoreAttribute(const CatalogueDatabase& database, qlonglong album, int attribute, const QString& value) {
-  QSqlQuery query =
-      database.Prepare("INSERT OR REPLACE INTO album_attributes (album, attribute, value) VALUES (?, ?, ?)");
-  query.addBindValue(album);
-  query.addBindValue(attribute);
-  query.addBindValue(NotNull(value));
-  database.Run(query);
+  database.Run("INSERT OR REPLACE INTO album_attributes (album, attribute, value) VALUES (?, ?, ?)",
+               {album, attribute, NotNull(value)});
 }
 
 qlonglong NextPosition(const CatalogueDatabase& database, qlonglong album) {
   QSqlQuery query =
-      database.Prepare("SELECT coalesce(max(position) + 1, 0) FROM album_photos WHERE album = ?");
-  query.addBindValue(album);
-  database.Run(query);
+      database.Run("SELECT coalesce(max(position) + 1, 0) FROM album_photos WHERE album = ?", {album});
   database.Next(query);
   return query.value(0).toLongLong();
 }
 
 bool AddMember(const CatalogueDatabase& database, qlonglong album, qlonglong position, qlonglong photo) {
   QSqlQuery query =
-      database.Prepare("INSERT OR IGNORE INTO album_photos (album, position, photo) VALUES (?, ?, ?)");
-  query.addBindValue(album);
-  query.addBindValue(position);
-  query.addBindValue(photo);
-  database.Run(query);
+      database.Run("INSERT OR IGNORE INTO album_photos (album, position, photo) VALUES (?, ?, ?)",
+                   {album, position, photo});
   return query.numRowsAffected() > 0;
 }
 
@@ -89,9 +75,7 @@ AcceptedAlbum AcceptProposal(const CatalogueDatabase& database, const Album& pro
   const std::vector<qlonglong> photos = NumbersOf(database, proposal);
   const QString name = NotNull(proposal.GetModel().GetName());
   qlonglong album = 0;
-  QSqlQuery known = database.Prepare("SELECT number, id FROM albums WHERE name = ?");
-  known.addBindValue(name);
-  database.Run(known);
+  QSqlQuery known = database.Run("SELECT number, id FROM albums WHERE name = ?", {name});
   if (database.Next(known)) {
     album = known.value(0).toLongLong();
     accepted.result.albumId = known.value(1).toString();

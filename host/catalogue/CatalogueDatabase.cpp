@@ -126,9 +126,8 @@ bool CatalogueDatabase::TryExecute(const char* sql, int& code) const {
   return done;
 }
 
-QVariant CatalogueDatabase::Value(const char* sql) const {
-  QSqlQuery query = Prepare(sql);
-  Run(query);
+QVariant CatalogueDatabase::Value(const char* sql, std::initializer_list<QVariant> values) const {
+  QSqlQuery query = Run(sql, values);
   return Next(query) ? query.value(0) : QVariant();
 }
 
@@ -149,6 +148,15 @@ void CatalogueDatabase::Run(QSqlQuery& query) const {
   if (!query.exec()) {
     Fail(query.lastError());
   }
+}
+
+QSqlQuery CatalogueDatabase::Run(const char* sql, std::initializer_list<QVariant> values) const {
+  QSqlQuery query = Prepare(sql);
+  for (const QVariant& value : values) {
+    query.addBindValue(value);
+  }
+  Run(query);
+  return query;
 }
 
 bool CatalogueDatabase::Next(QSqlQuery& query) const {

@@ -2,6 +2,7 @@
 
 #include <host/catalogue/CatalogueMoves.h>
 #include <host/catalogue/CatalogueRows.h>
+#include <host/catalogue/StepState.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/tavolin/Uuid.h>
@@ -145,9 +146,9 @@ std::vector<TracedPhoto> CatalogueMoves::WithCameraId(const ContentTrace& trace)
 /// Undo brings it back to where it was: it must not be taken for what is elsewhere now.
 bool CatalogueMoves::IsInTrash(qlonglong photo) {
   if (!trashed_) {
-    QSqlQuery query = database_.Prepare(
-        "SELECT photo, place FROM trashed WHERE photo IS NOT NULL AND state IN (1, 2, 3, 5)");
-    database_.Run(query);
+    QSqlQuery query = database_.Run(
+        "SELECT photo, place FROM trashed WHERE photo IS NOT NULL AND state IN (?, ?, ?, ?)",
+        {Stored(State::Doing), Stored(State::Done), Stored(State::Undoing), Stored(State::Redoing)});
     trashed_.emplace();
     while (database_.Next(query)) {
       trashed_->emplace(query.value(0).toLongLong(), PathOf(query.value(1)));

@@ -103,10 +103,8 @@ bool PhotoPathUpdate::MayConcern(const ioPath& from, const QByteArray& source, c
 
 PhotoPathUpdate::Folder PhotoPathUpdate::LookAt(const ioPath& folder) const {
   const auto [first, behind] = RangeBelow(folder);
-  QSqlQuery query = database_.Prepare("SELECT EXISTS (SELECT 1 FROM photos WHERE path >= ? AND path < ?)");
-  query.addBindValue(first);
-  query.addBindValue(behind);
-  database_.Run(query);
+  QSqlQuery query =
+      database_.Run("SELECT EXISTS (SELECT 1 FROM photos WHERE path >= ? AND path < ?)", {first, behind});
   return {first, database_.Next(query) && query.value(0).toBool()};
 }
 

@@ -12,11 +12,10 @@ void CountDayOfUse(const CatalogueDatabase& database) {
       last.isValid() && last.toString() == today) {
     return;
   }
-  QSqlQuery query = database.Prepare(
+  database.Run(
       "INSERT INTO days_of_use (one, count, last) VALUES (1, 0, ?)"
-      " ON CONFLICT (one) DO UPDATE SET count = count + 1, last = excluded.last");
-  query.addBindValue(today);
-  database.Run(query);
+      " ON CONFLICT (one) DO UPDATE SET count = count + 1, last = excluded.last",
+      {today});
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -34,10 +34,12 @@ class Walk {
 
   void Run() {
     // What was given up stands all the same.
-    QSqlQuery query = database_.Prepare(
-        backwards_ ? "SELECT number, kind, moves FROM steps WHERE state IN (2, 6) ORDER BY number DESC"
-                   : "SELECT number, kind, moves FROM steps WHERE state = 4 ORDER BY number");
-    database_.Run(query);
+    QSqlQuery query =
+        backwards_ ? database_.Run(
+                         "SELECT number, kind, moves FROM steps WHERE state IN (?, ?) ORDER BY number DESC",
+                         {Stored(State::Done), Stored(State::GivenUp)})
+                   : database_.Run("SELECT number, kind, moves FROM steps WHERE state = ? ORDER BY number",
+                                   {Stored(State::Undone)});
     std::vector<Step> steps;
     while (database_.Next(query)) {
       steps.push_back({query.value(0).toLongLong(), static_cast<StepType>(query.value(1).toInt()),
@@ -102,10 +104,7 @@ class Walk {
       changed = (backwards_ ? Pass(move.to, move.from) : Pass(move.from, move.to)) || changed;
     }
     if (changed) {
-      QSqlQuery query = database_.Prepare("UPDATE steps SET moves = ? WHERE number = ?");
-      query.addBindValue(PackMoves(moves));
-      query.addBindValue(step.number);
-      database_.Run(query);
+      database_.Run("UPDATE steps SET moves = ? WHERE number = ?", {PackMoves(moves), step.number});
       RewriteLinks(step.number);
     }
   }
@@ -137,9 +136,7 @@ class Walk {
       ioPath staging;
       bool adopted;
     };
-    QSqlQuery query = database_.Prepare("SELECT number, path, side, adopted FROM changes WHERE step = ?");
-    query.addBindValue(step);
-    database_.Run(query);
+    QSqlQuery query = database_.Run("SELECT number, path, side, adopted FROM changes WHERE step = ?", {step});
     std::vector<Change> changes;
     while (database_.Next(query)) {
       changes.push_back({query.value(0).toLongLong(), PathOf(query.value(1)), PathOf(query.value(2)),
@@ -169,9 +166,7 @@ class Walk {
   }
 
   void RewriteColumn(const char* select, const char* update, qlonglong step) {
-    QSqlQuery query = database_.Prepare(select);
-    query.addBindValue(step);
-    database_.Run(query);
+    QSqlQuery query = database_.Run(select, {step});
     std::vector<std::pair<qlonglong, std::string>> found;
     while (database_.Next(query)) {
       const auto moved = moved_.find(query.value(1).toByteArray().toStdString());

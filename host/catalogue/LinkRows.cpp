@@ -28,10 +28,9 @@ void LinkRows::Insert(qlonglong step, const std::vector<RenameLink>& links) cons
 }
 
 std::vector<LinkChange> LinkRows::Links(qlonglong step) const {
-  QSqlQuery query = database_.Prepare(
-      "SELECT path, side, target_before, target_after FROM link_changes WHERE step = ? ORDER BY number");
-  query.addBindValue(step);
-  database_.Run(query);
+  QSqlQuery query = database_.Run(
+      "SELECT path, side, target_before, target_after FROM link_changes WHERE step = ? ORDER BY number",
+      {step});
   std::vector<LinkChange> links;
   while (database_.Next(query)) {
     links.push_back({PathOf(query.value(0)), PathOf(query.value(1)),
@@ -53,13 +52,9 @@ void LinkRows::Renew(qlonglong step, const std::vector<RenameLink>& links, bool 
 }
 
 void LinkRows::Follow(qlonglong step, const LinkChange& change, const ioPath& link) const {
-  QSqlQuery query =
-      database_.Prepare("UPDATE link_changes SET path = ?, side = ? WHERE step = ? AND path = ?");
-  query.addBindValue(PathBytes(link));
-  query.addBindValue(PathBytes(link.parent_path() / change.staging.filename()));
-  query.addBindValue(step);
-  query.addBindValue(PathBytes(change.link));
-  database_.Run(query);
+  database_.Run("UPDATE link_changes SET path = ?, side = ? WHERE step = ? AND path = ?",
+                {PathBytes(link), PathBytes(link.parent_path() / change.staging.filename()), step,
+                 PathBytes(change.link)});
 }
 
 }  // namespace Zenvora::Lumidex::Host

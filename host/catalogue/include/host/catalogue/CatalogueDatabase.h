@@ -6,6 +6,8 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+#include <initializer_list>
+
 class QSqlError;
 
 namespace Zenvora::Lumidex::Host {
@@ -36,12 +38,14 @@ class CatalogueDatabase {
   /// False instead of throwing; `code` is SQLite's.
   bool TryExecute(const char* sql, int& code) const;
   /// The first column of the first row; invalid when there is none.
-  QVariant Value(const char* sql) const;
+  QVariant Value(const char* sql, std::initializer_list<QVariant> values = {}) const;
   /// A number that is another one as soon as another connection has written; own writes leave it.
   qlonglong StateOfOthers() const;
   /// A statement that reads forward only, to be run with `Run`.
   QSqlQuery Prepare(const char* sql) const;
   void Run(QSqlQuery& query) const;
+  /// Runs a statement once, with the values of its question marks in their order.
+  QSqlQuery Run(const char* sql, std::initializer_list<QVariant> values) const;
   /// The next row. Unlike `QSqlQuery::next` it tells a failure from the end.
   bool Next(QSqlQuery& query) const;
 

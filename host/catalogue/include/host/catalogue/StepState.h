@@ -15,6 +15,11 @@ enum class State : int {
   GivenUp = 6
 };
 
+/// As SQL gets it.
+constexpr int Stored(State state) {
+  return static_cast<int>(state);
+}
+
 inline bool IsUnderWay(State state) {
   return state == State::Doing || state == State::Undoing || state == State::Redoing;
 }
