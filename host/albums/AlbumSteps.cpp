@@ -37,15 +37,11 @@ std::vector<AcceptResult> AlbumSteps::Accept(qlonglong step, const std::vector<A
 
 void AlbumSteps::Note(qlonglong step, const Album& proposal, const AcceptedAlbum& accepted) const {
   const QString& id = accepted.result.albumId;
-  QSqlQuery album = database_.Prepare(
+  database_.Run(
       "INSERT OR IGNORE INTO album_changes (step, album_id, name, first_day, created) VALUES (?, ?, ?, ?, "
-      "?)");
-  album.addBindValue(step);
-  album.addBindValue(id);
-  album.addBindValue(NotNull(proposal.GetModel().GetName()));
-  album.addBindValue(DayText(proposal.GetModel().GetDateTime().date()));
-  album.addBindValue(accepted.result.created ? 1 : 0);
-  database_.Run(album);
+      "?)",
+      {step, id, NotNull(proposal.GetModel().GetName()), DayText(proposal.GetModel().GetDateTime().date()),
+       accepted.result.created ? 1 : 0});
   QSqlQuery photo = database_.Prepare(
       "INSERT INTO album_change_photos (step, album_id, position, photo) VALUES (?, ?, ?, ?)");
   for (const auto& [position, number] : accepted.gained) {
@@ -71,10 +67,8 @@ void AlbumSteps::Note(qlonglong step, const Album& proposal, const AcceptedAlbum
 
 std::vector<AlbumSteps::Change> AlbumSteps::ReadChanges(qlonglong step) const {
   std::vector<Change> changes;
-  QSqlQuery albums = database_.Prepare(
-      "SELECT album_id, name, first_day, created FROM album_changes WHERE step = ? ORDER BY name");
-  albums.addBindValue(step);
-  database_.Run(albums);
+  QSqlQuery albums = database_.Run(
+      "SELECT album_id, name, first_day, created FROM album_changes WHERE step = ? ORDER BY name", {step});
   while (database_.Next(albums)) {
     changes.push_back({albums.value(0).toString(),
                        albums.value(1).toString(),
@@ -84,19 +78,15 @@ std::vector<AlbumSteps::Change> AlbumSteps::ReadChanges(qlonglong step) const {
                        {}});
   }
   for (Change& change : changes) {
-    QSqlQuery photos = database_.Prepare(
-        "SELECT position, photo FROM album_change_photos WHERE step = ? AND album_id = ? ORDER BY position");
-    photos.addBindValue(step);
-    photos.addBindValue(change.id);
-    database_.Run(photos);
+    QSqlQuery photos = database_.Run(
+        "SELECT position, photo FROM album_change_photos WHERE step = ? AND album_id = ? ORDER BY position",
+        {step, change.id});
     while (database_.Next(photos)) {
       change.photos.emplace_back(photos.value(0).toLongLong(), photos.value(1).toLongLong());
     }
-    QSqlQuery attributes = database_.Prepare(
-        "SELECT attribute, value FROM album_change_attributes WHERE step = ? AND album_id = ?");
-    attributes.addBindValue(step);
-    attributes.addBindValue(change.id);
-    database_.Run(attributes);
+    QSqlQuery attributes =
+        database_.Run("SELECT attribute, value FROM album_change_attributes WHERE step = ? AND album_id = ?",
+                      {step, change.id});
     while (database_.Next(attributes)) {
       change.attributes.emplace_back(attributes.value(0).toInt(), attributes.value(1).toString());
     }
@@ -127,9 +117,7 @@ std::size_t AlbumSteps::TakeOut(const Change& change, std::vector<FileFinding>& 
   }
   for (const char* const sql :
        {"DELETE FROM album_attributes WHERE album = ?", "DELETE FROM albums WHERE number = ?"}) {
-    QSqlQuery gone = database_.Prepare(sql);
-    gone.addBindValue(*album);
-    database_.Run(gone);
+    database_.Run(sql, {*album});
   }
   return photos;
 }

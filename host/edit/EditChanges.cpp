@@ -51,6 +51,15 @@ std::vector<ChangeRow> ReadAllChanges(const CatalogueDatabase& database) {
                                    " goes_with, kept_ending FROM changes"));
 }
 
+std::map<qlonglong, std::uint64_t> KeptBytesOfEdits(const CatalogueDatabase& database) {
+  QSqlQuery query = database.Run("SELECT step, sum(kept_size) FROM changes GROUP BY step", {});
+  std::map<qlonglong, std::uint64_t> bytes;
+  while (database.Next(query)) {
+    bytes[query.value(0).toLongLong()] = query.value(1).toULongLong();
+  }
+  return bytes;
+}
+
 std::vector<std::vector<ChangeRow>> GroupChanges(std::vector<ChangeRow> changes) {
   std::vector<std::vector<ChangeRow>> groups;
   for (ChangeRow& change : changes) {
@@ -65,25 +74,16 @@ std::vector<std::vector<ChangeRow>> GroupChanges(std::vector<ChangeRow> changes)
 }
 
 void SetChangeState(const CatalogueDatabase& database, qlonglong change, State state) {
-  QSqlQuery query = database.Prepare("UPDATE changes SET state = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(state));
-  query.addBindValue(change);
-  database.Run(query);
+  database.Run("UPDATE changes SET state = ? WHERE number = ?", {static_cast<int>(state), change});
 }
 
 void StoreChange(const CatalogueDatabase& database, const ChangeRow& change, std::uint64_t keptSize) {
-  QSqlQuery query = database.Prepare(
+  database.Run(
       "UPDATE changes SET state = ?, side = ?, adopted = ?, kept_size = ?, digest_before = ?, digest_after = "
       "?"
-      " WHERE number = ?");
-  query.addBindValue(static_cast<int>(change.state));
-  query.addBindValue(PathBytes(change.staging));
-  query.addBindValue(change.adopted ? 1 : 0);
-  query.addBindValue(static_cast<qlonglong>(keptSize));
-  query.addBindValue(change.digestBefore);
-  query.addBindValue(change.digestAfter);
-  query.addBindValue(change.number);
-  database.Run(query);
+      " WHERE number = ?",
+      {static_cast<int>(change.state), PathBytes(change.staging), change.adopted ? 1 : 0,
+       static_cast<qlonglong>(keptSize), change.digestBefore, change.digestAfter, change.number});
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -27,14 +27,10 @@ ioPath EditSteps::InsertChange(const ioPath& file, qlonglong goesWith) {
   change.path = file;
   change.staging = StagingName(file);
   change.goesWith = goesWith;
-  QSqlQuery query = journal_.Database().Prepare(
-      "INSERT INTO changes (step, state, path, side, goes_with) VALUES (?, ?, ?, ?, ?)");
-  query.addBindValue(step_);
-  query.addBindValue(static_cast<int>(State::Planned));
-  query.addBindValue(PathBytes(change.path));
-  query.addBindValue(PathBytes(change.staging));
-  query.addBindValue(goesWith == 0 ? QVariant(QVariant::LongLong) : QVariant(goesWith));
-  journal_.Database().Run(query);
+  QSqlQuery query = journal_.Database().Run(
+      "INSERT INTO changes (step, state, path, side, goes_with) VALUES (?, ?, ?, ?, ?)",
+      {step_, static_cast<int>(State::Planned), PathBytes(change.path), PathBytes(change.staging),
+       goesWith == 0 ? QVariant(QVariant::LongLong) : QVariant(goesWith)});
   change.number = query.lastInsertId().toLongLong();
   edits_.push_back(std::move(change));
   return edits_.back().staging;
@@ -257,9 +253,7 @@ bool EditSteps::SettleChange(ChangeRow& change) {
 }
 
 void EditSteps::DropChange(const ChangeRow& change) const {
-  QSqlQuery query = journal_.Database().Prepare("DELETE FROM changes WHERE number = ?");
-  query.addBindValue(change.number);
-  journal_.Database().Run(query);
+  journal_.Database().Run("DELETE FROM changes WHERE number = ?", {change.number});
   // Only now: a row must never speak of what is gone.
   journal_.Kept().Remove(change.KeptBefore());
   journal_.Kept().Remove(change.KeptAfter());
@@ -339,9 +333,7 @@ void EditSteps::Recover(StepRow& step) {
     SettleStep(step.number);
     const auto photos = static_cast<std::size_t>(
         journal_.Database()
-            .Value(("SELECT count(*) FROM changes WHERE goes_with IS NULL AND step = " +
-                    std::to_string(step.number))
-                       .c_str())
+            .Value("SELECT count(*) FROM changes WHERE goes_with IS NULL AND step = ?", {step.number})
             .toULongLong());
     journal_.Note(name + " was interrupted. Photos edited: " + std::to_string(photos) +
                   "; the others are unchanged.");

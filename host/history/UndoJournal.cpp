@@ -1,5 +1,6 @@
 #include <host/catalogue/CatalogueSchema.h>
 #include <host/history/UndoJournal.h>
+#include <host/journal/JournalRoom.h>
 
 #include <zenvora/core/FileState.h>
 #include <zenvora/tavolin/Trash.h>
@@ -82,6 +83,11 @@ std::optional<SkippedStep> UndoJournal::SkipLast() {
   return journal_.SkipLast();
 }
 
+std::vector<UndoStep> ReadUndoSteps(const ioPath& catalogue) {
+  return ReadUndoSteps(catalogue, {RenameSteps::kFacts, EditSteps::kFacts, TrashSteps::kFacts,
+                                   TagSteps::kFacts, AlbumSteps::kFacts, ImportSteps::kFacts});
+}
+
 bool NeedsRecovery(const ioPath& catalogue) {
   if (QueryFile(catalogue).kind != FileState::Kind::File) {
     return false;
@@ -91,7 +97,10 @@ bool NeedsRecovery(const ioPath& catalogue) {
                                      Catalogue::kBusyTimeoutMs);
     // Also in a catalogue of a former version: what the former program left must not wait for another run.
     return HasJournal(database) &&
-           database.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state IN (1, 3, 5))").toBool();
+           database
+               .Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state IN (?, ?, ?))",
+                      {Stored(State::Doing), Stored(State::Undoing), Stored(State::Redoing)})
+               .toBool();
   } catch (const HostError&) {
     // Whoever needs it will say why it cannot be used.
     return false;

@@ -53,7 +53,9 @@ Journal::Journal(const ioPath& catalogue)
 
 Journal::~Journal() {
   try {
-    folder_.SetNeeded(database_.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state <> 6)").toBool());
+    folder_.SetNeeded(
+        database_.Value("SELECT EXISTS (SELECT 1 FROM steps WHERE state <> ?)", {Stored(State::GivenUp)})
+            .toBool());
   } catch (const std::exception&) {
     // Then it stays as it was.
   }
@@ -62,25 +64,22 @@ Journal::~Journal() {
 // --- The table
 
 qlonglong Journal::Begin(StepType type, const QString& name, std::size_t files, const QByteArray& moves) {
-  QSqlQuery query = database_.Prepare(
-      "INSERT INTO steps (kind, name, begun, state, files, moves, day)"
-      " VALUES (?, ?, ?, ?, ?, ?, (SELECT coalesce(max(count), 0) FROM days_of_use))");
-  query.addBindValue(static_cast<int>(type));
-  query.addBindValue(NotNull(name));
   // Empty where the clock is beyond what can be written.
-  query.addBindValue(NotNull(App::GetCurrentDateTime().toUTC().toString(Qt::ISODate)));
-  query.addBindValue(static_cast<int>(State::Doing));
-  query.addBindValue(static_cast<qlonglong>(files));
-  query.addBindValue(moves.isNull() ? QVariant(QVariant::ByteArray) : QVariant(moves));
-  database_.Run(query);
-  return query.lastInsertId().toLongLong();
+  const QString begun = NotNull(App::GetCurrentDateTime().toUTC().toString(Qt::ISODate));
+  return database_
+      .Run(
+          "INSERT INTO steps (kind, name, begun, state, files, moves, day)"
+          " VALUES (?, ?, ?, ?, ?, ?, (SELECT coalesce(max(count), 0) FROM days_of_use))",
+          {static_cast<int>(type), NotNull(name), begun, Stored(State::Doing), static_cast<qlonglong>(files),
+           moves.isNull() ? QVariant(QVariant::ByteArray) : QVariant(moves)})
+      .lastInsertId()
+      .toLongLong();
 }
 
-std::vector<StepRow> Journal::ReadSteps(const char* condition) const {
+std::vector<StepRow> Journal::ReadSteps(const char* condition, std::initializer_list<QVariant> values) const {
   const std::string sql =
       std::string("SELECT number, kind, name, state, moves FROM steps WHERE ") + condition;
-  QSqlQuery query = database_.Prepare(sql.c_str());
-  database_.Run(query);
+  QSqlQuery query = database_.Run(sql.c_str(), values);
   std::vector<StepRow> steps;
   while (database_.Next(query)) {
     steps.push_back({query.value(0).toLongLong(), static_cast<StepType>(query.value(1).toInt()),
@@ -91,39 +90,25 @@ std::vector<StepRow> Journal::ReadSteps(const char* condition) const {
 }
 
 void Journal::SetState(qlonglong step, State state) const {
-  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(state));
-  query.addBindValue(step);
-  database_.Run(query);
+  database_.Run("UPDATE steps SET state = ? WHERE number = ?", {static_cast<int>(state), step});
 }
 
 QByteArray Journal::Moves(qlonglong step) const {
-  QSqlQuery query = database_.Prepare("SELECT moves FROM steps WHERE number = ?");
-  query.addBindValue(step);
-  database_.Run(query);
+  QSqlQuery query = database_.Run("SELECT moves FROM steps WHERE number = ?", {step});
   return database_.Next(query) ? query.value(0).toByteArray() : QByteArray();
 }
 
 void Journal::SetMoves(qlonglong step, const QByteArray& moves) const {
-  QSqlQuery query = database_.Prepare("UPDATE steps SET moves = ? WHERE number = ?");
-  query.addBindValue(moves);
-  query.addBindValue(step);
-  database_.Run(query);
+  database_.Run("UPDATE steps SET moves = ? WHERE number = ?", {moves, step});
 }
 
 void Journal::SetFiles(qlonglong step, std::size_t files) const {
-  QSqlQuery query = database_.Prepare("UPDATE steps SET files = ? WHERE number = ?");
-  query.addBindValue(static_cast<qlonglong>(files));
-  query.addBindValue(step);
-  database_.Run(query);
+  database_.Run("UPDATE steps SET files = ? WHERE number = ?", {static_cast<qlonglong>(files), step});
 }
 
 void Journal::Close(qlonglong step, std::size_t files, State state) const {
-  QSqlQuery query = database_.Prepare("UPDATE steps SET state = ?, files = ? WHERE number = ?");
-  query.addBindValue(static_cast<int>(state));
-  query.addBindValue(static_cast<qlonglong>(files));
-  query.addBindValue(step);
-  database_.Run(query);
+  database_.Run("UPDATE steps SET state = ?, files = ? WHERE number = ?",
+                {static_cast<int>(state), static_cast<qlonglong>(files), step});
 }
 
 void Journal::EndReversal(qlonglong step, State state, UndoResult& result) const {
@@ -140,9 +125,7 @@ void Journal::Drop(qlonglong step) const {
     const std::vector<std::string> names = kind->KeptNames(step);
     kept.insert(kept.end(), names.begin(), names.end());
   }
-  QSqlQuery query = database_.Prepare("DELETE FROM steps WHERE number = ?");
-  query.addBindValue(step);
-  database_.Run(query);
+  database_.Run("DELETE FROM steps WHERE number = ?", {step});
   // Only now: a row must never speak of what is gone.
   for (const std::string& name : kept) {
     kept_.Remove(name);
@@ -150,7 +133,7 @@ void Journal::Drop(qlonglong step) const {
 }
 
 void Journal::DropUndone() const {
-  for (const StepRow& step : ReadSteps("state = 4")) {
+  for (const StepRow& step : ReadSteps("state = ?", {Stored(State::Undone)})) {
     Drop(step.number);
   }
 }
@@ -171,8 +154,8 @@ void Journal::RequireRoom() const {
 // --- Back and again
 
 StepKind* Journal::KindOf(StepType type) const {
-  const auto kind =
-      std::find_if(kinds_.begin(), kinds_.end(), [type](const StepKind* one) { return one->Type() == type; });
+  const auto kind = std::find_if(kinds_.begin(), kinds_.end(),
+                                 [type](const StepKind* one) { return one->Facts().type == type; });
   return kind == kinds_.end() ? nullptr : *kind;
 }
 
@@ -187,9 +170,12 @@ StepKind& Journal::RequireKind(const StepRow& step) const {
 
 UndoResult Journal::Reverse(bool redo, bool keepsForRedo, const std::atomic<bool>& cancelled,
                             const UndoProgress& progress) {
-  std::vector<StepRow> steps = ReadSteps(redo ? "state = 4 AND number > (SELECT coalesce(max(number), 0) "
-                                                "FROM steps WHERE state = 2) ORDER BY number LIMIT 1"
-                                              : "state = 2 ORDER BY number DESC LIMIT 1");
+  std::vector<StepRow> steps =
+      redo ? ReadSteps(
+                 "state = ? AND number > (SELECT coalesce(max(number), 0) FROM steps WHERE state = ?)"
+                 " ORDER BY number LIMIT 1",
+                 {Stored(State::Undone), Stored(State::Done)})
+           : ReadSteps("state = ? ORDER BY number DESC LIMIT 1", {Stored(State::Done)});
   if (steps.empty()) {
     return {};
   }
@@ -204,12 +190,13 @@ UndoResult Journal::Reverse(bool redo, bool keepsForRedo, const std::atomic<bool
 }
 
 std::optional<SkippedStep> Journal::SkipLast() {
-  const std::vector<UndoStep> steps = QuerySteps(database_, "s.state = 2 ORDER BY s.number DESC LIMIT 1");
-  if (steps.empty()) {
+  const std::vector<UndoStep> steps = Steps();
+  const auto last = std::find_if(steps.begin(), steps.end(), [](const UndoStep& one) { return one.stands; });
+  if (last == steps.end()) {
     return std::nullopt;
   }
   SkippedStep step;
-  static_cast<UndoStep&>(step) = steps.front();
+  static_cast<UndoStep&>(step) = *last;
   step.blocked = StepsInTheWay(step.number, TracesOf(step));
   if (StepKind* const kind = KindOf(step.type)) {
     if (const auto held = kind->WhyHeld(step.number)) {
@@ -231,10 +218,11 @@ StepTraces Journal::TracesOf(const UndoStep& step) const {
 }
 
 std::vector<BlockedStep> Journal::StepsInTheWay(std::int64_t before, const StepTraces& newer) const {
-  const std::string older =
-      "s.state = 2 AND s.number < " + std::to_string(before) + " ORDER BY s.number DESC";
   std::vector<BlockedStep> blocked;
-  for (UndoStep& step : QuerySteps(database_, older.c_str())) {
+  for (UndoStep& step : Steps()) {
+    if (!step.stands || step.number >= before) {
+      continue;
+    }
     BlockedStep entry;
     for (const std::string& file : FilesInTheWay(TracesOf(step), newer)) {
       entry.files.emplace_back(file);
@@ -256,12 +244,16 @@ std::vector<BlockedStep> Journal::BlockedBy(const std::vector<ioPath>& files) co
 }
 
 std::vector<UndoStep> Journal::Steps() const {
-  return QuerySteps(database_);
+  std::vector<KindFacts> kinds;
+  for (const StepKind* const kind : kinds_) {
+    kinds.push_back(kind->Facts());
+  }
+  return QuerySteps(database_, kinds);
 }
 
 std::size_t Journal::Prune(const UndoLimits& limits, const std::vector<UndoStep>* announced) {
   std::size_t dropped = 0;
-  for (const UndoStep& step : StepsBeyond(QuerySteps(database_), limits, 0)) {
+  for (const UndoStep& step : StepsBeyond(Steps(), limits, 0)) {
     const auto isIt = [&step](const UndoStep& other) { return other.number == step.number; };
     const bool mayGo = announced == nullptr || step.givenUp || IsTooOld(step, limits) ||
                        std::any_of(announced->begin(), announced->end(), isIt);
@@ -278,14 +270,16 @@ std::size_t Journal::Prune(const UndoLimits& limits, const std::vector<UndoStep>
 // --- Recovery
 
 void Journal::Recover() {
-  for (StepRow& step : ReadSteps("state IN (1, 3, 5) ORDER BY number")) {
+  for (StepRow& step : ReadSteps("state IN (?, ?, ?) ORDER BY number",
+                                 {Stored(State::Doing), Stored(State::Undoing), Stored(State::Redoing)})) {
     if (StepKind* const kind = KindOf(step.type)) {
       kind->Recover(step);
     }
   }
-  // Done while an import went on beside it: what was undone before cannot be redone any more.
+  // A step that went on beside the journal is done: what was undone before cannot be redone any more.
   for (const StepRow& step :
-       ReadSteps("state = 4 AND number < (SELECT coalesce(max(number), 0) FROM steps WHERE state = 2)")) {
+       ReadSteps("state = ? AND number < (SELECT coalesce(max(number), 0) FROM steps WHERE state = ?)",
+                 {Stored(State::Undone), Stored(State::Done)})) {
     Drop(step.number);
   }
   for (StepKind* const kind : kinds_) {

@@ -64,11 +64,10 @@ void TakeIdentity(TrashedFile& file, const FileState& state) {
 // --- The table
 
 std::vector<TrashedFile> TrashedFiles::Files(qlonglong step) const {
-  QSqlQuery query = database_.Prepare(
+  QSqlQuery query = database_.Run(
       "SELECT number, state, path, place, note, photo, kept, device, file, size, modified_ns FROM trashed"
-      " WHERE step = ? ORDER BY number");
-  query.addBindValue(step);
-  database_.Run(query);
+      " WHERE step = ? ORDER BY number",
+      {step});
   std::vector<TrashedFile> files;
   while (database_.Next(query)) {
     TrashedFile file;
@@ -90,44 +89,28 @@ std::vector<TrashedFile> TrashedFiles::Files(qlonglong step) const {
 }
 
 std::optional<qlonglong> TrashedFiles::PhotoAt(const ioPath& path) const {
-  QSqlQuery query = database_.Prepare("SELECT number FROM photos WHERE path = ?");
-  query.addBindValue(PathBytes(path));
-  database_.Run(query);
+  QSqlQuery query = database_.Run("SELECT number FROM photos WHERE path = ?", {PathBytes(path)});
   return database_.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
 }
 
 void TrashedFiles::Insert(qlonglong step, TrashedFile& file) const {
-  QSqlQuery query = database_.Prepare(
+  QSqlQuery query = database_.Run(
       "INSERT INTO trashed (step, state, path, place, note, photo, kept, device, file, size, modified_ns)"
-      " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
-  query.addBindValue(step);
-  query.addBindValue(static_cast<int>(file.state));
-  query.addBindValue(PathBytes(file.file.path));
-  query.addBindValue(PathBytes(file.place.file));
-  query.addBindValue(PathBytes(file.place.note));
-  query.addBindValue(file.photo ? QVariant(*file.photo) : QVariant(QVariant::LongLong));
-  query.addBindValue(PathBytes(file.kept));
-  query.addBindValue(static_cast<qlonglong>(file.device));
-  query.addBindValue(static_cast<qlonglong>(file.inode));
-  query.addBindValue(static_cast<qlonglong>(file.file.size));
-  query.addBindValue(static_cast<qlonglong>(file.file.modifiedNs));
-  database_.Run(query);
+      " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+      {step, static_cast<int>(file.state), PathBytes(file.file.path), PathBytes(file.place.file),
+       PathBytes(file.place.note), file.photo ? QVariant(*file.photo) : QVariant(QVariant::LongLong),
+       PathBytes(file.kept), static_cast<qlonglong>(file.device), static_cast<qlonglong>(file.inode),
+       static_cast<qlonglong>(file.file.size), static_cast<qlonglong>(file.file.modifiedNs)});
   file.number = query.lastInsertId().toLongLong();
 }
 
 void TrashedFiles::Store(const TrashedFile& file) const {
-  QSqlQuery query = database_.Prepare(
+  database_.Run(
       "UPDATE trashed SET state = ?, place = ?, note = ?, device = ?, file = ?, size = ?, modified_ns = ?"
-      " WHERE number = ?");
-  query.addBindValue(static_cast<int>(file.state));
-  query.addBindValue(PathBytes(file.place.file));
-  query.addBindValue(PathBytes(file.place.note));
-  query.addBindValue(static_cast<qlonglong>(file.device));
-  query.addBindValue(static_cast<qlonglong>(file.inode));
-  query.addBindValue(static_cast<qlonglong>(file.file.size));
-  query.addBindValue(static_cast<qlonglong>(file.file.modifiedNs));
-  query.addBindValue(file.number);
-  database_.Run(query);
+      " WHERE number = ?",
+      {static_cast<int>(file.state), PathBytes(file.place.file), PathBytes(file.place.note),
+       static_cast<qlonglong>(file.device), static_cast<qlonglong>(file.inode),
+       static_cast<qlonglong>(file.file.size), static_cast<qlonglong>(file.file.modifiedNs), file.number});
 }
 
 /// The file is in the trash: its photo is lost for now.
@@ -139,10 +122,8 @@ void TrashedFiles::NoteMoved(TrashedFile& file) const {
   WriteTransaction transaction(database_);
   Store(file);
   if (file.photo) {
-    QSqlQuery query = database_.Prepare("UPDATE photos SET lost = 1 WHERE number = ? AND path = ?");
-    query.addBindValue(*file.photo);
-    query.addBindValue(PathBytes(file.file.path));
-    database_.Run(query);
+    database_.Run("UPDATE photos SET lost = 1 WHERE number = ? AND path = ?",
+                  {*file.photo, PathBytes(file.file.path)});
   }
   transaction.Commit();
 }
@@ -153,18 +134,14 @@ void TrashedFiles::NoteBack(TrashedFile& file) const {
   WriteTransaction transaction(database_);
   Store(file);
   if (file.photo) {
-    QSqlQuery known = database_.Prepare("SELECT path FROM photos WHERE number = ? AND lost = 1");
-    known.addBindValue(*file.photo);
-    database_.Run(known);
+    QSqlQuery known = database_.Run("SELECT path FROM photos WHERE number = ? AND lost = 1", {*file.photo});
     if (database_.Next(known)) {
       const ioPath path = PathOf(known.value(0));
       if (path != file.file.path) {
         // A rename that stands gave its path to another photo.
         PhotoPathUpdate(database_).Move(path, file.file.path);
       }
-      QSqlQuery query = database_.Prepare("UPDATE photos SET lost = 0 WHERE number = ?");
-      query.addBindValue(*file.photo);
-      database_.Run(query);
+      database_.Run("UPDATE photos SET lost = 0 WHERE number = ?", {*file.photo});
     }
   }
   transaction.Commit();
@@ -227,9 +204,7 @@ void TrashedFiles::Drop(TrashedFile& file) const {
     Store(file);
     return;
   }
-  QSqlQuery query = database_.Prepare("DELETE FROM trashed WHERE number = ?");
-  query.addBindValue(file.number);
-  database_.Run(query);
+  database_.Run("DELETE FROM trashed WHERE number = ?", {file.number});
 }
 
 /// The row is on the disk. Returns when the file is in the trash.

@@ -5,11 +5,15 @@
 #include <host/base/HostError.h>
 #include <host/catalogue/CatalogueSchema.h>
 #include <host/catalogue/StepState.h>
+#include <host/journal/JournalRoom.h>
 
 #include <zenvora/core/FileState.h>
 
 #include <QString>
 
+#include <algorithm>
+#include <map>
+#include <set>
 #include <string>
 
 namespace Zenvora::Lumidex::Host {
@@ -20,30 +24,28 @@ bool CountsDays(const CatalogueDatabase& database) {
   return database.Value("SELECT count(*) FROM pragma_table_info('steps') WHERE name = 'day'").toInt() > 0;
 }
 
-std::unique_ptr<CatalogueDatabase> OpenToLookAt(const ioPath& catalogue) {
-  if (QueryFile(catalogue).kind == FileState::Kind::Missing) {
-    return nullptr;
-  }
-  auto database = OpenAsItIs(catalogue);
-  RequireKnownVersion(*database);
-  return database;
-}
-
 }  // namespace
 
-std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database, const char* condition) {
+std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database, const std::vector<KindFacts>& kinds) {
   if (!HasJournal(database)) {
     return {};
+  }
+  std::map<qlonglong, std::uint64_t> keptBytes;
+  std::set<StepType> workBeside;
+  for (const KindFacts& kind : kinds) {
+    if (kind.keptBytes != nullptr) {
+      keptBytes.merge(kind.keptBytes(database));
+    }
+    if (kind.worksBeside) {
+      workBeside.insert(kind.type);
+    }
   }
   // A former version had neither.
   const bool isCurrent = CountsDays(database);
   const std::string age = isCurrent ? "(SELECT coalesce(max(d.count), 0) FROM days_of_use d) - s.day" : "0";
-  const std::string sql =
-      "SELECT s.number, s.name, s.begun, s.state, s.files,"
-      " (SELECT total(c.kept_size) FROM changes c WHERE c.step = s.number), " +
-      age + (isCurrent ? ", s.kind" : ", 0") + " FROM steps s WHERE " + condition;
-  QSqlQuery query = database.Prepare(sql.c_str());
-  database.Run(query);
+  const std::string sql = "SELECT s.number, s.name, s.begun, s.state, s.files, " + age +
+                          (isCurrent ? ", s.kind" : ", 0") + " FROM steps s ORDER BY s.number DESC";
+  QSqlQuery query = database.Run(sql.c_str(), {});
   std::vector<UndoStep> steps;
   while (database.Next(query)) {
     UndoStep step;
@@ -51,13 +53,14 @@ std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database, const char* 
     step.name = query.value(1).toString();
     step.begun = QDateTime::fromString(query.value(2).toString(), Qt::ISODate);
     const auto state = static_cast<State>(query.value(3).toInt());
+    step.stands = state == State::Done;
     step.undone = state == State::Undone;
     step.givenUp = state == State::GivenUp;
     step.files = static_cast<std::size_t>(query.value(4).toULongLong());
-    step.keptBytes = static_cast<std::uint64_t>(query.value(5).toDouble());
-    step.daysOfUse = query.value(6).toLongLong();
-    step.type = static_cast<StepType>(query.value(7).toInt());
-    step.underWay = step.type == StepType::Import && IsUnderWay(state);
+    step.daysOfUse = query.value(5).toLongLong();
+    step.type = static_cast<StepType>(query.value(6).toInt());
+    step.keptBytes = keptBytes[step.number];
+    step.underWay = IsUnderWay(state) && workBeside.count(step.type) > 0;
     steps.push_back(std::move(step));
   }
   return steps;
@@ -84,7 +87,8 @@ std::vector<UndoStep> StepsBeyond(const std::vector<UndoStep>& steps, const Undo
   return beyond;
 }
 
-JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, const UndoLimits& limits) {
+JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, std::vector<UndoStep> steps,
+                     const UndoLimits& limits) {
   JournalRoom room;
   room.limit = limits.bytes;
   for (const ioPath& file : files) {
@@ -92,12 +96,9 @@ JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, 
   }
   room.total = room.needed;
   room.tight = FindTightVolumes(catalogue, files);
-  const auto database = OpenToLookAt(catalogue);
-  if (!database) {
-    return room;
-  }
   // What was undone goes when something new is done.
-  const std::vector<UndoStep> steps = QuerySteps(*database, "s.state <> 4 ORDER BY s.number DESC");
+  steps.erase(std::remove_if(steps.begin(), steps.end(), [](const UndoStep& step) { return step.undone; }),
+              steps.end());
   for (const UndoStep& step : steps) {
     room.total += step.givenUp || IsTooOld(step, limits) ? 0 : step.keptBytes;
   }
@@ -109,9 +110,13 @@ JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, 
   return room;
 }
 
-std::vector<UndoStep> ReadUndoSteps(const ioPath& catalogue) {
-  const auto database = OpenToLookAt(catalogue);
-  return database ? QuerySteps(*database) : std::vector<UndoStep>();
+std::vector<UndoStep> ReadUndoSteps(const ioPath& catalogue, const std::vector<KindFacts>& kinds) {
+  if (QueryFile(catalogue).kind == FileState::Kind::Missing) {
+    return {};
+  }
+  const auto database = OpenAsItIs(catalogue);
+  RequireKnownVersion(*database);
+  return QuerySteps(*database, kinds);
 }
 
 }  // namespace Zenvora::Lumidex::Host

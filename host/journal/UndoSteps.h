@@ -1,7 +1,7 @@
 #pragma once
 
 #include <host/catalogue/CatalogueDatabase.h>
-#include <host/journal/JournalRoom.h>
+#include <host/journal/StepKind.h>
 #include <host/journal/UndoTypes.h>
 
 #include <cstdint>
@@ -9,10 +9,8 @@
 
 namespace Zenvora::Lumidex::Host {
 
-/// The steps of a condition, with the order in which they are wanted. Of a catalogue of any version; one
-/// without a journal has none.
-std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database,
-                                 const char* condition = "1 ORDER BY s.number DESC");
+/// All steps, the latest first. Of a catalogue of any version; one without a journal has none.
+std::vector<UndoStep> QuerySteps(const CatalogueDatabase& database, const std::vector<KindFacts>& kinds);
 
 /// Which of `steps` (the latest first) the limits leave no place for beside `needed` bytes: the oldest that
 /// can be undone, and before any of those what was given up. Where one goes that can be undone, all

@@ -7,10 +7,8 @@
 namespace Zenvora::Lumidex::Host {
 
 std::optional<qlonglong> TagSteps::FindNumber(const Tag& tag) const {
-  QSqlQuery query = database_.Prepare("SELECT number FROM tags WHERE type = ? AND name = ?");
-  query.addBindValue(static_cast<int>(tag.type));
-  query.addBindValue(NotNull(tag.name));
-  database_.Run(query);
+  QSqlQuery query = database_.Run("SELECT number FROM tags WHERE type = ? AND name = ?",
+                                  {static_cast<int>(tag.type), NotNull(tag.name)});
   return database_.Next(query) ? std::optional(query.value(0).toLongLong()) : std::nullopt;
 }
 
@@ -18,20 +16,16 @@ qlonglong TagSteps::FindOrMake(const Tag& tag) const {
   if (const std::optional<qlonglong> known = FindNumber(tag)) {
     return *known;
   }
-  QSqlQuery query = database_.Prepare("INSERT INTO tags (type, name) VALUES (?, ?)");
-  query.addBindValue(static_cast<int>(tag.type));
-  query.addBindValue(NotNull(tag.name));
-  database_.Run(query);
+  QSqlQuery query = database_.Run("INSERT INTO tags (type, name) VALUES (?, ?)",
+                                  {static_cast<int>(tag.type), NotNull(tag.name)});
   return query.lastInsertId().toLongLong();
 }
 
 /// False when it was so already.
 bool TagSteps::Set(qlonglong photo, qlonglong tag, bool wanted) const {
-  QSqlQuery query = database_.Prepare(wanted ? "INSERT OR IGNORE INTO photo_tags (photo, tag) VALUES (?, ?)"
-                                             : "DELETE FROM photo_tags WHERE photo = ? AND tag = ?");
-  query.addBindValue(photo);
-  query.addBindValue(tag);
-  database_.Run(query);
+  QSqlQuery query = database_.Run(wanted ? "INSERT OR IGNORE INTO photo_tags (photo, tag) VALUES (?, ?)"
+                                         : "DELETE FROM photo_tags WHERE photo = ? AND tag = ?",
+                                  {photo, tag});
   return query.numRowsAffected() > 0;
 }
 
@@ -79,9 +73,7 @@ std::size_t TagSteps::ReverseRows(qlonglong step, bool redo) const {
     bool added;
   };
   std::vector<Change> changes;
-  QSqlQuery query = database_.Prepare("SELECT photo, tag, added FROM tag_changes WHERE step = ?");
-  query.addBindValue(step);
-  database_.Run(query);
+  QSqlQuery query = database_.Run("SELECT photo, tag, added FROM tag_changes WHERE step = ?", {step});
   while (database_.Next(query)) {
     changes.push_back({query.value(0).toLongLong(), query.value(1).toLongLong(), query.value(2).toBool()});
   }

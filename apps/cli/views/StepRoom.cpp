@@ -7,6 +7,7 @@
 #include <cli/terminal/Words.h>
 #include <cli/views/StepRoom.h>
 #include <cli/views/UndoView.h>
+#include <host/history/UndoJournal.h>
 
 #include <array>
 #include <utility>
@@ -97,8 +98,10 @@ void AddRoomOptions(CLI::App& command, RoomWish& wish) {
 }
 
 Host::JournalRoom RoomFor(Session& session, const std::vector<ioPath>& files, const RoomWish& wish) {
-  return wish.noUndo ? Host::JournalRoom()
-                     : Host::PlanRoom(session.CatalogueFile(), files, StoredLimits(session.console));
+  return wish.noUndo
+             ? Host::JournalRoom()
+             : Host::PlanRoom(session.CatalogueFile(), files, Host::ReadUndoSteps(session.CatalogueFile()),
+                              StoredLimits(session.console));
 }
 
 bool WouldBeRefused(const Host::JournalRoom& room, const RoomWish& wish) {

@@ -85,7 +85,7 @@ TEST_F(DaysOfUse, MakeAStepTooOldAfterSoManyOfThem) {
   EditOnce("new");
   OpenOn(QDate(2024, 1, 5));
   // Nobody is asked for it, so it is not announced.
-  EXPECT_THAT(PlanRoom(catalogue_, {}, limits).forgotten, IsEmpty());
+  EXPECT_THAT(PlanRoom(catalogue_, {}, ReadUndoSteps(catalogue_), limits).forgotten, IsEmpty());
   EXPECT_EQ(journal_->Prune(limits, {}), 1U);
   EXPECT_THAT(StepNames(), ElementsAre("new"));
   EXPECT_EQ(Kept().size(), 1U);

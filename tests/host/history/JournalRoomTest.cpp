@@ -24,7 +24,8 @@ class JournalRoomTest : public Zenvora::Test::JournalTest {
   }
 
   JournalRoom RoomFor(std::size_t bytes) const {
-    return PlanRoom(catalogue_, {Make("next.jpg", std::string(bytes, 'x'))}, limits_);
+    return PlanRoom(catalogue_, {Make("next.jpg", std::string(bytes, 'x'))}, ReadUndoSteps(catalogue_),
+                    limits_);
   }
 
   UndoLimits limits_;
@@ -32,8 +33,8 @@ class JournalRoomTest : public Zenvora::Test::JournalTest {
 
 TEST_F(JournalRoomTest, IsThereWhereNothingWasDoneYet) {
   Close();
-  const JournalRoom room =
-      PlanRoom(tree_.Path("none.sqlite"), {Make("a", "12345"), Make("b", "67")}, limits_);
+  const JournalRoom room = PlanRoom(tree_.Path("none.sqlite"), {Make("a", "12345"), Make("b", "67")},
+                                    ReadUndoSteps(tree_.Path("none.sqlite")), limits_);
   EXPECT_EQ(room.needed, 7U);
   EXPECT_EQ(room.total, 7U);
   EXPECT_EQ(room.limit, 1000U);

@@ -26,7 +26,8 @@ class AlbumSteps final : public StepKind {
   /// again: ids, order and attributes are as before.
   std::vector<AcceptResult> Run(const QString& name, const std::vector<Album>& proposals);
 
-  StepType Type() const override { return StepType::Albums; }
+  static constexpr KindFacts kFacts{StepType::Albums};
+  const KindFacts& Facts() const override { return kFacts; }
   /// Never needed: a step is one transaction.
   void Recover(StepRow& /*step*/) override {}
   UndoResult Reverse(StepRow& step, bool redo, const std::atomic<bool>& cancelled,

@@ -8,6 +8,7 @@
 #include <QByteArray>
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -34,6 +35,9 @@ struct ChangeRow {
   std::string KeptBefore() const { return Kept("-before"); }
   std::string KeptAfter() const { return Kept("-after"); }
 };
+
+/// What is kept for each step that edits.
+std::map<qlonglong, std::uint64_t> KeptBytesOfEdits(const CatalogueDatabase& database);
 
 /// A name for the staging file of a photo: short, whatever the length of the photo's own, and hidden from
 /// scans.

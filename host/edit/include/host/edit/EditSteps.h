@@ -56,7 +56,8 @@ class EditSteps final : public StepKind {
   /// The edit planned last did not happen: nothing is left of it, unless the photo says otherwise.
   void DropEdit();
 
-  StepType Type() const override { return StepType::Edit; }
+  static constexpr KindFacts kFacts{StepType::Edit, false, KeptBytesOfEdits};
+  const KindFacts& Facts() const override { return kFacts; }
   void Recover(StepRow& step) override;
   UndoResult Reverse(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                      const UndoProgress& progress) override;

@@ -110,6 +110,10 @@ class UndoJournal : public IUndo {
   bool keepsForRedo_ = true;
 };
 
+/// All steps, the latest first, without opening the journal: others may be at work. From a catalogue that
+/// need not be there, nor writable, nor of this version. Throws `HostError`.
+std::vector<UndoStep> ReadUndoSteps(const ioPath& catalogue);
+
 /// True when something was under way in the journal of the catalogue, or cannot be ruled out: opening an
 /// `UndoJournal` then recovers. Cheap, and makes no catalogue.
 bool NeedsRecovery(const ioPath& catalogue);

@@ -23,7 +23,8 @@ class ImportSteps final : public StepKind {
   ImportSteps(Journal& journal, const TrashedFiles& trash)
       : journal_(journal), database_(journal.Database()), rows_(database_), trash_(trash) {}
 
-  StepType Type() const override { return StepType::Import; }
+  static constexpr KindFacts kFacts{StepType::Import, true};
+  const KindFacts& Facts() const override { return kFacts; }
   void Recover(StepRow& step) override;
   /// Throws while an import is at work in a folder of the step's copies.
   UndoResult Reverse(StepRow& step, bool redo, const std::atomic<bool>& cancelled,

@@ -12,6 +12,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -86,13 +87,14 @@ class Journal {
   /// Steps that stand and could not be undone, or not whole, if these files were changed for good. The
   /// latest first.
   std::vector<BlockedStep> BlockedBy(const std::vector<ioPath>& files) const;
+  /// The latest first.
   std::vector<UndoStep> Steps() const;
   /// Forgets the oldest steps beyond the limits. With `announced`, of what could be undone only what is
   /// too old, and those. Returns how many could have been undone.
   std::size_t Prune(const UndoLimits& limits, const std::vector<UndoStep>* announced);
 
  private:
-  std::vector<StepRow> ReadSteps(const char* condition) const;
+  std::vector<StepRow> ReadSteps(const char* condition, std::initializer_list<QVariant> values) const;
   StepKind* KindOf(StepType type) const;
   StepKind& RequireKind(const StepRow& step) const;
   StepTraces TracesOf(const UndoStep& step) const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <host/journal/StepKind.h>
 #include <host/journal/UndoTypes.h>
 
 #include <zenvora/core/ioPath.h>
@@ -35,11 +36,13 @@ struct JournalRoom {
 };
 
 /// Of a step that edits `files` (all that it replaces, settings beside photos too; of links, the files that
-/// they lead to count). A catalogue that is not there has no older steps. Changes nothing; a catalogue of a
-/// former version is read as it is. Blocks on the disk; throws `HostError`.
-JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, const UndoLimits& limits);
+/// they lead to count), after `steps`, the latest first (`ReadUndoSteps`). Changes nothing. Blocks on the
+/// disk.
+JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, std::vector<UndoStep> steps,
+                     const UndoLimits& limits);
 
-/// All steps, the latest first, from a catalogue that need not be writable. Throws `HostError`.
-std::vector<UndoStep> ReadUndoSteps(const ioPath& catalogue);
+/// All steps, the latest first, from a catalogue that need not be there, nor writable, nor of this version.
+/// `kinds`: all that its steps may be of. Throws `HostError`.
+std::vector<UndoStep> ReadUndoSteps(const ioPath& catalogue, const std::vector<KindFacts>& kinds);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <host/catalogue/CatalogueDatabase.h>
 #include <host/catalogue/StepState.h>
 #include <host/catalogue/StepType.h>
 #include <host/journal/UndoTypes.h>
@@ -8,6 +9,8 @@
 #include <QString>
 
 #include <atomic>
+#include <cstdint>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -33,6 +36,16 @@ struct StepTraces {
   std::set<std::string> made;     ///< Files that were not there before.
 };
 
+/// What is known of a kind of step without an open journal, for the list of steps.
+struct KindFacts {
+  StepType type = StepType::Unknown;
+  /// Such a step is done while others have the journal: one that is under way may be at work now.
+  bool worksBeside = false;
+  /// How many bytes are kept for each step, as if nothing were shared with the photos; steps for which
+  /// nothing is kept need not be there. Null: the kind keeps nothing.
+  std::map<qlonglong, std::uint64_t> (*keptBytes)(const CatalogueDatabase& database) = nullptr;
+};
+
 /// What one kind of undoable act brings to the journal, which knows none of them itself: how its steps are
 /// recovered, undone and redone. What begins such a step, and plans it, is the kind's own affair.
 ///
@@ -41,7 +54,7 @@ class StepKind {
  public:
   virtual ~StepKind() = default;
 
-  virtual StepType Type() const = 0;
+  virtual const KindFacts& Facts() const = 0;
 
   /// A step was under way when the program or the machine stopped: finishes it or takes it back, as far as
   /// its files can be reached, and says in the journal's notes what became of it.

@@ -22,9 +22,10 @@ struct UndoStep {
   StepType type = StepType::Unknown;
   QString name;                 ///< What the person did.
   QDateTime begun;              ///< UTC; invalid: the clock showed no year from 1 to 9999.
+  bool stands = false;          ///< Done; it can be undone.
   bool undone = false;          ///< Undone; it can be redone.
   bool givenUp = false;         ///< Can be neither undone nor redone.
-  bool underWay = false;        ///< An import that goes on now.
+  bool underWay = false;        ///< It goes on now, while others may use the journal: an import.
   std::size_t files = 0;        ///< Files that it changed or moved.
   std::uint64_t keptBytes = 0;  ///< What is kept for it, as if nothing were shared with the photos.
   std::int64_t daysOfUse = 0;   ///< How many days the journal was used on since.

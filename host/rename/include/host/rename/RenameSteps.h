@@ -30,7 +30,8 @@ class RenameSteps final : public StepKind {
   UndoResult Run(const QString& name, const RenamePlan& plan, const std::atomic<bool>& cancelled,
                  const UndoProgress& progress);
 
-  StepType Type() const override { return StepType::Rename; }
+  static constexpr KindFacts kFacts{StepType::Rename};
+  const KindFacts& Facts() const override { return kFacts; }
   void Recover(StepRow& step) override;
   UndoResult Reverse(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                      const UndoProgress& progress) override;

@@ -33,7 +33,8 @@ class TagSteps final : public StepKind {
   /// that have other tags now; 0: there is no step.
   UndoResult Run(const QString& name, const TagWishes& wishes);
 
-  StepType Type() const override { return StepType::Tags; }
+  static constexpr KindFacts kFacts{StepType::Tags};
+  const KindFacts& Facts() const override { return kFacts; }
   /// Never needed: a step is one transaction.
   void Recover(StepRow& /*step*/) override {}
   UndoResult Reverse(StepRow& step, bool redo, const std::atomic<bool>& cancelled,

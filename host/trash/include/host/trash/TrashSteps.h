@@ -40,7 +40,8 @@ class TrashSteps final : public StepKind {
   TrashResult Run(const QString& name, const std::vector<TrashPhoto>& photos,
                   const std::atomic<bool>& cancelled, const UndoProgress& progress);
 
-  StepType Type() const override { return StepType::Trash; }
+  static constexpr KindFacts kFacts{StepType::Trash};
+  const KindFacts& Facts() const override { return kFacts; }
   void Recover(StepRow& step) override;
   UndoResult Reverse(StepRow& step, bool redo, const std::atomic<bool>& cancelled,
                      const UndoProgress& progress) override;
