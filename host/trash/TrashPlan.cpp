@@ -1,20 +1,17 @@
-#include <host/base/FolderEntries.h>
+#include "TrashBeside.h"
+#include "TrashFaults.h"
+
 #include <host/base/LinkSearch.h>
-#include <host/base/RenameNames.h>
-#include <host/pixels/JudgedPictures.h>
 #include <host/pixels/PictureEnd.h>
 #include <host/scan/FileVerdicts.h>
 #include <host/shots/ShotNames.h>
-#include <host/shots/ShotSets.h>
 #include <host/trash/TrashPlan.h>
 
-#include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/quillet/match/MatchTemplate.h>
 #include <zenvora/tavolin/Trash.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <set>
@@ -29,32 +26,6 @@ using Identity = std::pair<std::uint64_t, std::uint64_t>;
 
 SeenFile KnownAs(const PhotoRecord& photo) {
   return {photo.path, photo.size, photo.modifiedNs};
-}
-
-bool IsLink(const ioPath& file) {
-  std::error_code error;
-  return std::filesystem::is_symlink(std::filesystem::symlink_status(file.for_system(), error));
-}
-
-bool IsAsKnown(const FileState& state, const SeenFile& file) {
-  return state.kind == FileState::Kind::File && state.size == file.size &&
-         state.modifiedNs == file.modifiedNs;
-}
-
-/// To be put behind the name.
-std::string WhatIsWrong(const FileState& state) {
-  switch (state.kind) {
-    case FileState::Kind::Missing:
-      return "no longer exists";
-    case FileState::Kind::File:
-      return "was changed after it was analysed";
-    default:
-      return state.error ? "cannot be read (" + ErrorText(state.error) + ")" : "is no longer a file";
-  }
-}
-
-std::string Stays(const ioPath& photo, const std::string& why) {
-  return photo.utf8string() + " is kept: " + why + ".";
 }
 
 class Planner {
@@ -73,9 +44,13 @@ class Planner {
     for (const SuggestedGroup& group : groups_) {
       AddGroup(group);
     }
-    const std::vector<Beside> beside = FindBeside();
+    std::vector<ioPath> going;
+    for (const TrashPhoto& photo : plan_.photos) {
+      going.push_back(photo.photo.path);
+    }
+    const std::vector<TrashBeside> beside = FindBeside(going);
     SpareSettings(beside);
-    for (const Beside& file : beside) {
+    for (const TrashBeside& file : beside) {
       AddAttached(file);
     }
     return std::move(plan_);
@@ -235,64 +210,7 @@ class Planner {
     plan_.stays.push_back({photo, Stays(photo, why), isRule, {}});
   }
 
-  /// Settings or a thumbnail, and the photos that they are of.
-  struct Beside {
-    ioPath file;
-    std::vector<ioPath> owners;
-    /// A video's thumbnail, or the settings of a layered picture.
-    bool isOthersToo = false;
-  };
-
-  /// What lies beside the photos that go.
-  std::vector<Beside> FindBeside() const {
-    std::map<ioPath, std::vector<ioPath>> folders;
-    for (const TrashPhoto& photo : plan_.photos) {
-      folders[photo.photo.path.parent_path()].push_back(photo.photo.path);
-    }
-    std::vector<Beside> beside;
-    for (auto& [folder, photos] : folders) {
-      for (const ShotSet& set : GroupShots(std::move(photos), FilesOf(folder))) {
-        AddBeside(set, beside);
-      }
-    }
-    return beside;
-  }
-
-  /// What cannot be listed stays: nothing is lost by that.
-  static std::vector<ioPath> FilesOf(const ioPath& folder) {
-    std::vector<ioPath> files;
-    std::error_code ignored;
-    for (const FolderEntry& entry : ReadFolderEntries(folder, EntryChoice::NotHidden, ignored)) {
-      if (entry.kind == FolderEntry::Kind::File || entry.kind == FolderEntry::Kind::Link) {
-        files.push_back(folder / entry.name);
-      }
-    }
-    return files;
-  }
-
-  static void AddBeside(const ShotSet& set, std::vector<Beside>& beside) {
-    Beside all;
-    // By their extensions. Where case counts, two photos can differ in nothing else.
-    std::unordered_map<std::string, std::vector<ioPath>> byExtension;
-    for (const ShotFile& file : set.files) {
-      if (IsPhotoName(file.path)) {
-        all.owners.push_back(file.path);
-        byExtension[NameKey(file.suffix)].push_back(file.path);
-      } else if (!IsAttachedName(file.path.filename().utf8string())) {
-        all.isOthersToo = true;
-      }
-    }
-    for (const ShotFile& file : set.files) {
-      if (!IsPhotoName(file.path) && IsAttachedName(file.path.filename().utf8string()) &&
-          !IsLink(file.path)) {
-        const auto owners = byExtension.find(NameKey(OwnerExtension(file.suffix)));
-        beside.push_back(owners != byExtension.end() ? Beside{{}, owners->second, false} : all);
-        beside.back().file = file.path;
-      }
-    }
-  }
-
-  bool GoesAlong(const Beside& beside) const {
+  bool GoesAlong(const TrashBeside& beside) const {
     return !beside.isOthersToo && !beside.owners.empty() &&
            std::all_of(beside.owners.begin(), beside.owners.end(),
                        [this](const ioPath& photo) { return going_.count(photo) > 0; });
@@ -300,15 +218,15 @@ class Planner {
 
   /// Ratings, texts and developments of a copy are somebody's work: where the kept photo has not the very
   /// same, the copy stays with them.
-  void SpareSettings(const std::vector<Beside>& beside) {
+  void SpareSettings(const std::vector<TrashBeside>& beside) {
     std::map<ioPath, std::string> spared;
-    for (const Beside& file : beside) {
+    for (const TrashBeside& file : beside) {
       if (!IsSettingsName(file.file.filename().utf8string()) || !GoesAlong(file) ||
           QueryFile(file.file).size == 0) {
         continue;
       }
       const auto misses = [&](const ioPath& owner) {
-        return FindEqual(file.file, plan_.photos[going_.at(owner)].kept.path).path.empty();
+        return FindEqualSettings(file.file, plan_.photos[going_.at(owner)].kept.path).path.empty();
       };
       const auto owner = std::find_if(file.owners.begin(), file.owners.end(), misses);
       if (owner != file.owners.end()) {
@@ -337,23 +255,7 @@ class Planner {
     }
   }
 
-  /// Settings beside the kept photo that hold the same bytes, as a file of their own.
-  static SeenFile FindEqual(const ioPath& settings, const ioPath& kept) {
-    const FileState state = QueryFile(settings);
-    for (const ShotSet& set : GroupShots({kept}, FilesOf(kept.parent_path()))) {
-      for (const ShotFile& file : set.files) {
-        const FileState other = QueryFile(file.path);
-        if (IsSettingsName(file.path.filename().utf8string()) && !IsLink(file.path) &&
-            other.kind == FileState::Kind::File && other.size == state.size && file.path != settings &&
-            HoldTheSameBytes(settings, file.path)) {
-          return {file.path, other.size, other.modifiedNs};
-        }
-      }
-    }
-    return {};
-  }
-
-  void AddAttached(const Beside& beside) {
+  void AddAttached(const TrashBeside& beside) {
     const FileState state = QueryFile(beside.file);
     if (!GoesAlong(beside) || state.kind != FileState::Kind::File || !LinkTo(state.identity).empty()) {
       return;
@@ -365,7 +267,7 @@ class Planner {
     }
     AttachedFile attached = {{beside.file, state.size, state.modifiedNs}, beside.owners};
     if (IsSettingsName(beside.file.filename().utf8string()) && state.size > 0) {
-      attached.equal = FindEqual(beside.file, plan_.photos[last].kept.path);
+      attached.equal = FindEqualSettings(beside.file, plan_.photos[last].kept.path);
     }
     plan_.photos[last].attached.push_back(std::move(attached));
   }
@@ -409,48 +311,6 @@ std::uint64_t TrashPlan::CountBytes() const {
 
 TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore) {
   return Planner(groups, choice, hasMore).Run();
-}
-
-std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept) {
-  const FileState keptState = QueryFile(kept.path);
-  if (!IsAsKnown(keptState, kept)) {
-    return Stays(photo.path, "the photo to keep, " + kept.path.utf8string() + ", " + WhatIsWrong(keptState));
-  }
-  const FileState state = QueryFile(photo.path);
-  if (!IsAsKnown(state, photo)) {
-    return Stays(photo.path, "it " + WhatIsWrong(state));
-  }
-  if (IsLink(photo.path) || state.identity == keptState.identity) {
-    return Stays(photo.path, "it is another name of a file that is kept");
-  }
-  return {};
-}
-
-std::string FindTrashFault(const TrashPhoto& photo) {
-  const std::string fault = FindTrashFault(photo.photo, photo.kept);
-  // Two files can change their names within a second and be of one size: a look at both is certain.
-  if (fault.empty() && photo.verdict.why == kIdenticalFiles &&
-      !HoldTheSameBytes(photo.photo.path, photo.kept.path)) {
-    return Stays(photo.photo.path, "it was changed after it was compared");
-  }
-  return fault;
-}
-
-std::string FindTrashFault(const AttachedFile& attached) {
-  for (const ioPath& photo : attached.photos) {
-    if (QueryFile(photo).kind != FileState::Kind::Missing) {
-      return Stays(attached.path, photo.filename().utf8string() + ", to which it belongs, is kept");
-    }
-  }
-  const FileState state = QueryFile(attached.path);
-  if (!IsAsKnown(state, attached)) {
-    return Stays(attached.path, "it " + WhatIsWrong(state));
-  }
-  if (!attached.equal.path.empty() && (!IsAsKnown(QueryFile(attached.equal.path), attached.equal) ||
-                                       !HoldTheSameBytes(attached.path, attached.equal.path))) {
-    return Stays(attached.path, "the settings in " + attached.equal.path.utf8string() + " were changed");
-  }
-  return IsLink(attached.path) ? Stays(attached.path, "it is a link to another file") : std::string();
 }
 
 }  // namespace Zenvora::Lumidex::Host
