@@ -3,6 +3,7 @@
 #ifndef _WIN32
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QProcess>
 
 #include <cstdlib>
@@ -39,6 +40,20 @@ class Terminal {
   /// As if somebody typed it.
   void Type(const std::string& text) const {
     EXPECT_EQ(write(master_, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+  }
+
+  /// All that was written until a text came; the process ends or hangs when it does not come.
+  std::string WaitFor(const std::string& text, QProcess& process) const {
+    constexpr qint64 kHangMs = 60'000;
+    QElapsedTimer timer;
+    timer.start();
+    std::string shown;
+    while (shown.find(text) == std::string::npos && timer.elapsed() < kHangMs &&
+           process.state() != QProcess::NotRunning) {
+      process.waitForReadyRead(10);
+      shown += Read();
+    }
+    return shown;
   }
 
   /// All that was written so far.

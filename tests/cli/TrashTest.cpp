@@ -7,7 +7,6 @@
 
 #include <zenvora/core/FileState.h>
 
-#include <QElapsedTimer>
 #include <QImage>
 #include <QJsonArray>
 #include <QPainter>
@@ -358,19 +357,7 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsNotAskedWhenThereIsNothingToMove, k
 
 class TrashQuestion : public TrashCommand {
  protected:
-  /// Waits for the question; empty when it does not come.
-  std::string WaitForQuestion(QProcess& process) const {
-    constexpr qint64 kHangMs = 60'000;
-    QElapsedTimer timer;
-    timer.start();
-    std::string shown;
-    while (shown.find(prompt_) == std::string::npos && timer.elapsed() < kHangMs &&
-           process.state() != QProcess::NotRunning) {
-      process.waitForReadyRead(10);
-      shown += terminal_.Read();
-    }
-    return shown;
-  }
+  std::string WaitForQuestion(QProcess& process) const { return terminal_.WaitFor(prompt_, process); }
 
   /// Runs the command at a terminal and answers its question.
   Ran Answer(const std::string& answer, const QStringList& more = {}) {

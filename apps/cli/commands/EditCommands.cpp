@@ -15,7 +15,6 @@
 #include <glog/logging.h>
 
 #include <memory>
-#include <optional>
 #include <utility>
 
 namespace Zenvora::Lumidex::Cli {
@@ -151,8 +150,8 @@ class EditRun {
 
   ExitCode Run() {
     // What a former run left half done changes what there is to choose from.
-    if (!arguments_.dryRun && Host::NeedsRecovery(view_.catalogue)) {
-      journal_.emplace(session_);
+    if (!arguments_.dryRun) {
+      RequireRecovered(session_);
     }
     Choose();
     view_.room = RoomFor(session_, FilesToReplace(), arguments_.room);
@@ -218,10 +217,8 @@ class EditRun {
 
   void Edit() {
     VLOG(1) << "editing " << tasks_.size() << " photos";
-    if (!journal_) {
-      journal_.emplace(session_);
-    }
-    journal_->Get().KeepOriginals(!arguments_.room.noUndo);
+    OpenJournal journal(session_);
+    journal.Get().KeepOriginals(!arguments_.room.noUndo);
     Host::EditOrder order;
     order.name = QString::fromStdString(order_.step);
     order.edit = order_.edit;
@@ -230,7 +227,7 @@ class EditRun {
     {
       Progress progress(session_.console, Say(Words::tr("Editing")), Say(Words::tr("photos", "of so many")));
       result = Host::EditPhotos(
-          journal_->Get().Edits(), journal_->Locker(), order, tasks_, session_.interrupted,
+          journal.Get().Edits(), journal.Locker(), order, tasks_, session_.interrupted,
           [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });
     }
     view_.edited = result.photos;
@@ -238,11 +235,11 @@ class EditRun {
     view_.interrupted = result.cancelled;
     view_.findings.insert(view_.findings.end(), result.findings.begin(), result.findings.end());
     if (result.files > 0) {
-      view_.forgotten = journal_->Prune(view_.room.forgotten);
+      view_.forgotten = journal.Prune(view_.room.forgotten);
       if (arguments_.room.noUndo) {
-        view_.blocked = journal_->Get().BlockedBy(FilesToReplace());
+        view_.blocked = journal.Get().BlockedBy(FilesToReplace());
       }
-      view_.canBeUndone = journal_->CanUndoLast();
+      view_.canBeUndone = journal.CanUndoLast();
     }
   }
 
@@ -276,7 +273,6 @@ class EditRun {
   const EditArguments& arguments_;
   const Order order_;
   Session& session_;
-  std::optional<OpenJournal> journal_;
   std::vector<Host::EditTask> tasks_;
   EditView view_;
 };

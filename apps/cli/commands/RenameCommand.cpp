@@ -20,7 +20,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -104,8 +103,8 @@ class RenameRun {
 
   ExitCode Run() {
     // What a former run left half done changes the names that are there.
-    if (!arguments_.dryRun && Host::NeedsRecovery(view_.catalogue)) {
-      journal_.emplace(session_);
+    if (!arguments_.dryRun) {
+      RequireRecovered(session_);
     }
     Plan();
     if (!arguments_.dryRun && !view_.plan.renames.empty() && view_.result.findings.empty()) {
@@ -164,20 +163,18 @@ class RenameRun {
 
   void Rename() {
     VLOG(1) << "renaming " << view_.plan.renames.size() << " files";
-    if (!journal_) {
-      journal_.emplace(session_);
-    }
+    OpenJournal journal(session_);
     const QString step =
         QString::fromStdString("rename " + PhotosAndFiles(view_.plan.shots, view_.plan.renames.size()));
     {
       Progress progress(session_.console, Say(Words::tr("Renaming")), Say(Words::tr("files", "of so many")));
-      view_.result = journal_->Get().Renames().Run(
+      view_.result = journal.Get().Renames().Run(
           step, view_.plan, session_.interrupted,
           [&progress](std::size_t done, std::size_t total) { progress.Update(done, total); });
     }
     if (view_.result.files > 0) {
-      journal_->Prune();
-      view_.canBeUndone = journal_->CanUndoLast();
+      journal.Prune();
+      view_.canBeUndone = journal.CanUndoLast();
     }
   }
 
@@ -200,7 +197,6 @@ class RenameRun {
   const RenameArguments& arguments_;
   Session& session_;
   const Host::RenamePattern pattern_;
-  std::optional<OpenJournal> journal_;
   RenameView view_;
 };
 

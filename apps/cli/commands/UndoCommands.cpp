@@ -8,10 +8,13 @@
 #include <cli/terminal/ValueTexts.h>
 #include <cli/terminal/Words.h>
 #include <cli/views/UndoView.h>
-#include <host/journal/JournalRoom.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -111,8 +114,7 @@ class UndoRun {
       RecoverIfNeeded(session_);
       view_.steps = Host::ReadUndoSteps(view_.catalogue);
     } else if (view_.catalogue.exists()) {
-      OpenJournal journal(session_);
-      Work(journal);
+      Work();
     }
     view_.recovered = session_.recovered;
     session_.output.Print(session_.globals.json ? UndoDocument(view_) : UndoText(view_));
@@ -130,17 +132,17 @@ class UndoRun {
     return wish;
   }
 
-  void Work(OpenJournal& journal) {
+  void Work() {
+    std::optional<OpenJournal> journal(std::in_place, session_);
     if (view_.limits) {
-      view_.forgotten = journal.ApplyLimits();
+      view_.forgotten = journal->ApplyLimits();
     } else if (view_.skipped) {
-      if (const std::optional<Host::SkippedStep> step = journal.Get().SkipLast()) {
+      if (const std::optional<Host::SkippedStep> step = journal->Get().SkipLast()) {
         view_.skipped->push_back(*step);
       }
     } else {
-      journal.Get().KeepForRedo(!arguments_.noRedo);
-      for (int i = 0; i < arguments_.last && (TakeStep(journal.Get()) || GoOnWithoutRedo(journal.Get()));
-           ++i) {
+      journal->Get().KeepForRedo(!arguments_.noRedo);
+      for (int i = 0; i < arguments_.last && (TakeStep(journal->Get()) || GoOnWithoutRedo(journal)); ++i) {
       }
     }
   }
@@ -161,19 +163,39 @@ class UndoRun {
     return whole;
   }
 
-  /// Where only the room for doing it again is missing, and the person can do without.
-  bool GoOnWithoutRedo(Host::UndoJournal& journal) {
-    if (view_.done.empty() || !view_.done.back().lacksRoomForRedo || arguments_.noRedo || !CanAsk() ||
-        !Ask(session_.console, UndoText(view_), Say(Words::tr("Undo without keeping what redo needs? [y/N]")),
+  /// Where only the room for doing it again is missing, and the person can do without. The journal is closed
+  /// while that is asked.
+  bool GoOnWithoutRedo(std::optional<OpenJournal>& journal) {
+    if (view_.done.empty() || !view_.done.back().lacksRoomForRedo || arguments_.noRedo || !CanAsk()) {
+      return false;
+    }
+    const std::int64_t asked = LastThatStands(*journal);
+    journal.reset();
+    if (!Ask(session_.console, UndoText(view_), Say(Words::tr("Undo without keeping what redo needs? [y/N]")),
              session_.interrupted)) {
       return false;
     }
-    journal.KeepForRedo(false);
+    journal.emplace(session_);
+    if (LastThatStands(*journal) != asked) {
+      session_.console.Warning(
+          "Another program changed the list of steps meanwhile. Nothing more was undone. Run: lumidex undo "
+          "--list");
+      return false;
+    }
+    journal->Get().KeepForRedo(false);
     const std::size_t before = view_.done.back().files;
     view_.done.pop_back();
-    const bool whole = TakeStep(journal);
+    const bool whole = TakeStep(journal->Get());
     view_.done.back().files += before;
     return whole;
+  }
+
+  /// The number of the step that the next undo takes; 0: there is none.
+  static std::int64_t LastThatStands(OpenJournal& journal) {
+    const std::vector<Host::UndoStep> steps = journal.Get().Steps();
+    const auto last =
+        std::find_if(steps.begin(), steps.end(), [](const Host::UndoStep& step) { return step.stands; });
+    return last == steps.end() ? 0 : last->number;
   }
 
   bool AreFewer() const { return view_.done.size() < static_cast<std::size_t>(arguments_.last); }

@@ -58,12 +58,15 @@ bool OpenJournal::CanUndoLast() const {
   return !steps.empty() && !steps.front().undone && !steps.front().givenUp;
 }
 
-void RecoverIfNeeded(Session& session) {
-  if (!Host::NeedsRecovery(session.CatalogueFile())) {
-    return;
-  }
-  try {
+void RequireRecovered(Session& session) {
+  if (Host::NeedsRecovery(session.CatalogueFile())) {
     const OpenJournal recovering(session);
+  }
+}
+
+void RecoverIfNeeded(Session& session) {
+  try {
+    RequireRecovered(session);
   } catch (const Host::HostError& error) {
     VLOG(1) << "not recovered: " << error.what();
   }

@@ -14,6 +14,9 @@
 namespace Zenvora::Lumidex::Cli {
 
 /// The open journal of a session's catalogue. What its recovery did is noted on the console.
+///
+/// It is held for a step and no longer: not while somebody is asked, nor while something is planned or
+/// printed, so that a command that waits keeps nobody from working.
 class OpenJournal {
  public:
   /// Throws `Host::HostError`.
@@ -36,6 +39,10 @@ class OpenJournal {
   boost::intrusive_ptr<IFileAccessLocker> locker_;
   std::unique_ptr<Host::UndoJournal> journal_;
 };
+
+/// For commands that will open the journal later, for what they plan: finishes or undoes what a former
+/// run left half done. Throws `Host::HostError`, also when another program has the journal open.
+void RequireRecovered(Session& session);
 
 /// For commands that use the catalogue but not its journal: finishes or undoes what a former run left
 /// half done. When another program has the journal open, it is at work, and this goes on without.
