@@ -1,3 +1,5 @@
+#include "AlbumsRows.h"
+
 #include <cli/commands/Commands.h>
 #include <cli/session/CalendarWatch.h>
 #include <cli/session/OpenJournal.h>
@@ -23,8 +25,6 @@
 #include <memory>
 #include <string>
 #include <tuple>
-#include <unordered_map>
-#include <unordered_set>
 
 namespace Zenvora::Lumidex::Cli {
 
@@ -75,36 +75,6 @@ struct AlbumsArguments {
   std::string report;
 };
 
-/// The photos of the catalogue, found by id.
-class PhotoIndex {
- public:
-  explicit PhotoIndex(std::vector<PhotoRecord> photos) : photos_(std::move(photos)) {
-    for (const PhotoRecord& photo : photos_) {
-      byId_.emplace(photo.id.toStdString(), &photo);
-    }
-  }
-  PhotoIndex(const PhotoIndex&) = delete;
-  PhotoIndex& operator=(const PhotoIndex&) = delete;
-
-  const std::vector<PhotoRecord>& All() const { return photos_; }
-
-  std::vector<const PhotoRecord*> Find(const std::vector<QString>& ids) const {
-    std::vector<const PhotoRecord*> found;
-    for (const QString& id : ids) {
-      const auto photo = byId_.find(id.toStdString());
-      // A member that is lost now is not among the photos.
-      if (photo != byId_.end()) {
-        found.push_back(photo->second);
-      }
-    }
-    return found;
-  }
-
- private:
-  const std::vector<PhotoRecord> photos_;
-  std::unordered_map<std::string, const PhotoRecord*> byId_;
-};
-
 // By first day, then name. By days alone: where the clocks go forward at midnight a day has no 00:00.
 void SortByTime(std::vector<Album>& proposals) {
   std::sort(proposals.begin(), proposals.end(), [](const Album& left, const Album& right) {
@@ -114,60 +84,6 @@ void SortByTime(std::vector<Album>& proposals) {
     const QDate dayOfB = b.GetDateTime().date();
     return std::forward_as_tuple(dayOfA, a.GetName()) < std::forward_as_tuple(dayOfB, b.GetName());
   });
-}
-
-QDate LastDayOf(const std::vector<const PhotoRecord*>& photos) {
-  QDate last;
-  for (const PhotoRecord* const photo : photos) {
-    last = std::max(last, photo->taken.date());
-  }
-  return last;
-}
-
-std::size_t CountMissing(const std::vector<QString>& ids, const std::vector<QString>& stored) {
-  std::unordered_set<std::string> known;
-  for (const QString& id : stored) {
-    known.insert(id.toStdString());
-  }
-  return static_cast<std::size_t>(std::count_if(
-      ids.begin(), ids.end(), [&known](const QString& id) { return known.count(id.toStdString()) == 0; }));
-}
-
-void MarkAccepted(AlbumRow& row, const std::vector<QString>& ids,
-                  const std::vector<Host::StoredAlbum>& stored) {
-  const auto match = std::find_if(stored.begin(), stored.end(),
-                                  [&row](const auto& album) { return album.name == row.name; });
-  row.accepted = match != stored.end();
-  row.notAccepted = row.accepted ? CountMissing(ids, match->photoIds) : 0;
-}
-
-std::vector<AlbumRow> RowsOf(const std::vector<Album>& proposals,
-                             const std::vector<Host::StoredAlbum>& stored, const PhotoIndex& photos) {
-  std::vector<AlbumRow> rows;
-  for (const Album& proposal : proposals) {
-    AlbumRow row;
-    row.name = proposal.GetModel().GetName();
-    row.firstDay = proposal.GetModel().GetDateTime().date();
-    row.photos = photos.Find(proposal.GetPhotoIds());
-    row.lastDay = LastDayOf(row.photos);
-    MarkAccepted(row, proposal.GetPhotoIds(), stored);
-    rows.push_back(std::move(row));
-  }
-  return rows;
-}
-
-std::vector<AlbumRow> RowsOf(const std::vector<Host::StoredAlbum>& stored, const PhotoIndex& photos) {
-  std::vector<AlbumRow> rows;
-  for (const Host::StoredAlbum& album : stored) {
-    AlbumRow row;
-    row.name = album.name;
-    row.firstDay = album.firstDay;
-    row.photos = photos.Find(album.photoIds);
-    row.lastDay = LastDayOf(row.photos);
-    row.accepted = true;
-    rows.push_back(std::move(row));
-  }
-  return rows;
 }
 
 std::vector<std::size_t> ChosenAlbums(const std::vector<std::string>& wishes,

@@ -1,11 +1,13 @@
-#include "SimilarRun.h"
+#include "SimilarJobs.h"
 
 #include <cli/commands/Commands.h>
 #include <cli/session/OpenJournal.h>
 #include <cli/session/Options.h>
 #include <cli/session/ReportTarget.h>
 #include <cli/terminal/Failure.h>
+#include <cli/terminal/Interrupt.h>
 #include <cli/terminal/Question.h>
+#include <cli/terminal/Words.h>
 #include <host/similar/Models.h>
 
 #include <memory>
@@ -96,7 +98,21 @@ ExitCode RunSimilar(const SimilarArguments& arguments, Session& session) {
   if (!arguments.dryRun) {
     RecoverIfNeeded(session);
   }
-  return ShowSimilar(arguments, *analyser, session);
+  if (arguments.check) {
+    return CheckGroups(SimilarStores(session, *analyser, Host::Catalogue::Mode::ReadOnly), session);
+  }
+  SimilarStores stores(session, *analyser, Host::Catalogue::Mode::ReadWrite);
+  if (arguments.anew) {
+    stores.similar.ClearClusters();
+  }
+  const Host::SimilarUpdateResult update = UpdateGroups(stores, arguments.threads, session);
+  if (arguments.explain.empty()) {
+    return ShowGroups(stores, update, arguments, session);
+  }
+  if (update.cancelled) {
+    ThrowIfInterrupted(Say(Words::tr("Interrupted. Run the same command to continue.")).c_str());
+  }
+  return ExplainPair(stores, arguments, session);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "SimilarReport.h"
+#include "SimilarJobs.h"
 
 #include <cli/session/CauseText.h>
 #include <cli/session/ReportTarget.h>
