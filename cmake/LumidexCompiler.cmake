@@ -20,12 +20,6 @@ target_compile_options(lumidex_compiler INTERFACE
   "-fmacro-prefix-map=${way_to_sources}/LumidexUtil/="
   "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
   "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/LumidexUtil/=")
-if(CMAKE_UNITY_BUILD)
-  set(CMAKE_UNITY_BUILD_UNIQUE_ID LUMIDEX_UNIT)
-  target_compile_options(lumidex_compiler INTERFACE "SHELL:-include \"${PROJECT_SOURCE_DIR}/cmake/OwnNames.h\""
-    # Between sources that are compiled together these mean nothing; builds of single sources and clang-tidy have them.
-    -Wno-shadow -Wno-subobject-linkage)
-endif()
 if(WIN32)
   # Wide calls only; nothing of the system's header that takes names from the language.
   target_compile_definitions(lumidex_compiler INTERFACE

@@ -24,27 +24,6 @@ set(LUMIDEX_ORDERED_FLOORS 2)
 # out, and their headers show only what is there without (QT_WIDGETS_LIB).
 set(LUMIDEX_WIDGET_ROOMS qtutility alerts widgets Presenter LumidexUtil gui)
 
-# Sources that are compiled alone also where others are compiled together (CMAKE_UNITY_BUILD): they have functions and types of
-# their own under names that others of their target have too, or include what changes the language for all.
-set(LUMIDEX_ALONE
-  DownloadableResource JpegTables MovedPhotos PhotoChoice PictureAligner PictureVerdict PixelSources Program Question
-  RecycleBin
-  SaveChecks ScanCommand ScanView TerminalQuestions TiffParts TrashedFiles UnseenContent)
-set(LUMIDEX_ALONE_ROOMS strandel strandel_read strandel_edit)
-
-# lumidex_compile_apart(<target> <room> <sources>...)
-function(lumidex_compile_apart target room)
-  if(room IN_LIST LUMIDEX_ALONE_ROOMS)
-    set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
-  endif()
-  foreach(source IN LISTS ARGN)
-    cmake_path(GET source STEM stem)
-    if(stem IN_LIST LUMIDEX_ALONE)
-      set_source_files_properties("${source}" PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
-    endif()
-  endforeach()
-endfunction()
-
 function(lumidex_floor room result)
   foreach(entry IN LISTS LUMIDEX_FLOORS)
     if(entry MATCHES "^${room}=([0-9]+)$")
@@ -122,7 +101,6 @@ function(lumidex_room name)
   else()
     message(FATAL_ERROR "Room '${name}': KIND must be SHARED, STATIC, PART or PROGRAM")
   endif()
-  lumidex_compile_apart(${target} ${name} ${R_SOURCES})
   if(R_OUTPUT)
     set_target_properties(${target} PROPERTIES OUTPUT_NAME "${R_OUTPUT}")
   endif()

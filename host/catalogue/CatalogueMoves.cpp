@@ -247,4 +247,13 @@ CatalogueMoves::Outcome CatalogueMoves::Follow(const std::vector<FollowedPhoto>&
   return outcome;
 }
 
+bool IsSameContent(const ContentTrace& left, const ContentTrace& right) {
+  return !left.edges.isEmpty() && left.edges == right.edges && left.content == right.content;
+}
+
+bool IsSamePicture(const ContentTrace& left, const ContentTrace& right) {
+  return IsSameContent(left, right) || (!left.tail.isEmpty() && left.tail == right.tail &&
+                                        !left.cameraId.isEmpty() && left.cameraId == right.cameraId);
+}
+
 }  // namespace Zenvora::Lumidex::Host

@@ -138,13 +138,4 @@ bool IsFormer(const ContentTrace& trace) {
   return trace.edges.size() == kFormer.digestBytes;
 }
 
-bool IsSameContent(const ContentTrace& left, const ContentTrace& right) {
-  return !left.edges.isEmpty() && left.edges == right.edges && left.content == right.content;
-}
-
-bool IsSamePicture(const ContentTrace& left, const ContentTrace& right) {
-  return IsSameContent(left, right) || (!left.tail.isEmpty() && left.tail == right.tail &&
-                                        !left.cameraId.isEmpty() && left.cameraId == right.cameraId);
-}
-
 }  // namespace Zenvora::Lumidex::Host

@@ -190,9 +190,9 @@ TEST_F(LanguageOption, TellsStepsOfTheJournalInTheirLanguage) {
   const std::string list = Run({"--lang", "de_DE", "undo", "--list"}).out;
   EXPECT_THAT(list, AllOf(HasSubstr("  2 Fotos umbenennen "), HasSubstr("  nach links drehen "),
                           HasSubstr("  Datumsangaben um +1h verschieben "),
-                          HasSubstr("  Datumsangaben auf 2020-01-02 00:00:00 setzen ")));
+                          HasSubstr("  Datumsangaben auf den 2020-01-02 00:00:00 setzen ")));
   EXPECT_EQ(Run({"--lang", "fr_FR", "undo"}).out,
-            "Annul\u00E9\u00A0: fixer les dates \u00E0 2020-01-02 00:00:00.\n");
+            "Annul\u00E9\u00A0: fixer les dates au 2020-01-02 00:00:00.\n");
   EXPECT_EQ(Run({"--json", "--lang", "fr_FR", "undo"})
                 .Json()["done"]
                 .toArray()

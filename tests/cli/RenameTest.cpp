@@ -160,7 +160,7 @@ TEST_F(RenameCommand, TellsWhenThereIsNothingToDo) {
   Photo("x1.jpg");
   const Ran ran = Rename("x{number}");
   EXPECT_EQ(ran.exitCode, 0);
-  EXPECT_EQ(ran.out, "1 file has its name already.\nNothing to rename.\n");
+  EXPECT_EQ(ran.out, "1 file has its new name already.\nNothing to rename.\n");
   EXPECT_FALSE(DefaultCatalogue().exists());
 
   tree.MakeFolder("empty");

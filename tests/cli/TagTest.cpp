@@ -48,7 +48,7 @@ TEST_F(TagCommand, GivesAndTakesTags) {
 TEST_F(TagCommand, IsUndoneAndDoneAgain) {
   ASSERT_EQ(Run({"tag", "photos", "+Beach"}).exitCode, 0);
   ASSERT_EQ(Run({"tag", "photos", "-Beach", "+Trip"}).exitCode, 0);
-  EXPECT_EQ(Run({"undo"}).out, "Taken back: tag +Trip -Beach.\n");
+  EXPECT_EQ(Run({"undo"}).out, "Undone: tag +Trip -Beach.\n");
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("own Beach"));
   EXPECT_EQ(Run({"redo"}).out, "Redone: tag +Trip -Beach.\n");
   EXPECT_THAT(TagsOf("a.jpg"), ElementsAre("own Trip"));

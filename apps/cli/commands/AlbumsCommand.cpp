@@ -38,10 +38,10 @@ constexpr char kDescription[] =
     "\n"
     "Proposes an album for each holiday and for the weekends of each month that have\n"
     "20 photos or more, sorted by time. FIRST DAY is the first day of the holiday or\n"
-    "weekend, LAST DAY is the day of the latest photo. Photos without a date are left\n"
-    "out, because the time of a file often says only when it was copied. Accepting\n"
-    "stores an album in the catalogue; \"lumidex undo\" undoes it. Your files do not\n"
-    "change.";
+    "weekend, LAST DAY is the day of the latest photo. Photos without a date are\n"
+    "left out, because the time of a file often says only when it was copied.\n"
+    "Accepting stores an album in the catalogue; \"lumidex undo\" undoes it. Your\n"
+    "files do not change.";
 
 constexpr char kFooter[] =
     R"(NAME is the name and time of an album as shown: "Christmas, December 2023". It
@@ -58,8 +58,8 @@ Examples:
   lumidex albums --accept all --report albums.html
   lumidex albums --accepted              the albums accepted so far
 
-A report replaces an older report of the same name, but never a photo, a file of
-the catalogue or any other file.
+A report replaces an older report of the same name, but never a photo, a file
+of the catalogue or any other file.
 
 Exit codes: 0 done; 1 the catalogue has no photos, or the holiday calendar
 cannot be read; 3 pictures are missing in the report; 4 there is no catalogue,

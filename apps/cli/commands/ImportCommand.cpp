@@ -42,8 +42,8 @@ constexpr char kFooter[] =
     R"help(A folder stands for all photos and videos in it and in its subfolders, with the
 files that belong to them: thumbnails, voice memos, sidecars (.xmp and others).
 Copies keep their names; if a name is taken, "(1)" is added to it. The hidden
-folder .lumidex-import beside the copies lists each copy with its source and its
-SHA-256.
+folder .lumidex-import beside the copies lists each copy with its source and
+its SHA-256.
 
 All other files on removable storage are skipped and listed, also hidden ones.
 Only files that cameras and systems keep for themselves (.DS_Store, Thumbs.db,
@@ -51,8 +51,8 @@ AUTPRINT.MRK and such) are not listed, unless they begin like a picture or a
 video. "Safe to format" is said only if no other file remains.
 
 Undo moves unchanged copies to the trash; changed copies stay. The list of
-copies stays, too. Photos that were added without copying stay in the catalogue:
-undo has no step for them.
+copies stays, too. Photos that were added without copying stay in the
+catalogue: undo has no step for them.
 
 Without --to, --yes and --no-copy, questions are asked on the terminal; without
 a terminal, nothing is imported.

@@ -28,10 +28,11 @@ namespace {
 constexpr char kDescription[] =
     "Give photos new names, all at once.\n"
     "\n"
-    "PATTERN is text with placeholders in braces. Extensions do not change. The files\n"
-    "of one shot are renamed together: a raw file, its JPEG, its .xmp. Symbolic links\n"
-    "keep their names; those inside the folders are changed to lead to the new names.\n"
-    "No file is ever replaced, and \"lumidex undo\" undoes all renames.";
+    "PATTERN is text with placeholders in braces. Extensions do not change. The\n"
+    "files of one shot are renamed together: a raw file, its JPEG, its .xmp.\n"
+    "Symbolic links keep their names; those inside the folders are changed to lead\n"
+    "to the new names. No file is ever replaced, and \"lumidex undo\" undoes all\n"
+    "renames.";
 
 constexpr char kFooter[] =
     R"(Placeholders:

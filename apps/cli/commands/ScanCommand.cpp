@@ -33,9 +33,9 @@ constexpr char kDescription[] =
     "Add the photos of folders and their subfolders to the catalogue.\n"
     "\n"
     "Reads the dates of new and changed photos; a second run is quick. Photos that\n"
-    "were moved or renamed keep their tags and albums; photos whose files are missing\n"
-    "are marked as lost, but stay in the catalogue. Your files are only read. If a\n"
-    "run is interrupted, run the same command to continue.";
+    "were moved or renamed keep their tags and albums; photos whose files are\n"
+    "missing are marked as lost, but stay in the catalogue. Your files are only\n"
+    "read. If a run is interrupted, run the same command to continue.";
 
 constexpr char kFooter[] =
     R"(Photos are recognised by their names: .jpg, .heic, .png, .tif, .webp, the raw

@@ -22,8 +22,8 @@ constexpr char kDescription[] =
     "Analyses the new and changed photos of the catalogue, puts each into the first\n"
     "group that it resembles, suggests which photo of a group to keep, and compares\n"
     "the others with that one, pixel by pixel. If a run is interrupted, run the same\n"
-    "command to continue. Your files are only read, unless you give --trash: it shows\n"
-    "what would be moved, and asks.";
+    "command to continue. Your files are only read, unless you give --trash: it\n"
+    "shows what would be moved, and asks.";
 
 constexpr char kFooter[] =
     R"(The word before a photo compares it with the photo to keep:
@@ -35,8 +35,8 @@ constexpr char kFooter[] =
 The numbers after it are its score against the centre of its group (at most 1;
 above 0.91 is similar), its pixels and its bytes.
 
---trash moves photos with the same picture, and with --alike also those that are
-alike, which are listed separately. These photos always stay: different and
+--trash moves photos with the same picture, and with --alike also those that
+are alike, which are listed separately. These photos always stay: different and
 unknown ones, other formats of the shot that is kept, raw files unless a raw
 file of the group is kept, links, photos that were changed after the last scan,
 photos that do not score above 0.91 against the photo to keep, photos with a
@@ -49,7 +49,7 @@ Examples:
   lumidex similar --min 5                only groups of at least five photos
   lumidex similar --report similar.html  a page with the pictures side by side
   lumidex similar --explain a.jpg b.jpg  why are they in one group, or not?
-  lumidex similar --not-compared         list all photos that cannot be compared
+  lumidex similar --not-compared         list photos that cannot be compared
   lumidex similar --check                are the groups in the catalogue right?
   lumidex similar --model net.onnx       compare with a model of your own
   lumidex similar --trash --dry-run      what would be moved to the trash?
@@ -59,10 +59,10 @@ Examples:
 
 Exit codes: 0 done; 1 the catalogue has no photos, --check finds a difference,
 or you answered no; 3 some photos cannot be compared or moved, or pictures are
-missing in the report; 4 there is no catalogue, it cannot be written, a photo of
---explain or --only is not in it, the model cannot be used, the report cannot be
-written, no photo could be moved, or --trash could not ask; 130 interrupted, the
-photos moved so far stay in the trash.)";
+missing in the report; 4 there is no catalogue, it cannot be written, a photo
+of --explain or --only is not in it, the model cannot be used, the report
+cannot be written, no photo could be moved, or --trash could not ask; 130
+interrupted, the photos moved so far stay in the trash.)";
 
 std::unique_ptr<Host::PhotoAnalyser> AnalyserOf(const SimilarArguments& arguments) {
   if (arguments.model.empty()) {

@@ -23,8 +23,8 @@ constexpr char kDescription[] =
     "\n"
     "Statistics are off until you turn them on. They are kept in one file on this\n"
     "computer and never sent anywhere: the day, the command, and how many photos\n"
-    "there were before and after it. They hold no names, no paths and nothing of your\n"
-    "photos.";
+    "there were before and after it. They hold no names, no paths and nothing of\n"
+    "your photos.";
 
 constexpr char kFooter[] = "\"lumidex help stats COMMAND\" has the examples of a command.";
 

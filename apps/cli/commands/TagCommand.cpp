@@ -27,10 +27,10 @@ using Host::TagDictionary;
 constexpr char kDescription[] =
     "Add tags to photos, remove tags, or list them.\n"
     "\n"
-    "+TAG adds a tag, -TAG removes it. With files only, their tags are shown; without\n"
-    "arguments, all tags. Tags are kept in the catalogue: your files do not change,\n"
-    "and photos keep their tags through renames, the trash and undo. \"lumidex undo\"\n"
-    "undoes a change.";
+    "+TAG adds a tag, -TAG removes it. With files only, their tags are shown;\n"
+    "without arguments, all tags. Tags are kept in the catalogue: your files do not\n"
+    "change, and photos keep their tags through renames, the trash and undo.\n"
+    "\"lumidex undo\" undoes a change.";
 
 constexpr char kFooter[] =
     R"(A word that names a built-in tag in your language or in English means that tag,

@@ -27,8 +27,8 @@ constexpr char kUndoDescription[] =
     "\n"
     "Without options, undoes the last step. Photos get back their names and every\n"
     "byte of their files. A photo that another program changed later is left as it\n"
-    "is, and listed. Older steps cannot be undone before that one, unless you skip it\n"
-    "with --skip.";
+    "is, and listed. Older steps cannot be undone before that one, unless you skip\n"
+    "it with --skip.";
 
 constexpr char kUndoFooter[] =
     R"(These steps can be undone, within the limits below:
@@ -40,13 +40,14 @@ constexpr char kUndoFooter[] =
                    photos get every byte of their originals back
   similar --trash  photos that are still in the trash come back
 These cannot be undone: scan, photos that an import added without copying (they
-stay in the catalogue), the list of copies of an import, the results of similar,
-settings, usage statistics, downloaded calendars, reports, sample photos.
+stay in the catalogue), the list of copies of an import, the results of
+similar, settings, usage statistics, downloaded calendars, reports, sample
+photos.
 
 "lumidex redo" does undone steps again, until something new is done. The
-originals of edited photos are kept beside the catalogue, by default for 90 days
-of use (days on which steps are done or undone) and up to 5 GiB. If older steps
-must be forgotten for a new one, you are asked first.
+originals of edited photos are kept beside the catalogue, by default for 90
+days of use (days on which steps are done or undone) and up to 5 GiB. If older
+steps must be forgotten for a new one, you are asked first.
 
 Examples:
   lumidex undo

@@ -329,7 +329,7 @@ TEST_F(CalendarInUse, StaysWhenTheServersIsNone) {
     Serve(Outcome::Fetched, body);
     const CalendarUpdate update = UpdateCalendar();
     EXPECT_FALSE(update.ok) << body;
-    EXPECT_THAT(update.cause, HasSubstr("no calendar")) << body;
+    EXPECT_THAT(update.cause, HasSubstr("not a calendar")) << body;
     EXPECT_EQ(update.file, Shipped()) << body;
   }
 }

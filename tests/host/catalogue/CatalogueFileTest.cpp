@@ -208,7 +208,7 @@ TEST_F(CatalogueFile, MustBeADatabase) {
   for (const std::string& content : {text, std::string("short"), std::string(4096, '\0')}) {
     const ioPath file = tree_.Write("text", content);
     for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
-      EXPECT_THAT(OpeningError(file, mode), AllOf(HasSubstr(file.utf8string()), HasSubstr("no catalogue")));
+      EXPECT_THAT(OpeningError(file, mode), AllOf(HasSubstr(file.utf8string()), HasSubstr("not a catalogue")));
       EXPECT_EQ(ReadFile(file), content);
     }
   }
@@ -591,7 +591,7 @@ INSTANTIATE_TEST_SUITE_P(Table, SqliteCodes,
                                          CodeRow{5 | 2 << 8, "another program"},
                                          CodeRow{8, "write-protected"}, CodeRow{10, "own words"},
                                          CodeRow{11, "damaged"}, CodeRow{13, "disk is full"},
-                                         CodeRow{14, "cannot be opened"}, CodeRow{26, "no catalogue"},
+                                         CodeRow{14, "cannot be opened"}, CodeRow{26, "not a catalogue"},
                                          CodeRow{1, "own words"}));
 
 #ifdef _WIN32

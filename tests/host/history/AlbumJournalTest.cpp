@@ -135,7 +135,7 @@ TEST_F(AlbumJournal, AnAlbumThatOthersFilledSinceStays) {
   const UndoResult undone = Undo();
   EXPECT_EQ(undone.files, 2U);
   ASSERT_THAT(undone.findings, SizeIs(1));
-  EXPECT_THAT(undone.findings[0].cause, HasSubstr("\"Easter\" stays"));
+  EXPECT_THAT(undone.findings[0].cause, HasSubstr("\"Easter\" is kept"));
   ASSERT_THAT(catalogue_.Albums(), SizeIs(1));
   EXPECT_THAT(catalogue_.Albums()[0].photoIds, ElementsAre(ids_[2]));
   EXPECT_EQ(Redo().files, 2U);

@@ -157,7 +157,7 @@ TEST_F(ImportJournal, LeavesWhatWasChangedSince) {
   EXPECT_EQ(undone.files, 1U);
   EXPECT_THAT(CausesOf(undone), testing::UnorderedElementsAre(HasSubstr("IMG_1000.JPG was changed later"),
                                                               HasSubstr("IMG_1001.JPG was changed later"),
-                                                              HasSubstr("IMG_1000.xmp stays")));
+                                                              HasSubstr("IMG_1000.xmp was kept")));
   EXPECT_THAT(NamesIn(Copies()), ElementsAre("IMG_1000.JPG", "IMG_1000.xmp", "IMG_1001.JPG"));
   EXPECT_THAT(InCatalogue(), ElementsAre("IMG_1000.JPG", "IMG_1001.JPG"));
   EXPECT_FALSE(undone.stands) << "what others changed is theirs, and older steps need not wait";
@@ -270,7 +270,7 @@ TEST_F(ImportJournal, RecoversAnImportThatWasBrokenOff) {
     journal_->Prune(none);
     EXPECT_THAT(journal_->Steps(), SizeIs(testing::Ge(1U))) << "nor is it forgotten";
   }
-  EXPECT_THAT(Open().RecoveryNotes(), ElementsAre(HasSubstr("1 copy is there")));
+  EXPECT_THAT(Open().RecoveryNotes(), ElementsAre(HasSubstr("Copies made: 1")));
   const UndoStep step = journal_->Steps().at(0);
   EXPECT_EQ(step.files, 1U);
   EXPECT_FALSE(step.underWay);

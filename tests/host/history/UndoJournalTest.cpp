@@ -704,7 +704,7 @@ TEST_F(UndoJournalTest, TakesBackARenameThatCannotBeFinished) {
   Open();
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "A"}, {"b.jpg", "B"}, {"y.jpg", "of others"}}));
   ASSERT_EQ(journal_->RecoveryNotes().size(), 1U);
-  EXPECT_NE(journal_->RecoveryNotes()[0].find("as before"), std::string::npos);
+  EXPECT_NE(journal_->RecoveryNotes()[0].find("have their former names"), std::string::npos);
   EXPECT_TRUE(journal_->Steps().empty());
 }
 

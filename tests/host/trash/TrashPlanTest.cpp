@@ -61,7 +61,7 @@ class TrashPlanTest : public ::testing::Test {
   std::vector<std::string> Staying(const TrashPlan& plan) const {
     std::vector<std::string> names;
     for (const TrashStay& stay : plan.stays) {
-      EXPECT_THAT(stay.cause, HasSubstr(stay.photo.utf8string() + " stays: "));
+      EXPECT_THAT(stay.cause, HasSubstr(stay.photo.utf8string() + " is kept: "));
       names.push_back(Name(stay.photo) + (stay.isRule ? "" : "!"));
     }
     return names;
@@ -298,7 +298,7 @@ TEST_F(TrashPlanTest, KeepsAPhotoWithSettingsThatTheKeptOneHasNot) {
   EXPECT_THAT(Going(plan), ElementsAre("a.jpg +a.xmp", "c.jpg +c.xmp", "e.jpg +e.THM"));
   EXPECT_THAT(Staying(plan), ElementsAre("b.jpg", "d.jpg"));
   EXPECT_THAT(plan.stays[0].cause,
-              HasSubstr("b.jpg stays: its settings, b.xmp, would be lost: the photo to keep, " +
+              HasSubstr("b.jpg is kept: its settings, b.xmp, would be lost: the photo to keep, " +
                         tree_.Path("photos/keep.jpg").utf8string() + ", does not have them."));
   EXPECT_THAT(Going(PlanTrash({Group({"bare.jpg", "a.jpg"})})), IsEmpty());
   EXPECT_THAT(Going(PlanTrash({Group({"a.jpg", "bare.jpg"})})), ElementsAre("bare.jpg"));
