@@ -22,8 +22,8 @@ inline constexpr std::chrono::seconds kStallTimeout{15};
 /// 300 kbit/s.
 inline constexpr std::chrono::minutes kTotalTimeout{2};
 
-/// For a request that nobody asked for: what is stored, or ships with the program, serves anyhow. As long as a
-/// person bears a command that says nothing; thirteen kilobytes need a second of it on a slow line.
+/// For a request that nobody asked for: what is stored, or ships with the program, serves anyhow. As long as
+/// a person bears a command that says nothing; thirteen kilobytes need a second of it on a slow line.
 inline constexpr std::chrono::seconds kTotalTimeoutUnasked{5};
 
 /// Some three hundred times the calendar shipped today, and still harmless to hold in memory twice.

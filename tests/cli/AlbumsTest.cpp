@@ -172,7 +172,8 @@ TEST_F(AlbumsCommand, ShowsAcceptedAlbumsAlsoOfOtherLanguages) {
 TEST_F(AlbumsCommand, SpeaksTheLanguageAskedFor) {
   ScanTwoAlbums();
   const Ran ran = Run({"albums", "--locale", "ja_JP"});
-  EXPECT_THAT(ran.out, HasSubstr("\u30AF\u30EA\u30B9\u30DE\u30B9  2023\u5E74" "12\u6708  2023-12-24"));
+  EXPECT_THAT(ran.out, HasSubstr("\u30AF\u30EA\u30B9\u30DE\u30B9  2023\u5E74"
+                                 "12\u6708  2023-12-24"));
   EXPECT_THAT(ran.err, IsEmpty());
   EXPECT_THAT(Run({"albums"}).out, HasSubstr("Christmas"));
 }

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace Zenvora::Lumidex::Cli {
 namespace {
@@ -115,7 +116,7 @@ TEST_F(GivenInAdvance, AFolderAnswersOnce) {
   const TerminalQuestions questions(session_, given);
   const auto dialog = App::Services::Current().Get<App::IFolderDialog>();
   // On Windows a path without a letter lies on the current drive.
-  EXPECT_EQ(dialog->Ask({}), QDir(QStringLiteral("/copies")).absolutePath());
+  EXPECT_EQ(dialog->Ask({}), QFileInfo(QStringLiteral("/copies")).absoluteFilePath());
   EXPECT_EQ(dialog->Ask({}), QString()) << "it was refused";
 }
 
@@ -126,7 +127,7 @@ TEST_F(GivenInAdvance, YesTakesTheFolderThatTheDialogWouldBeginWith) {
   App::FolderQuestion question;
   question.startFolder = QStringLiteral("/last");
   EXPECT_EQ(App::Services::Current().Get<App::IFolderDialog>()->Ask(question),
-            QDir(QStringLiteral("/last")).absolutePath());
+            QFileInfo(QStringLiteral("/last")).absoluteFilePath());
 }
 
 }  // namespace

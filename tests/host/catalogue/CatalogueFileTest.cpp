@@ -208,7 +208,8 @@ TEST_F(CatalogueFile, MustBeADatabase) {
   for (const std::string& content : {text, std::string("short"), std::string(4096, '\0')}) {
     const ioPath file = tree_.Write("text", content);
     for (const Mode mode : {Mode::ReadWrite, Mode::ReadOnly}) {
-      EXPECT_THAT(OpeningError(file, mode), AllOf(HasSubstr(file.utf8string()), HasSubstr("not a catalogue")));
+      EXPECT_THAT(OpeningError(file, mode),
+                  AllOf(HasSubstr(file.utf8string()), HasSubstr("not a catalogue")));
       EXPECT_EQ(ReadFile(file), content);
     }
   }

@@ -10,8 +10,8 @@ namespace Zenvora::Lumidex::Host {
 /// the disk; any thread.
 bool ReadContentTrace(const ioPath& file, ContentTrace& trace);
 
-/// The same in the form of former catalogues, to be compared with what they hold: traces of two forms are never
-/// the same.
+/// The same in the form of former catalogues, to be compared with what they hold: traces of two forms are
+/// never the same.
 bool ReadFormerTrace(const ioPath& file, ContentTrace& trace);
 bool IsFormer(const ContentTrace& trace);
 
