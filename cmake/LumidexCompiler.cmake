@@ -42,8 +42,6 @@ if(LUMIDEX_FUZZ)
 endif()
 
 if(LUMIDEX_SANITIZE)
-  # What the sanitizers add makes compilers warn of what is not there; without them warnings are errors.
-  target_compile_options(lumidex_compiler INTERFACE -Wno-error)
   add_compile_options(-fsanitize=${LUMIDEX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${LUMIDEX_SANITIZE})
 endif()

@@ -165,6 +165,7 @@ std::size_t AlbumSteps::ReverseRows(qlonglong step, bool redo, std::vector<FileF
 }
 
 std::vector<AcceptResult> AlbumSteps::Run(const QString& name, const std::vector<Album>& proposals) {
+  journal_.HoldRoom();
   WriteTransaction transaction(journal_.Database());
   const qlonglong step = journal_.Begin(StepType::Albums, name, 0, {});
   std::vector<AcceptResult> results = Accept(step, proposals);

@@ -1,6 +1,10 @@
 include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
 file(REMOVE_RECURSE "${WORK}")
-run("Asking for flags" ${CMAKE_COMMAND} -E env "PKG_CONFIG_PATH=${PC_DIR}" "${PKG_CONFIG}" --cflags LumidexUtil)
+if(PACKAGE)
+  set(printed "${PACKAGE}")
+else()
+  run("Asking for flags" ${CMAKE_COMMAND} -E env "PKG_CONFIG_PATH=${PC_DIR}" "${PKG_CONFIG}" --cflags LumidexUtil)
+endif()
 # Qt's own headers are not ours to warn about.
 string(REGEX REPLACE "-I([^ ]*qt5)" "-isystem \\1" printed "${printed}")
 separate_arguments(package UNIX_COMMAND "${printed}")

@@ -164,6 +164,14 @@ TEST_F(FullDisk, BeginsNothingWithoutRoomToFinishIt) {
   EXPECT_TRUE(journal_->Steps().empty());
 }
 
+/// Albums were accepted, and to undo that there was no room.
+TEST_F(FullDisk, AcceptsNoAlbumWithoutRoomToUndoIt) {
+  LUMIDEX_DISK_OR_SKIP(disk_);
+  disk_.Fill(500'000);
+  EXPECT_THROW(journal_->Albums().Run(QStringLiteral("accept"), {}), HostError);
+  EXPECT_TRUE(journal_->Steps().empty());
+}
+
 TEST_F(FullDisk, RenamesAndTakesItBack) {
   LUMIDEX_DISK_OR_SKIP(disk_);
   const std::vector<ioPath> photos = MakeMany(3, 10);
