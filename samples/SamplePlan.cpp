@@ -52,77 +52,32 @@ struct Occasion {
 
 using K = SceneKind;
 
-const Motifs kChristmas = {{K::ChristmasTree, 16.5, 22}, {K::ChristmasTree, 8, 11},
-                           {K::SnowVillage, 15.5, 18.5}, {K::Coffee, 9, 11},
-                           {K::SnowVillage, 10, 14},     {K::Forest, 11, 14}};
+const Motifs kChristmas = {
+    {K::ChristmasTree, 16.5, 22}, {K::ChristmasTree, 8, 11}, {K::Houses, 15.5, 18.5}, {K::Lake, 10, 14}};
 const Motifs kNewYear = {{K::Fireworks, 22.5, 23.95, 0}, {K::City, 19.5, 22.3, 0},
                          {K::ChristmasTree, 17, 21, 0},  {K::Fireworks, 0.02, 0.7, 1},
-                         {K::SnowVillage, 11, 15, 1},    {K::Coffee, 9.5, 11, 1}};
-const Motifs kHalloween = {
-    {K::Pumpkins, 17, 22}, {K::Pumpkins, 12, 15.5}, {K::Forest, 14, 16.5}, {K::Pumpkins, 18, 21}};
-const Motifs kSummerParty = {{K::Fireworks, 21.4, 22.9},
-                             {K::Cake, 15, 17},
-                             {K::People, 19, 20.3},
-                             {K::Beach, 11, 16},
-                             {K::Fireworks, 21.6, 22.8}};
-const Motifs kValentine = {{K::Roses, 9, 20}, {K::Coffee, 9, 15}, {K::City, 18.3, 21}, {K::Roses, 11, 18}};
-const Motifs kBirthday = {{K::Cake, 15, 20}, {K::Cake, 16, 19}, {K::People, 18.5, 20}};
-const Motifs kFlowerDay = {{K::Flowers, 9, 17}, {K::Roses, 9, 18}, {K::Coffee, 10, 15}, {K::Flowers, 11, 16}};
-const Motifs kSpring = {
-    {K::Flowers, 10, 17}, {K::Hills, 9, 18}, {K::Houses, 11, 17}, {K::Coffee, 9, 11}, {K::Forest, 10, 16}};
-const Motifs kSummer = {{K::Beach, 10, 19.5},  {K::Balloons, 6, 9}, {K::Hills, 9, 19},
-                        {K::People, 19, 20.4}, {K::Flowers, 9, 17}, {K::Lake, 8, 20}};
-const Motifs kAutumn = {
-    {K::Forest, 9, 16}, {K::Hills, 10, 18.4}, {K::Houses, 13, 18.5}, {K::Coffee, 14, 16}, {K::Lake, 9, 18.5}};
-const Motifs kWinter = {
-    {K::SnowVillage, 9, 17.5}, {K::Mountains, 10, 16}, {K::Coffee, 14, 16}, {K::Forest, 10, 15}};
+                         {K::Lake, 11, 15, 1},           {K::Houses, 9.5, 11, 1}};
+const Motifs kHalloween = {{K::Houses, 17, 22}, {K::Houses, 12, 15.5}, {K::City, 18, 21}};
+const Motifs kSummerParty = {
+    {K::Fireworks, 21.4, 22.9}, {K::Flowers, 15, 17}, {K::Beach, 11, 16}, {K::Fireworks, 21.6, 22.8}};
+const Motifs kValentine = {{K::Roses, 9, 20}, {K::City, 18.3, 21}, {K::Roses, 11, 18}};
+const Motifs kBirthday = {{K::Roses, 15, 20}, {K::Flowers, 10, 18}};
+const Motifs kFlowerDay = {{K::Flowers, 9, 17}, {K::Roses, 9, 18}};
+const Motifs kSpring = {{K::Flowers, 10, 17}, {K::Houses, 11, 17}, {K::Lake, 9, 18}};
+const Motifs kSummer = {{K::Beach, 10, 19.5}, {K::Flowers, 9, 17}, {K::Lake, 8, 20}};
+const Motifs kAutumn = {{K::Lake, 9, 18.4}, {K::Houses, 13, 18.5}, {K::City, 10, 18}};
+const Motifs kWinter = {{K::Lake, 10, 16}, {K::Houses, 9, 17.5}, {K::City, 15, 18}};
 
 const std::vector<Place>& Places() {
   static const std::vector<Place> places = {
-      {"Lisbon",
-       38.7139,
-       -9.1334,
-       60,
-       {{K::Houses, 9, 19}, {K::City, 18, 21.5}, {K::Beach, 10, 17}, {K::Coffee, 9, 11}}},
-      {"Cape Town",
-       -33.9249,
-       18.4241,
-       25,
-       {{K::Beach, 9, 19}, {K::Mountains, 9, 19}, {K::People, 18.6, 20}, {K::Hills, 9, 18}}},
-      {"Tokyo",
-       35.6762,
-       139.6503,
-       40,
-       {{K::City, 17.5, 22.8}, {K::Flowers, 10, 16}, {K::Forest, 9, 15}, {K::City, 10, 15}}},
-      {"Rio de Janeiro",
-       -22.9068,
-       -43.1729,
-       15,
-       {{K::Beach, 8, 20}, {K::Mountains, 9, 18}, {K::City, 19, 22}}},
-      {"Tromsø",
-       69.6492,
-       18.9553,
-       10,
-       {{K::Aurora, 20.5, 23.5}, {K::Mountains, 10, 15}, {K::SnowVillage, 12, 17}}},
+      {"Lisbon", 38.7139, -9.1334, 60, {{K::Houses, 9, 19}, {K::City, 18, 21.5}, {K::Beach, 10, 17}}},
+      {"Cape Town", -33.9249, 18.4241, 25, {{K::Beach, 9, 19}, {K::Lake, 9, 19}, {K::City, 18.6, 20}}},
+      {"Tokyo", 35.6762, 139.6503, 40, {{K::City, 17.5, 22.8}, {K::Flowers, 10, 16}, {K::City, 10, 15}}},
+      {"Rio de Janeiro", -22.9068, -43.1729, 15, {{K::Beach, 8, 20}, {K::Lake, 9, 18}, {K::City, 19, 22}}},
+      {"Tromsø", 69.6492, 18.9553, 10, {{K::Lake, 10, 15}, {K::Houses, 12, 17}}},
       {"San Francisco", 37.8083, -122.4156, 12, {{K::City, 9, 22}, {K::Beach, 16, 20}, {K::Houses, 10, 18}}},
-      {"Cappadocia",
-       38.6431,
-       34.8289,
-       1100,
-       {{K::Balloons, 5.8, 8.5}, {K::Hills, 9, 18.6}, {K::Coffee, 9, 11}}},
-      {"Interlaken",
-       46.6863,
-       7.8632,
-       570,
-       {{K::Lake, 8, 20}, {K::Mountains, 8, 19}, {K::Hills, 9, 17}, {K::Forest, 9, 15}}},
-      {"Amsterdam", 52.3728, 4.8936, 2, {{K::Houses, 9, 21.5}, {K::Flowers, 10, 16}, {K::Coffee, 9, 15}}},
-      {"El Chaltén", -49.3315, -72.8863, 405, {{K::Mountains, 7, 20}, {K::Lake, 8, 20}, {K::Forest, 9, 16}}},
-      {"Sydney", -33.8568, 151.2153, 8, {{K::City, 9, 22}, {K::Beach, 8, 18}, {K::People, 18.5, 20}}},
-      {"Kyoto",
-       35.0116,
-       135.7681,
-       50,
-       {{K::Forest, 8, 16}, {K::Flowers, 9, 16}, {K::Houses, 12, 19}, {K::Lake, 9, 17}}},
+      {"Interlaken", 46.6863, 7.8632, 570, {{K::Lake, 8, 20}, {K::Flowers, 9, 17}, {K::Houses, 9, 15}}},
+      {"Sydney", -33.8568, 151.2153, 8, {{K::City, 9, 22}, {K::Beach, 8, 18}}},
   };
   return places;
 }

@@ -14,9 +14,8 @@ using ScenePainter = void (*)(Stage&);
 
 // In the order of SceneKind.
 constexpr std::array<ScenePainter, kSceneKinds> kPainters = {
-    PaintMountains, PaintLake,          PaintAurora,      PaintBeach,    PaintHills,  PaintBalloons,
-    PaintForest,    PaintFlowers,       PaintSnowVillage, PaintCity,     PaintHouses, PaintCoffee,
-    PaintPeople,    PaintChristmasTree, PaintFireworks,   PaintPumpkins, PaintCake,   PaintRoses,
+    PaintLake,   PaintBeach,         PaintFlowers,   PaintCity,
+    PaintHouses, PaintChristmasTree, PaintFireworks, PaintRoses,
 };
 
 QImage Shake(const QImage& still, const SceneLook& look) {

@@ -8,31 +8,12 @@
 namespace Zenvora::Lumidex::Host {
 
 /// What a drawn picture shows.
-enum class SceneKind {
-  Mountains,
-  Lake,
-  Aurora,
-  Beach,
-  Hills,
-  Balloons,
-  Forest,
-  Flowers,
-  SnowVillage,
-  City,
-  Houses,
-  Coffee,
-  People,
-  ChristmasTree,
-  Fireworks,
-  Pumpkins,
-  Cake,
-  Roses,
-};
-constexpr int kSceneKinds = 18;
+enum class SceneKind { Lake, Beach, Flowers, City, Houses, ChristmasTree, Fireworks, Roses };
+constexpr int kSceneKinds = 8;
 
 /// All that a picture depends on. Equal looks give equal pixels.
 struct SceneLook {
-  SceneKind kind = SceneKind::Hills;
+  SceneKind kind = SceneKind::Lake;
   /// Of everything that stands or lies in the scene.
   std::uint32_t seed = 0;
   /// Local time, 0..24, for the light.

@@ -87,23 +87,13 @@ void PaintLeafTree(QPainter& painter, Dice& dice, double x, double base, double 
 void PaintBokeh(Stage& stage, int count, double top, double bottom, double firstHue, double lastHue,
                 double strength);
 
-void PaintMountains(Stage& stage);
 void PaintLake(Stage& stage);
-void PaintAurora(Stage& stage);
 void PaintBeach(Stage& stage);
-void PaintHills(Stage& stage);
-void PaintBalloons(Stage& stage);
-void PaintForest(Stage& stage);
 void PaintFlowers(Stage& stage);
-void PaintSnowVillage(Stage& stage);
 void PaintCity(Stage& stage);
 void PaintHouses(Stage& stage);
-void PaintCoffee(Stage& stage);
-void PaintPeople(Stage& stage);
 void PaintChristmasTree(Stage& stage);
 void PaintFireworks(Stage& stage);
-void PaintPumpkins(Stage& stage);
-void PaintCake(Stage& stage);
 void PaintRoses(Stage& stage);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -77,7 +77,7 @@ const QImage& Other() {
 
 TEST(DescribePhoto, ReadsTheFormatsThatPhotosComeIn) {
   const TempTree tree;
-  const QImage scene = Scene(SceneKind::Hills);
+  const QImage scene = Scene(SceneKind::Lake);
   int read = 0;
   for (const char* format : {"jpg", "png", "tiff", "webp", "bmp"}) {
     if (!QImageReader::supportedImageFormats().contains(format)) {

@@ -197,7 +197,7 @@ TEST(PictureVerdict, IsAlikeForABurst) {
 }
 
 TEST(PictureVerdict, IsDifferentForOtherPictures) {
-  for (int kind = 3; kind < kSceneKinds; kind += 3) {
+  for (int kind = 1; kind < kSceneKinds; ++kind) {
     Expect(Verdict::Different, Photo(static_cast<SceneKind>(kind)), Photo(static_cast<SceneKind>(kind - 1)),
            std::to_string(kind));
   }
@@ -330,7 +330,7 @@ TEST_F(PictureVerdictFiles, AreComparedByTheirPixels) {
   const ioPath kept = Save(Photo(), "kept.jpg");
   JudgedAgainst against(kept);
   EXPECT_EQ(against.Judge(Save(Photo(), "copy.png", "PNG", -1)).verdict, Verdict::Same);
-  EXPECT_EQ(against.Judge(Save(Photo(SceneKind::Cake), "other.jpg")).verdict, Verdict::Different);
+  EXPECT_EQ(against.Judge(Save(Photo(SceneKind::Beach), "other.jpg")).verdict, Verdict::Different);
   EXPECT_EQ(against.Judge(tree_.Write("text.jpg", "no picture")).verdict, Verdict::Unknown);
   EXPECT_EQ(against.Judge(tree_.Path("missing.jpg")).verdict, Verdict::Unknown);
 }

@@ -147,7 +147,7 @@ TEST_F(SimilarJudging, KeepsAnOriginalAndNotWhatWasEnlargedFromIt) {
 }
 
 TEST_F(SimilarJudging, NeverKeepsWhatZerosWereWrittenInto) {
-  const QImage scene = Scene(SceneKind::City, 4, {800, 600});
+  const QImage scene = Scene(SceneKind::City, 1, {800, 600});
   AddPhoto("damaged.jpg", TestPictures::Overwritten(Encoded(scene, "JPEG", 95)));
   AddPhoto("whole.jpg", Encoded(scene.scaledToWidth(500, Qt::SmoothTransformation)));
   Update();
