@@ -1,6 +1,7 @@
 // As CheckTest.cpp, of the commands that leave the content of files alone: rename, import and the trash.
 #include "TruthFixture.h"
 
+#include <support/ImmutableFile.h>
 #include <support/LeftOut.h>
 
 #include <zenvora/core/FileState.h>
@@ -233,9 +234,55 @@ TEST_F(CheckTruthOfOthers, NeverOpensAPipe) {
   EXPECT_EQ(Findings(Check("import"), "text").count(In("pipe.jpg")), 1U);
 }
 
+TEST_F(CheckTruthOfOthers, SaysOfAnImmutableFileWhatARenameMakesOfIt) {
+  const ioPath photo = Photo("a.jpg");
+  Photo("b.jpg");
+  const QStringList words = {"rename", "--json", "--pattern", "R_{name}", "photos"};
+  {
+    const ImmutableFile closed(photo);
+    LUMIDEX_IMMUTABLE_OR_SKIP(closed);
+    const Sentences checked = Findings(Check("rename"), "text");
+    const auto before = Contents();
+    const Ran dry = Run(words + QStringList{"--dry-run"});
+    const Ran wet = Run(words);
+    EXPECT_EQ(checked, (Sentences{{photo.utf8string(),
+                                   "Cannot rename " + photo.utf8string() +
+                                       ": the system lets nobody move it; take its attribute \"immutable\" "
+                                       "away"}}));
+    EXPECT_EQ(Findings(dry.Json(), "cause"), checked);
+    EXPECT_EQ(Findings(wet.Json(), "cause"), checked);
+    EXPECT_EQ(dry.exitCode, 4);
+    EXPECT_EQ(wet.exitCode, 4);
+    EXPECT_EQ(Contents(), before);
+  }
+  EXPECT_EQ(Check("rename")["findings"].toArray().size(), 0);
+  EXPECT_EQ(Run(words).Json()["filesRenamed"].toInt(), 2);
+}
+
+TEST_F(CheckTruthOfTrash, SaysOfAnImmutableFileWhatTheTrashMakesOfIt) {
+  tree.Write("photos/b.jpg", ReadFile(Photo("a.jpg")));
+  Run({"scan", "photos"});
+  const auto planned = [this] {
+    return Run({"similar", "--json", "--trash", "--dry-run"}).Json()["trash"].toObject();
+  };
+  const PathSet goes = Paths(planned()["planned"].toArray(), "path");
+  ASSERT_EQ(goes.size(), 1U);
+  {
+    const ImmutableFile closed((ioPath(*goes.begin())));
+    LUMIDEX_IMMUTABLE_OR_SKIP(closed);
+    EXPECT_TRUE(ExpectOneTruthOfTrash().empty());
+    EXPECT_EQ(Paths(Check("trash")["findings"].toArray(), "path"), goes);
+    EXPECT_EQ(Paths(planned()["stays"].toArray(), "path"), goes);
+  }
+  EXPECT_EQ(Check("trash")["findings"].toArray().size(), 0);
+  EXPECT_EQ(ExpectOneTruthOfTrash(), goes);
+}
+
 #else
 
 LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CheckTruthOfOthers, NeverOpensAPipe, kNoPipesInFolders);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CheckTruthOfOthers, SaysOfAnImmutableFileWhatARenameMakesOfIt, kNotImmutable);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CheckTruthOfTrash, SaysOfAnImmutableFileWhatTheTrashMakesOfIt, kNotImmutable);
 
 #endif
 

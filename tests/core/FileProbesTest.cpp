@@ -1,3 +1,4 @@
+#include <support/ImmutableFile.h>
 #include <support/LeftOut.h>
 #include <support/Obstacles.h>
 #include <support/TempTree.h>
@@ -16,8 +17,6 @@
 #ifndef _WIN32
 #include <csignal>
 #include <fcntl.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -154,18 +153,12 @@ TEST(FileProbes, SeeWhatNobodyMayMove) {
   const ioPath file = tree.Write("a.jpg", "x");
   EXPECT_FALSE(IsImmutable(file));
   EXPECT_FALSE(IsImmutable(tree.Path("gone.jpg")));
-  const int handle = open(file.native().c_str(), O_RDONLY);
-  int flags = 0;
-  const bool readable = ioctl(handle, FS_IOC_GETFLAGS, &flags) == 0;
-  int closed = flags | FS_IMMUTABLE_FL;
-  if (!readable || ioctl(handle, FS_IOC_SETFLAGS, &closed) != 0) {
-    close(handle);
-    GTEST_SKIP() << "this user, or this file system, makes nothing immutable";
+  {
+    const Zenvora::Test::ImmutableFile closed(file);
+    LUMIDEX_IMMUTABLE_OR_SKIP(closed);
+    EXPECT_TRUE(IsImmutable(file));
   }
-  EXPECT_TRUE(IsImmutable(file));
-  EXPECT_EQ(ioctl(handle, FS_IOC_SETFLAGS, &flags), 0);
   EXPECT_FALSE(IsImmutable(file));
-  close(handle);
 }
 
 TEST(FileProbes, AskForAFileThatAServerLent) {

@@ -27,6 +27,7 @@ constexpr char kNamesAreText[] =
     "names of files are UTF-16 there: bytes that are not UTF-8 have no place in them";
 constexpr char kNoPipesInFolders[] = "pipes have a place of their own there, they cannot lie in a folder";
 constexpr char kNoSmallDisk[] = "nobody can make a small disk here";
+constexpr char kNotImmutable[] = "no file has the attribute \"immutable\" there";
 constexpr char kNoSizeLimit[] = "the limit of file sizes that stands for a full disk is a means of Linux";
 constexpr char kAccessLists[] =
     "folders are closed by access lists there, which the standard library does not set";
