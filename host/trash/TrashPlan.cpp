@@ -1,7 +1,6 @@
 #include "TrashBeside.h"
 #include "TrashFaults.h"
 
-#include <host/base/LinkSearch.h>
 #include <host/pixels/PictureEnd.h>
 #include <host/scan/FileVerdicts.h>
 #include <host/shots/ShotNames.h>
@@ -21,8 +20,6 @@
 namespace Zenvora::Lumidex::Host {
 
 namespace {
-
-using Identity = std::pair<std::uint64_t, std::uint64_t>;
 
 SeenFile KnownAs(const PhotoRecord& photo) {
   return {photo.path, photo.size, photo.modifiedNs};
@@ -124,8 +121,8 @@ class Planner {
     } else if (hasMore_ && hasMore_(photo, KeptOf(group).photo)) {
       Stay(photo.path,
            "it has tags or albums that the photo to keep, " + kept.utf8string() + ", does not have", true);
-    } else if (const ioPath link = LinkTo(state.identity); !link.empty()) {
-      Stay(photo.path, "the link " + link.utf8string() + " leads to it", true);
+    } else if (std::string linked = FindLinkFault(photo.path, state, Links()); !linked.empty()) {
+      plan_.stays.push_back({photo.path, std::move(linked), true, {}});
     } else if (IsRawName(photo.path.filename().utf8string())) {
       raws.insert(index);
     } else {
@@ -133,26 +130,18 @@ class Planner {
     }
   }
 
-  /// Somebody chose this file and no other of its group: a link in or below a folder of the photos. Empty:
-  /// none.
-  ioPath LinkTo(const Identity& file) {
+  /// In or below folders of the photos.
+  const LinkedFiles& Links() {
     if (!links_) {
-      links_.emplace();
       std::set<ioPath> folders;
       for (const SuggestedGroup& group : groups_) {
         for (const SimilarMember& member : group.group.members) {
           folders.insert(member.photo.path.parent_path());
         }
       }
-      for (const ioPath& link : FindLinks({}, {folders.begin(), folders.end()})) {
-        const FileState state = QueryFile(link);
-        if (state.kind == FileState::Kind::File && !Tavolin::LiesInTrash(link)) {
-          links_->emplace(state.identity, link);
-        }
-      }
+      links_ = FindLinkedFiles(folders);
     }
-    const auto link = links_->find(file);
-    return link == links_->end() ? ioPath() : link->second;
+    return *links_;
   }
 
   static PictureVerdict VerdictOf(const SuggestedGroup& group, std::size_t index) {
@@ -257,7 +246,7 @@ class Planner {
 
   void AddAttached(const TrashBeside& beside) {
     const FileState state = QueryFile(beside.file);
-    if (!GoesAlong(beside) || state.kind != FileState::Kind::File || !LinkTo(state.identity).empty()) {
+    if (!GoesAlong(beside) || state.kind != FileState::Kind::File || Links().count(state.identity) > 0) {
       return;
     }
     // With the last of them.
@@ -275,9 +264,9 @@ class Planner {
   const std::vector<SuggestedGroup>& groups_;
   const TrashChoice choice_;
   const HasMore& hasMore_;
-  std::set<Identity> kept_;
+  std::set<FileIdentity> kept_;
   /// Files to which links lead.
-  std::optional<std::map<Identity, ioPath>> links_;
+  std::optional<LinkedFiles> links_;
   std::unordered_map<ioPath, std::size_t> going_;
   TrashPlan plan_;
 };

@@ -1,11 +1,18 @@
+#include "TrashFaults.h"
+
 #include <host/base/HostError.h>
 #include <host/catalogue/CatalogueRows.h>
 #include <host/shots/ShotNames.h>
 #include <host/trash/TrashSteps.h>
 
+#include <zenvora/core/FileState.h>
+
 #include <algorithm>
 #include <exception>
+#include <optional>
+#include <set>
 #include <string>
+#include <utility>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -34,6 +41,36 @@ bool BelongsToWhatStays(const ioPath& file, const std::vector<FileFinding>& find
            return ShotKey(finding.file) == shot;
          });
 }
+
+/// What a step that is done again must look for once more: links may have been made since.
+class Links {
+ public:
+  explicit Links(const std::vector<TrashedFile>& files) {
+    std::set<ioPath> folders;
+    for (const TrashedFile& file : files) {
+      folders.insert(file.file.path.parent_path());
+      folders.insert(file.kept.parent_path());
+      if (const FileState kept = QueryFile(file.kept); kept.kind == FileState::Kind::File) {
+        kept_.insert(kept.identity);
+      }
+    }
+    linked_ = FindLinkedFiles(folders);
+  }
+
+  /// Why the file stays, as the plan of the first run would say; empty: nothing is in the way.
+  std::string FindFault(const ioPath& file) const {
+    const FileState state = QueryFile(file);
+    if (state.kind != FileState::Kind::File) {
+      return {};
+    }
+    return kept_.count(state.identity) > 0 ? Stays(file, "it is another name of a file that is kept")
+                                           : FindLinkFault(file, state, linked_);
+  }
+
+ private:
+  std::set<FileIdentity> kept_;
+  LinkedFiles linked_;
+};
 
 }  // namespace
 
@@ -113,6 +150,7 @@ UndoResult TrashSteps::Reverse(StepRow& step, bool redo, const std::atomic<bool>
   if (!redo) {
     std::reverse(files.begin(), files.end());
   }
+  const std::optional<Links> links = redo ? std::make_optional<Links>(files) : std::nullopt;
   std::size_t looked = 0;
   bool anyHope = false;
   for (TrashedFile& file : files) {
@@ -122,9 +160,13 @@ UndoResult TrashSteps::Reverse(StepRow& step, bool redo, const std::atomic<bool>
         anyHope = true;
         break;
       }
-      if (redo && file.state == State::Undone && BelongsToWhatStays(file.file.path, result.findings)) {
-        result.findings.push_back(
-            {file.file.path, file.file.path.utf8string() + " was kept, because its photo was kept"});
+      const bool isAtHome = redo && file.state == State::Undone;
+      std::string fault = !isAtHome ? std::string()
+                          : BelongsToWhatStays(file.file.path, result.findings)
+                              ? file.file.path.utf8string() + " was kept, because its photo was kept"
+                              : links->FindFault(file.file.path);
+      if (!fault.empty()) {
+        result.findings.push_back({file.file.path, std::move(fault)});
         anyHope = true;
         continue;
       }

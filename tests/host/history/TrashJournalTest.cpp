@@ -269,6 +269,33 @@ TEST_F(TrashJournal, LeavesALink) {
   EXPECT_TRUE(std::filesystem::is_symlink(Photo("a.jpg").native()));
 }
 
+/// Doing it again moved what a link led to by then, and what was the last name of a file to keep.
+TEST_F(TrashJournal, LooksForLinksWhenItIsDoneAgain) {
+  for (const char* const name : {"keep.jpg", "other.jpg", "a.jpg", "a.xmp", "b.jpg", "c.jpg"}) {
+    Make(name, name);
+  }
+  TrashPhoto first = Going("a.jpg");
+  first.attached = {Attached(Photo("a.xmp"))};
+  ASSERT_EQ(Move({first, Going("b.jpg", "other.jpg"), Going("c.jpg")}).files, 4U);
+  ASSERT_EQ(Undo().files, 4U);
+  tree_.MakeFolder("photos/best");
+  LUMIDEX_LINK_OR_SKIP(Photo("a.jpg"), Photo("best/favourite.jpg"));
+  ASSERT_TRUE(Photo("other.jpg").remove());
+  ASSERT_FALSE(AddName(Photo("c.jpg"), Photo("other.jpg")));
+
+  const UndoResult redone = Redo();
+  EXPECT_EQ(redone.files, 1U);
+  EXPECT_EQ(Photos().count("b.jpg"), 0U);
+  ASSERT_THAT(redone.findings, SizeIs(3));
+  EXPECT_EQ(redone.findings[0].cause, Photo("a.jpg").utf8string() + " is kept: the link " +
+                                          Photo("best/favourite.jpg").utf8string() + " leads to it.");
+  EXPECT_THAT(redone.findings[1].cause, HasSubstr("a.xmp was kept, because its photo was kept"));
+  EXPECT_THAT(redone.findings[2].cause,
+              HasSubstr("c.jpg is kept: it is another name of a file that is kept."));
+  EXPECT_EQ(Undo().files, 1U);
+  EXPECT_THAT(Photos(), SizeIs(6));
+}
+
 TEST_F(TrashJournal, KeepsWhatWasMovedBeforeAnInterruption) {
   for (const char* const name : {"keep.jpg", "a.jpg", "b.jpg", "c.jpg"}) {
     Make(name, name);
