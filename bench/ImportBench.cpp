@@ -128,7 +128,7 @@ ImportPlan PlanOf(Catalogue& catalogue, const ioPath& folder) {
   for (const std::size_t source : facts.fresh) {
     answers.files.push_back({source, true});
   }
-  LookAtFolder(facts, answers, nullptr);
+  LookAtFolder(facts, answers, catalogue.File(), nullptr);
   return PlanImport(facts, answers);
 }
 

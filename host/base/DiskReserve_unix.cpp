@@ -2,6 +2,7 @@
 
 #include <zenvora/core/ErrorText.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -41,6 +42,15 @@ class OpenFile {
 };
 
 }  // namespace
+
+std::uint64_t DiskReserve::Held() const {
+  constexpr std::uint64_t kBlock = 512;
+  struct stat facts = {};
+  return lstat(file_.native().c_str(), &facts) == 0
+             ? std::min(static_cast<std::uint64_t>(facts.st_size),
+                        static_cast<std::uint64_t>(facts.st_blocks) * kBlock)
+             : 0;
+}
 
 std::error_code DiskReserve::Hold(std::uint64_t bytes) const {
   const OpenFile file(file_);

@@ -35,6 +35,10 @@ class OpenFile {
 
 }  // namespace
 
+std::uint64_t DiskReserve::Held() const {
+  return Wanted();
+}
+
 std::error_code DiskReserve::Hold(std::uint64_t bytes) const {
   const OpenFile file(file_);
   // The size of a file is room that it has, here: there is none without the other.

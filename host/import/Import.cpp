@@ -5,6 +5,7 @@
 #include <host/base/FileCopy.h>
 #include <host/base/HostError.h>
 #include <host/import/Import.h>
+#include <host/journal/JournalFolder.h>
 
 #include <zenvora/app/Application.h>
 #include <zenvora/app/ISettingsManager.h>
@@ -90,6 +91,7 @@ class ImportRun {
   bool Goes() const { return !IsCancelled() && result_.stopped.empty(); }
 
   void CopyAll() {
+    HoldRoom();
     staging_.emplace(plan_.folder);
     std::error_code error;
     const ioPath folder = plan_.folder.canonical(error);
@@ -120,6 +122,14 @@ class ImportRun {
     verifiers_.reset();
     records_.reset();
     staging_.reset();
+  }
+
+  void HoldRoom() const {
+    std::uint64_t bytes = 0;
+    for (const ImportCopy& copy : plan_.copies) {
+      bytes += BytesToUndo(copy.source, copy.target);
+    }
+    JournalFolder::HoldBeside(catalogue_.File().absolute(), bytes);
   }
 
   /// As the library does when it is told to copy: the next import begins there.

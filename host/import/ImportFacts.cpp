@@ -4,6 +4,8 @@
 #include <LumidexUtil/CheckSaveAvailable.h>
 #include <host/base/FolderEntries.h>
 #include <host/import/ImportFacts.h>
+#include <host/import/ImportRows.h>
+#include <host/journal/JournalFolder.h>
 #include <host/shots/ShotNames.h>
 
 #include <zenvora/core/FileState.h>
@@ -12,6 +14,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdint>
 #include <optional>
 #include <set>
 #include <system_error>
@@ -189,7 +192,8 @@ void LookAtSources(ImportFacts& facts, const std::vector<PhotoRecord>& photos,
   facts.interrupted = IsCancelled(cancel);
 }
 
-void LookAtFolder(ImportFacts& facts, const ImportAnswers& answers, const std::atomic<bool>* cancel) {
+void LookAtFolder(ImportFacts& facts, const ImportAnswers& answers, const ioPath& catalogue,
+                  const std::atomic<bool>* cancel) {
   std::unordered_set<std::size_t> toCopy;
   for (const ImportAnswers::File& file : answers.files) {
     if (file.copy) {
@@ -201,9 +205,13 @@ void LookAtFolder(ImportFacts& facts, const ImportAnswers& answers, const std::a
     toCopy.erase(known.source);
   }
   CopyFolder& folder = facts.folder;
+  std::uint64_t bytesToUndo = 0;
   for (const std::size_t i : toCopy) {
-    if (LiesIn(answers.folder, facts.sources.files[i].path)) {
+    const ioPath& path = facts.sources.files[i].path;
+    if (LiesIn(answers.folder, path)) {
       folder.holds.insert(i);
+    } else {
+      bytesToUndo += BytesToUndo(path, answers.folder / path.filename());
     }
   }
   if (folder.holds.size() < toCopy.size()) {
@@ -213,6 +221,7 @@ void LookAtFolder(ImportFacts& facts, const ImportAnswers& answers, const std::a
     }
     folder.ignoresCase = IgnoresCase(answers.folder, folder.names);
     folder.obstacle = FindObstacle(answers.folder, folder);
+    facts.journalObstacle = JournalFolder::FindRoomFault(catalogue.absolute(), bytesToUndo);
   }
   facts.interrupted = IsCancelled(cancel);
 }

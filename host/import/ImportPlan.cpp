@@ -110,6 +110,9 @@ class Planner {
                        std::to_string(plan_.bytes) + " bytes are needed, " + std::to_string(free) +
                        " are free.";
     }
+    if (plan_.obstacle.empty() && !facts_.journalObstacle.empty()) {
+      plan_.obstacle = facts_.journalObstacle + ".";
+    }
   }
 
   /// What the user wants to be elsewhere afterwards, unless he said otherwise.

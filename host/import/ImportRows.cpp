@@ -25,6 +25,12 @@ void DeleteStep(const CatalogueDatabase& database, qlonglong step) {
 
 }  // namespace
 
+std::uint64_t BytesToUndo(const ioPath& source, const ioPath& target) {
+  constexpr std::uint64_t kNumbersAndFolderOfTrash = 512;
+  // Long rows leave the pages of the table half empty.
+  return 2 * (kNumbersAndFolderOfTrash + source.utf8string().size() + 3 * target.utf8string().size());
+}
+
 qlonglong ImportRows::Note(qlonglong step, const ioPath& folder,
                            const std::vector<ImportedCopy>& copies) const {
   WriteTransaction transaction(database_);

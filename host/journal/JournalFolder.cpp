@@ -6,6 +6,7 @@
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/PrivateFiles.h>
+#include <zenvora/qtutility/DiskQuestions.h>
 
 #include <algorithm>
 #include <chrono>
@@ -18,6 +19,8 @@ namespace {
 
 constexpr std::chrono::milliseconds kBusyPause(50);
 constexpr int kBusyAttempts = 40;
+/// Who does not need the journal itself waits for those only that look at it for a moment.
+constexpr int kBusyAttemptsBeside = 4;
 
 const char* const kLockName = "lock";
 const char* const kReserveName = "reserve";
@@ -26,16 +29,84 @@ const char* const kReserveName = "reserve";
 /// what a change adds to the tables.
 constexpr std::uint64_t kOwnBytes = std::uint64_t{1} << 20U;
 
+std::string Unusable(const ioPath& folder, const std::string& cause) {
+  return "The undo journal " + folder.utf8string() + " cannot be used: " + cause;
+}
+
 [[noreturn]] void Fail(const ioPath& folder, const std::string& cause) {
-  ThrowHostError(folder.utf8string(),
-                 "The undo journal " + folder.utf8string() + " cannot be used: " + cause);
+  ThrowHostError(folder.utf8string(), Unusable(folder, cause));
+}
+
+std::string NoRoom(std::uint64_t bytes, const std::error_code& error) {
+  return "no step is started without " + std::to_string((bytes >> 20U) + 1) +
+         " MiB free for finishing and undoing it (" + ErrorText(error) + ")";
+}
+
+/// How much is held in the end: what former steps need, too.
+std::uint64_t WholeRoom(const DiskReserve& reserve, std::uint64_t undo) {
+  return std::max(kOwnBytes + undo, reserve.Wanted());
+}
+
+std::error_code TakePatiently(ProcessLock& lock, const ioPath& file, int attempts) {
+  std::error_code error = lock.Take(file);
+  for (int i = 1; error == std::errc::resource_unavailable_try_again && i < attempts; ++i) {
+    App::SleepFor(kBusyPause);
+    error = lock.Take(file);
+  }
+  return error;
+}
+
+void MakeFolder(const ioPath& folder) {
+  if (const std::error_code error = MakePrivateFolders(folder)) {
+    Fail(folder, ErrorText(error));
+  }
+}
+
+/// Also a folder that a former program made. Where somebody else owns it, it is theirs to open or to close.
+void CloseToOthers(const ioPath& folder) {
+  MakePrivate(folder);
+  MakePrivate(folder / kLockName);
 }
 
 }  // namespace
 
-std::uint64_t JournalFolder::RoomToBegin(const ioPath& catalogue) {
-  const std::uint64_t held = DiskReserve(UndoFolderOf(catalogue) / kReserveName).Wanted();
-  return held < kOwnBytes ? kOwnBytes - held : 0;
+std::uint64_t JournalFolder::RoomToBegin(const ioPath& catalogue, std::uint64_t undo) {
+  const DiskReserve reserve(UndoFolderOf(catalogue) / kReserveName);
+  const std::uint64_t whole = WholeRoom(reserve, undo);
+  return whole - std::min(whole, reserve.Held());
+}
+
+std::string JournalFolder::FindRoomFault(const ioPath& catalogue, std::uint64_t undo) {
+  const ioPath folder = UndoFolderOf(catalogue);
+  const std::int64_t free = Util::GetAvailableDiskSpace(folder);
+  if (free < 0 || RoomToBegin(catalogue, undo) <= static_cast<std::uint64_t>(free)) {
+    return {};
+  }
+  return Unusable(folder, NoRoom(WholeRoom(DiskReserve(folder / kReserveName), undo),
+                                 std::make_error_code(std::errc::no_space_on_device)));
+}
+
+void JournalFolder::HoldBeside(const ioPath& catalogue, std::uint64_t undo) {
+  const ioPath folder = UndoFolderOf(catalogue);
+  MakeFolder(folder);
+  ProcessLock lock;
+  if (const std::error_code error = TakePatiently(lock, folder / kLockName, kBusyAttemptsBeside)) {
+    const std::string fault = error == std::errc::resource_unavailable_try_again
+                                  ? FindRoomFault(catalogue, undo)
+                                  : Unusable(folder, ErrorText(error));
+    if (!fault.empty()) {
+      ThrowHostError(folder.utf8string(), fault);
+    }
+    return;
+  }
+  CloseToOthers(folder);
+  const DiskReserve reserve(folder / kReserveName);
+  const std::uint64_t before = reserve.Wanted();
+  const std::uint64_t whole = WholeRoom(reserve, undo);
+  if (const std::error_code error = reserve.Hold(whole)) {
+    before > 0 ? void(reserve.Hold(before)) : reserve.Remove();
+    Fail(folder, NoRoom(whole, error));
+  }
 }
 
 JournalFolder::JournalFolder(const ioPath& catalogue)
@@ -61,19 +132,12 @@ void JournalFolder::Open() {
   if (isOpen_) {
     return;
   }
-  if (const std::error_code error = MakePrivateFolders(folder_)) {
-    Fail(folder_, ErrorText(error));
-  }
+  MakeFolder(folder_);
   TakeLock();
 }
 
 void JournalFolder::TakeLock() {
-  std::error_code error = lock_.Take(folder_ / kLockName);
-  for (int i = 1; error == std::errc::resource_unavailable_try_again && i < kBusyAttempts; ++i) {
-    App::SleepFor(kBusyPause);
-    error = lock_.Take(folder_ / kLockName);
-  }
-  if (error) {
+  if (const std::error_code error = TakePatiently(lock_, folder_ / kLockName, kBusyAttempts)) {
     Fail(folder_,
          error == std::errc::resource_unavailable_try_again
              ? "another program is renaming or editing photos with it; try again when that has finished"
@@ -81,9 +145,7 @@ void JournalFolder::TakeLock() {
   }
   isOpen_ = true;
   needed_ = reserve_.Wanted() > 0;
-  // Also a folder that a former program made. Where somebody else owns it, it is theirs to open or to close.
-  MakePrivate(folder_);
-  MakePrivate(folder_ / kLockName);
+  CloseToOthers(folder_);
   const std::uint64_t wanted = reserve_.Wanted();
   copy_ = wanted > kOwnBytes ? wanted - kOwnBytes : 0;
   reserve_.Release();
@@ -92,8 +154,7 @@ void JournalFolder::TakeLock() {
 void JournalFolder::Hold(std::uint64_t more) {
   const std::uint64_t bytes = kOwnBytes + copy_ + more;
   if (const std::error_code error = reserve_.Hold(bytes)) {
-    Fail(folder_, "no step is started without " + std::to_string((bytes >> 20U) + 1) +
-                      " MiB free for finishing and undoing it (" + ErrorText(error) + ")");
+    Fail(folder_, NoRoom(bytes, error));
   }
 }
 

@@ -15,6 +15,7 @@ using testing::HasSubstr;
 #ifdef _WIN32
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenByCheckDryRunAndRunAlike, kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenBeforeItIsFull, kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullCatalogueDisk, BeginsNoImportThatCouldNotBeUndone, kNoSmallDisk);
 #else
 /// Photos on a disk of their own with little room.
 class FullPhotoDisk : public ChangeTest {
@@ -66,6 +67,50 @@ TEST_F(FullPhotoDisk, IsSeenBeforeItIsFull) {
   const Ran check = Run({"--catalogue", catalogue, "check", "--for", "rotate", "photos"});
   EXPECT_EQ(check.exitCode, 1);
   EXPECT_THAT(check.out, HasSubstr("free, but editing all photos needs"));
+}
+
+/// The catalogue on such a disk.
+class FullCatalogueDisk : public ChangeTest {
+ protected:
+  Ran Import(const QStringList& more = {}) const {
+    return Run(QStringList{"--catalogue", catalogue, "import", "photos", "--to", "copies"} + more);
+  }
+
+  SmallDisk disk_{tree.MakeFolder("small"), std::size_t{8} << 20U};
+  const QString catalogue = Text(tree.Path("small/c.sqlite"));
+};
+
+TEST_F(FullCatalogueDisk, BeginsNoImportThatCouldNotBeUndone) {
+  LUMIDEX_DISK_OR_SKIP(disk_);
+  Photo("a.jpg");
+  ASSERT_EQ(Run({"--catalogue", catalogue, "scan", "photos"}).exitCode, 0);
+  disk_.Fill(800'000);
+  const Ran edit = Run({"--catalogue", catalogue, "rotate", "right", "photos"});
+  EXPECT_EQ(edit.exitCode, 4);
+  const std::string sentence =
+      "The undo journal " + tree.Path("small/c.sqlite.undo").utf8string() +
+      " cannot be used: no step is started without 2 MiB free for finishing and undoing it (No space left on "
+      "device)";
+  EXPECT_THAT(edit.err, HasSubstr(sentence));
+  const Ran dry = Import({"--dry-run"});
+  EXPECT_EQ(dry.exitCode, 4);
+  EXPECT_THAT(dry.out, HasSubstr(sentence + ".\nNothing would be imported.\n"));
+  const Ran refused = Import();
+  EXPECT_EQ(refused.exitCode, 4);
+  EXPECT_THAT(refused.out, HasSubstr(sentence + ".\nNothing was imported.\n"));
+  EXPECT_FALSE(tree.Path("copies").exists());
+  EXPECT_THAT(Run({"--lang", "de", "--catalogue", catalogue, "import", "photos", "--to", "copies"}).out,
+              HasSubstr("ohne 2 MiB"));
+
+  // With so much more it is done, and undone in the room that was held for that.
+  disk_.Clear();
+  disk_.Fill(1'800'000);
+  const Ran done = Import();
+  EXPECT_EQ(done.exitCode, 0) << done.out << done.err;
+  disk_.Fill();
+  const Ran undone = Run({"--catalogue", catalogue, "undo"});
+  EXPECT_EQ(undone.exitCode, 0) << undone.out << undone.err;
+  EXPECT_THAT(undone.out, HasSubstr("1 copy is in the trash now."));
 }
 #endif
 

@@ -44,22 +44,6 @@ class SaysYes : public App::IAlerts {
   }
 };
 
-/// Looks, asks and plans as programs do.
-inline ImportPlan PlanOf(GatheredSources sources, const std::vector<PhotoRecord>& photos, bool copyAll,
-                         const std::atomic<bool>* cancel = nullptr) {
-  ImportFacts facts;
-  facts.sources = std::move(sources);
-  facts.copyAll = copyAll;
-  ImportAnswers answers;
-  if (AskReadable(facts, answers)) {
-    LookAtSources(facts, photos, cancel, nullptr);
-    if (AskCopies(facts, answers)) {
-      LookAtFolder(facts, answers, cancel);
-    }
-  }
-  return PlanImport(facts, answers);
-}
-
 /// A card with photos, a folder for copies and a catalogue, with settings of their own.
 class ImportTest : public testing::Test {
  protected:
@@ -87,6 +71,21 @@ class ImportTest : public testing::Test {
   }
   void CloseCatalogue() { catalogue_.reset(); }
 
+  /// Looks, asks and plans as programs do.
+  ImportPlan PlanOf(GatheredSources sources, const std::vector<PhotoRecord>& photos, bool copyAll,
+                    const std::atomic<bool>* cancel = nullptr) const {
+    ImportFacts facts;
+    facts.sources = std::move(sources);
+    facts.copyAll = copyAll;
+    ImportAnswers answers;
+    if (AskReadable(facts, answers)) {
+      LookAtSources(facts, photos, cancel, nullptr);
+      if (AskCopies(facts, answers)) {
+        LookAtFolder(facts, answers, tree.Path("data/catalogue.sqlite"), cancel);
+      }
+    }
+    return PlanImport(facts, answers);
+  }
   /// Plans as `lumidex import SOURCES --to copies` does.
   ImportPlan PlanTo(const std::vector<ioPath>& sources, const ioPath& folder) {
     const App::ServiceScope<App::IFolderDialog> dialog(std::make_shared<OneFolder>(folder));

@@ -137,7 +137,7 @@ class ImportCommand {
     if (Host::AskReadable(facts, answers)) {
       Compare(facts, photos);
       if (Host::AskCopies(facts, answers)) {
-        Host::LookAtFolder(facts, answers, &session_.interrupted);
+        Host::LookAtFolder(facts, answers, view_.catalogue, &session_.interrupted);
       }
     }
     if (answers.declined && !session_.interrupted && !questions.Unanswered().empty()) {
@@ -178,9 +178,10 @@ class ImportCommand {
         [&progress](const Host::ImportProgress& now) { progress.Update(now.files, now.totalFiles); });
   }
 
-  /// The step is written. Somebody who works with the journal meanwhile is no reason to wait.
+  /// The step is written; where there is none, the room that was held for it is given back. Somebody who
+  /// works with the journal meanwhile is no reason to wait.
   void LookAtJournal() {
-    if (view_.result.step == 0) {
+    if (view_.plan.copies.empty()) {
       return;
     }
     try {

@@ -1,10 +1,14 @@
+#include "FolderTrash.h"
 #include "JournalFixture.h"
 
 #include <host/base/DiskReserve.h>
+#include <host/import/Import.h>
 #include <host/journal/JournalRoom.h>
 #include <support/LeftOut.h>
 #include <support/SmallDisk.h>
 
+#include <zenvora/app/RealServices.h>
+#include <zenvora/app/Services.h>
 #include <zenvora/core/FileState.h>
 
 #include <functional>
@@ -24,6 +28,7 @@ TEST(DiskReserveTest, HoldsRoomAndGivesItBack) {
   EXPECT_TRUE(reserve.Release());
   EXPECT_FALSE(reserve.Release());
   EXPECT_FALSE(reserve.Hold(200'000));
+  EXPECT_EQ(reserve.Held(), 200'000U);
   EXPECT_FALSE(reserve.Hold(50'000));
   EXPECT_EQ(reserve.Wanted(), 50'000U);
   reserve.Remove();
@@ -35,6 +40,11 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, EditsWhatItCanAndTakesItBack, Zenvora::Tes
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, TakesBackPhotosOfAnotherVolume, Zenvora::Test::kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, GoesOnWithoutRedoWhereOthersTookTheRoom, Zenvora::Test::kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, BeginsNothingWithoutRoomToFinishIt, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, AcceptsNoAlbumWithoutRoomToUndoIt, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsNothingWithoutRoomToUndoIt, Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsBesideAnOpenJournalWhereThereIsRoom,
+                            Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsManyFilesAndTakesThemBack, Zenvora::Test::kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, RenamesAndTakesItBack, Zenvora::Test::kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, HoldsItsRoomBetweenRuns, Zenvora::Test::kNoSmallDisk);
 #else
@@ -71,6 +81,18 @@ class FullDisk : public Zenvora::Test::JournalTest {
           std::ofstream(staging.native(), std::ios::binary) << "edited";
         },
         never_, nullptr);
+  }
+
+  /// Copies that go to a folder of their own.
+  ImportResult Import(const ioPath& catalogue, const std::vector<ioPath>& sources) const {
+    const App::ServiceScope<App::ISettingsManager> settings(App::MakeIniSettings(tree_.Path("settings.ini")));
+    ImportPlan plan;
+    plan.folder = tree_.Path("copies");
+    for (const ioPath& source : sources) {
+      plan.copies.push_back({source, QueryFile(source), plan.folder / source.filename(), false});
+    }
+    Catalogue stored(catalogue, Catalogue::Mode::ReadWrite);
+    return RunImport(plan, stored, {}, nullptr);
   }
 
   static constexpr std::size_t kBytes = std::size_t{8} << 20U;
@@ -170,6 +192,52 @@ TEST_F(FullDisk, AcceptsNoAlbumWithoutRoomToUndoIt) {
   disk_.Fill(500'000);
   EXPECT_THROW(journal_->Albums().Run(QStringLiteral("accept"), {}), HostError);
   EXPECT_TRUE(journal_->Steps().empty());
+}
+
+/// Files were imported, and to undo that there was no room.
+TEST_F(FullDisk, ImportsNothingWithoutRoomToUndoIt) {
+  LUMIDEX_DISK_OR_SKIP(disk_);
+  Close();
+  disk_.Fill(500'000);
+  const ioPath source = Make("a.mp4", "video");
+  EXPECT_THROW(Import(catalogueHere_, {source}), HostError);
+  EXPECT_FALSE(tree_.Path("copies").exists());
+  OpenHere();
+  EXPECT_TRUE(journal_->Steps().empty());
+}
+
+/// Others have the journal: then it is enough that the room is there.
+TEST_F(FullDisk, ImportsBesideAnOpenJournalWhereThereIsRoom) {
+  LUMIDEX_DISK_OR_SKIP(disk_);
+  const ioPath source = Make("a.mp4", "video");
+  disk_.Fill(500'000);
+  EXPECT_THROW(Import(catalogueHere_, {source}), HostError);
+  disk_.Clear();
+  EXPECT_EQ(Import(catalogueHere_, {source}).copied, 1U);
+  Close();
+  disk_.Fill();
+  const Zenvora::Test::FolderTrash trash(tree_.MakeFolder("trash"));
+  UndoJournal journal(catalogueHere_, *locker_, trash);
+  EXPECT_EQ(journal.UndoLast(never_, nullptr).files, 1U);
+}
+
+/// A row in the catalogue for each copy that goes to the trash: more than what is held for any step.
+TEST_F(FullDisk, ImportsManyFilesAndTakesThemBack) {
+  Zenvora::Test::SmallDisk disk(tree_.MakeFolder("larger"), 4 * kBytes);
+  LUMIDEX_DISK_OR_SKIP(disk);
+  const ioPath catalogue = tree_.Path("larger/catalogue.sqlite");
+  const std::string deep = std::string(200, 'd') + '/' + std::string(200, 'e') + '/';
+  std::vector<ioPath> sources;
+  for (int i = 0; i < 900; ++i) {
+    sources.push_back(Make(deep + std::string(200, 'n') + std::to_string(i) + ".mp4", std::to_string(i)));
+  }
+  ASSERT_EQ(Import(catalogue, sources).copied, sources.size());
+  disk.Fill();
+  const Zenvora::Test::FolderTrash trash(tree_.MakeFolder("trash/" + deep));
+  UndoJournal journal(catalogue, *locker_, trash);
+  const UndoResult undone = journal.UndoLast(never_, nullptr);
+  EXPECT_EQ(undone.files, sources.size());
+  EXPECT_TRUE(undone.findings.empty()) << undone.findings[0].cause;
 }
 
 TEST_F(FullDisk, RenamesAndTakesItBack) {

@@ -367,21 +367,18 @@ TEST_F(ImportJournal, UndoNeedsNoRoomWhereTheCopiesLie) {
 }
 
 TEST_F(ImportJournal, NothingIsCopiedThatCannotBeNoted) {
-  const Zenvora::Test::SmallDisk disk(tree.MakeFolder("data"), std::size_t{4} << 20U);
+  Zenvora::Test::SmallDisk disk(tree.MakeFolder("data"), std::size_t{4} << 20U);
   LUMIDEX_DISK_OR_SKIP(disk);
   MakePhotos("card", 3);
   const ImportPlan plan = PlanTo({Card()});
-  {
-    std::ofstream filler(tree.Path("data/filler").native(), std::ios::binary);
-    filler << std::string(std::size_t{8} << 20U, 'f');
-  }
-  const ImportResult result = Carry(plan);
+  // Others take the room once it has begun.
+  const ImportResult result = RunImport(plan, Stored(), {}, [&disk](const ImportProgress&) { disk.Fill(); });
   EXPECT_THAT(result.stopped, HasSubstr("catalogue"));
   EXPECT_EQ(result.copied, 0U);
   EXPECT_THAT(result.missing, SizeIs(3));
   EXPECT_THAT(NamesIn(Copies()), IsEmpty());
   EXPECT_THAT(PartsIn(Copies()), IsEmpty());
-  tree.Path("data/filler").remove();
+  disk.Clear();
   EXPECT_EQ(Import().copied, 3U);
   EXPECT_EQ(Undo().files, 3U);
 }

@@ -138,7 +138,10 @@ TEST_F(ImportFactsTest, SaysThatThereIsNoRoom) {
   const App::ServiceScope<App::IDiskSpace> scope(disk);
   const ImportPlan plan = PlanTo({Card()});
   EXPECT_THAT(plan.obstacle, HasSubstr("not enough space"));
-  disk->otherwise = static_cast<std::int64_t>(plan.bytes);
+  const ioPath place = tree.MakeFolder("copies");
+  disk->free[place] = static_cast<std::int64_t>(plan.bytes);
+  EXPECT_THAT(PlanTo({Card()}).obstacle, HasSubstr("no step is started without 2 MiB free"));
+  disk->otherwise = 2'000'000;
   EXPECT_EQ(PlanTo({Card()}).obstacle, "") << "what just fits fits";
 }
 

@@ -18,6 +18,8 @@ class DiskReserve {
   std::error_code Hold(std::uint64_t bytes) const;
   /// Gives the room back. True when there was any.
   bool Release() const;
+  /// How much is held.
+  std::uint64_t Held() const;
   /// How much was to be held last, in whichever run; 0: never, or it was given back.
   std::uint64_t Wanted() const;
   void Remove() const;

@@ -63,18 +63,19 @@ struct ImportProgress {
 /// Called on the importing thread, at most about ten times a second, and once at the end.
 using ImportProgressHandler = std::function<void(const ImportProgress&)>;
 
-/// Carries out a plan whose outcome is `Ready`. Sources are only read. A copy is written into a hidden folder
-/// beside its place, waited for until it is on the disk, read back from there, compared with what was read
-/// from the source (SHA-256), and noted in the undo journal and in the list of copies; only then it gets its
-/// name, which nothing may have, and goes into the catalogue, some copies at a time. The copies of a run are
-/// one step of the journal; what is taken in where it lies is none. Content, time, permissions and noted
-/// attributes are kept. Before each copy the room is asked for again. What fails for one file is missing, and
-/// the others are copied; a full disk or a folder that takes no files ends the import.
+/// Carries out a plan whose outcome is `Ready`. Sources are only read. Before the first copy, room for
+/// undoing all of them is held beside the catalogue. A copy is written into a hidden folder beside its place,
+/// waited for until it is on the disk, read back from there, compared with what was read from the source
+/// (SHA-256), and noted in the undo journal and in the list of copies; only then it gets its name, which
+/// nothing may have, and goes into the catalogue, some copies at a time. The copies of a run are one step of
+/// the journal; what is taken in where it lies is none. Content, time, permissions and noted attributes are
+/// kept. Before each copy the room is asked for again. What fails for one file is missing, and the others are
+/// copied; a full disk or a folder that takes no files ends the import.
 ///
 /// A kill at any moment leaves whole, compared files under their names and nothing else that is seen; a plan
 /// made again then holds what is missing. A catalogue that fails ends the import, too. Throws `HostError`
-/// when another import works in the folder, nothing can be written there at all, or the catalogue fails and
-/// there is nothing to be copied.
+/// when there is no room for undoing it, another import works in the folder, nothing can be written there at
+/// all, or the catalogue fails and there is nothing to be copied.
 ImportResult RunImport(const ImportPlan& plan, Catalogue& catalogue, const ImportOptions& options,
                        const ImportProgressHandler& progress);
 

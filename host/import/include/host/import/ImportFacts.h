@@ -22,7 +22,7 @@ namespace Zenvora::Lumidex::Host {
 //   if (AskReadable(facts, answers)) {
 //     LookAtSources(facts, photos, cancel, progress);
 //     if (AskCopies(facts, answers)) {
-//       LookAtFolder(facts, answers, cancel);
+//       LookAtFolder(facts, answers, catalogue, cancel);
 //     }
 //   }
 //   const ImportPlan plan = PlanImport(facts, answers);
@@ -64,6 +64,8 @@ struct ImportFacts {
   /// Folders of sources, and of what is left, that can be pulled out; not looked for with `copyAll`.
   std::unordered_set<ioPath> removable;
   CopyFolder folder;
+  /// Why the import could not be undone, likewise, without a full stop.
+  std::string journalObstacle;
   bool interrupted = false;  ///< Not all was looked at.
 };
 
@@ -90,8 +92,9 @@ using ImportFactsProgress = std::function<void(std::uint64_t done, std::uint64_t
 void LookAtSources(ImportFacts& facts, const std::vector<PhotoRecord>& photos,
                    const std::atomic<bool>* cancel, const ImportFactsProgress& progress);
 
-/// Looks at the folder that was chosen: what was copied there before is known from now on. Makes nothing.
-/// Blocks on the disk.
-void LookAtFolder(ImportFacts& facts, const ImportAnswers& answers, const std::atomic<bool>* cancel);
+/// Looks at the folder that was chosen: what was copied there before is known from now on; and at the room
+/// beside the catalogue, which need not exist yet, for undoing the import. Makes nothing. Blocks on the disk.
+void LookAtFolder(ImportFacts& facts, const ImportAnswers& answers, const ioPath& catalogue,
+                  const std::atomic<bool>* cancel);
 
 }  // namespace Zenvora::Lumidex::Host

@@ -20,6 +20,10 @@ struct ImportedCopy {
   std::string sha256;  ///< 64 hexadecimal digits.
 };
 
+/// How many bytes undoing the import of a copy adds to the catalogue: a row with four paths, two of them in
+/// the trash.
+std::uint64_t BytesToUndo(const ioPath& source, const ioPath& target);
+
 /// What the journal knows of imports. An import works without the journal's lock, since two of them may go on
 /// at a time: its step begins with the first copies, in one transaction, and is under way as long as somebody
 /// holds the lock of the folder of copies.

@@ -6,6 +6,7 @@
 #include <zenvora/core/ioPath.h>
 
 #include <cstdint>
+#include <string>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -23,8 +24,14 @@ class JournalFolder {
   JournalFolder(const JournalFolder&) = delete;
   JournalFolder& operator=(const JournalFolder&) = delete;
 
-  /// How much more room than it holds by now it needs for beginning something.
-  static std::uint64_t RoomToBegin(const ioPath& catalogue);
+  /// How much more room than it holds by now it needs for beginning something; `undo`: bytes that undoing
+  /// adds to the tables.
+  static std::uint64_t RoomToBegin(const ioPath& catalogue, std::uint64_t undo = 0);
+  /// Why there is no such room, in one sentence; empty: there is, or the disk does not tell.
+  static std::string FindRoomFault(const ioPath& catalogue, std::uint64_t undo);
+  /// Holds that room for a step that is done without the journal, before it begins. Where another program
+  /// has the journal the room only has to be there: that program holds it in the end. Throws `HostError`.
+  static void HoldBeside(const ioPath& catalogue, std::uint64_t undo);
   /// Makes the folder and takes the lock where that has not been done.
   void Open();
   const ioPath& Path() const { return folder_; }
