@@ -110,6 +110,14 @@ JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, 
   return room;
 }
 
+std::vector<UndoStep> StepsToForget(const std::vector<UndoStep>& steps, const UndoLimits& limits) {
+  std::vector<UndoStep> beyond = StepsBeyond(steps, limits, 0);
+  beyond.erase(std::remove_if(beyond.begin(), beyond.end(),
+                              [](const UndoStep& step) { return step.givenUp || step.underWay; }),
+               beyond.end());
+  return beyond;
+}
+
 std::vector<UndoStep> ReadUndoSteps(const ioPath& catalogue, const std::vector<KindFacts>& kinds) {
   if (QueryFile(catalogue).kind == FileState::Kind::Missing) {
     return {};

@@ -147,6 +147,38 @@ TEST_F(UndoLimits, CountDaysOfUse) {
   EXPECT_EQ(Steps().size(), 1);
 }
 
+/// Lower limits forgot steps without a word, and for good.
+TEST_F(UndoLimits, AreNotLoweredBelowStepsWithoutConsent) {
+  const std::string before = ReadFile(PhotoOf("a.jpg", kBytes));
+  ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
+  ASSERT_EQ(Rename("x").exitCode, 0);
+  // That the command is run is a day of use more.
+  ChangeCatalogue(DefaultCatalogue(), "UPDATE days_of_use SET count = 5, last = '1999-01-01'");
+  for (const QStringList& limit : {QStringList{"--keep-days", "5"}, QStringList{"--keep-size", "30K"}}) {
+    const Ran refused = Run(QStringList{"undo"} + limit);
+    EXPECT_EQ(refused.exitCode, 4);
+    EXPECT_THAT(refused.err,
+                HasSubstr("Nothing was changed. Within these limits, undo would have to forget"));
+    EXPECT_THAT(refused.err, HasSubstr("  rotate right\n"));
+    EXPECT_THAT(refused.err, HasSubstr("--forget-older allows it.\n"));
+    EXPECT_EQ(Run(QStringList{"undo", "--json"} + limit).Json()["kind"].toString(),
+              QStringLiteral("undo-limit"));
+    EXPECT_EQ(Steps().size(), 2);
+    EXPECT_FALSE(tree.Path("config/lumidex/lumidex.ini").exists());
+  }
+  // What leaves a place for all of them needs no consent.
+  const Ran higher = Run({"undo", "--keep-size", "1G", "--keep-days", "6"});
+  EXPECT_EQ(higher.exitCode, 0) << higher.err;
+  EXPECT_EQ(higher.out, "Steps can be undone for 6 days of use, with up to 1 GiB of originals.\n");
+  EXPECT_EQ(Run({"undo", "--last", "2"}).exitCode, 0);
+  EXPECT_EQ(ReadFile(Photos() / "a.jpg"), before);
+
+  // What could be redone is named, too.
+  EXPECT_EQ(Run({"undo", "--keep-size", "0"}).exitCode, 4);
+  EXPECT_EQ(Run({"undo", "--keep-size", "0", "--forget-older", "--json"}).Json()["forgotten"].toInt(), 1);
+  EXPECT_EQ(Steps().size(), 1) << "a rename keeps nothing";
+}
+
 TEST_F(UndoLimits, ListStepsOfNoDate) {
   PhotoOf("a.jpg", kBytes);
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
@@ -188,11 +220,12 @@ TEST_F(UndoLimits, AreAskedAboutAtATerminal) {
   const std::string before = ReadFile(PhotoOf("b.jpg", kBytes));
   ASSERT_EQ(Run({"rotate", "right", "photos/a.jpg"}).exitCode, 0);
   Limit("60K");
-  const auto answer = [this](const char* typed) {
+  const auto answer = [this](const char* typed,
+                             const QStringList& command = {"rotate", "left", "photos/b.jpg"}) {
     const Terminal terminal(100);
     terminal.Type(typed);
     ProcessOnTerminal process(terminal, false, true);
-    Start(process, {"rotate", "left", "photos/b.jpg"});
+    Start(process, command);
     Ran ran = Finish(process);
     ran.err = terminal.Read();
     return ran;
@@ -210,6 +243,18 @@ TEST_F(UndoLimits, AreAskedAboutAtATerminal) {
   EXPECT_THAT(yes.out, HasSubstr("1 older step cannot be undone any more."));
   EXPECT_NE(ReadFile(Photos() / "b.jpg"), before);
   EXPECT_EQ(Steps().size(), 1);
+
+  const Ran kept = answer("n\n", {"undo", "--keep-size", "1K"});
+  EXPECT_EQ(kept.exitCode, 1) << kept.err;
+  EXPECT_THAT(kept.err, HasSubstr("Within these limits, undo would have to forget 1 older step:"));
+  EXPECT_THAT(kept.err, HasSubstr("  rotate left"));
+  EXPECT_EQ(kept.out,
+            "Nothing was changed. Steps can be undone for 90 days of use, with up to 60 KiB of originals.\n");
+  EXPECT_EQ(Steps().size(), 1);
+  const Ran forgotten = answer("y\n", {"undo", "--keep-size", "1K"});
+  EXPECT_EQ(forgotten.exitCode, 0) << forgotten.err;
+  EXPECT_THAT(forgotten.out, HasSubstr("1 KiB of originals. 1 older step cannot be undone any more."));
+  EXPECT_EQ(Steps().size(), 0);
 }
 
 TEST_F(UndoLimits, TellWhatWasDoneOnAFullDisk) {

@@ -265,13 +265,13 @@ TEST_F(UndoCommand, KeepsNoMoreThanTheLimits) {
   Photo("a.jpg");
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
   ASSERT_EQ(Run({"rotate", "right", "photos"}).exitCode, 0);
-  const Ran set = Run({"undo", "--keep-size", "1K", "--keep-days", "10"});
+  const Ran set = Run({"undo", "--keep-size", "1K", "--keep-days", "10", "--forget-older"});
   EXPECT_EQ(set.exitCode, 0);
   EXPECT_THAT(set.out, HasSubstr("Steps can be undone for 10 days of use, with up to 1 KiB of originals."));
   EXPECT_THAT(Settings(), HasSubstr("Days=10"));
   EXPECT_THAT(Settings(), HasSubstr("Size=1K"));
 
-  const QJsonObject none = Run({"undo", "--keep-size", "0", "--json"}).Json();
+  const QJsonObject none = Run({"undo", "--keep-size", "0", "--json", "--forget-older"}).Json();
   EXPECT_EQ(none["kind"].toString(), QStringLiteral("limits"));
   EXPECT_EQ(none["limits"].toObject()["days"].toInt(), 10);
   EXPECT_EQ(none["limits"].toObject()["bytes"].toInt(-1), 0);
@@ -291,7 +291,7 @@ TEST_F(UndoCommand, ForgetsOldSteps) {
   ChangeCatalogue(DefaultCatalogue(), "UPDATE days_of_use SET count = 366");
   EXPECT_EQ(Run({"undo", "--list", "--json"}).Json()["steps"].toArray()[0].toObject()["daysOfUse"].toInt(),
             366);
-  const Ran ran = Run({"undo", "--keep-days", "365"});
+  const Ran ran = Run({"undo", "--keep-days", "365", "--forget-older"});
   EXPECT_EQ(ran.exitCode, 0);
   EXPECT_EQ(ran.out,
             "Steps can be undone for 365 days of use, with up to 5 GiB of originals. 1 older step cannot be "
@@ -315,6 +315,8 @@ TEST_F(UndoCommand, RefusesLimitsAndNumbersThatMakeNoSense) {
                                                           {"undo", "--skip", "--list"},
                                                           {"undo", "--keep-days", "1", "--skip"},
                                                           {"undo", "--skip", "--keep-size", "1"},
+                                                          {"undo", "--forget-older"},
+                                                          {"undo", "--forget-older", "--last", "2"},
                                                           {"undo", "photos"},
                                                           {"redo", "--skip"},
                                                           {"redo", "--list"},

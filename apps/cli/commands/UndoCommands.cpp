@@ -7,7 +7,9 @@
 #include <cli/terminal/TerminalText.h>
 #include <cli/terminal/ValueTexts.h>
 #include <cli/terminal/Words.h>
+#include <cli/views/StepRoom.h>
 #include <cli/views/UndoView.h>
+#include <host/journal/JournalRoom.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -47,7 +49,8 @@ photos.
 "lumidex redo" does undone steps again, until something new is done. The
 originals of edited photos are kept beside the catalogue, by default for 90
 days of use (days on which steps are done or undone) and up to 5 GiB. If older
-steps must be forgotten for a new one, you are asked first.
+steps must be forgotten for a new one or for new limits, you are asked first;
+without a terminal, nothing is changed unless you give --forget-older.
 
 Examples:
   lumidex undo
@@ -56,12 +59,13 @@ Examples:
   lumidex undo --skip                    skip the last step for good
   lumidex undo --no-redo                 if the disk is full
   lumidex undo --keep-days 365 --keep-size 20G
-  lumidex undo --keep-size 0             keep no originals at all
+  lumidex undo --keep-size 0 --forget-older
+                                         keep no originals at all
 
-Exit codes: 0 done; 1 there is nothing to undo, or less than you asked for; 3
-some files were left as they are; 4 all files were left as they are, or the
-catalogue cannot be written; 130 interrupted, what was undone so far stays
-undone.)";
+Exit codes: 0 done; 1 there is nothing to undo, less than you asked for, or you
+answered no; 3 some files were left as they are; 4 all files were left as they
+are, steps beyond new limits may not be forgotten, or the catalogue cannot be
+written; 130 interrupted, what was undone so far stays undone.)";
 
 constexpr char kRedoDescription[] =
     "Redo what \"lumidex undo\" undid.\n"
@@ -87,6 +91,7 @@ struct UndoArguments {
   int last = 1;
   int keepDays = -1;
   std::string keepSize;
+  bool forgetOlder = false;
 
   bool SetsLimits() const { return keepDays >= 0 || !keepSize.empty(); }
 };
@@ -100,11 +105,12 @@ class UndoRun {
   }
 
   ExitCode Run() {
-    if (arguments_.SetsLimits()) {
-      StoreLimits(Wish());
-      view_.limits = StoredLimits(session_.console);
+    if (arguments_.forgetOlder && !arguments_.SetsLimits()) {
+      throw UsageError("--forget-older goes with --keep-days or --keep-size (see: lumidex help undo)");
     }
-    if (arguments_.list) {
+    if (arguments_.SetsLimits()) {
+      SetLimits();
+    } else if (arguments_.list) {
       view_.steps.emplace();
     } else if (arguments_.skip) {
       view_.skipped.emplace();
@@ -114,13 +120,13 @@ class UndoRun {
       // Looking needs no right to write. What was interrupted is finished where it can be.
       RecoverIfNeeded(session_);
       view_.steps = Host::ReadUndoSteps(view_.catalogue);
-    } else if (view_.catalogue.exists()) {
+    } else if (!view_.limits && view_.catalogue.exists()) {
       Work();
     }
     view_.recovered = session_.recovered;
     session_.output.Print(session_.globals.json ? UndoDocument(view_) : UndoText(view_));
     Note();
-    return view_.limits || view_.steps ? ExitCode::Done : Judge();
+    return view_.steps ? ExitCode::Done : Judge();
   }
 
  private:
@@ -133,11 +139,30 @@ class UndoRun {
     return wish;
   }
 
+  /// Stored is what is wished for once it is clear that nothing goes of which the person did not know.
+  void SetLimits() {
+    const LimitsWish wish = Wish();
+    const Host::UndoLimits limits = WishedLimits(wish, session_.console);
+    const bool isThere = view_.catalogue.exists();
+    std::vector<Host::UndoStep> beyond;
+    if (isThere) {
+      // With today counted as a day of use, and closed while that is asked.
+      beyond = Host::StepsToForget(OpenJournal(session_).Get().Steps(), limits);
+    }
+    view_.declined = !AgreeOnLimits(session_, beyond, arguments_.forgetOlder);
+    view_.interrupted = view_.declined && session_.interrupted;
+    if (!view_.declined) {
+      StoreLimits(wish);
+      if (isThere) {
+        view_.forgotten = OpenJournal(session_).Get().Prune(limits, beyond);
+      }
+    }
+    view_.limits = StoredLimits(session_.console);
+  }
+
   void Work() {
     std::optional<OpenJournal> journal(std::in_place, session_);
-    if (view_.limits) {
-      view_.forgotten = journal->ApplyLimits();
-    } else if (view_.skipped) {
+    if (view_.skipped) {
       if (const std::optional<Host::SkippedStep> step = journal->Get().SkipLast()) {
         view_.skipped->push_back(*step);
       }
@@ -218,6 +243,9 @@ class UndoRun {
     if (view_.interrupted) {
       return ExitCode::Interrupted;
     }
+    if (view_.limits) {
+      return view_.declined ? ExitCode::Findings : ExitCode::Done;
+    }
     bool anyFile = false;
     bool anyFinding = false;
     for (const Host::UndoResult& result : view_.done) {
@@ -297,6 +325,10 @@ void AddUndoCommand(CLI::App& program, Action& chosen) {
       ->excludes(last)
       ->excludes(list)
       ->excludes(skip);
+  command
+      ->add_flag("--forget-older", arguments->forgetOlder,
+                 "With --keep-days or --keep-size: forget steps beyond the new limits without asking.")
+      ->disable_flag_override();
   Choose(*command, arguments, chosen);
 }
 

@@ -49,10 +49,6 @@ std::size_t OpenJournal::Prune(const std::vector<Host::UndoStep>& announced) {
   }
 }
 
-std::size_t OpenJournal::ApplyLimits() {
-  return journal_->Prune(StoredLimits(session_.console));
-}
-
 bool OpenJournal::CanUndoLast() const {
   const std::vector<Host::UndoStep> steps = journal_->Steps();
   return !steps.empty() && !steps.front().undone && !steps.front().givenUp;

@@ -63,6 +63,14 @@ Host::UndoLimits StoredLimits(Console& console) {
   return limits;
 }
 
+Host::UndoLimits WishedLimits(const LimitsWish& wish, Console& console) {
+  Host::UndoLimits limits = StoredLimits(console);
+  std::string fault;
+  limits.days = wish.days.value_or(limits.days);
+  limits.bytes = ParseSize(wish.size, fault).value_or(limits.bytes);
+  return limits;
+}
+
 void StoreLimits(const LimitsWish& wish) {
   if (wish.days) {
     Store(kUndoDays, std::to_string(*wish.days));

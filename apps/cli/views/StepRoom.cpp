@@ -51,17 +51,17 @@ std::string ForgetsText(const Host::JournalRoom& room, bool beforehand) {
       {SizeText(room.needed), SizeText(room.limit), GroupDigits(room.forgotten.size())});
 }
 
-std::vector<std::string> StepLines(const Host::JournalRoom& room) {
+std::vector<std::string> StepLines(const std::vector<Host::UndoStep>& steps) {
   std::vector<std::string> lines;
-  for (const Host::UndoStep& step : room.forgotten) {
+  for (const Host::UndoStep& step : steps) {
     lines.push_back(WhenText(step) + "  " + StepText(step.name.toStdString()));
   }
   return lines;
 }
 
-std::string ForgottenText(const Host::JournalRoom& room, bool beforehand) {
-  std::string text = ForgetsText(room, beforehand) + '\n';
-  for (const std::string& line : StepLines(room)) {
+std::string WithLines(std::string text, const std::vector<Host::UndoStep>& steps) {
+  text += '\n';
+  for (const std::string& line : StepLines(steps)) {
     text += "  " + EscapeForTerminal(line) + '\n';
   }
   return text;
@@ -82,6 +82,20 @@ std::string TightText(const Host::JournalRoom& room) {
 std::string RaiseText(const Host::JournalRoom& room) {
   return Say(Words::tr("\"lumidex undo --keep-size %1\" makes room for all of them."),
              {LimitFor(room.total)});
+}
+
+/// False when the answer is no.
+bool MayForget(Session& session, const std::vector<Host::UndoStep>& steps, bool forgetOlder,
+               const std::string& what, const std::string& advice) {
+  if (steps.empty() || forgetOlder) {
+    return true;
+  }
+  if (!CanAsk()) {
+    throw Failure("undo-limit", Say(Words::tr("Nothing was changed.")) + ' ' + what, StepLines(steps),
+                  Say(Words::tr("--forget-older allows it.")) + (advice.empty() ? "" : ' ' + advice));
+  }
+  return Ask(session.console, WithLines(what, steps) + (advice.empty() ? "" : advice + '\n'),
+             Say(Words::tr("Forget them and continue? [y/N]")), session.interrupted);
 }
 
 }  // namespace
@@ -112,15 +126,15 @@ bool AgreeOnRoom(Session& session, const Host::JournalRoom& room, const RoomWish
   if (!room.Fits()) {
     throw Failure("undo-limit", Say(Words::tr("Nothing was changed.")) + ' ' + TooMuchText(room));
   }
-  if (room.forgotten.empty() || wish.forgetOlder) {
-    return true;
-  }
-  if (!CanAsk()) {
-    throw Failure("undo-limit", Say(Words::tr("Nothing was changed.")) + ' ' + ForgetsText(room, true),
-                  StepLines(room), Say(Words::tr("--forget-older allows it.")) + ' ' + RaiseText(room));
-  }
-  return Ask(session.console, ForgottenText(room, true) + RaiseText(room) + '\n',
-             Say(Words::tr("Forget them and continue? [y/N]")), session.interrupted);
+  return MayForget(session, room.forgotten, wish.forgetOlder, ForgetsText(room, true), RaiseText(room));
+}
+
+bool AgreeOnLimits(Session& session, const std::vector<Host::UndoStep>& forgotten, bool forgetOlder) {
+  return MayForget(session, forgotten, forgetOlder,
+                   Say(Words::tr("Within these limits, undo would have to forget %1 older steps:", nullptr,
+                                 Amount(forgotten.size())),
+                       {GroupDigits(forgotten.size())}),
+                   {});
 }
 
 std::string RoomText(const Host::JournalRoom& room, const RoomWish& wish) {
@@ -133,7 +147,7 @@ std::string RoomText(const Host::JournalRoom& room, const RoomWish& wish) {
   if (room.forgotten.empty()) {
     return TightText(room);
   }
-  return TightText(room) + ForgottenText(room, !wish.forgetOlder) +
+  return TightText(room) + WithLines(ForgetsText(room, !wish.forgetOlder), room.forgotten) +
          (wish.forgetOlder ? std::string() : Say(Words::tr("--forget-older allows it.")) + ' ') +
          RaiseText(room) + '\n';
 }

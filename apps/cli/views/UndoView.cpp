@@ -121,7 +121,8 @@ std::string SkippedText(const std::vector<SkippedStep>& steps) {
 
 std::string LimitsLine(const UndoView& view) {
   const std::string forgotten = ForgottenLine(view.forgotten);
-  return LimitsText(*view.limits) + (forgotten.empty() ? "\n" : ' ' + forgotten);
+  return (view.declined ? Say(Words::tr("Nothing was changed.")) + ' ' : std::string()) +
+         LimitsText(*view.limits) + (forgotten.empty() ? "\n" : ' ' + forgotten);
 }
 
 void WriteDone(JsonWriter& json, const std::vector<UndoResult>& results) {

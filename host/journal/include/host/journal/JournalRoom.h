@@ -41,6 +41,9 @@ struct JournalRoom {
 JournalRoom PlanRoom(const ioPath& catalogue, const std::vector<ioPath>& files, std::vector<UndoStep> steps,
                      const UndoLimits& limits);
 
+/// Of `steps`, the latest first, those that can be undone or redone and that the limits leave no place for.
+std::vector<UndoStep> StepsToForget(const std::vector<UndoStep>& steps, const UndoLimits& limits);
+
 /// All steps, the latest first, from a catalogue that need not be there, nor writable, nor of this version.
 /// `kinds`: all that its steps may be of. Throws `HostError`.
 std::vector<UndoStep> ReadUndoSteps(const ioPath& catalogue, const std::vector<KindFacts>& kinds);

@@ -29,8 +29,6 @@ class OpenJournal {
   /// it, and those that are too old, which is noted. A failure is only worth a warning: what was asked for is
   /// done. Returns how many of those announced are forgotten.
   std::size_t Prune(const std::vector<Host::UndoStep>& announced = {});
-  /// Forgets all that is beyond the limits. Returns how many steps cannot be undone any more.
-  std::size_t ApplyLimits();
   /// True when the step done last can be undone.
   bool CanUndoLast() const;
 

@@ -21,6 +21,9 @@ struct LimitsWish {
   std::string size;  ///< As `ParseSize` takes it.
 };
 
+/// The limits that would hold then.
+Host::UndoLimits WishedLimits(const LimitsWish& wish, Console& console);
+
 /// Stores it for all later runs. Throws `Failure` when the settings cannot be written.
 void StoreLimits(const LimitsWish& wish);
 

@@ -28,6 +28,9 @@ Host::JournalRoom RoomFor(Session& session, const std::vector<ioPath>& files, co
 /// the step alone is beyond the limit.
 bool AgreeOnRoom(Session& session, const Host::JournalRoom& room, const RoomWish& wish);
 
+/// The same for new limits, which leave no place for these steps. Does not ask when there are none.
+bool AgreeOnLimits(Session& session, const std::vector<Host::UndoStep>& forgotten, bool forgetOlder);
+
 /// For a dry run: whether `AgreeOnRoom` would throw.
 bool WouldBeRefused(const Host::JournalRoom& room, const RoomWish& wish);
 

@@ -25,6 +25,7 @@ struct UndoView {
   /// With `--keep-days` and `--keep-size`: what holds now, and how many steps were forgotten for it.
   std::optional<Host::UndoLimits> limits;
   std::size_t forgotten = 0;
+  bool declined = false;  ///< The person did not want steps forgotten: nothing was stored.
   std::vector<std::string> recovered;
 };
 
