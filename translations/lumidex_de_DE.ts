@@ -124,8 +124,8 @@
         <translation>die Datei ist größer als 2 GiB</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>die Datei ist größer als 16 MiB</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>die Datei ist größer als 4 MiB</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>das System lässt es von niemandem verschieben; nehmen Sie ihm das Attribut „immutable“</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>daneben liegt ein Link dieses Namens, der nicht mit umbenannt würde: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>hat kein Datum</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>hat kein lesbares Datum: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>ist zweimal angegeben</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 ist ein Link an eine andere Stelle, und durch Links wird beim Importieren nicht geschrieben. Entfernen Sie den Link und importieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 ist keine Datei, aber der Import führt dort eine. Entfernen Sie es und importieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 ist ein zweiter Name einer anderen Datei (ein harter Link), und in solche wird beim Importieren nicht geschrieben. Ersetzen Sie ihn durch eine Kopie oder entfernen Sie ihn und importieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>In %1 ist nicht genug Platz: %2 Bytes werden gebraucht, %3 sind frei.</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>wäre der Name zweier Fotos: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>wäre der Name zweier Dateien: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>ist der Name einer anderen Datei: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>ist der Name eines anderen Fotos oder seiner Begleitdatei: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>ist der Name eines Fotos, das sich nicht umbenennen lässt: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>enthält das Trennzeichen %1 für Ordner</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>enthält das Zeichen für unlesbare Zeichen</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>enthält das Zeichen %1</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>beginnt mit einem Punkt, der die Datei verbirgt</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>ist länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>bezeichnet ein Gerät von Windows</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>endet mit einem Punkt, den Windows weglässt</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>endet mit einem Leerzeichen, das Windows weglässt</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2911,20 @@ Die Fotos behalten Schlagwörter und Alben, die Dateien sind neu:</translation>
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1, %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>wäre der Name von %1 Foto: %2</numerusform>
+            <numerusform>wäre der Name von %1 Fotos: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>Innerhalb dieser Grenzen müsste %1 älterer Schritt vergessen werden:</numerusform>
+            <numerusform>Innerhalb dieser Grenzen müssten %1 ältere Schritte vergessen werden:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

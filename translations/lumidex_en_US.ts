@@ -124,8 +124,8 @@
         <translation>it is larger than 2 GiB</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>it is larger than 16 MiB</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>it is larger than 4 MiB</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>the system lets nobody move it; take its attribute &quot;immutable&quot; away</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>has a link of the same name beside it, which would not be renamed: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>has no date</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>has no readable date: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>is given twice</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 is no file, and imports keep one there. Remove it, then import again.</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 is not a folder.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>There is not enough space in %1: %2 bytes are needed, %3 are free.</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>would be the name of two photos: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>would be the name of two files: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>is the name of another file: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>is the name of another photo or its sidecar: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>is the name of a photo that cannot be renamed: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>holds a separator of folders %1</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>holds the sign for unreadable characters</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>holds a control character</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>holds the character %1</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>begins with a dot, which hides the file</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>is longer than %1 bytes</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>names a device of Windows</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>ends in a dot, which Windows drops</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>ends in a blank, which Windows drops</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2911,20 @@ The photos keep their tags and albums, the files are new:</translation>
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1, %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>would be the name of %1 photo: %2</numerusform>
+            <numerusform>would be the name of %1 photos: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>Within these limits, undo would have to forget %1 older step:</numerusform>
+            <numerusform>Within these limits, undo would have to forget %1 older steps:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -124,8 +124,8 @@
         <translation>es mayor de 2 GiB</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>es mayor de 16 MiB</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>es mayor de 4 MiB</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>el sistema no deja que nadie lo mueva; quítele el atributo «immutable»</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>al lado hay un enlace del mismo nombre que no se renombraría: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>no tiene fecha</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>no tiene ninguna fecha legible: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>se indicó dos veces</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 es un enlace a otro lugar, y al importar no se escribe a través de enlaces. Elimine el enlace y vuelva a importar.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 no es un archivo, y la importación guarda uno allí. Elimínelo y vuelva a importar.</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 es un segundo nombre de otro archivo (un enlace duro), y al importar no se escribe en tales archivos. Ponga una copia en su lugar, o elimínelo, y vuelva a importar.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 no es una carpeta.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>No hay sitio suficiente en %1: se necesitan %2 bytes y quedan %3.</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>sería el nombre de dos fotos: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>sería el nombre de dos archivos: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>es el nombre de otro archivo: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>es el nombre de otra foto o de su archivo auxiliar: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>es el nombre de una foto que no se puede renombrar: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>contiene el separador de carpetas %1</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>contiene el signo de los caracteres ilegibles</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>contiene un carácter de control</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>contiene el carácter %1</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>empieza por un punto, que oculta el archivo</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>tiene más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>designa un dispositivo de Windows</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>termina en un punto, que Windows suprime</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>termina en un espacio, que Windows suprime</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2911,20 @@ Las fotos conservan sus etiquetas y álbumes; los archivos son nuevos:</translat
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1, %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>sería el nombre de %1 foto: %2</numerusform>
+            <numerusform>sería el nombre de %1 fotos: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>Dentro de estos límites, habría que olvidar %1 paso anterior:</numerusform>
+            <numerusform>Dentro de estos límites, habría que olvidar %1 pasos anteriores:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

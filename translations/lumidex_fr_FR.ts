@@ -124,8 +124,8 @@
         <translation>il dépasse 2&#xa0;Gio</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>il dépasse 16&#xa0;Mio</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>il dépasse 4&#xa0;Mio</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>le système ne laisse personne le déplacer ; retirez-lui l’attribut « immutable »</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>à côté se trouve un lien du même nom, qui ne serait pas renommé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>n’a pas de date</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>n’a pas de date lisible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>est indiqué deux fois</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 est un lien vers un autre endroit, et l’importation n’écrit pas à travers les liens. Supprimez le lien, puis importez de nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 n’est pas un fichier, et l’importation en tient un à cet endroit. Supprimez-le, puis importez de nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 est un second nom d’un autre fichier (un lien physique), et l’importation n’écrit pas dans un tel fichier. Mettez une copie à sa place, ou supprimez-le, puis importez de nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 n’est pas un dossier.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>Il n’y a pas assez de place dans %1&#xa0;: %2&#xa0;octets nécessaires, %3&#xa0;libres.</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>serait le nom de deux photos&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>serait le nom de deux fichiers&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>est le nom d’un autre fichier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>est le nom d’une autre photo ou de son fichier annexe&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>est le nom d’une photo qui ne peut pas être renommée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>contient le séparateur de dossiers %1</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>contient le signe des caractères illisibles</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>contient un caractère de contrôle</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>contient le caractère %1</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>commence par un point, qui cache le fichier</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>dépasse %1&#xa0;octets</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>désigne un périphérique de Windows</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>se termine par un point, que Windows supprime</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>se termine par une espace, que Windows supprime</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2911,20 @@ Les photos gardent leurs mots-clés et leurs albums, les fichiers sont nouveaux&
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1, %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>serait le nom de %1&#xa0;photo&#xa0;: %2</numerusform>
+            <numerusform>serait le nom de %1&#xa0;photos&#xa0;: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>Dans ces limites, il faudrait oublier %1&#xa0;étape plus ancienne&#xa0;:</numerusform>
+            <numerusform>Dans ces limites, il faudrait oublier %1&#xa0;étapes plus anciennes&#xa0;:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -124,8 +124,8 @@
         <translation>supera 2 GiB</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>supera 16 MiB</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>supera 4 MiB</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>il sistema non permette a nessuno di spostarlo; tolga l’attributo «immutable»</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>accanto c’è un collegamento con lo stesso nome, che non sarebbe rinominato: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>non ha una data</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>non ha una data leggibile: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>è indicato due volte</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 è un collegamento verso un altro posto, e l’importazione non scrive attraverso i collegamenti. Rimuova il collegamento e importi di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 non è un file, e l’importazione ne tiene uno lì. Lo rimuova e importi di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 è un secondo nome di un altro file (un collegamento fisico), e l’importazione non scrive in file del genere. Metta una copia al suo posto, oppure lo rimuova, e importi di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 non è una cartella.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>Non c’è abbastanza spazio in %1: servono %2 byte, ne sono liberi %3.</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>sarebbe il nome di due foto: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>sarebbe il nome di due file: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>è il nome di un altro file: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>è il nome di un’altra foto o del suo file collaterale: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>è il nome di una foto che non si può rinominare: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>contiene il separatore di cartelle %1</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>contiene il segno dei caratteri illeggibili</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>contiene un carattere di controllo</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>contiene il carattere %1</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>inizia con un punto, che nasconde il file</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>supera %1 byte</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>indica un dispositivo di Windows</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>finisce con un punto, che Windows toglie</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>finisce con uno spazio, che Windows toglie</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2911,20 @@ Le foto mantengono i loro tag e album, i file sono nuovi:</translation>
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1, %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>sarebbe il nome di %1 foto: %2</numerusform>
+            <numerusform>sarebbe il nome di %1 foto: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>Entro questi limiti si dovrebbe dimenticare %1 passo più vecchio:</numerusform>
+            <numerusform>Entro questi limiti si dovrebbero dimenticare %1 passi più vecchi:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -124,8 +124,8 @@
         <translation>2 GiBを超えています</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>16 MiBを超えています</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>4 MiBを超えています</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>システムがだれにも移動を許していません。属性「immutable」を外してください</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>同じ名前のリンクがそばにあり、その名前は変更されません: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>日付がありません</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>読み取れる日付がありません: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>2回指定されています</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 は別の場所へのリンクです。取り込みではリンクを通して書き込みません。リンクを削除してから、もう一度取り込んでください。</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 はファイルではありません。取り込みではここにファイルを置きます。削除してから、もう一度取り込んでください。</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 は別のファイルの別名 (ハードリンク) です。取り込みではそのようなファイルに書き込みません。コピーに置き換えるか削除してから、もう一度取り込んでください。</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 はフォルダーではありません。</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>%1 に十分な空きがありません: 必要 %2 バイト、空き %3 バイト。</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>は写真2枚の名前になってしまいます: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>はファイル2個の名前になってしまいます: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>は別のファイルの名前です: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>は別の写真またはそのサイドカーの名前です: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>は名前を変更できない写真の名前です: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>にはフォルダーの区切り文字 %1 が含まれています</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>には読み取れない文字を表す記号が含まれています</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>には制御文字が含まれています</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>には文字 %1 が含まれています</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>はピリオドで始まるため、ファイルが隠れます</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>は%1バイトを超えています</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>はWindowsのデバイスの名前です</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>の末尾のピリオドはWindowsで取り除かれます</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>の末尾の空白はWindowsで取り除かれます</translation>
     </message>
 </context>
 <context>
@@ -2716,6 +2808,18 @@ The photos keep their tags and albums, the files are new:</source>
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1、%2%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>写真%1枚の名前になってしまいます: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>この上限の範囲では、以前の操作%1件を忘れる必要があります:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -124,8 +124,8 @@
         <translation>het bestand is groter dan 2 GiB</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>het bestand is groter dan 16 MiB</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>het bestand is groter dan 4 MiB</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>het systeem laat niemand het verplaatsen; verwijder het kenmerk ‘immutable’</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>ernaast staat een koppeling met dezelfde naam, die niet zou worden hernoemd: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>heeft geen datum</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>heeft geen leesbare datum: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>is twee keer opgegeven</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 is een koppeling naar een andere plaats, en bij het importeren wordt niet via koppelingen geschreven. Verwijder de koppeling en importeer opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 is geen bestand, en bij het importeren staat daar een bestand. Verwijder het en importeer opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 is een tweede naam van een ander bestand (een harde koppeling), en daarin wordt bij het importeren niet geschreven. Zet er een kopie voor in de plaats of verwijder het, en importeer opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 is geen map.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>Er is niet genoeg ruimte in %1: %2 bytes nodig, %3 vrij.</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>zou de naam van twee foto’s zijn: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>zou de naam van twee bestanden zijn: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>is de naam van een ander bestand: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>is de naam van een andere foto of het sidecarbestand daarvan: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>is de naam van een foto die niet kan worden hernoemd: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>bevat het scheidingsteken %1 voor mappen</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>bevat het teken voor onleesbare tekens</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>bevat een stuurteken</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>bevat het teken %1</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>begint met een punt, die het bestand verbergt</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>is langer dan %1 bytes</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>is de naam van een apparaat van Windows</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>eindigt op een punt, die Windows weglaat</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>eindigt op een spatie, die Windows weglaat</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2911,20 @@ De foto’s houden hun tags en albums, de bestanden zijn nieuw:</translation>
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1, %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>zou de naam van %1 foto zijn: %2</numerusform>
+            <numerusform>zou de naam van %1 foto’s zijn: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>Binnen deze grenzen zou %1 oudere stap moeten worden vergeten:</numerusform>
+            <numerusform>Binnen deze grenzen zouden %1 oudere stappen moeten worden vergeten:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -124,8 +124,8 @@
         <translation>é maior que 2 GiB</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>é maior que 16 MiB</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>é maior que 4 MiB</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>o sistema não permite que ninguém o mova; remova o atributo “immutable”</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>ao lado há um link com o mesmo nome, que não seria renomeado: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>não tem data</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>não tem uma data legível: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>foi indicado duas vezes</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 é um link para outro lugar, e a importação não grava através de links. Remova o link e importe de novo.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 não é um arquivo, e a importação mantém um ali. Remova-o e importe de novo.</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 é um segundo nome de outro arquivo (um link físico), e a importação não grava em arquivos assim. Ponha uma cópia no lugar dele, ou remova-o, e importe de novo.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 não é uma pasta.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>Não há espaço suficiente em %1: são necessários %2 bytes, há %3 livres.</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>seria o nome de duas fotos: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>seria o nome de dois arquivos: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>é o nome de outro arquivo: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>é o nome de outra foto ou do arquivo auxiliar dela: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>é o nome de uma foto que não pode ser renomeada: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>contém o separador de pastas %1</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>contém o sinal dos caracteres ilegíveis</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>contém um caractere de controle</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>contém o caractere %1</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>começa com um ponto, que oculta o arquivo</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>tem mais de %1 bytes</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>designa um dispositivo do Windows</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>termina com um ponto, que o Windows descarta</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>termina com um espaço, que o Windows descarta</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2911,20 @@ As fotos mantêm suas etiquetas e álbuns, os arquivos são novos:</translation>
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1, %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>seria o nome de %1 foto: %2</numerusform>
+            <numerusform>seria o nome de %1 fotos: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>Dentro destes limites, seria preciso esquecer %1 etapa mais antiga:</numerusform>
+            <numerusform>Dentro destes limites, seria preciso esquecer %1 etapas mais antigas:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -124,8 +124,8 @@
         <translation>файл больше 2 ГиБ</translation>
     </message>
     <message>
-        <source>it is larger than 16 MiB</source>
-        <translation>файл больше 16 МиБ</translation>
+        <source>it is larger than 4 MiB</source>
+        <translation>файл больше 4 МиБ</translation>
     </message>
     <message>
         <source>it was changed while it was read</source>
@@ -794,6 +794,98 @@
     <message>
         <source>the system lets nobody move it; take its attribute &quot;immutable&quot; away</source>
         <translation>система никому не разрешает его перемещать; снимите атрибут «immutable»</translation>
+    </message>
+    <message>
+        <source>has a link of the same name beside it, which would not be renamed: %1</source>
+        <translation>рядом есть ссылка с тем же именем, и она не была бы переименована: %1</translation>
+    </message>
+    <message>
+        <source>has no date</source>
+        <translation>нет даты</translation>
+    </message>
+    <message>
+        <source>has no readable date: %1</source>
+        <translation>нет читаемой даты: %1</translation>
+    </message>
+    <message>
+        <source>is given twice</source>
+        <translation>указано дважды</translation>
+    </message>
+    <message>
+        <source>%1 is a link to somewhere else, and imports do not write through links. Remove the link, then import again.</source>
+        <translation>%1 — ссылка на другое место, а при импорте через ссылки ничего не записывается. Удалите ссылку и повторите импорт.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, and imports keep one there. Remove it, then import again.</source>
+        <translation>%1 — не файл, а импорт хранит там файл. Удалите его и повторите импорт.</translation>
+    </message>
+    <message>
+        <source>%1 is a second name of another file (a hard link), and imports do not write to such. Put a copy of it in its place, or remove it, then import again.</source>
+        <translation>%1 — второе имя другого файла (жёсткая ссылка), а при импорте в такие файлы ничего не записывается. Замените его копией или удалите и повторите импорт.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 — не папка.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 bytes are needed, %3 are free.</source>
+        <translation>В %1 недостаточно места: нужно %2 байт, свободно %3.</translation>
+    </message>
+    <message>
+        <source>would be the name of two photos: %1</source>
+        <translation>стало бы именем двух фотографий: %1</translation>
+    </message>
+    <message>
+        <source>would be the name of two files: %1</source>
+        <translation>стало бы именем двух файлов: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another file: %1</source>
+        <translation>— имя другого файла: %1</translation>
+    </message>
+    <message>
+        <source>is the name of another photo or its sidecar: %1</source>
+        <translation>— имя другой фотографии или её сопроводительного файла: %1</translation>
+    </message>
+    <message>
+        <source>is the name of a photo that cannot be renamed: %1</source>
+        <translation>— имя фотографии, которую нельзя переименовать: %1</translation>
+    </message>
+    <message>
+        <source>holds a separator of folders %1</source>
+        <translation>содержит разделитель папок %1</translation>
+    </message>
+    <message>
+        <source>holds the sign for unreadable characters</source>
+        <translation>содержит знак нечитаемых символов</translation>
+    </message>
+    <message>
+        <source>holds a control character</source>
+        <translation>содержит управляющий символ</translation>
+    </message>
+    <message>
+        <source>holds the character %1</source>
+        <translation>содержит символ %1</translation>
+    </message>
+    <message>
+        <source>begins with a dot, which hides the file</source>
+        <translation>начинается с точки, которая скрывает файл</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>длиннее %1 байт</translation>
+    </message>
+    <message>
+        <source>names a device of Windows</source>
+        <translation>— имя устройства Windows</translation>
+    </message>
+    <message>
+        <source>ends in a dot, which Windows drops</source>
+        <translation>оканчивается точкой, которую Windows отбрасывает</translation>
+    </message>
+    <message>
+        <source>ends in a blank, which Windows drops</source>
+        <translation>оканчивается пробелом, который Windows отбрасывает</translation>
     </message>
 </context>
 <context>
@@ -2922,6 +3014,22 @@ The photos keep their tags and albums, the files are new:</source>
         <source>%1, %2 %3</source>
         <comment>copies; photos added; dry run</comment>
         <translation>%1, %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>would be the name of %1 photos: %2</source>
+        <translation>
+            <numerusform>стало бы именем %1 фотографии: %2</numerusform>
+            <numerusform>стало бы именем %1 фотографий: %2</numerusform>
+            <numerusform>стало бы именем %1 фотографий: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Within these limits, undo would have to forget %1 older steps:</source>
+        <translation>
+            <numerusform>В этих пределах пришлось бы забыть %1 более ранний шаг:</numerusform>
+            <numerusform>В этих пределах пришлось бы забыть %1 более ранних шага:</numerusform>
+            <numerusform>В этих пределах пришлось бы забыть %1 более ранних шагов:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

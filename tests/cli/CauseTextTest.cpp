@@ -32,6 +32,17 @@ TEST(CauseText, TranslatesCausesWithinCauses) {
   EXPECT_EQ(CauseText("a.jpg: b.jpg no longer exists."), "a.jpg: b.jpg gibt es nicht mehr.");
 }
 
+TEST(CauseText, KnowsWhyFilesKeepTheirNamesAndImportsDoNotBegin) {
+  const Host::InterfaceTexts german("de_DE");
+  EXPECT_EQ(CauseText("is the name of another file: b.jpg"), "ist der Name einer anderen Datei: b.jpg");
+  EXPECT_EQ(CauseText("has no readable date: It is empty"), "hat kein lesbares Datum: Die Datei ist leer");
+  EXPECT_EQ(CauseText("holds the character ?"), "enth\u00E4lt das Zeichen ?");
+  EXPECT_EQ(CauseText("/c/.lumidex-import is a link to somewhere else, and imports do not write through "
+                      "links. Remove the link, then import again."),
+            "/c/.lumidex-import ist ein Link an eine andere Stelle, und durch Links wird beim Importieren "
+            "nicht geschrieben. Entfernen Sie den Link und importieren Sie noch einmal.");
+}
+
 TEST(CauseText, NamesStepsInTheLanguage) {
   const Host::InterfaceTexts german("de_DE");
   EXPECT_EQ(CauseText("Interrupted undo of \"rename 2 photos\" is now complete."),

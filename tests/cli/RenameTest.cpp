@@ -456,6 +456,8 @@ TEST_F(RenameCommand, TellsOfOneNameForManyPhotosOnce) {
   EXPECT_THAT(ran.out, HasSubstr((Photos() / "same.jpg").utf8string() +
                                  "  would be the name of 25 photos: 10.jpg, 11.jpg, 12.jpg and 22 more\n"));
   EXPECT_THAT(ran.out, Not(HasSubstr("13.jpg")));
+  EXPECT_THAT(Rename("same", {"--lang", "de", "photos"}).out,
+              HasSubstr("  w\u00E4re der Name von 25 Fotos: 10.jpg, 11.jpg, 12.jpg und 22 weitere\n"));
   EXPECT_EQ(Rename("same", {"--json", "photos"}).Json()["problems"].toArray().size(), 25);
 }
 

@@ -156,7 +156,7 @@ std::string OutcomeText(const ImportView& view) {
     return Say(Words::tr("Nothing was imported.")) + '\n';
   }
   if (!plan.obstacle.empty()) {
-    return EscapeForTerminal(plan.obstacle) + '\n' +
+    return EscapeForTerminal(CauseText(plan.obstacle)) + '\n' +
            Say(view.dryRun ? Words::tr("Nothing would be imported.") : Words::tr("Nothing was imported.")) +
            '\n';
   }

@@ -1,3 +1,4 @@
+#include <cli/session/CauseText.h>
 #include <cli/session/StepText.h>
 #include <cli/terminal/JsonWriter.h>
 #include <cli/terminal/TerminalText.h>
@@ -40,7 +41,7 @@ std::string ProblemText(const RenameProblem& problem) {
       problem.target.empty() ? std::string() : problem.target.filename().utf8string() + ' ';
   const std::string other =
       problem.other.empty() ? std::string() : ": " + problem.other.filename().utf8string();
-  return target + problem.cause + other;
+  return target + CauseText(problem.cause + other);
 }
 
 /// "a.jpg, b.jpg and 22 more", by their names alone.
@@ -50,7 +51,11 @@ std::string SomeNames(const std::vector<const RenameProblem*>& problems) {
   for (std::size_t i = 0; i < problems.size() && i < kMost; ++i) {
     text += (i == 0 ? "" : ", ") + problems[i]->file.filename().utf8string();
   }
-  return problems.size() <= kMost ? text : text + " and " + std::to_string(problems.size() - kMost) + " more";
+  if (problems.size() <= kMost) {
+    return text;
+  }
+  const std::size_t more = problems.size() - kMost;
+  return Say(Words::tr("%1 and %2 more", "files", Amount(more)), {text, GroupDigits(more)});
 }
 
 /// Photos that would all get one name are told of together.
@@ -73,7 +78,8 @@ std::string ProblemsText(const RenameView& view) {
     const auto& group = rivals[problem.target];
     if (group.front() == &problem) {
       table.AddRow({problem.target.utf8string(),
-                    "would be the name of " + std::to_string(group.size()) + " photos: " + SomeNames(group)});
+                    Say(Words::tr("would be the name of %1 photos: %2", nullptr, Amount(group.size())),
+                        {GroupDigits(group.size()), SomeNames(group)})});
     }
   }
   return Say(Words::tr("Cannot be renamed:")) + '\n' + table.Text(2) + '\n';

@@ -212,8 +212,9 @@ std::string ReadWhole(const ioPath& sidecar) {
   if (!source.Open(sidecar, cause)) {
     throw EditRefusal(cause);
   }
+  static_assert(kMostSidecarBytes >> 20U == 4, "the cause below says so");
   if (source.Size() > kMostSidecarBytes) {
-    throw EditRefusal("it is larger than 16 MiB");
+    throw EditRefusal("it is larger than 4 MiB");
   }
   std::string bytes(static_cast<std::size_t>(source.Size()), '\0');
   const bool whole = source.ReadAll(0, bytes.data(), bytes.size());

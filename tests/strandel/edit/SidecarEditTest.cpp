@@ -198,7 +198,7 @@ TEST_F(SidecarEdits, RefuseWhatTheyCannotChange) {
   }
   EXPECT_THAT(Refusal(Packet("xmp:CreateDate=\"2024-05-17T10&#58;00:00\""), SetTo()),
               HasSubstr("its xmp:CreateDate cannot be changed in place"));
-  EXPECT_THAT(Refusal(dated + std::string(kMostSidecarBytes, ' '), SetTo()), HasSubstr("larger than 16 MiB"));
+  EXPECT_THAT(Refusal(dated + std::string(kMostSidecarBytes, ' '), SetTo()), HasSubstr("larger than 4 MiB"));
   EXPECT_THAT(Refusal(Packet("xmp:CreateDate=\"9999-12-31T23:59:59\""), ShiftedBy(seconds(1))),
               HasSubstr("year would not be 1 to 9999"));
   tree.MakeFolder("folder.xmp");
