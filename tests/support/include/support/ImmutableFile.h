@@ -40,9 +40,9 @@ class ImmutableFile {
 
 }  // namespace Zenvora::Test
 
-#define LUMIDEX_IMMUTABLE_OR_SKIP(file)                                              \
-  if (!(file).IsThere()) {                                                           \
-    GTEST_SKIP() << "this user, or this file system, makes nothing immutable";       \
-  }                                                                                  \
+#define LUMIDEX_IMMUTABLE_OR_SKIP(file)                                        \
+  if (!(file).IsThere()) {                                                     \
+    GTEST_SKIP() << "this user, or this file system, makes nothing immutable"; \
+  }                                                                            \
   static_assert(true)
 #endif
