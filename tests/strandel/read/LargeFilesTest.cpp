@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -33,11 +34,15 @@ struct Reading {
   std::uint64_t bytes = 0;
 };
 
+/// The least of several: the count is of the whole process, which may read other things meanwhile.
 Reading Read(const ioPath& file) {
   Reading reading;
-  const std::uint64_t before = BytesRead().value_or(0);
-  reading.facts = ReadPhotoFacts(file);
-  reading.bytes = BytesRead().value_or(0) - before;
+  for (int i = 0; i < 3; ++i) {
+    const std::uint64_t before = BytesRead().value_or(0);
+    reading.facts = ReadPhotoFacts(file);
+    const std::uint64_t bytes = BytesRead().value_or(0) - before;
+    reading.bytes = i == 0 ? bytes : std::min(reading.bytes, bytes);
+  }
   return reading;
 }
 
