@@ -58,11 +58,12 @@ TEST_F(Lifecycle, AsksForTheCalendarByItsNames) {
 }
 
 TEST_F(Lifecycle, AsksNoServerWhileTheStoredCalendarIsFresh) {
-  const App::ServiceScope<App::IClock> clock(
-      std::make_shared<FakeClock>(QDateTime::currentDateTime().addDays(6)));
+  const auto clock = std::make_shared<FakeClock>(QDateTime(QDate(2015, 3, 10), QTime(7, 8, 9)));
+  const App::ServiceScope<App::IClock> scope(clock);
   network_->answerAtOnce = true;
   network_->reply = Fetched(CalendarJson("en_US", {{"Stored", "02.03", "02.03"}}));
   EXPECT_THAT(GenerateNames(PhotosOf(kMonday, 20)), ElementsAre("Stored\n02 March 2015"));
+  clock->now = clock->now.addDays(6);
   EXPECT_THAT(GenerateNames(PhotosOf(kMonday, 20)), ElementsAre("Stored\n02 March 2015"));
   EXPECT_THAT(network_->requests, SizeIs(1));
 }

@@ -190,7 +190,7 @@ TEST_F(UndoJournalTest, RenamesAllOrNothing) {
 }
 
 TEST_F(UndoJournalTest, RecognisesAHopelessRenameWithoutWaiting) {
-  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime::currentDateTime());
+  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9)));
   const App::ServiceScope<App::IClock> scope(clock);
   Make("a.jpg", "A");
   Make("b.jpg", "B");
@@ -514,7 +514,7 @@ TEST_F(UndoJournalTest, SeesToAChangeThatNobodyAnnounced) {
 }
 
 TEST_F(UndoJournalTest, IsForOneAtATime) {
-  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime::currentDateTime());
+  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9)));
   const App::ServiceScope<App::IClock> scope(clock);
   try {
     const UndoJournal second(catalogue_, *locker_);
@@ -853,7 +853,7 @@ class MovingLocker : public Zenvora::Test::FakeLocker {
 };
 
 TEST_F(UndoJournalTest, KeepsTheOriginalWhenAReplacementOnlySeemsToFail) {
-  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime::currentDateTime());
+  const auto clock = std::make_shared<Zenvora::Test::FakeClock>(QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9)));
   const App::ServiceScope<App::IClock> scope(clock);
   const ioPath photo = Make("a.jpg", "1");
   MovingLocker locker(photo);
