@@ -221,17 +221,17 @@ class ImportCommand {
     }
     for (const Host::LeftFile& left : view_.plan.left) {
       if (left.kind == Host::LeftFile::Kind::Unreadable) {
-        code = Graver(code, ExitCode::Partly);
+        code = Worse(code, ExitCode::Partly);
       } else if (left.kind == Host::LeftFile::Kind::Loop || left.copiedOff) {
-        code = Graver(code, ExitCode::Findings);
+        code = Worse(code, ExitCode::Findings);
       }
     }
     for (const Host::ScanFinding& finding : view_.result.findings) {
-      code = Graver(
+      code = Worse(
           code, finding.kind == Host::ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
     }
     return view_.result.missing.empty() && view_.result.stopped.empty() ? code
-                                                                        : Graver(code, ExitCode::Partly);
+                                                                        : Worse(code, ExitCode::Partly);
   }
 
   const ImportArguments& arguments_;

@@ -105,7 +105,7 @@ ExitCode Judge(const ScanResult& result) {
   ExitCode code = result.found == 0 ? ExitCode::Findings : ExitCode::Done;
   for (const ScanFinding& finding : result.findings) {
     code =
-        Graver(code, finding.kind == ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
+        Worse(code, finding.kind == ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
   }
   return code;
 }

@@ -152,7 +152,7 @@ ExitCode ShowGroups(const SimilarStores& stores, const Host::SimilarUpdateResult
     return ExitCode::Interrupted;
   }
   const ExitCode code = Judge(view, session);
-  return view.trash ? Graver(code, JudgeTrash(*view.trash)) : code;
+  return view.trash ? Worse(code, JudgeTrash(*view.trash)) : code;
 }
 
 ExitCode CheckGroups(const SimilarStores& stores, Session& session) {

@@ -149,7 +149,7 @@ int RunProgram(int argc, char** argv) {
     output.Write();
     return ExitCode::Done;
   });
-  return static_cast<int>(Graver(code, written));
+  return static_cast<int>(Worse(code, written));
 }
 
 }  // namespace Zenvora::Lumidex::Cli

@@ -12,8 +12,8 @@ enum class ExitCode : int {
   Interrupted = 130,  ///< Stopped by a signal; what was finished stays.
 };
 
-/// The graver of two outcomes.
-constexpr ExitCode Graver(ExitCode left, ExitCode right) {
+/// The worse of two outcomes.
+constexpr ExitCode Worse(ExitCode left, ExitCode right) {
   return static_cast<int>(left) < static_cast<int>(right) ? right : left;
 }
 
