@@ -887,6 +887,10 @@
         <source>ends in a blank, which Windows drops</source>
         <translation>endet mit einem Leerzeichen, das Windows weglässt</translation>
     </message>
+    <message>
+        <source>is not valid UTF-8</source>
+        <translation>ist kein gültiges UTF-8</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -887,6 +887,10 @@
         <source>ends in a blank, which Windows drops</source>
         <translation>ends in a blank, which Windows drops</translation>
     </message>
+    <message>
+        <source>is not valid UTF-8</source>
+        <translation>is not valid UTF-8</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

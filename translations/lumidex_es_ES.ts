@@ -887,6 +887,10 @@
         <source>ends in a blank, which Windows drops</source>
         <translation>termina en un espacio, que Windows suprime</translation>
     </message>
+    <message>
+        <source>is not valid UTF-8</source>
+        <translation>no es UTF-8 válido</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -887,6 +887,10 @@
         <source>ends in a blank, which Windows drops</source>
         <translation>se termine par une espace, que Windows supprime</translation>
     </message>
+    <message>
+        <source>is not valid UTF-8</source>
+        <translation>n’est pas de l’UTF-8 valable</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -887,6 +887,10 @@
         <source>ends in a blank, which Windows drops</source>
         <translation>finisce con uno spazio, che Windows toglie</translation>
     </message>
+    <message>
+        <source>is not valid UTF-8</source>
+        <translation>non è UTF-8 valido</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

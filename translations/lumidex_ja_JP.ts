@@ -887,6 +887,10 @@
         <source>ends in a blank, which Windows drops</source>
         <translation>の末尾の空白はWindowsで取り除かれます</translation>
     </message>
+    <message>
+        <source>is not valid UTF-8</source>
+        <translation>は正しいUTF-8ではありません</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -887,6 +887,10 @@
         <source>ends in a blank, which Windows drops</source>
         <translation>termina com um espaço, que o Windows descarta</translation>
     </message>
+    <message>
+        <source>is not valid UTF-8</source>
+        <translation>não é UTF-8 válido</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

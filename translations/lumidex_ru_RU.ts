@@ -887,6 +887,10 @@
         <source>ends in a blank, which Windows drops</source>
         <translation>оканчивается пробелом, который Windows отбрасывает</translation>
     </message>
+    <message>
+        <source>is not valid UTF-8</source>
+        <translation>— неправильный UTF-8</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -124,12 +124,12 @@ class ImportRun {
     staging_.reset();
   }
 
-  void HoldRoom() const {
+  void HoldRoom() {
     std::uint64_t bytes = 0;
     for (const ImportCopy& copy : plan_.copies) {
       bytes += BytesToUndo(copy.source, copy.target);
     }
-    JournalFolder::HoldBeside(catalogue_.File().absolute(), bytes);
+    holdsRoom_ = JournalFolder::HoldBeside(catalogue_.File().absolute(), bytes);
   }
 
   /// As the library does when it is told to copy: the next import begins there.
@@ -228,6 +228,9 @@ class ImportRun {
     }
     batch_.clear();
     SyncFolderOf(plan_.copies.front().target);
+    if (!holdsRoom_) {
+      Tell([this] { HoldRoom(); });
+    }
     // What has its name stays, and the next run takes it in where this fails.
     Tell([this, &photos] {
       records_->Store(photos);
@@ -357,6 +360,7 @@ class ImportRun {
 
   std::optional<StagingFolder> staging_;
   std::optional<ImportRecords> records_;
+  bool holdsRoom_ = false;
   std::vector<CopyVerifiers::Result> batch_;
   SteadyClock::time_point batchBegun_;
   std::unordered_set<ioPath> missed_;

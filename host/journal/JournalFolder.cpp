@@ -86,7 +86,7 @@ std::string JournalFolder::FindRoomFault(const ioPath& catalogue, std::uint64_t 
                                  std::make_error_code(std::errc::no_space_on_device)));
 }
 
-void JournalFolder::HoldBeside(const ioPath& catalogue, std::uint64_t undo) {
+bool JournalFolder::HoldBeside(const ioPath& catalogue, std::uint64_t undo) {
   const ioPath folder = UndoFolderOf(catalogue);
   MakeFolder(folder);
   ProcessLock lock;
@@ -97,7 +97,7 @@ void JournalFolder::HoldBeside(const ioPath& catalogue, std::uint64_t undo) {
     if (!fault.empty()) {
       ThrowHostError(folder.utf8string(), fault);
     }
-    return;
+    return false;
   }
   CloseToOthers(folder);
   const DiskReserve reserve(folder / kReserveName);
@@ -107,6 +107,7 @@ void JournalFolder::HoldBeside(const ioPath& catalogue, std::uint64_t undo) {
     before > 0 ? void(reserve.Hold(before)) : reserve.Remove();
     Fail(folder, NoRoom(whole, error));
   }
+  return true;
 }
 
 JournalFolder::JournalFolder(const ioPath& catalogue)

@@ -40,6 +40,7 @@ constexpr Sentence kSentences[] = {
     {QT_TRANSLATE_NOOP("Causes", "holds the sign for unreadable characters")},
     {QT_TRANSLATE_NOOP("Causes", "holds a control character")},
     {QT_TRANSLATE_NOOP("Causes", "holds the character %1")},
+    {QT_TRANSLATE_NOOP("Causes", "is not valid UTF-8")},
     {QT_TRANSLATE_NOOP("Causes", "begins with a dot, which hides the file")},
     {QT_TRANSLATE_NOOP("Causes", "is longer than %1 bytes")},
     {QT_TRANSLATE_NOOP("Causes", "names a device of Windows")},

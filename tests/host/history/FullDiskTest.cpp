@@ -44,6 +44,8 @@ LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, AcceptsNoAlbumWithoutRoomToUndoIt, Zenvora
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsNothingWithoutRoomToUndoIt, Zenvora::Test::kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsBesideAnOpenJournalWhereThereIsRoom,
                             Zenvora::Test::kNoSmallDisk);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, HoldsRoomForAnImportWhenTheJournalIsFreeAgain,
+                            Zenvora::Test::kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsManyFilesAndTakesThemBack, Zenvora::Test::kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, RenamesAndTakesItBack, Zenvora::Test::kNoSmallDisk);
 LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, HoldsItsRoomBetweenRuns, Zenvora::Test::kNoSmallDisk);
@@ -84,7 +86,8 @@ class FullDisk : public Zenvora::Test::JournalTest {
   }
 
   /// Copies that go to a folder of their own.
-  ImportResult Import(const ioPath& catalogue, const std::vector<ioPath>& sources) const {
+  ImportResult Import(const ioPath& catalogue, const std::vector<ioPath>& sources,
+                      const ImportProgressHandler& progress = nullptr) const {
     const App::ServiceScope<App::ISettingsManager> settings(App::MakeIniSettings(tree_.Path("settings.ini")));
     ImportPlan plan;
     plan.folder = tree_.Path("copies");
@@ -92,7 +95,7 @@ class FullDisk : public Zenvora::Test::JournalTest {
       plan.copies.push_back({source, QueryFile(source), plan.folder / source.filename(), false});
     }
     Catalogue stored(catalogue, Catalogue::Mode::ReadWrite);
-    return RunImport(plan, stored, {}, nullptr);
+    return RunImport(plan, stored, {}, progress);
   }
 
   static constexpr std::size_t kBytes = std::size_t{8} << 20U;
@@ -219,6 +222,19 @@ TEST_F(FullDisk, ImportsBesideAnOpenJournalWhereThereIsRoom) {
   const Zenvora::Test::FolderTrash trash(tree_.MakeFolder("trash"));
   UndoJournal journal(catalogueHere_, *locker_, trash);
   EXPECT_EQ(journal.UndoLast(never_, nullptr).files, 1U);
+}
+
+/// They close it before the import has a step: then nobody but the import holds the room.
+TEST_F(FullDisk, HoldsRoomForAnImportWhenTheJournalIsFreeAgain) {
+  LUMIDEX_DISK_OR_SKIP(disk_);
+  const ioPath reserve = place_ / "catalogue.sqlite.undo" / "reserve";
+  const auto close = [this](const ImportProgress& now) {
+    if (now.files == 0) {
+      Close();
+    }
+  };
+  EXPECT_EQ(Import(catalogueHere_, {Make("a.mp4", "video")}, close).copied, 1U);
+  EXPECT_GT(DiskReserve(reserve).Held(), std::uint64_t{1} << 20U);
 }
 
 /// A row in the catalogue for each copy that goes to the trash: more than what is held for any step.

@@ -29,9 +29,10 @@ class JournalFolder {
   static std::uint64_t RoomToBegin(const ioPath& catalogue, std::uint64_t undo = 0);
   /// Why there is no such room, in one sentence; empty: there is, or the disk does not tell.
   static std::string FindRoomFault(const ioPath& catalogue, std::uint64_t undo);
-  /// Holds that room for a step that is done without the journal, before it begins. Where another program
-  /// has the journal the room only has to be there: that program holds it in the end. Throws `HostError`.
-  static void HoldBeside(const ioPath& catalogue, std::uint64_t undo);
+  /// Holds that room for a step that is done without the journal, before it begins. False where another
+  /// program has the journal: then the room is only there, and that program may hold it when it closes the
+  /// journal; to be tried again once the step has begun. Throws `HostError`.
+  static bool HoldBeside(const ioPath& catalogue, std::uint64_t undo);
   /// Makes the folder and takes the lock where that has not been done.
   void Open();
   const ioPath& Path() const { return folder_; }
