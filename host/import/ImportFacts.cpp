@@ -37,7 +37,7 @@ KeepGoing UntilCancelled(const std::atomic<bool>* cancel) {
 
 void AddKnown(ImportFacts& facts, LeadersThere& leaders, KnownSource known) {
   const ImportSource& source = facts.sources.files[known.source];
-  if (source.leads && known.kind != KnownKind::Repeated) {
+  if (source.leads) {
     leaders[source.shot].push_back(known.other);
   }
   facts.known.push_back(std::move(known));
@@ -52,8 +52,8 @@ std::optional<KnownSource> FindContent(KnownContent& content, const ImportFacts&
   return std::nullopt;
 }
 
-/// Beside the photo or film that is there already, under its name.
-std::optional<KnownSource> FindBeside(const LeadersThere& leaders, const ImportFacts& facts,
+/// Beside the photo or film that is there already, or among the sources (`kind`), under its name.
+std::optional<KnownSource> FindBeside(const LeadersThere& leaders, KnownKind kind, const ImportFacts& facts,
                                       std::size_t index, const KeepGoing& keepGoing) {
   const ImportSource& source = facts.sources.files[index];
   const auto found = leaders.find(source.shot);
@@ -61,14 +61,13 @@ std::optional<KnownSource> FindBeside(const LeadersThere& leaders, const ImportF
     return std::nullopt;
   }
   const ioPath& photo = found->second.front();
-  const auto split = [](const ioPath& path) { return SplitShotName(path.filename().utf8string()); };
-  const ioPath other = Sibling(photo, split(photo).base + split(source.path).suffix);
+  const ioPath other = Sibling(photo, SplitShotName(photo.filename().utf8string()).base + source.suffix);
   const FileState state = QueryFile(other);
   if (state.kind != FileState::Kind::File || state.size != source.state.size ||
       state.identity == source.state.identity || !SameContent(source.path, other, keepGoing)) {
     return std::nullopt;
   }
-  return KnownSource{KnownKind::Copied, index, other};
+  return KnownSource{kind, index, other};
 }
 
 void FindRemovable(ImportFacts& facts) {
@@ -172,16 +171,21 @@ void LookAtSources(ImportFacts& facts, const std::vector<PhotoRecord>& photos,
   KnownContent content(photos, facts.copyAll ? facts.sources.files : std::vector<ImportSource>(),
                        UntilCancelled(cancel));
   LeadersThere leaders;
+  LeadersThere repeated;
   std::uint64_t done = 0;
   // Photos and videos come first in their shots: what lies beside them is known by them.
   for (const std::size_t i : facts.readable) {
     if (IsCancelled(cancel)) {
       break;
     }
-    auto known = facts.sources.files[i].leads ? FindContent(content, facts, i)
-                                              : FindBeside(leaders, facts, i, UntilCancelled(cancel));
+    const bool leads = facts.sources.files[i].leads;
+    auto known = leads ? FindContent(content, facts, i)
+                       : FindBeside(leaders, KnownKind::Copied, facts, i, UntilCancelled(cancel));
+    if (!known && !leads) {
+      known = FindBeside(repeated, KnownKind::Repeated, facts, i, UntilCancelled(cancel));
+    }
     if (known) {
-      AddKnown(facts, leaders, std::move(*known));
+      AddKnown(facts, known->kind == KnownKind::Repeated ? repeated : leaders, *known);
     } else {
       facts.fresh.push_back(i);
     }

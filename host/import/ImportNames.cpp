@@ -9,7 +9,6 @@
 #include <iterator>
 #include <limits>
 #include <map>
-#include <set>
 #include <unordered_map>
 #include <utility>
 
@@ -27,7 +26,7 @@ bool IsTooLong(const std::string& name) {
   return NameLength(name) > kLongestFileName;
 }
 
-/// Cuts whole characters off the base until the name is short enough.
+/// Without the last characters, until the name that `end` makes of it is short enough.
 std::string Fitting(std::string base, const std::string& end) {
   const auto isContinuation = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
   while (base.size() > 1 && IsTooLong(base + end)) {
@@ -36,7 +35,7 @@ std::string Fitting(std::string base, const std::string& end) {
     }
     base.pop_back();
   }
-  return base + end;
+  return base;
 }
 
 QString WithoutCase(const ioPath& name) {
@@ -102,10 +101,6 @@ class Mixture {
   std::map<std::size_t, std::vector<File>> shots_;
 };
 
-std::string BaseOf(const ioPath& file) {
-  return SplitShotName(file.filename().utf8string()).base;
-}
-
 }  // namespace
 
 FreeNames::FreeNames(const CopyFolder& folder) {
@@ -114,6 +109,14 @@ FreeNames::FreeNames(const CopyFolder& folder) {
     if (folder.ignoresCase) {
       Take(name);
     }
+    const std::string text = name.utf8string();
+    if (IsShotFile(text)) {
+      const ShotName parts = SplitShotName(text);
+      shots_.insert(NameKey(parts.base));
+      if (!VersionOwner(parts).empty()) {
+        shots_.insert(NameKey(SplitVersion(parts).base));
+      }
+    }
   }
 }
 
@@ -121,23 +124,40 @@ void FreeNames::Take(const ioPath& name) {
   taken_.insert(WithoutCase(name));
 }
 
+bool FreeNames::TakeFree(const ioPath& name) {
+  if (IsTaken(name) || IsTooLong(name.utf8string())) {
+    return false;
+  }
+  Take(name);
+  return true;
+}
+
 bool FreeNames::IsTaken(const ioPath& name) const {
   return there_.count(name) > 0 || taken_.contains(WithoutCase(name));
 }
 
-ioPath FreeNames::Give(const ioPath& name) {
-  const std::string whole = name.utf8string();
-  const std::size_t dot = whole.rfind('.');
-  const std::string base = whole.substr(0, dot);
-  const std::string extension = dot == std::string::npos ? "." : whole.substr(dot);
-  std::string marks;
-  ioPath candidate = name;
-  for (int mark = kFirstMark; IsTooLong(candidate.utf8string()) || IsTaken(candidate); mark += kMarkStep) {
-    marks += '(' + std::to_string(mark) + ')';
-    candidate = ioPath(Fitting(base, marks + extension));
+std::vector<ioPath> FreeNames::Give(const std::vector<ShotName>& files) {
+  std::string longest;
+  for (const ShotName& file : files) {
+    longest = file.suffix.size() > longest.size() ? file.suffix : longest;
   }
-  Take(candidate);
-  return candidate;
+  std::string marks;
+  for (int mark = kFirstMark;; mark += kMarkStep) {
+    const std::string base =
+        marks.empty() ? files.front().base : Fitting(files.front().base, marks + longest) + marks;
+    std::vector<ioPath> names;
+    for (const ShotName& file : files) {
+      names.emplace_back((marks.empty() ? file.base : base) + file.suffix);
+    }
+    const auto isFree = [this](const ioPath& name) {
+      return !IsTooLong(name.utf8string()) && !IsTaken(name);
+    };
+    if (std::all_of(names.begin(), names.end(), isFree) && shots_.insert(NameKey(base)).second) {
+      std::for_each(names.begin(), names.end(), [this](const ioPath& name) { Take(name); });
+      return names;
+    }
+    marks += '(' + std::to_string(mark) + ')';
+  }
 }
 
 std::vector<SplitShot> FindSplits(const std::vector<ImportCopy>& copies,
@@ -145,10 +165,8 @@ std::vector<SplitShot> FindSplits(const std::vector<ImportCopy>& copies,
                                   const std::vector<PlacedFile>& placed) {
   struct Split {
     SplitShot shot;
-    std::set<std::string> bases;
     bool renamed = false;
     void Add(const ioPath& source, const ioPath& target) {
-      bases.insert(BaseOf(target));
       renamed = renamed || source.filename() != target.filename();
       shot.sources.push_back(source);
       shot.targets.push_back(target);
@@ -166,7 +184,7 @@ std::vector<SplitShot> FindSplits(const std::vector<ImportCopy>& copies,
   }
   std::vector<SplitShot> found;
   for (auto& [shot, split] : splits) {
-    if (split.renamed && split.bases.size() > 1) {
+    if (split.renamed && GroupShots(split.shot.targets, {}).size() > 1) {
       found.push_back(std::move(split.shot));
     }
   }

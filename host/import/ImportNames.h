@@ -1,6 +1,7 @@
 #pragma once
 
 #include <host/import/ImportPlan.h>
+#include <host/shots/ShotNames.h>
 
 #include <zenvora/core/ioPath.h>
 
@@ -8,6 +9,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <string>
 #include <unordered_set>
 #include <vector>
 
@@ -21,17 +23,21 @@ struct PlacedFile {
   std::size_t shot = 0;
 };
 
-/// Gives files names in the folder of copies that nothing has, by the rule of
-/// `CheckFilesToCopyBeforeAddDialog`: a taken name gets "(1)" behind its base, that name, if taken too,
-/// "(3)", and so on. A base is cut between two characters where the name would be too long. Pure.
+/// Gives shots names in the folder of copies that nothing has: of a taken one all files get "(1)" behind what
+/// they share, if that is taken too "(1)(3)", and so on, as `CheckFilesToCopyBeforeAddDialog` counts for
+/// single files. A name is also taken when a photo, or what belongs to one, bears it with another extension:
+/// the files of two shots never share a name. It is cut between two characters where it would be too long.
+/// Pure.
 class FreeNames {
  public:
   explicit FreeNames(const CopyFolder& folder);
 
   /// Nothing else gets the name from now on, in whichever case.
   void Take(const ioPath& name);
-  /// The name that the file gets, which is taken from now on.
-  ioPath Give(const ioPath& name);
+  /// The name, which is taken from now on; false: something has it already.
+  bool TakeFree(const ioPath& name);
+  /// The names that the files of a shot get, which are taken from now on. `files`: one or more.
+  std::vector<ioPath> Give(const std::vector<ShotName>& files);
 
  private:
   bool IsTaken(const ioPath& name) const;
@@ -39,6 +45,8 @@ class FreeNames {
   std::unordered_set<ioPath> there_;
   /// Without their case.
   QSet<QString> taken_;
+  /// What the files of each shot share, as `NameKey` has it.
+  std::unordered_set<std::string> shots_;
 };
 
 /// The shots whose files would get different names. `shots`: of each copy. `placed`: what is in the folder of

@@ -2,8 +2,11 @@
 
 #include <host/import/ImportPlan.h>
 #include <host/scan/FileVerdicts.h>
+#include <host/shots/ShotNames.h>
 
 #include <algorithm>
+#include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -45,7 +48,7 @@ class Planner {
     known_.insert(known.source);
     plan_.known.push_back({known.kind, source.path, known.other});
     if (known.kind != KnownKind::Repeated) {
-      placed_.push_back({source.path, known.other, source.shot});
+      AddPlaced(source, known.other);
     }
     if (known.kind == KnownKind::Copied && source.isPhoto) {
       // A run that was killed may not have come to taking it in.
@@ -53,23 +56,55 @@ class Planner {
     }
   }
 
+  /// `path`: where the source, or a copy of it, lies.
+  void AddPlaced(const ImportSource& source, const ioPath& path) {
+    placed_.push_back({source.path, path, source.shot});
+    if (path.parent_path() != answers_.folder) {
+      return;
+    }
+    const std::string name = path.filename().utf8string();
+    const std::size_t suffix = source.suffix.size();
+    const bool ends = name.size() > suffix && name.substr(name.size() - suffix) == source.suffix;
+    std::string base = ends ? name.substr(0, name.size() - suffix) : SplitShotName(name).base;
+    if (source.leads) {
+      homes_[source.shot] = std::move(base);
+    } else {
+      homes_.emplace(source.shot, std::move(base));
+    }
+  }
+
+  bool IsCopied(const ImportAnswers::File& file) const {
+    return file.copy && known_.count(file.source) == 0 && facts_.folder.holds.count(file.source) == 0;
+  }
+
   void Place() {
     FreeNames names(facts_.folder);
+    std::vector<std::vector<std::size_t>> shots;
+    std::unordered_map<std::size_t, std::size_t> places;
     for (const ImportAnswers::File& file : answers_.files) {
-      if (known_.count(file.source) > 0) {
-        continue;
-      }
       const ImportSource& source = sources_[file.source];
-      if (file.copy && facts_.folder.holds.count(file.source) == 0) {
-        plan_.copies.push_back({source.path, source.state,
-                                answers_.folder / names.Give(source.path.filename()), source.isPhoto});
-        plan_.bytes += source.state.size;
-        shots_.push_back(source.shot);
-      } else {
+      if (IsCopied(file)) {
+        const auto [place, isNew] = places.emplace(source.shot, shots.size());
+        if (isNew) {
+          shots.emplace_back();
+        }
+        shots[place->second].push_back(file.source);
+      } else if (known_.count(file.source) == 0) {
         Leave(source, file.copy);
         if (source.path.parent_path() == answers_.folder && IsToLeave(source.path)) {
           names.Take(source.path.filename());
         }
+      }
+    }
+    for (const std::vector<std::size_t>& files : shots) {
+      GiveNames(files, names);
+    }
+    for (const ImportAnswers::File& file : answers_.files) {
+      if (IsCopied(file)) {
+        const ImportSource& source = sources_[file.source];
+        plan_.copies.push_back({source.path, source.state, targets_.at(file.source), source.isPhoto});
+        plan_.bytes += source.state.size;
+        shots_.push_back(source.shot);
       }
     }
     if (!plan_.copies.empty()) {
@@ -79,9 +114,34 @@ class Planner {
     }
   }
 
+  /// To files of one shot. They go beside those of the shot that are there; where something else has a name
+  /// there, to one that they share with nobody.
+  void GiveNames(const std::vector<std::size_t>& files, FreeNames& names) {
+    std::vector<std::size_t> others;
+    const auto home = homes_.find(sources_[files.front()].shot);
+    for (const std::size_t file : files) {
+      const ioPath beside = home == homes_.end() ? ioPath() : ioPath(home->second + sources_[file].suffix);
+      if (!beside.empty() && names.TakeFree(beside)) {
+        targets_.emplace(file, answers_.folder / beside);
+      } else {
+        others.push_back(file);
+      }
+    }
+    std::vector<ShotName> parts;
+    for (const std::size_t file : others) {
+      const std::string name = sources_[file].path.filename().utf8string();
+      const std::string& suffix = sources_[file].suffix;
+      parts.push_back({name.substr(0, name.size() - suffix.size()), suffix});
+    }
+    const std::vector<ioPath> given = parts.empty() ? std::vector<ioPath>() : names.Give(parts);
+    for (std::size_t i = 0; i < given.size(); ++i) {
+      targets_.emplace(others[i], answers_.folder / given[i]);
+    }
+  }
+
   /// `isThere`: it was to be copied and lies in the folder of copies.
   void Leave(const ImportSource& source, bool isThere) {
-    placed_.push_back({source.path, source.path, source.shot});
+    AddPlaced(source, source.path);
     if (source.isPhoto) {
       plan_.stays.push_back(source.path);
     }
@@ -140,6 +200,10 @@ class Planner {
   ImportPlan plan_;
   std::unordered_set<std::size_t> known_;
   std::vector<PlacedFile> placed_;
+  /// By shots, what those of their files share that are in the folder of copies.
+  std::unordered_map<std::size_t, std::string> homes_;
+  /// By sources.
+  std::unordered_map<std::size_t, ioPath> targets_;
   /// Of the copies.
   std::vector<std::size_t> shots_;
 };

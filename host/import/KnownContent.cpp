@@ -122,8 +122,7 @@ bool KnownCopies::IsOf(const ManifestRecord& record, const ImportSource& source,
   const bool isBesideOwn =
       std::any_of(own.begin(), own.end(), [&shot](const ioPath& photo) { return ShotKey(photo) == shot; });
   // By its path alone it may be of a shot that bore the name before, whose photo it then lies beside.
-  return isBesideOwn ||
-         (record.source == source.path && (source.isAlone || !own.empty() || shots_.count(shot) == 0));
+  return isBesideOwn || (record.source == source.path && (source.isAlone || shots_.count(shot) == 0));
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -174,7 +174,7 @@ class Gatherer {
       for (const ShotFile& file : set.files) {
         taken_.insert(file.path);
         result_.files.push_back({file.path, states_.at(file.path), IsPhotoName(file.path),
-                                 rank(file) == best && best < 2, best == 2, shots_});
+                                 rank(file) == best && best < 2, best == 2, shots_, file.suffix});
       }
       ++shots_;
     }

@@ -235,22 +235,45 @@ TEST_F(ImportCommand, NeverWritesThroughALink) {
 }
 #endif
 
-TEST_F(ImportCommand, WarnsOfShotsThatFallApart) {
+/// The settings kept their name and lay beside a stranger's photo.
+TEST_F(ImportCommand, KeepsWhatBelongsToAPhotoWithItUnderANewName) {
   tree.Write("photos/card/img0.xmp", "stars");
   tree.Write("copies/img0.jpg", "another photo");
+  const Ran ran = ImportTo();
+  EXPECT_EQ(ran.exitCode, 0) << ran.out;
+  EXPECT_EQ(ran.Json()["splits"].toArray().size(), 0);
+  EXPECT_EQ(ReadText(Copies() / "img0(1).jpg"), ReadText(Photos() / "card/img0.jpg"));
+  EXPECT_EQ(ReadText(Copies() / "img0(1).xmp"), "stars");
+  EXPECT_FALSE((Copies() / "img0.xmp").exists());
+  EXPECT_EQ(ImportTo().Json()["copied"].toInt(), 0);
+  EXPECT_EQ(Run({"undo"}).exitCode, 0);
+  EXPECT_FALSE((Copies() / "img0(1).jpg").exists());
+  EXPECT_FALSE((Copies() / "img0(1).xmp").exists());
+  EXPECT_EQ(ReadText(Copies() / "img0.jpg"), "another photo");
+  EXPECT_EQ(Run({"redo"}).exitCode, 0);
+  EXPECT_EQ(ReadText(Copies() / "img0(1).xmp"), "stars");
+  EXPECT_EQ(ImportTo().Json()["copied"].toInt(), 0);
+}
+
+TEST_F(ImportCommand, WarnsOfShotsThatFallApart) {
+  tree.Write("photos/card/img0.xmp", "stars");
+  ASSERT_EQ(ImportTo().exitCode, 0);
+  tree.Write("copies/img0.xmp", "other stars");
   const Ran ran = ImportTo({"--dry-run"});
   EXPECT_EQ(ran.exitCode, 1);
   EXPECT_EQ(ran.Json()["splits"].toArray().size(), 1);
 }
 
 TEST_F(ImportCommand, WarnsOfFilesThatJoinAnotherShot) {
+  ASSERT_EQ(ImportTo().exitCode, 0);
   tree.Write("copies/IMG0.CR2", "another photo");
+  tree.Write("photos/card/img0.xmp", "stars");
   const Ran planned = ImportTo({"--dry-run"});
   EXPECT_EQ(planned.exitCode, 1);
   ASSERT_EQ(planned.Json()["joins"].toArray().size(), 1);
   const QJsonObject join = planned.Json()["joins"].toArray()[0].toObject();
   EXPECT_EQ(join["sources"].toArray().size(), 1);
-  EXPECT_EQ(join["targets"].toArray()[0].toObject()["path"].toString(), Text(Copies() / "img0.jpg"));
+  EXPECT_EQ(join["targets"].toArray()[0].toObject()["path"].toString(), Text(Copies() / "img0.xmp"));
   EXPECT_EQ(join["others"].toArray()[0].toObject()["path"].toString(), Text(Copies() / "IMG0.CR2"));
   EXPECT_THAT(Run({"import", Text(Photos()), "--to", Text(Copies())}).out, HasSubstr("of other shots"));
 }

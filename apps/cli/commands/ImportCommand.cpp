@@ -41,9 +41,9 @@ constexpr char kDescription[] =
 constexpr char kFooter[] =
     R"help(A folder stands for all photos and videos in it and in its subfolders, with the
 files that belong to them: thumbnails, voice memos, sidecars (.xmp and others).
-Copies keep their names; if a name is taken, "(1)" is added to it. The hidden
-folder .lumidex-import beside the copies lists each copy with its source and
-its SHA-256.
+Copies keep their names; if a name is taken, "(1)" is added to the names of the
+photo and of all that belongs to it. The hidden folder .lumidex-import beside
+the copies lists each copy with its source and its SHA-256.
 
 All other files on removable storage are skipped and listed, also hidden ones.
 Only files that cameras and systems keep for themselves (.DS_Store, Thumbs.db,

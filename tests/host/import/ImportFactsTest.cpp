@@ -104,6 +104,18 @@ TEST_F(ImportFactsTest, CopiesOneOfTwoSourcesOfOneContent) {
   EXPECT_EQ(plan.known[0].kind, KnownFile::Kind::Repeated);
 }
 
+TEST_F(ImportFactsTest, CopiesTheSettingsOfRepeatedPhotosOnceWhenTheyAreTheSame) {
+  for (const char* const folder : {"card/1/", "card/2/", "card/3/"}) {
+    MakePhoto(folder + std::string("a.jpg"), 1);
+    tree.Write(folder + std::string("a.xmp"), folder == std::string("card/3/") ? "others" : "the same");
+  }
+  MakePhoto("card/4/a.jpg", 4);
+  const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan), ElementsAre("a.jpg", "a.xmp", "a(1).xmp", "a(1)(3).jpg"));
+  EXPECT_EQ(Carry(plan).copied, 4U);
+  EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
+}
+
 TEST_F(ImportFactsTest, CopiesSidecarsOfOneContentAll) {
   for (const char* const name : {"card/a.xmp", "card/b.xmp"}) {
     tree.Write(name, "the same");

@@ -27,6 +27,7 @@ class PurePlan : public testing::Test {
     source.state.size = 100;
     source.isPhoto = IsPhotoName(source.path);
     source.leads = source.isPhoto || IsFilmName(source.path.filename().utf8string());
+    source.suffix = SplitShotName(source.path.filename().utf8string()).suffix;
     source.shot = shot != 0 ? shot : 1000 + facts_.sources.files.size();
     facts_.sources.files.push_back(source);
     return facts_.sources.files.size() - 1;
@@ -187,6 +188,10 @@ TEST_F(PurePlan, NeedsRoomAndAFolder) {
   }
 }
 
+ioPath GiveOne(FreeNames& names, const char* name) {
+  return names.Give({SplitShotName(name)}).front();
+}
+
 TEST(FreeNames, AreTakenByNothing) {
   const struct {
     std::vector<ioPath> there;
@@ -196,34 +201,78 @@ TEST(FreeNames, AreTakenByNothing) {
   } kCases[] = {{{}, false, "IMG.jpg", "IMG.jpg"},
                 {{ioPath("IMG.jpg")}, false, "IMG.jpg", "IMG(1).jpg"},
                 {{ioPath("IMG.jpg"), ioPath("IMG(1).jpg")}, false, "IMG.jpg", "IMG(1)(3).jpg"},
-                {{ioPath("img.JPG")}, false, "IMG.jpg", "IMG.jpg"},
-                {{ioPath("img.JPG")}, true, "IMG.jpg", "IMG(1).jpg"},
-                {{ioPath("IMG")}, false, "IMG", "IMG(1)."},
-                {{ioPath("a.b.jpg")}, false, "a.b.jpg", "a.b(1).jpg"},
-                {{ioPath(".jpg")}, false, ".jpg", "(1).jpg"}};
+                {{ioPath("IMG.txt")}, false, "IMG.jpg", "IMG.jpg"},
+                {{ioPath("IMG.CR2")}, false, "IMG.jpg", "IMG(1).jpg"},
+                {{ioPath("IMG.xmp")}, false, "IMG.jpg", "IMG(1).jpg"},
+                {{ioPath("IMG.jpg"), ioPath("IMG(1).CR2.xmp")}, false, "IMG.jpg", "IMG(1)(3).jpg"},
+                {{ioPath("IMG_02.CR2.xmp")}, false, "IMG.CR2", "IMG(1).CR2"},
+                {{ioPath("img.JPG")}, false, "IMG.jpg", "IMG(1).jpg"},
+                {{ioPath("img.txt")}, true, "IMG.txt", "IMG(1).txt"},
+                {{ioPath("a.b.jpg")}, false, "a.b.jpg", "a.b(1).jpg"}};
   for (const auto& [there, ignoresCase, name, given] : kCases) {
     CopyFolder folder;
     folder.names = there;
     folder.ignoresCase = ignoresCase;
     FreeNames names(folder);
-    EXPECT_EQ(names.Give(ioPath(name)), ioPath(given));
-    EXPECT_NE(names.Give(ioPath(name)), ioPath(given)) << "it is taken now";
+    EXPECT_EQ(GiveOne(names, name), ioPath(given));
+    EXPECT_NE(GiveOne(names, name), ioPath(given)) << "it is taken now";
   }
 }
 
 TEST(FreeNames, AreTakenInWhicheverCaseOnceGiven) {
   FreeNames names({});
-  EXPECT_EQ(names.Give(ioPath("IMG.jpg")), ioPath("IMG.jpg"));
-  EXPECT_EQ(names.Give(ioPath("img.JPG")), ioPath("img(1).JPG"));
+  EXPECT_EQ(GiveOne(names, "IMG.jpg"), ioPath("IMG.jpg"));
+  EXPECT_EQ(GiveOne(names, "img.JPG"), ioPath("img(1).JPG"));
   names.Take(ioPath("OTHER.jpg"));
-  EXPECT_EQ(names.Give(ioPath("other.jpg")), ioPath("other(1).jpg"));
+  EXPECT_EQ(GiveOne(names, "other.jpg"), ioPath("other(1).jpg"));
+  EXPECT_FALSE(names.TakeFree(ioPath("Other.JPG")));
+  EXPECT_TRUE(names.TakeFree(ioPath("other.xmp")));
+  EXPECT_FALSE(names.TakeFree(ioPath("other.xmp")));
+}
+
+TEST(FreeNames, AreOneForAllFilesOfAShot) {
+  CopyFolder folder;
+  folder.names = {ioPath("IMG.xmp"), ioPath("IMG(1).wav")};
+  FreeNames names(folder);
+  EXPECT_THAT(names.Give({{"IMG", ".CR2"}, {"img", ".jpg"}, {"IMG", "_02.CR2.xmp"}}),
+              ElementsAre(ioPath("IMG(1)(3).CR2"), ioPath("IMG(1)(3).jpg"), ioPath("IMG(1)(3)_02.CR2.xmp")));
+  const std::string base(250, 'x');
+  names.Take(ioPath(base + ".jpg"));
+  EXPECT_THAT(
+      names.Give({{base, ".jpg"}, {base, ".CR2.xmp"}}),
+      ElementsAre(ioPath(base.substr(0, 244) + "(1).jpg"), ioPath(base.substr(0, 244) + "(1).CR2.xmp")));
+}
+
+/// A photo and its settings came apart, and the settings lay beside another photo.
+TEST_F(PurePlan, GivesAllFilesOfAShotOneName) {
+  facts_.folder.names = {ioPath("A.jpg")};
+  Copy("/card/A.jpg", 1);
+  Copy("/card/A.xmp", 1);
+  Copy("/card/2/A.jpg", 2);
+  Copy("/card/2/A.jpg.xmp", 2);
+  Copy("/card/3/A.xmp");
+  const ImportPlan plan = Plan();
+  EXPECT_THAT(Targets(plan), ElementsAre(ioPath("/copies/A(1).jpg"), ioPath("/copies/A(1).xmp"),
+                                         ioPath("/copies/A(1)(3).jpg"), ioPath("/copies/A(1)(3).jpg.xmp"),
+                                         ioPath("/copies/A(1)(3)(5).xmp")));
+  EXPECT_THAT(plan.splits, IsEmpty());
+  EXPECT_THAT(plan.joins, IsEmpty());
+}
+
+TEST_F(PurePlan, PutsFilesBesideThoseOfTheirShotThatAreThere) {
+  facts_.folder.names = {ioPath("A.jpg"), ioPath("Trip.jpg"), ioPath("Trip.wav")};
+  facts_.known.push_back({KnownKind::Copied, Add("/card/A.jpg", 1), ioPath("/copies/Trip.jpg")});
+  Copy("/card/A.xmp", 1);
+  Copy("/card/A.wav", 1);
+  const ImportPlan plan = Plan();
+  EXPECT_THAT(Targets(plan), ElementsAre(ioPath("/copies/Trip.xmp"), ioPath("/copies/A(1).wav")));
+  ASSERT_THAT(plan.splits, SizeIs(1)) << "another spoken note has the name";
 }
 
 class ImportPlanTest : public ImportTest {};
 
 TEST_F(ImportPlanTest, GivesTheNamesThatTheLibraryGives) {
-  const char* const kNames[] = {"IMG.jpg", "img.JPG",    "README",   "a.b.jpg",
-                                ".jpg",    "\u00C4.jpg", "x(1).jpg", "x.jpg"};
+  const char* const kNames[] = {"IMG.jpg", "img.JPG", "a.b.jpg", "\u00C4.jpg", "x(1).jpg", "x.jpg"};
   for (const char* const folder : {"card/1/", "card/2/", "card/3/", "copies/"}) {
     for (const char* const name : kNames) {
       tree.Write(folder + std::string(name), folder + std::string(name));
@@ -253,7 +302,7 @@ TEST_F(ImportPlanTest, GivesTheNamesThatTheLibraryGives) {
 #endif
   FreeNames names(folder);
   for (const auto& [source, target] : pairs) {
-    EXPECT_EQ(names.Give(ioPath(source).filename()), ioPath(target).filename());
+    EXPECT_EQ(GiveOne(names, ioPath(source).filename().utf8string().c_str()), ioPath(target).filename());
   }
 }
 
@@ -266,15 +315,27 @@ TEST_F(ImportPlanTest, NamesAsTheLibraryDoes) {
   EXPECT_THAT(TargetNames(PlanTo({tree.Path("card/a")})), ElementsAre("IMG(1)(3).jpg"));
 }
 
-TEST_F(ImportPlanTest, TellsOfShotsThatWouldFallApart) {
+TEST_F(ImportPlanTest, KeepsShotsTogetherWhereOneNameIsTaken) {
   for (const char* const name : {"card/IMG.CR2", "card/IMG.JPG", "card/IMG.xmp"}) {
     tree.Write(name, name);
   }
   tree.Write("copies/IMG.JPG", "of another shot");
   const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan), testing::UnorderedElementsAre("IMG(1).CR2", "IMG(1).JPG", "IMG(1).xmp"));
+  EXPECT_THAT(plan.splits, IsEmpty());
+}
+
+TEST_F(ImportPlanTest, TellsOfShotsThatFallApart) {
+  MakePhoto("card/IMG.JPG", 1);
+  tree.Write("card/IMG.xmp", "settings");
+  Carry(PlanTo({Card()}));
+  tree.Write("copies/IMG.xmp", "changed since");
+  const ImportPlan plan = PlanTo({Card()});
+  EXPECT_THAT(TargetNames(plan), ElementsAre("IMG(1).xmp"));
   ASSERT_THAT(plan.splits, SizeIs(1));
-  EXPECT_THAT(plan.splits[0].sources, SizeIs(3));
-  EXPECT_THAT(TargetNames(plan), testing::UnorderedElementsAre("IMG.CR2", "IMG(1).JPG", "IMG.xmp"));
+  EXPECT_THAT(plan.splits[0].sources, SizeIs(2));
+  Carry(plan);
+  EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
 }
 
 TEST_F(ImportPlanTest, TellsNothingOfShotsThatStayTogether) {
@@ -301,23 +362,25 @@ TEST_F(ImportPlanTest, ShortensNamesThatTheCountMakesTooLong) {
   EXPECT_THAT(PlanTo({Card()}).copies, IsEmpty());
 }
 
-TEST_F(ImportPlanTest, TellsOfFilesThatWouldJoinAnotherShot) {
+TEST_F(ImportPlanTest, LetsNoFilesJoinAnotherShot) {
   tree.Write("copies/IMG.CR2", "of another shot");
   tree.Write("card/IMG.jpg", "one");
   tree.Write("card/IMG.xmp", "its settings");
+  tree.Write("card/2/img.xmp", "of no photo");
   const ImportPlan plan = PlanTo({Card()});
-  ASSERT_THAT(plan.joins, SizeIs(1));
-  EXPECT_THAT(plan.joins[0].sources, ElementsAre(tree.Path("card/IMG.jpg"), tree.Path("card/IMG.xmp")));
-  EXPECT_THAT(plan.joins[0].targets, ElementsAre(Copies() / "IMG.jpg", Copies() / "IMG.xmp"));
-  EXPECT_THAT(plan.joins[0].others, ElementsAre(Copies() / "IMG.CR2"));
+  EXPECT_THAT(TargetNames(plan), ElementsAre("IMG(1).jpg", "IMG(1).xmp", "img(1)(3).xmp"));
+  EXPECT_THAT(plan.joins, IsEmpty());
 }
 
-TEST_F(ImportPlanTest, TellsOfShotsOfTwoFoldersThatWouldBecomeOne) {
-  tree.Write("card/1/IMG.CR2", "one");
-  tree.Write("card/2/img.jpg", "two");
+TEST_F(ImportPlanTest, TellsOfFilesWhoseShotSharesItsNameAlready) {
+  MakePhoto("card/IMG.jpg", 1);
+  Carry(PlanTo({Card()}));
+  tree.Write("copies/IMG.CR2", "of another shot");
+  tree.Write("card/IMG.xmp", "its settings");
   const ImportPlan plan = PlanTo({Card()});
   ASSERT_THAT(plan.joins, SizeIs(1));
-  EXPECT_THAT(plan.joins[0].sources, ElementsAre(tree.Path("card/2/img.jpg")));
+  EXPECT_THAT(plan.joins[0].sources, ElementsAre(tree.Path("card/IMG.xmp")));
+  EXPECT_THAT(plan.joins[0].targets, ElementsAre(Copies() / "IMG.xmp"));
   EXPECT_THAT(plan.joins[0].others, ElementsAre(Copies() / "IMG.CR2"));
 }
 

@@ -73,8 +73,9 @@ struct ImportPlan {
   std::string obstacle;
 };
 
-/// Plans what an import does. Copies get the names that `CheckFilesToCopyBeforeAddDialog` would give them,
-/// shortened where they are too long; names that are no text keep their bytes. Pure.
+/// Plans what an import does. A shot whose name is taken gets a new one for all of its files, numbered as
+/// `CheckFilesToCopyBeforeAddDialog` does and shortened where it is too long; names that are no text keep
+/// their bytes. Pure.
 ImportPlan PlanImport(const ImportFacts& facts, const ImportAnswers& answers);
 
 }  // namespace Zenvora::Lumidex::Host

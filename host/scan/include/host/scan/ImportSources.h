@@ -20,6 +20,7 @@ struct ImportSource {
   bool isAlone = false;  ///< Its shot has neither a photo nor a video.
   /// Equal for the files of one press of the shutter.
   std::size_t shot = 0;
+  std::string suffix = {};  ///< As of `ShotFile`.
 };
 
 /// Something among the sources that is not taken.
