@@ -6,7 +6,9 @@
 #include <QSqlError>
 
 #include <atomic>
+#include <cstdint>
 #include <filesystem>
+#include <system_error>
 
 namespace Zenvora::Lumidex::Host {
 
@@ -50,6 +52,15 @@ int CodeOf(const QSqlError& error) {
   return error.nativeErrorCode().toInt();
 }
 
+/// SQLite calls it an error of the disk when a file beside the catalogue cannot grow: the index of its log
+/// grows by 32 KiB at a time.
+bool IsFullDisk(int code, const ioPath& folder) {
+  constexpr std::uintmax_t kLeastRoom = std::uintmax_t{64} * 1024;
+  std::error_code error;
+  return (code & kPrimaryMask) == kInputOutput &&
+         std::filesystem::space(folder.for_system(), error).available < kLeastRoom && !error;
+}
+
 }  // namespace
 
 void ThrowCatalogueError(const ioPath& file, const std::string& cause) {
@@ -88,6 +99,7 @@ QString SqliteUri(const ioPath& absoluteFile, const char* query) {
 CatalogueDatabase::CatalogueDatabase(const ioPath& file, Access access, int busyTimeoutMs,
                                      const ioPath& shownAs)
     : file_(shownAs.empty() ? file : shownAs),
+      folder_(file.absolute().parent_path()),
       busyTimeoutMs_(busyTimeoutMs),
       connection_(NewConnectionName()) {
   database_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_);
@@ -175,7 +187,8 @@ void CatalogueDatabase::Fail(const std::string& cause) const {
 
 void CatalogueDatabase::Fail(const QSqlError& error) const {
   const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
-  Fail(CauseOfSqliteCode(CodeOf(error), text.toStdString(), busyTimeoutMs_));
+  const int code = IsFullDisk(CodeOf(error), folder_) ? kFull : CodeOf(error);
+  Fail(CauseOfSqliteCode(code, text.toStdString(), busyTimeoutMs_));
 }
 
 ReadTransaction::ReadTransaction(const CatalogueDatabase& database) : database_(database) {

@@ -5,6 +5,7 @@
 #include <host/catalogue/CatalogueDatabase.h>
 #include <support/LeftOut.h>
 #include <support/Obstacles.h>
+#include <support/SmallDisk.h>
 #include <support/TempTree.h>
 
 #include <gmock/gmock.h>
@@ -577,6 +578,34 @@ TEST_F(CatalogueFile, IsInTheUsersDataFolderByDefault) {
   EXPECT_EQ(Catalogue::DefaultFile(),
             ioPath(qgetenv("XDG_DATA_HOME").toStdString()) / "lumidex" / "catalogue.sqlite");
 }
+
+#ifdef _WIN32
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CatalogueFile, TellsOfAFullDisk, Zenvora::Test::kNoSmallDisk);
+#else
+/// SQLite calls it an error of the disk when the index of its log cannot grow.
+TEST_F(CatalogueFile, TellsOfAFullDisk) {
+  Zenvora::Test::SmallDisk disk(tree_.MakeFolder("disk"), std::size_t{1} << 20U);
+  LUMIDEX_DISK_OR_SKIP(disk);
+  const ioPath file = tree_.Path("disk/c.sqlite");
+  Catalogue(file, Mode::ReadWrite);
+  int failed = 0;
+  for (const std::uintmax_t left : {0U, 4096U, 8192U, 20000U, 40000U}) {
+    disk.Fill(left);
+    try {
+      const CatalogueDatabase database(file, CatalogueDatabase::Access::ReadWrite, 1000);
+      WriteTransaction transaction(database);
+      database.Execute("CREATE TABLE large (bytes BLOB)");
+      database.Execute("INSERT INTO large VALUES (zeroblob(100000))");
+      transaction.Commit();
+    } catch (const HostError& failure) {
+      EXPECT_THAT(failure.what(), HasSubstr("the disk is full")) << left;
+      ++failed;
+    }
+    disk.Clear();
+  }
+  EXPECT_GT(failed, 1);
+}
+#endif
 
 struct CodeRow {
   int code;

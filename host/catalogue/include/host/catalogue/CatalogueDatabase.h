@@ -55,6 +55,7 @@ class CatalogueDatabase {
   [[noreturn]] void Fail(const QSqlError& error) const;
 
   const ioPath file_;
+  const ioPath folder_;
   const int busyTimeoutMs_;
   const QString connection_;
   QSqlDatabase database_;
