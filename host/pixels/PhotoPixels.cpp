@@ -1,5 +1,6 @@
 #include "DeviceBytes.h"
 #include "JpegMending.h"
+#include "PngMending.h"
 #include "PngParts.h"
 #include "TiffParts.h"
 
@@ -26,8 +27,6 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-/// Memory of such a picture, in the form that its decoder gives.
-constexpr std::int64_t kMostBytes = 400'000'000;
 /// JPEG is decoded row by row, but for progressive ones.
 constexpr std::int64_t kMostJpegPixels = 300'000'000;
 /// From here on one picture at a time, whatever the number of threads.
@@ -124,6 +123,36 @@ DecodedPicture DecodeWithoutExtras(QIODevice& device, int longerSide, bool uprig
   return DecodePicture(buffer, longerSide, upright);
 }
 
+/// Large pictures are decoded one at a time.
+std::unique_lock<std::mutex> LockIfLarge(std::int64_t pixels) {
+  static std::mutex largeOnes;
+  return pixels > kLargePixels ? std::unique_lock<std::mutex>(largeOnes) : std::unique_lock<std::mutex>();
+}
+
+DecodedPicture Scaled(DecodedPicture result, const QImage& image, int longerSide) {
+  const QSize fitted = FittedSize(image.size(), longerSide);
+  result.image = InSrgb(
+      fitted == image.size() ? image : image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  return result;
+}
+
+/// As far as it goes.
+DecodedPicture DecodeDamagedPng(QIODevice& device, int longerSide) {
+  MendedPng png = MendPng(device);
+  DecodedPicture result;
+  result.size = png.size;
+  const auto lock = LockIfLarge(static_cast<std::int64_t>(png.size.width()) * png.size.height());
+  QBuffer buffer(&png.bytes);
+  buffer.open(QIODevice::ReadOnly);
+  const QImage image = png.bytes.isEmpty() ? QImage() : QImageReader(&buffer, "png").read();
+  if (image.isNull()) {
+    result.cause = png.isTooLarge ? TooLargeText(png.size) : kDamagedPicture;
+    return result;
+  }
+  result.isDamaged = true;
+  return Scaled(std::move(result), WithoutGaps(image, png), longerSide);
+}
+
 }  // namespace
 
 QSize FittedSize(const QSize& size, int longerSide) {
@@ -145,7 +174,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   Quillet::WatchDecoderNotes();
   const PngState head = StateOfPng(device, PngPart::Head);
   if (head == PngState::Damaged) {
-    return {{}, {}, kDamagedPicture};
+    return DecodeDamagedPng(device, longerSide);
   }
   if (head == PngState::DamagedExtras) {
     return DecodeWithoutExtras(device, longerSide, upright);
@@ -174,17 +203,12 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
   }
   const PngState whole = StateOfPng(device, PngPart::Whole);
   if (whole == PngState::Damaged) {
-    result.cause = kDamagedPicture;
-    return result;
+    return DecodeDamagedPng(device, longerSide);
   }
   if (whole == PngState::DamagedExtras) {
     return DecodeWithoutExtras(device, longerSide, upright);
   }
-  static std::mutex largeOnes;
-  std::unique_lock<std::mutex> oneAtATime(largeOnes, std::defer_lock);
-  if (pixels > kLargePixels) {
-    oneAtATime.lock();
-  }
+  const auto oneAtATime = LockIfLarge(pixels);
   reader.setAutoTransform(upright);
   const QSize wished = FittedSize(size, longerSide);
   if (jpeg && wished != size) {
@@ -199,12 +223,7 @@ DecodedPicture DecodePicture(QIODevice& device, int longerSide, bool upright) {
     result.cause = kDamagedPicture;
     return result;
   }
-  const QSize fitted = FittedSize(image.size(), longerSide);
-  if (fitted != image.size()) {
-    image = image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  }
-  result.image = InSrgb(image);
-  return result;
+  return Scaled(std::move(result), image, longerSide);
 }
 
 QSize PictureSize(QIODevice& device) {

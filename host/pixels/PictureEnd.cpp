@@ -1,3 +1,4 @@
+#include "PngParts.h"
 #include "TiffParts.h"
 
 #include <host/pixels/PictureEnd.h>
@@ -106,6 +107,12 @@ bool EndsTooSoon(const ioPath& file) {
   const bool isTiff = begins(std::string_view("MM\0*", 4)) || begins("MMOR") ||
                       begins(std::string_view("II*\0", 4)) || begins("IIRO") || begins("IIRS");
   return isTiff && TiffEndsTooSoon(source);
+}
+
+bool IsDamagedPng(const ioPath& file) {
+  PhotoSource source;
+  std::string cause;
+  return source.Open(file, cause) && StateOfPng(source, PngPart::Whole) == PngState::Damaged;
 }
 
 }  // namespace Zenvora::Lumidex::Host

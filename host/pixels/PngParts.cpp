@@ -2,8 +2,6 @@
 
 #include "DeviceBytes.h"
 
-#include <zenvora/strandel/PngChunks.h>
-
 #include <boost/crc.hpp>
 
 #include <algorithm>
@@ -31,6 +29,8 @@ bool IsNeeded(const PngChunk& chunk) {
   return chunk.type[0] <= 'Z';
 }
 
+}  // namespace
+
 bool HasItsChecksum(const ByteSource& file, const PngChunk& chunk) {
   constexpr std::uint64_t kPiece = std::uint64_t{64} * 1024;
   constexpr std::uint64_t kLength = 4;
@@ -47,8 +47,6 @@ bool HasItsChecksum(const ByteSource& file, const PngChunk& chunk) {
   }
   return file.At(chunk.body.End(), PngChunks::kChecksum).Big(0, PngChunks::kChecksum) == checksum.checksum();
 }
-
-}  // namespace
 
 PngState StateOfPng(const ByteSource& file, PngPart part) {
   if (!file.At(0, kMark.size()).BeginsWith(kMark)) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zenvora/strandel/ByteView.h>
+#include <zenvora/strandel/PngChunks.h>
 
 #include <QByteArray>
 #include <QIODevice>
@@ -17,8 +18,11 @@ enum class PngState {
   Damaged,        ///< Chunks that the picture needs are not there, or damaged.
 };
 
-/// Whether a decoder may be let at the part. Of a damaged one libpng gives nothing, and for both kinds of
-/// damage it writes to the terminal.
+/// Whether the chunk is what its checksum says.
+bool HasItsChecksum(const Strandel::ByteSource& file, const Strandel::PngChunk& chunk);
+
+/// Whether a decoder may be let at the part: libpng gives nothing of a damaged one (`MendPng` does), and for
+/// both kinds of damage it writes to the terminal.
 PngState StateOfPng(const Strandel::ByteSource& file, PngPart part);
 /// The same of an open device that can seek, which is left where it was. Blocks on a disk.
 PngState StateOfPng(QIODevice& device, PngPart part);

@@ -130,7 +130,7 @@ PhotoOrigin ReadPhotoOrigin(const ioPath& file) {
   }
   if (EndsTooSoon(file)) {
     origin.degradation = kCutText;
-  } else if (tables.isJpeg && IsDamagedJpeg(file)) {
+  } else if (tables.isJpeg ? IsDamagedJpeg(file) : IsDamagedPng(file)) {
     origin.degradation = kDamagedText;
   }
   return origin;

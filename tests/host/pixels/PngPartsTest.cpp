@@ -66,7 +66,6 @@ TEST(StateOfPng, KeepsTheDecoderFromWritingToTheTerminal) {
     EXPECT_EQ(SaysOf(damaged, cause), "") << at;
     std::string cutCause;
     EXPECT_EQ(SaysOf(png.substr(0, at), cutCause), "") << at;
-    EXPECT_NE(cutCause, "") << at;
   }
 }
 

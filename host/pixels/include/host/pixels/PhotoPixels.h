@@ -12,6 +12,8 @@ namespace Zenvora::Lumidex::Host {
 
 /// Of pictures that the decoder holds whole, also where a pixel is but a bit: scaling makes bytes of them.
 constexpr std::int64_t kMostPixels = 100'000'000;
+/// Memory of such a picture, in the form that its decoder gives.
+constexpr std::int64_t kMostBytes = 400'000'000;
 /// The cause for pictures that are beyond such limits.
 std::string TooLargeText(const QSize& size);
 

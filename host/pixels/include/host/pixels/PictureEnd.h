@@ -10,4 +10,8 @@ namespace Zenvora::Lumidex::Host {
 /// Reads the file piece by piece, and all of it only when its last bytes do not tell.
 bool EndsTooSoon(const ioPath& file);
 
+/// True for a PNG file of which parts that its picture needs are missing or not what their checksums say.
+/// Reads the file piece by piece.
+bool IsDamagedPng(const ioPath& file);
+
 }  // namespace Zenvora::Lumidex::Host
