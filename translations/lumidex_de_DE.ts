@@ -2930,6 +2930,10 @@ Die Fotos behalten Schlagwörter und Alben, die Dateien sind neu:</translation>
             <numerusform>Innerhalb dieser Grenzen müssten %1 ältere Schritte vergessen werden:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>Ob ein Foto in den Papierkorb kommt, hängt auch davon ab, welches seiner Gruppe behalten wird, und von Schlagwörtern, Alben, Einstellungen und weiteren Namen der Datei; „lumidex similar --trash --dry-run“ zeigt es.</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2930,6 +2930,10 @@ The photos keep their tags and albums, the files are new:</translation>
             <numerusform>Within these limits, undo would have to forget %1 older steps:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2930,6 +2930,10 @@ Las fotos conservan sus etiquetas y álbumes; los archivos son nuevos:</translat
             <numerusform>Dentro de estos límites, habría que olvidar %1 pasos anteriores:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>Que una foto vaya a la papelera depende también de la que se conserva de su grupo, y de etiquetas, álbumes, ajustes y otros nombres del archivo; «lumidex similar --trash --dry-run» lo muestra.</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

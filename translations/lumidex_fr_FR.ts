@@ -2930,6 +2930,10 @@ Les photos gardent leurs mots-clés et leurs albums, les fichiers sont nouveaux&
             <numerusform>Dans ces limites, il faudrait oublier %1&#xa0;étapes plus anciennes&#xa0;:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>Qu’une photo aille à la corbeille dépend aussi de celle qui est gardée de son groupe, ainsi que des mots-clés, des albums, des réglages et des autres noms du fichier&#xa0;; «&#xa0;lumidex similar --trash --dry-run&#xa0;» le montre.</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

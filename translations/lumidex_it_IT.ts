@@ -2930,6 +2930,10 @@ Le foto mantengono i loro tag e album, i file sono nuovi:</translation>
             <numerusform>Entro questi limiti si dovrebbero dimenticare %1 passi più vecchi:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>Che una foto vada nel cestino dipende anche da quella che si tiene del suo gruppo, e da tag, album, impostazioni e altri nomi del file; «lumidex similar --trash --dry-run» lo mostra.</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -2825,6 +2825,10 @@ The photos keep their tags and albums, the files are new:</source>
             <numerusform>この上限の範囲では、以前の操作%1件を忘れる必要があります:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>写真をごみ箱に移動するかどうかは、そのグループで残す写真や、タグ、アルバム、設定、ファイルの別名によっても変わります。「lumidex similar --trash --dry-run」で確認できます。</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

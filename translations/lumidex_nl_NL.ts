@@ -2930,6 +2930,10 @@ De foto’s houden hun tags en albums, de bestanden zijn nieuw:</translation>
             <numerusform>Binnen deze grenzen zouden %1 oudere stappen moeten worden vergeten:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>Of een foto naar de prullenbak gaat, hangt ook af van de foto die van de groep bewaard blijft, en van tags, albums, instellingen en andere namen van het bestand; ‘lumidex similar --trash --dry-run’ toont het.</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

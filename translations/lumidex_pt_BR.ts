@@ -2930,6 +2930,10 @@ As fotos mantêm suas etiquetas e álbuns, os arquivos são novos:</translation>
             <numerusform>Dentro destes limites, seria preciso esquecer %1 etapas mais antigas:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>Se uma foto vai para a lixeira depende também da que é mantida do seu grupo, e de etiquetas, álbuns, ajustes e outros nomes do arquivo; “lumidex similar --trash --dry-run” mostra isso.</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

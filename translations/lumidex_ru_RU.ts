@@ -3035,6 +3035,10 @@ The photos keep their tags and albums, the files are new:</source>
             <numerusform>В этих пределах пришлось бы забыть %1 более ранних шагов:</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Whether a photo goes to the trash also depends on the one that is kept of its group, and on tags, albums, settings and second names; &quot;lumidex similar --trash --dry-run&quot; tells.</source>
+        <translation>Попадёт ли фотография в корзину, зависит и от того, какая из её группы остаётся, и от меток, альбомов, настроек и других имён файла; это показывает «lumidex similar --trash --dry-run».</translation>
+    </message>
 </context>
 <context>
     <name>Zenvora::Lumidex::Utils</name>

@@ -1,7 +1,9 @@
 #include <host/base/FolderEntries.h>
 #include <host/base/LinkSearch.h>
+#include <host/base/PathText.h>
 
 #include <set>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -39,6 +41,24 @@ std::vector<ioPath> FindLinks(const std::vector<ioPath>& flat, const std::vector
     }
   }
   return {links.begin(), links.end()};
+}
+
+std::size_t LastNameOf(const std::string& text) {
+  const std::size_t separator = text.find_last_of(kSeparators);
+  const std::size_t begin = separator == std::string::npos ? 0 : separator + 1;
+  const std::string_view name = std::string_view(text).substr(begin);
+  return name.empty() || name == "." || name == ".." ? std::string::npos : begin;
+}
+
+std::optional<ioPath> TargetOfLink(const ioPath& link, const std::string& text) {
+  const std::size_t name = LastNameOf(text);
+  if (name == std::string::npos) {
+    return std::nullopt;
+  }
+  std::error_code error;
+  // An absolute name stands for itself.
+  const ioPath folder = (link.parent_path() / ioPath(text)).parent_path().canonical(error);
+  return error ? std::nullopt : std::make_optional(folder / ioPath(text.substr(name)));
 }
 
 }  // namespace Zenvora::Lumidex::Host

@@ -4,6 +4,7 @@
 #include <host/base/HostError.h>
 #include <host/base/RenameNames.h>
 #include <host/rename/RenamePlan.h>
+#include <host/scan/FileVerdicts.h>
 #include <host/shots/ShotNames.h>
 
 #include <algorithm>
@@ -144,8 +145,7 @@ class Planner {
     if (!given.link.empty() &&
         std::any_of(files_.begin() + static_cast<std::ptrdiff_t>(shot.firstFile),
                     files_.begin() + static_cast<std::ptrdiff_t>(shot.endFile), moves)) {
-      Fail(shot, Kind::Torn, given.set.files.front().path, {}, given.link,
-           "has a link of the same name beside it, which would not be renamed");
+      Fail(shot, Kind::Torn, given.set.files.front().path, {}, given.link, kTornFromLink);
     }
     if (!named) {
       Fail(shot, Kind::NoDate, given.set.files.front().path, {}, {},

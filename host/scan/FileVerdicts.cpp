@@ -1,4 +1,7 @@
+#include <host/base/LinkSearch.h>
+#include <host/base/SymbolicLinks.h>
 #include <host/scan/FileVerdicts.h>
+#include <host/shots/ShotNames.h>
 
 #include <zenvora/core/ErrorText.h>
 #include <zenvora/core/FileProbes.h>
@@ -7,6 +10,7 @@
 #include <zenvora/strandel/SidecarEdit.h>
 #include <zenvora/tavolin/Trash.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <filesystem>
@@ -77,6 +81,10 @@ Kind KindOf(const ioPath& file, Kind otherwise) {
     return Kind::NoFile;
   }
   return OpensForReading(file) ? otherwise : Kind::Unreadable;
+}
+
+FileVerdict Stays(const ioPath& photo, Kind kind, const std::string& why) {
+  return Refusal(kind, photo.utf8string() + " is kept: " + why + ".");
 }
 
 }  // namespace
@@ -163,20 +171,66 @@ FileVerdict JudgeRename(const ioPath& file) {
                        : Refusal(Kind::Folder, "Cannot rename " + file.utf8string() + ": " + fault);
 }
 
-FileVerdict JudgeTrash(const ioPath& photo) {
-  const auto stays = [&photo](Kind kind, const std::string& why) {
-    return Refusal(kind, photo.utf8string() + " is kept: " + why + ".");
-  };
-  if (Tavolin::LiesInTrash(photo)) {
-    return stays(Kind::Kept, "it is already in a trash");
+TornLinks::TornLinks(const std::vector<ioPath>& links) {
+  for (const ioPath& link : links) {
+    const std::string name = link.filename().utf8string();
+    if (name.front() != '.' && IsShotFile(name)) {
+      byShot_.emplace(ShotKey(link), link);
+    }
   }
-  if (IsLink(photo)) {
-    return stays(Kind::Kept, "it is a link to another file");
-  }
-  if (const std::string fault = MovingFault(photo); !fault.empty()) {
-    return stays(Kind::Folder, fault);
+}
+
+ioPath TornLinks::Of(const ShotSet& shot) const {
+  for (auto [at, end] = byShot_.equal_range(ShotKey(shot.files.front().path)); at != end; ++at) {
+    const auto text = ReadSymbolicLink(at->second);
+    const auto target = text ? TargetOfLink(at->second, *text) : std::nullopt;
+    const bool isOwn = target && std::any_of(shot.files.begin(), shot.files.end(),
+                                             [&](const ShotFile& file) { return file.path == *target; });
+    if (!isOwn) {
+      return at->second;
+    }
   }
   return {};
+}
+
+FileVerdict TornLinks::Judge(const ShotSet& shot) const {
+  const ioPath link = Of(shot);
+  return link.empty() ? FileVerdict()
+                      : Refusal(Kind::Torn, shot.files.front().path.utf8string() + ' ' + kTornFromLink +
+                                                ": " + link.filename().utf8string());
+}
+
+ioPath LinkedFiles::LinkTo(const FileState& file) {
+  if (!links_) {
+    links_.emplace();
+    for (const ioPath& link : FindLinks({}, {folders_.begin(), folders_.end()})) {
+      const FileState state = QueryFile(link);
+      if (state.kind == FileState::Kind::File && !Tavolin::LiesInTrash(link)) {
+        links_->emplace(state.identity, link);
+      }
+    }
+  }
+  const auto link = links_->find(file.identity);
+  return link == links_->end() ? ioPath() : link->second;
+}
+
+FileVerdict LinkedFiles::Judge(const ioPath& file, const FileState& state) {
+  const ioPath link = LinkTo(state);
+  return link.empty() ? FileVerdict()
+                      : Stays(file, Kind::Kept, "the link " + link.utf8string() + " leads to it");
+}
+
+FileVerdict JudgeTrash(const ioPath& photo, LinkedFiles& links) {
+  if (Tavolin::LiesInTrash(photo)) {
+    return Stays(photo, Kind::Kept, "it is already in a trash");
+  }
+  if (IsLink(photo)) {
+    return Stays(photo, Kind::Kept, "it is a link to another file");
+  }
+  if (const std::string fault = MovingFault(photo); !fault.empty()) {
+    return Stays(photo, Kind::Folder, fault);
+  }
+  return links.Judge(photo, QueryFile(photo));
 }
 
 FileVerdict JudgeImport(const ioPath& file) {

@@ -1,4 +1,5 @@
 #include <host/base/FolderEntries.h>
+#include <host/base/LinkSearch.h>
 #include <host/scan/PhotoChoice.h>
 #include <host/scan/SaveChecks.h>
 #include <host/scan/Scanner.h>
@@ -64,15 +65,8 @@ class Checker {
     Gather();
     CheckImport();
     CheckLeft();
-    for (const ImportSource& file : photos_.files) {
-      // No rename changes the name of a link.
-      if (!LeadsElsewhere(file.path)) {
-        Take(FileAct::Rename, file.path, JudgeRename(file.path));
-      }
-      if (file.isPhoto) {
-        Take(FileAct::Trash, file.path, JudgeTrash(file.path));
-      }
-    }
+    CheckRename();
+    CheckTrash();
     CheckEdits();
     for (auto& [place, finding] : findings_) {
       report_.findings.push_back(std::move(finding));
@@ -115,6 +109,48 @@ class Checker {
     finding.path = file;
     finding.text = verdict.text;
     finding.acts.insert(act);
+  }
+
+  std::set<ioPath> Folders() const {
+    std::set<ioPath> folders;
+    for (const ImportSource& file : photos_.files) {
+      folders.insert(file.path.parent_path());
+    }
+    return folders;
+  }
+
+  /// No rename changes the name of a link.
+  void CheckRename() {
+    if (!Wants(FileAct::Rename)) {
+      return;
+    }
+    std::map<std::size_t, ShotSet> shots;
+    for (const ImportSource& file : photos_.files) {
+      if (!LeadsElsewhere(file.path)) {
+        Take(FileAct::Rename, file.path, JudgeRename(file.path));
+        shots[file.shot].files.push_back({file.path, file.suffix});
+      }
+    }
+    const std::set<ioPath> folders = Folders();
+    const TornLinks links(FindLinks({folders.begin(), folders.end()}, {}));
+    for (const auto& [number, shot] : shots) {
+      const ioPath& first = shot.files.front().path;
+      if (IsPhotoName(first)) {
+        Take(FileAct::Rename, first, links.Judge(shot));
+      }
+    }
+  }
+
+  void CheckTrash() {
+    if (!Wants(FileAct::Trash)) {
+      return;
+    }
+    LinkedFiles links(Folders());
+    for (const ImportSource& file : photos_.files) {
+      if (file.isPhoto) {
+        Take(FileAct::Trash, file.path, JudgeTrash(file.path, links));
+      }
+    }
   }
 
   static FileVerdict Refusal(Kind kind, const std::string& text) {

@@ -1,11 +1,9 @@
 #include "TrashFaults.h"
 
-#include <host/base/LinkSearch.h>
 #include <host/pixels/JudgedPictures.h>
 #include <host/trash/TrashPlan.h>
 
 #include <zenvora/core/ErrorText.h>
-#include <zenvora/tavolin/Trash.h>
 
 #include <filesystem>
 
@@ -34,23 +32,6 @@ std::string WhatIsWrong(const FileState& state) {
 
 std::string Stays(const ioPath& photo, const std::string& why) {
   return photo.utf8string() + " is kept: " + why + ".";
-}
-
-LinkedFiles FindLinkedFiles(const std::set<ioPath>& folders) {
-  LinkedFiles linked;
-  for (const ioPath& link : FindLinks({}, {folders.begin(), folders.end()})) {
-    const FileState state = QueryFile(link);
-    if (state.kind == FileState::Kind::File && !Tavolin::LiesInTrash(link)) {
-      linked.emplace(state.identity, link);
-    }
-  }
-  return linked;
-}
-
-std::string FindLinkFault(const ioPath& file, const FileState& state, const LinkedFiles& links) {
-  const auto link = links.find(state.identity);
-  return link == links.end() ? std::string()
-                             : Stays(file, "the link " + link->second.utf8string() + " leads to it");
 }
 
 std::string FindTrashFault(const SeenFile& photo, const SeenFile& kept) {

@@ -5,8 +5,6 @@
 #include <zenvora/core/FileState.h>
 #include <zenvora/core/ioPath.h>
 
-#include <map>
-#include <set>
 #include <string>
 
 namespace Zenvora::Lumidex::Host {
@@ -22,14 +20,5 @@ std::string WhatIsWrong(const FileState& state);
 std::string Stays(const ioPath& photo, const std::string& why);
 
 using FileIdentity = decltype(FileState::identity);
-/// Files with the links that lead to them.
-using LinkedFiles = std::map<FileIdentity, ioPath>;
-
-/// What links in and below `folders` lead to: somebody chose these files and no other of their groups. Blocks
-/// on the disk.
-LinkedFiles FindLinkedFiles(const std::set<ioPath>& folders);
-
-/// Why a file stays that one of these links leads to; empty: none does.
-std::string FindLinkFault(const ioPath& file, const FileState& state, const LinkedFiles& links);
 
 }  // namespace Zenvora::Lumidex::Host

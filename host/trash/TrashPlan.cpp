@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <map>
-#include <optional>
 #include <set>
 #include <unordered_map>
 #include <utility>
@@ -27,8 +26,9 @@ SeenFile KnownAs(const PhotoRecord& photo) {
 
 class Planner {
  public:
-  Planner(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore)
-      : groups_(groups), choice_(choice), hasMore_(hasMore) {
+  Planner(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore,
+          std::set<ioPath> folders)
+      : groups_(groups), choice_(choice), hasMore_(hasMore), links_(WithThoseOf(groups, std::move(folders))) {
     for (const SuggestedGroup& group : groups) {
       const FileState state = QueryFile(KeptOf(group).photo.path);
       if (state.kind == FileState::Kind::File) {
@@ -54,6 +54,15 @@ class Planner {
   }
 
  private:
+  static std::set<ioPath> WithThoseOf(const std::vector<SuggestedGroup>& groups, std::set<ioPath> folders) {
+    for (const SuggestedGroup& group : groups) {
+      for (const SimilarMember& member : group.group.members) {
+        folders.insert(member.photo.path.parent_path());
+      }
+    }
+    return folders;
+  }
+
   static const SimilarMember& KeptOf(const SuggestedGroup& group) {
     return group.group.members[group.keeper.index];
   }
@@ -102,13 +111,16 @@ class Planner {
     const PhotoRecord& photo = group.group.members[index].photo;
     const ioPath& kept = KeptOf(group).photo.path;
     const FileState state = QueryFile(photo.path);
-    if (!fault.text.empty()) {
+    // What holds whichever photo is kept comes first: `check` says it, too.
+    FileVerdict verdict =
+        state.kind == FileState::Kind::File ? JudgeTrash(photo.path, links_) : FileVerdict();
+    if (verdict.IsRefused()) {
+      plan_.stays.push_back(
+          {photo.path, std::move(verdict.text), verdict.kind == FileVerdict::Kind::Kept, {}});
+    } else if (!fault.text.empty()) {
       Stay(photo.path, fault.text, fault.isRule);
     } else if (!IsAsKnown(state, KnownAs(photo))) {
       Stay(photo.path, "it " + WhatIsWrong(state), false);
-    } else if (FileVerdict verdict = JudgeTrash(photo.path); verdict.IsRefused()) {
-      plan_.stays.push_back(
-          {photo.path, std::move(verdict.text), verdict.kind == FileVerdict::Kind::Kept, {}});
     } else if (kept_.count(state.identity) > 0) {
       Stay(photo.path, "it is another name of a file that is kept", true);
     } else if (ShotKey(photo.path) == ShotKey(kept)) {
@@ -121,27 +133,11 @@ class Planner {
     } else if (hasMore_ && hasMore_(photo, KeptOf(group).photo)) {
       Stay(photo.path,
            "it has tags or albums that the photo to keep, " + kept.utf8string() + ", does not have", true);
-    } else if (std::string linked = FindLinkFault(photo.path, state, Links()); !linked.empty()) {
-      plan_.stays.push_back({photo.path, std::move(linked), true, {}});
     } else if (IsRawName(photo.path.filename().utf8string())) {
       raws.insert(index);
     } else {
       Go(group, index);
     }
-  }
-
-  /// In or below folders of the photos.
-  const LinkedFiles& Links() {
-    if (!links_) {
-      std::set<ioPath> folders;
-      for (const SuggestedGroup& group : groups_) {
-        for (const SimilarMember& member : group.group.members) {
-          folders.insert(member.photo.path.parent_path());
-        }
-      }
-      links_ = FindLinkedFiles(folders);
-    }
-    return *links_;
   }
 
   static PictureVerdict VerdictOf(const SuggestedGroup& group, std::size_t index) {
@@ -246,7 +242,7 @@ class Planner {
 
   void AddAttached(const TrashBeside& beside) {
     const FileState state = QueryFile(beside.file);
-    if (!GoesAlong(beside) || state.kind != FileState::Kind::File || Links().count(state.identity) > 0) {
+    if (!GoesAlong(beside) || state.kind != FileState::Kind::File || !links_.LinkTo(state).empty()) {
       return;
     }
     // With the last of them.
@@ -265,8 +261,7 @@ class Planner {
   const TrashChoice choice_;
   const HasMore& hasMore_;
   std::set<FileIdentity> kept_;
-  /// Files to which links lead.
-  std::optional<LinkedFiles> links_;
+  LinkedFiles links_;
   std::unordered_map<ioPath, std::size_t> going_;
   TrashPlan plan_;
 };
@@ -298,8 +293,9 @@ std::uint64_t TrashPlan::CountBytes() const {
   return bytes;
 }
 
-TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore) {
-  return Planner(groups, choice, hasMore).Run();
+TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice, const HasMore& hasMore,
+                    const std::set<ioPath>& folders) {
+  return Planner(groups, choice, hasMore, folders).Run();
 }
 
 }  // namespace Zenvora::Lumidex::Host

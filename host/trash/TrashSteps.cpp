@@ -2,6 +2,7 @@
 
 #include <host/base/HostError.h>
 #include <host/catalogue/CatalogueRows.h>
+#include <host/scan/FileVerdicts.h>
 #include <host/shots/ShotNames.h>
 #include <host/trash/TrashSteps.h>
 
@@ -54,22 +55,22 @@ class Links {
         kept_.insert(kept.identity);
       }
     }
-    linked_ = FindLinkedFiles(folders);
+    linked_.emplace(std::move(folders));
   }
 
   /// Why the file stays, as the plan of the first run would say; empty: nothing is in the way.
-  std::string FindFault(const ioPath& file) const {
+  std::string FindFault(const ioPath& file) {
     const FileState state = QueryFile(file);
     if (state.kind != FileState::Kind::File) {
       return {};
     }
     return kept_.count(state.identity) > 0 ? Stays(file, "it is another name of a file that is kept")
-                                           : FindLinkFault(file, state, linked_);
+                                           : linked_->Judge(file, state).text;
   }
 
  private:
   std::set<FileIdentity> kept_;
-  LinkedFiles linked_;
+  std::optional<LinkedFiles> linked_;
 };
 
 }  // namespace
@@ -150,7 +151,7 @@ UndoResult TrashSteps::Reverse(StepRow& step, bool redo, const std::atomic<bool>
   if (!redo) {
     std::reverse(files.begin(), files.end());
   }
-  const std::optional<Links> links = redo ? std::make_optional<Links>(files) : std::nullopt;
+  std::optional<Links> links = redo ? std::make_optional<Links>(files) : std::nullopt;
   std::size_t looked = 0;
   bool anyHope = false;
   for (TrashedFile& file : files) {

@@ -6,6 +6,7 @@
 
 #include <zenvora/core/FileState.h>
 
+#include <filesystem>
 #include <set>
 
 #ifdef _WIN32
@@ -129,9 +130,16 @@ class CheckTruthOfOthers : public TruthTest {
       EXPECT_EQ(QueryFile(ioPath(gone)).kind, FileState::Kind::Missing) << gone;
     }
     for (const auto& entry : wet["stays"].toArray()) {
-      const auto refused = checked.find(PathOf(entry.toObject()));
+      const std::string path = PathOf(entry.toObject());
+      const std::string cause = entry.toObject()["cause"].toString().toStdString();
+      const auto refused = checked.find(path);
       if (refused != checked.end()) {
-        EXPECT_EQ(entry.toObject()["cause"].toString().toStdString(), refused->second);
+        EXPECT_EQ(cause, refused->second);
+      } else {
+        // All else hangs on the photo that is kept.
+        EXPECT_THAT(cause, testing::AnyOf(testing::HasSubstr("photo to keep"), testing::HasSubstr("kept")))
+            << path;
+        EXPECT_THAT(cause, testing::Not(testing::HasSubstr("leads to it")));
       }
     }
     if (wet["photosMoved"].toInt() > 0) {
@@ -199,6 +207,56 @@ TEST_F(CheckTruthOfTrash, KeepsLinksOutOfTheTrash) {
   EXPECT_EQ(ExpectOneTruthOfTrash().size(), 0U);
   EXPECT_EQ(Findings(Check("trash"), "text").count(In("link.jpg")), 1U);
   EXPECT_EQ(ReadFile(other), ReadFile(photo));
+}
+
+/// Links, tags, albums, second names and settings: all that keeps a copy.
+TEST_F(CheckTruthOfTrash, TellsWhatStaysForItselfAndThatTheRestHangsOnGroups) {
+  const ioPath photo = Photo("whole.jpg");
+  const std::string content = ReadFile(photo);
+  for (const char* const name : {"plain", "linked", "tagged", "rated"}) {
+    tree.Write(std::string("photos/") + name + ".jpg", content);
+  }
+  tree.Write("photos/rated.xmp", Sidecar("xmp:Rating=\"5\""));
+  std::filesystem::create_hard_link(photo.for_system(), (Photos() / "second.jpg").for_system());
+  const ioPath link = tree.MakeFolder("photos/best") / "favourite.jpg";
+  LUMIDEX_LINK_OR_SKIP(Photos() / "linked.jpg", link);
+  Run({"scan", "photos"});
+  ASSERT_EQ(Run({"tag", "photos/tagged.jpg", "+beach"}).exitCode, 0);
+  const PathSet gone = ExpectOneTruthOfTrash();
+  EXPECT_EQ(gone.count(In("plain.jpg")), 1U);
+  EXPECT_EQ(gone.count(In("linked.jpg")) + gone.count(In("rated.jpg")), 0U);
+  const Sentences checked = Findings(Check("trash"), "text");
+  EXPECT_EQ(checked.at(In("linked.jpg")),
+            In("linked.jpg") + " is kept: the link " + link.utf8string() + " leads to it.");
+  EXPECT_EQ(checked.size(), 1U);
+  EXPECT_THAT(Run({"check", "--for", "trash", "photos"}).out,
+              testing::HasSubstr("also depends on the one that is kept of its group"));
+  EXPECT_THAT(Run({"check", "--for", "rename", "photos"}).out,
+              testing::Not(testing::HasSubstr("of its group")));
+}
+
+/// Settings that lie elsewhere, and a raw file whose JPEG is gone.
+TEST_F(CheckTruthOfOthers, TellsOfLinksFromWhichARenameWouldTearPhotos) {
+  Photo("a.jpg");
+  Photo("b.jpg");
+  Photo("own.jpg");
+  Photo("lone.jpg");
+  tree.Write("elsewhere/a.xmp", Sidecar("xmp:Rating=\"1\""));
+  LUMIDEX_LINK_OR_SKIP(tree.Path("elsewhere/a.xmp"), Photos() / "a.xmp");
+  LUMIDEX_LINK_OR_SKIP(Photos() / "missing.dng", Photos() / "b.dng");
+  LUMIDEX_LINK_OR_SKIP(Photos() / "own.jpg", Photos() / "own.png");
+  LUMIDEX_LINK_OR_SKIP(Photos() / "missing.jpg", Photos() / "torn.jpg");
+  const QJsonObject dry = Run({"rename", "--json", "--pattern", "R_{name}", "photos", "--dry-run"}).Json();
+  Sentences told;
+  for (const auto& entry : dry["problems"].toArray()) {
+    const QJsonObject problem = entry.toObject();
+    EXPECT_EQ(problem["kind"].toString(), QStringLiteral("torn"));
+    told[PathOf(problem)] = PathOf(problem) + ' ' + problem["cause"].toString().toStdString() + ": " +
+                            ioPath(problem["other"].toString()).filename().utf8string();
+  }
+  EXPECT_EQ(told.size(), 2U);
+  EXPECT_EQ(Findings(Check("rename"), "text"), told);
+  EXPECT_EQ(Run({"check", "--for", "rename", "photos"}).exitCode, 1);
 }
 
 TEST_F(CheckTruthOfOthers, AgreesWithRenameAndImportOnRealPhotos) {

@@ -43,7 +43,10 @@ pictures are listed on removable storage and counted elsewhere.
 For rotate, shift-date and set-date each photo and its sidecar are read
 completely and edited in memory, so the answer is certain. Problems that depend
 on the arguments of a command (dates after the year 9999, names that are taken)
-are not listed; --dry-run of the command shows them.
+are not listed; --dry-run of the command shows them. What similar --trash moves
+also depends on the photo that is kept of each group: photos with tags, albums
+or settings that it does not have stay, and so do second names of its file and
+raw files if no raw file is kept; similar --trash --dry-run lists them.
 
 Examples:
   lumidex check ~/Pictures
@@ -126,6 +129,8 @@ const char* KindName(Kind kind) {
       return "sidecar";
     case Kind::Kept:
       return "kept";
+    case Kind::Torn:
+      return "torn";
     case Kind::Room:
       return "room";
     case Kind::Done:
@@ -230,7 +235,8 @@ std::string EditRoomText(const Host::JournalRoom& room) {
   return text.empty() ? text : Say(Words::tr("If all these photos are edited at once:")) + '\n' + text + '\n';
 }
 
-std::string ReportText(const CheckReport& report, const Host::JournalRoom& room) {
+std::string ReportText(const CheckReport& report, const std::set<FileAct>& acts,
+                       const Host::JournalRoom& room) {
   if (report.files == 0 && report.findings.empty()) {
     return {};
   }
@@ -252,8 +258,15 @@ std::string ReportText(const CheckReport& report, const Host::JournalRoom& room)
                                                Amount(report.left.size())),
                                      {GroupDigits(report.left.size())}) +
                                      '\n';
+  const std::string groups =
+      acts.count(FileAct::Trash) == 0
+          ? std::string()
+          : Say(Words::tr(
+                "Whether a photo goes to the trash also depends on the one that is kept of its group, and on "
+                "tags, albums, settings and second names; \"lumidex similar --trash --dry-run\" tells.")) +
+                '\n';
   return (report.volumes.empty() ? "" : VolumesText(report)) + RefusedText(report) + roomText + left +
-         Say(Words::tr("%1; %2", "files checked; outcome"), {checked, outcome}) + '\n';
+         groups + Say(Words::tr("%1; %2", "files checked; outcome"), {checked, outcome}) + '\n';
 }
 
 ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
@@ -270,7 +283,7 @@ ExitCode RunCheck(const CheckArguments& arguments, Session& session) {
   ThrowIfInterrupted(Say(Words::tr("Interrupted. Nothing was changed.")).c_str());
   const Host::JournalRoom room = RoomFor(session, report.edited, RoomWish());
   session.output.Print(session.globals.json ? Document(report, options.acts, room)
-                                            : ReportText(report, room));
+                                            : ReportText(report, options.acts, room));
   if (report.files == 0) {
     session.console.Note(Say(Words::tr("There are no photos in the given folders.")));
   }

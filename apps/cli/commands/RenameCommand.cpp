@@ -133,10 +133,11 @@ class RenameRun {
     view_.linksNamed = choice.linksNamed;
     std::vector<Host::RenameShot> shots;
     shots.reserve(choice.named.size());
+    const Host::TornLinks torn(choice.links);
     for (Host::ShotSet& set : Host::GroupShots(std::move(choice.named), choice.files)) {
-      shots.push_back({std::move(set), {}, {}});
+      ioPath link = torn.Of(set);
+      shots.push_back({std::move(set), {}, {}, std::move(link)});
     }
-    Host::MarkTornLinks(choice.links, shots);
     if (pattern_.NeedsDate() || arguments_.order == "date") {
       FindDates(shots);
     }

@@ -47,11 +47,16 @@ class PhotoNotes {
 
 TrashView Plan(const SimilarView& view, const SimilarArguments& arguments) {
   const auto choice = arguments.alike ? Host::TrashChoice::SameOrAlike : Host::TrashChoice::Same;
-  const PhotoNotes notes(Host::Catalogue(view.catalogue, Host::Catalogue::Mode::ReadOnly));
+  const Host::Catalogue catalogue(view.catalogue, Host::Catalogue::Mode::ReadOnly);
+  const PhotoNotes notes(catalogue);
+  std::set<ioPath> folders;
+  for (const Host::PhotoRecord& photo : catalogue.Photos()) {
+    folders.insert(photo.path.parent_path());
+  }
   const auto hasMore = [&notes](const Host::PhotoRecord& photo, const Host::PhotoRecord& kept) {
     return notes.HasMore(photo, kept);
   };
-  TrashView trash = MakeTrashView(Host::PlanTrash(view.groups, choice, hasMore), arguments.dryRun);
+  TrashView trash = MakeTrashView(Host::PlanTrash(view.groups, choice, hasMore, folders), arguments.dryRun);
   trash.alike = arguments.alike;
   return trash;
 }

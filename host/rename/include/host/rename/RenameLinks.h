@@ -14,8 +14,4 @@ namespace Zenvora::Lumidex::Host {
 /// disk.
 std::vector<RenameLink> PlanLinks(const std::vector<ioPath>& links, const std::vector<RenameMove>& renames);
 
-/// Marks the shots that have a link of their name beside them, such as settings that lie elsewhere: links
-/// keep their names, so that the two would be torn apart. A link that leads to the shot itself does no harm.
-void MarkTornLinks(const std::vector<ioPath>& links, std::vector<RenameShot>& shots);
-
 }  // namespace Zenvora::Lumidex::Host

@@ -21,7 +21,7 @@ struct RenameShot {
   QDateTime taken;
   /// Why that is not known, in English; empty: there is no photo in it.
   std::string dateFault = {};
-  /// A symbolic link of the shot's name, from which it would be torn; empty: there is none.
+  /// As of `TornLinks`; empty: there is none.
   ioPath link = {};
 };
 

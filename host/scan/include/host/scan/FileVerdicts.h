@@ -1,11 +1,19 @@
 #pragma once
 
 #include <host/shots/PhotoSidecars.h>
+#include <host/shots/ShotSets.h>
 
+#include <zenvora/core/FileState.h>
 #include <zenvora/core/ioPath.h>
 #include <zenvora/strandel/PhotoEdit.h>
 
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <set>
 #include <string>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace Zenvora::Lumidex::Host {
@@ -28,6 +36,7 @@ struct FileVerdict {
     Folder,      ///< Its folder does not let go of it or takes no new file.
     Sidecar,     ///< What lies beside it cannot be edited along with it.
     Kept,        ///< It is never moved to the trash.
+    Torn,        ///< Its name changes, and that of a link beside it does not.
     Room,        ///< Its disk has no room for the new version beside the old one.
   };
   Kind kind = Kind::Done;
@@ -60,8 +69,43 @@ FileVerdict JudgeFailure(const ioPath& photo, const std::string& failure);
 /// a file, so that write protection does not matter. Of a link it is the link that is renamed.
 FileVerdict JudgeRename(const ioPath& file);
 
+/// The words for a shot that is not renamed on account of a link.
+constexpr char kTornFromLink[] = "has a link of the same name beside it, which would not be renamed";
+
+/// Symbolic links that bear the names of shots beside them, such as settings that lie elsewhere: links keep
+/// their names, so that a rename would tear the two apart.
+class TornLinks {
+ public:
+  /// Blocks on the disk, as `Of`.
+  explicit TornLinks(const std::vector<ioPath>& links);
+
+  /// A link of the shot's name that leads to none of its files; empty: there is none.
+  ioPath Of(const ShotSet& shot) const;
+  /// Whether any new name of the shot would be refused.
+  FileVerdict Judge(const ShotSet& shot) const;
+
+ private:
+  std::unordered_multimap<std::string, ioPath> byShot_;
+};
+
+/// The files that symbolic links in some folders, and below them, lead to. Blocks on the disk when it is
+/// first asked; links that lie in a trash do not count.
+class LinkedFiles {
+ public:
+  explicit LinkedFiles(std::set<ioPath> folders) : folders_(std::move(folders)) {}
+
+  /// A link that leads to the file; empty: there is none.
+  ioPath LinkTo(const FileState& file);
+  /// It stays out of the trash when there is one: somebody chose this file and no other of its group.
+  FileVerdict Judge(const ioPath& file, const FileState& state);
+
+ private:
+  const std::set<ioPath> folders_;
+  std::optional<std::map<std::pair<std::uint64_t, std::uint64_t>, ioPath>> links_;
+};
+
 /// Whether the photo could go to the trash when a group keeps another one in its stead.
-FileVerdict JudgeTrash(const ioPath& photo);
+FileVerdict JudgeTrash(const ioPath& photo, LinkedFiles& links);
 
 /// The words for a file that an import leaves behind.
 constexpr char kCannotBeRead[] = "It cannot be read";

@@ -19,7 +19,7 @@ struct RenameChoice {
   std::vector<ioPath> files;
   /// Everything else in their folders, these files and links too; for `MakeRenamePlan`.
   std::vector<ioPath> entries;
-  /// All symbolic links there, and below the folders that were named; for `PlanLinks` and `MarkTornLinks`.
+  /// All symbolic links there, and below the folders that were named; for `PlanLinks` and `TornLinks`.
   std::vector<ioPath> links;
   /// Links to files among what was named: they keep their names.
   std::size_t linksNamed = 0;

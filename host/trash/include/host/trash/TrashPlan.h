@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -63,7 +64,8 @@ using HasMore = std::function<bool(const PhotoRecord& photo, const PhotoRecord& 
 /// - what is the very file that is kept here or in another group, under whatever name, or a link;
 /// - other formats of the shot that the kept photo is of, as `GroupShots` has it;
 /// - raw files, unless a raw file of the group stays;
-/// - what lies in a trash, and all of a group whose kept photo does, or is a link;
+/// - what `JudgeTrash` refuses: what lies in a trash, is a link, has a link that leads to it; and all of a
+/// group whose kept photo does, or is a link;
 /// - what is not on the disk as the catalogue knows it, and all of a group whose kept photo is not: then
 ///   nobody knows whether they still show the same;
 /// - all of a group whose kept photo breaks off before the end of its picture;
@@ -76,8 +78,9 @@ using HasMore = std::function<bool(const PhotoRecord& photo, const PhotoRecord& 
 /// else of the shot stays that could need them. Changes nothing; blocks on the disk. docs/decisions/trash.md
 /// has the reasons.
 /// `hasMore`: whether a photo has tags or albums that the kept one has not; then it stays. Empty: none has.
+/// `folders`: where links are looked for besides the folders of the photos and what is below them.
 TrashPlan PlanTrash(const std::vector<SuggestedGroup>& groups, TrashChoice choice = TrashChoice::Same,
-                    const HasMore& hasMore = nullptr);
+                    const HasMore& hasMore = nullptr, const std::set<ioPath>& folders = {});
 
 /// Why the photo must not go now, in an English sentence; empty: it may. To be asked right before it goes.
 /// Blocks on the disk.
