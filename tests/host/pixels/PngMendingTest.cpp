@@ -25,8 +25,11 @@ constexpr int kHeight = 157;
 
 /// A picture with noise, so that all rows pack alike.
 std::uint8_t Sample(int x, int y, int channel) {
-  const auto noise = (static_cast<std::uint32_t>(x * 971 + y * 7919 + channel) * 2654435761U) >> 28U;
-  return static_cast<std::uint8_t>(static_cast<std::uint32_t>((x + y + channel * 40) / 3 & 0xF0) | noise);
+  const auto number = [](int value) { return static_cast<std::uint32_t>(value); };
+  std::uint32_t noise = number(x) * 73856093U ^ number(y) * 19349663U ^ number(channel) * 83492791U;
+  noise = (noise ^ noise >> 13U) * 0x5BD1E995U;
+  return static_cast<std::uint8_t>((number((x + y + channel * 40) / 3) & 0xC0U) |
+                                   ((noise ^ noise >> 15U) & 0x3FU));
 }
 
 void AddNumber(std::string& bytes, std::uint64_t number) {
