@@ -196,7 +196,7 @@ ioPath TornLinks::Of(const ShotSet& shot) const {
 FileVerdict TornLinks::Judge(const ShotSet& shot) const {
   const ioPath link = Of(shot);
   return link.empty() ? FileVerdict()
-                      : Refusal(Kind::Torn, shot.files.front().path.utf8string() + ' ' + kTornFromLink +
+                      : Refusal(Kind::Torn, shot.files.front().path.utf8string() + ": " + kTornFromLink +
                                                 ": " + link.filename().utf8string());
 }
 

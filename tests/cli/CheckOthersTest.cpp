@@ -251,7 +251,7 @@ TEST_F(CheckTruthOfOthers, TellsOfLinksFromWhichARenameWouldTearPhotos) {
   for (const auto& entry : dry["problems"].toArray()) {
     const QJsonObject problem = entry.toObject();
     EXPECT_EQ(problem["kind"].toString(), QStringLiteral("torn"));
-    told[PathOf(problem)] = PathOf(problem) + ' ' + problem["cause"].toString().toStdString() + ": " +
+    told[PathOf(problem)] = PathOf(problem) + ": " + problem["cause"].toString().toStdString() + ": " +
                             ioPath(problem["other"].toString()).filename().utf8string();
   }
   EXPECT_EQ(told.size(), 2U);
