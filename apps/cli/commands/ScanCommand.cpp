@@ -104,8 +104,7 @@ ExitCode Judge(const ScanResult& result) {
   }
   ExitCode code = result.found == 0 ? ExitCode::Findings : ExitCode::Done;
   for (const ScanFinding& finding : result.findings) {
-    code =
-        Worse(code, finding.kind == ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
+    code = Worse(code, finding.kind == ScanFinding::Kind::Unreadable ? ExitCode::Partly : ExitCode::Findings);
   }
   return code;
 }
