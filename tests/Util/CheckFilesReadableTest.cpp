@@ -151,8 +151,8 @@ TEST_F(ReadableFiles, AreNotThoseThatSomebodyHoldsAlone) {
   const Zenvora::Test::Closed closed(held);
   EXPECT_EQ(CheckFilesReadable({Text(held), other}), QList<QString>{other});
 }
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ReadableFiles, ArePipesAndDevicesToo, Zenvora::Test::kNoPipesInFolders);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ReadableFiles, GoByTheRightsOfTheUser, Zenvora::Test::kAccessLists);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ReadableFiles, ArePipesAndDevicesToo);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ReadableFiles, GoByTheRightsOfTheUser);
 #else
 TEST_F(ReadableFiles, ArePipesAndDevicesToo) {
   // At once: nobody ever writes into the pipe.

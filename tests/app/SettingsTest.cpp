@@ -179,7 +179,7 @@ TEST(Settings, SurviveAFullDisk) {
   EXPECT_EQ(ReadText(file), "[General]\nkey=new and longer\nother=more\n");
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(Settings, SurviveAFullDisk, Zenvora::Test::kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(Settings, SurviveAFullDisk);
 #endif
 
 struct Damage {

@@ -183,7 +183,7 @@ TEST_F(CheckTruth, NeverOpensAPipe) {
 
 #else
 
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CheckTruth, NeverOpensAPipe, kNoPipesInFolders);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CheckTruth, NeverOpensAPipe);
 
 #endif
 

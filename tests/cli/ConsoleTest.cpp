@@ -126,8 +126,7 @@ TEST_F(OnATerminal, ShowsProgressOfScriptsThatReadTheOutput) {
   EXPECT_THAT(LinesOf({"--json", "scan", Text(Photos())}, 80).during[0], HasSubstr("Scanning"));
 }
 
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(OnATerminal, ShowsNoProgressWhenQuietOrDumb,
-                              "a page of a console keeps no trace of what was cleared away");
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(OnATerminal, ShowsNoProgressWhenQuietOrDumb);
 
 TEST_F(OnATerminal, ShowsMessagesInLinesOfTheirOwn) {
   const Page page(200);

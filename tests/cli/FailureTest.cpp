@@ -155,7 +155,7 @@ TEST_F(FailingCommand, ReportsAFullDiskAndLosesNothing) {
   EXPECT_EQ(CountPhotosIn(DefaultCatalogue()), 401);
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(FailingCommand, ReportsAFullDiskAndLosesNothing, kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(FailingCommand, ReportsAFullDiskAndLosesNothing);
 #endif
 
 /// Runs it with a standard output that takes nothing.

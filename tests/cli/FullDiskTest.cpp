@@ -1,6 +1,5 @@
 #include "ChangeFixture.h"
 
-#include <support/LeftOut.h>
 #include <support/SmallDisk.h>
 
 #include <QJsonArray>
@@ -10,13 +9,9 @@
 namespace Zenvora::Test {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 
-#ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenByCheckDryRunAndRunAlike, kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, IsSeenBeforeItIsFull, kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullCatalogueDisk, BeginsNoImportThatCouldNotBeUndone, kNoSmallDisk);
-#else
 /// Photos on a disk of their own with little room.
 class FullPhotoDisk : public ChangeTest {
  protected:
@@ -89,15 +84,17 @@ TEST_F(FullCatalogueDisk, BeginsNoImportThatCouldNotBeUndone) {
   EXPECT_EQ(edit.exitCode, 4);
   const std::string sentence =
       "The undo journal " + tree.Path("small/c.sqlite.undo").utf8string() +
-      " cannot be used: no step is started without 2 MiB free for finishing and undoing it (No space left on "
-      "device)";
+      " cannot be used: no step is started without 2 MiB free for finishing and undoing it (";
   EXPECT_THAT(edit.err, HasSubstr(sentence));
+#ifndef _WIN32
+  EXPECT_THAT(edit.err, HasSubstr("undoing it (No space left on device)"));
+#endif
   const Ran dry = Import({"--dry-run"});
   EXPECT_EQ(dry.exitCode, 4);
-  EXPECT_THAT(dry.out, HasSubstr(sentence + ".\nNothing would be imported.\n"));
+  EXPECT_THAT(dry.out, AllOf(HasSubstr(sentence), HasSubstr(").\nNothing would be imported.\n")));
   const Ran refused = Import();
   EXPECT_EQ(refused.exitCode, 4);
-  EXPECT_THAT(refused.out, HasSubstr(sentence + ".\nNothing was imported.\n"));
+  EXPECT_THAT(refused.out, AllOf(HasSubstr(sentence), HasSubstr(").\nNothing was imported.\n")));
   EXPECT_FALSE(tree.Path("copies").exists());
   EXPECT_THAT(Run({"--lang", "de", "--catalogue", catalogue, "import", "photos", "--to", "copies"}).out,
               HasSubstr("ohne 2 MiB"));
@@ -112,7 +109,6 @@ TEST_F(FullCatalogueDisk, BeginsNoImportThatCouldNotBeUndone) {
   EXPECT_EQ(undone.exitCode, 0) << undone.out << undone.err;
   EXPECT_THAT(undone.out, HasSubstr("1 copy is in the trash now."));
 }
-#endif
 
 }  // namespace
 }  // namespace Zenvora::Test

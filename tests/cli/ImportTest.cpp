@@ -1,6 +1,7 @@
 // Importing and checking with the whole command.
 
 #include "CliFixture.h"
+#include "Terminal.h"
 
 #include <support/LeftOut.h>
 #include <support/SmallDisk.h>
@@ -11,12 +12,6 @@
 #include <QJsonArray>
 
 #include <filesystem>
-
-#ifndef _WIN32
-#include <cstdlib>
-#include <fcntl.h>
-#include <unistd.h>
-#endif
 
 namespace Zenvora::Test {
 namespace {
@@ -219,21 +214,16 @@ TEST_F(ImportCommand, CanBeTakenBack) {
   EXPECT_EQ(ImportTo().Json()["copied"].toInt(), 3);
 }
 
-#ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, NeverWritesThroughALink, "making links needs a right there");
-#else
 TEST_F(ImportCommand, NeverWritesThroughALink) {
   const ioPath victim = tree.Write("victim", "mine");
   tree.MakeFolder("copies/.lumidex-import");
-  ASSERT_EQ(symlink(victim.native().c_str(), (Copies() / ".lumidex-import/manifest.jsonl").native().c_str()),
-            0);
+  LUMIDEX_LINK_OR_SKIP(victim, Copies() / ".lumidex-import/manifest.jsonl");
   const Ran ran = Run({"import", Text(Photos()), "--to", Text(Copies())});
   EXPECT_EQ(ran.exitCode, 4);
   EXPECT_THAT(ran.out, HasSubstr("manifest.jsonl is a link to somewhere else"));
   EXPECT_EQ(ReadText(victim), "mine");
   EXPECT_FALSE((Copies() / "img0.jpg").exists());
 }
-#endif
 
 /// The settings kept their name and lay beside a stranger's photo.
 TEST_F(ImportCommand, KeepsWhatBelongsToAPhotoWithItUnderANewName) {
@@ -322,11 +312,12 @@ TEST_F(CheckCommand, NeedsFilesThatExist) {
 
 #ifdef _WIN32
 
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CheckCommand, NeverWaitsForPipes, kNoPipesInFolders);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, StopsOnAFullDiskAndGoesOnLater,
-                              "a small volume is mounted by means of Linux");
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, AsksOnATerminal,
-                              "a console cannot be typed into by a test there");
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CheckCommand, NeverWaitsForPipes);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportCommand, StopsOnAFullDiskAndGoesOnLater);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(AskedAtATerminal, GoesOnWithOkOrEnter);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(AskedAtATerminal, AsksAgainForAWordThatIsNoButton);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(AskedAtATerminal, DoesNothingOnCancelOrAtTheEndOfTheInput);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(AskedAtATerminal, FailsWhereNobodySits);
 
 #else
 
@@ -360,46 +351,6 @@ TEST_F(ImportCommand, StopsOnAFullDiskAndGoesOnLater) {
   EXPECT_EQ(document["copied"].toInt() + rest["copied"].toInt(), 9);
 }
 
-/// A terminal on which the test types.
-class Keyboard {
- public:
-  Keyboard() : master_(posix_openpt(O_RDWR | O_NOCTTY)) {
-    EXPECT_EQ(grantpt(master_), 0);
-    EXPECT_EQ(unlockpt(master_), 0);
-    slave_ = open(ptsname(master_), O_RDWR | O_NOCTTY);
-    EXPECT_GE(slave_, 0);
-  }
-  ~Keyboard() {
-    close(slave_);
-    close(master_);
-  }
-  Keyboard(const Keyboard&) = delete;
-  Keyboard& operator=(const Keyboard&) = delete;
-
-  int Slave() const { return slave_; }
-  void Type(const std::string& text) const {
-    EXPECT_EQ(write(master_, text.data(), text.size()), static_cast<ssize_t>(text.size()));
-  }
-
- private:
-  int master_ = -1;
-  int slave_ = -1;
-};
-
-class ProcessAtKeyboard : public QProcess {
- public:
-  explicit ProcessAtKeyboard(const Keyboard& keyboard) : slave_(keyboard.Slave()) {}
-
- protected:
-  void setupChildProcess() override {
-    dup2(slave_, STDIN_FILENO);
-    dup2(slave_, STDERR_FILENO);
-  }
-
- private:
-  const int slave_;
-};
-
 class AskedAtATerminal : public ImportCommand {
  protected:
   void SetUp() override {
@@ -414,9 +365,9 @@ class AskedAtATerminal : public ImportCommand {
   }
 
   Ran Answer(const std::string& typed) const {
-    const Keyboard keyboard;
-    keyboard.Type(typed);
-    ProcessAtKeyboard process(keyboard);
+    const Terminal terminal(100);
+    terminal.Type(typed);
+    ProcessOnTerminal process(terminal, false, true);
     Start(process, {"--json", "import", Text(Photos()), "--to", Text(Copies())});
     return Finish(process);
   }

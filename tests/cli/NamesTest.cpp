@@ -75,10 +75,10 @@ using ::testing::HasSubstr;
 
 class StrangeNames : public CliTest {};
 
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreShownWithoutHarm, kNamesAreText);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreExactInJson, kNamesAreText);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, CanBeGivenAsArguments, kNamesAreText);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreReportedAsThePicturesTheyAre, kNamesAreText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreShownWithoutHarm);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreExactInJson);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, CanBeGivenAsArguments);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(StrangeNames, AreReportedAsThePicturesTheyAre);
 
 class RefusedNames : public CliTest {};
 

@@ -15,11 +15,10 @@ namespace Zenvora::Test {
 namespace {
 
 #ifdef _WIN32
-constexpr char kNoTerminal[] = "what is typed on a console cannot be written from outside";
-LUMIDEX_LEFT_OUT_ON_WINDOWS(OpenJournal, IsNotHeldWhileAnEditAsks, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(OpenJournal, IsNotHeldWhileTheTrashAsks, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(OpenJournal, IsNotHeldWhileUndoAsks, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(OpenJournal, IsNotHeldWhileNobodyReadsTheResult, kNoPipesInFolders);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(OpenJournal, IsNotHeldWhileAnEditAsks);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(OpenJournal, IsNotHeldWhileTheTrashAsks);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(OpenJournal, IsNotHeldWhileUndoAsks);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(OpenJournal, IsNotHeldWhileNobodyReadsTheResult);
 #else
 
 class OpenJournal : public ChangeTest {

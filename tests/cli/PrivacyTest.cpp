@@ -13,10 +13,9 @@ namespace {
 class Privacy : public ChangeTest {};
 
 #ifdef _WIN32
-constexpr char kNoModes[] = "access lists have no mode bits; PrivateFiles tests that they can be set";
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Privacy, IsKeptFromTheFirstRunOn, kNoModes);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Privacy, IsGivenToWhatWasMadeBefore, kNoModes);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Privacy, LeavesFoldersOfOthersAlone, kNoModes);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Privacy, IsKeptFromTheFirstRunOn);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Privacy, IsGivenToWhatWasMadeBefore);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(Privacy, LeavesFoldersOfOthersAlone);
 #else
 mode_t ModeOf(const ioPath& place) {
   struct stat facts = {};

@@ -366,8 +366,8 @@ TEST_F(RenameCommand, LeavesAFolderAloneThatCannotBeWritten) {
 
 #else
 
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(RenameCommand, RenamesFilesWhoseNamesAreNoText, kNamesAreText);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(RenameCommand, LeavesAFolderAloneThatCannotBeWritten, kAccessLists);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(RenameCommand, RenamesFilesWhoseNamesAreNoText);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(RenameCommand, LeavesAFolderAloneThatCannotBeWritten);
 
 #endif
 

@@ -156,11 +156,6 @@ TEST_F(TrashCommand, LeavesAPhotoWhoseTrashCannotBeUsed) {
   EXPECT_THAT(ran.out, HasSubstr("Nothing was moved.\n"));
   EXPECT_EQ(State(), before_);
 }
-#else
-constexpr char kOtherTrash[] = "the recycle bin has another form and always is where it is";
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashCommandOnTheDesktop, PutsThemWhereTheDesktopShowsThem, kOtherTrash);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashCommandOnTheDesktop, TellsWhatAnEmptiedTrashDoesNotGiveBack, kOtherTrash);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashCommandOnTheDesktop, LeavesAPhotoWhoseTrashCannotBeUsed, kOtherTrash);
 #endif
 
 TEST_F(TrashCommand, ShowsWhatWouldGoInADryRun) {
@@ -345,14 +340,13 @@ TEST_F(TrashCommand, DoesNotSurpriseTheNextScan) {
 }
 
 #ifdef _WIN32
-constexpr char kNoTerminal[] = "what is typed on a console cannot be written from outside";
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAskedAndAnsweredWithYes, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAnsweredWithNoByAnythingElse, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAnsweredInTheLanguageOrInEnglish, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, CanBeInterrupted, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, LeavesWhatWasChangedWhileItWasAsked, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, TellsWhatIsOnlyAlike, kNoTerminal);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsNotAskedWhenThereIsNothingToMove, kNoTerminal);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAskedAndAnsweredWithYes);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAnsweredWithNoByAnythingElse);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsAnsweredInTheLanguageOrInEnglish);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, CanBeInterrupted);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, LeavesWhatWasChangedWhileItWasAsked);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, TellsWhatIsOnlyAlike);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(TrashQuestion, IsNotAskedWhenThereIsNothingToMove);
 #else
 
 class TrashQuestion : public TrashCommand {

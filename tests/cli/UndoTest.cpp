@@ -2,7 +2,6 @@
 
 #include <LumidexUtil/FileAccessLocker.h>
 #include <host/history/UndoJournal.h>
-#include <support/LeftOut.h>
 #include <support/SmallDisk.h>
 
 #include <zenvora/core/FileState.h>
@@ -226,9 +225,6 @@ TEST_F(UndoCommand, TellsWhatWaitsInVainForASkippedStep) {
   EXPECT_EQ(Run({"undo"}).exitCode, 4);
 }
 
-#ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(UndoCommand, ListsWhatIsInACatalogueThatCannotBeWritten, kNoSmallDisk);
-#else
 TEST_F(UndoCommand, ListsWhatIsInACatalogueThatCannotBeWritten) {
   const SmallDisk disk(tree.MakeFolder("disk"), std::size_t{16} << 20U);
   LUMIDEX_DISK_OR_SKIP(disk);
@@ -241,7 +237,6 @@ TEST_F(UndoCommand, ListsWhatIsInACatalogueThatCannotBeWritten) {
   EXPECT_THAT(ran.out, HasSubstr("rotate right"));
   EXPECT_EQ(Run({"--catalogue", catalogue, "undo"}).exitCode, 4);
 }
-#endif
 
 TEST_F(UndoCommand, MakesNothingForAList) {
   Photo("a.jpg");

@@ -1,4 +1,5 @@
 #include <support/FileHolder.h>
+#include <support/SmallDisk.h>
 #include <support/TempTree.h>
 
 #include <zenvora/core/FileNames.h>
@@ -16,6 +17,7 @@ namespace Zenvora {
 namespace {
 
 using Zenvora::Test::ReadFile;
+using Zenvora::Test::SmallDisk;
 
 class FileNames : public ::testing::Test {
  protected:
@@ -65,18 +67,20 @@ TEST_F(FileNames, MovesFoldersToo) {
 }
 
 TEST_F(FileNames, SaysThatAnotherVolumeIsOne) {
+  const ioPath from = tree_.Write("a.jpg", "A");
 #ifdef _WIN32
-  GTEST_SKIP() << "whether there is a second volume is up to the machine";
+  const SmallDisk disk(tree_.MakeFolder("disk"), 1 << 20);
+  LUMIDEX_DISK_OR_SKIP(disk);
+  const ioPath elsewhere = tree_.Path("disk/a.jpg");
 #else
   const ioPath elsewhere("/dev/shm/lumidex-test-" + std::to_string(getpid()));
-  const ioPath from = tree_.Write("a.jpg", "A");
   const FileState there = QueryFile(ioPath("/dev/shm"));
   if (there.kind != FileState::Kind::Folder || there.identity.first == QueryFile(from).identity.first) {
     GTEST_SKIP() << "there is no second volume at /dev/shm";
   }
+#endif
   EXPECT_EQ(MoveToFreeName(from, elsewhere), std::errc::cross_device_link);
   EXPECT_FALSE(elsewhere.exists());
-#endif
 }
 
 TEST_F(FileNames, GivesAFileASecondName) {

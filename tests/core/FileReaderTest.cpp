@@ -71,9 +71,7 @@ TEST(FileReader, NeverWaitsForAPipe) {
   EXPECT_TRUE(reader.Open(pipe.Path()));
 }
 
-#ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FileReader, NeverOpensADevice, "devices have a place of their own there");
-#else
+#ifndef _WIN32
 TEST(FileReader, NeverOpensADevice) {
   FileReader reader;
   EXPECT_EQ(reader.Open("/dev/zero"), std::errc::not_supported);
@@ -113,8 +111,7 @@ TEST(FileReader, FollowsLinksToFiles) {
 }
 
 #ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FileReader, ReportsErrorsOfTheDevice,
-                            "no file there fails to be read on request");
+LUMIDEX_LEFT_OUT_ON_WINDOWS(FileReader, ReportsErrorsOfTheDevice);
 #else
 TEST(FileReader, ReportsErrorsOfTheDevice) {
   FileReader reader;

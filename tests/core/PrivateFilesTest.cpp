@@ -14,9 +14,8 @@ namespace Zenvora {
 namespace {
 
 #ifdef _WIN32
-constexpr char kNoModes[] = "access lists have no mode bits; that they can be set is tested below";
-LUMIDEX_LEFT_OUT_ON_WINDOWS(PrivateFiles, LeaveTheOwnerWhatTheyHad, kNoModes);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(PrivateFiles, LeaveFoldersThatWereThereAlone, kNoModes);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(PrivateFiles, LeaveTheOwnerWhatTheyHad);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(PrivateFiles, LeaveFoldersThatWereThereAlone);
 #else
 mode_t ModeOf(const ioPath& place) {
   struct stat facts = {};

@@ -347,7 +347,7 @@ TEST(Sample, NamesTheFileAndLeavesNoPartOfItOnAFullDisk) {
   EXPECT_TRUE(Contents(tree.Path("s")).empty());
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS(Sample, NamesTheFileAndLeavesNoPartOfItOnAFullDisk, Zenvora::Test::kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(Sample, NamesTheFileAndLeavesNoPartOfItOnAFullDisk);
 #endif
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include <support/Doubles.h>
-#include <support/LeftOut.h>
 #include <support/SmallDisk.h>
 #include <support/TempTree.h>
 
@@ -18,6 +17,7 @@
 
 #include <windows.h>
 #else
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif

@@ -43,7 +43,7 @@ for start in 1 2 3; do
   else
     kill "$watch" 2>/dev/null || true
   fi
-  [ ! -e "$mark" ] || break
+  [ ! -e "$mark" ] && [ "$code" -ne 0 ] || break
   echo "wine: start $start of ${1##*/} ended with $code before the program began" >&2
 done
 exit "$code"

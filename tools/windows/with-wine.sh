@@ -50,6 +50,8 @@ done
 # A server with a share, in the place where Wine looks for them: network paths have rules of their own.
 mkdir -p "$WINEPREFIX/dosdevices/unc/server/share"
 export LUMIDEX_TEST_SHARE='\\server\share'
+# Small volumes for the superuser who asks for them: not every test that fills one was seen to pass here.
+[ -z "${LUMIDEX_TEST_DISKS:-}" ] || export LUMIDEX_TEST_DISKS=Z:${here//\//\\}\\small-disk.sh
 # Without a window manager's frame a window is there at once.
 "$here/wine.sh" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
 # One server for everything that follows, and one program that waits for input without end: else Windows' services and

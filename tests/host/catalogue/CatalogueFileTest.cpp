@@ -506,8 +506,7 @@ TEST_F(CatalogueFile, KeepsWhatWasStoredWhenTheDiskIsFull) {
   EXPECT_EQ(RunSql(file_, {"PRAGMA integrity_check"}).toString(), QStringLiteral("ok"));
 }
 #else
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CatalogueFile, KeepsWhatWasStoredWhenTheDiskIsFull,
-                              Zenvora::Test::kNoSizeLimit);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CatalogueFile, KeepsWhatWasStoredWhenTheDiskIsFull);
 #endif
 
 TEST_F(CatalogueFile, KeepsWholeBatchesWhenItsWriterIsKilled) {
@@ -579,9 +578,6 @@ TEST_F(CatalogueFile, IsInTheUsersDataFolderByDefault) {
             ioPath(qgetenv("XDG_DATA_HOME").toStdString()) / "lumidex" / "catalogue.sqlite");
 }
 
-#ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(CatalogueFile, TellsOfAFullDisk, Zenvora::Test::kNoSmallDisk);
-#else
 /// SQLite calls it an error of the disk when the index of its log cannot grow.
 TEST_F(CatalogueFile, TellsOfAFullDisk) {
   Zenvora::Test::SmallDisk disk(tree_.MakeFolder("disk"), std::size_t{1} << 20U);
@@ -605,7 +601,6 @@ TEST_F(CatalogueFile, TellsOfAFullDisk) {
   }
   EXPECT_GT(failed, 1);
 }
-#endif
 
 struct CodeRow {
   int code;
@@ -631,7 +626,6 @@ TEST(SqliteUri, NamesDrivesAndShares) {
   EXPECT_EQ(SqliteUri("C:\\a b\\c.sqlite", "mode=ro").toStdString(), "file:///C%3A/a%20b/c.sqlite?mode=ro");
   EXPECT_EQ(SqliteUri("\\\\srv\\sh\\c.sqlite", "mode=ro").toStdString(), "file:////srv/sh/c.sqlite?mode=ro");
 }
-LUMIDEX_LEFT_OUT_ON_WINDOWS(SqliteUri, KeepsEveryByteOfAPath, Zenvora::Test::kNamesAreText);
 #else
 TEST(SqliteUri, KeepsEveryByteOfAPath) {
   EXPECT_EQ(SqliteUri("/a b/\xFF?#%.sqlite", "mode=ro").toStdString(),

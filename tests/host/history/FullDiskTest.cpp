@@ -4,7 +4,6 @@
 #include <host/base/DiskReserve.h>
 #include <host/import/Import.h>
 #include <host/journal/JournalRoom.h>
-#include <support/LeftOut.h>
 #include <support/SmallDisk.h>
 
 #include <zenvora/app/RealServices.h>
@@ -35,21 +34,6 @@ TEST(DiskReserveTest, HoldsRoomAndGivesItBack) {
   EXPECT_FALSE(tree.Path("reserve").exists());
 }
 
-#ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, EditsWhatItCanAndTakesItBack, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, TakesBackPhotosOfAnotherVolume, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, GoesOnWithoutRedoWhereOthersTookTheRoom, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, BeginsNothingWithoutRoomToFinishIt, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, AcceptsNoAlbumWithoutRoomToUndoIt, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsNothingWithoutRoomToUndoIt, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsBesideAnOpenJournalWhereThereIsRoom,
-                            Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, HoldsRoomForAnImportWhenTheJournalIsFreeAgain,
-                            Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, ImportsManyFilesAndTakesThemBack, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, RenamesAndTakesItBack, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullDisk, HoldsItsRoomBetweenRuns, Zenvora::Test::kNoSmallDisk);
-#else
 /// The catalogue on a disk of its own, with little room; photos somewhere else, so that originals are copied.
 class FullDisk : public Zenvora::Test::JournalTest {
  protected:
@@ -294,7 +278,6 @@ TEST_F(FullDisk, HoldsItsRoomBetweenRuns) {
   Close();
   EXPECT_LE(disk_.Free(), before + 65536);
 }
-#endif
 
 }  // namespace
 }  // namespace Zenvora::Lumidex::Host

@@ -1,6 +1,5 @@
 #include "JournalFixture.h"
 
-#include <support/LeftOut.h>
 #include <support/SmallDisk.h>
 
 #include <zenvora/core/FileState.h>
@@ -13,12 +12,6 @@ using testing::IsEmpty;
 using Zenvora::Test::ReadFile;
 using Zenvora::Test::RunSql;
 
-#ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, TakesBackAndDoesAgain, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, TakesBackWithoutRedo, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, LeavesWhatWouldGrowBeyondTheDisk, Zenvora::Test::kNoSmallDisk);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(FullPhotoDisk, DoesNotWriteIntoAPhotoWithOtherNames, Zenvora::Test::kNoSmallDisk);
-#else
 /// Photos on a full disk of their own; what undo keeps lies somewhere else.
 class FullPhotoDisk : public Zenvora::Test::JournalTest {
  protected:
@@ -111,7 +104,6 @@ TEST_F(FullPhotoDisk, DoesNotWriteIntoAPhotoWithOtherNames) {
   EXPECT_EQ(ReadFile(place_ / "other"), std::string(100'000, 'e'));
   EXPECT_EQ(ReadFile(photos[1]), std::string(100'000, 'e'));
 }
-#endif
 
 /// What a kill leaves while a photo's room is used for its other version.
 class SetAsidePhoto : public Zenvora::Test::JournalTest {

@@ -696,11 +696,10 @@ TEST_F(TrashJournal, GoesOnInterruptedAndWithAnUndoInPart) {
 
 #ifdef _WIN32
 
-constexpr char kNoFork[] = "a process that ends at any moment is made by forking";
-LUMIDEX_LEFT_OUT_ON_WINDOWS(KilledTrashJournal, LosesNothingWhileItMoves, kNoFork);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(KilledTrashJournal, LosesNothingWhileItTakesBack, kNoFork);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(KilledTrashJournal, LosesNothingWhileItMovesAgain, kNoFork);
-LUMIDEX_LEFT_OUT_ON_WINDOWS(KilledTrashJournal, WaitsForTheVolumeOfWhatWasBrokenOff, kNoFork);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(KilledTrashJournal, LosesNothingWhileItMoves);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(KilledTrashJournal, LosesNothingWhileItTakesBack);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(KilledTrashJournal, LosesNothingWhileItMovesAgain);
+LUMIDEX_LEFT_OUT_ON_WINDOWS(KilledTrashJournal, WaitsForTheVolumeOfWhatWasBrokenOff);
 
 #else
 

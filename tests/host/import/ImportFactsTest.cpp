@@ -1,7 +1,5 @@
 #include "ImportFixture.h"
 
-#include <support/LeftOut.h>
-
 namespace Zenvora::Lumidex::Host {
 namespace {
 

@@ -169,7 +169,7 @@ TEST_F(ImportSources, FollowLinksToPhotos) {
 }
 
 #ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportSources, LeavePipesAndDevicesAlone, Zenvora::Test::kNoPipesInFolders);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportSources, LeavePipesAndDevicesAlone);
 #else
 TEST_F(ImportSources, LeavePipesAndDevicesAlone) {
   MakePhoto("card/a.jpg", 1);
@@ -184,7 +184,7 @@ TEST_F(ImportSources, LeavePipesAndDevicesAlone) {
 #endif
 
 #ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportSources, UnreadableFoldersAreTold, Zenvora::Test::kAccessLists);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(ImportSources, UnreadableFoldersAreTold);
 #else
 TEST_F(ImportSources, UnreadableFoldersAreTold) {
   MakePhoto("card/closed/a.jpg", 1);

@@ -6,7 +6,6 @@
 #include <host/history/UndoJournal.h>
 #include <host/scan/Scanner.h>
 #include <support/Doubles.h>
-#include <support/LeftOut.h>
 #include <support/Obstacles.h>
 #include <support/PhotoMaker.h>
 #include <support/SmallDisk.h>
@@ -478,21 +477,13 @@ TEST_F(MovedPhotos, GetTheirDigestsWithTheNextScan) {
   EXPECT_EQ(Id("b.jpg"), id);
 }
 
-#ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(MovedPhotos, AreCopiesWhileTheirVolumeIsAway, "nobody mounts a volume here");
-#else
 TEST_F(MovedPhotos, AreCopiesWhileTheirVolumeIsAway) {
-  if (!IsSuperuser()) {
-    GTEST_SKIP() << "only the superuser can mount a volume";
-  }
   tree_.MakeFolder("photos/disk");
   tree_.MakeFolder("photos/here");
   QString id;
   {
     const Zenvora::Test::SmallDisk disk(At("disk"), 1'000'000);
-    if (!disk.IsThere()) {
-      GTEST_SKIP() << "this machine lets nobody mount a volume";
-    }
+    LUMIDEX_DISK_OR_SKIP(disk);
     Make("disk/a.jpg", 1);
     Make("here/b.jpg", 2);
     Run({At("disk"), At("here")});
@@ -504,7 +495,6 @@ TEST_F(MovedPhotos, AreCopiesWhileTheirVolumeIsAway) {
   EXPECT_EQ(result.added, 1U);
   EXPECT_EQ(Id("disk/a.jpg"), id);
 }
-#endif
 
 TEST_F(MovedPhotos, AreNotWhatLiesInTheTrash) {
   Make("a.jpg", 1);

@@ -175,8 +175,8 @@ TEST_F(SaveChecking, StopsSoon) {
 }
 
 #ifdef _WIN32
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(SaveChecking, LeavesWhatIsWriteProtectedAlone, Zenvora::Test::kAccessLists);
-LUMIDEX_LEFT_OUT_ON_WINDOWS_F(SaveChecking, TellsOfWhatAUserMayNotRead, Zenvora::Test::kAccessLists);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(SaveChecking, LeavesWhatIsWriteProtectedAlone);
+LUMIDEX_LEFT_OUT_ON_WINDOWS_F(SaveChecking, TellsOfWhatAUserMayNotRead);
 #else
 TEST_F(SaveChecking, LeavesWhatIsWriteProtectedAlone) {
   // Also of the superuser, who could write to it.

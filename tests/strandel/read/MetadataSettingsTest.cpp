@@ -1,6 +1,5 @@
 #include "TiffBytes.h"
 
-#include <support/LeftOut.h>
 #include <support/Obstacles.h>
 #include <support/PhotoMaker.h>
 #include <support/TempTree.h>

@@ -1,56 +1,32 @@
 #pragma once
 
-#ifndef _WIN32
 #include <zenvora/core/ioPath.h>
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
-#include <string>
-#include <sys/mount.h>
 #include <vector>
 
 namespace Zenvora::Test {
 
 /// A volume of its own with little room, mounted on an existing folder while it lives. Only the superuser can
-/// make one.
+/// make one; on Windows the program that LUMIDEX_TEST_DISKS names (under Wine tools/windows/small-disk.sh).
 class SmallDisk {
  public:
-  SmallDisk(const ioPath& folder, std::size_t bytes) : folder_(folder) {
-    const std::string options = "size=" + std::to_string(bytes);
-    mounted_ = mount("lumidex-test", folder.native().c_str(), "tmpfs", 0, options.c_str()) == 0;
-  }
-  ~SmallDisk() {
-    if (mounted_) {
-      umount2(folder_.native().c_str(), MNT_DETACH);
-    }
-  }
+  SmallDisk(const ioPath& folder, std::size_t bytes);
+  ~SmallDisk();
   SmallDisk(const SmallDisk&) = delete;
   SmallDisk& operator=(const SmallDisk&) = delete;
 
   bool IsThere() const { return mounted_; }
-  std::uintmax_t Free() const { return std::filesystem::space(folder_.native()).available; }
+  std::uintmax_t Free() const { return std::filesystem::space(folder_.native() / "").available; }
   /// Takes the room that is left, but for so many bytes.
-  void Fill(std::uintmax_t but = 0) {
-    if (const std::uintmax_t free = Free(); free > but) {
-      fillers_.push_back(folder_ / ("filler" + std::to_string(fillers_.size())));
-      std::ofstream(fillers_.back().native(), std::ios::binary) << std::string(free - but, 'f');
-    }
-  }
+  void Fill(std::uintmax_t but = 0);
   /// Gives back what was taken.
-  void Clear() {
-    for (const ioPath& filler : fillers_) {
-      filler.remove();
-    }
-    fillers_.clear();
-  }
+  void Clear();
   /// From now on nothing can be written on it.
-  bool MakeReadOnly() const {
-    return mounted_ &&
-           mount(nullptr, folder_.native().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) == 0;
-  }
+  bool MakeReadOnly() const;
 
  private:
   const ioPath folder_;
@@ -65,4 +41,3 @@ class SmallDisk {
     GTEST_SKIP() << "this user cannot make a small disk"; \
   }                                                       \
   static_assert(true)
-#endif

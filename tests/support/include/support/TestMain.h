@@ -1,5 +1,6 @@
 #pragma once
 
+#include <support/LeftOut.h>
 #include <support/Surroundings.h>
 
 #include <zenvora/app/Application.h>
@@ -9,6 +10,8 @@
 
 #include <QLocale>
 #include <QTemporaryDir>
+
+#include <filesystem>
 
 namespace Zenvora::Test {
 
@@ -41,7 +44,8 @@ int RunTests(int argc, char** argv) {
   google::InitGoogleLogging(argv[0]);
 
   App::ApplicationOf<QtApplication> application(argc, argv);
-  return RUN_ALL_TESTS();
+  const bool isListTrue = WatchWhatIsLeftOut(std::filesystem::path(argv[0]).stem().string());
+  return RUN_ALL_TESTS() == 0 && isListTrue ? 0 : 1;
 }
 
 }  // namespace Zenvora::Test
