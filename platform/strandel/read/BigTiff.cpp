@@ -66,9 +66,10 @@ class Reader {
   }
 
   void Add(const TiffEntry& entry, const std::string& group, const std::string& bytes) {
-    Exiv2::Value::AutoPtr value;
-    if (entry.type <= kLastOfClassic) {
-      value = Exiv2::Value::create(static_cast<Exiv2::TypeId>(entry.type));
+    const bool isClassic = entry.type <= kLastOfClassic;
+    const auto value =
+        Exiv2::Value::create(isClassic ? static_cast<Exiv2::TypeId>(entry.type) : Exiv2::unsignedLong);
+    if (isClassic) {
       if (value->read(reinterpret_cast<const Exiv2::byte*>(bytes.data()), static_cast<long>(bytes.size()),
                       tiff_.Order() == ByteOrder::Big ? Exiv2::bigEndian : Exiv2::littleEndian) != 0) {
         return;
@@ -78,7 +79,6 @@ class Reader {
       if (number > std::numeric_limits<std::uint32_t>::max()) {
         return;
       }
-      value = Exiv2::Value::create(Exiv2::unsignedLong);
       value->read(std::to_string(number));
     }
     exif_.add(Exiv2::ExifKey(entry.tag, group), value.get());
