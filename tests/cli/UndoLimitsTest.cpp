@@ -268,7 +268,7 @@ TEST_F(UndoLimits, AreAskedAboutAtATerminal) {
   EXPECT_EQ(no.exitCode, 1) << no.err;
   EXPECT_THAT(no.err, HasSubstr("undo would have to forget 1 older step"));
   EXPECT_THAT(no.err, HasSubstr("  rotate right"));
-  EXPECT_THAT(no.err, HasSubstr("Forget them and go on? [y/N]"));
+  EXPECT_THAT(no.err, HasSubstr("Forget them and continue? [y/N]"));
   EXPECT_EQ(no.out, "Nothing was changed.\n");
   EXPECT_EQ(ReadFile(Photos() / "b.jpg"), before);
   EXPECT_EQ(Steps().size(), 1);
