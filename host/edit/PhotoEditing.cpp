@@ -107,7 +107,8 @@ class EditRunner {
     } catch (const std::exception& failure) {
       // In the words in which it would have been told beforehand, where it would have been.
       staged.clear();
-      FileVerdict told = write_ ? FileVerdict() : JudgeEdit(task, order_.edit, order_.force);
+      const EditVerdict judged = write_ ? EditVerdict() : JudgeEdit(task, order_.edit, order_.force);
+      const FileVerdict& told = judged;
       return told.IsRefused() ? told : JudgeFailure(task.photo, failure.what());
     }
   }
@@ -196,6 +197,7 @@ EditResult EditPhotos(EditSteps& steps, IFileAccessLocker& locker, const QString
   EditOrder order;
   order.name = name;
   std::vector<EditTask> tasks;
+  tasks.reserve(photos.size());
   for (const ioPath& photo : photos) {
     tasks.push_back({FileOf(photo), {}});
   }

@@ -75,8 +75,7 @@ void ReplaceInItsRoom(IFileAccessLocker& locker, const KeptFiles& kept, const Ch
     WriteAndGiveName(locker, kept, change, versions);
   } catch (const NoRoomError&) {
     if (DigestOf(change.staging) != versions.current) {
-      throw HostError() << TagFilename(change.path.utf8string())
-                        << TagDescription("the disk gave no room for what it had promised room for");
+      ThrowHostError(change.path.utf8string(), "the disk gave no room for what it had promised room for");
     }
     GiveName(locker, change);
     throw;

@@ -146,6 +146,7 @@ std::vector<ioPath> FreeNames::Give(const std::vector<ShotName>& files) {
     const std::string base =
         marks.empty() ? files.front().base : Fitting(files.front().base, marks + longest) + marks;
     std::vector<ioPath> names;
+    names.reserve(files.size());
     for (const ShotName& file : files) {
       names.emplace_back((marks.empty() ? file.base : base) + file.suffix);
     }

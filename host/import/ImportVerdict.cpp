@@ -59,6 +59,7 @@ ImportVerdict JudgeSources(const std::vector<ioPath>& sources, const ImportPlan&
                            const ImportResult& result) {
   ImportVerdict verdict;
   std::vector<ioPath> folders;
+  folders.reserve(sources.size());
   for (const ioPath& source : sources) {
     folders.push_back(Canonical(source));
   }

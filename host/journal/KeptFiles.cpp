@@ -176,7 +176,8 @@ void KeptFiles::WriteOver(const std::string& name, const ioPath& file) const {
   RequireFile(PathOf(name));
   if (!FillReused(PathOf(name), file)) {
     // Emptied, the file gives its room back before it takes other room.
-    std::ofstream(file.for_system(), std::ios::binary | std::ios::trunc);
+    std::ofstream emptied(file.for_system(), std::ios::binary | std::ios::trunc);
+    emptied.close();
     if (!FillReused(PathOf(name), file)) {
       Fail(file, "Cannot write", std::make_error_code(std::errc::no_space_on_device));
     }

@@ -279,7 +279,7 @@ class JudgedAgainst::Impl {
     constexpr int kMiddle = 512;
     const int side = std::min({kMiddle, size.width(), size.height()});
     const double scale = static_cast<double>(picture_->size.width()) / size.width();
-    return HoldsMoreDetail(ReadMiddle(photo, side), ReadMiddle(kept_, static_cast<int>(side * scale + 0.5)));
+    return HoldsMoreDetail(ReadMiddle(photo, side), ReadMiddle(kept_, qRound(side * scale)));
   }
 
   const ioPath kept_;

@@ -73,6 +73,7 @@ std::vector<MendedPng::Pass> PassesOf(const Head& head) {
     return {{head.size, 0}};
   }
   std::vector<MendedPng::Pass> passes;
+  passes.reserve(kGrids.size());
   for (const Grid& grid : kGrids) {
     passes.push_back({{(head.size.width() - grid.x + grid.stepX - 1) / grid.stepX,
                        (head.size.height() - grid.y + grid.stepY - 1) / grid.stepY},

@@ -24,6 +24,7 @@ const QDate kSunday(2015, 3, 8);
 
 std::vector<QString> Ids(const std::vector<DataModel>& photos) {
   std::vector<QString> ids;
+  ids.reserve(photos.size());
   for (const DataModel& photo : photos) {
     ids.push_back(photo.GetId());
   }

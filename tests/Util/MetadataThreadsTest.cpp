@@ -46,6 +46,7 @@ TEST(MetadataThreads, AskOneFilesMetadata) {
 TEST(MetadataThreads, ReadFilesOfTheirOwn) {
   const TempTree tree;
   std::vector<ioPath> files;
+  files.reserve(kThreads);
   for (int i = 0; i < kThreads; ++i) {
     files.push_back(WriteJpeg(tree.Path(std::to_string(i)), Tags(i)));
   }

@@ -17,7 +17,6 @@ namespace Zenvora {
 namespace {
 
 using Zenvora::Test::ReadFile;
-using Zenvora::Test::SmallDisk;
 
 class FileNames : public ::testing::Test {
  protected:
@@ -69,7 +68,7 @@ TEST_F(FileNames, MovesFoldersToo) {
 TEST_F(FileNames, SaysThatAnotherVolumeIsOne) {
   const ioPath from = tree_.Write("a.jpg", "A");
 #ifdef _WIN32
-  const SmallDisk disk(tree_.MakeFolder("disk"), 1 << 20);
+  const Zenvora::Test::SmallDisk disk(tree_.MakeFolder("disk"), 1 << 20);
   LUMIDEX_DISK_OR_SKIP(disk);
   const ioPath elsewhere = tree_.Path("disk/a.jpg");
 #else

@@ -17,7 +17,6 @@
 namespace Zenvora {
 namespace {
 
-using Test::MakeLink;
 using Test::Pipe;
 using Test::TempTree;
 using From = FileReader::From;

@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+#include <array>
+#include <memory>
 #include <thread>
 
 namespace Zenvora::Tavolin {
@@ -164,9 +166,9 @@ TEST_P(DownloadContract, LetsTheAnswerMakeTheNextRequest) {
 TEST_P(DownloadContract, RunsSeveralRequestsAtOnce) {
   world->Offer(Fetched("body"));
   int answers = 0;
-  std::vector<std::unique_ptr<App::IDownloads::Pending>> pending;
-  for (int i = 0; i < 5; ++i) {
-    pending.push_back(world->Network()->Fetch(Request(), [&](const App::DownloadReply&) { ++answers; }));
+  std::array<std::unique_ptr<App::IDownloads::Pending>, 5> pending;
+  for (auto& request : pending) {
+    request = world->Network()->Fetch(Request(), [&](const App::DownloadReply&) { ++answers; });
   }
   EXPECT_TRUE(world->RunUntil([&] { return answers == 5; }));
 }

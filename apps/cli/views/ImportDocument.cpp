@@ -102,7 +102,8 @@ void WritePlan(JsonWriter& json, const Host::ImportPlan& plan) {
   }
   json.EndArray();
   json.Number("housekeeping", static_cast<long long>(plan.housekeeping));
-  json.Number("inPlace", static_cast<long long>(plan.photosInPlace + plan.filmsInPlace));
+  json.Number("inPlace",
+              static_cast<long long>(plan.photosInPlace) + static_cast<long long>(plan.filmsInPlace));
   json.BeginArray("splits");
   for (const Host::SplitShot& split : plan.splits) {
     json.BeginObject();

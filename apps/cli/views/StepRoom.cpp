@@ -53,6 +53,7 @@ std::string ForgetsText(const Host::JournalRoom& room, bool beforehand) {
 
 std::vector<std::string> StepLines(const std::vector<Host::UndoStep>& steps) {
   std::vector<std::string> lines;
+  lines.reserve(steps.size());
   for (const Host::UndoStep& step : steps) {
     lines.push_back(WhenText(step) + "  " + StepText(step.name.toStdString()));
   }

@@ -72,10 +72,11 @@ std::string Png(const Kind& kind, std::size_t chunk) {
       }
     }
   }
-  uLongf size = compressBound(rows.size());
+  const auto length = static_cast<uLong>(rows.size());
+  uLongf size = compressBound(length);
   std::string packed(size, '\0');
   compress(reinterpret_cast<Bytef*>(packed.data()), &size, reinterpret_cast<const Bytef*>(rows.data()),
-           rows.size());
+           length);
   packed.resize(size);
   std::string file("\x89PNG\r\n\x1a\n", 8);
   std::string head = "IHDR";

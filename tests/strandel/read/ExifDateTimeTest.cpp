@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Table, RejectedDates,
                                          "2021:05:01 10:20:", "2021:05:01 10:20:30 PM",
                                          "2021:05:01 10:20:30x", "2021:05:01x10:20:30", "2021_05_01 10:20:30",
                                          "2021:05:01 10.20.30", "2021:05:01 10:20:30+2",
-                                         std::string("2021\0005:01 10:20:30", 19), "\xFF\xFF\xFF\xFF"));
+                                         std::string("2021\0", 5) + "05:01 10:20:30", "\xFF\xFF\xFF\xFF"));
 
 TEST(CameraTime, KeepsAnHourThatTheClockHereSkips) {
   qputenv("TZ", "Europe/Berlin");
