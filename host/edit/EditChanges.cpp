@@ -42,7 +42,7 @@ std::vector<ChangeRow> ReadChanges(const CatalogueDatabase& database, qlonglong 
       "SELECT number, state, path, side, adopted, digest_before, digest_after, goes_with, kept_ending"
       " FROM changes WHERE step = ? ORDER BY number");
   query.addBindValue(step);
-  return ReadRows(database, std::move(query));
+  return ReadRows(database, query);
 }
 
 std::vector<ChangeRow> ReadAllChanges(const CatalogueDatabase& database) {
