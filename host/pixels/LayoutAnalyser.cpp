@@ -1,3 +1,4 @@
+#include "PictureSquare.h"
 #include "PlainBars.h"
 
 #include <host/pixels/PhotoAnalysis.h>
@@ -14,9 +15,10 @@ namespace Zenvora::Lumidex::Host {
 
 namespace {
 
-/// Every picture becomes a square of this side, whatever its shape: a crop changes the shape a little.
-constexpr int kSide = 48;
-constexpr int kPixels = kSide * kSide;
+using Plane = PictureSquare::Plane;
+constexpr int kSide = PictureSquare::kSide;
+constexpr int kPixels = PictureSquare::kPixels;
+
 /// One more than the highest frequency that is looked at.
 constexpr int kFrequencies = 11;
 constexpr int kLightWaves = 60;
@@ -48,14 +50,6 @@ constexpr float kFaintEdge = 4;
 constexpr float kFineDirections = 0.65F;
 /// How much of what all windows have in common is taken away.
 constexpr float kCommonDirections = 0.5F;
-
-using Plane = std::array<float, kPixels>;
-
-struct Planes {
-  Plane light;
-  Plane blue;
-  Plane red;
-};
 
 struct Wave {
   int across = 0;
@@ -135,119 +129,6 @@ struct Tables {
 const Tables& TheTables() {
   static const Tables tables;
   return tables;
-}
-
-/// For each of `kSide` pixels the source pixels that it is made of.
-struct Filter {
-  struct Taps {
-    std::size_t first = 0;   ///< Source pixel.
-    std::size_t weight = 0;  ///< Index of its weight.
-    std::size_t count = 0;
-  };
-  std::array<Taps, kSide> pixels;
-  std::vector<float> weights;
-};
-
-/// A triangle as wide as two pixels of the coarser side.
-Filter TriangleFilter(int sourceSide) {
-  Filter filter{};
-  const double scale = static_cast<double>(sourceSide) / kSide;
-  const double reach = std::max(1.0, scale);
-  for (int i = 0; i < kSide; ++i) {
-    const double centre = (i + 0.5) * scale;
-    const int first = std::max(0, static_cast<int>(std::floor(centre - reach + 0.5)));
-    const int last = std::min(sourceSide, static_cast<int>(std::floor(centre + reach + 0.5)));
-    const auto weightAt = [&](int source) {
-      return std::max(0.0, 1 - std::abs(source + 0.5 - centre) / reach);
-    };
-    double sum = 0;
-    for (int source = first; source < last; ++source) {
-      sum += weightAt(source);
-    }
-    filter.pixels[static_cast<std::size_t>(i)] = {static_cast<std::size_t>(first), filter.weights.size(),
-                                                  static_cast<std::size_t>(last - first)};
-    for (int source = first; source < last; ++source) {
-      filter.weights.push_back(static_cast<float>(weightAt(source) / sum));
-    }
-  }
-  return filter;
-}
-
-/// Lines of numbers, one behind the other.
-struct Lines {
-  std::size_t length = 0;
-  std::vector<float> numbers;
-
-  Lines(std::size_t count, std::size_t lineLength) : length(lineLength), numbers(count * lineLength) {}
-  float* At(std::size_t line) { return numbers.data() + line * length; }
-  const float* At(std::size_t line) const { return numbers.data() + line * length; }
-};
-
-/// Each row of the picture as a line: its reds, its greens, its blues.
-Lines RowsOf(const QImage& picture, const QRect& part) {
-  const auto width = static_cast<std::size_t>(part.width());
-  Lines rows(static_cast<std::size_t>(part.height()), 3 * width);
-  for (int y = 0; y < part.height(); ++y) {
-    const QRgb* pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(part.top() + y)) + part.left();
-    float* row = rows.At(static_cast<std::size_t>(y));
-    for (std::size_t x = 0; x < width; ++x) {
-      row[x] = static_cast<float>(qRed(pixels[x]));
-      row[width + x] = static_cast<float>(qGreen(pixels[x]));
-      row[2 * width + x] = static_cast<float>(qBlue(pixels[x]));
-    }
-  }
-  return rows;
-}
-
-/// As many lines as the square has, each made of those around its place.
-Lines Filtered(const Lines& lines, const Filter& filter) {
-  Lines result(kSide, lines.length);
-  for (std::size_t i = 0; i < kSide; ++i) {
-    const Filter::Taps& taps = filter.pixels[i];
-    float* sum = result.At(i);
-    for (std::size_t tap = 0; tap < taps.count; ++tap) {
-      const float weight = filter.weights[taps.weight + tap];
-      const float* line = lines.At(taps.first + tap);
-      for (std::size_t at = 0; at < lines.length; ++at) {
-        sum[at] += weight * line[at];
-      }
-    }
-  }
-  return result;
-}
-
-/// Rows of three channels become columns of three channels.
-Lines ColumnsOf(const Lines& rows) {
-  const std::size_t width = rows.length / 3;
-  Lines columns(width, 3 * kSide);
-  for (std::size_t y = 0; y < kSide; ++y) {
-    for (std::size_t channel = 0; channel < 3; ++channel) {
-      const float* row = rows.At(y) + channel * width;
-      for (std::size_t x = 0; x < width; ++x) {
-        columns.At(x)[channel * kSide + y] = row[x];
-      }
-    }
-  }
-  return columns;
-}
-
-Planes SquareOf(const QImage& picture, const QRect& part) {
-  const Lines rows = Filtered(RowsOf(picture, part), TriangleFilter(part.height()));
-  const Lines columns = Filtered(ColumnsOf(rows), TriangleFilter(part.width()));
-  Planes planes;
-  for (std::size_t x = 0; x < kSide; ++x) {
-    const float* column = columns.At(x);
-    for (std::size_t y = 0; y < kSide; ++y) {
-      const float red = column[y];
-      const float green = column[kSide + y];
-      const float blue = column[2 * kSide + y];
-      const float light = 0.299F * red + 0.587F * green + 0.114F * blue;
-      planes.light[y * kSide + x] = light;
-      planes.blue[y * kSide + x] = 0.564F * (blue - light);
-      planes.red[y * kSide + x] = 0.713F * (red - light);
-    }
-  }
-  return planes;
 }
 
 /// Its mean, under the window, becomes 0, and its outer parts, which move most, count least.
@@ -385,7 +266,7 @@ float MeanOf(const Plane& plane) {
   return sum / kPixels;
 }
 
-void AppendMeans(const Planes& planes, std::vector<float>& out) {
+void AppendMeans(const PictureSquare& planes, std::vector<float>& out) {
   constexpr float kHalf = 128;
   constexpr float kAlways = 32;
   for (const float mean : {MeanOf(planes.blue), MeanOf(planes.red), MeanOf(planes.light) - kHalf, kAlways}) {
@@ -417,7 +298,7 @@ std::vector<float> LayoutAnalyser::Describe(const QImage& picture) const {
     small = small.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                 .convertToFormat(QImage::Format_RGB32);
   }
-  const Planes planes = SquareOf(small, WithinPlainBars(small));
+  const PictureSquare planes = SquareOf(small, WithinPlainBars(small));
   std::vector<float> result;
   result.reserve(kSize);
   AppendWaves(planes.light, TheTables().light, result);

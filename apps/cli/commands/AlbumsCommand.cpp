@@ -131,12 +131,8 @@ int WriteReport(const AlbumsView& view, Session& session) {
   });
 }
 
-Catalogue OpenCatalogue(const ioPath& file, bool forWriting) {
-  if (!file.exists()) {
-    throw Failure("no-catalogue",
-                  "There is no catalogue " + file.utf8string() + " yet. Run: lumidex scan DIR");
-  }
-  return {file, forWriting ? Catalogue::Mode::ReadWrite : Catalogue::Mode::ReadOnly};
+Catalogue OpenCatalogue(const Session& session, bool forWriting) {
+  return {session.ExistingCatalogue(), forWriting ? Catalogue::Mode::ReadWrite : Catalogue::Mode::ReadOnly};
 }
 
 ExitCode ShowEmpty(const AlbumsView& view, std::size_t known, Session& session) {
@@ -161,7 +157,7 @@ class AlbumsRun {
   AlbumsRun(const AlbumsArguments& arguments, Session& session)
       : arguments_(arguments),
         session_(session),
-        catalogue_(OpenCatalogue(session.CatalogueFile(), !arguments.accept.empty())),
+        catalogue_(OpenCatalogue(session, !arguments.accept.empty())),
         photos_(catalogue_.Photos()) {}
 
   ExitCode Run() {

@@ -1,7 +1,6 @@
 #include <cli/commands/Commands.h>
 #include <cli/session/OpenJournal.h>
 #include <cli/session/Options.h>
-#include <cli/terminal/Failure.h>
 #include <cli/views/FindView.h>
 #include <host/catalogue/Catalogue.h>
 #include <host/catalogue/DateFilter.h>
@@ -96,12 +95,8 @@ std::string TextOf(const FindView& view, const FindArguments& arguments, bool js
 ExitCode RunFind(const FindArguments& arguments, Session& session) {
   const Host::PhotoFilter filter = FilterOf(arguments);
   FindView view;
-  view.catalogue = session.CatalogueFile();
+  view.catalogue = session.ExistingCatalogue();
   view.dates = filter.dates;
-  if (!view.catalogue.exists()) {
-    throw Failure("no-catalogue",
-                  "There is no catalogue " + view.catalogue.utf8string() + " yet. Run: lumidex scan DIR");
-  }
   RecoverIfNeeded(session);
   const Catalogue catalogue(view.catalogue, Catalogue::Mode::ReadOnly);
   const std::vector<Host::PhotoRecord> photos = catalogue.Photos();

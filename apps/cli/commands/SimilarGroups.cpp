@@ -34,15 +34,6 @@ std::string VerbOf(Host::SimilarProgress::Step step) {
   return "";
 }
 
-ioPath ExistingCatalogue(const Session& session) {
-  const ioPath file = session.CatalogueFile();
-  if (!file.exists()) {
-    throw Failure("no-catalogue",
-                  "There is no catalogue " + file.utf8string() + " yet. Run: lumidex scan DIR");
-  }
-  return file;
-}
-
 bool HasOneOf(const Host::SimilarGroup& group, const std::vector<ioPath>& photos) {
   return std::any_of(group.members.begin(), group.members.end(),
                      [&photos](const Host::SimilarMember& member) {
@@ -87,7 +78,7 @@ ExitCode Judge(const SimilarView& view, Session& session) {
 SimilarStores::SimilarStores(const Session& session, const Host::PhotoAnalyser& by,
                              Host::Catalogue::Mode mode)
     : analyser(by),
-      similar(ExistingCatalogue(session), Host::NameOf(by), mode),
+      similar(session.ExistingCatalogue(), Host::NameOf(by), mode),
       verdicts(session.CatalogueFile(), mode) {}
 
 Host::SimilarUpdateResult UpdateGroups(SimilarStores& stores, int threads, Session& session) {

@@ -1,7 +1,6 @@
 #include <cli/commands/Commands.h>
 #include <cli/session/OpenJournal.h>
 #include <cli/session/Options.h>
-#include <cli/terminal/Failure.h>
 #include <cli/terminal/Words.h>
 #include <cli/views/TagText.h>
 #include <cli/views/TagView.h>
@@ -143,10 +142,7 @@ class TagRun {
     if (arguments_.Changes() && arguments_.files.empty()) {
       ThrowUsage("A file is missing");
     }
-    if (!view_.catalogue.exists()) {
-      throw Failure("no-catalogue",
-                    "There is no catalogue " + view_.catalogue.utf8string() + " yet. Run: lumidex scan DIR");
-    }
+    session_.ExistingCatalogue();
     if (arguments_.Changes()) {
       Change();
     } else {

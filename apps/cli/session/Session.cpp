@@ -2,6 +2,7 @@
 
 #include <LumidexUtil/UpdateStat.h>
 #include <cli/session/Session.h>
+#include <cli/terminal/Failure.h>
 #include <host/catalogue/Catalogue.h>
 
 #include <utility>
@@ -21,6 +22,15 @@ ioPath AbsolutePath(const std::string& argument) {
 
 ioPath Session::CatalogueFile() const {
   return globals.catalogue.empty() ? Host::Catalogue::DefaultFile() : AbsolutePath(globals.catalogue);
+}
+
+ioPath Session::ExistingCatalogue() const {
+  const ioPath file = CatalogueFile();
+  if (!file.exists()) {
+    throw Failure("no-catalogue",
+                  "There is no catalogue " + file.utf8string() + " yet. Run: lumidex scan DIR");
+  }
+  return file;
 }
 
 void Session::Count(ItemType type, std::size_t itemsIn, std::size_t itemsOut) {

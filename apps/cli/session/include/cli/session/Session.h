@@ -38,6 +38,8 @@ struct Session {
 
   /// The catalogue's file, absolute.
   ioPath CatalogueFile() const;
+  /// The same. Throws `Failure` when it does not exist yet.
+  ioPath ExistingCatalogue() const;
   /// Notes for the statistics what kind of items the run was about, how many went in and how many came out.
   void Count(ItemType type, std::size_t itemsIn, std::size_t itemsOut);
 };
